@@ -1,0 +1,23 @@
+# Flags that every target shares, for C++ and Objective-C++ alike.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_OBJCXX_STANDARD 17)
+set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
+set(CMAKE_OBJCXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+
+add_library(imageposition_options INTERFACE)
+target_include_directories(imageposition_options INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_options(imageposition_options INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor)
+if(IMAGEPOSITION_WARNINGS_AS_ERRORS)
+  target_compile_options(imageposition_options INTERFACE -Werror)
+endif()
+
+# Plain C++ targets find this folder before any platform header; it refuses the include.
+function(imageposition_forbid_foundation target)
+  target_include_directories(${target} BEFORE PRIVATE "${PROJECT_SOURCE_DIR}/cmake/no-foundation")
+endfunction()

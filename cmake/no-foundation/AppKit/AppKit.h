@@ -1,0 +1,1 @@
+#error "This target is plain C++: it must not include AppKit."

@@ -1,0 +1,111 @@
+/// The controller of the image-position panel.
+#ifndef IMAGEPOSITION_CONTROLLER_MORVAADPSETTINGSCOLLECTORRV2_H
+#define IMAGEPOSITION_CONTROLLER_MORVAADPSETTINGSCOLLECTORRV2_H
+
+#import "controller/MorvaADPPdeCallbackRV2.h"
+#import "settings/MorvaADPIntegerSettingRV2.h"
+#import "view/MorvaADPIntegerTextFieldItemRV2.h"
+#import "view/MorvaADPLabelItemRV2.h"
+#import "view/MorvaADPStepperItemRV2.h"
+
+/// Keys of an entry of the setting registry: the name of a setting, and the location of the field
+/// that receives the setting of that name.
+extern NSString *const CBSCKeyInstancePointer;
+extern NSString *const CBSCKeySettingName;
+
+/// One per panel and owned by it: builds the four settings from the bundle's definitions, loads and
+/// binds the view, moves values between print settings, settings and view, decides which controls
+/// are usable, answers the person's actions and makes the summary. Main thread only.
+///
+/// The fields from `FrontLRMText` to `BackTBMRangeLabel`, `ImagePositionPrintView`,
+/// `chkEnableImagePositionAdjust` and `btnRestore2Defalut` are outlets: null until `prepareView` has
+/// loaded the interface file, which connects them by these names (misspelt as they are).
+@interface MorvaADPSettingsCollectorRV2 : NSObject {
+  id<MorvaADPPdeCallbackRV2> PDECallback; ///< Retained.
+  MorvaADPIntegerTextFieldItemRV2 *FrontLRMText;
+  MorvaADPIntegerTextFieldItemRV2 *FrontTBMText;
+  MorvaADPIntegerTextFieldItemRV2 *BackLRMText;
+  MorvaADPIntegerTextFieldItemRV2 *BackTBMText;
+  MorvaADPStepperItemRV2 *FrontLRMStepper;
+  MorvaADPStepperItemRV2 *FrontTBMStepper;
+  MorvaADPStepperItemRV2 *BackLRMStepper;
+  MorvaADPStepperItemRV2 *BackTBMStepper;
+  MorvaADPLabelItemRV2 *FrontLRMLabel;
+  MorvaADPLabelItemRV2 *FrontLRMRangeLabel;
+  MorvaADPLabelItemRV2 *FrontTBMLabel;
+  MorvaADPLabelItemRV2 *FrontTBMRangeLabel;
+  MorvaADPLabelItemRV2 *BackLRMLabel;
+  MorvaADPLabelItemRV2 *BackLRMRangeLabel;
+  MorvaADPLabelItemRV2 *BackTBMLabel;
+  MorvaADPLabelItemRV2 *BackTBMRangeLabel;
+  MorvaADPIntegerSettingRV2 *FrontLRMSettings; ///< Owned, as the next three.
+  MorvaADPIntegerSettingRV2 *FrontTBMSettings;
+  MorvaADPIntegerSettingRV2 *BackLRMSettings;
+  MorvaADPIntegerSettingRV2 *BackTBMSettings;
+  NSView *ImagePositionPrintView;
+  NSButton *chkEnableImagePositionAdjust;
+  NSButton *btnRestore2Defalut;
+  NSArray *SettingsList; ///< The settings in the order of their fields, cut at the first missing one.
+  NSDictionary *ConstraintInfoDictionary; ///< Owned.
+  NSDictionary *SettingInfoDictionary;    ///< Owned.
+  NSBundle *Bundle;                       ///< Retained.
+  ppd_file_t *ppd; ///< Taken once, at construction; the host's.
+}
+
+/// Null without a callback or bundle, without one of the two definition files, or when a setting that
+/// they define cannot be built.
+- (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle;
+
+/// Action of every entry field and stepper; the sender may be null. Refreshes the whole panel.
+- (void)UIItemActionListener:(id)sender;
+
+/// The panel's view, loaded on the first call; null when the interface file gave none. It lives as
+/// long as the loaded interface file.
+- (NSView *)prepareView;
+
+/// Applies each setting's rules and reads its value, in the order of the definitions, then refreshes.
+- (void)prepareForShow;
+/// Lets the settings take what the view shows and write it, applies all rules, recomputes which
+/// controls are usable. Without print settings only titles and usability are refreshed.
+- (void)notifyUI;
+/// Brings the four values into their ranges.
+- (void)checkSettingsValue;
+
+/// Titles and values for the dialog's summary as the print settings hold them, their order under
+/// "Summary Display Order"; empty when the adjustment is not available.
+- (NSDictionary *)getSummaryInfo;
+/// Reads the enable flag into the checkbox; anything but "True" unchecks it.
+- (void)getEnableImgPstAdjTicket:(PMPrintSettings)printSettings;
+/// Reads the flag and the four values; false without print settings.
+- (BOOL)getTicket;
+/// Writes the checkbox's state as "True" or "False".
+- (void)setEnableImgPstAdjTicket:(PMPrintSettings)printSettings;
+/// Writes the four values and the flag; false without print settings, whatever single writes did.
+- (BOOL)saveTicket;
+
+/// Binds each setting to its four items and to all settings.
+- (void)CBSCInitializeView;
+
+/// Whether the printer's marked choices allow the adjustment: two-sided printing is not off, banner
+/// pages are not on. What the printer does not have forbids nothing.
+- (BOOL)checkImagePositionAdjustValid;
+/// Empty; part of the plug-in's interface.
+- (void)clickRestore2Default:(id)sender;
+/// Makes the controls usable or not, after the printer's choices and the checkbox.
+- (void)grayUI;
+/// Names the two front offsets as such, or plainly while the back side has none of its own.
+- (void)setFrontName;
+- (void)setFrontTBMState:(BOOL)usable;
+- (void)setFrontLRMState:(BOOL)usable;
+- (void)setBackLRMState:(BOOL)usable;
+- (void)setBackTBMState:(BOOL)usable;
+/// Action of the checkbox. The print settings learn of it at the next save.
+- (void)clickEnableImgPositionAdjust:(id)sender;
+/// Checkbox off and all offsets zero, whatever the definitions' defaults; print settings untouched.
+- (void)restoreDefaults;
+/// Action of the restore-defaults button.
+- (void)clickbtnReasto2Default:(id)sender;
+
+@end
+
+#endif
