@@ -25,8 +25,8 @@ target_include_directories(imageposition_platform SYSTEM INTERFACE "${GNUSTEP_IN
 target_compile_definitions(imageposition_platform INTERFACE
   GNUSTEP GNUSTEP_BASE_LIBRARY=1 GNU_GUI_LIBRARY=1 GNU_RUNTIME=1 _NATIVE_OBJC_EXCEPTIONS)
 target_compile_options(imageposition_platform INTERFACE
-  -fexceptions -fobjc-exceptions -fconstant-string-class=NSConstantString -fno-strict-aliasing
-  -Wno-import)
+  -fexceptions -fno-strict-aliasing
+  "$<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-exceptions;-fconstant-string-class=NSConstantString;-Wno-import>")
 target_link_libraries(imageposition_platform INTERFACE
   "${GNUSTEP_GUI_LIBRARY}" "${GNUSTEP_BASE_LIBRARY}" objc)
 target_link_libraries(imageposition_cups INTERFACE Cups::Cups)
