@@ -1,5 +1,5 @@
 # MorvaADPImagePosition.plugin, in the layout that the platform's bundle loader understands.
-set(IMAGEPOSITION_LANGUAGES en de fr es it ja zh_CN)
+set(IMAGEPOSITION_LANGUAGES en de fr es it ja zh-Hans)
 set(IMAGEPOSITION_BUNDLE "${PROJECT_BINARY_DIR}/MorvaADPImagePosition.plugin")
 
 add_library(MorvaADPImagePosition MODULE)
