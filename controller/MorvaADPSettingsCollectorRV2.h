@@ -18,8 +18,8 @@ extern NSString *const CBSCKeySettingName;
 /// are usable, answers the person's actions and makes the summary. Main thread only.
 ///
 /// The fields from `FrontLRMText` to `BackTBMRangeLabel`, `ImagePositionPrintView`,
-/// `chkEnableImagePositionAdjust` and `btnRestore2Defalut` are outlets: null until `prepareView` has
-/// loaded the interface file, which connects them by these names (misspelt as they are).
+/// `chkEnableImagePositionAdjust` and `btnRestore2Defalut` are outlets: null until `prepareView`
+/// has loaded the interface file, which connects them by these names (misspelt as they are).
 @interface MorvaADPSettingsCollectorRV2 : NSObject {
   id<MorvaADPPdeCallbackRV2> PDECallback; ///< Retained.
   MorvaADPIntegerTextFieldItemRV2 *FrontLRMText;
@@ -45,35 +45,37 @@ extern NSString *const CBSCKeySettingName;
   NSView *ImagePositionPrintView;
   NSButton *chkEnableImagePositionAdjust;
   NSButton *btnRestore2Defalut;
-  NSArray *SettingsList; ///< The settings in the order of their fields, cut at the first missing one.
+  NSArray
+      *SettingsList; ///< The settings in the order of their fields, cut at the first missing one.
   NSDictionary *ConstraintInfoDictionary; ///< Owned.
   NSDictionary *SettingInfoDictionary;    ///< Owned.
   NSBundle *Bundle;                       ///< Retained.
-  ppd_file_t *ppd; ///< Taken once, at construction; the host's.
+  ppd_file_t *ppd;                        ///< Taken once, at construction; the host's.
 }
 
-/// Null without a callback or bundle, without one of the two definition files, or when a setting that
-/// they define cannot be built.
+/// Null without a callback or bundle, without one of the two definition files, or when a setting
+/// that they define cannot be built.
 - (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle;
 
-/// Action of every entry field and stepper; the sender may be null. Refreshes the whole panel.
-- (void)UIItemActionListener:(id)sender;
-
-/// The panel's view, loaded on the first call; null when the interface file gave none. It lives as
-/// long as the loaded interface file.
+/// The panel's view, loaded on the first call; null when the interface file gave none.
 - (NSView *)prepareView;
 
-/// Applies each setting's rules and reads its value, in the order of the definitions, then refreshes.
+/// Binds each setting to its four items and to all settings.
+- (void)CBSCInitializeView;
+
+@end
+
+/// Between the job's print settings and the panel.
+@interface MorvaADPSettingsCollectorRV2 (PrintSettingsExchange)
+
+/// Applies each setting's rules and reads its value, in the order of the definitions, then
+/// refreshes.
 - (void)prepareForShow;
-/// Lets the settings take what the view shows and write it, applies all rules, recomputes which
-/// controls are usable. Without print settings only titles and usability are refreshed.
-- (void)notifyUI;
-/// Brings the four values into their ranges.
-- (void)checkSettingsValue;
 
 /// Titles and values for the dialog's summary as the print settings hold them, their order under
 /// "Summary Display Order"; empty when the adjustment is not available.
 - (NSDictionary *)getSummaryInfo;
+
 /// Reads the enable flag into the checkbox; anything but "True" unchecks it.
 - (void)getEnableImgPstAdjTicket:(PMPrintSettings)printSettings;
 /// Reads the flag and the four values; false without print settings.
@@ -83,8 +85,19 @@ extern NSString *const CBSCKeySettingName;
 /// Writes the four values and the flag; false without print settings, whatever single writes did.
 - (BOOL)saveTicket;
 
-/// Binds each setting to its four items and to all settings.
-- (void)CBSCInitializeView;
+@end
+
+/// Which controls are usable, the refresh of the whole panel, and what a person does with it.
+@interface MorvaADPSettingsCollectorRV2 (Availability)
+
+/// Action of every entry field and stepper; the sender may be null. Refreshes the whole panel.
+- (void)UIItemActionListener:(id)sender;
+
+/// Lets the settings take what the view shows and write it, applies all rules, recomputes which
+/// controls are usable. Without print settings only titles and usability are refreshed.
+- (void)notifyUI;
+/// Brings the four values into their ranges.
+- (void)checkSettingsValue;
 
 /// Whether the printer's marked choices allow the adjustment: two-sided printing is not off, banner
 /// pages are not on. What the printer does not have forbids nothing.

@@ -4,7 +4,8 @@
 
 #import <ApplicationServices/ApplicationServices.h>
 
-/// The PPD attribute that says whether a printer can shift the image, and the one value that says yes.
+/// The PPD attribute that says whether a printer can shift the image, and the one value that says
+/// yes.
 extern NSString *const IPA_PPD_AdjustDuplexPositionSupport;
 extern NSString *const IPAPPDAdjustDuplexPositionSupportTrue;
 

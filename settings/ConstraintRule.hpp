@@ -1,7 +1,8 @@
 /// One constraint rule in typed form.
 ///
-/// A rule table is a dictionary of dictionaries of texts; reading those on every keystroke would cost
-/// more than everything else that a refresh does, so that each rule is read once into this form.
+/// A rule table is a dictionary of dictionaries of texts; reading those on every keystroke would
+/// cost more than everything else that a refresh does, so that each rule is read once into this
+/// form.
 #ifndef IMAGEPOSITION_SETTINGS_CONSTRAINTRULE_HPP
 #define IMAGEPOSITION_SETTINGS_CONSTRAINTRULE_HPP
 
@@ -58,8 +59,8 @@ private:
   bool isSatisfiedBy(ConditionSource &source, std::size_t index) const;
 
   Kind kind_ = Kind::Never;
-  std::string subject_;  // the attribute's keyword, or the setting's name
-  std::string expected_; // the attribute's value, or the setting's text
+  std::string subject_;                        // the attribute's keyword, or the setting's name
+  std::string expected_;                       // the attribute's value, or the setting's text
   std::optional<std::int32_t> expectedNumber_; // of a text that "%d" could have made
   ValueRange interval_;
 };

@@ -11,9 +11,11 @@ namespace imageposition {
 /// Reads a decimal integer: leading white space (any of Unicode's) is skipped, then comes an
 /// optional sign and digits up to the first other character. Text without digits there reads 0; a
 /// number beyond 32 bits reads as the nearest limit. Platform readers differ in the last point
-/// (some wrap), which is why nothing else reads integers here. `text` is UTF-8; malformed bytes
-/// count as other characters.
-std::int32_t readInteger(std::string_view text) noexcept;
+/// (some wrap), which is why nothing else reads integers here. Any UTF-16 is accepted.
+std::int32_t readInteger(std::u16string_view text) noexcept;
+
+/// The same for UTF-8; malformed bytes count as other characters.
+std::int32_t readInteger(std::string_view text);
 
 /// Decimal text as "%d" makes it: a minus for negatives, no plus, no padding, no grouping.
 std::string writeInteger(std::int32_t value);

@@ -17,15 +17,15 @@
 
 /// As the base, and null without a record. "Range" is "minimum:maximum" (absent: 0 to 0),
 /// "RangeLabelWording" "minimum mark:maximum mark:template key", "DefaultValue" a text or a number
-/// (absent: 0) that is not clamped. A "Range" without ":" and a wording of fewer than three parts are
-/// logged, and the answer is null.
+/// (absent: 0) that is not clamped. A "Range" without ":" and a wording of fewer than three parts
+/// are logged, and the answer is null.
 - (id)initWithSettingInfo:(NSDictionary *)record
            ConstraintInfo:(NSDictionary *)rules
                BundleInfo:(NSBundle *)bundle
                       PPD:(ppd_file_t *)ppd;
 
-/// As the base, then tells the range to every item that wants it. That is the only time: a range that
-/// a rule changes later does not reach the entry field.
+/// As the base, then tells the range to every item that wants it. That is the only time: a range
+/// that a rule changes later does not reach the entry field.
 - (void)setRelatedSettings:(NSArray *)settings HandlingTarget:(NSArray *)items;
 
 /// The entry field's number, if it differs from the value, plus the stepper's steps (wrapping at 32
@@ -46,12 +46,19 @@
 - (void)setIntValue:(int32_t)value;
 /// Above `Max` the value becomes `Max`, otherwise below `Min` it becomes `Min`. Shows nothing.
 - (void)checkValue;
-/// Visits this setting's rules in the order of their indexes, each whether or not earlier ones held.
-- (void)applyUIConstraint:(PMPrintSettings)printSettings;
-- (BOOL)checkUIConstraintCondition:(NSDictionary *)rule;
 /// Changes the default only.
 - (void)setDefault:(int32_t)value;
 - (int32_t)getValue;
+
+@end
+
+@interface MorvaADPIntegerSettingRV2 (Constraint)
+
+/// Visits this setting's rules in the order of their indexes, each whether or not earlier ones
+/// held.
+- (void)applyUIConstraint:(PMPrintSettings)printSettings;
+/// The related settings are asked for their names and values; the printer for its attributes.
+- (BOOL)checkUIConstraintCondition:(NSDictionary *)rule;
 
 @end
 

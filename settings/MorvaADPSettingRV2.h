@@ -4,28 +4,28 @@
 
 #import <ApplicationServices/ApplicationServices.h>
 
-/// One value of the panel that a person sets: bound to one entry of the job's print settings, to the
-/// view items that show it, to the panel's other settings and to the constraint rules.
+/// One value of the panel that a person sets: bound to one entry of the job's print settings, to
+/// the view items that show it, to the panel's other settings and to the constraint rules.
 ///
 /// The base has no value. Its value and rule operations do nothing, so that every setting answers
 /// them. Main thread only.
 @interface MorvaADPSettingRV2 : NSObject {
   NSString *TicketKey; ///< Key of the value in the print settings; the definition record's.
-  NSDictionary *ConstraintInfo;    ///< The whole rule table; retained.
-  NSArray *RelatedSettings;        ///< All settings of the panel; the controller's.
-  NSMutableArray *HandlingTarget;  ///< The items that show the setting; owned, with its elements.
-  NSString *SettingName;           ///< The definition record's.
-  NSString *SummaryName;           ///< The definition record's.
+  NSDictionary *ConstraintInfo;   ///< The whole rule table; retained.
+  NSArray *RelatedSettings;       ///< All settings of the panel; the controller's.
+  NSMutableArray *HandlingTarget; ///< The items that show the setting; owned, with its elements.
+  NSString *SettingName;          ///< The definition record's.
+  NSString *SummaryName;          ///< The definition record's.
   NSString *ValueRangeLabelLocalizeKey; ///< Key of the range label's template.
-  NSString *MaxValueRangeLabelKey; ///< What stands for the maximum in that template.
-  NSString *MinValueRangeLabelKey; ///< What stands for the minimum in that template.
-  ppd_file_t *PPD;                 ///< The printer's description; the host's.
-  NSBundle *BundleInfo;            ///< The plug-in's bundle; retained.
+  NSString *MaxValueRangeLabelKey;      ///< What stands for the maximum in that template.
+  NSString *MinValueRangeLabelKey;      ///< What stands for the minimum in that template.
+  ppd_file_t *PPD;                      ///< The printer's description; the host's.
+  NSBundle *BundleInfo;                 ///< The plug-in's bundle; retained.
 }
 
-/// `record` is one entry of "SettingInfo", whose owner keeps it alive, or null for a setting that is
-/// named "UIItemCollector". Entries of it that are not texts count as absent. Answers null without a
-/// rule table, a bundle or a printer description.
+/// `record` is one entry of "SettingInfo", whose owner keeps it alive, or null for a setting that
+/// is named "UIItemCollector". Entries of it that are not texts count as absent. Answers null
+/// without a rule table, a bundle or a printer description.
 - (id)initWithSettingInfo:(NSDictionary *)record
            ConstraintInfo:(NSDictionary *)rules
                BundleInfo:(NSBundle *)bundle

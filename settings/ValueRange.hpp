@@ -23,7 +23,7 @@ struct ValueRange {
 
 /// Reads "lower:upper"; parts after the second are ignored, and a part without digits reads 0.
 /// None when there is no ":".
-std::optional<ValueRange> readInterval(std::string_view text) noexcept;
+std::optional<ValueRange> readInterval(std::string_view text);
 
 } // namespace imageposition
 

@@ -14,9 +14,9 @@ namespace imageposition {
 /// accepted, lone surrogates included.
 std::string keepDigitsAndMinus(std::u16string_view text);
 
-/// The text that the field shows after an edit. The kept characters are read as an integer: beyond a
-/// bound the bound is shown (the maximum is tested first), a lone "-" or "-0" stays as the beginning
-/// of a negative number, and anything else becomes the integer's plain form.
+/// The text that the field shows after an edit. The kept characters are read as an integer: beyond
+/// a bound the bound is shown (the maximum is tested first), a lone "-" or "-0" stays as the
+/// beginning of a negative number, and anything else becomes the integer's plain form.
 std::string filterEntry(std::u16string_view text, const ValueRange &range);
 
 /// Where the insertion point belongs in `shown`, the filtered form of `text`, when it stood before

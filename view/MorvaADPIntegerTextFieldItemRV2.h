@@ -17,7 +17,8 @@
 
 - (void)setRange:(int32_t)max Min:(int32_t)min;
 - (id)init;
-/// As a label's: the light gray of an unusable field stays when it is made usable again, on purpose.
+/// As a label's: the light gray of an unusable field stays when it is made usable again, on
+/// purpose.
 - (void)setViewAvailable:(BOOL)available;
 /// Empty.
 - (void)catchEventCall;

@@ -1,0 +1,157 @@
+#import "controller/MorvaADPSettingsCollectorRV2.h"
+
+#import "settings/Keys.h"
+#import "view/LocalizedText.h"
+
+#include <cstring>
+
+using imageposition::localizedText;
+
+namespace {
+
+// The keyword of the option's marked choice when it is `keyword`, otherwise null.
+const char *markedAs(ppd_file_t *ppd, const char *option, const char *keyword) {
+  const ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option);
+  return choice != nullptr && std::strcmp(choice->choice, keyword) == 0 ? choice->choice : nullptr;
+}
+
+// Not through the items' setViewAvailable:, so that their own record of availability stays what the
+// settings last told them. The entry field's text keeps its colour, on purpose.
+void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextField *nameLabel,
+               NSTextField *rangeLabel) {
+  [entryField setEnabled:usable];
+  [stepper setEnabled:usable];
+  [nameLabel setEnabled:usable];
+  [rangeLabel setEnabled:usable];
+  NSColor *colour = usable ? [NSColor blackColor] : [NSColor lightGrayColor];
+  [nameLabel setTextColor:colour];
+  [rangeLabel setTextColor:colour];
+}
+
+} // namespace
+
+@implementation MorvaADPSettingsCollectorRV2 (Availability)
+
+- (void)UIItemActionListener:(id)sender {
+  if ([sender conformsToProtocol:@protocol(ActionInterface)])
+    [sender catchEventCall];
+  [self notifyUI];
+  [self checkSettingsValue];
+}
+
+- (void)notifyUI {
+  PMPrintSettings printSettings = [PDECallback printSettings];
+  [chkEnableImagePositionAdjust setTitle:localizedText(Bundle, kTextEnable)];
+  [btnRestore2Defalut setTitle:localizedText(Bundle, kTextRestoreDefaults)];
+  if (printSettings != nullptr) {
+    [FrontLRMSettings checkUI:printSettings];
+    [FrontTBMSettings checkUI:printSettings];
+    [BackLRMSettings checkUI:printSettings];
+    [BackTBMSettings checkUI:printSettings];
+    [FrontLRMSettings applyUIConstraint:printSettings];
+    [FrontTBMSettings applyUIConstraint:printSettings];
+    [BackLRMSettings applyUIConstraint:printSettings];
+    [BackTBMSettings applyUIConstraint:printSettings];
+  }
+  // Last, because the settings' labels were just renamed and the front ones have names of two
+  // kinds.
+  [self grayUI];
+}
+
+- (void)checkSettingsValue {
+  [FrontLRMSettings checkValue];
+  [FrontTBMSettings checkValue];
+  [BackLRMSettings checkValue];
+  [BackTBMSettings checkValue];
+}
+
+- (BOOL)checkImagePositionAdjustValid {
+  BOOL valid = YES;
+  if (const char *duplex = markedAs(ppd, "Duplex", "None")) {
+    NSLog(@"@@@Get duplex setting Duplex = %s !", duplex);
+    valid = NO;
+  }
+  if (const char *banner = markedAs(ppd, "MVBannerPagePrint", "True")) {
+    NSLog(@"@@@Get MVBannerPagePrint setting  True= %s !", banner);
+    valid = NO;
+  }
+  NSLog(@"@@@Check on checkbox Enable Image Position Adjust!");
+  return valid;
+}
+
+- (void)clickRestore2Default:(id)sender {
+  (void)sender;
+}
+
+- (void)grayUI {
+  if ([self checkImagePositionAdjustValid]) {
+    [chkEnableImagePositionAdjust setEnabled:YES];
+    [btnRestore2Defalut setEnabled:YES];
+    [self setFrontName];
+    const BOOL ownBack = [chkEnableImagePositionAdjust state] != 0;
+    [self setFrontLRMState:YES];
+    [self setFrontTBMState:YES];
+    [self setBackLRMState:ownBack];
+    [self setBackTBMState:ownBack];
+  } else {
+    [chkEnableImagePositionAdjust setEnabled:NO];
+    [self setFrontLRMState:NO];
+    [self setFrontTBMState:NO];
+    [self setBackLRMState:NO];
+    [self setBackTBMState:NO];
+    [self setFrontName];
+    [btnRestore2Defalut setEnabled:NO];
+  }
+}
+
+- (void)setFrontName {
+  const bool ownBack = [chkEnableImagePositionAdjust state] != 0;
+  [FrontLRMLabel setStringValue:localizedText(Bundle, ownBack ? kSettingFrontLRM : kTextLRM)];
+  [FrontTBMLabel setStringValue:localizedText(Bundle, ownBack ? kSettingFrontTBM : kTextTBM)];
+}
+
+- (void)setFrontTBMState:(BOOL)usable {
+  setUsable(usable, FrontTBMText, FrontTBMStepper, FrontTBMLabel, FrontTBMRangeLabel);
+}
+
+- (void)setFrontLRMState:(BOOL)usable {
+  setUsable(usable, FrontLRMText, FrontLRMStepper, FrontLRMLabel, FrontLRMRangeLabel);
+}
+
+- (void)setBackLRMState:(BOOL)usable {
+  setUsable(usable, BackLRMText, BackLRMStepper, BackLRMLabel, BackLRMRangeLabel);
+}
+
+- (void)setBackTBMState:(BOOL)usable {
+  setUsable(usable, BackTBMText, BackTBMStepper, BackTBMLabel, BackTBMRangeLabel);
+}
+
+- (void)clickEnableImgPositionAdjust:(id)sender {
+  (void)sender;
+  [self grayUI];
+}
+
+- (void)restoreDefaults {
+  [chkEnableImagePositionAdjust setState:0];
+  [FrontLRMText setStringValue:@"0"];
+  [FrontTBMText setStringValue:@"0"];
+  [BackLRMText setStringValue:@"0"];
+  [BackTBMText setStringValue:@"0"];
+  [FrontLRMSettings setIntValue:0];
+  [FrontTBMSettings setIntValue:0];
+  [BackLRMSettings setIntValue:0];
+  [BackTBMSettings setIntValue:0];
+  // A second time through the text, on purpose: no text reads 0 as well.
+  [FrontLRMSettings setStringValue:nil];
+  [FrontTBMSettings setStringValue:nil];
+  [BackLRMSettings setStringValue:nil];
+  [BackTBMSettings setStringValue:nil];
+  [self grayUI];
+}
+
+- (void)clickbtnReasto2Default:(id)sender {
+  (void)sender;
+  [self restoreDefaults];
+}
+
+@end

@@ -1,0 +1,138 @@
+#import "controller/MorvaADPSettingsCollectorRV2.h"
+
+#import "platform/Guarded.h"
+#import "settings/ConstraintDictionary.h"
+#import "settings/Keys.h"
+#import "settings/PropertyValues.h"
+
+using imageposition::integerString;
+using imageposition::textEntry;
+
+NSString *const CBSCKeyInstancePointer = @"InstancePointer";
+NSString *const CBSCKeySettingName = @"SettingName";
+
+namespace {
+
+// Null when the bundle lacks the file, or when it is not a dictionary.
+NSDictionary *definitions(NSBundle *bundle, NSString *name) {
+  return imageposition::dictionaryAtPath([bundle pathForResource:name ofType:@"plist"]);
+}
+
+NSDictionary *registryEntry(NSString *name, MorvaADPIntegerSettingRV2 **field) {
+  return [NSDictionary dictionaryWithObjectsAndKeys:name, CBSCKeySettingName,
+                                                    [NSValue valueWithPointer:field],
+                                                    CBSCKeyInstancePointer, nil];
+}
+
+// The field of the controller that takes the setting of that name; null for an unknown name.
+MorvaADPIntegerSettingRV2 **fieldForName(NSArray *registry, NSString *name) {
+  NSEnumerator *entries = [registry objectEnumerator];
+  for (NSDictionary *entry = [entries nextObject]; entry != nil; entry = [entries nextObject]) {
+    if ([[entry objectForKey:CBSCKeySettingName] isEqualToString:name])
+      return static_cast<MorvaADPIntegerSettingRV2 **>(
+          [[entry objectForKey:CBSCKeyInstancePointer] pointerValue]);
+  }
+  return nullptr;
+}
+
+// An item that an incomplete interface file does not connect is left out.
+NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) {
+  NSMutableArray *items = [NSMutableArray arrayWithCapacity:4];
+  for (id item : {entryField, stepper, nameLabel, rangeLabel}) {
+    if (item != nil)
+      [items addObject:item];
+  }
+  return items;
+}
+
+} // namespace
+
+@implementation MorvaADPSettingsCollectorRV2
+
+- (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle {
+  self = [super init];
+  if (self == nil)
+    return nil;
+  if (callback == nil || bundle == nil) {
+    [self release];
+    return nil;
+  }
+  PDECallback = [callback retain];
+  Bundle = [bundle retain];
+  ConstraintInfoDictionary = [[MorvaADPConstraintTable
+      tableWithDictionary:definitions(bundle, kResourceConstraintInfo)] retain];
+  SettingInfoDictionary = [definitions(bundle, kResourceSettingInfo) retain];
+  ppd = [PDECallback ppdFile];
+
+  NSArray *registry =
+      [NSArray arrayWithObjects:registryEntry(kSettingFrontLRM, &FrontLRMSettings),
+                                registryEntry(kSettingFrontTBM, &FrontTBMSettings),
+                                registryEntry(kSettingBackLRM, &BackLRMSettings),
+                                registryEntry(kSettingBackTBM, &BackTBMSettings), nil];
+  for (NSUInteger index = 0; index < [SettingInfoDictionary count]; ++index) {
+    NSDictionary *record =
+        [SettingInfoDictionary objectForKey:integerString(static_cast<int32_t>(index))];
+    MorvaADPIntegerSettingRV2 **field =
+        fieldForName(registry, textEntry(record, kRecordSettingName));
+    if (field == nullptr)
+      continue;
+    // A second definition of the same name replaces the setting; the earlier one is not released,
+    // on purpose.
+    *field = [[MorvaADPIntegerSettingRV2 alloc] initWithSettingInfo:record
+                                                     ConstraintInfo:ConstraintInfoDictionary
+                                                         BundleInfo:Bundle
+                                                                PPD:ppd];
+    if (*field == nil) {
+      [self release];
+      return nil;
+    }
+  }
+
+  // The first missing setting ends the list, on purpose.
+  SettingsList = [[NSArray alloc]
+      initWithObjects:FrontLRMSettings, FrontTBMSettings, BackLRMSettings, BackTBMSettings, nil];
+  if (ConstraintInfoDictionary == nil || SettingInfoDictionary == nil || SettingsList == nil) {
+    [self release];
+    return nil;
+  }
+  [self grayUI];
+  return self;
+}
+
+- (void)dealloc {
+  [FrontLRMSettings release];
+  [FrontTBMSettings release];
+  [BackLRMSettings release];
+  [BackTBMSettings release];
+  [SettingInfoDictionary release];
+  [ConstraintInfoDictionary release];
+  [SettingsList release];
+  [PDECallback release];
+  [Bundle release];
+  [super dealloc];
+}
+
+- (NSView *)prepareView {
+  if (ImagePositionPrintView != nil)
+    return ImagePositionPrintView;
+  imageposition::loadInterfaceFile(kResourceInterfaceFile, self);
+  [self CBSCInitializeView];
+  return ImagePositionPrintView;
+}
+
+- (void)CBSCInitializeView {
+  [FrontLRMSettings setRelatedSettings:SettingsList
+                        HandlingTarget:connectedItems(FrontLRMText, FrontLRMStepper, FrontLRMLabel,
+                                                      FrontLRMRangeLabel)];
+  [FrontTBMSettings setRelatedSettings:SettingsList
+                        HandlingTarget:connectedItems(FrontTBMText, FrontTBMStepper, FrontTBMLabel,
+                                                      FrontTBMRangeLabel)];
+  [BackLRMSettings setRelatedSettings:SettingsList
+                       HandlingTarget:connectedItems(BackLRMText, BackLRMStepper, BackLRMLabel,
+                                                     BackLRMRangeLabel)];
+  [BackTBMSettings setRelatedSettings:SettingsList
+                       HandlingTarget:connectedItems(BackTBMText, BackTBMStepper, BackTBMLabel,
+                                                     BackTBMRangeLabel)];
+}
+
+@end

@@ -1,0 +1,125 @@
+#import "controller/MorvaADPSettingsCollectorRV2.h"
+
+#import "settings/Keys.h"
+#import "settings/PropertyValues.h"
+#import "view/LocalizedText.h"
+
+using imageposition::integerString;
+using imageposition::localizedText;
+using imageposition::textEntry;
+
+namespace {
+
+// A missing setting has neither title nor value, and no entry.
+void addEntry(NSMutableDictionary *summary, NSMutableArray *order, NSString *title,
+              NSString *value) {
+  if (title == nil || value == nil)
+    return;
+  [summary setObject:value forKey:title];
+  [order addObject:title];
+}
+
+// Some platforms give an unchecked button no text at all, and a button that is not there has none.
+NSString *stateText(NSButton *checkbox) {
+  NSString *text = [checkbox stringValue];
+  return [text length] > 0 ? text : @"0";
+}
+
+} // namespace
+
+@implementation MorvaADPSettingsCollectorRV2 (PrintSettingsExchange)
+
+- (void)prepareForShow {
+  PMPrintSettings printSettings = [PDECallback printSettings];
+  for (NSUInteger index = 0; index < [SettingInfoDictionary count]; ++index) {
+    NSString *name =
+        textEntry([SettingInfoDictionary objectForKey:integerString(static_cast<int32_t>(index))],
+                  kRecordSettingName);
+    MorvaADPIntegerSettingRV2 *setting = nil;
+    if ([name isEqualToString:kSettingFrontLRM])
+      setting = FrontLRMSettings;
+    else if ([name isEqualToString:kSettingFrontTBM])
+      setting = FrontTBMSettings;
+    else if ([name isEqualToString:kSettingBackLRM])
+      setting = BackLRMSettings;
+    else if ([name isEqualToString:kSettingBackTBM])
+      setting = BackTBMSettings;
+    [setting applyUIConstraint:printSettings];
+    [setting getTicket:printSettings];
+  }
+  [self notifyUI];
+}
+
+- (NSDictionary *)getSummaryInfo {
+  [self getTicket];
+  NSMutableDictionary *summary = [NSMutableDictionary dictionary];
+  if (![self checkImagePositionAdjustValid])
+    return summary;
+  NSString *enabled = stateText(chkEnableImagePositionAdjust);
+  NSString *frontLRM = [FrontLRMSettings getValueString];
+  NSString *frontTBM = [FrontTBMSettings getValueString];
+  NSString *backLRM = [BackLRMSettings getValueString];
+  NSString *backTBM = [BackTBMSettings getValueString];
+  // With one pair of offsets for both sides the front titles are plain; the back ones stay, on
+  // purpose.
+  const bool ownBack = [chkEnableImagePositionAdjust state] != 0;
+  NSString *frontLRMKey = ownBack ? [FrontLRMSettings getSummaryInfoName] : kTextLRM;
+  NSString *frontTBMKey = ownBack ? [FrontTBMSettings getSummaryInfoName] : kTextTBM;
+
+  NSMutableArray *order = [NSMutableArray arrayWithCapacity:5];
+  addEntry(summary, order, localizedText(Bundle, kTextEnable), enabled);
+  addEntry(summary, order, localizedText(Bundle, frontLRMKey), frontLRM);
+  addEntry(summary, order, localizedText(Bundle, frontTBMKey), frontTBM);
+  addEntry(summary, order, localizedText(Bundle, [BackLRMSettings getSummaryInfoName]), backLRM);
+  addEntry(summary, order, localizedText(Bundle, [BackTBMSettings getSummaryInfoName]), backTBM);
+  [summary setObject:order forKey:kSummaryDisplayOrder];
+  return summary;
+}
+
+- (void)getEnableImgPstAdjTicket:(PMPrintSettings)printSettings {
+  CFTypeRef stored = nullptr;
+  const OSStatus status =
+      PMPrintSettingsGetValue(printSettings, reinterpret_cast<CFStringRef>(kTicketEnable), &stored);
+  if (status != 0) {
+    [chkEnableImagePositionAdjust setState:0];
+    return;
+  }
+  id value = static_cast<id>(const_cast<void *>(stored));
+  [chkEnableImagePositionAdjust setState:[value isEqual:kTicketTrue] ? 1 : 0];
+  NSLog(@"Get Enable Image Position Adjust PrintTicket success.");
+}
+
+- (BOOL)getTicket {
+  PMPrintSettings printSettings = [PDECallback printSettings];
+  if (printSettings != nullptr) {
+    [self getEnableImgPstAdjTicket:printSettings];
+    [FrontLRMSettings getTicket:printSettings];
+    [FrontTBMSettings getTicket:printSettings];
+    [BackLRMSettings getTicket:printSettings];
+    [BackTBMSettings getTicket:printSettings];
+  }
+  [self grayUI];
+  return printSettings != nullptr;
+}
+
+- (void)setEnableImgPstAdjTicket:(PMPrintSettings)printSettings {
+  NSString *flag = [chkEnableImagePositionAdjust state] != 0 ? kTicketTrue : kTicketFalse;
+  const OSStatus status = PMPrintSettingsSetValue(
+      printSettings, reinterpret_cast<CFStringRef>(kTicketEnable), flag, false);
+  if (status != 0)
+    NSLog(@"Set Enable Image Position Adjust PrintTicket fail.");
+}
+
+- (BOOL)saveTicket {
+  PMPrintSettings printSettings = [PDECallback printSettings];
+  if (printSettings == nullptr)
+    return NO;
+  [FrontLRMSettings setTicket:printSettings];
+  [FrontTBMSettings setTicket:printSettings];
+  [BackLRMSettings setTicket:printSettings];
+  [BackTBMSettings setTicket:printSettings];
+  [self setEnableImgPstAdjTicket:printSettings];
+  return YES;
+}
+
+@end

@@ -1,0 +1,32 @@
+#import "platform/TextBridge.h"
+
+#include "platform/Utf.hpp"
+
+namespace imageposition {
+
+static_assert(sizeof(unichar) == sizeof(char16_t), "a unichar is a UTF-16 unit");
+
+// UTF8String is no way out: it fails on a lone surrogate.
+std::u16string toUtf16(NSString *string) {
+  std::u16string units([string length], u'\0');
+  if (!units.empty())
+    [string getCharacters:reinterpret_cast<unichar *>(&units[0])
+                    range:NSMakeRange(0, units.size())];
+  return units;
+}
+
+std::string toText(NSString *string) { return utf8FromUtf16(toUtf16(string)); }
+
+std::optional<std::string> toOptionalText(id object) {
+  if (![object isKindOfClass:[NSString class]])
+    return std::nullopt;
+  return toText(object);
+}
+
+NSString *toString(std::string_view utf8) {
+  const std::u16string units = utf16FromUtf8(utf8);
+  return [NSString stringWithCharacters:reinterpret_cast<const unichar *>(units.data())
+                                 length:units.size()];
+}
+
+} // namespace imageposition

@@ -1,0 +1,115 @@
+#import "plugin/MorvaADPPdePanelRV2.h"
+
+#import "plugin/MissingInterfaceView.h"
+#import "settings/Keys.h"
+
+@implementation MorvaADPPdePanelRV2
+
+- (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle {
+  self = [super init];
+  if (self == nil)
+    return nil;
+  if (callback == nil || bundle == nil) {
+    [self release];
+    return nil;
+  }
+  PDEName = nil;
+  ppd = nullptr;
+  PanelShown = NO;
+  PDEPluginCallbackObject = [callback retain];
+  PDEBundle = [bundle retain];
+  SettingItems = [[MorvaADPSettingsCollectorRV2 alloc] initWithCallback:PDEPluginCallbackObject
+                                                                 Bundle:PDEBundle];
+  if (SettingItems == nil) {
+    [self release];
+    return nil;
+  }
+  return self;
+}
+
+- (void)dealloc {
+  [SettingItems release];
+  [supportedOptions release];
+  [PDEBundle release];
+  [PDEPluginCallbackObject release];
+  [super dealloc];
+}
+
+- (NSView *)panelView {
+  NSView *view = [SettingItems prepareView];
+  return view != nil ? view : imageposition::missingInterfaceView(PDEBundle);
+}
+
+- (NSString *)panelName {
+  // Not retained: the bundle keeps its localized strings.
+  if (PDEName == nil)
+    PDEName = [PDEBundle localizedStringForKey:kTextPluginName value:nil table:nil];
+  return PDEName;
+}
+
+- (NSString *)panelKind {
+  return @"com.morva.print.pde.ImagePositionRV1";
+}
+
+- (NSArray *)supportedPPDOptionKeys {
+  if (supportedOptions == nil) {
+    supportedOptions = [[NSMutableArray alloc] initWithCapacity:5];
+    [supportedOptions addObject:@"LeftRightMargin"];
+    [supportedOptions addObject:@"TopBottomMargin"];
+    [supportedOptions addObject:@"BackLeftRightMargin"];
+    [supportedOptions addObject:@"BackTopBottomMargin"];
+    [supportedOptions addObject:@"MVAdjustDuplexPosition"];
+  }
+  NSLog(@"supportedPPDOptionKeys:=NSArray(%@)", supportedOptions);
+  return supportedOptions;
+}
+
+- (BOOL)shouldShowHelp {
+  return YES;
+}
+
+- (BOOL)shouldHide {
+  return YES;
+}
+
+- (BOOL)shouldPrint {
+  if (!PanelShown)
+    [SettingItems getTicket];
+  [SettingItems notifyUI];
+  [SettingItems saveTicket];
+  return YES;
+}
+
+- (void)willShow {
+  PanelShown = YES;
+  ppd = [PDEPluginCallbackObject ppdFile];
+  [SettingItems prepareForShow];
+  [SettingItems getTicket];
+  [SettingItems saveTicket];
+}
+
+- (BOOL)restoreValuesAndReturnError:(NSError **)error {
+  (void)error;
+  if (PanelShown) {
+    [SettingItems getTicket];
+    [SettingItems saveTicket];
+    [SettingItems getTicket];
+  }
+  return YES;
+}
+
+- (BOOL)saveValuesAndReturnError:(NSError **)error {
+  (void)error;
+  if (PanelShown) {
+    [SettingItems notifyUI];
+    [SettingItems saveTicket];
+    [SettingItems getTicket];
+  }
+  return YES;
+}
+
+- (NSDictionary *)summaryInfo {
+  return [SettingItems getSummaryInfo];
+}
+
+@end

@@ -1,0 +1,51 @@
+/// The keys and names that the bundle's definitions, the print settings and the code share.
+#ifndef IMAGEPOSITION_SETTINGS_KEYS_H
+#define IMAGEPOSITION_SETTINGS_KEYS_H
+
+#import <Foundation/Foundation.h>
+
+// The four settings; each name is also the localization key of the setting's name label.
+static NSString *const kSettingFrontLRM = @"FrontLRM";
+static NSString *const kSettingFrontTBM = @"FrontTBM";
+static NSString *const kSettingBackLRM = @"BackLRM";
+static NSString *const kSettingBackTBM = @"BackTBM";
+
+// A definition record of "SettingInfo".
+static NSString *const kRecordTicketKey = @"TicketKey";
+static NSString *const kRecordSettingName = @"SettingName";
+static NSString *const kRecordSummaryInfoName = @"SummaryInfoName";
+static NSString *const kRecordRange = @"Range";
+static NSString *const kRecordRangeLabelWording = @"RangeLabelWording";
+static NSString *const kRecordDefaultValue = @"DefaultValue";
+
+// A rule of "ConstraintInfo".
+static NSString *const kRuleConditionObj = @"ConditionObj";
+static NSString *const kRuleConditionType = @"ConditionType";
+static NSString *const kRuleConditionPattern = @"ConditionPattern";
+static NSString *const kRuleConditionValue = @"ConditionValue";
+static NSString *const kRuleActionObj = @"ActionObj";
+static NSString *const kRuleActionPattern = @"ActionPattern";
+static NSString *const kRuleActionValue = @"ActionValue";
+
+// Resources of the bundle.
+static NSString *const kResourceSettingInfo = @"SettingInfo";
+static NSString *const kResourceConstraintInfo = @"ConstraintInfo";
+static NSString *const kResourceInterfaceFile = @"ImagePositionAdjustPrint";
+
+// Localization keys beside the settings' names.
+static NSString *const kTextPluginName = @"PluginName";
+static NSString *const kTextEnable = @"EnableImgPstAdj";
+static NSString *const kTextRestoreDefaults = @"RestoreDefaults";
+static NSString *const kTextLRM = @"LRM";
+static NSString *const kTextTBM = @"TBM";
+static NSString *const kTextInterfaceFileMissing = @"InterfaceFileMissing";
+
+// The enable flag in the print settings.
+static NSString *const kTicketEnable = @"com.morva.printsettings.19AImagePositionEnable";
+static NSString *const kTicketTrue = @"True";
+static NSString *const kTicketFalse = @"False";
+
+/// The print dialog's key for the order of the other entries of a summary.
+static NSString *const kSummaryDisplayOrder = @"Summary Display Order";
+
+#endif

@@ -1,0 +1,35 @@
+#import "settings/PropertyValues.h"
+
+#import "platform/TextBridge.h"
+#include "settings/IntegerText.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace imageposition {
+
+NSString *textEntry(id dictionary, NSString *key) {
+  if (![dictionary isKindOfClass:[NSDictionary class]])
+    return nil;
+  id value = [static_cast<NSDictionary *>(dictionary) objectForKey:key];
+  return [value isKindOfClass:[NSString class]] ? value : nil;
+}
+
+int32_t integerOf(id value) {
+  if ([value isKindOfClass:[NSString class]])
+    return readInteger(toUtf16(value));
+  if (![value isKindOfClass:[NSNumber class]])
+    return 0;
+  // A double holds every 32-bit integer; the number's own conversion to int would wrap.
+  const double number = [static_cast<NSNumber *>(value) doubleValue];
+  using Limits = std::numeric_limits<int32_t>;
+  if (std::isnan(number))
+    return 0;
+  return static_cast<int32_t>(
+      std::min<double>(std::max<double>(number, Limits::min()), Limits::max()));
+}
+
+NSString *integerString(int32_t value) { return toString(writeInteger(value)); }
+
+} // namespace imageposition

@@ -1,0 +1,11 @@
+#import "view/MorvaADPButtonRV2.h"
+
+#import <AppKit/AppKit.h>
+
+@implementation MorvaADPButtonRV2
+
+- (void)changeState:(id)state {
+  [(id)self setEnabled:[state boolValue]];
+}
+
+@end

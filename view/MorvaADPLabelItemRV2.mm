@@ -1,0 +1,22 @@
+#import "view/MorvaADPLabelItemRV2.h"
+
+#import "view/LocalizedText.h"
+
+@implementation MorvaADPLabelItemRV2
+
+- (void)setViewAvailable:(BOOL)available {
+  [self setEnabled:available];
+  if (!available)
+    [self setTextColor:[NSColor lightGrayColor]];
+  ViewState = available;
+}
+
+- (void)applyLocalizableStrings:(NSString *)key BundleInfo:(NSBundle *)bundle {
+  [self setStringValue:imageposition::localizedText(bundle, key)];
+}
+
+- (void)setRangeStrings:(NSString *)text {
+  [self setStringValue:text];
+}
+
+@end
