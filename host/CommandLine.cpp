@@ -1,0 +1,114 @@
+#include "host/CommandLine.hpp"
+
+#include "host/ExitCode.hpp"
+#include "host/Messages.hpp"
+
+#include <CLI/CLI.hpp>
+
+namespace imageposition {
+
+namespace {
+
+struct RawArguments {
+  Arguments arguments;
+  std::vector<std::string> entries;
+  std::string back;
+};
+
+void addOptions(CLI::App &app, RawArguments &raw) {
+  Arguments &arguments = raw.arguments;
+  CLI::Option *const ppd = app.add_option("--ppd", arguments.ppd, messages::kHelpPpd);
+  ppd->type_name("FILE");
+  app.add_option("-d,--queue", arguments.queue, messages::kHelpQueue)
+      ->type_name("QUEUE")
+      ->excludes(ppd);
+  app.add_option("-o,--option", arguments.options, messages::kHelpOption)
+      ->type_name("NAME=VALUE")
+      ->expected(1)
+      ->take_all();
+  app.add_option("--plugin", arguments.plugins, messages::kHelpPlugin)
+      ->type_name("BUNDLE")
+      ->expected(1)
+      ->take_all();
+  app.add_option("--ticket", arguments.ticket, messages::kHelpTicket)->type_name("FILE");
+  app.add_option("DOCUMENT", arguments.document, messages::kHelpDocument)->type_name("");
+  app.add_flag("--batch", arguments.isBatch, messages::kHelpBatch);
+  app.add_option("--set", raw.entries, messages::kHelpSet)
+      ->type_name("NAME=TEXT")
+      ->expected(1)
+      ->take_all();
+  app.add_option("--back", raw.back, messages::kHelpBack)->type_name("on|off");
+  app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
+}
+
+[[noreturn]] void refuse(const std::string &message) {
+  throw Failure(ExitCode::Usage, messages::usage(message));
+}
+
+bool endsWith(const std::string &text, const std::string &end) {
+  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+void fillBatchRequest(RawArguments &raw) {
+  BatchRequest &batch = raw.arguments.batch;
+  for (const std::string &word : raw.entries) {
+    const auto entry = readEntry(word);
+    if (!entry)
+      refuse(messages::badEntry(word));
+    batch.entries.push_back(*entry);
+  }
+  if (!raw.back.empty()) {
+    batch.back = readSwitch(raw.back);
+    if (!batch.back)
+      refuse(messages::badSwitch(raw.back));
+  }
+  const bool asksForMore = !batch.entries.empty() || batch.back || batch.summary;
+  if (asksForMore && !raw.arguments.isBatch)
+    refuse(messages::kOnlyInBatch);
+}
+
+void checkCombination(const Arguments &arguments) {
+  if (arguments.ppd.empty() && arguments.queue.empty())
+    refuse(messages::kNoPrinterNamed);
+  if (endsWith(arguments.ticket, ".options"))
+    refuse(messages::ticketNamesOptions(arguments.ticket));
+}
+
+} // namespace
+
+std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) {
+  CLI::App app(messages::kHelpIntroduction, "print-dialog");
+  app.set_version_flag("--version", messages::kVersion, messages::kHelpVersion);
+  app.set_help_flag("--help", messages::kHelpHelp);
+  app.footer(messages::kHelpFooter);
+  app.get_formatter()->column_width(26);
+  RawArguments raw;
+  addOptions(app, raw);
+  try {
+    std::reverse(words.begin(), words.end()); // CLI11 takes them from the back
+    app.parse(words);
+  } catch (const CLI::CallForHelp &) {
+    return Answer{app.help()};
+  } catch (const CLI::CallForVersion &) {
+    return Answer{std::string(messages::kVersion) + "\n"};
+  } catch (const CLI::ParseError &error) {
+    refuse(error.what());
+  }
+  fillBatchRequest(raw);
+  checkCombination(raw.arguments);
+  return raw.arguments;
+}
+
+std::vector<std::string> withoutPlatformDefaults(const std::vector<std::string> &words) {
+  std::vector<std::string> rest;
+  for (std::size_t i = 0; i < words.size(); i++) {
+    const std::string start = words[i].substr(0, 3);
+    if (start == "-NS" || start == "-GS")
+      i++; // and its value
+    else
+      rest.push_back(words[i]);
+  }
+  return rest;
+}
+
+} // namespace imageposition

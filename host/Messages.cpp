@@ -1,0 +1,242 @@
+#include "host/Messages.hpp"
+
+namespace imageposition::messages {
+
+namespace {
+
+std::string join(const std::vector<std::string> &words) {
+  std::string text;
+  for (const std::string &word : words)
+    text += (text.empty() ? "" : ", ") + word;
+  return text;
+}
+
+} // namespace
+
+const char *const kVersion = "print-dialog " IMAGEPOSITION_VERSION;
+const char *const kHelpIntroduction =
+    "Sets up a print job with the panels of printer plug-ins.\n"
+    "Opens a window; with --batch, sets and prints the same without one.";
+const char *const kHelpPpd = "The printer, by its description: a PPD file, also compressed";
+const char *const kHelpQueue = "The printer, by its CUPS queue: a name, or name/instance";
+const char *const kHelpOption =
+    "A setting of the job, as lp takes it: NAME=VALUE, NAME or noNAME; may be repeated";
+const char *const kHelpPlugin =
+    "Use this plug-in alone; may be repeated. Otherwise those that the printer's description names "
+    "(APDialogExtension), or else those in " IMAGEPOSITION_PLUGIN_FOLDER " or beside this program";
+const char *const kHelpTicket =
+    "The job's settings, in JSON: read when FILE exists, written by Print. The same settings as "
+    "NAME=VALUE lines go beside it (job.options for job.json)";
+const char *const kHelpDocument = "The document to print; the ticket names it";
+const char *const kHelpBatch =
+    "Show no window: fill in the panel, print the job's settings (without --ticket) and the "
+    "summary "
+    "(with --summary). Without a display, a private Xvfb is started for the panel's view";
+const char *const kHelpSet = "Batch: type TEXT into the panel's entry field of that name (or whose "
+                             "name begins so) and press "
+                             "Return; may be repeated";
+const char *const kHelpBack =
+    "Batch: switch the panel's checkbox, offsets of its own for the back side, before anything is "
+    "typed";
+const char *const kHelpSummary = "Batch: print the summary that the panels give";
+const char *const kHelpVersion = "Print the version";
+const char *const kHelpHelp = "Print this text";
+const char *const kHelpFooter =
+    "Examples:\n"
+    "  print-dialog --ppd samples/duplex-shift.ppd --ticket job.json\n"
+    "      Opens the window; Print writes job.json and job.options.\n"
+    "  print-dialog -d office -o Duplex=DuplexNoTumble --ticket job.json report.pdf\n"
+    "      The same for a CUPS queue, with two-sided printing chosen.\n"
+    "  print-dialog --batch --ppd samples/duplex-shift.ppd --set FrontLRM=-3 --back on --summary\n"
+    "      No window: sets the panel, prints the job's settings and the summary.\n"
+    "  lp -d office -o \"$(cat job.options)\" report.pdf\n"
+    "      Prints with the settings.\n"
+    "\n"
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  cancelled, or a panel refused the job\n"
+    "  2  the command line cannot be understood\n"
+    "  3  no usable printer description\n"
+    "  4  a plug-in or its panel cannot be used\n"
+    "  5  batch: no plug-in has a panel for this printer\n"
+    "  6  the ticket cannot be read or written\n"
+    "  7  no display, and none could be started\n"
+    "  8  batch: a value cannot be set on the panel\n"
+    "In batch, nothing is written unless the status is 0.";
+
+const char *const kWindowTitle = "Print";
+const char *const kPrinterLabel = "Printer:";
+const char *const kDocumentLabel = "Document:";
+const char *const kPaneLabel = "Settings:";
+const char *const kSummaryPane = "Summary";
+const char *const kPrintButton = "Print";
+const char *const kCancelButton = "Cancel";
+const char *const kNothingToSummarize = "Not available with the present settings.";
+const char *const kNoPanelHere = "No plug-in has a panel for this printer.";
+
+std::string usage(const std::string &mistake) {
+  return mistake + (mistake.empty() || mistake.back() == '.' ? "" : ".") +
+         " See print-dialog --help.";
+}
+const char *const kNoPrinterNamed =
+    "No printer is named. Name its description with --ppd FILE or its queue with -d QUEUE.";
+const char *const kOnlyInBatch = "--set, --back and --summary need --batch.";
+std::string badEntry(const std::string &argument) {
+  return "--set takes NAME=TEXT, for example --set FrontLRM=-3, and not \"" + argument + "\".";
+}
+std::string badSwitch(const std::string &argument) {
+  return "--back takes \"on\" or \"off\", and not \"" + argument + "\".";
+}
+std::string badOption(const std::string &argument) {
+  return "\"" + argument + "\" is no job option; write it as NAME=VALUE.";
+}
+std::string optionLocked(const std::string &name) {
+  return "The ticket locks \"" + name + "\". Leave out -o " + name + ", or use another ticket.";
+}
+std::string ticketNamesOptions(const std::string &path) {
+  return "--ticket takes the JSON file; \"" + path +
+         "\" is named like the file that is written beside it. Give it the ending .json.";
+}
+std::string documentUnreadable(const std::string &path, const std::string &reason) {
+  return "The document \"" + path + "\" cannot be read: " + reason +
+         ". Check the name and its rights.";
+}
+
+std::string ppdUnreadable(const std::string &path, const std::string &reason) {
+  return "The printer description \"" + path + "\" cannot be read: " + reason +
+         ". Check the name and its rights.";
+}
+std::string ppdMalformed(const std::string &path, int line, const std::string &reason) {
+  return "\"" + path + "\" is not a usable printer description: line " + std::to_string(line) +
+         ": " + reason + ". Name a PPD file; cupstestppd tells more about one.";
+}
+std::string ppdOfQueue(const std::string &queue) { return "PPD of queue " + queue; }
+std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
+  return "CUPS has no printer description for the queue \"" + queue + "\": " + reason +
+         ". lpstat -e lists the queues; --ppd names a description file instead.";
+}
+
+std::string ticketUnreadable(const std::string &path, const std::string &reason) {
+  return "The ticket \"" + path + "\" cannot be read: " + reason +
+         ". Check the name and its rights.";
+}
+std::string ticketMalformed(const std::string &source, const std::string &reason) {
+  return "\"" + source + "\" is not a usable ticket: " + reason +
+         ". Correct it, or remove it to start from the printer's defaults.";
+}
+std::string ticketNotJson(const std::string &reason) { return "it is not JSON (" + reason + ")"; }
+std::string ticketMemberNotText(const std::string &name) {
+  return "\"" + name + "\" is not a text";
+}
+std::string ticketValueNotText(const std::string &name) {
+  return "the setting \"" + name + "\" is neither a text nor a whole number";
+}
+std::string ticketEntryUnusable(const std::string &name) {
+  return "the setting \"" + name + "\" has a name or value that no print job can carry";
+}
+const char *const kTicketLockedNotList = "\"locked\" is not a list of names";
+const char *const kTicketWithoutSettings = "it has no object \"settings\"";
+std::string notAnOrdinaryFile(const std::string &path) {
+  return "\"" + path +
+         "\" is not an ordinary file, so that no ticket is written there. Choose another "
+         "name.";
+}
+std::string fileUnwritable(const std::string &path, const std::string &reason) {
+  return "\"" + path + "\" cannot be written: " + reason + ". Choose another place.";
+}
+
+const char *const kNoDisplay = "There is no display, and no Xvfb could be started for the panel's "
+                               "view. Set DISPLAY, or install "
+                               "Xvfb (Debian: xvfb).";
+std::string displayUnreachable(const std::string &name) {
+  return name.empty()
+             ? "There is no display to show the window on. Set DISPLAY, or use --batch."
+             : "The display \"" + name +
+                   "\" cannot be reached. Set DISPLAY to one that can, or use --batch with "
+                   "DISPLAY unset.";
+}
+
+std::string pluginMissing(const std::string &path) {
+  return "The plug-in \"" + path + "\" does not exist. Check the path.";
+}
+std::string pluginNotBundle(const std::string &path) {
+  return "\"" + path + "\" is not a plug-in: it is no bundle with code in it. Install it again.";
+}
+std::string pluginNotLoadable(const std::string &path) {
+  return "The code of the plug-in \"" + path +
+         "\" could not be loaded; it may be damaged or made for another system. Install it again.";
+}
+std::string pluginWithoutClass(const std::string &path, const std::string &className) {
+  return "The plug-in \"" + path + "\" lacks its principal class" +
+         (className.empty() ? std::string() : " \"" + className + "\"") + ". Install it again.";
+}
+std::string pluginClassTaken(const std::string &path, const std::string &className) {
+  return "The plug-in \"" + path + "\" was not loaded: its class \"" + className +
+         "\" is in use already, perhaps by another copy. Remove one of them.";
+}
+std::string pluginWithoutOperation(const std::string &path, const std::string &operation) {
+  return "The plug-in \"" + path + "\" is no print-dialog extension: its principal class lacks \"" +
+         operation + "\". Ask its maker for another version.";
+}
+std::string pluginRefused(const std::string &path) {
+  return "The plug-in \"" + path +
+         "\" could not be loaded: it reports that it cannot start. Install "
+         "it again.";
+}
+std::string pluginRaised(const std::string &path, const std::string &operation,
+                         const std::string &what) {
+  return "The plug-in \"" + path + "\" failed in \"" + operation + "\" (" + what +
+         ") and is left out. Ask its maker for another version.";
+}
+std::string panelNotBuilt(const std::string &path) {
+  return "The panel of the plug-in \"" + path +
+         "\" could not be loaded; a file of it is missing or damaged. Install it again.";
+}
+std::string panelWithoutOperation(const std::string &path, const std::string &operation) {
+  return "A panel of the plug-in \"" + path + "\" cannot be used: it lacks \"" + operation +
+         "\". Ask its maker for another version.";
+}
+std::string panelWithoutView(const std::string &path) {
+  return "A panel of the plug-in \"" + path + "\" has no view. Install it again.";
+}
+std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins) {
+  if (plugins.empty())
+    return "No plug-in was found for \"" + printer + "\". Name one with --plugin BUNDLE.";
+  return "No plug-in has a panel for \"" + printer + "\" (asked: " + join(plugins) +
+         "). Choose a printer that supports one, or name another plug-in with --plugin BUNDLE.";
+}
+std::string panelRefusedJob(const std::string &panel) {
+  return "\"" + panel + "\" does not allow the job to be printed. Look at its settings.";
+}
+
+std::string noSuchField(const std::string &name, const std::vector<std::string> &known) {
+  return "No panel has an entry field \"" + name + "\"" +
+         (known.empty() ? std::string(".") : "; there are: " + join(known) + ".");
+}
+std::string ambiguousField(const std::string &name, const std::vector<std::string> &matches) {
+  return "\"" + name + "\" may mean several entry fields: " + join(matches) +
+         ". Write more of the name.";
+}
+std::string fieldUnavailable(const std::string &name) {
+  return "\"" + name +
+         "\" cannot be changed with the present settings of the job: the panel has switched it "
+         "off. "
+         "Two-sided printing may be off (-o Duplex=...), or the back side has no offsets of its "
+         "own "
+         "(--back on).";
+}
+const char *const kNoSwitch = "No panel has exactly one checkbox for --back.";
+const char *const kSwitchUnavailable = "The checkbox cannot be changed with the present settings "
+                                       "of the job: the panel has switched it "
+                                       "off. Two-sided printing may be off (-o Duplex=...).";
+std::string valueAdjusted(const std::string &name, const std::string &typed,
+                          const std::string &shown) {
+  return "The panel made \"" + shown + "\" of \"" + typed + "\" for " + name + ".";
+}
+
+std::string ticketWritten(const std::string &path, const std::string &optionPath) {
+  return "The job's settings are in " + path + " and " + optionPath + ".";
+}
+const char *const kCancelled = "Cancelled; nothing was written.";
+
+} // namespace imageposition::messages

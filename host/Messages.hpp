@@ -1,0 +1,105 @@
+/// Every text of print-dialog that a person sees.
+///
+/// One place, so that the texts can be translated, and read as one voice: what happened, then what
+/// to do about it.
+#ifndef IMAGEPOSITION_HOST_MESSAGES_HPP
+#define IMAGEPOSITION_HOST_MESSAGES_HPP
+
+#include <string>
+#include <vector>
+
+namespace imageposition::messages {
+
+// The command line's help.
+extern const char *const kVersion;
+extern const char *const kHelpIntroduction;
+extern const char *const kHelpPpd;
+extern const char *const kHelpQueue;
+extern const char *const kHelpOption;
+extern const char *const kHelpPlugin;
+extern const char *const kHelpTicket;
+extern const char *const kHelpDocument;
+extern const char *const kHelpBatch;
+extern const char *const kHelpSet;
+extern const char *const kHelpBack;
+extern const char *const kHelpSummary;
+extern const char *const kHelpVersion;
+extern const char *const kHelpHelp;
+extern const char *const kHelpFooter;
+
+// The window.
+extern const char *const kWindowTitle;
+extern const char *const kPrinterLabel;
+extern const char *const kDocumentLabel;
+extern const char *const kPaneLabel;
+extern const char *const kSummaryPane;
+extern const char *const kPrintButton;
+extern const char *const kCancelButton;
+extern const char *const kNothingToSummarize;
+extern const char *const kNoPanelHere;
+
+// Mistakes on the command line.
+std::string usage(const std::string &mistake);
+extern const char *const kNoPrinterNamed;
+extern const char *const kOnlyInBatch;
+std::string badEntry(const std::string &argument);
+std::string badSwitch(const std::string &argument);
+std::string badOption(const std::string &argument);
+std::string optionLocked(const std::string &name);
+std::string ticketNamesOptions(const std::string &path);
+std::string documentUnreadable(const std::string &path, const std::string &reason);
+
+// Printers.
+std::string ppdUnreadable(const std::string &path, const std::string &reason);
+std::string ppdMalformed(const std::string &path, int line, const std::string &reason);
+std::string ppdOfQueue(const std::string &queue);
+std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
+
+// Tickets.
+std::string ticketUnreadable(const std::string &path, const std::string &reason);
+std::string ticketMalformed(const std::string &source, const std::string &reason);
+std::string ticketNotJson(const std::string &reason);
+std::string ticketMemberNotText(const std::string &name);
+std::string ticketValueNotText(const std::string &name);
+std::string ticketEntryUnusable(const std::string &name);
+extern const char *const kTicketLockedNotList;
+extern const char *const kTicketWithoutSettings;
+std::string notAnOrdinaryFile(const std::string &path);
+std::string fileUnwritable(const std::string &path, const std::string &reason);
+
+// The display.
+extern const char *const kNoDisplay;
+std::string displayUnreachable(const std::string &name);
+
+// Plug-ins.
+std::string pluginMissing(const std::string &path);
+std::string pluginNotBundle(const std::string &path);
+std::string pluginNotLoadable(const std::string &path);
+std::string pluginWithoutClass(const std::string &path, const std::string &className);
+std::string pluginClassTaken(const std::string &path, const std::string &className);
+std::string pluginWithoutOperation(const std::string &path, const std::string &operation);
+std::string pluginRefused(const std::string &path);
+std::string pluginRaised(const std::string &path, const std::string &operation,
+                         const std::string &what);
+std::string panelNotBuilt(const std::string &path);
+std::string panelWithoutOperation(const std::string &path, const std::string &operation);
+std::string panelWithoutView(const std::string &path);
+std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins);
+std::string panelRefusedJob(const std::string &panel);
+
+// Values.
+std::string noSuchField(const std::string &name, const std::vector<std::string> &known);
+std::string ambiguousField(const std::string &name, const std::vector<std::string> &matches);
+std::string fieldUnavailable(const std::string &name);
+extern const char *const kNoSwitch;
+extern const char *const kSwitchUnavailable;
+std::string valueAdjusted(const std::string &name, const std::string &typed,
+                          const std::string &shown);
+
+// What came out.
+std::string ticketWritten(const std::string &path, const std::string &optionPath);
+extern const char *const kCancelled;
+
+} // namespace imageposition::messages
+
+#endif

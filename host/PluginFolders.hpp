@@ -1,0 +1,32 @@
+/// Where plug-ins are.
+#ifndef IMAGEPOSITION_HOST_PLUGINFOLDERS_HPP
+#define IMAGEPOSITION_HOST_PLUGINFOLDERS_HPP
+
+#include <string>
+#include <vector>
+
+namespace imageposition {
+
+/// What names plug-ins, the strongest first.
+struct PluginNames {
+  std::vector<std::string> fromPerson;  ///< Bundles of --plugin.
+  std::vector<std::string> fromPrinter; ///< Paths of the PPD's `APDialogExtension` attributes.
+};
+
+/// The bundles to load, each once, in the order in which they were named.
+///
+/// What the person names is used alone, whether or not it exists, so that a mistake is reported.
+/// Else the printer's paths are used where they exist; one that does not exist, because the maker
+/// wrote it for another system, stands for the bundle of the same file name in the first folder
+/// that has one. Where nothing was named or found, all bundles of the first folder that has any are
+/// used.
+std::vector<std::string> findPlugins(const PluginNames &names,
+                                     const std::vector<std::string> &folders);
+
+/// The folders in which plug-ins are looked for: where the system installs them, then beside the
+/// running program.
+std::vector<std::string> pluginFolders();
+
+} // namespace imageposition
+
+#endif

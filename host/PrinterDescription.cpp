@@ -1,0 +1,130 @@
+#include "host/PrinterDescription.hpp"
+
+#include "host/ExitCode.hpp"
+#include "host/Messages.hpp"
+
+#include <cerrno>
+#include <cstring>
+#include <ctime>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+/// A file of CUPS's making that goes when it has been read.
+class TemporaryFile {
+public:
+  explicit TemporaryFile(std::string path) : path_(std::move(path)) {}
+  ~TemporaryFile() { unlink(path_.c_str()); }
+  TemporaryFile(const TemporaryFile &) = delete;
+  TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+private:
+  std::string path_;
+};
+
+bool isFolder(const std::string &path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
+  for (const char *name : {ppd.nickname, ppd.modelname})
+    if (name != nullptr && *name != '\0')
+      return name;
+  return otherwise;
+}
+
+struct QueueName {
+  std::string printer;
+  std::string instance; // may be empty
+};
+
+QueueName splitQueueName(const std::string &queue) {
+  const std::size_t slash = queue.find('/');
+  if (slash == std::string::npos)
+    return {queue, {}};
+  return {queue.substr(0, slash), queue.substr(slash + 1)};
+}
+
+/// What users chose with lpoptions, or an administrator for everybody. The list also has the
+/// queue's state and location; no PPD has options of those names, so that marking passes over them.
+PrintSettingsStore defaultsOf(const QueueName &queue) {
+  PrintSettingsStore defaults;
+  cups_dest_t *const destination =
+      cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.printer.c_str(),
+                       queue.instance.empty() ? nullptr : queue.instance.c_str());
+  if (destination == nullptr)
+    return defaults;
+  for (int i = 0; i < destination->num_options; i++)
+    defaults.set(destination->options[i].name, destination->options[i].value);
+  cupsFreeDests(1, destination);
+  return defaults;
+}
+
+} // namespace
+
+PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name)
+    : ppd_(std::move(ppd)), name_(std::move(name)) {
+  ppdMarkDefaults(ppd_.get());
+}
+
+std::unique_ptr<ppd_file_t, PrinterDescription::Close>
+PrinterDescription::open(const std::string &path, const std::string &shownPath) {
+  if (isFolder(path))
+    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, std::strerror(EISDIR)));
+  errno = 0;
+  std::unique_ptr<ppd_file_t, Close> ppd(ppdOpenFile(path.c_str()));
+  if (ppd)
+    return ppd;
+  const int reason = errno;
+  int line = 0;
+  const ppd_status_t status = ppdLastError(&line);
+  if (status == PPD_FILE_OPEN_ERROR)
+    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, std::strerror(reason)));
+  throw Failure(ExitCode::Printer, messages::ppdMalformed(shownPath, line, ppdErrorString(status)));
+}
+
+PrinterDescription PrinterDescription::fromFile(const std::string &path) {
+  auto ppd = open(path, path);
+  const std::string name = nameFromPpd(*ppd, path);
+  return PrinterDescription(std::move(ppd), name);
+}
+
+PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
+  const QueueName name = splitQueueName(queue);
+  char file[1024] = "";
+  time_t changed = 0;
+  const http_status_t status =
+      cupsGetPPD3(CUPS_HTTP_DEFAULT, name.printer.c_str(), &changed, file, sizeof file);
+  if (status != HTTP_STATUS_OK) {
+    if (*file != '\0')
+      unlink(file);
+    throw Failure(ExitCode::Printer, messages::queueWithoutPpd(queue, cupsLastErrorString()));
+  }
+  const TemporaryFile owner(file);
+  PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);
+  printer.queueDefaults_ = defaultsOf(name);
+  return printer;
+}
+
+void PrinterDescription::mark(const PrintSettingsStore &job) {
+  ppdMarkDefaults(ppd());
+  for (const PrintSettingsStore *settings : {&std::as_const(queueDefaults_), &job})
+    cupsMarkOptions(ppd(), settings->optionCount(),
+                    const_cast<cups_option_t *>(settings->options())); // only read
+}
+
+std::vector<std::string> PrinterDescription::attributeValues(const std::string &keyword) const {
+  std::vector<std::string> values;
+  for (ppd_attr_t *attribute = ppdFindAttr(ppd(), keyword.c_str(), nullptr); attribute != nullptr;
+       attribute = ppdFindNextAttr(ppd(), keyword.c_str(), nullptr))
+    if (attribute->value != nullptr && *attribute->value != '\0')
+      values.emplace_back(attribute->value);
+  return values;
+}
+
+} // namespace imageposition

@@ -1,0 +1,54 @@
+/// What a printer can do, from its PPD.
+#ifndef IMAGEPOSITION_HOST_PRINTERDESCRIPTION_HPP
+#define IMAGEPOSITION_HOST_PRINTERDESCRIPTION_HPP
+
+#include "platform/PrintSettingsStore.hpp"
+
+#include <cups/ppd.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace imageposition {
+
+class PrinterDescription {
+public:
+  /// Reads a PPD file, compressed or not. Throws a `Failure` that names file, line and reason.
+  static PrinterDescription fromFile(const std::string &path);
+
+  /// Asks CUPS for the PPD of a queue, or of "queue/instance", and for the options that the queue's
+  /// users have made its defaults. Throws a `Failure`.
+  static PrinterDescription ofQueue(const std::string &queue);
+
+  /// Never null; this object's.
+  ppd_file_t *ppd() const noexcept { return ppd_.get(); }
+
+  /// The queue's name, or the name that the PPD gives the printer.
+  const std::string &name() const noexcept { return name_; }
+
+  /// Marks the choices that hold for a job: the printer's defaults, the queue's, then the job's.
+  void mark(const PrintSettingsStore &job);
+
+  /// The values of all attributes with that keyword, in the file's order; those without a value are
+  /// left out.
+  std::vector<std::string> attributeValues(const std::string &keyword) const;
+
+private:
+  struct Close {
+    void operator()(ppd_file_t *ppd) const noexcept { ppdClose(ppd); }
+  };
+
+  PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name);
+
+  static std::unique_ptr<ppd_file_t, Close> open(const std::string &path,
+                                                 const std::string &shownPath);
+
+  std::unique_ptr<ppd_file_t, Close> ppd_;
+  std::string name_;
+  PrintSettingsStore queueDefaults_;
+};
+
+} // namespace imageposition
+
+#endif

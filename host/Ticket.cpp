@@ -1,0 +1,141 @@
+#include "host/Ticket.hpp"
+
+#include "host/ExitCode.hpp"
+#include "host/FileReplacement.hpp"
+#include "host/Messages.hpp"
+#include "host/OptionText.hpp"
+
+#include <nlohmann/json.hpp>
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+namespace imageposition {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+[[noreturn]] void refuse(const std::string &source, const std::string &reason) {
+  throw Failure(ExitCode::Ticket, messages::ticketMalformed(source, reason));
+}
+
+std::string textMember(const Json &object, const char *name, const std::string &source) {
+  const auto member = object.find(name);
+  if (member == object.end())
+    return {};
+  if (!member->is_string())
+    refuse(source, messages::ticketMemberNotText(name));
+  return member->get<std::string>();
+}
+
+std::set<std::string> lockedNames(const Json &object, const std::string &source) {
+  std::set<std::string> names;
+  const auto member = object.find("locked");
+  if (member == object.end())
+    return names;
+  if (!member->is_array())
+    refuse(source, messages::kTicketLockedNotList);
+  for (const Json &name : *member) {
+    if (!name.is_string())
+      refuse(source, messages::kTicketLockedNotList);
+    names.insert(name.get<std::string>());
+  }
+  return names;
+}
+
+std::string valueText(const std::string &name, const Json &value, const std::string &source) {
+  if (value.is_string())
+    return value.get<std::string>();
+  if (value.is_number_integer())
+    return value.dump();
+  refuse(source, messages::ticketValueNotText(name));
+}
+
+void readSettings(const Json &object, const std::string &source, PrintSettingsStore &settings) {
+  const auto member = object.find("settings");
+  if (member == object.end() || !member->is_object())
+    refuse(source, messages::kTicketWithoutSettings);
+  const std::set<std::string> locked = lockedNames(object, source);
+  for (const auto &[name, value] : member->items()) {
+    const auto outcome =
+        settings.set(name, valueText(name, value, source), locked.count(name) != 0);
+    if (outcome != PrintSettingsStore::Outcome::Stored)
+      refuse(source, messages::ticketEntryUnusable(name));
+  }
+}
+
+} // namespace
+
+Ticket readTicketText(const std::string &json, const std::string &source) {
+  Json object;
+  try {
+    object = Json::parse(json);
+  } catch (const Json::exception &error) {
+    refuse(source, messages::ticketNotJson(error.what()));
+  }
+  if (!object.is_object())
+    refuse(source, messages::kTicketWithoutSettings);
+  Ticket ticket;
+  ticket.printer = textMember(object, "printer", source);
+  ticket.document = textMember(object, "document", source);
+  readSettings(object, source, ticket.settings);
+  return ticket;
+}
+
+std::string writeTicketText(const Ticket &ticket) {
+  Json object = Json::object();
+  object["printer"] = ticket.printer;
+  if (!ticket.document.empty())
+    object["document"] = ticket.document;
+  Json settings = Json::object();
+  Json locked = Json::array();
+  for (int i = 0; i < ticket.settings.optionCount(); i++) {
+    const cups_option_t &option = ticket.settings.options()[i];
+    settings[option.name] = option.value;
+    if (ticket.settings.isLocked(option.name))
+      locked.push_back(option.name);
+  }
+  if (!locked.empty())
+    object["locked"] = locked;
+  object["settings"] = settings;
+  // A printer's or file's name may be in any encoding; the settings are always UTF-8.
+  return object.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+std::optional<Ticket> readTicket(const std::string &path) {
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    if (errno == ENOENT)
+      return std::nullopt;
+    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, std::strerror(errno)));
+  }
+  std::ostringstream content;
+  errno = 0;
+  content << file.rdbuf();
+  if (file.bad() || errno == EISDIR)
+    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, std::strerror(errno)));
+  return readTicketText(content.str(), path);
+}
+
+void writeTicket(const Ticket &ticket, const std::string &path) {
+  FileReplacement json(path, writeTicketText(ticket));
+  FileReplacement options(optionTextPath(path), writeOptionText(ticket.settings));
+  options.commit();
+  json.commit(); // last: it is what is read again
+}
+
+std::string optionTextPath(const std::string &ticketPath) {
+  constexpr std::string_view kExtension = ".json";
+  std::string stem = ticketPath;
+  if (stem.size() > kExtension.size() &&
+      stem.compare(stem.size() - kExtension.size(), kExtension.size(), kExtension) == 0)
+    stem.resize(stem.size() - kExtension.size());
+  return stem + ".options";
+}
+
+} // namespace imageposition

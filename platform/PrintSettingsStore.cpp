@@ -1,0 +1,132 @@
+#include "platform/PrintSettingsStore.hpp"
+
+#include <algorithm>
+#include <cstdint>
+#include <strings.h>
+
+namespace imageposition {
+
+namespace {
+
+/// CUPS drops the one of these two when the other is added.
+constexpr std::string_view kQualityNames[] = {"cupsPrintQuality", "print-quality"};
+
+bool isSameName(std::string_view left, std::string_view right) noexcept {
+  return left.size() == right.size() && strncasecmp(left.data(), right.data(), left.size()) == 0;
+}
+
+/// The name whose entry CUPS removes when `name` is added; empty for most.
+std::string_view displacedName(std::string_view name) noexcept {
+  if (isSameName(name, kQualityNames[0]))
+    return kQualityNames[1];
+  if (isSameName(name, kQualityNames[1]))
+    return kQualityNames[0];
+  return {};
+}
+
+std::size_t sequenceLength(unsigned char lead) noexcept {
+  if (lead < 0x80)
+    return 1;
+  if (lead >= 0xC2 && lead <= 0xDF)
+    return 2;
+  if (lead >= 0xE0 && lead <= 0xEF)
+    return 3;
+  return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
+}
+
+/// The second byte's bounds exclude overlong forms, surrogates and what lies beyond U+10FFFF.
+bool isSecondByteOf(unsigned char lead, unsigned char second) noexcept {
+  const unsigned char lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+  const unsigned char highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+  return second >= lowest && second <= highest;
+}
+
+bool isWellFormedUtf8(std::string_view text) noexcept {
+  for (std::size_t at = 0; at < text.size();) {
+    const auto lead = static_cast<unsigned char>(text[at]);
+    const std::size_t length = sequenceLength(lead);
+    if (length == 0 || text.size() - at < length)
+      return false;
+    if (length > 1 && !isSecondByteOf(lead, static_cast<unsigned char>(text[at + 1])))
+      return false;
+    for (std::size_t i = 2; i < length; i++)
+      if ((static_cast<unsigned char>(text[at + i]) & 0xC0) != 0x80)
+        return false;
+    at += length;
+  }
+  return true;
+}
+
+} // namespace
+
+bool PrintSettingsStore::IgnoringCase::operator()(const std::string &left,
+                                                  const std::string &right) const noexcept {
+  return strcasecmp(left.c_str(), right.c_str()) < 0;
+}
+
+PrintSettingsStore::PrintSettingsStore(const PrintSettingsStore &other) { copyFrom(other); }
+
+PrintSettingsStore &PrintSettingsStore::operator=(const PrintSettingsStore &other) {
+  if (this != &other) {
+    cupsFreeOptions(count_, options_);
+    options_ = nullptr;
+    count_ = 0;
+    copyFrom(other);
+  }
+  return *this;
+}
+
+PrintSettingsStore::~PrintSettingsStore() { cupsFreeOptions(count_, options_); }
+
+void PrintSettingsStore::copyFrom(const PrintSettingsStore &other) {
+  for (int i = 0; i < other.count_; i++)
+    count_ = cupsAddOption(other.options_[i].name, other.options_[i].value, count_, &options_);
+  locked_ = other.locked_;
+}
+
+PrintSettingsStore::Outcome PrintSettingsStore::set(std::string_view name, std::string_view value,
+                                                    bool locked) {
+  if (!isUsableName(name))
+    return Outcome::BadName;
+  if (!isUsableValue(value))
+    return Outcome::BadValue;
+  if (isLocked(name) || isLocked(displacedName(name)))
+    return Outcome::Locked;
+  const std::string nameText(name);
+  count_ = cupsAddOption(nameText.c_str(), std::string(value).c_str(), count_, &options_);
+  if (locked)
+    locked_.insert(nameText);
+  return Outcome::Stored;
+}
+
+const char *PrintSettingsStore::get(std::string_view name) const {
+  if (!isUsableName(name))
+    return nullptr;
+  return cupsGetOption(std::string(name).c_str(), count_, options_);
+}
+
+bool PrintSettingsStore::remove(std::string_view name) {
+  if (isLocked(name) || get(name) == nullptr)
+    return false;
+  count_ = cupsRemoveOption(std::string(name).c_str(), count_, &options_);
+  return true;
+}
+
+bool PrintSettingsStore::isLocked(std::string_view name) const {
+  return locked_.count(std::string(name)) != 0;
+}
+
+bool PrintSettingsStore::isUsableName(std::string_view name) noexcept {
+  constexpr std::string_view kMeaningful = "=\"'{}\\,";
+  return !name.empty() && name.size() <= kLongestName &&
+         std::all_of(name.begin(), name.end(), [=](char c) {
+           return c > ' ' && c < '\x7F' && kMeaningful.find(c) == std::string_view::npos;
+         });
+}
+
+bool PrintSettingsStore::isUsableValue(std::string_view value) noexcept {
+  return value.size() <= kLongestValue && value.find('\0') == std::string_view::npos &&
+         isWellFormedUtf8(value);
+}
+
+} // namespace imageposition
