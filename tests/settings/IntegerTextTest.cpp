@@ -1,0 +1,148 @@
+#include "settings/IntegerText.hpp"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+namespace imageposition {
+namespace {
+
+constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
+
+struct Row {
+  const char *text;
+  std::int32_t number;
+};
+
+void expectRows(std::initializer_list<Row> rows) {
+  for (const Row &row : rows)
+    EXPECT_EQ(readInteger(std::string_view(row.text)), row.number) << '"' << row.text << '"';
+}
+
+TEST(IntegerText, ReadsAnOptionalSignAndTheDigitsAfterIt) {
+  expectRows({{"0", 0},
+              {"5", 5},
+              {"-3", -3},
+              {"+7", 7},
+              {"007", 7},
+              {"-010", -10},
+              {"-0", 0},
+              {"0000000000000000000012", 12}});
+}
+
+TEST(IntegerText, StopsAtTheFirstOtherCharacter) {
+  expectRows({{"12abc", 12},
+              {"12-3", 12},
+              {"7 8", 7},
+              {"1.9", 1},
+              {"1,000", 1},
+              {"-4-", -4},
+              {"5\n6", 5},
+              {"0x10", 0},
+              {"1e3", 1}});
+}
+
+TEST(IntegerText, TextWithoutLeadingDigitsReadsAsZero) {
+  expectRows({{"", 0},
+              {"abc", 0},
+              {"-", 0},
+              {"+", 0},
+              {"--5", 0},
+              {"+-5", 0},
+              {"-+5", 0},
+              {"- 5", 0},
+              {".5", 0},
+              {"a5", 0},
+              {"\x80", 0}});
+}
+
+TEST(IntegerText, SkipsLeadingWhiteSpaceOnly) {
+  expectRows({{"  8", 8},
+              {"\t\n\r\v\f -9", -9},
+              {"\xC2\xA0"
+               "5", // no-break space
+               5},
+              {"\xE3\x80\x80"
+               "6", // ideographic space
+               6},
+              {"\xE2\x80\xA8"
+               "7", // line separator
+               7},
+              {"   ", 0},
+              {" x5", 0},
+              {"_5", 0}});
+}
+
+TEST(IntegerText, DigitsOfOtherScriptsAreNoDigits) {
+  expectRows({{"\xEF\xBC\x95", 0},       // fullwidth five
+              {"1\xD9\xA2", 1},          // one, Arabic-Indic two
+              {"\xE2\x88\x92\x35", 0}}); // mathematical minus, five
+}
+
+TEST(IntegerText, NumberBeyond32BitsReadsAsTheNearestLimit) {
+  expectRows({{"2147483647", kLargest},
+              {"2147483648", kLargest},
+              {"3000000000", kLargest},
+              {"4294967296", kLargest},
+              {"4294967301", kLargest},
+              {"99999999999", kLargest},
+              {"9223372036854775808", kLargest},
+              {"18446744073709551621", kLargest},
+              {"99999999999999999999", kLargest},
+              {"-2147483648", kSmallest},
+              {"-2147483649", kSmallest},
+              {"-3000000000", kSmallest},
+              {"-99999999999999999999999999999999999999", kSmallest},
+              {"00000000002147483647", kLargest},
+              {"2147483646", kLargest - 1},
+              {"-2147483647", kSmallest + 1}});
+}
+
+TEST(IntegerText, EndsWithTheTextEvenWhenDigitsFollowInMemory) {
+  EXPECT_EQ(readInteger(std::string_view("12345").substr(0, 2)), 12);
+}
+
+TEST(IntegerText, ZeroByteIsAnotherCharacter) {
+  EXPECT_EQ(readInteger(std::string_view("1\0002", 3)), 1);
+  EXPECT_EQ(readInteger(std::string_view("\0002", 2)), 0);
+}
+
+TEST(IntegerText, ReadsUtf16AsItReadsUtf8) {
+  EXPECT_EQ(readInteger(std::u16string_view(u" -42x")), -42);
+  EXPECT_EQ(readInteger(std::u16string_view(u"\u3000+6")), 6);
+  EXPECT_EQ(readInteger(std::u16string_view(u"-3000000000")), kSmallest);
+  EXPECT_EQ(readInteger(std::u16string_view(u"")), 0);
+}
+
+TEST(IntegerText, Utf16UnitWhoseLowByteIsADigitIsNone) {
+  EXPECT_EQ(readInteger(std::u16string_view(u"1\u0135")), 1);
+  EXPECT_EQ(readInteger(std::u16string_view(u"\u0135")), 0);
+}
+
+TEST(IntegerText, LoneSurrogateIsAnotherCharacter) {
+  const char16_t units[] = {u'4', 0xD800, u'2'};
+  EXPECT_EQ(readInteger(std::u16string_view(units, 3)), 4);
+  EXPECT_EQ(readInteger(std::u16string_view(units + 1, 2)), 0);
+}
+
+TEST(IntegerText, WritesPlainDecimals) {
+  EXPECT_EQ(writeInteger(0), "0");
+  EXPECT_EQ(writeInteger(5), "5");
+  EXPECT_EQ(writeInteger(-3), "-3");
+  EXPECT_EQ(writeInteger(1234567), "1234567");
+  EXPECT_EQ(writeInteger(kLargest), "2147483647");
+  EXPECT_EQ(writeInteger(kSmallest), "-2147483648");
+}
+
+TEST(IntegerText, ReadsBackWhatItWrites) {
+  std::mt19937 random(1);
+  for (int i = 0; i < 10000; ++i) {
+    const auto number = static_cast<std::int32_t>(random()) >> (random() % 32);
+    EXPECT_EQ(readInteger(std::string_view(writeInteger(number))), number);
+  }
+}
+
+} // namespace
+} // namespace imageposition

@@ -1,0 +1,68 @@
+#include "settings/RangeText.hpp"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace imageposition {
+namespace {
+
+TEST(RangeText, MarksBecomeTheBounds) {
+  EXPECT_EQ(composeRangeText("min-mark to max-mark", "max-mark", "min-mark", {-20, 20}),
+            "-20 to 20");
+}
+
+TEST(RangeText, EveryOccurrenceIsReplaced) {
+  EXPECT_EQ(composeRangeText("MAX MIN MAX MINMAX", "MAX", "MIN", {-1, 2}), "2 -1 2 -12");
+}
+
+TEST(RangeText, TextWithoutMarksStays) {
+  EXPECT_EQ(composeRangeText("any value", "MAX", "MIN", {-1, 2}), "any value");
+  EXPECT_EQ(composeRangeText("", "MAX", "MIN", {-1, 2}), "");
+}
+
+TEST(RangeText, MaximumIsPutInFirstSoThatTheMinimumsMarkIsSoughtInItToo) {
+  EXPECT_EQ(composeRangeText("X", "X", "1", {5, 10}), "50");
+}
+
+TEST(RangeText, MinimumPutInIsNotSearchedForTheMaximumsMark) {
+  EXPECT_EQ(composeRangeText("X", "5", "X", {5, 10}), "5");
+}
+
+TEST(RangeText, MarkThatContainsTheOtherIsReplacedInOrder) {
+  // The maximum's mark goes first and takes its part of the longer one.
+  EXPECT_EQ(composeRangeText("M MM", "M", "MM", {-1, 2}), "2 22");
+  EXPECT_EQ(composeRangeText("M MM", "MM", "M", {-1, 2}), "-1 2");
+}
+
+TEST(RangeText, OccurrencesAreTakenFromTheLeftWithoutOverlap) {
+  EXPECT_EQ(composeRangeText("aaa", "aa", "MIN", {0, 7}), "7a");
+}
+
+TEST(RangeText, EqualMarksBothBecomeTheMaximum) {
+  EXPECT_EQ(composeRangeText("#..#", "#", "#", {-1, 2}), "2..2");
+}
+
+TEST(RangeText, EmptyMarkReplacesNothing) {
+  EXPECT_EQ(composeRangeText("MIN to MAX", "", "MIN", {-1, 2}), "-1 to MAX");
+  EXPECT_EQ(composeRangeText("MIN to MAX", "MAX", "", {-1, 2}), "MIN to 2");
+}
+
+TEST(RangeText, MarksAndTemplateMayBeAnyText) {
+  EXPECT_EQ(
+      composeRangeText("\xEF\xBC\xBBmin\xE3\x80\x9Cmax mm\xEF\xBC\xBD", "max", "min", {-3, 3}),
+      "\xEF\xBC\xBB-3\xE3\x80\x9C"
+      "3 mm\xEF\xBC\xBD");
+  EXPECT_EQ(composeRangeText("%d %@ $& MAX", "MAX", "%@", {-3, 3}), "%d -3 $& 3");
+}
+
+TEST(RangeText, BoundsAreShownAsTheyAreStored) {
+  EXPECT_EQ(composeRangeText("MIN..MAX", "MAX", "MIN", {5, -5}), "5..-5");
+  EXPECT_EQ(composeRangeText("MIN..MAX", "MAX", "MIN",
+                             {std::numeric_limits<std::int32_t>::min(),
+                              std::numeric_limits<std::int32_t>::max()}),
+            "-2147483648..2147483647");
+}
+
+} // namespace
+} // namespace imageposition
