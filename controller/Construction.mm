@@ -1,6 +1,6 @@
 #import "controller/MorvaADPSettingsCollectorRV2.h"
 
-#import "platform/Guarded.h"
+#import "platform/ResourceLoading.h"
 #import "settings/ConstraintDictionary.h"
 #import "settings/Keys.h"
 #import "settings/PropertyValues.h"
@@ -109,6 +109,9 @@ NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) 
   [SettingsList release];
   [PDECallback release];
   [Bundle release];
+  // The dialog may still hold the view.
+  imageposition::disconnectActions(LoadedView, self);
+  [LoadedView release];
   [super dealloc];
 }
 
@@ -116,6 +119,7 @@ NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) 
   if (ImagePositionPrintView != nil)
     return ImagePositionPrintView;
   imageposition::loadInterfaceFile(kResourceInterfaceFile, self);
+  LoadedView = ImagePositionPrintView;
   [self CBSCInitializeView];
   return ImagePositionPrintView;
 }

@@ -51,10 +51,13 @@ extern NSString *const CBSCKeySettingName;
   NSDictionary *SettingInfoDictionary;    ///< Owned.
   NSBundle *Bundle;                       ///< Retained.
   ppd_file_t *ppd;                        ///< Taken once, at construction; the host's.
+  /// The view again, once the interface file is loaded: the file's one top-level object, which the
+  /// loader leaves to whoever loads it.
+  NSView *LoadedView;
 }
 
-/// Null without a callback or bundle, without one of the two definition files, or when a setting
-/// that they define cannot be built.
+/// Null without a callback or bundle, without one of the two definition files, or when a
+/// setting that they define cannot be built.
 - (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle;
 
 /// The panel's view, loaded on the first call; null when the interface file gave none.
@@ -99,8 +102,8 @@ extern NSString *const CBSCKeySettingName;
 /// Brings the four values into their ranges.
 - (void)checkSettingsValue;
 
-/// Whether the printer's marked choices allow the adjustment: two-sided printing is not off, banner
-/// pages are not on. What the printer does not have forbids nothing.
+/// Whether the printer's marked choices allow the adjustment: two-sided printing is not off,
+/// banner pages are not on. What the printer does not have forbids nothing.
 - (BOOL)checkImagePositionAdjustValid;
 /// Empty; part of the plug-in's interface.
 - (void)clickRestore2Default:(id)sender;
@@ -114,7 +117,8 @@ extern NSString *const CBSCKeySettingName;
 - (void)setBackTBMState:(BOOL)usable;
 /// Action of the checkbox. The print settings learn of it at the next save.
 - (void)clickEnableImgPositionAdjust:(id)sender;
-/// Checkbox off and all offsets zero, whatever the definitions' defaults; print settings untouched.
+/// Checkbox off and all offsets zero, whatever the definitions' defaults; print settings
+/// untouched.
 - (void)restoreDefaults;
 /// Action of the restore-defaults button.
 - (void)clickbtnReasto2Default:(id)sender;

@@ -1,6 +1,4 @@
-#import "platform/Guarded.h"
-
-#import <AppKit/AppKit.h>
+#import "platform/ResourceLoading.h"
 
 namespace imageposition {
 
@@ -22,6 +20,14 @@ bool loadInterfaceFile(NSString *name, id owner) {
   } @catch (id) {
     return false;
   }
+}
+
+void disconnectActions(NSView *view, id target) {
+  if ([view isKindOfClass:[NSControl class]] && [static_cast<NSControl *>(view) target] == target)
+    [static_cast<NSControl *>(view) setTarget:nil];
+  NSEnumerator *subviews = [[view subviews] objectEnumerator];
+  for (NSView *subview = [subviews nextObject]; subview != nil; subview = [subviews nextObject])
+    disconnectActions(subview, target);
 }
 
 } // namespace imageposition
