@@ -1,0 +1,95 @@
+#import "tests/resources/ResourceFiles.h"
+
+#import "tests/support/Text.h"
+
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <sstream>
+#include <stdexcept>
+
+namespace imageposition::test {
+namespace {
+
+constexpr const char kByteOrderMark[] = "\xef\xbb\xbf";
+
+Record record(id dictionary, const std::string &where) {
+  if (![dictionary isKindOfClass:[NSDictionary class]])
+    throw std::runtime_error(where + " is not a dictionary");
+  Record result;
+  NSEnumerator *keys = [dictionary keyEnumerator];
+  for (id key = [keys nextObject]; key != nil; key = [keys nextObject]) {
+    id value = [dictionary objectForKey:key];
+    if (![value isKindOfClass:[NSString class]])
+      throw std::runtime_error(where + " has a value that is not a text");
+    result[cxxString(key)] = cxxString(value);
+  }
+  return result;
+}
+
+} // namespace
+
+std::string resourcePath(const std::string &name) {
+  return std::string(IMAGEPOSITION_RESOURCES) + "/" + name;
+}
+
+std::string fileBytes(const std::string &path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file)
+    throw std::runtime_error("cannot read " + path);
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+NSDictionary *propertyList(const std::string &name) {
+  NSDictionary *list = [NSDictionary dictionaryWithContentsOfFile:nsString(resourcePath(name))];
+  if (list == nil)
+    throw std::runtime_error(name + " is not a dictionary");
+  return list;
+}
+
+std::vector<Record> indexedRecords(const std::string &name) {
+  NSDictionary *list = propertyList(name);
+  std::vector<Record> records;
+  for (NSUInteger index = 0; index < [list count]; ++index) {
+    const std::string key = std::to_string(index);
+    records.push_back(record([list objectForKey:nsString(key)], name + " " + key));
+  }
+  return records;
+}
+
+const std::vector<std::string> &languages() {
+  static const std::vector<std::string> all = [] {
+    std::istringstream list(IMAGEPOSITION_LANGUAGES);
+    return std::vector<std::string>(std::istream_iterator<std::string>(list), {});
+  }();
+  return all;
+}
+
+std::vector<std::pair<std::string, std::string>> orderedTexts(const std::string &language) {
+  const std::string name = language + ".lproj/Localizable.strings";
+  const std::string bytes = fileBytes(resourcePath(name));
+  if (bytes.compare(0, 3, kByteOrderMark) != 0)
+    throw std::runtime_error(name + " does not begin with a byte order mark");
+  NSString *text = [NSString stringWithUTF8String:bytes.c_str() + 3];
+  if (text == nil)
+    throw std::runtime_error(name + " is not UTF-8");
+  NSDictionary *parsed = [text propertyListFromStringsFileFormat];
+
+  // The dictionary has lost the order and whatever came twice.
+  std::vector<std::pair<std::string, std::string>> result;
+  const std::regex line("(?:^|\n)\"([A-Za-z]+)\" = \"");
+  for (std::sregex_iterator match(bytes.begin(), bytes.end(), line), end; match != end; ++match) {
+    const std::string key = (*match)[1];
+    result.emplace_back(key, cxxString([parsed objectForKey:nsString(key)]));
+  }
+  if (result.size() < [parsed count])
+    throw std::runtime_error(name + " has a key that is not of letters, or not on its own line");
+  return result;
+}
+
+std::map<std::string, std::string> texts(const std::string &language) {
+  const auto ordered = orderedTexts(language);
+  return {ordered.begin(), ordered.end()};
+}
+
+} // namespace imageposition::test

@@ -1,0 +1,166 @@
+// The panel's texts in every language, against the keys that the code and the definitions use.
+#import "tests/resources/ResourceFiles.h"
+
+#import "settings/Keys.h"
+#import "tests/support/Text.h"
+
+#include "settings/RangeText.hpp"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <set>
+
+using namespace imageposition;
+using namespace imageposition::test;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+struct Wording {
+  std::string minMark;
+  std::string maxMark;
+  std::string templateKey;
+};
+
+std::vector<Wording> wordings() {
+  std::vector<Wording> result;
+  for (const Record &definition : indexedRecords("SettingInfo.plist")) {
+    const std::string &text = definition.at("RangeLabelWording");
+    const std::size_t first = text.find(':');
+    const std::size_t second = text.find(':', first + 1);
+    result.push_back({text.substr(0, first), text.substr(first + 1, second - first - 1),
+                      text.substr(second + 1)});
+  }
+  return result;
+}
+
+std::set<std::string> keysInUse() {
+  std::set<std::string> keys;
+  for (NSString *key : {kTextPluginName, kTextEnable, kTextRestoreDefaults, kTextLRM, kTextTBM,
+                        kTextInterfaceFileMissing})
+    keys.insert(cxxString(key));
+  for (const Record &definition : indexedRecords("SettingInfo.plist")) {
+    keys.insert(definition.at("SettingName"));
+    keys.insert(definition.at("SummaryInfoName"));
+  }
+  for (const Wording &wording : wordings())
+    keys.insert(wording.templateKey);
+  return keys;
+}
+
+std::set<std::string> distinct(const std::map<std::string, std::string> &texts,
+                               const std::vector<std::string> &keys) {
+  std::set<std::string> result;
+  for (const std::string &key : keys)
+    result.insert(texts.at(key));
+  return result;
+}
+
+std::string testName(const testing::TestParamInfo<std::string> &language) {
+  std::string name = language.param;
+  name.erase(std::remove(name.begin(), name.end(), '-'), name.end());
+  return name;
+}
+
+class Strings : public testing::TestWithParam<std::string> {
+protected:
+  std::map<std::string, std::string> texts_ = texts(GetParam());
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Languages, Strings, testing::ValuesIn(languages()), testName);
+
+TEST(StringsFolders, TheBundleIsBuiltWithSevenLanguages) {
+  EXPECT_THAT(languages(),
+              testing::UnorderedElementsAre("en", "de", "fr", "es", "it", "ja", "zh-Hans"));
+}
+
+TEST_P(Strings, HasEveryKeyInUseAndNoOther) {
+  std::set<std::string> keys;
+  for (const auto &[key, text] : texts_)
+    keys.insert(key);
+  EXPECT_EQ(keys, keysInUse());
+}
+
+TEST_P(Strings, NoKeyComesTwice) { EXPECT_EQ(orderedTexts(GetParam()).size(), texts_.size()); }
+
+TEST_P(Strings, KeysStandInTheSameOrderAsInEnglish) {
+  std::vector<std::string> keys, english;
+  for (const auto &[key, text] : orderedTexts(GetParam()))
+    keys.push_back(key);
+  for (const auto &[key, text] : orderedTexts("en"))
+    english.push_back(key);
+  EXPECT_EQ(keys, english);
+}
+
+TEST_P(Strings, NoTextIsEmptyItsKeyOrPadded) {
+  for (const auto &[key, text] : texts_) {
+    ASSERT_FALSE(text.empty()) << key;
+    EXPECT_NE(text, key);
+    EXPECT_NE(text.front(), ' ') << key;
+    EXPECT_NE(text.back(), ' ') << key;
+  }
+}
+
+TEST_P(Strings, NothingIsLeftInEnglish) {
+  if (GetParam() == "en")
+    return;
+  for (const auto &[key, text] : texts("en"))
+    EXPECT_NE(texts_.at(key), text) << key;
+}
+
+// Two equal titles would be one entry of the summary.
+TEST_P(Strings, SummaryTitlesAreDistinctWithTheCheckboxOnAndOff) {
+  EXPECT_EQ(distinct(texts_, {"EnableImgPstAdj", "FrontLRMSummary", "FrontTBMSummary",
+                              "BackLRMSummary", "BackTBMSummary"})
+                .size(),
+            5u);
+  EXPECT_EQ(distinct(texts_, {"EnableImgPstAdj", "LRM", "TBM", "BackLRMSummary", "BackTBMSummary"})
+                .size(),
+            5u);
+}
+
+TEST_P(Strings, NameLabelsAreDistinctWithTheCheckboxOnAndOff) {
+  EXPECT_EQ(distinct(texts_, {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM"}).size(),
+            6u);
+}
+
+// The titles of the front offsets in the panel are also titles in the summary, where the dialog
+// adds its own colon.
+TEST_P(Strings, NoNameEndsWithAColon) {
+  for (const char *key : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM"})
+    EXPECT_THAT(texts_.at(key),
+                Not(testing::AnyOf(testing::EndsWith(":"), testing::EndsWith("："))))
+        << key;
+}
+
+TEST_P(Strings, EveryNameAndSummaryTitleShowsTheUnit) {
+  const std::string unit = GetParam() == "zh-Hans" ? "毫米" : "mm";
+  const bool hasPoint = GetParam() == "en" || GetParam() == "ja" || GetParam() == "zh-Hans";
+  for (const char *key : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM",
+                          "FrontLRMSummary", "FrontTBMSummary", "BackLRMSummary", "BackTBMSummary"})
+    EXPECT_THAT(texts_.at(key), HasSubstr((hasPoint ? "0.1 " : "0,1 ") + unit)) << key;
+}
+
+TEST_P(Strings, RangeTextsShowBothNumbersAndNoMark) {
+  for (const Wording &wording : wordings()) {
+    const std::string &text = texts_.at(wording.templateKey);
+    EXPECT_THAT(text, HasSubstr(wording.minMark));
+    EXPECT_THAT(text, HasSubstr(wording.maxMark));
+    const std::string composed =
+        composeRangeText(text, wording.maxMark, wording.minMark, {-200, 150});
+    EXPECT_THAT(composed, HasSubstr("-200"));
+    EXPECT_THAT(composed, HasSubstr("150"));
+    EXPECT_EQ(composed.find_first_of("{}"), std::string::npos) << composed;
+  }
+}
+
+TEST_P(Strings, RangeTextsOfTheTwoDirectionsDiffer) {
+  const std::vector<Wording> all = wordings();
+  EXPECT_EQ(all.at(0).templateKey, all.at(2).templateKey);
+  EXPECT_EQ(all.at(1).templateKey, all.at(3).templateKey);
+  EXPECT_NE(texts_.at(all.at(0).templateKey), texts_.at(all.at(1).templateKey));
+}
