@@ -1,0 +1,152 @@
+// The entry field with the platform's own editor in it, as while a person types.
+#import "tests/view/ItemFixture.h"
+
+#import "view/MorvaADPIntegerTextFieldItemRV2.h"
+
+namespace {
+
+using imageposition::test::ItemFixture;
+
+class EntryFieldTyping : public ItemFixture {
+protected:
+  void SetUp() override {
+    ItemFixture::SetUp();
+    entry = [[[MorvaADPIntegerTextFieldItemRV2 alloc] initWithFrame:NSMakeRect(10, 10, 80, 22)]
+        autorelease];
+    [entry setRange:100 Min:-100];
+    [[window contentView] addSubview:entry];
+    // A window off the screen draws nothing, and a field that was never drawn is not being edited.
+    [window makeKeyAndOrderFront:nil];
+    if ([entry currentEditor] == nil) {
+      ASSERT_TRUE([window makeFirstResponder:entry]);
+    }
+    ASSERT_NE([entry currentEditor], nil);
+  }
+
+  NSTextView *editor() { return (NSTextView *)[entry currentEditor]; }
+
+  /// The editor with `before|after` in it, the bar for the insertion point.
+  void put(const std::string &marked) {
+    const size_t bar = marked.find('|');
+    [editor()
+        setString:[NSString stringWithUTF8String:(marked.substr(0, bar) + marked.substr(bar + 1))
+                                                     .c_str()]];
+    [editor() setSelectedRange:NSMakeRange(bar, 0)];
+  }
+
+  void type(const char *typed) {
+    for (const char *c = typed; *c != '\0'; ++c) {
+      [editor() insertText:[NSString stringWithFormat:@"%c", *c]];
+    }
+  }
+
+  /// The editor's text, the insertion point as a bar, a selection between two.
+  std::string seen() {
+    std::string shown = text([editor() string]);
+    const NSRange selected = [editor() selectedRange];
+    shown.insert(NSMaxRange(selected), "|");
+    if (selected.length > 0) {
+      shown.insert(selected.location, "|");
+    }
+    return shown;
+  }
+
+  MorvaADPIntegerTextFieldItemRV2 *entry = nil;
+};
+
+TEST_F(EntryFieldTyping, MinusThenThreeShowsMinusThree) {
+  put("|");
+  type("-3");
+  EXPECT_EQ(seen(), "-3|");
+  EXPECT_EQ([entry getInt], -3);
+}
+
+TEST_F(EntryFieldTyping, EachKeyFollowsTheOneBefore) {
+  put("|");
+  type("-");
+  EXPECT_EQ(seen(), "-|");
+  type("4");
+  EXPECT_EQ(seen(), "-4|");
+  type("2");
+  EXPECT_EQ(seen(), "-42|");
+}
+
+TEST_F(EntryFieldTyping, ADroppedCharacterLeavesTheInsertionPointWhereItWas) {
+  put("1|2");
+  type("x");
+  EXPECT_EQ(seen(), "1|2");
+}
+
+TEST_F(EntryFieldTyping, ADigitInTheMiddleLeavesTheInsertionPointBehindIt) {
+  [entry setRange:1000 Min:-1000];
+  put("1|2");
+  type("3");
+  EXPECT_EQ(seen(), "13|2");
+}
+
+TEST_F(EntryFieldTyping, AMinusAtTheFrontLeavesTheInsertionPointBehindIt) {
+  put("|42");
+  type("-");
+  EXPECT_EQ(seen(), "-|42");
+}
+
+TEST_F(EntryFieldTyping, ANumberBeyondTheRangeLeavesTheInsertionPointAtTheEnd) {
+  put("10|");
+  type("1");
+  EXPECT_EQ(seen(), "100|");
+}
+
+TEST_F(EntryFieldTyping, StrayMinusAtTheEndIsDropped) {
+  put("7|");
+  type("-2");
+  EXPECT_EQ(seen(), "72|");
+}
+
+TEST_F(EntryFieldTyping, LeadingZeroGivesWayToTheDigit) {
+  put("0|");
+  type("7");
+  EXPECT_EQ(seen(), "7|");
+}
+
+TEST_F(EntryFieldTyping, MinusZeroIsKeptUntilADigitFollows) {
+  put("|");
+  type("-0");
+  EXPECT_EQ(seen(), "-0|");
+  type("5");
+  EXPECT_EQ(seen(), "-5|");
+}
+
+TEST_F(EntryFieldTyping, PastedTextIsFilteredAsAWhole) {
+  [entry setRange:100 Min:-10];
+  put("|");
+  [editor() insertText:@"1a2b3"];
+  EXPECT_EQ(seen(), "100|");
+}
+
+TEST_F(EntryFieldTyping, AnEmptiedFieldShowsZero) {
+  put("7|");
+  [editor() deleteBackward:nil];
+  EXPECT_EQ(text([editor() string]), "0");
+  EXPECT_EQ([entry getInt], 0);
+}
+
+TEST_F(EntryFieldTyping, ReplacingASelectionKeepsTypingAfterIt) {
+  put("42|");
+  [editor() setSelectedRange:NSMakeRange(0, 2)];
+  type("-17");
+  EXPECT_EQ(seen(), "-17|");
+}
+
+TEST_F(EntryFieldTyping, FilteringDoesNotEndTheEditing) {
+  put("|");
+  type("x");
+  EXPECT_EQ([window firstResponder], editor());
+}
+
+TEST_F(EntryFieldTyping, NothingIsSelectedAfterAKey) {
+  put("1|");
+  type("2");
+  EXPECT_EQ([editor() selectedRange].length, 0U);
+}
+
+} // namespace
