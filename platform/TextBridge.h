@@ -13,6 +13,9 @@ namespace imageposition {
 /// UTF-8, a lone surrogate as U+FFFD; empty for null.
 std::string toText(NSString *string);
 
+/// False for null.
+bool isString(id object);
+
 /// None for null and for every object that is not a string.
 std::optional<std::string> toOptionalText(id object);
 

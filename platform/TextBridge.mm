@@ -17,8 +17,14 @@ std::u16string toUtf16(NSString *string) {
 
 std::string toText(NSString *string) { return utf8FromUtf16(toUtf16(string)); }
 
+// The class is looked up once: this runtime searches for it by name each time that it is messaged.
+bool isString(id object) {
+  static const Class kString = [NSString class];
+  return [object isKindOfClass:kString];
+}
+
 std::optional<std::string> toOptionalText(id object) {
-  if (![object isKindOfClass:[NSString class]])
+  if (!isString(object))
     return std::nullopt;
   return toText(object);
 }

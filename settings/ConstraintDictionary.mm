@@ -128,8 +128,9 @@ std::shared_ptr<const ConstraintRules> constraintRules(NSDictionary *table) {
 }
 
 const ConstraintRule *typedRule(NSDictionary *rule) {
-  // The class is asked directly: this is on the path of every rule of every refresh.
-  if (rule == nil || object_getClass(rule) != [MorvaADPConstraintRule class])
+  // No message is sent: this is on the path of every rule of every refresh.
+  static const Class kTyped = [MorvaADPConstraintRule class];
+  if (rule == nil || object_getClass(rule) != kTyped)
     return nullptr;
   return static_cast<MorvaADPConstraintRule *>(rule)->Typed;
 }

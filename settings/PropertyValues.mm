@@ -13,11 +13,11 @@ NSString *textEntry(id dictionary, NSString *key) {
   if (![dictionary isKindOfClass:[NSDictionary class]])
     return nil;
   id value = [static_cast<NSDictionary *>(dictionary) objectForKey:key];
-  return [value isKindOfClass:[NSString class]] ? value : nil;
+  return isString(value) ? value : nil;
 }
 
 int32_t integerOf(id value) {
-  if ([value isKindOfClass:[NSString class]])
+  if (isString(value))
     return readInteger(toUtf16(value));
   if (![value isKindOfClass:[NSNumber class]])
     return 0;
@@ -30,6 +30,12 @@ int32_t integerOf(id value) {
       std::min<double>(std::max<double>(number, Limits::min()), Limits::max()));
 }
 
-NSString *integerString(int32_t value) { return toString(writeInteger(value)); }
+NSString *integerString(int32_t value) {
+  // Digits and a minus are the same in UTF-16, unit for unit.
+  const std::string text = writeInteger(value);
+  const std::u16string units(text.begin(), text.end());
+  return [NSString stringWithCharacters:reinterpret_cast<const unichar *>(units.data())
+                                 length:units.size()];
+}
 
 } // namespace imageposition

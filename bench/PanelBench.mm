@@ -1,0 +1,91 @@
+// Making a panel, loading its view and getting it ready to be shown, in a host that runs already.
+#import "bench/BenchHost.h"
+
+#import "tests/support/Pool.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using imageposition::bench::BenchHost;
+using imageposition::test::Pool;
+
+void MakePanel(benchmark::State &state) {
+  BenchHost host;
+  for (auto _ : state) {
+    const Pool pool;
+    [host.makePanel() release];
+  }
+}
+BENCHMARK(MakePanel)->Unit(benchmark::kMillisecond);
+
+void FirstPanelView(benchmark::State &state) {
+  BenchHost host;
+  for (auto _ : state) {
+    state.PauseTiming();
+    const Pool pool;
+    id panel = host.makePanel();
+    state.ResumeTiming();
+    [panel panelView];
+    state.PauseTiming();
+    [panel release];
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(FirstPanelView)->Unit(benchmark::kMillisecond);
+
+void SecondPanelView(benchmark::State &state) {
+  BenchHost host;
+  const Pool pool;
+  id panel = host.makePanel();
+  [panel panelView];
+  for (auto _ : state)
+    benchmark::DoNotOptimize([panel panelView]);
+  [panel release];
+}
+BENCHMARK(SecondPanelView)->Unit(benchmark::kNanosecond);
+
+void FirstWillShow(benchmark::State &state) {
+  BenchHost host;
+  for (auto _ : state) {
+    state.PauseTiming();
+    const Pool pool;
+    id panel = host.makePanel();
+    [panel panelView];
+    state.ResumeTiming();
+    [panel willShow];
+    state.PauseTiming();
+    [panel release];
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(FirstWillShow)->Unit(benchmark::kMicrosecond);
+
+void SecondWillShow(benchmark::State &state) {
+  BenchHost host;
+  const Pool pool;
+  id panel = host.makePanel();
+  [panel panelView];
+  [panel willShow];
+  for (auto _ : state) {
+    const Pool inner;
+    [panel willShow];
+  }
+  [panel release];
+}
+BENCHMARK(SecondWillShow)->Unit(benchmark::kMicrosecond);
+
+/// All of the above once: what a person waits for when the pane is chosen.
+void PanelShownReady(benchmark::State &state) {
+  BenchHost host;
+  for (auto _ : state) {
+    const Pool pool;
+    id panel = host.makePanel();
+    [panel panelView];
+    [panel willShow];
+    [panel release];
+  }
+}
+BENCHMARK(PanelShownReady)->Unit(benchmark::kMillisecond);
+
+} // namespace
