@@ -53,9 +53,9 @@ namespace imageposition::test {
 /// What `setString:` or `setStringValue:` gave the item last.
 std::string shownBy(RecordingItem *item);
 
-/// `action` is called in each `getInt` and `getSteps` of the item, with the operation's name, after
-/// it was recorded and before it answers.
-void beforeAnswersOf(RecordingItem *item, std::function<void(const std::string &)> action);
+/// `action` is called in every operation of the item, with its line in the journal without the
+/// item's name, after it was recorded and before it answers.
+void onEachOperationOf(RecordingItem *item, std::function<void(const std::string &)> action);
 
 } // namespace imageposition::test
 

@@ -15,7 +15,7 @@ struct State {
   Journal *journal = nullptr;
   std::string name;
   std::string text;
-  std::function<void(const std::string &)> beforeAnswer;
+  std::function<void(const std::string &)> onOperation;
 };
 
 State *stateOf(RecordingItem *item) { return static_cast<State *>(item->state); }
@@ -26,8 +26,8 @@ namespace imageposition::test {
 
 std::string shownBy(RecordingItem *item) { return stateOf(item)->text; }
 
-void beforeAnswersOf(RecordingItem *item, std::function<void(const std::string &)> action) {
-  stateOf(item)->beforeAnswer = std::move(action);
+void onEachOperationOf(RecordingItem *item, std::function<void(const std::string &)> action) {
+  stateOf(item)->onOperation = std::move(action);
 }
 
 namespace {
@@ -81,21 +81,17 @@ Class classWith(unsigned capabilities) {
 
 - (void)record:(const std::string &)operation {
   stateOf(self)->journal->add(stateOf(self)->name + "." + operation);
-}
-
-- (void)prepare:(const char *)operation {
-  [self record:operation];
-  if (stateOf(self)->beforeAnswer)
-    stateOf(self)->beforeAnswer(operation);
+  if (stateOf(self)->onOperation)
+    stateOf(self)->onOperation(operation);
 }
 
 - (int32_t)getInt {
-  [self prepare:"getInt"];
+  [self record:"getInt"];
   return number;
 }
 
 - (int32_t)getSteps {
-  [self prepare:"getSteps"];
+  [self record:"getSteps"];
   const int32_t taken = steps;
   steps = 0;
   return taken;

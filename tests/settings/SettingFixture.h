@@ -1,0 +1,64 @@
+/// What a test of settings needs: a bundle, a printer, print settings, items, and one journal.
+#ifndef IMAGEPOSITION_TESTS_SETTINGS_SETTINGFIXTURE_H
+#define IMAGEPOSITION_TESTS_SETTINGS_SETTINGFIXTURE_H
+
+#import "settings/MorvaADPIntegerSettingRV2.h"
+#import "tests/support/Fields.h"
+#import "tests/support/LogCapture.h"
+#import "tests/support/RecordingItems.h"
+#import "tests/support/TestBundle.h"
+#import "tests/support/TestPrintSettings.h"
+#import "tests/support/Text.h"
+
+#include "tests/support/TestPpd.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace imageposition::test {
+
+using Texts = std::map<std::string, std::string>;
+using Lines = std::vector<std::string>;
+
+/// A dictionary of texts.
+NSDictionary *dictionary(const Texts &texts);
+/// A rule table: the rules under "0", "1", and so on.
+NSDictionary *ruleTable(const std::vector<Texts> &rules);
+NSArray *array(std::initializer_list<id> elements);
+
+/// A definition record whose texts are those of a usable setting, except for the given ones.
+Texts record(const Texts &changes = {});
+
+class SettingTest : public testing::Test {
+protected:
+  SettingTest() { store.recordInto(&journal); }
+
+  /// A setting that nobody in the test has to release.
+  MorvaADPIntegerSettingRV2 *make(const Texts &definition = record(),
+                                  const std::vector<Texts> &rules = {});
+  MorvaADPIntegerSettingRV2 *make(Class type, NSDictionary *definition, NSDictionary *rules);
+  /// Bound to itself as the only related setting.
+  void bind(MorvaADPSettingRV2 *setting, std::initializer_list<id> items);
+  /// Unconnected settings know each other as the panel's do.
+  void relate(std::initializer_list<MorvaADPSettingRV2 *> settings);
+
+  RecordingItem *item(const char *name, unsigned capabilities, NSInteger tag = -1);
+
+  static int32_t value(MorvaADPIntegerSettingRV2 *setting) {
+    return field<int32_t>(setting, "Value");
+  }
+
+  Journal journal;
+  TestBundle resources;
+  TestPpd printer;
+  TestPrintSettings store;
+};
+
+} // namespace imageposition::test
+
+#endif
