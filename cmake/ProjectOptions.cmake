@@ -12,7 +12,8 @@ endif()
 
 add_library(imageposition_options INTERFACE)
 target_include_directories(imageposition_options INTERFACE "${PROJECT_SOURCE_DIR}")
-target_compile_options(imageposition_options INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor)
+target_compile_options(imageposition_options INTERFACE -Wall -Wextra -Wshadow
+  "$<$<COMPILE_LANGUAGE:CXX,OBJCXX>:-Wnon-virtual-dtor>")
 if(IMAGEPOSITION_WARNINGS_AS_ERRORS)
   target_compile_options(imageposition_options INTERFACE -Werror)
 endif()

@@ -162,9 +162,10 @@ std::string pluginMissing(const std::string &path) {
 std::string pluginNotBundle(const std::string &path) {
   return "\"" + path + "\" is not a plug-in: it is no bundle with code in it. Install it again.";
 }
-std::string pluginNotLoadable(const std::string &path) {
-  return "The code of the plug-in \"" + path +
-         "\" could not be loaded; it may be damaged or made for another system. Install it again.";
+std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
+  return "The code of the plug-in \"" + path + "\" could not be loaded" +
+         (reason.empty() ? std::string() : " (" + reason + ")") +
+         "; it may be damaged or made for another system. Install it again.";
 }
 std::string pluginWithoutClass(const std::string &path, const std::string &className) {
   return "The plug-in \"" + path + "\" lacks its principal class" +

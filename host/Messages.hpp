@@ -74,7 +74,7 @@ std::string displayUnreachable(const std::string &name);
 // Plug-ins.
 std::string pluginMissing(const std::string &path);
 std::string pluginNotBundle(const std::string &path);
-std::string pluginNotLoadable(const std::string &path);
+std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);
 std::string pluginClassTaken(const std::string &path, const std::string &className);
 std::string pluginWithoutOperation(const std::string &path, const std::string &operation);

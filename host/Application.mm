@@ -1,0 +1,40 @@
+#import "host/Application.h"
+
+#include "host/ExitCode.hpp"
+#import "host/Guard.h"
+#include "host/Messages.hpp"
+
+#import <AppKit/AppKit.h>
+
+#include <cstdlib>
+
+namespace imageposition {
+
+namespace {
+
+/// Loading ImageMagick takes longer than showing the dialog, which has no image that needs it.
+void leaveOutImageLoaders() {
+  const Class magick = NSClassFromString(@"GSImageMagickImageRep");
+  if (magick != Nil)
+    [NSImageRep unregisterImageRepClass:magick];
+}
+
+} // namespace
+
+void setPlatformDefaults() {
+  NSMutableDictionary *const defaults = [NSMutableDictionary dictionary];
+  [defaults setObject:@"YES" forKey:@"GSLogSyslog"];
+  [defaults setObject:@"YES" forKey:@"GSSuppressAppIcon"];
+  [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
+}
+
+void startApplication() {
+  leaveOutImageLoaders();
+  const auto raised = whatIsRaisedBy([] { [NSApplication sharedApplication]; });
+  if (raised || NSApp == nil) {
+    const char *const name = std::getenv("DISPLAY");
+    throw Failure(ExitCode::Display, messages::displayUnreachable(name != nullptr ? name : ""));
+  }
+}
+
+} // namespace imageposition

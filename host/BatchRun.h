@@ -1,0 +1,23 @@
+/// The dialog without a window.
+#ifndef IMAGEPOSITION_HOST_BATCHRUN_H
+#define IMAGEPOSITION_HOST_BATCHRUN_H
+
+#include "host/BatchRequest.hpp"
+#import "host/PanelSession.h"
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace imageposition {
+
+/// Shows each panel (to nobody), uses its controls as asked, and prints: the job's settings then
+/// hold what the window would have left there. Answers the panels' summary. What a panel makes of a
+/// value that it does not take as it is goes to `notes`. Throws a `Failure`; a panel that raises is
+/// one.
+std::vector<SummarySection> runBatch(const PanelSession &session, const BatchRequest &request,
+                                     std::ostream &notes);
+
+} // namespace imageposition
+
+#endif

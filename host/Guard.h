@@ -1,0 +1,50 @@
+/// Calls into foreign code, with whatever it raises caught and put into words.
+#ifndef IMAGEPOSITION_HOST_GUARD_H
+#define IMAGEPOSITION_HOST_GUARD_H
+
+#import <Foundation/Foundation.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/// Runs `body`; null when it raised nothing, else the name and reason of what it raised. Plain
+/// Objective-C: this runtime's C++ front end hands over no usable exception object.
+NSString *IPWhatIsRaisedBy(void (*body)(void *context), void *context);
+
+#ifdef __cplusplus
+}
+
+#include "platform/TextBridge.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+
+namespace imageposition {
+
+/// The same for any callable, C++ exceptions included; none when nothing was raised.
+template <typename Body> std::optional<std::string> whatIsRaisedBy(Body &&body) {
+  struct Call {
+    Body &body;
+    std::optional<std::string> exception;
+  } call{body, std::nullopt};
+  NSString *const raised = IPWhatIsRaisedBy(
+      [](void *context) {
+        Call &inner = *static_cast<Call *>(context);
+        try {
+          inner.body();
+        } catch (const std::exception &exception) {
+          inner.exception = exception.what();
+        }
+      },
+      &call);
+  if (raised != nil)
+    return toText(raised);
+  return call.exception;
+}
+
+} // namespace imageposition
+#endif
+
+#endif

@@ -1,0 +1,56 @@
+/// One panel of a plug-in, driven in the order that panels expect.
+#ifndef IMAGEPOSITION_HOST_PANELDRIVER_H
+#define IMAGEPOSITION_HOST_PANELDRIVER_H
+
+#import <ApplicationServices/ApplicationServices.h>
+
+#include "host/Summary.hpp"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace imageposition {
+
+/// Every operation throws a `Failure` with `ExitCode::Plugin` when the panel raises; the panel is
+/// then not asked again by its owner. Main thread only.
+class PanelDriver {
+public:
+  /// Asks for kind, name, option keys and view, in this order. The view comes before everything
+  /// that touches values: a panel may keep values in its controls, and would store those of
+  /// controls that do not exist yet. `pluginPath` is named in messages.
+  PanelDriver(id panel, std::string pluginPath);
+  ~PanelDriver();
+  PanelDriver(const PanelDriver &) = delete;
+  PanelDriver &operator=(const PanelDriver &) = delete;
+
+  const std::string &kind() const noexcept { return kind_; }
+  /// For people; the kind when the panel has no name.
+  const std::string &name() const noexcept { return name_; }
+  /// PPD options that the panel handles.
+  const std::vector<std::string> &optionKeys() const noexcept { return optionKeys_; }
+  /// Never null; the panel's.
+  NSView *view() const noexcept { return view_; }
+  const std::string &pluginPath() const noexcept { return pluginPath_; }
+
+  void willShow();
+  void save();
+  void restore();
+  /// False when the panel does not allow the job.
+  bool mayPrint();
+  SummarySection summary();
+
+private:
+  void guarded(const char *operation, const std::function<void()> &body);
+
+  id<PDEPanel> panel_; // retained
+  std::string pluginPath_;
+  std::string kind_;
+  std::string name_;
+  std::vector<std::string> optionKeys_;
+  NSView *view_ = nil; // retained
+};
+
+} // namespace imageposition
+
+#endif

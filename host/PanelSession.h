@@ -1,0 +1,46 @@
+/// The panels of all plug-ins for one printer and job.
+#ifndef IMAGEPOSITION_HOST_PANELSESSION_H
+#define IMAGEPOSITION_HOST_PANELSESSION_H
+
+#import "host/HostCallback.h"
+#import "host/PluginLoader.h"
+#include "host/PrinterDescription.hpp"
+#import "platform/PrintCore.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace imageposition {
+
+class PanelSession {
+public:
+  /// Both outlive the session. Panels read and write `settings` directly.
+  PanelSession(PrinterDescription &printer, PrintSettingsStore &settings);
+  ~PanelSession();
+  PanelSession(const PanelSession &) = delete;
+  PanelSession &operator=(const PanelSession &) = delete;
+
+  /// Loads each plug-in and takes its panels. One that fails is left out, with its message among
+  /// the troubles.
+  void load(const std::vector<std::string> &plugins);
+
+  /// In the order of the plug-ins.
+  const std::vector<std::unique_ptr<PanelDriver>> &panels() const noexcept { return panels_; }
+  /// Messages of the plug-ins and panels that were left out.
+  const std::vector<std::string> &troubles() const noexcept { return troubles_; }
+
+  /// Leaves a panel out that failed later on.
+  void drop(const PanelDriver *panel, const std::string &trouble);
+
+private:
+  PrintSettingsHandle handle_;
+  HostCallback *callback_; // owned
+  std::vector<std::unique_ptr<Plugin>> plugins_;
+  std::vector<std::unique_ptr<PanelDriver>> panels_;
+  std::vector<std::string> troubles_;
+};
+
+} // namespace imageposition
+
+#endif
