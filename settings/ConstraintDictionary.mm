@@ -3,6 +3,8 @@
 #import "platform/TextBridge.h"
 #import "settings/Keys.h"
 
+#include <objc/runtime.h>
+
 using imageposition::ConstraintRule;
 using imageposition::ConstraintRules;
 

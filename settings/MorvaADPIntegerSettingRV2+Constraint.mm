@@ -3,6 +3,8 @@
 #import "platform/TextBridge.h"
 #import "settings/MorvaADPIntegerSettingRV2+Private.h"
 
+#include <objc/runtime.h>
+
 using imageposition::Action;
 using imageposition::Condition;
 using imageposition::ConditionSource;

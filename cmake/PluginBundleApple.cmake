@@ -1,0 +1,31 @@
+# The bundle as macOS has it: Contents/, one binary for several processors, a compiled interface
+# file. The architectures are those that the toolchain still builds; CMAKE_OSX_ARCHITECTURES, given
+# at the first configuration, says otherwise.
+set(bundle_sources
+  "${PROJECT_SOURCE_DIR}/resources/SettingInfo.plist"
+  "${PROJECT_SOURCE_DIR}/resources/ConstraintInfo.plist")
+target_sources(MorvaADPImagePosition PRIVATE ${bundle_sources})
+set_source_files_properties(${bundle_sources} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
+
+foreach(language ${IMAGEPOSITION_LANGUAGES})
+  set(strings "${PROJECT_SOURCE_DIR}/resources/${language}.lproj/Localizable.strings")
+  target_sources(MorvaADPImagePosition PRIVATE "${strings}")
+  set_source_files_properties("${strings}" PROPERTIES
+    MACOSX_PACKAGE_LOCATION "Resources/${language}.lproj")
+endforeach()
+
+find_program(IBTOOL ibtool REQUIRED)
+set(interface_file "${PROJECT_BINARY_DIR}/ImagePositionAdjustPrint.nib")
+add_custom_command(OUTPUT "${interface_file}"
+  COMMAND "${IBTOOL}" --compile "${interface_file}" --minimum-deployment-target 10.7
+    "${PROJECT_SOURCE_DIR}/resources/ImagePositionAdjustPrint.xib"
+  DEPENDS "${PROJECT_SOURCE_DIR}/resources/ImagePositionAdjustPrint.xib" VERBATIM)
+target_sources(MorvaADPImagePosition PRIVATE "${interface_file}")
+set_source_files_properties("${interface_file}" PROPERTIES
+  GENERATED TRUE EXTERNAL_OBJECT TRUE MACOSX_PACKAGE_LOCATION Resources)
+
+set_target_properties(MorvaADPImagePosition PROPERTIES
+  BUNDLE TRUE
+  BUNDLE_EXTENSION plugin
+  LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}"
+  MACOSX_BUNDLE_INFO_PLIST "${PROJECT_SOURCE_DIR}/plugin/Info.plist.in")
