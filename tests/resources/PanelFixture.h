@@ -1,0 +1,64 @@
+/// The panel of the bundle as it was built, loaded the way a print dialog loads it.
+#ifndef IMAGEPOSITION_TESTS_RESOURCES_PANELFIXTURE_H
+#define IMAGEPOSITION_TESTS_RESOURCES_PANELFIXTURE_H
+
+#import <AppKit/AppKit.h>
+
+#import "controller/MorvaADPPdeCallbackRV2.h"
+#import "tests/support/LogCapture.h"
+#import "tests/support/TestPpd.h"
+#import "tests/support/TestPrintSettings.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace imageposition::test {
+
+extern const std::vector<std::string> kSettingNames;
+
+class PanelFixture : public testing::Test {
+protected:
+  PanelFixture();
+  ~PanelFixture() override;
+
+  /// Shows the panel on a printer that has the adjustment and these further PPD lines, as a pane of
+  /// a window.
+  void show(const std::vector<std::string> &ppdLines = {}, bool backSideOn = false);
+
+  /// The control behind an outlet of the controller.
+  id control(const std::string &outlet) const;
+  NSTextField *field(const std::string &setting) const { return control(setting + "Text"); }
+  NSTextField *nameLabel(const std::string &setting) const { return control(setting + "Label"); }
+  NSTextField *rangeLabel(const std::string &setting) const {
+    return control(setting + "RangeLabel");
+  }
+  NSView *view() const { return view_; }
+
+  /// The text is typed into the field, which is then left.
+  void enter(const std::string &setting, const std::string &text);
+
+  std::string shown(NSTextField *field) const;
+
+  /// The language that this process runs in, by the name of its folder.
+  static std::string language();
+  /// The bundle's text for the key, as the panel finds it.
+  static std::string localized(const std::string &key);
+
+  TestPrintSettings settings_;
+
+private:
+  LogCapture log_;
+  std::optional<TestPpd> ppd_;
+  id host_ = nil;
+  id panel_ = nil;
+  NSView *view_ = nil;
+  NSWindow *window_ = nil;
+};
+
+} // namespace imageposition::test
+
+#endif
