@@ -76,6 +76,9 @@ std::vector<PanelControls::Field> PanelControls::fieldsNamed(const std::string &
 
 std::string PanelControls::type(const Field &field, const std::string &text) {
   NSWindow *const window = [field.field window];
+  // A cell asks the field's editor for its text only once it knows the field, and learns that when
+  // it is drawn, which in a window that nobody sees it never is.
+  [[field.field cell] setControlView:field.field];
   if (![field.field isEnabled] || ![window makeFirstResponder:field.field])
     throw Failure(ExitCode::Value, messages::fieldUnavailable(field.name));
   NSText *const editor = [field.field currentEditor];
