@@ -23,6 +23,10 @@ struct State {
   bool backSideOn;
 };
 
+void PrintTo(const State &state, std::ostream *out) {
+  *out << state.rangeName << " range, back side " << (state.backSideOn ? "on" : "off");
+}
+
 std::string testName(const testing::TestParamInfo<State> &state) {
   return state.param.rangeName + (state.param.backSideOn ? "RangeBackSideOn" : "RangeBackSideOff");
 }
