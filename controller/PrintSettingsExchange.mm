@@ -63,15 +63,19 @@ NSString *stateText(NSButton *checkbox) {
   // With one pair of offsets for both sides the front titles are plain; the back ones stay, on
   // purpose.
   const bool ownBack = [chkEnableImagePositionAdjust state] != 0;
-  NSString *frontLRMKey = ownBack ? [FrontLRMSettings getSummaryInfoName] : kTextLRM;
-  NSString *frontTBMKey = ownBack ? [FrontTBMSettings getSummaryInfoName] : kTextTBM;
+  NSString *frontLRMTitle =
+      localizedText(Bundle, ownBack ? [FrontLRMSettings getSummaryInfoName] : kTextLRM);
+  NSString *frontTBMTitle =
+      localizedText(Bundle, ownBack ? [FrontTBMSettings getSummaryInfoName] : kTextTBM);
+  NSString *backLRMTitle = localizedText(Bundle, [BackLRMSettings getSummaryInfoName]);
+  NSString *backTBMTitle = localizedText(Bundle, [BackTBMSettings getSummaryInfoName]);
 
   NSMutableArray *order = [NSMutableArray arrayWithCapacity:5];
   addEntry(summary, order, localizedText(Bundle, kTextEnable), enabled);
-  addEntry(summary, order, localizedText(Bundle, frontLRMKey), frontLRM);
-  addEntry(summary, order, localizedText(Bundle, frontTBMKey), frontTBM);
-  addEntry(summary, order, localizedText(Bundle, [BackLRMSettings getSummaryInfoName]), backLRM);
-  addEntry(summary, order, localizedText(Bundle, [BackTBMSettings getSummaryInfoName]), backTBM);
+  addEntry(summary, order, frontLRMTitle, frontLRM);
+  addEntry(summary, order, frontTBMTitle, frontTBM);
+  addEntry(summary, order, backLRMTitle, backLRM);
+  addEntry(summary, order, backTBMTitle, backTBM);
   [summary setObject:order forKey:kSummaryDisplayOrder];
   return summary;
 }
