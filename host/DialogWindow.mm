@@ -319,6 +319,8 @@ NSButton *makeButton(const char *title, id target, SEL action) {
   NSView *const first = [panes nextKeyView];
   [window setInitialFirstResponder:first];
   [window makeFirstResponder:first];
+  [NSApp finishLaunching]; // no keys arrive before
+  [NSApp activateIgnoringOtherApps:YES];
   [window makeKeyAndOrderFront:nil];
   const NSInteger answer = [NSApp runModalForWindow:window];
   [window orderOut:nil];

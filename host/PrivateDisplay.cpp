@@ -10,6 +10,7 @@
 #include <poll.h>
 #include <string>
 #include <sys/prctl.h>
+#include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -57,35 +58,30 @@ std::string awaitNumber(int announcement) {
 
 } // namespace
 
-bool PrivateDisplay::isNamedInEnvironment() {
+bool isDisplayNamed() {
   const char *const name = std::getenv("DISPLAY");
   return name != nullptr && *name != '\0';
 }
 
-PrivateDisplay::PrivateDisplay() {
+void startPrivateDisplay() {
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0)
     throw Failure(ExitCode::Display, messages::kNoDisplay);
   const pid_t parent = getpid();
-  server_ = fork();
-  if (server_ == 0)
+  const pid_t server = fork();
+  if (server == 0)
     becomeServer(ends[1], parent);
   close(ends[1]);
-  const std::string number = server_ > 0 ? awaitNumber(ends[0]) : std::string();
+  const std::string number = server > 0 ? awaitNumber(ends[0]) : std::string();
   close(ends[0]);
   if (number.empty()) {
-    if (server_ > 0) {
-      kill(server_, SIGTERM);
-      waitpid(server_, nullptr, 0);
+    if (server > 0) {
+      kill(server, SIGTERM);
+      waitpid(server, nullptr, 0);
     }
     throw Failure(ExitCode::Display, messages::kNoDisplay);
   }
   setenv("DISPLAY", (':' + number).c_str(), 1);
-}
-
-PrivateDisplay::~PrivateDisplay() {
-  kill(server_, SIGTERM);
-  waitpid(server_, nullptr, 0);
 }
 
 } // namespace imageposition

@@ -2,26 +2,15 @@
 #ifndef IMAGEPOSITION_HOST_PRIVATEDISPLAY_HPP
 #define IMAGEPOSITION_HOST_PRIVATEDISPLAY_HPP
 
-#include <sys/types.h>
-
 namespace imageposition {
 
-/// An Xvfb of this process's own, named in its DISPLAY. It ends with this object, or with the
-/// process if that is killed.
-class PrivateDisplay {
-public:
-  /// Starts one and waits until it answers. Throws a `Failure` with `ExitCode::Display`.
-  PrivateDisplay();
-  ~PrivateDisplay();
-  PrivateDisplay(const PrivateDisplay &) = delete;
-  PrivateDisplay &operator=(const PrivateDisplay &) = delete;
+/// Whether DISPLAY names anything at all.
+bool isDisplayNamed();
 
-  /// Whether DISPLAY names anything at all.
-  static bool isNamedInEnvironment();
-
-private:
-  pid_t server_ = -1;
-};
+/// Starts an Xvfb of this process's own, waits until it answers, and names it in DISPLAY. It ends
+/// when this process does and not before: the platform's connection to it is never closed, and losing
+/// it would end the process. Throws a `Failure` with `ExitCode::Display`.
+void startPrivateDisplay();
 
 } // namespace imageposition
 

@@ -12,7 +12,6 @@
 #include <cerrno>
 #include <cstring>
 #include <iostream>
-#include <memory>
 #include <unistd.h>
 
 using namespace imageposition;
@@ -53,9 +52,8 @@ void finish(const Arguments &arguments, const Ticket &ticket) {
 }
 
 ExitCode runInBatch(const Arguments &arguments, PrinterDescription &printer, Ticket &ticket) {
-  std::unique_ptr<PrivateDisplay> display;
-  if (!PrivateDisplay::isNamedInEnvironment())
-    display = std::make_unique<PrivateDisplay>();
+  if (!isDisplayNamed())
+    startPrivateDisplay();
   startApplication();
   const auto plugins = pluginsFor(arguments, printer);
   PanelSession session(printer, ticket.settings);
