@@ -171,8 +171,17 @@ TEST_F(InterfaceFile, EntryFieldsAreEditedAndTellWhenEditingEnds) {
     EXPECT_EQ(value(cell + "/@selectable"), "YES");
     EXPECT_EQ(value(cell + "/@sendsActionOnEndEditing"), "YES");
     EXPECT_EQ(value(cell + "/@alignment"), "right");
-    for (const char *label : {"Label", "RangeLabel"})
-      EXPECT_EQ(count(element(setting + label) + "/textFieldCell/@editable"), 0u);
+  }
+}
+
+// GNUstep's text fields are editable unless told otherwise.
+TEST_F(InterfaceFile, LabelsCanBeNeitherEditedNorSelected) {
+  for (const std::string &setting : kSettings) {
+    for (const char *label : {"Label", "RangeLabel"}) {
+      const std::string cell = element(setting + label) + "/textFieldCell";
+      EXPECT_EQ(value(cell + "/@editable"), "NO") << setting << label;
+      EXPECT_EQ(value(cell + "/@selectable"), "NO") << setting << label;
+    }
   }
 }
 

@@ -172,3 +172,10 @@ TEST_P(PanelLayout, TabGoesFromEntryFieldToEntryField) {
   }
   EXPECT_EQ([control("btnRestore2Defalut") nextValidKeyView], field("FrontLRM"));
 }
+
+TEST_P(PanelLayout, LabelsTakeNoKeys) {
+  for (const std::string &setting : kSettingNames) {
+    for (NSTextField *label : {nameLabel(setting), rangeLabel(setting)})
+      EXPECT_FALSE([label canBecomeKeyView]) << setting;
+  }
+}
