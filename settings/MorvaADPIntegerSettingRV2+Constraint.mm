@@ -99,6 +99,8 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
   for (const ConstraintTable::Position position : rules->table().rulesActingOn(*name)) {
     if (![self checkUIConstraintCondition:rules->dictionary(position)])
       continue;
+    // Whoever hears of the action may ask for a condition meanwhile.
+    own.knownIsCurrent = false;
     const Action &action = rules->table()[position].action;
     switch (action.kind) {
     case Action::Kind::Nothing:

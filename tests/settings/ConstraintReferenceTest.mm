@@ -1,0 +1,335 @@
+#import "tests/settings/SettingFixture.h"
+#import "tests/support/Pool.h"
+
+#include <array>
+#include <random>
+
+namespace imageposition::test {
+namespace {
+
+// A second, slow and literal reading of rule tables, against which the settings are compared: it
+// walks the raw dictionaries with the platform's own operations and keeps nothing.
+
+constexpr std::array<const char *, 4> kNames = {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"};
+
+int32_t integer(NSString *text) {
+  const std::string bytes = text == nil ? "" : cxxString(text);
+  std::size_t i = 0;
+  while (i < bytes.size() && (bytes[i] == ' ' || bytes[i] == '\t'))
+    ++i;
+  const bool negative = i < bytes.size() && bytes[i] == '-';
+  if (i < bytes.size() && (bytes[i] == '-' || bytes[i] == '+'))
+    ++i;
+  double number = 0;
+  for (; i < bytes.size() && bytes[i] >= '0' && bytes[i] <= '9'; ++i)
+    number = number * 10 + (bytes[i] - '0');
+  number = negative ? -number : number;
+  return static_cast<int32_t>(std::min(2147483647.0, std::max(-2147483648.0, number)));
+}
+
+NSString *text(id rule, NSString *key) {
+  id entry = [rule isKindOfClass:[NSDictionary class]] ? [rule objectForKey:key] : nil;
+  return [entry isKindOfClass:[NSString class]] ? entry : nil;
+}
+
+struct Model {
+  NSString *name;
+  int32_t value = 3;
+  int32_t min = -20;
+  int32_t max = 20;
+  int32_t standard = 3;
+
+  void set(int32_t number, Lines &calls) {
+    value = number;
+    if (value > max)
+      value = max;
+    else if (value < min)
+      value = min;
+    calls.push_back(cxxString(name) + ".setStringValue:" + std::to_string(value));
+  }
+
+  void setAvailable(bool available, Lines &calls) {
+    if (!available)
+      set(standard, calls);
+    calls.push_back(cxxString(name) + ".setViewAvailable:" + std::to_string(available));
+  }
+};
+
+class Reference {
+public:
+  Reference(NSDictionary *rules, ppd_file_t *ppd) : rules_(rules), ppd_(ppd) {
+    for (const char *name : kNames)
+      models.push_back({nsString(name)});
+  }
+
+  void apply(std::size_t index) {
+    Model &own = models[index];
+    for (NSUInteger i = 0; i < [rules_ count]; ++i) {
+      id rule = [rules_ objectForKey:nsString(std::to_string(i))];
+      NSString *object = text(rule, @"ActionObj");
+      if (object == nil || ![object isEqualToString:own.name] || !holds(rule))
+        continue;
+      act(own, text(rule, @"ActionPattern"), text(rule, @"ActionValue"));
+    }
+  }
+
+  std::vector<Model> models;
+  Lines calls;
+
+private:
+  void act(Model &own, NSString *pattern, NSString *actionValue) {
+    if ([pattern isEqualToString:@"Value"]) {
+      if (actionValue != nil)
+        own.set(integer(actionValue), calls);
+    } else if ([pattern isEqualToString:@"View"]) {
+      if ([actionValue isEqualToString:@"ON"])
+        own.setAvailable(true, calls);
+      else if ([actionValue isEqualToString:@"OFF"])
+        own.setAvailable(false, calls);
+    } else if ([pattern isEqualToString:@"Range"]) {
+      NSArray *parts = [actionValue componentsSeparatedByString:@":"];
+      if (actionValue == nil)
+        own.min = own.max = 0;
+      else if ([parts count] >= 2) {
+        own.min = integer([parts objectAtIndex:0]);
+        own.max = integer([parts objectAtIndex:1]);
+      }
+    } else if ([pattern isEqualToString:@"Default"]) {
+      if (actionValue != nil)
+        own.standard = integer(actionValue);
+    }
+  }
+
+  bool holds(id rule) const {
+    NSString *type = text(rule, @"ConditionType");
+    NSString *pattern = text(rule, @"ConditionPattern");
+    NSString *expected = text(rule, @"ConditionValue");
+    if ([type isEqualToString:@"PPD"]) {
+      if (pattern == nil || expected == nil)
+        return false;
+      const ppd_attr_t *attribute = ppdFindAttr(ppd_, cxxString(pattern).c_str(), nullptr);
+      return attribute != nullptr && attribute->value != nullptr &&
+             cxxString(expected) == attribute->value;
+    }
+    bool result = false;
+    if (![type isEqualToString:@"Setting"])
+      return result;
+    for (const Model &model : models) {
+      if (![model.name isEqualToString:text(rule, @"ConditionObj")])
+        continue;
+      if ([pattern isEqualToString:@"Value"])
+        result |= expected != nil && cxxString(expected) == std::to_string(model.value);
+      else if ([pattern isEqualToString:@"Range"])
+        result |= liesIn(model.value, expected);
+    }
+    return result;
+  }
+
+  static bool liesIn(int32_t number, NSString *interval) {
+    if (interval == nil)
+      return number == 0;
+    NSArray *parts = [interval componentsSeparatedByString:@":"];
+    return [parts count] >= 2 && integer([parts objectAtIndex:1]) >= number &&
+           integer([parts objectAtIndex:0]) <= number;
+  }
+
+  NSDictionary *rules_;
+  ppd_file_t *ppd_;
+};
+
+/// Rule tables in which most rules make sense and the others are wrong in every known way.
+class Tables {
+public:
+  explicit Tables(unsigned seed) : random_(seed) {}
+
+  NSDictionary *next() {
+    NSMutableDictionary *table = [NSMutableDictionary dictionary];
+    const unsigned count = random_() % 24;
+    for (unsigned i = 0; i < count; ++i)
+      [table setObject:entry() forKey:key(i)];
+    return table;
+  }
+
+  unsigned below(unsigned bound) { return random_() % bound; }
+  // Mostly small, so that texts are often equal and intervals often hold.
+  int32_t number() {
+    const int32_t reach = below(6) == 0 ? 30 : 4;
+    return static_cast<int32_t>(below(2 * reach + 1)) - reach;
+  }
+
+private:
+  NSString *key(unsigned index) {
+    if (below(25) != 0)
+      return nsString(std::to_string(index));
+    return pick({"00", "+1", "-1", "x", "", "40", "01", "2"});
+  }
+
+  id entry() {
+    switch (below(30)) {
+    case 0:
+      return @"no dictionary";
+    case 1:
+      return [NSArray array];
+    default:
+      return rule();
+    }
+  }
+
+  NSDictionary *rule() {
+    NSMutableDictionary *rule = [NSMutableDictionary dictionary];
+    put(rule, @"ActionObj", name());
+    put(rule, @"ConditionObj", name());
+    put(rule, @"ActionPattern",
+        pick({"Value", "View", "Range", "Default", "Value", "Range", "value"}));
+    const bool asksThePrinter = below(4) == 0;
+    put(rule, @"ConditionType",
+        below(20) == 0   ? pick({"ppd", "", "Settings"})
+        : asksThePrinter ? @"PPD"
+                         : @"Setting");
+    put(rule, @"ConditionPattern",
+        asksThePrinter ? pick({"ShiftA", "ShiftA", "ShiftB", "ShiftEmpty", "Missing"})
+                       : pick({"Value", "Range", "Range", "Range", "Range", "range"}));
+    put(rule, @"ConditionValue",
+        asksThePrinter ? pick({"on", "on", "off", "", "On"}) : value(below(8) != 0));
+    put(rule, @"ActionValue", below(5) == 0 ? pick({"ON", "OFF", "on"}) : value(below(2) == 0));
+    return rule;
+  }
+
+  // Now and then an entry is missing, or no text.
+  void put(NSMutableDictionary *rule, NSString *key, NSString *text) {
+    switch (below(40)) {
+    case 0:
+      break;
+    case 1:
+      [rule setObject:[NSNumber numberWithInt:5] forKey:key];
+      break;
+    default:
+      [rule setObject:text forKey:key];
+    }
+  }
+
+  NSString *name() { return below(12) == 0 ? pick({"", "frontlrm", "Other"}) : pick(kNames); }
+
+  NSString *value(bool interval) {
+    if (below(10) == 0)
+      return pick({"", "abc", "05", "+5", " 7", "-0", "5x", ":", "a:b", "99999999999",
+                   "-99999999999", "1:2:3", "--4"});
+    if (!interval)
+      return nsString(std::to_string(number()));
+    const int32_t first = number();
+    const int32_t second = number();
+    const bool inverted = below(8) == 0;
+    return nsString(std::to_string(inverted ? std::max(first, second) : std::min(first, second)) +
+                    ":" +
+                    std::to_string(inverted ? std::min(first, second) : std::max(first, second)));
+  }
+
+  template <std::size_t N> NSString *pick(const std::array<const char *, N> &texts) {
+    return nsString(texts[below(N)]);
+  }
+  NSString *pick(std::initializer_list<const char *> texts) {
+    return nsString(texts.begin()[below(static_cast<unsigned>(texts.size()))]);
+  }
+
+  std::mt19937 random_;
+};
+
+class ConstraintReference : public SettingTest {
+protected:
+  ConstraintReference()
+      : ppd_({"*ShiftA: \"on\"", "*ShiftB First: \"off\"", "*ShiftB Second: \"on\"",
+              "*ShiftEmpty: \"\""}) {}
+
+  std::vector<MorvaADPIntegerSettingRV2 *> panel(NSDictionary *rules) {
+    std::vector<MorvaADPIntegerSettingRV2 *> settings;
+    NSMutableArray *list = [NSMutableArray array];
+    for (const char *name : kNames) {
+      MorvaADPIntegerSettingRV2 *setting = [[[MorvaADPIntegerSettingRV2 alloc]
+          initWithSettingInfo:dictionary(record({{"SettingName", name}}))
+               ConstraintInfo:rules
+                   BundleInfo:resources.bundle()
+                          PPD:ppd_] autorelease];
+      settings.push_back(setting);
+      [list addObject:setting];
+    }
+    for (std::size_t i = 0; i < kNames.size(); ++i)
+      [settings[i] setRelatedSettings:list HandlingTarget:array({item(kNames[i], kEntryField)})];
+    journal.clear();
+    return settings;
+  }
+
+  void expectSame(const std::vector<MorvaADPIntegerSettingRV2 *> &settings,
+                  const Reference &reference) {
+    for (std::size_t i = 0; i < kNames.size(); ++i) {
+      const Model &model = reference.models[i];
+      EXPECT_EQ(value(settings[i]), model.value) << kNames[i];
+      EXPECT_EQ(field<int32_t>(settings[i], "Min"), model.min) << kNames[i];
+      EXPECT_EQ(field<int32_t>(settings[i], "Max"), model.max) << kNames[i];
+      EXPECT_EQ(field<int32_t>(settings[i], "Default"), model.standard) << kNames[i];
+    }
+    EXPECT_EQ(journal.lines(), reference.calls);
+  }
+
+  /// Edits and walks at random, the same in both.
+  void play(Tables &random, NSDictionary *rules) {
+    const auto settings = panel(rules);
+    Reference reference(rules, ppd_);
+    std::size_t edits = 0;
+    for (; edits < 8 && !HasFailure(); ++edits) {
+      const unsigned index = random.below(4);
+      const int32_t number = random.number();
+      [settings[index] setIntValue:number];
+      reference.models[index].set(number, reference.calls);
+      for (std::size_t i = 0; i < kNames.size(); ++i) {
+        [settings[i] applyUIConstraint:store.handle()];
+        reference.apply(i);
+      }
+      expectSame(settings, reference);
+    }
+    heard_ += reference.calls.size() - edits;
+  }
+
+  TestPpd ppd_;
+  std::size_t heard_ = 0; // calls that rules made
+};
+
+TEST_F(ConstraintReference, RandomTablesDoWhatALiteralWalkDoes) {
+  Tables random(20240607);
+  for (int round = 0; round < 3000 && !HasFailure(); ++round) {
+    Pool pool;
+    NSDictionary *rules = random.next();
+    play(random, rules);
+    if (HasFailure())
+      ADD_FAILURE() << "round " << round << " with " << cxxString(rules);
+  }
+  // Were hardly any rule to fire, the comparison would say nothing.
+  EXPECT_GT(heard_, 5000u);
+}
+
+TEST_F(ConstraintReference, EveryRuleAloneDecidesAsALiteralReadingDoes) {
+  Tables random(31);
+  for (int round = 0; round < 1500 && !HasFailure(); ++round) {
+    Pool pool;
+    NSDictionary *rules = random.next();
+    const auto settings = panel(rules);
+    for (NSUInteger i = 0; i < [rules count]; ++i) {
+      id rule = [rules objectForKey:nsString(std::to_string(i))];
+      if (![rule isKindOfClass:[NSDictionary class]])
+        continue;
+      // As a rule of its own, which sets the default when it fires.
+      NSMutableDictionary *question = [NSMutableDictionary dictionaryWithDictionary:rule];
+      [question setObject:@"FrontLRM" forKey:@"ActionObj"];
+      [question setObject:@"Default" forKey:@"ActionPattern"];
+      [question setObject:@"77" forKey:@"ActionValue"];
+      NSDictionary *table = [NSDictionary dictionaryWithObject:question forKey:@"0"];
+      Reference reference(table, ppd_);
+      reference.apply(0);
+      EXPECT_EQ(bool([settings[0] checkUIConstraintCondition:rule]),
+                reference.models[0].standard == 77)
+          << cxxString(rule);
+    }
+  }
+}
+
+} // namespace
+} // namespace imageposition::test
