@@ -1,0 +1,572 @@
+// Controllers with the real view, real settings and real rules, in sequence: print settings that
+// fail, hosts that answer nothing, and long random uses compared with a plain model.
+#import "tests/controller/ControllerFixture.h"
+#include "tests/controller/PanelModel.hpp"
+#import "tests/support/Pool.h"
+
+#include <functional>
+#include <random>
+
+using namespace imageposition::test;
+using testing::ElementsAre;
+
+namespace {
+
+NSDictionary *rulesOfTheModel() {
+  return rules({{"BackLRM", "Setting", "Value", "7", "FrontTBM", "Range", "-5:5"},
+                {"FrontLRM", "Setting", "Range", "5:10", "BackLRM", "Value", "3"},
+                {"FrontTBM", "Setting", "Value", "0", "BackTBM", "Default", "4"},
+                {"FrontLRM", "Setting", "Value", "-1", "BackTBM", "View", "OFF"}});
+}
+
+class PanelUse : public ControllerFixture {
+protected:
+  void SetUp() override {
+    ControllerFixture::SetUp();
+    writeInterfaceFile();
+    writeBundle();
+    for (std::size_t i = 0; i < kNames.size(); ++i)
+      model.offsets[i].ticketKey = kNames[i] + "Ticket";
+  }
+
+  void makeWithView() {
+    ASSERT_NE(make(), nil);
+    ASSERT_NE([controller prepareView], nil);
+    for (std::size_t i = 0; i < kNames.size(); ++i)
+      model.offsets[i].shown = cxxString([text(kNames[i]) stringValue]);
+  }
+
+  NSTextField *text(const std::string &name) { return get<NSTextField *>((name + "Text").c_str()); }
+  NSStepper *stepper(const std::string &name) {
+    return get<NSStepper *>((name + "Stepper").c_str());
+  }
+  NSTextField *label(const std::string &name) {
+    return get<NSTextField *>((name + "Label").c_str());
+  }
+  NSTextField *rangeLabel(const std::string &name) {
+    return get<NSTextField *>((name + "RangeLabel").c_str());
+  }
+  NSButton *check() { return get<NSButton *>("chkEnableImagePositionAdjust"); }
+  std::string shown(const std::string &name) { return cxxString([text(name) stringValue]); }
+
+  void put(const std::string &key, const std::string &value) {
+    settings->put(key, value);
+    model.store[key] = value;
+  }
+  void putAll() {
+    put("FrontLRMTicket", "-3");
+    put("FrontTBMTicket", "4");
+    put("BackLRMTicket", "5");
+    put("BackTBMTicket", "-6");
+    put(kEnableKey, "True");
+  }
+
+  void show() {
+    [controller prepareForShow];
+    [controller getTicket];
+    [controller saveTicket];
+    model.prepareForShow();
+    model.getTicket();
+    model.saveTicket();
+  }
+
+  void expectLikeTheModel() {
+    for (std::size_t i = 0; i < kNames.size(); ++i) {
+      const std::string &name = kNames[i];
+      const PanelModel::Offset &offset = model.offsets[i];
+      EXPECT_EQ(value(name), offset.value) << name;
+      EXPECT_EQ(field<int32_t>(setting(name), "Min"), offset.min) << name;
+      EXPECT_EQ(field<int32_t>(setting(name), "Max"), offset.max) << name;
+      EXPECT_EQ(field<int32_t>(setting(name), "Default"), offset.defaultValue) << name;
+      EXPECT_EQ(shown(name), offset.shown) << name;
+      EXPECT_EQ([stepper(name) intValue], offset.steps) << name;
+      for (NSControl *item :
+           {static_cast<NSControl *>(text(name)), static_cast<NSControl *>(stepper(name)),
+            static_cast<NSControl *>(label(name)), static_cast<NSControl *>(rangeLabel(name))})
+        EXPECT_EQ([item isEnabled] != NO, offset.enabled) << name;
+      EXPECT_TRUE([[label(name) textColor]
+          isEqual:offset.enabled ? [NSColor blackColor] : [NSColor lightGrayColor]]);
+      EXPECT_EQ([[text(name) textColor] isEqual:[NSColor lightGrayColor]] != NO, offset.fieldIsGray)
+          << name;
+      EXPECT_EQ(settings->text(offset.ticketKey), stored(offset.ticketKey)) << name;
+    }
+    EXPECT_EQ([check() state] != 0, model.checked);
+    EXPECT_EQ([check() isEnabled] != NO, model.checkEnabled);
+    EXPECT_EQ([get<NSButton *>("btnRestore2Defalut") isEnabled] != NO, model.checkEnabled);
+    EXPECT_EQ(cxxString([label("FrontLRM") stringValue]),
+              model.checked ? "Front left-right" : "Left-right");
+    EXPECT_EQ(cxxString([label("FrontTBM") stringValue]),
+              model.checked ? "Front top-bottom" : "Top-bottom");
+    EXPECT_EQ(settings->text(kEnableKey), stored(kEnableKey));
+  }
+
+  std::optional<std::string> stored(const std::string &key) {
+    const auto entry = model.store.find(key);
+    if (entry == model.store.end())
+      return std::nullopt;
+    return entry->second;
+  }
+
+  PanelModel model;
+};
+
+// What one use does.
+
+TEST_F(PanelUse, ShowingTakesTheStoredValues) {
+  makeWithView();
+  putAll();
+  show();
+  EXPECT_EQ(shown("FrontLRM"), "-3");
+  EXPECT_EQ(shown("BackTBM"), "-6");
+  EXPECT_EQ([check() state], 1);
+  EXPECT_EQ(cxxString([label("BackLRM") stringValue]), "Back left-right");
+  EXPECT_EQ(cxxString([rangeLabel("BackLRM") stringValue]), "-20 to 20");
+  EXPECT_EQ(cxxString([check() title]), "Own offsets for the back");
+  EXPECT_EQ(cxxString([get<NSButton *>("btnRestore2Defalut") title]), "Back to zero");
+  expectLikeTheModel();
+}
+
+TEST_F(PanelUse, SavingWritesEachValueUnderItsKeyAndTheFlag) {
+  makeWithView();
+  putAll();
+  [controller getTicket];
+  settings->put("FrontLRMTicket", "1");
+  settings->put(kEnableKey, "False");
+  [controller saveTicket];
+  EXPECT_EQ(settings->text("FrontLRMTicket"), "-3");
+  EXPECT_EQ(settings->text("FrontTBMTicket"), "4");
+  EXPECT_EQ(settings->text("BackLRMTicket"), "5");
+  EXPECT_EQ(settings->text("BackTBMTicket"), "-6");
+  EXPECT_EQ(settings->text(kEnableKey), "True");
+}
+
+TEST_F(PanelUse, AnEditReachesThePrintSettingsAtOnce) {
+  makeWithView();
+  show();
+  [text("FrontLRM") setStringValue:@"-3"];
+  [controller UIItemActionListener:text("FrontLRM")];
+  EXPECT_EQ(settings->text("FrontLRMTicket"), "-3");
+  EXPECT_EQ(shown("FrontLRM"), "-3");
+}
+
+TEST_F(PanelUse, AnEditAndStepsTogetherAddUp) {
+  makeWithView();
+  show();
+  [text("FrontLRM") setStringValue:@"5"];
+  [stepper("FrontLRM") setIntValue:-1];
+  [controller UIItemActionListener:stepper("FrontLRM")];
+  EXPECT_EQ(settings->text("FrontLRMTicket"), "4");
+  EXPECT_EQ([stepper("FrontLRM") intValue], 0);
+}
+
+TEST_F(PanelUse, StepsWithoutPrintSettingsStayPendingInTheStepper) {
+  makeWithView();
+  show();
+  host->settings = nullptr;
+  [stepper("BackLRM") setIntValue:2];
+  [controller UIItemActionListener:stepper("BackLRM")];
+  EXPECT_EQ([stepper("BackLRM") intValue], 2);
+  EXPECT_EQ(value("BackLRM"), 0);
+  host->settings = settings->handle();
+  [controller UIItemActionListener:nil];
+  EXPECT_EQ([stepper("BackLRM") intValue], 0);
+  EXPECT_EQ(value("BackLRM"), 2);
+}
+
+TEST_F(PanelUse, TheCheckboxReachesThePrintSettingsOnlyWhenSaved) {
+  makeWithView();
+  show();
+  [check() setState:1];
+  [controller clickEnableImgPositionAdjust:check()];
+  EXPECT_EQ(settings->text(kEnableKey), "False");
+  EXPECT_TRUE([text("BackLRM") isEnabled]);
+  EXPECT_EQ(cxxString([label("FrontLRM") stringValue]), "Front left-right");
+  [controller saveTicket];
+  EXPECT_EQ(settings->text(kEnableKey), "True");
+}
+
+TEST_F(PanelUse, ForbiddenWithTheBoxCheckedEverythingIsDisabledAndTheBoxStaysChecked) {
+  makeWithView();
+  putAll();
+  ppd->mark("Duplex", "None");
+  show();
+  model.allowed = false;
+  model.grayUI();
+  expectLikeTheModel();
+  EXPECT_EQ([check() state], 1);
+  EXPECT_FALSE([check() isEnabled]);
+  EXPECT_EQ(cxxString([label("FrontLRM") stringValue]), "Front left-right");
+}
+
+TEST_F(PanelUse, RestoringDefaultsLeavesThePrintSettingsUntilTheNextRefresh) {
+  makeWithView();
+  putAll();
+  show();
+  settings->forgetCalls();
+  [controller clickbtnReasto2Default:nil];
+  EXPECT_TRUE(settings->calls().empty());
+  EXPECT_EQ(settings->text("FrontLRMTicket"), "-3");
+  EXPECT_EQ(shown("FrontLRM"), "0");
+  EXPECT_EQ([check() state], 0);
+  [controller notifyUI];
+  EXPECT_EQ(settings->text("FrontLRMTicket"), "0");
+  EXPECT_EQ(settings->text(kEnableKey), "True");
+  [controller saveTicket];
+  EXPECT_EQ(settings->text(kEnableKey), "False");
+}
+
+TEST_F(PanelUse, RestoringDefaultsIgnoresTheDefinitionsDefault) {
+  NSMutableDictionary *record = definition("FrontLRM");
+  [record setObject:@"9" forKey:@"DefaultValue"];
+  NSMutableDictionary *all = fourDefinitions();
+  [all setObject:record forKey:@"0"];
+  writeBundle(all);
+  makeWithView();
+  show();
+  EXPECT_EQ(shown("FrontLRM"), "9");
+  [controller restoreDefaults];
+  EXPECT_EQ(shown("FrontLRM"), "0");
+}
+
+/// Notes the texts that the entry field is given.
+TEST_F(PanelUse, RestoringDefaultsOutsideTheRangeShowsZeroFirstAndThenTheNearestBound) {
+  NSMutableDictionary *record = definition("FrontTBM");
+  [record setObject:@"5:10" forKey:@"Range"];
+  [record setObject:@"8" forKey:@"DefaultValue"];
+  NSMutableDictionary *all = fourDefinitions();
+  [all setObject:record forKey:@"1"];
+  writeBundle(all);
+  makeWithView();
+  show();
+  id real = get<id>("FrontTBMText");
+  RecordingControl *before = [[RecordingControl alloc] initWithName:"field" journal:&journal];
+  get<id>("FrontTBMText") = before;
+  [controller restoreDefaults];
+  const Lines lines = journal.take();
+  get<id>("FrontTBMText") = real;
+  [before release];
+  EXPECT_EQ(lines.front(), "field.setStringValue:0");
+  EXPECT_EQ(shown("FrontTBM"), "5") << "which the setting put there, through its own item";
+  EXPECT_EQ(value("FrontTBM"), 5);
+}
+
+TEST_F(PanelUse, ADefaultRuleDecidesWhatIsFirstShownForASettingThatIsNotStored) {
+  writeBundle(fourDefinitions(),
+              rules({{"FrontTBM", "Setting", "Value", "0", "BackTBM", "Default", "4"}}));
+  makeWithView();
+  [controller prepareForShow];
+  EXPECT_EQ(shown("BackTBM"), "4");
+  EXPECT_EQ(settings->text("BackTBMTicket"), "4");
+}
+
+TEST_F(PanelUse, AStoredValueReplacesWhatAValueRuleJustSet) {
+  writeBundle(fourDefinitions(),
+              rules({{"FrontTBM", "Setting", "Value", "9", "BackTBM", "Value", "4"}}));
+  makeWithView();
+  settings->put("FrontTBMTicket", "8");
+  settings->put("BackTBMTicket", "2");
+  [controller prepareForShow];
+  EXPECT_EQ(shown("BackTBM"), "2");
+}
+
+TEST_F(PanelUse, ReadingWithoutAViewKeepsTheStoredNumberUnclamped) {
+  ASSERT_NE(make(), nil);
+  settings->put("FrontLRMTicket", "99");
+  [controller getTicket];
+  EXPECT_EQ(value("FrontLRM"), 99);
+  [controller saveTicket];
+  EXPECT_EQ(settings->text("FrontLRMTicket"), "20");
+}
+
+TEST_F(PanelUse, ARangeThatARuleChangedShowsAtTheNextRefreshAndNotInTheEntryField) {
+  writeBundle(fourDefinitions(), rulesOfTheModel());
+  makeWithView();
+  show();
+  [text("BackLRM") setStringValue:@"7"];
+  [controller UIItemActionListener:nil];
+  EXPECT_EQ(cxxString([rangeLabel("FrontTBM") stringValue]), "-20 to 20");
+  [controller UIItemActionListener:nil];
+  EXPECT_EQ(cxxString([rangeLabel("FrontTBM") stringValue]), "-5 to 5");
+  EXPECT_EQ(field<int32_t>(text("FrontTBM"), "Max"), 20);
+}
+
+TEST_F(PanelUse, AnEntryFieldThatARuleMadeUnusableStaysLightGray) {
+  writeBundle(fourDefinitions(), rulesOfTheModel());
+  makeWithView();
+  settings->put(kEnableKey, "True");
+  show();
+  [text("FrontLRM") setStringValue:@"-1"];
+  [controller UIItemActionListener:nil];
+  EXPECT_TRUE([text("BackTBM") isEnabled]) << "availability is decided last";
+  EXPECT_TRUE([[text("BackTBM") textColor] isEqual:[NSColor lightGrayColor]]);
+  EXPECT_TRUE([[label("BackTBM") textColor] isEqual:[NSColor blackColor]]);
+  EXPECT_EQ(field<BOOL>(text("BackTBM"), "ViewState"), NO);
+}
+
+// Print settings that fail once.
+
+using Use = std::function<void(PanelUse &)>;
+
+class PanelUseFailing : public PanelUse {
+protected:
+  /// Runs the use once for each of its reads and writes, of which that one fails, and compares what
+  /// is left with the model.
+  template <class Real, class Modelled> void failEachAccess(Real real, Modelled modelled) {
+    for (bool failsRead : {true, false}) {
+      for (int n = 1;; ++n) {
+        SCOPED_TRACE((failsRead ? "read " : "write ") + std::to_string(n));
+        Pool pool;
+        settings = std::make_unique<TestPrintSettings>();
+        host->settings = settings->handle();
+        model = PanelModel();
+        for (std::size_t i = 0; i < kNames.size(); ++i)
+          model.offsets[i].ticketKey = kNames[i] + "Ticket";
+        makeWithView();
+        putAll();
+        show();
+        log->clear();
+        settings->forgetCalls();
+        (failsRead ? model.failRead : model.failWrite) = n;
+        failsRead ? settings->failRead(n) : settings->failWrite(n);
+        real();
+        modelled();
+        const std::size_t accesses = settings->count(failsRead ? TestPrintSettings::Access::Get
+                                                               : TestPrintSettings::Access::Set);
+        expectLikeTheModel();
+        expectFlagFailureLogged();
+        settings->stopFailing();
+        model.failRead = model.failWrite = 0;
+        show();
+        expectLikeTheModel();
+        if (accesses < static_cast<std::size_t>(n)) {
+          EXPECT_GT(n, 1) << "nothing failed";
+          break;
+        }
+      }
+    }
+  }
+
+  void expectFlagFailureLogged() {
+    long failed = 0;
+    for (const TestPrintSettings::Call &call : settings->calls())
+      if (call.key == kEnableKey && call.access == TestPrintSettings::Access::Set &&
+          call.status != 0)
+        ++failed;
+    EXPECT_EQ(std::count(log->lines().begin(), log->lines().end(), kFlagNotWritten), failed);
+  }
+};
+
+TEST_F(PanelUseFailing, ShowingLosesOnlyWhatItCouldNotReadOrWrite) {
+  failEachAccess(
+      [this] {
+        [controller prepareForShow];
+        [controller getTicket];
+        [controller saveTicket];
+      },
+      [this] {
+        model.prepareForShow();
+        model.getTicket();
+        model.saveTicket();
+      });
+}
+
+TEST_F(PanelUseFailing, AnActionLosesOnlyWhatItCouldNotReadOrWrite) {
+  failEachAccess(
+      [this] {
+        [text("BackLRM") setStringValue:@"9"];
+        [stepper("FrontTBM") setIntValue:2];
+        [controller UIItemActionListener:nil];
+      },
+      [this] {
+        model.offsets[PanelModel::BackLRM].shown = "9";
+        model.offsets[PanelModel::FrontTBM].steps = 2;
+        model.action();
+      });
+}
+
+TEST_F(PanelUseFailing, SavingLosesOnlyWhatItCouldNotReadOrWrite) {
+  // A write that fails is followed by a read: save twice, so that reads can be counted too.
+  failEachAccess(
+      [this] {
+        [controller notifyUI];
+        [controller saveTicket];
+        [controller getTicket];
+      },
+      [this] {
+        model.notifyUI();
+        model.saveTicket();
+        model.getTicket();
+      });
+}
+
+TEST_F(PanelUseFailing, RestoringLosesOnlyWhatItCouldNotReadOrWrite) {
+  failEachAccess(
+      [this] {
+        [controller getTicket];
+        [controller saveTicket];
+        [controller getTicket];
+      },
+      [this] {
+        model.getTicket();
+        model.saveTicket();
+        model.getTicket();
+      });
+}
+
+TEST_F(PanelUse, AWriteThatFailsShowsWhatIsStored) {
+  makeWithView();
+  putAll();
+  show();
+  settings->failWritesOf("FrontLRMTicket");
+  [text("FrontLRM") setStringValue:@"12"];
+  [controller UIItemActionListener:nil];
+  EXPECT_EQ(shown("FrontLRM"), "-3");
+  EXPECT_EQ(value("FrontLRM"), -3);
+  EXPECT_THAT(logWithoutTraces(), testing::Not(testing::Contains(kFlagNotWritten)));
+}
+
+TEST_F(PanelUse, AWriteThatFailsForASettingThatIsNotStoredShowsItsDefault) {
+  makeWithView();
+  settings->failWritesOf("FrontLRMTicket");
+  show();
+  [text("FrontLRM") setStringValue:@"12"];
+  [controller UIItemActionListener:nil];
+  EXPECT_EQ(shown("FrontLRM"), "0");
+}
+
+// A host that answers nothing.
+
+TEST_F(PanelUse, EachRequestForPrintSettingsMayGoUnanswered) {
+  putAll();
+  for (int n = 1;; ++n) {
+    SCOPED_TRACE(n);
+    Pool pool;
+    makeWithView();
+    host->settingsRequests = 0;
+    host->settingsRequestWithoutAnswer = n;
+    [controller prepareForShow];
+    [controller getTicket];
+    [controller saveTicket];
+    [controller UIItemActionListener:nil];
+    [controller getSummaryInfo];
+    [controller restoreDefaults];
+    [controller notifyUI];
+    EXPECT_EQ([controller saveTicket], host -> settingsRequests == n ? NO : YES);
+    if (host->settingsRequests < n)
+      break;
+    ASSERT_LT(n, 20);
+  }
+}
+
+TEST_F(PanelUse, AHostThatNeverAnswersLeavesThePanelUsable) {
+  host->settings = nullptr;
+  makeWithView();
+  [controller prepareForShow];
+  EXPECT_FALSE([controller getTicket]);
+  EXPECT_FALSE([controller saveTicket]);
+  EXPECT_EQ([[controller getSummaryInfo] count], 6U);
+  EXPECT_EQ(cxxString([check() title]), "Own offsets for the back");
+  EXPECT_EQ(shown("FrontLRM"), "0");
+  EXPECT_TRUE([text("FrontLRM") isEnabled]);
+}
+
+// Long uses.
+
+class PanelUseAtRandom : public PanelUse, public testing::WithParamInterface<unsigned> {
+protected:
+  int draw(int from, int to) { return std::uniform_int_distribution<int>(from, to)(generator_); }
+
+  void step() {
+    const std::size_t i = draw(0, 3);
+    PanelModel::Offset &offset = model.offsets[i];
+    switch (draw(0, 11)) {
+    case 0:
+    case 1:
+    case 2: {
+      static const char *const kTexts[] = {"0",   "-1",  "7", "5",  "-",  "-0",         "20",
+                                           "-20", "abc", "",  "25", "-3", "3000000000", "10"};
+      offset.shown = kTexts[draw(0, 13)];
+      [text(kNames[i]) setStringValue:nsString(offset.shown)];
+      break;
+    }
+    case 3:
+      offset.steps = draw(-3, 3);
+      [stepper(kNames[i]) setIntValue:offset.steps];
+      break;
+    case 4:
+      model.checked = !model.checked;
+      [check() setState:model.checked ? 1 : 0];
+      model.grayUI();
+      [controller clickEnableImgPositionAdjust:check()];
+      break;
+    case 5:
+      model.restoreDefaults();
+      [controller clickbtnReasto2Default:nil];
+      break;
+    case 6:
+      EXPECT_EQ([controller getTicket] != NO, model.getTicket());
+      break;
+    case 7:
+      EXPECT_EQ([controller saveTicket] != NO, model.saveTicket());
+      break;
+    case 8:
+      model.prepareForShow();
+      [controller prepareForShow];
+      break;
+    case 9: {
+      static const char *const kStored[] = {"0", "-1", "7", "-25", "abc", "99999999999", "True"};
+      put(draw(0, 4) == 0 ? kEnableKey : offset.ticketKey, kStored[draw(0, 6)]);
+      break;
+    }
+    case 10:
+      change(draw(0, 3));
+      break;
+    default:
+      model.action();
+      [controller UIItemActionListener:text(kNames[i])];
+    }
+  }
+
+  void change(int what) {
+    if (what == 0) {
+      model.allowed = !model.allowed;
+      ppd->mark("MVBannerPagePrint", model.allowed ? "False" : "True");
+    } else if (what == 1) {
+      model.settingsThere = !model.settingsThere;
+      host->settings = model.settingsThere ? settings->handle() : nullptr;
+    } else if (what == 2) {
+      settings->failRead(model.failRead = draw(1, 12));
+    } else {
+      settings->failWrite(model.failWrite = draw(1, 12));
+    }
+    model.notifyUI();
+    [controller notifyUI];
+  }
+
+private:
+  std::mt19937 generator_{GetParam()};
+};
+
+TEST_P(PanelUseAtRandom, StaysLikeTheModel) {
+  model.withRules = GetParam() % 2 != 0;
+  if (model.withRules)
+    writeBundle(fourDefinitions(), rulesOfTheModel());
+  makeWithView();
+  show();
+  for (int i = 0; i < 200; ++i) {
+    SCOPED_TRACE(i);
+    Pool pool;
+    step();
+    model.action();
+    [controller UIItemActionListener:nil];
+    expectLikeTheModel();
+    if (HasFailure())
+      return;
+    log->clear();
+    settings->forgetCalls();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, PanelUseAtRandom, testing::Range(1U, 41U));
+
+} // namespace
