@@ -1,0 +1,26 @@
+# The Debian packages that this project needs, for scripts to source. Each line says what for.
+# shellcheck shell=bash disable=SC2034
+
+build_packages=(
+  g++ gobjc++ cmake ninja-build pkg-config          # the toolchain
+  libgnustep-gui-dev                                # AppKit and Foundation
+  libcups2-dev                                      # printers
+  libcli11-dev nlohmann-json3-dev                   # command line, tickets
+)
+
+run_packages=(
+  gnustep-back0.29-cairo                            # draws the windows
+  fontconfig fonts-dejavu-core fonts-wqy-microhei   # text; Japanese and Chinese with Latin in one font
+  xvfb openbox                                      # a display where there is none
+)
+
+demonstration_packages=(
+  xdotool imagemagick x11-utils                     # keys, clicks and screenshots
+)
+
+test_packages=(
+  libgtest-dev libgmock-dev libbenchmark-dev        # test and benchmark frameworks
+  clang-format clang-tidy shellcheck                # style
+  xdotool xclip imagemagick x11-utils libxtst-dev   # a person at the window
+  cups-client                                       # checks printer descriptions
+)
