@@ -17,26 +17,20 @@ struct RawArguments {
 
 void addOptions(CLI::App &app, RawArguments &raw) {
   Arguments &arguments = raw.arguments;
-  CLI::Option *const ppd = app.add_option("--ppd", arguments.ppd, messages::kHelpPpd);
-  ppd->type_name("FILE");
-  app.add_option("-d,--queue", arguments.queue, messages::kHelpQueue)
-      ->type_name("QUEUE")
-      ->excludes(ppd);
+  app.add_option("--ppd", arguments.ppd, messages::kHelpPpd)->type_name("FILE");
+  app.add_option("-d,--queue", arguments.queue, messages::kHelpQueue)->type_name("QUEUE");
   app.add_option("-o,--option", arguments.options, messages::kHelpOption)
       ->type_name("NAME=VALUE")
-      ->expected(1)
-      ->take_all();
+      ->allow_extra_args(false);
   app.add_option("--plugin", arguments.plugins, messages::kHelpPlugin)
       ->type_name("BUNDLE")
-      ->expected(1)
-      ->take_all();
+      ->allow_extra_args(false);
   app.add_option("--ticket", arguments.ticket, messages::kHelpTicket)->type_name("FILE");
   app.add_option("DOCUMENT", arguments.document, messages::kHelpDocument)->type_name("");
   app.add_flag("--batch", arguments.isBatch, messages::kHelpBatch);
   app.add_option("--set", raw.entries, messages::kHelpSet)
       ->type_name("NAME=TEXT")
-      ->expected(1)
-      ->take_all();
+      ->allow_extra_args(false);
   app.add_option("--back", raw.back, messages::kHelpBack)->type_name("on|off");
   app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
 }
@@ -68,7 +62,7 @@ void fillBatchRequest(RawArguments &raw) {
 }
 
 void checkCombination(const Arguments &arguments) {
-  if (arguments.ppd.empty() && arguments.queue.empty())
+  if (arguments.ppd.empty() == arguments.queue.empty())
     refuse(messages::kNoPrinterNamed);
   if (endsWith(arguments.ticket, ".options"))
     refuse(messages::ticketNamesOptions(arguments.ticket));

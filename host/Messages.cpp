@@ -17,27 +17,27 @@ const char *const kVersion = "print-dialog " IMAGEPOSITION_VERSION;
 const char *const kHelpIntroduction =
     "Sets up a print job with the panels of printer plug-ins.\n"
     "Opens a window; with --batch, sets and prints the same without one.";
-const char *const kHelpPpd = "The printer, by its description: a PPD file, also compressed";
-const char *const kHelpQueue = "The printer, by its CUPS queue: a name, or name/instance";
-const char *const kHelpOption =
-    "A setting of the job, as lp takes it: NAME=VALUE, NAME or noNAME; may be repeated";
+const char *const kHelpPpd = "The printer, by its description: a PPD file";
+const char *const kHelpQueue = "The printer, by its CUPS queue: NAME or NAME/INSTANCE";
+const char *const kHelpOption = "A setting of the job, as lp takes it: NAME=VALUE, NAME\n"
+                                "or noNAME; may be repeated";
 const char *const kHelpPlugin =
-    "Use this plug-in alone; may be repeated. Otherwise those that the printer's description names "
-    "(APDialogExtension), or else those in " IMAGEPOSITION_PLUGIN_FOLDER " or beside this program";
-const char *const kHelpTicket =
-    "The job's settings, in JSON: read when FILE exists, written by Print. The same settings as "
-    "NAME=VALUE lines go beside it (job.options for job.json)";
+    "Use this plug-in and no other; may be repeated.\n"
+    "Without it: those that the printer's description names\n"
+    "(APDialogExtension), or else those in\n" IMAGEPOSITION_PLUGIN_FOLDER "\n"
+    "or beside this program";
+const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exists,\n"
+                                "written by Print. The same as NAME=VALUE lines goes\n"
+                                "beside it (job.options for job.json)";
 const char *const kHelpDocument = "The document to print; the ticket names it";
-const char *const kHelpBatch =
-    "Show no window: fill in the panel, print the job's settings (without --ticket) and the "
-    "summary "
-    "(with --summary). Without a display, a private Xvfb is started for the panel's view";
-const char *const kHelpSet = "Batch: type TEXT into the panel's entry field of that name (or whose "
-                             "name begins so) and press "
-                             "Return; may be repeated";
-const char *const kHelpBack =
-    "Batch: switch the panel's checkbox, offsets of its own for the back side, before anything is "
-    "typed";
+const char *const kHelpBatch = "Show no window: set the panel, then write the job's\n"
+                               "settings to the ticket, or print them without one.\n"
+                               "Where there is no display, Xvfb is started";
+const char *const kHelpSet = "Batch: type TEXT into the panel's entry field of that\n"
+                             "name (or whose name begins so) and press Return; may\n"
+                             "be repeated";
+const char *const kHelpBack = "Batch: switch the panel's checkbox, offsets of its own\n"
+                              "for the back side, before anything is typed";
 const char *const kHelpSummary = "Batch: print the summary that the panels give";
 const char *const kHelpVersion = "Print the version";
 const char *const kHelpHelp = "Print this text";
@@ -79,7 +79,7 @@ std::string usage(const std::string &mistake) {
          " See print-dialog --help.";
 }
 const char *const kNoPrinterNamed =
-    "No printer is named. Name its description with --ppd FILE or its queue with -d QUEUE.";
+    "Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.";
 const char *const kOnlyInBatch = "--set, --back and --summary need --batch.";
 std::string badEntry(const std::string &argument) {
   return "--set takes NAME=TEXT, for example --set FrontLRM=-3, and not \"" + argument + "\".";

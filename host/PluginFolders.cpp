@@ -41,14 +41,17 @@ std::vector<std::string> bundlesNamed(const std::vector<std::string> &paths,
                                       const std::vector<std::string> &folders) {
   std::vector<std::string> bundles;
   for (const std::string &path : paths) {
+    const std::string name = fileNameOf(path);
+    if (name.empty() || name == "." || name == "..")
+      continue;
     if (fs::path(path).is_absolute() && isFolder(path)) {
       bundles.push_back(path);
       continue;
     }
-    const std::string name = fileNameOf(path);
-    const auto folder = std::find_if(folders.begin(), folders.end(), [&](const std::string &f) {
-      return !name.empty() && name != ".." && isFolder(fs::path(f) / name);
-    });
+    const auto folder =
+        std::find_if(folders.begin(), folders.end(), [&](const std::string &candidate) {
+          return isFolder(fs::path(candidate) / name);
+        });
     if (folder != folders.end())
       bundles.push_back((fs::path(*folder) / name).string());
   }

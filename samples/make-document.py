@@ -8,7 +8,7 @@ register; the ticks, one millimetre apart, tell by how much they don't.
 import sys
 
 MM = 72 / 25.4
-WIDTH, HEIGHT = 595, 842  # A4, in points
+WIDTH, HEIGHT = 595.276, 841.89  # A4, in points
 CROSSES = [(30, 30), (180, 30), (105, 148.5), (30, 267), (180, 267)]  # in millimetres
 ARM = 10
 

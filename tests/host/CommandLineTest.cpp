@@ -1,0 +1,107 @@
+#include "host/CommandLine.hpp"
+
+#include "host/ExitCode.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using imageposition::Answer;
+using imageposition::Arguments;
+using imageposition::ExitCode;
+using imageposition::Failure;
+using imageposition::readCommandLine;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+Arguments read(const std::vector<std::string> &words) {
+  return std::get<Arguments>(readCommandLine(words));
+}
+
+/// What a mistake is answered with; it must be a mistake.
+std::string mistake(const std::vector<std::string> &words) {
+  try {
+    readCommandLine(words);
+  } catch (const Failure &failure) {
+    EXPECT_EQ(failure.code(), ExitCode::Usage);
+    return failure.what();
+  }
+  ADD_FAILURE() << "was understood";
+  return {};
+}
+
+TEST(CommandLine, APrinterIsNamedByItsDescriptionOrItsQueue) {
+  EXPECT_EQ(read({"--ppd", "a.ppd"}).ppd, "a.ppd");
+  EXPECT_EQ(read({"-d", "office/draft"}).queue, "office/draft");
+  EXPECT_EQ(read({"--queue=office"}).queue, "office");
+}
+
+TEST(CommandLine, APrinterMustBeNamedOnce) {
+  EXPECT_THAT(mistake({}), HasSubstr("--ppd FILE"));
+  mistake({"--ppd", "a.ppd", "-d", "office"});
+}
+
+TEST(CommandLine, OptionsArePassedOnInTheirOrder) {
+  EXPECT_THAT(read({"--ppd", "a", "-o", "Duplex=None", "-o", "x y=z"}).options,
+              ElementsAre("Duplex=None", "x y=z"));
+}
+
+TEST(CommandLine, AnOptionTakesOneArgument) {
+  const Arguments arguments = read({"--ppd", "a", "-o", "Duplex=None", "report.pdf"});
+  EXPECT_THAT(arguments.options, ElementsAre("Duplex=None"));
+  EXPECT_EQ(arguments.document, "report.pdf");
+}
+
+TEST(CommandLine, PluginsAndTicketAreTakenAsTheyAre) {
+  const Arguments arguments =
+      read({"--ppd", "a", "--plugin", "A.plugin", "--plugin", "B.plugin", "--ticket", "job.json"});
+  EXPECT_THAT(arguments.plugins, ElementsAre("A.plugin", "B.plugin"));
+  EXPECT_EQ(arguments.ticket, "job.json");
+  EXPECT_FALSE(arguments.isBatch);
+}
+
+TEST(CommandLine, ABatchSaysWhatToDoOnThePanel) {
+  const auto batch = read({"--batch", "--ppd", "a", "--set", "FrontLRM=-3", "--set", "FrontTBM=4",
+                           "--back", "on", "--summary"})
+                         .batch;
+  ASSERT_EQ(batch.entries.size(), 2U);
+  EXPECT_EQ(batch.entries[0].name, "FrontLRM");
+  EXPECT_EQ(batch.entries[0].text, "-3");
+  EXPECT_EQ(batch.entries[1].text, "4");
+  EXPECT_EQ(batch.back, true);
+  EXPECT_TRUE(batch.summary);
+}
+
+TEST(CommandLine, MistakesSayWhatIsRight) {
+  EXPECT_THAT(mistake({"--batch", "--ppd", "a", "--set", "FrontLRM"}), HasSubstr("NAME=TEXT"));
+  EXPECT_THAT(mistake({"--batch", "--ppd", "a", "--back", "yes"}), HasSubstr("\"on\" or \"off\""));
+  EXPECT_THAT(mistake({"--ppd", "a", "--set", "FrontLRM=1"}), HasSubstr("--batch"));
+  EXPECT_THAT(mistake({"--ppd", "a", "--summary"}), HasSubstr("--batch"));
+  EXPECT_THAT(mistake({"--ppd", "a", "--ticket", "job.options"}), HasSubstr(".json"));
+  EXPECT_THAT(mistake({"--ppd", "a", "--nonsense"}), HasSubstr("--help"));
+  mistake({"--ppd"});
+  mistake({"--ppd", "a", "one.pdf", "two.pdf"});
+}
+
+TEST(CommandLine, HelpNamesEveryOptionAndExitStatus) {
+  const std::string help = std::get<Answer>(readCommandLine({"--help"})).text;
+  for (const char *part : {"--ppd", "-d,", "-o,", "--plugin", "--ticket", "--batch", "--set",
+                           "--back", "--summary", "--version", "Examples:", "Exit status:"})
+    EXPECT_THAT(help, HasSubstr(part));
+  for (int status = 0; status <= 8; status++)
+    EXPECT_THAT(help, HasSubstr("\n  " + std::to_string(status) + "  "));
+}
+
+TEST(CommandLine, VersionIsOneLine) {
+  const std::string text = std::get<Answer>(readCommandLine({"--version"})).text;
+  EXPECT_THAT(text, testing::MatchesRegex("print-dialog [0-9.]+\n"));
+}
+
+TEST(CommandLine, PlatformDefaultsAreLeftToThePlatform) {
+  EXPECT_THAT(imageposition::withoutPlatformDefaults(
+                  {"-NSLanguages", "(ja)", "--ppd", "a", "-GSLogSyslog", "NO"}),
+              ElementsAre("--ppd", "a"));
+}
+
+} // namespace

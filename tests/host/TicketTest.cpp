@@ -1,0 +1,158 @@
+#include "host/Ticket.hpp"
+
+#include "host/ExitCode.hpp"
+#include "tests/host/TemporaryFolder.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace imageposition;
+using imageposition::test::contentOf;
+using imageposition::test::TemporaryFolder;
+using testing::HasSubstr;
+using testing::StrEq;
+
+Ticket sample() {
+  Ticket ticket;
+  ticket.printer = "Sample";
+  ticket.settings.set("LeftRightMargin", "-3");
+  ticket.settings.set("Duplex", "DuplexNoTumble", true);
+  return ticket;
+}
+
+template <typename Act> std::string failureOf(Act &&act) {
+  try {
+    act();
+  } catch (const Failure &failure) {
+    EXPECT_EQ(failure.code(), ExitCode::Ticket);
+    return failure.what();
+  }
+  ADD_FAILURE() << "did not fail";
+  return {};
+}
+
+TEST(Ticket, IsReadBackAsItWasWritten) {
+  const Ticket read = readTicketText(writeTicketText(sample()), "job.json");
+  EXPECT_EQ(read.printer, "Sample");
+  EXPECT_EQ(read.document, "");
+  EXPECT_EQ(read.settings.optionCount(), 2);
+  EXPECT_THAT(read.settings.get("LeftRightMargin"), StrEq("-3"));
+  EXPECT_TRUE(read.settings.isLocked("Duplex"));
+  EXPECT_FALSE(read.settings.isLocked("LeftRightMargin"));
+}
+
+TEST(Ticket, KeepsEveryKindOfText) {
+  Ticket ticket;
+  ticket.settings.set("job-name", "\"\\\n\t\x01 \xE5\xB7\xA6");
+  EXPECT_THAT(readTicketText(writeTicketText(ticket), "t").settings.get("job-name"),
+              StrEq("\"\\\n\t\x01 \xE5\xB7\xA6"));
+}
+
+TEST(Ticket, ADocumentNameInAnotherEncodingDoesNotSpoilIt) {
+  Ticket ticket = sample();
+  ticket.document = "\xE4.pdf";
+  EXPECT_EQ(readTicketText(writeTicketText(ticket), "t").settings.optionCount(), 2);
+}
+
+TEST(Ticket, AWholeNumberIsReadAsItsText) {
+  const Ticket read = readTicketText(R"({"settings": {"LeftRightMargin": -3}})", "t");
+  EXPECT_THAT(read.settings.get("LeftRightMargin"), StrEq("-3"));
+}
+
+TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
+  const struct {
+    const char *text;
+    const char *reason;
+  } rows[] = {
+      {"", "not JSON"},
+      {"{", "not JSON"},
+      {"[]", "no object \"settings\""},
+      {"{}", "no object \"settings\""},
+      {R"({"settings": []})", "no object \"settings\""},
+      {R"({"settings": {"a": null}})", "\"a\" is neither"},
+      {R"({"settings": {"a": 1.5}})", "\"a\" is neither"},
+      {R"({"settings": {"a": true}})", "\"a\" is neither"},
+      {R"({"settings": {"": "1"}})", "can carry"},
+      {R"({"settings": {"a=b": "1"}})", "\"a=b\""},
+      {R"({"settings": {"a": "\u0000"}})", "can carry"},
+      {R"({"settings": {}, "locked": "a"})", "list of names"},
+      {R"({"settings": {}, "locked": [1]})", "list of names"},
+      {R"({"settings": {}, "printer": 1})", "\"printer\" is not a text"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.text);
+    const std::string failure = failureOf([&] { readTicketText(row.text, "job.json"); });
+    EXPECT_THAT(failure, HasSubstr("job.json"));
+    EXPECT_THAT(failure, HasSubstr(row.reason));
+  }
+}
+
+TEST(Ticket, DeeplyNestedTextIsRefusedAndNothingWorse) {
+  failureOf([] { readTicketText(std::string(100000, '['), "t"); });
+}
+
+TEST(TicketFile, NothingThereIsNoTicket) {
+  TemporaryFolder folder;
+  EXPECT_FALSE(readTicket(folder.path("job.json")));
+}
+
+TEST(TicketFile, AFolderIsNoTicket) {
+  TemporaryFolder folder;
+  failureOf([&] { readTicket(folder.path()); });
+  failureOf([&] { writeTicket(sample(), folder.path()); });
+}
+
+TEST(TicketFile, BothFormsAreWrittenAndNothingElse) {
+  TemporaryFolder folder;
+  writeTicket(sample(), folder.path("job.json"));
+  EXPECT_EQ(folder.fileCount(), 2U);
+  EXPECT_EQ(contentOf(folder.path("job.options")), "Duplex=DuplexNoTumble\nLeftRightMargin=-3\n");
+  ASSERT_TRUE(readTicket(folder.path("job.json")));
+}
+
+TEST(TicketFile, TheOptionFormIsNamedAfterTheTicket) {
+  EXPECT_EQ(optionTextPath("a/job.json"), "a/job.options");
+  EXPECT_EQ(optionTextPath("job"), "job.options");
+  EXPECT_EQ(optionTextPath("a.b/job.ticket"), "a.b/job.ticket.options");
+  EXPECT_EQ(optionTextPath(".json"), ".json.options");
+}
+
+TEST(TicketFile, WhenOneFormCannotBeWrittenTheOtherStaysAsItWas) {
+  TemporaryFolder folder;
+  folder.write("job.json", "before");
+  folder.write("job.options/in the way", "");
+  failureOf([&] { writeTicket(sample(), folder.path("job.json")); });
+  EXPECT_EQ(contentOf(folder.path("job.json")), "before");
+  EXPECT_EQ(folder.fileCount(), 2U);
+}
+
+TEST(TicketFile, AMissingFolderIsNamed) {
+  TemporaryFolder folder;
+  EXPECT_THAT(failureOf([&] { writeTicket(sample(), folder.path("no/job.json")); }),
+              HasSubstr("no/job.json"));
+}
+
+TEST(TicketFile, ReplacingKeepsTheRightsAndTheLink) {
+  TemporaryFolder folder;
+  folder.write("real.json", "{}");
+  chmod(folder.path("real.json").c_str(), 0640);
+  ASSERT_EQ(symlink("real.json", folder.path("job.json").c_str()), 0);
+  writeTicket(sample(), folder.path("job.json"));
+  struct stat status {};
+  ASSERT_EQ(lstat(folder.path("job.json").c_str(), &status), 0);
+  EXPECT_TRUE(S_ISLNK(status.st_mode));
+  ASSERT_EQ(stat(folder.path("real.json").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0640U);
+  EXPECT_THAT(contentOf(folder.path("real.json")), HasSubstr("LeftRightMargin"));
+}
+
+TEST(TicketFile, ADeviceIsNotReplaced) {
+  EXPECT_THAT(failureOf([] { writeTicket(sample(), "/dev/null"); }), HasSubstr("ordinary"));
+}
+
+} // namespace
