@@ -4,7 +4,6 @@
 #include "tests/controller/PanelModel.hpp"
 #import "tests/support/Pool.h"
 
-#include <functional>
 #include <random>
 
 using namespace imageposition::test;
@@ -228,7 +227,6 @@ TEST_F(PanelUse, RestoringDefaultsIgnoresTheDefinitionsDefault) {
   EXPECT_EQ(shown("FrontLRM"), "0");
 }
 
-/// Notes the texts that the entry field is given.
 TEST_F(PanelUse, RestoringDefaultsOutsideTheRangeShowsZeroFirstAndThenTheNearestBound) {
   NSMutableDictionary *record = definition("FrontTBM");
   [record setObject:@"5:10" forKey:@"Range"];
@@ -304,8 +302,6 @@ TEST_F(PanelUse, AnEntryFieldThatARuleMadeUnusableStaysLightGray) {
 }
 
 // Print settings that fail once.
-
-using Use = std::function<void(PanelUse &)>;
 
 class PanelUseFailing : public PanelUse {
 protected:
@@ -451,7 +447,8 @@ TEST_F(PanelUse, EachRequestForPrintSettingsMayGoUnanswered) {
     [controller getSummaryInfo];
     [controller restoreDefaults];
     [controller notifyUI];
-    EXPECT_EQ([controller saveTicket], host -> settingsRequests == n ? NO : YES);
+    const BOOL saved = [controller saveTicket];
+    EXPECT_EQ(saved, host->settingsRequests == n ? NO : YES);
     if (host->settingsRequests < n)
       break;
     ASSERT_LT(n, 20);
