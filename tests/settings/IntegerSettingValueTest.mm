@@ -1,4 +1,5 @@
 #import "tests/settings/SettingFixture.h"
+#import "tests/support/UncheckedString.h"
 
 namespace imageposition::test {
 namespace {
@@ -61,12 +62,17 @@ TEST_F(IntegerSettingValue, SetStringValueWithoutAStringSetsZeroAndClamps) {
   EXPECT_EQ(journal.take(), (Lines{"entry.setStringValue:5"}));
 }
 
-TEST_F(IntegerSettingValue, SetStringValueTakesTheNumberOfATextThatUtf8CannotHold) {
-  const unichar units[] = {u'1', u'2', 0xD800, u'3'};
+TEST_F(IntegerSettingValue, NumberIsReadOutOfATextThatUtf8CannotHold) {
   MorvaADPIntegerSettingRV2 *setting = bound();
-  NSString *text = [[[NSString alloc] initWithCharacters:units length:4] autorelease];
-  [setting setStringValue:text];
-  EXPECT_EQ(value(setting), text == nil ? 0 : 12);
+  const char16_t lone = 0xD800;
+  [setting setStringValue:uncheckedString({u'1', u'2', lone, u'3'})];
+  EXPECT_EQ(value(setting), 12);
+  [setting setStringValue:uncheckedString({lone, u'5'})];
+  EXPECT_EQ(value(setting), 0);
+  store.putObject("LeftRightMargin", uncheckedString({u'-', u'7', lone}));
+  field<int32_t>(setting, "Value") = 1;
+  [setting getTicket:store.handle()];
+  EXPECT_EQ(value(setting), -7);
 }
 
 TEST_F(IntegerSettingValue, SetIntValueClampsAndShows) {

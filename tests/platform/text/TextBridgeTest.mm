@@ -1,39 +1,17 @@
 #import "platform/TextBridge.h"
 
-#import "tests/support/Text.h"
+#import "tests/support/UncheckedString.h"
 
 #include <gtest/gtest.h>
-
-/// A string with any units at all; the platform's own initializers may refuse lone surrogates.
-@interface UncheckedString : NSString {
-@public
-  unichar content[8];
-  NSUInteger size;
-}
-@end
-
-@implementation UncheckedString
-- (NSUInteger)length {
-  return size;
-}
-- (unichar)characterAtIndex:(NSUInteger)index {
-  return content[index];
-}
-@end
 
 namespace imageposition {
 namespace {
 
+using test::uncheckedString;
+
 NSString *units(std::u16string_view text) {
   return [[[NSString alloc] initWithCharacters:reinterpret_cast<const unichar *>(text.data())
                                         length:text.size()] autorelease];
-}
-
-NSString *withUnits(std::initializer_list<char16_t> list) {
-  UncheckedString *string = [[[UncheckedString alloc] init] autorelease];
-  for (char16_t unit : list)
-    string->content[string->size++] = unit;
-  return string;
 }
 
 const std::pair<const char *, const char16_t *> kTexts[] = {
@@ -77,13 +55,13 @@ TEST(TextBridge, ZeroIsACharacterLikeAnyOther) {
 TEST(TextBridge, LoneSurrogateBecomesAMarkInUtf8AndStaysInUtf16) {
   for (char16_t surrogate :
        {char16_t(0xD800), char16_t(0xDBFF), char16_t(0xDC00), char16_t(0xDFFF)}) {
-    NSString *string = withUnits({u'1', surrogate, u'2'});
+    NSString *string = uncheckedString({u'1', surrogate, u'2'});
     EXPECT_EQ(toText(string), "1\xEF\xBF\xBD"
                               "2");
     EXPECT_EQ(toUtf16(string), (std::u16string{u'1', surrogate, u'2'}));
-    EXPECT_EQ(toText(withUnits({surrogate})), "\xEF\xBF\xBD");
+    EXPECT_EQ(toText(uncheckedString({surrogate})), "\xEF\xBF\xBD");
   }
-  EXPECT_EQ(toText(withUnits({0xD83D, 0xDDA8})), "\xF0\x9F\x96\xA8");
+  EXPECT_EQ(toText(uncheckedString({char16_t(0xD83D), char16_t(0xDDA8)})), "\xF0\x9F\x96\xA8");
 }
 
 TEST(TextBridge, MalformedUtf8BecomesAStringWithMarks) {
