@@ -54,7 +54,7 @@ public:
   std::size_t settingCount() override { return known_.size(); }
 
   bool isSettingNamed(std::size_t index, const std::string &name) override {
-    return known_[index].name == name;
+    return *known_[index].name == name;
   }
 
   std::optional<std::int32_t> settingValue(std::size_t index) override {
@@ -107,9 +107,11 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
       break;
     case Action::Kind::SetValue:
       [self setStringValue:toString(action.text)];
+      own.knownIsCurrent = false;
       break;
     case Action::Kind::SetAvailable:
       [self setViewState:action.available];
+      own.knownIsCurrent = false;
       break;
     case Action::Kind::SetRange:
       // The value is clamped, and the label renewed, when the setting is next checked or shown.
@@ -120,7 +122,6 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
       [self setDefault:action.number];
       break;
     }
-    own.knownIsCurrent = false;
   }
 }
 
@@ -133,7 +134,7 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
       MorvaADPIntegerSettingRV2 *setting = [RelatedSettings objectAtIndex:index];
       own.allAreKnown = isPlain(setting);
       if (own.allAreKnown)
-        own.known.push_back({toOptionalText(setting->SettingName), &setting->Value});
+        own.known.push_back({&static_cast<SettingRules *>(setting->Rules)->name, &setting->Value});
     }
     own.knownIsCurrent = true;
   }

@@ -78,7 +78,7 @@ void show(int32_t value, NSArray *items) {
   ValueRangeLabelLocalizeKey = [wording objectAtIndex:2];
   Default = integerOf([record objectForKey:kRecordDefaultValue]);
   Value = Default;
-  Rules = new SettingRules(rules);
+  Rules = new SettingRules(rules, SettingName);
   return self;
 }
 
