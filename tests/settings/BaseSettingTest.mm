@@ -1,5 +1,18 @@
 #import "tests/settings/SettingFixture.h"
 
+/// An item that decides anew each time what it conforms to.
+@interface ChangingItem : RecordingItem {
+@public
+  Protocol *conformsTo;
+}
+@end
+
+@implementation ChangingItem
+- (BOOL)conformsToProtocol:(Protocol *)protocol {
+  return conformsTo != nil && protocol_isEqual(protocol, conformsTo);
+}
+@end
+
 namespace imageposition::test {
 namespace {
 
@@ -214,6 +227,28 @@ TEST_F(BaseSetting, WalksCountTheItemsAgainAfterEachOne) {
   onEachOperationOf(first, [=](const std::string &) { [own addObject:second]; });
   [setting setViewState:NO];
   EXPECT_EQ(journal.take(), (Lines{"first.setViewAvailable:0", "second.setViewAvailable:0"}));
+}
+
+TEST_F(BaseSetting, EachItemIsAskedEachTimeWhatItConformsTo) {
+  for (Class type : {[MorvaADPSettingRV2 class], [MorvaADPIntegerSettingRV2 class]}) {
+    MorvaADPSettingRV2 *setting = make(type, dictionary(record()), [NSDictionary dictionary]);
+    ChangingItem *changing = static_cast<ChangingItem *>([ChangingItem itemNamed:"changing"
+                                                                    capabilities:kNone
+                                                                         journal:&journal]);
+    ChangingItem *other = static_cast<ChangingItem *>([ChangingItem itemNamed:"other"
+                                                                 capabilities:kNone
+                                                                      journal:&journal]);
+    bind(setting, {changing, other});
+    [setting setViewState:YES];
+    EXPECT_EQ(journal.take(), Lines());
+    changing->conformsTo = @protocol(ViewAvailableInterface);
+    [setting setViewState:YES];
+    EXPECT_EQ(journal.take(), (Lines{"changing.setViewAvailable:1"}));
+    changing->conformsTo = @protocol(StepperInterface);
+    other->conformsTo = @protocol(ViewAvailableInterface);
+    [setting setViewState:YES];
+    EXPECT_EQ(journal.take(), (Lines{"other.setViewAvailable:1"}));
+  }
 }
 
 TEST_F(BaseSetting, HasNoTextAndNoCondition) {

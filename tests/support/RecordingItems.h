@@ -42,7 +42,8 @@ enum Capability : unsigned {
   NSInteger tagValue;
   void *state; ///< Used by the functions below.
 }
-/// An item of a class that conforms to exactly these protocols; the caller does not own it.
+/// An item of a class that conforms to exactly these protocols, or of the receiver when that is a
+/// subclass; the caller does not own it.
 + (RecordingItem *)itemNamed:(const char *)name
                 capabilities:(unsigned)capabilities
                      journal:(imageposition::test::Journal *)journal;
