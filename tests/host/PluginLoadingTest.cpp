@@ -1,0 +1,171 @@
+// What print-dialog does with plug-ins that are broken in every way.
+#include "tests/host/DialogFixture.hpp"
+
+namespace {
+
+using namespace imageposition::test;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace fs = std::filesystem;
+
+class PluginLoading : public DialogFixture {
+protected:
+  ProcessResult load(const std::string &bundle, const std::string &behaviour,
+                     const Words &words = {}) {
+    Words all{"--plugin", bundle, "--ticket", folder.path("job.json")};
+    all.insert(all.end(), words.begin(), words.end());
+    return batch(sample("duplex-shift.ppd"), all,
+                 {"FIXTURE_BEHAVIOUR=" + behaviour, "FIXTURE_JOURNAL=" + folder.path("journal")});
+  }
+
+  ProcessResult behave(const std::string &behaviour, const Words &words = {}) {
+    return load(FIXTURE_PLUGIN, behaviour, words);
+  }
+
+  /// A copy of the plug-in to be spoilt.
+  std::string copy(const std::string &name = "Copy.plugin") {
+    fs::copy(FIXTURE_PLUGIN, folder.path(name), fs::copy_options::recursive);
+    return folder.path(name);
+  }
+
+  void expectLeftOut(const ProcessResult &result, const std::string &reason) {
+    EXPECT_EQ(result.status, kPlugin) << testing::PrintToString(result);
+    EXPECT_THAT(result.errors, HasSubstr(".plugin\""));
+    EXPECT_THAT(result.errors, HasSubstr(reason));
+    EXPECT_THAT(result.output, IsEmpty());
+    EXPECT_FALSE(fs::exists(folder.path("job.json")));
+  }
+};
+
+TEST_F(PluginLoading, APanelIsDrivenInTheOrderThatPanelsExpect) {
+  const auto result = behave("", {"--set", "Number=5", "--back", "on"});
+  ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_EQ(contentOf(folder.path("journal")), "initWithBundle:\n"
+                                               "PDEPanelsForType:withHostInfo:\n"
+                                               "panelKind\n"
+                                               "panelName\n"
+                                               "supportedPPDOptionKeys\n"
+                                               "panelView\n"
+                                               "willShow\n"
+                                               "action\n"
+                                               "action\n"
+                                               "shouldPrint\n"
+                                               "saveValuesAndReturnError:\n"
+                                               "summaryInfo\n");
+}
+
+TEST_F(PluginLoading, ASummaryKeepsItsOrderAndWhatTheOrderForgot) {
+  const auto result = behave("", {"--summary"});
+  EXPECT_THAT(result.output, HasSubstr("Fixture Panel\n  First: 1\n  Second: 2\n  Forgotten: 3\n"));
+}
+
+TEST_F(PluginLoading, AFieldsWholeNameIsPreferredToABeginning) {
+  EXPECT_EQ(behave("", {"--set", "Number=5"}).status, kDone);
+  EXPECT_EQ(behave("", {"--set", "Num=5"}).status, kValue);
+}
+
+TEST_F(PluginLoading, APanelWithoutANameIsCalledByItsKind) {
+  EXPECT_THAT(behave("no name", {"--summary"}).output, HasSubstr("fixture.kind\n"));
+}
+
+TEST_F(PluginLoading, WrongTypesCountAsNothing) {
+  const auto result = behave("wrong types", {"--summary"});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_THAT(result.output, HasSubstr("Not available"));
+}
+
+TEST_F(PluginLoading, WhateverIsRaisedLeavesThePluginOutWithItsOperationNamed) {
+  for (const char *operation : {"initWithBundle:", "PDEPanelsForType:withHostInfo:", "panelKind",
+                                "panelName", "supportedPPDOptionKeys", "panelView", "willShow",
+                                "shouldPrint", "saveValuesAndReturnError:", "summaryInfo"}) {
+    SCOPED_TRACE(operation);
+    const auto raised = behave(std::string("raise ") + operation);
+    expectLeftOut(raised, std::string("failed in \"") + operation + "\"");
+    EXPECT_THAT(raised.errors, HasSubstr("FixtureException: raised on demand"));
+    expectLeftOut(behave(std::string("throw ") + operation), "thrown on demand");
+  }
+}
+
+TEST_F(PluginLoading, WhatAnActionRaisesIsCaughtToo) {
+  expectLeftOut(behave("raise action", {"--set", "Number=5"}), "raised on demand");
+  expectLeftOut(behave("raise action", {"--back", "on"}), "raised on demand");
+}
+
+TEST_F(PluginLoading, EachAnswerThatIsNoPanelIsNamed) {
+  expectLeftOut(behave("refuse"), "could not be loaded");
+  expectLeftOut(behave("no array"), "could not be loaded");
+  expectLeftOut(behave("stranger"), "lacks \"panelView\"");
+  expectLeftOut(behave("no view"), "has no view");
+}
+
+TEST_F(PluginLoading, AnEmptyArrayMeansNoPanelForThisPrinter) {
+  EXPECT_EQ(behave("nothing").status, kNoPanel);
+}
+
+TEST_F(PluginLoading, APanelThatRefusesTheJobStopsIt) {
+  const auto result = behave("veto");
+  EXPECT_EQ(result.status, kCancelled);
+  EXPECT_THAT(result.errors, HasSubstr("\"Fixture Panel\" does not allow"));
+  EXPECT_FALSE(fs::exists(folder.path("job.json")));
+}
+
+TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
+  expectLeftOut(load(folder.path("none.plugin"), ""), "does not exist");
+  expectLeftOut(load(folder.write("file.plugin", "text"), ""), "no bundle");
+  fs::create_directory(folder.path("empty.plugin"));
+  expectLeftOut(load(folder.path("empty.plugin"), ""), "no bundle");
+
+  const std::string withoutCode = copy("withoutCode.plugin");
+  fs::remove(withoutCode + "/Fixture");
+  expectLeftOut(load(withoutCode, ""), "no bundle");
+
+  const std::string damaged = copy("damaged.plugin");
+  std::ofstream(damaged + "/Fixture") << "no code";
+  expectLeftOut(load(damaged, ""), "could not be loaded (");
+
+  const std::string nameless = copy("nameless.plugin");
+  std::ofstream(nameless + "/Resources/Info-gnustep.plist") << "{ NSExecutable = Fixture; }";
+  expectLeftOut(load(nameless, ""), "lacks its principal class");
+
+  const std::string wrong = copy("wrong.plugin");
+  std::ofstream(wrong + "/Resources/Info-gnustep.plist")
+      << "{ NSExecutable = Fixture; NSPrincipalClass = NoSuchClass; }";
+  expectLeftOut(load(wrong, ""), "lacks its principal class \"NoSuchClass\"");
+
+  const std::string stranger = copy("stranger.plugin");
+  std::ofstream(stranger + "/Resources/Info-gnustep.plist")
+      << "{ NSExecutable = Fixture; NSPrincipalClass = FixtureStranger; }";
+  expectLeftOut(load(stranger, ""), "lacks \"initWithBundle:\"");
+
+  const std::string foreign = copy("foreign.plugin");
+  std::ofstream(foreign + "/Resources/Info-gnustep.plist")
+      << "{ NSExecutable = Fixture; NSPrincipalClass = NSObject; }";
+  expectLeftOut(load(foreign, ""), "in use already");
+
+  const std::string garbled = copy("garbled.plugin");
+  std::ofstream(garbled + "/Resources/Info-gnustep.plist") << "{{{ not a property list";
+  expectLeftOut(load(garbled, ""), "");
+}
+
+TEST_F(PluginLoading, ASecondCopyIsRefusedByName) {
+  const auto result = load(FIXTURE_PLUGIN, "", {"--plugin", copy()});
+  expectLeftOut(result, "Copy.plugin\" was not loaded: its class \"FixturePlugin\"");
+}
+
+TEST_F(PluginLoading, TwoPluginsWorkSideBySide) {
+  const auto result = load(
+      FIXTURE_PLUGIN, "",
+      {"--plugin", IMAGE_POSITION_PLUGIN, "--summary", "--set", "FrontLRM=4", "--set", "Number=5"});
+  ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_THAT(result.output, HasSubstr("Fixture Panel\n"));
+  EXPECT_THAT(result.output, HasSubstr("Image Position\n"));
+  EXPECT_THAT(contentOf(folder.path("job.options")), HasSubstr("LeftRightMargin=4\n"));
+}
+
+TEST_F(PluginLoading, ACheckboxInTwoPanelsIsAmbiguous) {
+  EXPECT_EQ(load(FIXTURE_PLUGIN, "", {"--plugin", IMAGE_POSITION_PLUGIN, "--back", "on"}).status,
+            kValue);
+}
+
+} // namespace

@@ -1,0 +1,92 @@
+#include "tests/host/ProcessRun.hpp"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace imageposition::test {
+
+namespace {
+
+constexpr int kPatienceInSeconds = 120;
+
+struct Pipe {
+  int ends[2];
+  Pipe() {
+    if (pipe2(ends, O_CLOEXEC) != 0)
+      throw std::runtime_error("no pipe");
+  }
+};
+
+void applyEnvironment(const std::vector<std::string> &environment) {
+  for (const std::string &entry : environment) {
+    const std::size_t equals = entry.find('=');
+    if (equals == std::string::npos)
+      unsetenv(entry.c_str());
+    else
+      setenv(entry.substr(0, equals).c_str(), entry.substr(equals + 1).c_str(), 1);
+  }
+}
+
+[[noreturn]] void become(const std::vector<std::string> &words,
+                         const std::vector<std::string> &environment, int output, int errors) {
+  dup2(open("/dev/null", O_RDONLY), STDIN_FILENO);
+  dup2(output, STDOUT_FILENO);
+  dup2(errors, STDERR_FILENO);
+  applyEnvironment(environment);
+  alarm(kPatienceInSeconds); // survives exec
+  std::vector<char *> arguments;
+  for (const std::string &word : words)
+    arguments.push_back(const_cast<char *>(word.c_str()));
+  arguments.push_back(nullptr);
+  execvp(arguments[0], arguments.data());
+  _exit(127);
+}
+
+/// Until the program itself has ended: what it started may keep the pipes open.
+void drain(int descriptor, std::string &text) {
+  char buffer[4096];
+  ssize_t count;
+  while ((count = read(descriptor, buffer, sizeof buffer)) > 0)
+    text.append(buffer, static_cast<std::size_t>(count));
+}
+
+} // namespace
+
+void PrintTo(const ProcessResult &result, std::ostream *stream) {
+  *stream << "status " << result.status << "\noutput:\n"
+          << result.output << "errors:\n"
+          << result.errors;
+}
+
+ProcessResult runProcess(const std::vector<std::string> &words,
+                         const std::vector<std::string> &environment) {
+  Pipe output, errors;
+  const pid_t child = fork();
+  if (child == 0)
+    become(words, environment, output.ends[1], errors.ends[1]);
+  close(output.ends[1]);
+  close(errors.ends[1]);
+  ProcessResult result;
+  int status = 0;
+  bool ended = false;
+  for (const int end : {output.ends[0], errors.ends[0]})
+    fcntl(end, F_SETFL, O_NONBLOCK);
+  while (!ended) {
+    pollfd waiting[2] = {{output.ends[0], POLLIN, 0}, {errors.ends[0], POLLIN, 0}};
+    poll(waiting, 2, 10);
+    ended = waitpid(child, &status, WNOHANG) == child;
+    drain(output.ends[0], result.output);
+    drain(errors.ends[0], result.errors);
+  }
+  close(output.ends[0]);
+  close(errors.ends[0]);
+  result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+  return result;
+}
+
+} // namespace imageposition::test

@@ -1,0 +1,27 @@
+/// Runs a program to its end.
+#ifndef IMAGEPOSITION_TESTS_HOST_PROCESSRUN_HPP
+#define IMAGEPOSITION_TESTS_HOST_PROCESSRUN_HPP
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace imageposition::test {
+
+struct ProcessResult {
+  int status = -1; ///< The exit status; 128 and the signal's number when a signal ended it.
+  std::string output;
+  std::string errors;
+};
+
+/// How a result shows in a failed expectation.
+void PrintTo(const ProcessResult &result, std::ostream *stream);
+
+/// `environment` is laid over this process's: "NAME=value" sets, "NAME" alone unsets. Standard
+/// input is empty. Ends the program after two minutes.
+ProcessResult runProcess(const std::vector<std::string> &words,
+                         const std::vector<std::string> &environment = {});
+
+} // namespace imageposition::test
+
+#endif
