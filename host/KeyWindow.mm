@@ -48,6 +48,12 @@ BOOL isPushButton(id responder) {
          ([[(NSButton *)responder cell] showsStateBy] & NSContentsCellMask) == 0;
 }
 
+/// While it is open the keys are the menu's.
+BOOL hasOpenMenu(id responder) {
+  return [responder isKindOfClass:[NSPopUpButton class]] &&
+         [[[(NSPopUpButton *)responder menu] window] isVisible];
+}
+
 } // namespace
 
 @interface KeyWindow ()
@@ -71,8 +77,15 @@ BOOL isPushButton(id responder) {
     [super sendEvent:event];
 }
 
+// The default button would otherwise take Return before the control that has the focus.
+- (BOOL)performKeyEquivalent:(NSEvent *)event {
+  return keyOf(event) == Key::Other && [super performKeyEquivalent:event];
+}
+
 - (BOOL)handleKey:(NSEvent *)event {
   id const focus = [self firstResponder];
+  if (hasOpenMenu(focus))
+    return NO;
   const SEL editing = editingOperationOf(event);
   if (editing != nullptr && [focus isKindOfClass:[NSText class]]) {
     [focus performSelector:editing withObject:self];

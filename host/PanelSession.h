@@ -30,10 +30,15 @@ public:
   /// Messages of the plug-ins and panels that were left out.
   const std::vector<std::string> &troubles() const noexcept { return troubles_; }
 
+  /// Puts the settings back as they were when the session began, and has the panels read them.
+  void revert();
+
   /// Leaves a panel out that failed later on.
   void drop(const PanelDriver *panel, const std::string &trouble);
 
 private:
+  PrintSettingsStore &settings_;
+  const PrintSettingsStore before_;
   PrintSettingsHandle handle_;
   HostCallback *callback_; // owned
   std::vector<std::unique_ptr<Plugin>> plugins_;

@@ -8,7 +8,7 @@
 namespace imageposition {
 
 PanelSession::PanelSession(PrinterDescription &printer, PrintSettingsStore &settings)
-    : handle_(settings),
+    : settings_(settings), before_(settings), handle_(settings),
       callback_([[HostCallback alloc] initWithPpd:printer.ppd() settings:handle_.get()]) {}
 
 PanelSession::~PanelSession() {
@@ -25,6 +25,17 @@ void PanelSession::load(const std::vector<std::string> &plugins) {
       auto panels = plugin->panels(callback_);
       plugins_.push_back(std::move(plugin));
       std::move(panels.begin(), panels.end(), std::back_inserter(panels_));
+    } catch (const Failure &failure) {
+      troubles_.push_back(failure.what());
+    }
+  }
+}
+
+void PanelSession::revert() {
+  settings_ = before_;
+  for (const auto &panel : panels_) {
+    try {
+      panel->restore();
     } catch (const Failure &failure) {
       troubles_.push_back(failure.what());
     }

@@ -76,6 +76,7 @@ ExitCode runInWindow(const Arguments &arguments, PrinterDescription &printer, Ti
   PanelSession session(printer, ticket.settings);
   session.load(pluginsFor(arguments, printer));
   if (!runDialog(session, {printer.name(), ticket.document}, std::cerr)) {
+    session.revert();
     std::cerr << messages::kCancelled << '\n';
     return ExitCode::Cancelled;
   }

@@ -87,9 +87,14 @@ TEST_F(PluginLoading, WhateverIsRaisedLeavesThePluginOutWithItsOperationNamed) {
   }
 }
 
-TEST_F(PluginLoading, WhatAnActionRaisesIsCaughtToo) {
-  expectLeftOut(behave("raise action", {"--set", "Number=5"}), "raised on demand");
+TEST_F(PluginLoading, WhatAButtonsActionRaisesLeavesThePluginOut) {
   expectLeftOut(behave("raise action", {"--back", "on"}), "raised on demand");
+}
+
+// The platform's own notifications carry the end of editing, and swallow what is raised there.
+TEST_F(PluginLoading, WhatAnEntryFieldsActionRaisesDoesNoHarm) {
+  const auto result = behave("raise action", {"--set", "Number=5"});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
 }
 
 TEST_F(PluginLoading, EachAnswerThatIsNoPanelIsNamed) {
