@@ -344,6 +344,24 @@ TEST_F(ConstraintWalk, ConditionAskedWhileAnActionShowsItsValueSeesTheSettingsOf
   EXPECT_EQ(value(setting), 5); // "FrontLRM" is no longer among the related settings
 }
 
+TEST_F(ConstraintWalk, NextRuleSeesTheSettingsThatWereRelatedAfterAConditionWasAskedInAnAction) {
+  MorvaADPIntegerSettingRV2 *setting = bound(ruleTable({rule("Value", "5"), rule("Value", "6")}));
+  MorvaADPIntegerSettingRV2 *other = make(record({{"SettingName", "B"}}));
+  NSArray *others = array({other});
+  NSArray *items = array({entry});
+  NSDictionary *question = dictionary(rule("Value", "5"));
+  bool sawItself = false;
+  onEachOperationOf(entry, [=, &sawItself](const std::string &operation) {
+    if (operation == "setStringValue:5") {
+      sawItself = [setting checkUIConstraintCondition:question];
+      [setting setRelatedSettings:others HandlingTarget:items];
+    }
+  });
+  [setting applyUIConstraint:store.handle()];
+  EXPECT_TRUE(sawItself);
+  EXPECT_EQ(value(setting), 5); // "FrontLRM" is no longer among the related settings
+}
+
 TEST_F(ConstraintWalk, AttributeRulesFollowThePrinter) {
   TestPpd narrow({"*ShiftRange: \"Narrow\""});
   TestPpd wide({"*ShiftRange: \"Wide\""});
