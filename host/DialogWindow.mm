@@ -70,6 +70,8 @@ NSButton *makeButton(const char *title, id target, SEL action) {
 /// Fills the pop-up after the panels that are left.
 - (void)listPanes;
 - (void)showChosenPane;
+- (void)sayTroubles;
+- (NSView *)firstControl;
 
 @end
 
@@ -194,6 +196,7 @@ NSButton *makeButton(const char *title, id target, SEL action) {
   [self say:trouble];
   [self listPanes];
   [self showChosenPane];
+  [window makeFirstResponder:[self firstControl]];
 }
 
 - (void)showView:(NSView *)view {
@@ -306,8 +309,7 @@ NSButton *makeButton(const char *title, id target, SEL action) {
     [self say:toText(what)];
 }
 
-- (BOOL)run {
-  [self showChosenPane];
+- (void)sayTroubles {
   std::string troubles;
   for (const std::string &trouble : session->troubles())
     troubles += (troubles.empty() ? "" : "\n") + trouble;
@@ -315,10 +317,20 @@ NSButton *makeButton(const char *title, id target, SEL action) {
     troubles = messages::kNoPanelHere;
   if (!troubles.empty())
     [self say:troubles];
-  [window center];
+}
+
+/// The pane's first control, or the button that goes on where the pane has none.
+- (NSView *)firstControl {
   NSView *const first = [panes nextKeyView];
-  [window setInitialFirstResponder:first];
-  [window makeFirstResponder:first];
+  return first == cancelButton ? printButton : first;
+}
+
+- (BOOL)run {
+  [self sayTroubles];
+  [self showChosenPane];
+  [window center];
+  [window setInitialFirstResponder:[self firstControl]];
+  [window makeFirstResponder:[self firstControl]];
   [NSApp finishLaunching]; // no keys arrive before
   [NSApp activateIgnoringOtherApps:YES];
   [window makeKeyAndOrderFront:nil];

@@ -1,6 +1,7 @@
 #include "tests/host/ProcessRun.hpp"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
@@ -47,11 +48,11 @@ void applyEnvironment(const std::vector<std::string> &environment) {
   _exit(127);
 }
 
-/// Until the program itself has ended: what it started may keep the pipes open.
+/// What is there. The end of the pipe tells nothing: what the program started may keep it open.
 void drain(int descriptor, std::string &text) {
   char buffer[4096];
   ssize_t count;
-  while ((count = read(descriptor, buffer, sizeof buffer)) > 0)
+  while ((count = ::read(descriptor, buffer, sizeof buffer)) > 0)
     text.append(buffer, static_cast<std::size_t>(count));
 }
 
@@ -63,30 +64,60 @@ void PrintTo(const ProcessResult &result, std::ostream *stream) {
           << result.errors;
 }
 
-ProcessResult runProcess(const std::vector<std::string> &words,
-                         const std::vector<std::string> &environment) {
+Process::Process(const std::vector<std::string> &words,
+                 const std::vector<std::string> &environment) {
   Pipe output, errors;
-  const pid_t child = fork();
-  if (child == 0)
+  child_ = fork();
+  if (child_ == 0)
     become(words, environment, output.ends[1], errors.ends[1]);
   close(output.ends[1]);
   close(errors.ends[1]);
-  ProcessResult result;
-  int status = 0;
-  bool ended = false;
-  for (const int end : {output.ends[0], errors.ends[0]})
+  output_ = output.ends[0];
+  errors_ = errors.ends[0];
+  for (const int end : {output_, errors_})
     fcntl(end, F_SETFL, O_NONBLOCK);
-  while (!ended) {
-    pollfd waiting[2] = {{output.ends[0], POLLIN, 0}, {errors.ends[0], POLLIN, 0}};
-    poll(waiting, 2, 10);
-    ended = waitpid(child, &status, WNOHANG) == child;
-    drain(output.ends[0], result.output);
-    drain(errors.ends[0], result.errors);
+}
+
+Process::~Process() {
+  if (!hasEnded()) {
+    kill(child_, SIGKILL);
+    wait();
   }
-  close(output.ends[0]);
-  close(errors.ends[0]);
-  result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-  return result;
+  close(output_);
+  close(errors_);
+}
+
+void Process::read() {
+  drain(output_, result_.output);
+  drain(errors_, result_.errors);
+}
+
+bool Process::hasEnded() {
+  int status = 0;
+  if (!ended_ && waitpid(child_, &status, WNOHANG) == child_) {
+    ended_ = true;
+    result_.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+  }
+  read();
+  return ended_;
+}
+
+const ProcessResult &Process::wait() {
+  while (!hasEnded()) {
+    pollfd waiting[2] = {{output_, POLLIN, 0}, {errors_, POLLIN, 0}};
+    poll(waiting, 2, 10);
+  }
+  return result_;
+}
+
+std::string Process::errorsSoFar() {
+  read();
+  return result_.errors;
+}
+
+ProcessResult runProcess(const std::vector<std::string> &words,
+                         const std::vector<std::string> &environment) {
+  return Process(words, environment).wait();
 }
 
 } // namespace imageposition::test

@@ -4,6 +4,7 @@
 
 #include <ostream>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace imageposition::test {
@@ -16,6 +17,31 @@ struct ProcessResult {
 
 /// How a result shows in a failed expectation.
 void PrintTo(const ProcessResult &result, std::ostream *stream);
+
+/// A program that runs beside the test. It is ended with this object.
+class Process {
+public:
+  /// As `runProcess`.
+  Process(const std::vector<std::string> &words, const std::vector<std::string> &environment = {});
+  ~Process();
+  Process(const Process &) = delete;
+  Process &operator=(const Process &) = delete;
+
+  /// Once it has ended.
+  const ProcessResult &wait();
+  bool hasEnded();
+  /// What it has written so far.
+  std::string errorsSoFar();
+
+private:
+  void read();
+
+  pid_t child_;
+  int output_;
+  int errors_;
+  bool ended_ = false;
+  ProcessResult result_;
+};
 
 /// `environment` is laid over this process's: "NAME=value" sets, "NAME" alone unsets. Standard
 /// input is empty. Ends the program after two minutes.

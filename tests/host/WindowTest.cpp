@@ -1,0 +1,223 @@
+// The window, used with real key events.
+#include "tests/host/DialogFixture.hpp"
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <thread>
+
+namespace {
+
+using namespace imageposition::test;
+using testing::AllOf;
+using testing::Contains;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Pair;
+
+namespace fs = std::filesystem;
+
+bool becomesTrue(const std::function<bool()> &condition) {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > deadline)
+      return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+  return true;
+}
+
+class Window : public DialogFixture {
+protected:
+  const std::string ticket = folder.path("job.json");
+  const std::string journal = folder.path("journal");
+  std::unique_ptr<Process> dialogProcess;
+
+  /// Opens the dialog and waits until it has the keyboard.
+  void open(const std::string &printer, const Words &words = {}, const Words &environment = {}) {
+    Words all{PRINT_DIALOG, "--ppd", sample(printer), "--ticket", ticket};
+    all.insert(all.end(), words.begin(), words.end());
+    dialogProcess = std::make_unique<Process>(all, environment);
+    ASSERT_TRUE(becomesTrue([&] { return hasKeyboard() || dialogProcess->hasEnded(); }));
+    ASSERT_FALSE(dialogProcess->hasEnded()) << testing::PrintToString(dialogProcess->wait());
+  }
+
+  void openFixture(const std::string &behaviour) {
+    open("duplex-shift.ppd", {"--plugin", FIXTURE_PLUGIN},
+         {"FIXTURE_BEHAVIOUR=" + behaviour, "FIXTURE_JOURNAL=" + journal});
+  }
+
+  static bool hasKeyboard() {
+    return runProcess({"xdotool", "getwindowfocus", "getwindowname"}).output == "Print\n";
+  }
+
+  static void type(const std::string &text) {
+    ASSERT_EQ(runProcess({"xdotool", "type", "--", text}).status, 0);
+  }
+
+  static void press(const Words &keys) {
+    Words words{"xdotool", "key"};
+    words.insert(words.end(), keys.begin(), keys.end());
+    ASSERT_EQ(runProcess(words).status, 0);
+  }
+
+  bool journalEndsWith(const std::string &lines) {
+    return becomesTrue([&] {
+      const std::string text = contentOf(journal);
+      return text.size() >= lines.size() &&
+             text.compare(text.size() - lines.size(), lines.size(), lines) == 0;
+    });
+  }
+
+  bool says(const std::string &text) {
+    return becomesTrue(
+        [&] { return dialogProcess->errorsSoFar().find(text) != std::string::npos; });
+  }
+
+  /// How the dialog ended; it must end by itself.
+  const ProcessResult &ended() {
+    EXPECT_TRUE(becomesTrue([&] { return dialogProcess->hasEnded(); }));
+    return dialogProcess->wait();
+  }
+
+  std::map<std::string, std::string> printed() const {
+    return settingsIn(contentOf(folder.path("job.options")));
+  }
+};
+
+TEST_F(Window, ReturnTakesWhatIsBeingTypedAndPrints) {
+  open("duplex-shift.ppd");
+  type("-3");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_EQ(printed(), offsets("-3", "0", "0", "0", "False"));
+}
+
+TEST_F(Window, TabLeadsFromFieldToField) {
+  open("duplex-shift.ppd");
+  type("-3");
+  press({"Tab"});
+  type("7-2");
+  press({"KP_Enter"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_EQ(printed(), offsets("-3", "72", "0", "0", "False"));
+}
+
+TEST_F(Window, ControlKeysCopyAndPaste) {
+  open("duplex-shift.ppd");
+  type("42");
+  press({"ctrl+a", "ctrl+c", "Tab", "ctrl+v", "Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_EQ(printed(), offsets("42", "42", "0", "0", "False"));
+}
+
+TEST_F(Window, ControlXTakesTheTextAway) {
+  open("duplex-shift.ppd");
+  type("42");
+  press({"ctrl+a", "ctrl+x", "Tab", "ctrl+v", "Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_EQ(printed(), offsets("0", "42", "0", "0", "False"));
+}
+
+TEST_F(Window, EscapeCancelsAndWritesNothing) {
+  folder.write("job.json", R"({"settings": {"LeftRightMargin": "9"}})");
+  open("duplex-shift.ppd");
+  type("-3");
+  press({"Escape"});
+  EXPECT_EQ(ended().status, kCancelled);
+  EXPECT_THAT(ended().errors, HasSubstr("nothing was written"));
+  EXPECT_EQ(contentOf(ticket), R"({"settings": {"LeftRightMargin": "9"}})");
+  EXPECT_FALSE(fs::exists(folder.path("job.options")));
+}
+
+TEST_F(Window, ClosingTheWindowCancels) {
+  open("duplex-shift.ppd");
+  press({"alt+F4"});
+  EXPECT_EQ(ended().status, kCancelled);
+}
+
+TEST_F(Window, ATicketsValuesAreShownAndKept) {
+  folder.write("job.json", R"({"settings": {"LeftRightMargin": "9",
+      "com.morva.printsettings.19AImagePositionEnable": "True"}})");
+  open("duplex-shift.ppd");
+  press({"Tab"});
+  type("4");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_EQ(printed(), offsets("9", "4", "0", "0", "True"));
+}
+
+TEST_F(Window, APrinterWithoutAPanelIsPrintedOnAllTheSame) {
+  open("duplex-plain.ppd", {"-o", "MediaType=Heavy"});
+  EXPECT_TRUE(says("No plug-in has a panel for this printer."));
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(printed(), testing::ElementsAre(Pair("MediaType", "Heavy")));
+}
+
+TEST_F(Window, APanelIsDrivenInTheOrderThatPanelsExpect) {
+  openFixture("");
+  ASSERT_TRUE(journalEndsWith("panelView\nwillShow\n"));
+  press({"space"}); // the checkbox is the first control
+  ASSERT_TRUE(journalEndsWith("willShow\naction\n"));
+  press({"shift+Tab", "space", "Down", "Return"}); // to the summary
+  ASSERT_TRUE(journalEndsWith("action\nsaveValuesAndReturnError:\nsummaryInfo\n"));
+  press({"space", "Up", "Return"}); // and back
+  ASSERT_TRUE(journalEndsWith("summaryInfo\nsaveValuesAndReturnError:\nwillShow\n"));
+  press({"Tab", "Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(contentOf(journal), EndsWith("willShow\nshouldPrint\nsaveValuesAndReturnError:\n"));
+}
+
+TEST_F(Window, CancelHasThePanelsRestoreTheirValues) {
+  openFixture("");
+  press({"Escape"});
+  EXPECT_EQ(ended().status, kCancelled);
+  EXPECT_THAT(contentOf(journal), EndsWith("willShow\nrestoreValuesAndReturnError:\n"));
+}
+
+TEST_F(Window, ReturnOnCancelCancels) {
+  openFixture("");
+  press({"Tab", "Tab", "Tab", "Return"}); // checkbox, two fields, Cancel
+  EXPECT_EQ(ended().status, kCancelled);
+}
+
+TEST_F(Window, APanelThatRaisesIsLeftOutAndTheDialogGoesOn) {
+  for (const char *operation : {"willShow", "shouldPrint", "saveValuesAndReturnError:"}) {
+    SCOPED_TRACE(operation);
+    openFixture(std::string("raise ") + operation);
+    press({"Return"});
+    ASSERT_TRUE(says(std::string("failed in \"") + operation + "\""));
+    EXPECT_THAT(dialogProcess->errorsSoFar(), HasSubstr("Fixture.plugin"));
+    if (!dialogProcess->hasEnded())
+      press({"Return"});
+    EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  }
+}
+
+TEST_F(Window, APanelWhoseControlRaisesIsLeftOut) {
+  openFixture("raise action");
+  press({"space"});
+  ASSERT_TRUE(says("raised on demand"));
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone);
+}
+
+TEST_F(Window, APanelThatRefusesTheJobKeepsTheDialogOpen) {
+  openFixture("veto");
+  press({"Return"});
+  ASSERT_TRUE(says("\"Fixture Panel\" does not allow the job"));
+  EXPECT_FALSE(dialogProcess->hasEnded());
+  press({"Escape"});
+  EXPECT_EQ(ended().status, kCancelled);
+  EXPECT_FALSE(fs::exists(ticket));
+}
+
+TEST_F(Window, APluginThatCannotBeLoadedIsNamedAndTheDialogGoesOn) {
+  openFixture("no array");
+  EXPECT_TRUE(says("could not be loaded"));
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone);
+}
+
+} // namespace
