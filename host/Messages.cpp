@@ -11,6 +11,13 @@ std::string join(const std::vector<std::string> &words) {
   return text;
 }
 
+/// Reasons of libraries come with and without a full stop.
+std::string withoutStop(std::string reason) {
+  while (!reason.empty() && reason.back() == '.')
+    reason.pop_back();
+  return reason;
+}
+
 } // namespace
 
 const char *const kVersion = "print-dialog " IMAGEPOSITION_VERSION;
@@ -112,7 +119,7 @@ std::string ppdMalformed(const std::string &path, int line, const std::string &r
 }
 std::string ppdOfQueue(const std::string &queue) { return "PPD of queue " + queue; }
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
-  return "CUPS has no printer description for the queue \"" + queue + "\": " + reason +
+  return "CUPS has no printer description for the queue \"" + queue + "\": " + withoutStop(reason) +
          ". lpstat -e lists the queues; --ppd names a description file instead.";
 }
 

@@ -1,0 +1,50 @@
+#include "tests/host/PrivateCups.hpp"
+
+#include <chrono>
+#include <thread>
+#include <unistd.h>
+
+namespace imageposition::test {
+
+PrivateCups::PrivateCups() {
+  writeConfiguration();
+  server_ = std::make_unique<Process>(std::vector<std::string>{"/usr/sbin/cupsd", "-f", "-c",
+                                                               folder_.path("cupsd.conf"), "-s",
+                                                               folder_.path("cups-files.conf")});
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (!isRunning_ && !server_->hasEnded() && std::chrono::steady_clock::now() < deadline) {
+    isRunning_ = run({"lpstat", "-r"}).output.find("is running") != std::string::npos;
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+}
+
+ProcessResult PrivateCups::run(const std::vector<std::string> &words) const {
+  return runProcess(words, environment());
+}
+
+std::string PrivateCups::log() const {
+  return contentOf(folder_.path("error_log")) + server_->errorsSoFar();
+}
+
+void PrivateCups::writeConfiguration() const {
+  const std::string folder = folder_.path();
+  folder_.write("cupsd.conf", "Listen " + socket() +
+                                  "\n"
+                                  "Browsing No\n"
+                                  "DefaultAuthType None\n"
+                                  "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+                                  "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n"
+                                  "</Limit>\n</Policy>\n");
+  // As root it insists on another user for what it runs.
+  const std::string user = getuid() == 0 ? "User lp\nGroup lp\n" : "";
+  folder_.write("cups-files.conf", "ServerRoot " + folder + "\nRequestRoot " + folder +
+                                       "/spool\nCacheDir " + folder + "/cache\nStateDir " + folder +
+                                       "/state\nServerKeychain " + folder + "/ssl\nAccessLog " +
+                                       folder + "/access_log\nErrorLog " + folder +
+                                       "/error_log\nPageLog " + folder +
+                                       "/page_log\nFileDevice Yes\nSystemGroup root\n" + user);
+  for (const char *name : {"spool/tmp/x", "cache/x", "state/x", "ssl/x", "ppd/x"})
+    folder_.write(name, "");
+}
+
+} // namespace imageposition::test

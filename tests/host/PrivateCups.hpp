@@ -1,0 +1,42 @@
+/// A CUPS of the test's own.
+#ifndef IMAGEPOSITION_TESTS_HOST_PRIVATECUPS_HPP
+#define IMAGEPOSITION_TESTS_HOST_PRIVATECUPS_HPP
+
+#include "tests/host/ProcessRun.hpp"
+#include "tests/host/TemporaryFolder.hpp"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace imageposition::test {
+
+/// Listens on a socket in a temporary folder, in which everything else of it stands too. Ended with
+/// this object.
+class PrivateCups {
+public:
+  PrivateCups();
+
+  /// Whether it answered in time.
+  bool isRunning() const noexcept { return isRunning_; }
+  /// To lay over a program's environment, so that it talks to this CUPS.
+  std::vector<std::string> environment() const {
+    return {"CUPS_SERVER=" + socket(), "CUPS_SERVERROOT=" + folder_.path()};
+  }
+  /// Runs one of CUPS's commands against it.
+  ProcessResult run(const std::vector<std::string> &words) const;
+  /// What it wrote about itself.
+  std::string log() const;
+
+private:
+  std::string socket() const { return folder_.path("socket"); }
+  void writeConfiguration() const;
+
+  TemporaryFolder folder_;
+  std::unique_ptr<Process> server_; // ends before the folder goes
+  bool isRunning_ = false;
+};
+
+} // namespace imageposition::test
+
+#endif

@@ -1,0 +1,90 @@
+// Printers of a CUPS that the test runs.
+#include "tests/host/DialogFixture.hpp"
+#include "tests/host/PrivateCups.hpp"
+
+namespace {
+
+using namespace imageposition::test;
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Pair;
+
+class Queue : public DialogFixture {
+protected:
+  static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }
+  static void TearDownTestSuite() { cups.reset(); }
+  void SetUp() override {
+    ASSERT_TRUE(cups->isRunning()) << cups->log();
+    const auto added = cups->run({"lpadmin", "-p", "office", "-E", "-v", "file:///dev/null", "-P",
+                                  sample("duplex-shift.ppd")});
+    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
+  }
+  void TearDown() override { cups->run({"lpadmin", "-x", "office"}); }
+
+  ProcessResult print(const std::string &queue, const Words &words) {
+    Words all{"--batch", "-d", queue};
+    all.insert(all.end(), words.begin(), words.end());
+    return dialog(all, cups->environment());
+  }
+
+  static std::unique_ptr<PrivateCups> cups;
+};
+
+std::unique_ptr<PrivateCups> Queue::cups;
+
+TEST_F(Queue, ItsDescriptionComesFromCups) {
+  const auto result =
+      print("office", {"--set", "FrontLRM=-3", "--ticket", folder.path("job.json")});
+  ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_EQ(settingsIn(contentOf(folder.path("job.options"))),
+            offsets("-3", "0", "0", "0", "False"));
+  EXPECT_THAT(contentOf(folder.path("job.json")), HasSubstr("\"printer\": \"office\""));
+}
+
+TEST_F(Queue, ItsDefaultsAreMarkedAndTheJobsOptionsOverThem) {
+  cups->run({"lpadmin", "-p", "office", "-o", "Duplex=None"});
+  EXPECT_EQ(print("office", {"--set", "FrontLRM=-3"}).status, kValue);
+  const auto result = print("office", {"-o", "Duplex=DuplexTumble", "--set", "FrontLRM=-3"});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_THAT(settingsIn(result.output), Contains(Pair("Duplex", "DuplexTumble")));
+}
+
+TEST_F(Queue, AnInstancesDefaultsAreItsOwn) {
+  cups->run({"lpoptions", "-p", "office/single", "-o", "Duplex=None"});
+  EXPECT_EQ(print("office", {"--set", "FrontLRM=-3"}).status, kDone);
+  EXPECT_EQ(print("office/single", {"--set", "FrontLRM=-3"}).status, kValue);
+  cups->run({"lpoptions", "-x", "office/single"});
+}
+
+TEST_F(Queue, TheTicketsOptionFormIsWhatLpTakes) {
+  print("office", {"--set", "FrontLRM=-3", "--back", "on", "--ticket", folder.path("job.json")});
+  const std::string options = contentOf(folder.path("job.options"));
+  const auto sent = cups->run({"lp", "-d", "office", "-o", options, sample("two-sided.pdf")});
+  EXPECT_EQ(sent.status, 0) << testing::PrintToString(sent);
+  EXPECT_THAT(sent.output, HasSubstr("request id is office-"));
+}
+
+TEST_F(Queue, OneThatIsNotThereIsNamedWithWhereToLook) {
+  const auto result = print("attic", {});
+  EXPECT_EQ(result.status, kPrinter);
+  EXPECT_THAT(result.errors, HasSubstr("\"attic\""));
+  EXPECT_THAT(result.errors, HasSubstr("lpstat -e"));
+}
+
+TEST_F(Queue, OneWithoutADescriptionIsNamed) {
+  cups->run({"lpadmin", "-p", "plain", "-E", "-v", "file:///dev/null", "-m", "raw"});
+  EXPECT_EQ(print("plain", {}).status, kPrinter);
+  cups->run({"lpadmin", "-x", "plain"});
+}
+
+TEST_F(Queue, NothingOfItsDescriptionIsLeftBehind) {
+  print("office", {});
+  TemporaryFolder empty;
+  const auto result =
+      dialog({"--batch", "-d", "office"}, {cups->environment().front(), "TMPDIR=" + empty.path()});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  for (const auto &entry : std::filesystem::directory_iterator(empty.path()))
+    EXPECT_THAT(contentOf(entry.path().string()), testing::Not(HasSubstr("PPD-Adobe")));
+}
+
+} // namespace
