@@ -6,6 +6,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include <csignal>
 #include <cstdlib>
 
 namespace imageposition {
@@ -17,6 +18,13 @@ void leaveOutImageLoaders() {
   const Class magick = NSClassFromString(@"GSImageMagickImageRep");
   if (magick != Nil)
     [NSImageRep unregisterImageRepClass:magick];
+}
+
+/// The platform turns these signals into a wish to quit that a modal dialog never hears. Nothing
+/// needs saving: a ticket is written whole or not at all.
+void letSignalsEndTheProgram() {
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+    std::signal(signal, SIG_DFL);
 }
 
 } // namespace
@@ -35,6 +43,7 @@ void startApplication() {
     const char *const name = std::getenv("DISPLAY");
     throw Failure(ExitCode::Display, messages::displayUnreachable(name != nullptr ? name : ""));
   }
+  letSignalsEndTheProgram();
 }
 
 } // namespace imageposition

@@ -235,8 +235,6 @@ NSButton *makeButton(const char *title, id target, SEL action) {
       return;
     }
   }
-  if (sections.empty())
-    sections.push_back({messages::kNoPanelHere, {}});
   [summary showSections:sections];
   [self showView:summary];
 }

@@ -102,6 +102,8 @@ bool Process::hasEnded() {
   return ended_;
 }
 
+void Process::send(int signal) const { kill(child_, signal); }
+
 const ProcessResult &Process::wait() {
   while (!hasEnded()) {
     pollfd waiting[2] = {{output_, POLLIN, 0}, {errors_, POLLIN, 0}};

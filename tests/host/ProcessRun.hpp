@@ -30,6 +30,7 @@ public:
   /// Once it has ended.
   const ProcessResult &wait();
   bool hasEnded();
+  void send(int signal) const;
   /// What it has written so far.
   std::string errorsSoFar();
 

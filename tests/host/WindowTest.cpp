@@ -2,6 +2,7 @@
 #include "tests/host/DialogFixture.hpp"
 
 #include <chrono>
+#include <csignal>
 #include <functional>
 #include <memory>
 #include <thread>
@@ -134,6 +135,16 @@ TEST_F(Window, ClosingTheWindowCancels) {
   open("duplex-shift.ppd");
   press({"alt+F4"});
   EXPECT_EQ(ended().status, kCancelled);
+}
+
+TEST_F(Window, SignalsThatEndProgramsEndTheDialog) {
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    open("duplex-shift.ppd");
+    type("-3");
+    dialogProcess->send(signal);
+    EXPECT_EQ(ended().status, 128 + signal);
+    EXPECT_EQ(folder.fileCount(), 0U);
+  }
 }
 
 TEST_F(Window, ATicketsValuesAreShownAndKept) {
