@@ -8,8 +8,8 @@ namespace imageposition {
 bool isDisplayNamed();
 
 /// Starts an Xvfb of this process's own, waits until it answers, and names it in DISPLAY. It ends
-/// when this process does and not before: the platform's connection to it is never closed, and losing
-/// it would end the process. Throws a `Failure` with `ExitCode::Display`.
+/// when this process does and not before: the platform's connection to it is never closed, and
+/// losing it would end the process. Throws a `Failure` with `ExitCode::Display`.
 void startPrivateDisplay();
 
 } // namespace imageposition
