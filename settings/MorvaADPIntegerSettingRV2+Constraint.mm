@@ -11,6 +11,7 @@ using imageposition::ConditionSource;
 using imageposition::ConstraintRule;
 using imageposition::ConstraintRules;
 using imageposition::ConstraintTable;
+using imageposition::IntegerSettingParts;
 using imageposition::KnownSetting;
 using imageposition::SettingRules;
 using imageposition::toOptionalText;
@@ -81,6 +82,25 @@ private:
   bool wasWalking_;
 };
 
+/// Around an action that reaches the view items: they may change which settings are related, and
+/// ask for conditions of their own.
+class Interruption {
+public:
+  explicit Interruption(SettingRules &rules) : rules_(rules), wasWalking_(rules.walking) {
+    rules_.walking = false;
+  }
+  ~Interruption() {
+    rules_.walking = wasWalking_;
+    rules_.knownIsCurrent = false;
+  }
+  Interruption(const Interruption &) = delete;
+  Interruption &operator=(const Interruption &) = delete;
+
+private:
+  SettingRules &rules_;
+  bool wasWalking_;
+};
+
 // What a subclass overrides has to be asked every time.
 bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSettingRV2 class]; }
 
@@ -93,26 +113,26 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
   const auto name = toOptionalText([self getSettingName]);
   if (!name)
     return;
-  SettingRules &own = *static_cast<SettingRules *>(Rules);
+  SettingRules &own = static_cast<IntegerSettingParts *>(Parts)->rules;
   const std::shared_ptr<const ConstraintRules> rules = own.rules;
   const Walk walk(own);
   for (const ConstraintTable::Position position : rules->table().rulesActingOn(*name)) {
     if (![self checkUIConstraintCondition:rules->dictionary(position)])
       continue;
-    // Whoever hears of the action may ask for a condition meanwhile.
-    own.knownIsCurrent = false;
     const Action &action = rules->table()[position].action;
     switch (action.kind) {
     case Action::Kind::Nothing:
       break;
-    case Action::Kind::SetValue:
+    case Action::Kind::SetValue: {
+      const Interruption interruption(own);
       [self setStringValue:toString(action.text)];
-      own.knownIsCurrent = false;
       break;
-    case Action::Kind::SetAvailable:
+    }
+    case Action::Kind::SetAvailable: {
+      const Interruption interruption(own);
       [self setViewState:action.available];
-      own.knownIsCurrent = false;
       break;
+    }
     case Action::Kind::SetRange:
       // The value is clamped, and the label renewed, when the setting is next checked or shown.
       Min = action.range.min;
@@ -126,7 +146,7 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
 }
 
 - (BOOL)checkUIConstraintCondition:(NSDictionary *)rule {
-  SettingRules &own = *static_cast<SettingRules *>(Rules);
+  SettingRules &own = static_cast<IntegerSettingParts *>(Parts)->rules;
   if (!own.walking || !own.knownIsCurrent) {
     own.known.clear();
     own.allAreKnown = isPlain(self);
@@ -134,7 +154,8 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
       MorvaADPIntegerSettingRV2 *setting = [RelatedSettings objectAtIndex:index];
       own.allAreKnown = isPlain(setting);
       if (own.allAreKnown)
-        own.known.push_back({&static_cast<SettingRules *>(setting->Rules)->name, &setting->Value});
+        own.known.push_back(
+            {&static_cast<IntegerSettingParts *>(setting->Parts)->rules.name, &setting->Value});
     }
     own.knownIsCurrent = true;
   }

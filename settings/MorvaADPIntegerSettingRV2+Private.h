@@ -4,6 +4,7 @@
 
 #import "platform/TextBridge.h"
 #import "settings/ConstraintDictionary.h"
+#import "settings/ItemConformance.h"
 #import "settings/MorvaADPIntegerSettingRV2.h"
 
 #include <optional>
@@ -32,6 +33,14 @@ struct SettingRules {
   std::vector<KnownSetting> known;
   bool allAreKnown = false; ///< Otherwise `known` is not to be used.
   bool knownIsCurrent = false;
+};
+
+/// What the setting has in C++.
+struct IntegerSettingParts {
+  IntegerSettingParts(NSDictionary *table, NSString *settingName) : rules(table, settingName) {}
+
+  SettingRules rules;
+  ItemConformance conformance;
 };
 
 } // namespace imageposition

@@ -12,7 +12,7 @@
   int32_t Min;
   int32_t Default;
   NSArray *RangeLabelInfoList; ///< Owned; the three label keys of the base are its elements.
-  void *Rules; ///< The rules of `ConstraintInfo` in typed form; owned. See the private header.
+  void *Parts;                 ///< The setting in C++; owned. See the private header.
 }
 
 /// As the base, and null without a record. "Range" is "minimum:maximum" (absent: 0 to 0),

@@ -13,7 +13,8 @@ using imageposition::composeRangeText;
 using imageposition::integerOf;
 using imageposition::integerString;
 using imageposition::readInterval;
-using imageposition::SettingRules;
+using imageposition::IntegerSettingParts;
+using imageposition::ItemConformance;
 using imageposition::textEntry;
 using imageposition::toOptionalText;
 using imageposition::toString;
@@ -45,10 +46,10 @@ NSArray *rangeLabelWordingOf(NSDictionary *record, NSString *settingName) {
   return nil;
 }
 
-void show(int32_t value, NSArray *items) {
+void show(int32_t value, NSArray *items, ItemConformance &conformance) {
   for (NSUInteger index = 0; index < [items count]; ++index) {
     id item = [items objectAtIndex:index];
-    if ([item conformsToProtocol:@protocol(TextFieldInterface)])
+    if (conformance.conforms(item, @protocol(TextFieldInterface)))
       [item setStringValue:integerString(value)];
   }
 }
@@ -78,12 +79,12 @@ void show(int32_t value, NSArray *items) {
   ValueRangeLabelLocalizeKey = [wording objectAtIndex:2];
   Default = integerOf([record objectForKey:kRecordDefaultValue]);
   Value = Default;
-  Rules = new SettingRules(rules, SettingName);
+  Parts = new IntegerSettingParts(rules, SettingName);
   return self;
 }
 
 - (void)dealloc {
-  delete static_cast<SettingRules *>(Rules);
+  delete static_cast<IntegerSettingParts *>(Parts);
   [RangeLabelInfoList release];
   [super dealloc];
 }
@@ -99,15 +100,16 @@ void show(int32_t value, NSArray *items) {
 }
 
 - (void)checkUI:(PMPrintSettings)printSettings {
+  ItemConformance &conformance = static_cast<IntegerSettingParts *>(Parts)->conformance;
   const int32_t before = Value;
   for (NSUInteger index = 0; index < [HandlingTarget count]; ++index) {
     id item = [HandlingTarget objectAtIndex:index];
-    if ([item conformsToProtocol:@protocol(TextFieldInterface)] && [item getInt] != before)
+    if (conformance.conforms(item, @protocol(TextFieldInterface)) && [item getInt] != before)
       Value = [item getInt];
-    if ([item conformsToProtocol:@protocol(StepperInterface)])
+    if (conformance.conforms(item, @protocol(StepperInterface)))
       Value = static_cast<int32_t>(static_cast<uint32_t>(Value) +
                                    static_cast<uint32_t>([item getSteps]));
-    if ([item conformsToProtocol:@protocol(LocalizableInterface)]) {
+    if (conformance.conforms(item, @protocol(LocalizableInterface))) {
       const NSInteger tag = [item tag];
       if (tag == MorvaADPViewTagName)
         [item applyLocalizableStrings:SettingName BundleInfo:BundleInfo];
@@ -145,12 +147,13 @@ void show(int32_t value, NSArray *items) {
 }
 
 - (void)getTicket:(PMPrintSettings)printSettings {
+  ItemConformance &conformance = static_cast<IntegerSettingParts *>(Parts)->conformance;
   CFTypeRef stored = nullptr;
   const OSStatus status =
       PMPrintSettingsGetValue(printSettings, reinterpret_cast<CFStringRef>(TicketKey), &stored);
   Value = status == 0 ? integerOf(static_cast<id>(const_cast<void *>(stored))) : Default;
   for (NSUInteger index = 0; index < [HandlingTarget count]; ++index) {
-    if ([[HandlingTarget objectAtIndex:index] conformsToProtocol:@protocol(TextFieldInterface)])
+    if (conformance.conforms([HandlingTarget objectAtIndex:index], @protocol(TextFieldInterface)))
       [self setStringValue:integerString(Value)];
   }
 }
@@ -162,13 +165,13 @@ void show(int32_t value, NSArray *items) {
 - (void)setStringValue:(NSString *)text {
   Value = integerOf(text);
   [self checkValue];
-  show(Value, HandlingTarget);
+  show(Value, HandlingTarget, static_cast<IntegerSettingParts *>(Parts)->conformance);
 }
 
 - (void)setIntValue:(int32_t)value {
   Value = value;
   [self checkValue];
-  show(Value, HandlingTarget);
+  show(Value, HandlingTarget, static_cast<IntegerSettingParts *>(Parts)->conformance);
 }
 
 - (void)checkValue {
