@@ -8,6 +8,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <objc/runtime.h>
 
 namespace imageposition {
 
@@ -18,6 +19,20 @@ void leaveOutImageLoaders() {
   const Class magick = NSClassFromString(@"GSImageMagickImageRep");
   if (magick != Nil)
     [NSImageRep unregisterImageRepClass:magick];
+}
+
+id answerNothing(id, SEL, ...) { return nil; }
+
+void silence(Class owner, SEL operation) {
+  if (Method const method = class_getClassMethod(owner, operation))
+    method_setImplementation(method, reinterpret_cast<IMP>(answerNothing));
+}
+
+/// Notifications between programs need a daemon, which would be started and outlive the dialog;
+/// nothing here sends or awaits one.
+void leaveOutNotificationDaemon() {
+  silence([NSDistributedNotificationCenter class], @selector(defaultCenter));
+  silence([NSDistributedNotificationCenter class], @selector(notificationCenterForType:));
 }
 
 /// The platform turns these signals into a wish to quit that a modal dialog never hears. Nothing
@@ -36,8 +51,14 @@ void setPlatformDefaults() {
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
 }
 
+void leaveOutPasteboardDaemon() {
+  silence([NSPasteboard class], @selector(generalPasteboard));
+  silence([NSPasteboard class], @selector(pasteboardWithName:));
+}
+
 void startApplication() {
   leaveOutImageLoaders();
+  leaveOutNotificationDaemon();
   const auto raised = whatIsRaisedBy([] { [NSApplication sharedApplication]; });
   if (raised || NSApp == nil) {
     const char *const name = std::getenv("DISPLAY");

@@ -54,6 +54,7 @@ void finish(const Arguments &arguments, const Ticket &ticket) {
 ExitCode runInBatch(const Arguments &arguments, PrinterDescription &printer, Ticket &ticket) {
   if (!isDisplayNamed())
     startPrivateDisplay();
+  leaveOutPasteboardDaemon();
   startApplication();
   const auto plugins = pluginsFor(arguments, printer);
   PanelSession session(printer, ticket.settings);

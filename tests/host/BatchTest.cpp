@@ -200,6 +200,20 @@ TEST_F(Batch, WithoutADisplayAPrivateOneIsStartedAndEnded) {
   EXPECT_THAT(result.errors, IsEmpty());
 }
 
+TEST_F(Batch, NoDaemonIsStartedThatOutlivesIt) {
+  const std::string listCompanions =
+      "for folder in /proc/[0-9]*; do grep -qzxF"
+      " \"IMAGEPOSITION_PRIVATE_USER=$IMAGEPOSITION_PRIVATE_USER\" $folder/environ && "
+      "cat $folder/comm; done 2>/dev/null";
+  const auto result = runProcess(
+      {WITH_PRIVATE_USER, "bash", "-c",
+       PRINT_DIALOG " --batch --ppd " + shift + " --set FrontLRM=-3; " + listCompanions});
+  EXPECT_THAT(settingsIn(result.output), Contains(Pair("LeftRightMargin", "-3")));
+  EXPECT_THAT(result.output, HasSubstr("bash\n"));
+  EXPECT_THAT(result.output, testing::Not(HasSubstr("gdnc")));
+  EXPECT_THAT(result.output, testing::Not(HasSubstr("gpbs")));
+}
+
 TEST_F(Batch, WhereNoDisplayCanBeStartedItSaysWhatToDo) {
   auto result = batch(shift, {}, {"DISPLAY", "PATH=/nonexistent"});
   EXPECT_EQ(result.status, kDisplay);
