@@ -12,6 +12,8 @@
 
 namespace imageposition {
 
+/// Whether a panel wants to be hidden is not asked: this dialog offers every panel that it gets.
+///
 /// Every operation throws a `Failure` with `ExitCode::Plugin` when the panel raises; the panel is
 /// then not asked again by its owner. Main thread only.
 class PanelDriver {

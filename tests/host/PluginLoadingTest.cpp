@@ -153,6 +153,35 @@ TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
   expectLeftOut(load(garbled, ""), "");
 }
 
+TEST_F(PluginLoading, ThePanelWithoutOneOfItsDefinitionsCannotBeLoaded) {
+  for (const char *file : {"SettingInfo.plist", "ConstraintInfo.plist"}) {
+    for (const char *content : {"", "{{{", "(\"an array\")"}) {
+      SCOPED_TRACE(std::string(file) + " " + content);
+      TemporaryFolder place;
+      const std::string bundle = place.path("Broken.plugin");
+      fs::copy(IMAGE_POSITION_PLUGIN, bundle, fs::copy_options::recursive);
+      std::ofstream(bundle + "/Resources/" + file) << content;
+      expectLeftOut(load(bundle, ""), "The panel of the plug-in");
+      fs::remove(bundle + "/Resources/" + file);
+      expectLeftOut(load(bundle, ""), "could not be loaded");
+    }
+  }
+}
+
+TEST_F(PluginLoading, ThePanelWithoutItsInterfaceFileTakesNoOneDown) {
+  for (const char *content : {"", "<?xml version=\"1.0\"?><document/>", "garbage"}) {
+    SCOPED_TRACE(content);
+    TemporaryFolder place;
+    const std::string bundle = place.path("Broken.plugin");
+    fs::copy(IMAGE_POSITION_PLUGIN, bundle, fs::copy_options::recursive);
+    std::ofstream(bundle + "/Resources/ImagePositionAdjustPrint.xib") << content;
+    EXPECT_EQ(load(bundle, "").status, kDone);
+    EXPECT_EQ(load(bundle, "", {"--set", "FrontLRM=1"}).status, kValue);
+    fs::remove(bundle + "/Resources/ImagePositionAdjustPrint.xib");
+    EXPECT_EQ(load(bundle, "").status, kDone);
+  }
+}
+
 TEST_F(PluginLoading, ASecondCopyIsRefusedByName) {
   const auto result = load(FIXTURE_PLUGIN, "", {"--plugin", copy()});
   expectLeftOut(result, "Copy.plugin\" was not loaded: its class \"FixturePlugin\"");
