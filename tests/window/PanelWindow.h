@@ -1,0 +1,76 @@
+/// The whole panel of the built bundle, in a window of a dialog made for a test.
+#ifndef IMAGEPOSITION_TESTS_WINDOW_PANELWINDOW_H
+#define IMAGEPOSITION_TESTS_WINDOW_PANELWINDOW_H
+
+#import "tests/controller/RecordingHost.h"
+#import "tests/support/Fields.h"
+#import "tests/support/LogCapture.h"
+#import "tests/support/TestPpd.h"
+#import "tests/support/TestPrintSettings.h"
+#import "tests/support/Text.h"
+#import "tests/window/Person.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace imageposition::test {
+
+inline NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
+inline constexpr const char *kEnableFlag = "com.morva.printsettings.19AImagePositionEnable";
+
+/// The built bundle, loaded.
+NSBundle *pluginBundle();
+/// A new plug-in object of it; the caller's.
+id newPlugin();
+/// A printer that supports the adjustment and allows it now.
+std::vector<std::string> supportingPrinter();
+
+class PanelWindow : public testing::Test {
+protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  NSControl *control(const std::string &fieldName);
+  NSTextField *text(const std::string &name) {
+    return static_cast<NSTextField *>(control(name + "Text"));
+  }
+  NSControl *stepper(const std::string &name) { return control(name + "Stepper"); }
+  NSButton *check() { return static_cast<NSButton *>(control("chkEnableImagePositionAdjust")); }
+  NSButton *button() { return static_cast<NSButton *>(control("btnRestore2Defalut")); }
+
+  /// What the person reads there.
+  std::string shown(const std::string &name);
+  std::string label(const std::string &name);
+  /// The bundle's text for a key.
+  static std::string localized(const std::string &key);
+  /// What the job's print settings hold for that offset, "(null)" for nothing.
+  std::string stored(const std::string &ticketKey);
+  std::string flag() { return stored(kEnableFlag); }
+
+  /// The name of the control that has the keyboard; "" for none.
+  std::string focused();
+
+  /// Selects what a field shows, as a person does who wants to replace it.
+  void select(const std::string &name);
+  void expectSeen(const std::function<bool()> &condition, const char *what);
+
+  std::unique_ptr<LogCapture> log;
+  std::unique_ptr<TestPpd> ppd;
+  std::unique_ptr<TestPrintSettings> settings;
+  RecordingHost *host = nil;
+  id plugin = nil;
+  id panel = nil;
+  NSView *view = nil;
+  NSWindow *window = nil;
+  std::unique_ptr<Person> person;
+};
+
+/// Waits until a person would see that the condition holds.
+#define EXPECT_SEEN(condition) expectSeen([&] { return (condition); }, #condition)
+
+} // namespace imageposition::test
+
+#endif
