@@ -1,6 +1,7 @@
 #import "host/Application.h"
 
 #include "host/ExitCode.hpp"
+#import "host/Fonts.h"
 #import "host/Guard.h"
 #include "host/Messages.hpp"
 
@@ -65,6 +66,7 @@ void startApplication() {
     throw Failure(ExitCode::Display, messages::displayUnreachable(name != nullptr ? name : ""));
   }
   letSignalsEndTheProgram();
+  chooseFontsForLanguage();
 }
 
 } // namespace imageposition

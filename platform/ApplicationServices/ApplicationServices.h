@@ -1,8 +1,9 @@
 /// The part of macOS's ApplicationServices that the plug-in uses, for systems without it.
 ///
 /// Print settings are a store of values under string keys that travels with the job; the process
-/// that loads the plug-in provides the two functions (`libPrintCore.so` here). The two protocols are
-/// the print dialog's side of a plug-in: the dialog calls their operations on its main thread only.
+/// that loads the plug-in provides the two functions (`libPrintCore.so` here). The two protocols
+/// are the print dialog's side of a plug-in: the dialog calls their operations on its main thread
+/// only.
 #ifndef IMAGEPOSITION_APPLICATIONSERVICES_H
 #define IMAGEPOSITION_APPLICATIONSERVICES_H
 
@@ -37,7 +38,8 @@ OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, CFStringRef key, CFTy
 
 /// What a print dialog asks of a plug-in bundle's principal class.
 @protocol PDEPlugIn
-/// Called once after the bundle was loaded, in place of an initializer; answers whether it succeeded.
+/// Called once after the bundle was loaded, in place of an initializer; answers whether it
+/// succeeded.
 - (BOOL)initWithBundle:(NSBundle *)bundle;
 /// The panels for a kind of dialog: an array, empty for none, or null when a panel failed to build.
 - (NSArray *)PDEPanelsForType:(NSString *)type withHostInfo:(id)hostInfo;
@@ -48,7 +50,8 @@ OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, CFStringRef key, CFTy
 - (NSView *)panelView;
 - (NSString *)panelName;
 - (NSString *)panelKind;
-/// The PPD option keys that the panel handles, so that the dialog does not offer them a second time.
+/// The PPD option keys that the panel handles, so that the dialog does not offer them a second
+/// time.
 - (NSArray *)supportedPPDOptionKeys;
 - (BOOL)shouldShowHelp;
 - (BOOL)shouldHide;

@@ -2,6 +2,8 @@
 
 #import "tests/support/Pool.h"
 
+#import <GNUstepGUI/GSDisplayServer.h>
+
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -77,6 +79,31 @@ struct Person::Server {
     return result;
   }
 
+  void moveTo(NSPoint place, NSScreen *screen) {
+    XTestFakeMotionEvent(display, -1, int(std::lround(place.x)),
+                         int(std::lround(NSHeight([screen frame]) - place.y)), CurrentTime);
+    XFlush(display);
+  }
+
+  // The platform calls a window visible before the server shows it.
+  bool pointerIsIn(NSWindow *window) {
+    const auto wanted = reinterpret_cast<Window>(
+        [GSServerForWindow(window) windowDevice:static_cast<int>([window windowNumber])]);
+    Window root, child = DefaultRootWindow(display);
+    int rootX, rootY, x, y;
+    unsigned int buttons;
+    while (child != None && child != wanted) {
+      if (!XQueryPointer(display, child, &root, &child, &rootX, &rootY, &x, &y, &buttons))
+        return false;
+    }
+    return child == wanted;
+  }
+
+  void button(bool down, unsigned long delay) {
+    XTestFakeButtonEvent(display, 1, down, delay);
+    XFlush(display);
+  }
+
   void key(const std::string &name, bool down) {
     XTestFakeKeyEvent(display, code(name), down, CurrentTime);
   }
@@ -94,26 +121,33 @@ void Person::click(NSView *view, double x, double y) {
   const double up = [view isFlipped] ? 1 - y : y;
   const NSPoint inView =
       NSMakePoint(NSMinX(bounds) + x * NSWidth(bounds), NSMinY(bounds) + up * NSHeight(bounds));
-  const NSPoint onScreen = [[view window] convertBaseToScreen:[view convertPoint:inView
-                                                                          toView:nil]];
-  const double height = NSHeight([[[view window] screen] frame]);
-  XTestFakeMotionEvent(server_->display, -1, int(std::lround(onScreen.x)),
-                       int(std::lround(height - onScreen.y)), CurrentTime);
-  XTestFakeButtonEvent(server_->display, 1, True, CurrentTime);
-  XFlush(server_->display);
+  NSWindow *const window = [view window];
+  // Where the window is can change until its manager has placed it.
+  handleUntil("pointer in the window",
+              [&] {
+                server_->moveTo([window convertBaseToScreen:[view convertPoint:inView toView:nil]],
+                                [window screen]);
+                return server_->pointerIsIn(window);
+              },
+              {});
+  server_->button(true, CurrentTime);
   // The window manager sees each press first and holds the pointer meanwhile; and the platform
   // turns around a press and a release that it finds waiting together. So the release comes when
   // the press is about to be handled, which may last until then.
   bool pressed = false;
-  handleUntil(
-      "press of the button", [&] { return pressed; },
-      [&](NSEvent *event) {
-        if ([event type] != NSLeftMouseDown)
-          return;
-        pressed = true;
-        XTestFakeButtonEvent(server_->display, 1, False, kReleaseDelay);
-        XFlush(server_->display);
-      });
+  try {
+    handleUntil(
+        "press of the button", [&] { return pressed; },
+        [&](NSEvent *event) {
+          if ([event type] != NSLeftMouseDown)
+            return;
+          pressed = true;
+          server_->button(false, kReleaseDelay);
+        });
+  } catch (...) {
+    server_->button(false, CurrentTime); // for whoever clicks next
+    throw;
+  }
   settle();
 }
 
