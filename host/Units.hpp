@@ -1,0 +1,53 @@
+/// Lengths on a page. A unit is a type, so that two are never mixed up.
+#ifndef IMAGEPOSITION_HOST_UNITS_HPP
+#define IMAGEPOSITION_HOST_UNITS_HPP
+
+#include <cstdint>
+#include <string>
+
+namespace imageposition {
+
+/// Tenths of a millimetre: the unit of a job's offsets. Wide enough that the sum and the difference
+/// of any two offsets fit.
+struct TenthMillimetre {
+  std::int64_t count = 0;
+};
+
+/// A PostScript point, 1/72 inch: the unit of page sizes.
+struct Point {
+  double count = 0;
+};
+
+constexpr double kTenthMillimetresPerPoint = 254.0 / 72.0;
+
+constexpr Point toPoints(TenthMillimetre length) noexcept {
+  return {static_cast<double>(length.count) / kTenthMillimetresPerPoint};
+}
+
+/// The nearest whole tenth, halves away from zero. Lengths up to 10^15 points.
+TenthMillimetre toTenthMillimetres(Point length) noexcept;
+
+/// "2.5 mm", "-0.1 mm", "10 mm": a decimal only where there is one.
+std::string lengthText(TenthMillimetre length);
+
+constexpr TenthMillimetre operator+(TenthMillimetre a, TenthMillimetre b) noexcept {
+  return {a.count + b.count};
+}
+constexpr TenthMillimetre operator-(TenthMillimetre a, TenthMillimetre b) noexcept {
+  return {a.count - b.count};
+}
+constexpr TenthMillimetre operator-(TenthMillimetre a) noexcept { return {-a.count}; }
+constexpr bool operator==(TenthMillimetre a, TenthMillimetre b) noexcept {
+  return a.count == b.count;
+}
+constexpr bool operator!=(TenthMillimetre a, TenthMillimetre b) noexcept { return !(a == b); }
+
+constexpr Point operator+(Point a, Point b) noexcept { return {a.count + b.count}; }
+constexpr Point operator-(Point a, Point b) noexcept { return {a.count - b.count}; }
+constexpr bool operator==(Point a, Point b) noexcept { return a.count == b.count; }
+constexpr bool operator!=(Point a, Point b) noexcept { return !(a == b); }
+constexpr bool operator<(Point a, Point b) noexcept { return a.count < b.count; }
+
+} // namespace imageposition
+
+#endif
