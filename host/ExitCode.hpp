@@ -18,6 +18,7 @@ enum class ExitCode : int {
   Ticket = 6,    ///< The ticket cannot be read or written.
   Display = 7,   ///< There is no display, and none could be started.
   Value = 8,     ///< Batch: a value cannot be set on the panel.
+  Job = 9,       ///< CUPS did not take the job.
 };
 
 /// Ends what was asked for; the message is a sentence for the person, with what to do.

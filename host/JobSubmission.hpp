@@ -1,0 +1,93 @@
+/// Hands a job to CUPS.
+#ifndef IMAGEPOSITION_HOST_JOBSUBMISSION_HPP
+#define IMAGEPOSITION_HOST_JOBSUBMISSION_HPP
+
+#include "host/ExitCode.hpp"
+#include "host/JobRequest.hpp"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace imageposition {
+
+enum class JobProblem {
+  NoCups,         ///< None answers, or it went away.
+  QueueGone,      ///< No queue of that name.
+  RefusesJobs,    ///< The queue exists and takes none.
+  Authentication, ///< A password is wanted, or this user may not print there.
+  BadOption,      ///< CUPS does not take an option's value.
+  Document,       ///< The file cannot be read.
+  Format,         ///< CUPS cannot print this kind of file.
+  Spool,          ///< The document is too large, the disk is full, or too many jobs wait.
+  Cancelled,      ///< By the progress callback or `cancel`.
+  Other,
+};
+
+/// The message is a sentence with what to do. No job is left that would print; `ExitCode::Job`, but
+/// for a document that cannot be read (`Usage`) and a cancelled one (`Cancelled`).
+class SubmissionFailure : public Failure {
+public:
+  SubmissionFailure(JobProblem problem, ExitCode code, const std::string &message)
+      : Failure(code, message), problem_(problem) {}
+  JobProblem problem() const noexcept { return problem_; }
+
+private:
+  JobProblem problem_;
+};
+
+struct JobProgress {
+  std::uint64_t sent = 0;             ///< Bytes.
+  std::optional<std::uint64_t> total; ///< Bytes; unknown for a pipe.
+};
+
+/// What is printed: the file of that path, or standard input for "-".
+struct JobDocument {
+  std::string path;
+};
+
+struct SubmittedJob {
+  int id = 0;       ///< lp's "printer-id".
+  std::string note; ///< Why it does not print at once (stopped, held) and what to do; else empty.
+};
+
+/// Called before the first and after each piece of the document; false cancels.
+using ProgressCallback = std::function<bool(const JobProgress &)>;
+/// Asked when CUPS wants one; the argument is CUPS's question. None gives up.
+using PasswordCallback = std::function<std::optional<std::string>(const std::string &prompt)>;
+
+/// Submits the job on the caller's thread and returns when CUPS has all of it. The document is
+/// streamed in small pieces. Both callbacks are called on this thread; without a password callback
+/// nobody is asked. Throws a `SubmissionFailure`, or what `optionsToSend` throws.
+SubmittedJob submitJob(const JobRequest &request, const JobDocument &document,
+                       const ProgressCallback &progress = {},
+                       const PasswordCallback &password = {});
+
+/// The same on a thread of its own, for a window whose timer looks at it. All calls on one thread;
+/// none waits but `result` and the destructor.
+class JobSubmission {
+public:
+  /// Starts at once.
+  JobSubmission(JobRequest request, JobDocument document);
+  /// Cancels what is under way and waits until that has happened.
+  ~JobSubmission();
+  JobSubmission(const JobSubmission &) = delete;
+  JobSubmission &operator=(const JobSubmission &) = delete;
+
+  JobProgress progress() const;
+  /// Takes effect between two pieces; too late once all has been sent.
+  void cancel();
+  bool isDone() const;
+  /// Waits for the end; throws what `submitJob` threw.
+  SubmittedJob result();
+
+private:
+  struct Work;
+  std::unique_ptr<Work> work_;
+};
+
+} // namespace imageposition
+
+#endif
