@@ -1,0 +1,64 @@
+/// Settings kept under a name, where CUPS keeps them.
+#ifndef IMAGEPOSITION_HOST_PRESETS_HPP
+#define IMAGEPOSITION_HOST_PRESETS_HPP
+
+#include "host/PrinterDescription.hpp"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace imageposition {
+
+/// A preset's place: `lp -d printer/name` prints with it.
+struct PresetName {
+  std::string printer;
+  std::string name;
+};
+
+/// What a preset gave to a job.
+struct LoadedPreset {
+  PrintSettingsStore settings;      ///< What fits the printer.
+  std::vector<std::string> misfits; ///< A sentence for each setting that was left out.
+};
+
+/// The presets of the person who runs the program: CUPS's destination instances, in CUPS's own file
+/// (lpoptions), read again at every call, so that no copy here grows old.
+///
+/// Every operation asks the CUPS server, which knows the printers, and throws a `Failure` with
+/// `ExitCode::Printer` that says what to do. Several programs may write at once.
+class Presets {
+public:
+  /// The queue's name, without an instance.
+  explicit Presets(std::string printer) : printer_(std::move(printer)) {}
+
+  /// In alphabetical order.
+  std::vector<std::string> names() const;
+  /// Those of all other printers, by printer and name.
+  std::vector<PresetName> ofOtherPrinters() const;
+
+  /// Adds the preset or replaces it. Left out are settings that belong to one document ("job-name",
+  /// "page-ranges", ...). Answers a sentence for each setting that CUPS's file cannot hold, and
+  /// that the preset therefore lacks.
+  std::vector<std::string> save(const std::string &name, const PrintSettingsStore &settings) const;
+  /// The new name must be free.
+  void rename(const std::string &name, const std::string &newName) const;
+  /// One that is gone already is no failure.
+  void remove(const std::string &name) const;
+
+  /// What the preset says beyond the printer's defaults; meant to replace the job's settings.
+  LoadedPreset load(const std::string &name, const PrinterDescription &printer) const;
+  /// The same for any printer's preset; what `printer` cannot do is left out and named.
+  static LoadedPreset load(const PresetName &preset, const PrinterDescription &printer);
+
+  /// A name that CUPS can hold and `lp` can be given, made of what a person typed: "Two sided"
+  /// turns into "Two-sided". Throws a `Failure` with `ExitCode::Usage` when nothing usable is left.
+  static std::string usableName(const std::string &typed);
+
+private:
+  std::string printer_;
+};
+
+} // namespace imageposition
+
+#endif
