@@ -22,6 +22,16 @@ void addOptions(CLI::App &app, RawArguments &raw) {
   app.add_option("-o,--option", arguments.options, messages::kHelpOption)
       ->type_name("NAME=VALUE")
       ->allow_extra_args(false);
+  app.add_option("-h", arguments.server, messages::kHelpServer)->type_name("SERVER");
+  app.add_option("-n", arguments.copies, messages::kHelpCopies)
+      ->type_name("COPIES")
+      ->check(CLI::Range(1, 9999));
+  app.add_option("-P", arguments.pages, messages::kHelpPages)->type_name("PAGES");
+  app.add_option("-t", arguments.title, messages::kHelpTitle)->type_name("TITLE");
+  app.add_option("-q", arguments.priority, messages::kHelpPriority)
+      ->type_name("PRIORITY")
+      ->check(CLI::Range(1, 100));
+  app.add_flag("--dry-run", arguments.isDryRun, messages::kHelpDryRun);
   app.add_option("--plugin", arguments.plugins, messages::kHelpPlugin)
       ->type_name("BUNDLE")
       ->allow_extra_args(false);
@@ -62,8 +72,8 @@ void fillBatchRequest(RawArguments &raw) {
 }
 
 void checkCombination(const Arguments &arguments) {
-  if (arguments.ppd.empty() == arguments.queue.empty())
-    refuse(messages::kNoPrinterNamed);
+  if (!arguments.ppd.empty() && !arguments.queue.empty())
+    refuse(messages::kTwoPrintersNamed);
   if (endsWith(arguments.ticket, ".options"))
     refuse(messages::ticketNamesOptions(arguments.ticket));
 }

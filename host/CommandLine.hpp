@@ -12,12 +12,18 @@ namespace imageposition {
 
 /// What was asked for. Empty texts stand for what was not given.
 struct Arguments {
-  std::string ppd;   ///< A printer description file; exactly one of this and `queue` is given.
-  std::string queue; ///< A CUPS queue, perhaps with "/instance".
+  std::string ppd;    ///< A printer description file; never given together with `queue`.
+  std::string queue;  ///< A CUPS queue, perhaps with "/instance"; without both, the default one.
+  std::string server; ///< The CUPS server, as "host", "host:port" or the path of a socket.
   std::vector<std::string> options; ///< Each "name=value", or several separated by blanks.
   std::vector<std::string> plugins;
   std::string ticket;
-  std::string document;
+  std::string document; ///< "-" stands for standard input.
+  std::string title;
+  std::string pages; ///< As "1-3,7"; not yet checked.
+  int copies = 0;    ///< From 1; 0 when not given.
+  int priority = 0;  ///< From 1 to 100; 0 when not given.
+  bool isDryRun = false;
   bool isBatch = false;
   BatchRequest batch;
 };

@@ -22,12 +22,19 @@ std::string withoutStop(std::string reason) {
 
 const char *const kVersion = "print-dialog " IMAGEPOSITION_VERSION;
 const char *const kHelpIntroduction =
-    "Sets up a print job with the panels of printer plug-ins.\n"
+    "Prints a document, set up with the panels of printer plug-ins.\n"
     "Opens a window; with --batch, sets and prints the same without one.";
 const char *const kHelpPpd = "The printer, by its description: a PPD file";
-const char *const kHelpQueue = "The printer, by its CUPS queue: NAME or NAME/INSTANCE";
+const char *const kHelpQueue = "The printer, by its CUPS queue: NAME or NAME/INSTANCE;\n"
+                               "without this and --ppd, the default queue";
 const char *const kHelpOption = "A setting of the job, as lp takes it: NAME=VALUE, NAME\n"
                                 "or noNAME; may be repeated";
+const char *const kHelpServer = "The CUPS server: HOST, HOST:PORT or a socket's path";
+const char *const kHelpCopies = "The number of copies";
+const char *const kHelpPages = "The pages to print, as 1-3,7";
+const char *const kHelpTitle = "The job's title; without it, the document's name";
+const char *const kHelpPriority = "The job's priority, from 1 to 100; 50 is usual";
+const char *const kHelpDryRun = "Print nothing: write what CUPS would be sent";
 const char *const kHelpPlugin =
     "Use this plug-in and no other; may be repeated.\n"
     "Without it: those that the printer's description names\n"
@@ -36,7 +43,8 @@ const char *const kHelpPlugin =
 const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exists,\n"
                                 "written by Print. The same as NAME=VALUE lines goes\n"
                                 "beside it (job.options for job.json)";
-const char *const kHelpDocument = "The document to print; the ticket names it";
+const char *const kHelpDocument = "The document to print; \"-\" is standard input, which is\n"
+                                  "also read when the window prints and no document is named";
 const char *const kHelpBatch = "Show no window: set the panel, then write the job's\n"
                                "settings to the ticket, or print them without one.\n"
                                "Where there is no display, Xvfb is started";
@@ -50,6 +58,8 @@ const char *const kHelpVersion = "Print the version";
 const char *const kHelpHelp = "Print this text";
 const char *const kHelpFooter =
     "Examples:\n"
+    "  print-dialog report.pdf\n"
+    "      Opens the window on the default printer; Print prints.\n"
     "  print-dialog --ppd samples/duplex-shift.ppd --ticket job.json\n"
     "      Opens the window; Print writes job.json and job.options.\n"
     "  print-dialog -d office -o Duplex=DuplexNoTumble --ticket job.json report.pdf\n"
@@ -85,7 +95,7 @@ std::string usage(const std::string &mistake) {
   return mistake + (mistake.empty() || mistake.back() == '.' ? "" : ".") +
          " See print-dialog --help.";
 }
-const char *const kNoPrinterNamed =
+const char *const kTwoPrintersNamed =
     "Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.";
 const char *const kOnlyInBatch = "--set, --back and --summary need --batch.";
 std::string badEntry(const std::string &argument) {
@@ -118,6 +128,8 @@ std::string ppdMalformed(const std::string &path, int line, const std::string &r
          ": " + reason + ". Name a PPD file; cupstestppd tells more about one.";
 }
 std::string ppdOfQueue(const std::string &queue) { return "PPD of queue " + queue; }
+const char *const kNoDefaultPrinter = "There is no default printer. Name one with -d QUEUE (lpstat "
+                                      "-e lists the queues) or --ppd FILE.";
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
   return "CUPS has no printer description for the queue \"" + queue + "\": " + withoutStop(reason) +
          ". lpstat -e lists the queues; --ppd names a description file instead.";

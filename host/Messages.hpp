@@ -16,6 +16,12 @@ extern const char *const kHelpIntroduction;
 extern const char *const kHelpPpd;
 extern const char *const kHelpQueue;
 extern const char *const kHelpOption;
+extern const char *const kHelpServer;
+extern const char *const kHelpCopies;
+extern const char *const kHelpPages;
+extern const char *const kHelpTitle;
+extern const char *const kHelpPriority;
+extern const char *const kHelpDryRun;
 extern const char *const kHelpPlugin;
 extern const char *const kHelpTicket;
 extern const char *const kHelpDocument;
@@ -40,7 +46,7 @@ extern const char *const kNoPanelHere;
 
 // Mistakes on the command line.
 std::string usage(const std::string &mistake);
-extern const char *const kNoPrinterNamed;
+extern const char *const kTwoPrintersNamed;
 extern const char *const kOnlyInBatch;
 std::string badEntry(const std::string &argument);
 std::string badSwitch(const std::string &argument);
@@ -53,6 +59,7 @@ std::string documentUnreadable(const std::string &path, const std::string &reaso
 std::string ppdUnreadable(const std::string &path, const std::string &reason);
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason);
 std::string ppdOfQueue(const std::string &queue);
+extern const char *const kNoDefaultPrinter;
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
 
 // Tickets.

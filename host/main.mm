@@ -18,9 +18,22 @@ using namespace imageposition;
 
 namespace {
 
+/// The user's default, or else the server's.
+std::string defaultQueue() {
+  cups_dest_t *const destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+  if (destination == nullptr)
+    throw Failure(ExitCode::Printer, messages::kNoDefaultPrinter);
+  std::string name = destination->name;
+  if (destination->instance != nullptr)
+    name += std::string("/") + destination->instance;
+  cupsFreeDests(1, destination);
+  return name;
+}
+
 PrinterDescription openPrinter(const Arguments &arguments) {
-  return arguments.ppd.empty() ? PrinterDescription::ofQueue(arguments.queue)
-                               : PrinterDescription::fromFile(arguments.ppd);
+  if (!arguments.ppd.empty())
+    return PrinterDescription::fromFile(arguments.ppd);
+  return PrinterDescription::ofQueue(arguments.queue.empty() ? defaultQueue() : arguments.queue);
 }
 
 /// The ticket that is there already, with the command line's options on top.
@@ -34,6 +47,12 @@ Ticket openTicket(const Arguments &arguments, const PrinterDescription &printer)
     ticket.document = arguments.document;
   for (const std::string &option : arguments.options)
     readOptionArgument(option, ticket.settings);
+  if (arguments.copies > 0)
+    ticket.settings.set("copies", std::to_string(arguments.copies));
+  if (!arguments.pages.empty())
+    ticket.settings.set("page-ranges", arguments.pages);
+  if (arguments.priority > 0)
+    ticket.settings.set("job-priority", std::to_string(arguments.priority));
   return ticket;
 }
 
@@ -92,7 +111,10 @@ ExitCode run(const std::vector<std::string> &words) {
     return ExitCode::Done;
   }
   const Arguments &arguments = std::get<Arguments>(request);
-  if (!arguments.document.empty() && access(arguments.document.c_str(), R_OK) != 0)
+  if (!arguments.server.empty())
+    cupsSetServer(arguments.server.c_str());
+  if (!arguments.document.empty() && arguments.document != "-" &&
+      access(arguments.document.c_str(), R_OK) != 0)
     throw Failure(ExitCode::Usage,
                   messages::documentUnreadable(arguments.document, std::strerror(errno)));
   PrinterDescription printer = openPrinter(arguments);

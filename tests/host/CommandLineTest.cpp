@@ -37,10 +37,43 @@ TEST(CommandLine, APrinterIsNamedByItsDescriptionOrItsQueue) {
   EXPECT_EQ(read({"--queue=office"}).queue, "office");
 }
 
-TEST(CommandLine, APrinterMustBeNamedOnce) {
-  EXPECT_THAT(mistake({}), HasSubstr("--ppd FILE"));
-  mistake({"--ppd", "a.ppd", "-d", "office"});
+TEST(CommandLine, APrinterIsNamedOnceAtMost) {
+  EXPECT_THAT(mistake({"--ppd", "a.ppd", "-d", "office"}), HasSubstr("--ppd FILE"));
+  const Arguments none = read({"report.pdf"});
+  EXPECT_EQ(none.ppd, "");
+  EXPECT_EQ(none.queue, "");
 }
+
+TEST(CommandLine, ALineForLpIsUnderstoodAlike) {
+  const Arguments arguments =
+      read({"-d", "office", "-h", "server:631", "-n", "3", "-P", "1-3,7", "-t", "Annual report",
+            "-q", "70", "-o", "sides=one-sided", "report.pdf"});
+  EXPECT_EQ(arguments.server, "server:631");
+  EXPECT_EQ(arguments.copies, 3);
+  EXPECT_EQ(arguments.pages, "1-3,7");
+  EXPECT_EQ(arguments.title, "Annual report");
+  EXPECT_EQ(arguments.priority, 70);
+  EXPECT_THAT(arguments.options, ElementsAre("sides=one-sided"));
+  EXPECT_EQ(arguments.document, "report.pdf");
+  EXPECT_FALSE(arguments.isDryRun);
+}
+
+TEST(CommandLine, LpsShortFormWithoutABlankIsUnderstood) {
+  const Arguments arguments = read({"-doffice", "-n2", "-P4", "-"});
+  EXPECT_EQ(arguments.queue, "office");
+  EXPECT_EQ(arguments.copies, 2);
+  EXPECT_EQ(arguments.pages, "4");
+  EXPECT_EQ(arguments.document, "-");
+}
+
+TEST(CommandLine, CopiesAndPriorityKeepToWhatCupsTakes) {
+  for (const char *copies : {"0", "-1", "10000", "two"})
+    mistake({"-n", copies});
+  for (const char *priority : {"0", "101", "high"})
+    mistake({"-q", priority});
+}
+
+TEST(CommandLine, ADryRunIsAskedByName) { EXPECT_TRUE(read({"--dry-run", "a.pdf"}).isDryRun); }
 
 TEST(CommandLine, OptionsArePassedOnInTheirOrder) {
   EXPECT_THAT(read({"--ppd", "a", "-o", "Duplex=None", "-o", "x y=z"}).options,
@@ -86,7 +119,8 @@ TEST(CommandLine, MistakesSayWhatIsRight) {
 
 TEST(CommandLine, HelpNamesEveryOptionAndExitStatus) {
   const std::string help = std::get<Answer>(readCommandLine({"--help"})).text;
-  for (const char *part : {"--ppd", "-d,", "-o,", "--plugin", "--ticket", "--batch", "--set",
+  for (const char *part : {"--ppd", "-d,", "-o,", "-h SERVER", "-n COPIES", "-P PAGES", "-t TITLE",
+                           "-q PRIORITY", "--dry-run", "--plugin", "--ticket", "--batch", "--set",
                            "--back", "--summary", "--version", "Examples:", "Exit status:"})
     EXPECT_THAT(help, HasSubstr(part));
   for (int status = 0; status <= 8; status++)
