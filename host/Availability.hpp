@@ -25,7 +25,7 @@ inline bool operator!=(const Availability &a, const Availability &b) noexcept { 
 /// From the marked choices; `ppd` may be null, and then nothing is in the way.
 Availability availabilityOf(ppd_file_t *ppd);
 
-/// Says in a sentence or two what is in the way and what to do; empty when nothing is.
+/// One sentence for each thing that is in the way; empty when nothing is.
 std::string reasonText(const Availability &availability);
 
 } // namespace imageposition

@@ -90,6 +90,10 @@ Preview makePreview(const PreviewRequest &request);
 /// Both steps.
 Preview makePreview(const PrintSettingsStore &job, ppd_file_t *ppd);
 
+/// How far the back lies from where it would be exactly behind the front, as the reader of the
+/// front sees it through the sheet. Zero for one-sided printing.
+Offset backAgainstFront(const Preview &preview);
+
 /// The picture in sentences, one an element, for whoever cannot see it and for the tool tip.
 std::vector<std::string> describePreview(const Preview &preview);
 

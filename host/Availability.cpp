@@ -1,0 +1,33 @@
+#include "host/Availability.hpp"
+
+#include "host/PreviewTexts.hpp"
+
+#include <cstring>
+
+namespace imageposition {
+namespace {
+
+bool isMarked(ppd_file_t *ppd, const char *option, const char *keyword) {
+  const ppd_choice_t *const choice = ppdFindMarkedChoice(ppd, option);
+  return choice != nullptr && std::strcmp(choice->choice, keyword) == 0;
+}
+
+} // namespace
+
+Availability availabilityOf(ppd_file_t *ppd) {
+  Availability availability;
+  availability.oneSided = isMarked(ppd, "Duplex", "None");
+  availability.bannerPages = isMarked(ppd, "MVBannerPagePrint", "True");
+  return availability;
+}
+
+std::string reasonText(const Availability &availability) {
+  std::string text;
+  if (availability.oneSided)
+    text = messages::kTwoSidedOff;
+  if (availability.bannerPages)
+    text += (text.empty() ? "" : " ") + std::string(messages::kBannerPagesOn);
+  return text;
+}
+
+} // namespace imageposition
