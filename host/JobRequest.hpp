@@ -2,14 +2,13 @@
 #ifndef IMAGEPOSITION_HOST_JOBREQUEST_HPP
 #define IMAGEPOSITION_HOST_JOBREQUEST_HPP
 
+#include "host/PageRanges.hpp"
 #include "platform/PrintSettingsStore.hpp"
 
 #include <optional>
 #include <string>
 
 namespace imageposition {
-
-enum class PageSet { All, Odd, Even };
 
 /// A field that is absent leaves its option as `settings` or `defaults` have it.
 struct JobRequest {
