@@ -72,6 +72,9 @@ private:
   std::shared_ptr<Answer> answer_; // shared with the thread that asks; null when none does
 };
 
+/// From CUPS's own record, whose options tell the state.
+Destination toDestination(const cups_dest_t &dest);
+
 /// By value; what `Destinations` compares.
 bool operator==(const Destination &left, const Destination &right);
 bool operator==(const DestinationList &left, const DestinationList &right);

@@ -53,7 +53,8 @@ struct SubmittedJob {
   std::string note; ///< Why it does not print at once (stopped, held) and what to do; else empty.
 };
 
-/// Called before the first and after each piece of the document; false cancels.
+/// Called before each piece, after the last, and while CUPS or a pipe lets us wait; false cancels.
+/// Must not throw.
 using ProgressCallback = std::function<bool(const JobProgress &)>;
 /// Asked when CUPS wants one; the argument is CUPS's question. None gives up.
 using PasswordCallback = std::function<std::optional<std::string>(const std::string &prompt)>;

@@ -1,0 +1,59 @@
+#include "host/DocumentStream.hpp"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace imageposition {
+
+namespace {
+
+constexpr std::size_t kPiece = 64 * 1024;
+constexpr int kMillisecondsBetweenQuestions = 250;
+
+[[noreturn]] void fail(int reason) { throw std::system_error(reason, std::generic_category()); }
+
+} // namespace
+
+DocumentStream::DocumentStream(const std::string &path)
+    : descriptor_(STDIN_FILENO), isOwn_(path != "-"), buffer_(kPiece) {
+  if (isOwn_)
+    descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor_ < 0)
+    fail(errno);
+  struct stat status {};
+  int reason = fstat(descriptor_, &status) == 0 ? 0 : errno;
+  if (reason == 0 && S_ISDIR(status.st_mode))
+    reason = EISDIR;
+  if (reason != 0) {
+    if (isOwn_)
+      close(descriptor_);
+    fail(reason);
+  }
+  if (S_ISREG(status.st_mode))
+    size_ = static_cast<std::uint64_t>(status.st_size);
+}
+
+DocumentStream::~DocumentStream() {
+  if (isOwn_)
+    close(descriptor_);
+}
+
+std::optional<std::string_view> DocumentStream::next(const std::function<bool()> &keepWaiting) {
+  pollfd waiting{descriptor_, POLLIN, 0};
+  while (poll(&waiting, 1, kMillisecondsBetweenQuestions) <= 0)
+    if (!keepWaiting())
+      return std::nullopt;
+  ssize_t count;
+  do
+    count = read(descriptor_, buffer_.data(), buffer_.size());
+  while (count < 0 && errno == EINTR);
+  if (count < 0)
+    fail(errno);
+  return std::string_view(buffer_.data(), static_cast<std::size_t>(count));
+}
+
+} // namespace imageposition

@@ -1,0 +1,39 @@
+/// A document, read piece by piece.
+#ifndef IMAGEPOSITION_HOST_DOCUMENTSTREAM_HPP
+#define IMAGEPOSITION_HOST_DOCUMENTSTREAM_HPP
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace imageposition {
+
+class DocumentStream {
+public:
+  /// A file, or standard input for "-". Throws a `std::system_error` when it cannot be read.
+  explicit DocumentStream(const std::string &path);
+  ~DocumentStream();
+  DocumentStream(const DocumentStream &) = delete;
+  DocumentStream &operator=(const DocumentStream &) = delete;
+
+  /// Bytes in all; none for a pipe.
+  std::optional<std::uint64_t> size() const noexcept { return size_; }
+
+  /// The next piece, valid until the next call; empty at the end. A pipe that has nothing yet is
+  /// waited for while `keepWaiting` says so, asked about four times a second; none when it does
+  /// not. Throws a `std::system_error`.
+  std::optional<std::string_view> next(const std::function<bool()> &keepWaiting);
+
+private:
+  int descriptor_;
+  bool isOwn_;
+  std::optional<std::uint64_t> size_;
+  std::vector<char> buffer_;
+};
+
+} // namespace imageposition
+
+#endif

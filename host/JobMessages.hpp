@@ -1,0 +1,51 @@
+/// What is said about printers and the jobs that go to them.
+///
+/// In one voice with the other texts: what happened, then what to do about it.
+#ifndef IMAGEPOSITION_HOST_JOBMESSAGES_HPP
+#define IMAGEPOSITION_HOST_JOBMESSAGES_HPP
+
+#include <string>
+
+namespace imageposition::messages {
+
+// Printers.
+extern const char *const kPrinterIdle;
+extern const char *const kPrinterPrinting;
+extern const char *const kPrinterStopped;
+extern const char *const kPrinterRefuses;
+extern const char *const kNoPrinters;
+std::string noCups(const std::string &server, const std::string &reason);
+extern const char *const kNoAnswer;
+std::string printersNotListed(const std::string &reason);
+
+// Fields that no job can have.
+std::string badPageRanges(const std::string &text);
+std::string badCopies(int copies);
+std::string badPriority(int priority);
+std::string badNumberUp(int pages);
+extern const char *const kBadHold;
+std::string unusableOption(const std::string &name);
+
+// The request's text.
+std::string filtersRead(const std::string &word);
+
+// Submission.
+std::string queueGone(const std::string &queue);
+std::string queueRefuses(const std::string &queue);
+std::string notAllowed(const std::string &queue, const std::string &reason);
+std::string optionRefused(const std::string &queue, const std::string &reason);
+std::string documentEmpty(const std::string &name);
+std::string documentNotRead(const std::string &name, const std::string &reason);
+std::string formatRefused(const std::string &name, const std::string &reason);
+std::string spoolRefuses(const std::string &reason);
+std::string connectionLost(const std::string &server, const std::string &reason);
+std::string jobNotTaken(const std::string &queue, const std::string &reason);
+std::string jobLeftBehind(const std::string &message, const std::string &queue, int job);
+extern const char *const kSubmissionCancelled;
+extern const char *const kStandardInput;
+std::string waitsForPrinter(const std::string &queue, const std::string &state);
+std::string waitsForRelease(const std::string &queue, int job, const std::string &until);
+
+} // namespace imageposition::messages
+
+#endif

@@ -1,0 +1,344 @@
+#include "host/JobSubmission.hpp"
+
+#include "host/CupsConnection.hpp"
+#include "host/Destinations.hpp"
+#include "host/DocumentStream.hpp"
+#include "host/JobMessages.hpp"
+
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <future>
+#include <string_view>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr auto kPatience = std::chrono::seconds(30); // without a sign of life from CUPS
+
+[[noreturn]] void fail(JobProblem problem, const std::string &message) {
+  ExitCode code = ExitCode::Job;
+  if (problem == JobProblem::Document)
+    code = ExitCode::Usage;
+  if (problem == JobProblem::Cancelled)
+    code = ExitCode::Cancelled;
+  throw SubmissionFailure(problem, code, message);
+}
+
+[[noreturn]] void failCancelled() { fail(JobProblem::Cancelled, messages::kSubmissionCancelled); }
+
+/// What CUPS's status means for a job.
+JobProblem problemOf(ipp_status_t status) {
+  switch (status) {
+  case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
+  case IPP_STATUS_ERROR_TIMEOUT:
+    return JobProblem::NoCups;
+  case IPP_STATUS_ERROR_NOT_FOUND:
+  case IPP_STATUS_ERROR_GONE:
+    return JobProblem::QueueGone;
+  case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+    return JobProblem::RefusesJobs;
+  case IPP_STATUS_ERROR_FORBIDDEN:
+  case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+  case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+  case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
+    return JobProblem::Authentication;
+  case IPP_STATUS_ERROR_BAD_REQUEST:
+  case IPP_STATUS_ERROR_ATTRIBUTES_OR_VALUES:
+  case IPP_STATUS_ERROR_CONFLICTING:
+  case IPP_STATUS_ERROR_REQUEST_VALUE:
+    return JobProblem::BadOption;
+  case IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED:
+  case IPP_STATUS_ERROR_DOCUMENT_FORMAT_ERROR:
+  case IPP_STATUS_ERROR_DOCUMENT_UNPRINTABLE:
+    return JobProblem::Format;
+  case IPP_STATUS_ERROR_REQUEST_ENTITY:
+  case IPP_STATUS_ERROR_NOT_POSSIBLE:
+  case IPP_STATUS_ERROR_TOO_MANY_JOBS:
+  case IPP_STATUS_ERROR_TOO_MANY_DOCUMENTS:
+  case IPP_STATUS_ERROR_ACCOUNT_LIMIT_REACHED:
+    return JobProblem::Spool;
+  default:
+    return JobProblem::Other;
+  }
+}
+
+struct FreeDestination {
+  void operator()(cups_dest_t *dest) const noexcept { cupsFreeDests(1, dest); }
+};
+struct FreeInfo {
+  void operator()(cups_dinfo_t *info) const noexcept { cupsFreeDestInfo(info); }
+};
+
+/// libcups would ask on the terminal.
+class PasswordQuestion {
+public:
+  explicit PasswordQuestion(const PasswordCallback &callback) : callback_(callback) {
+    cupsSetPasswordCB2(answer, this);
+  }
+  ~PasswordQuestion() { cupsSetPasswordCB2(nullptr, nullptr); }
+  PasswordQuestion(const PasswordQuestion &) = delete;
+  PasswordQuestion &operator=(const PasswordQuestion &) = delete;
+
+private:
+  static const char *answer(const char *prompt, http_t *, const char *, const char *, void *self) {
+    auto &question = *static_cast<PasswordQuestion *>(self);
+    if (question.callback_)
+      question.password_ = question.callback_(prompt);
+    else
+      question.password_.reset();
+    return question.password_ ? question.password_->c_str() : nullptr;
+  }
+
+  const PasswordCallback &callback_;
+  std::optional<std::string> password_;
+};
+
+/// One job on its way.
+class Submission {
+public:
+  Submission(const JobRequest &request, const JobDocument &document,
+             const ProgressCallback &progress)
+      : request_(request), options_(optionsToSend(request)), progress_(progress),
+        documentName_(document.path == "-" ? messages::kStandardInput : document.path) {}
+
+  SubmittedJob run(const std::string &path);
+
+private:
+  bool report();
+  bool keepWaiting();
+  void connect();
+  void findPrinter();
+  void createJob();
+  void sendDocument(DocumentStream &document, std::string_view piece);
+  void startDocument();
+  void sendPiece(std::string_view piece);
+  std::string_view nextPiece(DocumentStream &document);
+  bool removeJob();
+  std::string note() const;
+  [[noreturn]] void failAsCups();
+  std::string messageFor(JobProblem problem, const std::string &reason) const;
+
+  const JobRequest &request_;
+  const PrintSettingsStore options_;
+  const ProgressCallback &progress_;
+  const std::string documentName_;
+  JobProgress state_;
+  Clock::time_point lastSign_ = Clock::now();
+  bool isCancelled_ = false;
+  std::unique_ptr<CupsConnection> connection_;
+  std::unique_ptr<cups_dest_t, FreeDestination> printer_;
+  std::unique_ptr<cups_dinfo_t, FreeInfo> info_;
+  int job_ = 0;
+};
+
+bool Submission::report() {
+  isCancelled_ = isCancelled_ || (progress_ && !progress_(state_));
+  return !isCancelled_;
+}
+
+bool Submission::keepWaiting() { return report() && Clock::now() - lastSign_ < kPatience; }
+
+/// In the words of what CUPS said last.
+void Submission::failAsCups() {
+  if (isCancelled_)
+    failCancelled();
+  const ipp_status_t status = cupsLastError();
+  const std::string reason = cupsLastErrorString();
+  const bool isLost = httpError(connection_->http()) != 0;
+  const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(status);
+  fail(problem, messageFor(problem, reason));
+}
+
+std::string Submission::messageFor(JobProblem problem, const std::string &reason) const {
+  const std::string &queue = request_.printer;
+  switch (problem) {
+  case JobProblem::NoCups:
+    return job_ != 0 ? messages::connectionLost(cupsServerName(), reason)
+                     : messages::noCups(cupsServerName(), reason);
+  case JobProblem::QueueGone:
+    return messages::queueGone(queue);
+  case JobProblem::RefusesJobs:
+    return messages::queueRefuses(queue);
+  case JobProblem::Authentication:
+    return messages::notAllowed(queue, reason);
+  case JobProblem::BadOption:
+    return messages::optionRefused(queue, reason);
+  case JobProblem::Format:
+    return messages::formatRefused(documentName_, reason);
+  case JobProblem::Spool:
+    return messages::spoolRefuses(reason);
+  default:
+    return messages::jobNotTaken(queue, reason);
+  }
+}
+
+void Submission::connect() {
+  connection_ = CupsConnection::open(kPatience, [this] { return keepWaiting(); });
+  if (!connection_)
+    fail(JobProblem::NoCups, messages::noCups(cupsServerName(), std::strerror(errno)));
+}
+
+void Submission::findPrinter() {
+  printer_.reset(cupsGetNamedDest(connection_->http(), request_.printer.c_str(), nullptr));
+  if (!printer_)
+    failAsCups();
+  info_.reset(cupsCopyDestInfo(connection_->http(), printer_.get()));
+  if (!info_)
+    failAsCups();
+}
+
+void Submission::createJob() {
+  const ipp_status_t status = cupsCreateDestJob(
+      connection_->http(), printer_.get(), info_.get(), &job_, request_.title.c_str(),
+      options_.optionCount(), const_cast<cups_option_t *>(options_.options())); // only read
+  if (status > IPP_STATUS_OK_EVENTS_COMPLETE || job_ == 0)
+    failAsCups();
+}
+
+std::string_view Submission::nextPiece(DocumentStream &document) {
+  try {
+    const auto piece = document.next([this] { return report(); });
+    if (!piece)
+      failCancelled();
+    return *piece;
+  } catch (const std::system_error &error) {
+    fail(JobProblem::Document, messages::documentNotRead(documentName_, error.code().message()));
+  }
+}
+
+void Submission::startDocument() {
+  const char *const chosen = options_.get("document-format");
+  const char *format = chosen != nullptr ? chosen : CUPS_FORMAT_AUTO;
+  if (!request_.documentFormat.empty())
+    format = request_.documentFormat.c_str();
+  if (cupsStartDestDocument(connection_->http(), printer_.get(), info_.get(), job_,
+                            request_.title.c_str(), format, 0, nullptr, 1) != HTTP_STATUS_CONTINUE)
+    failAsCups();
+}
+
+void Submission::sendPiece(std::string_view piece) {
+  if (cupsWriteRequestData(connection_->http(), piece.data(), piece.size()) != HTTP_STATUS_CONTINUE)
+    failAsCups();
+  lastSign_ = Clock::now();
+  state_.sent += piece.size();
+}
+
+void Submission::sendDocument(DocumentStream &document, std::string_view piece) {
+  startDocument();
+  while (!piece.empty()) {
+    if (!report())
+      failCancelled();
+    sendPiece(piece);
+    piece = nextPiece(document);
+  }
+  if (!report())
+    failCancelled();
+  lastSign_ = Clock::now();
+  if (cupsFinishDestDocument(connection_->http(), printer_.get(), info_.get()) >
+      IPP_STATUS_OK_EVENTS_COMPLETE)
+    failAsCups();
+}
+
+/// A connection with half a document on it says nothing else: CUPS drops that half with it.
+bool Submission::removeJob() {
+  connection_.reset();
+  isCancelled_ = false;
+  const Clock::time_point deadline = Clock::now() + std::chrono::seconds(5);
+  connection_ =
+      CupsConnection::open(std::chrono::seconds(5), [=] { return Clock::now() < deadline; });
+  return connection_ != nullptr && cupsCancelDestJob(connection_->http(), printer_.get(), job_) <=
+                                       IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
+std::string Submission::note() const {
+  const char *const hold = options_.get("job-hold-until");
+  if (hold != nullptr && std::strcmp(hold, "no-hold") != 0)
+    return messages::waitsForRelease(request_.printer, job_, hold);
+  const Destination printer = toDestination(*printer_);
+  return printer.state == DestinationState::Stopped
+             ? messages::waitsForPrinter(request_.printer, printer.stateText)
+             : "";
+}
+
+SubmittedJob Submission::run(const std::string &path) try {
+  DocumentStream document(path);
+  state_.total = document.size();
+  const std::string_view piece = nextPiece(document);
+  if (piece.empty())
+    fail(JobProblem::Document, messages::documentEmpty(documentName_));
+  if (!report())
+    failCancelled();
+  connect();
+  findPrinter();
+  createJob();
+  try {
+    sendDocument(document, piece);
+  } catch (const SubmissionFailure &failure) {
+    if (removeJob())
+      throw;
+    throw SubmissionFailure(failure.problem(), failure.code(),
+                            messages::jobLeftBehind(failure.what(), request_.printer, job_));
+  }
+  return {job_, note()};
+} catch (const std::system_error &error) {
+  fail(JobProblem::Document, messages::documentNotRead(documentName_, error.code().message()));
+}
+
+} // namespace
+
+SubmittedJob submitJob(const JobRequest &request, const JobDocument &document,
+                       const ProgressCallback &progress, const PasswordCallback &password) {
+  const PasswordQuestion question(password);
+  return Submission(request, document, progress).run(document.path);
+}
+
+struct JobSubmission::Work {
+  std::atomic<std::uint64_t> sent{0};
+  std::atomic<std::int64_t> total{-1}; // -1: unknown
+  std::atomic<bool> isCancelled{false};
+  std::shared_future<SubmittedJob> outcome;
+
+  bool take(const JobProgress &progress) {
+    sent = progress.sent;
+    total = progress.total ? static_cast<std::int64_t>(*progress.total) : -1;
+    return !isCancelled;
+  }
+};
+
+JobSubmission::JobSubmission(JobRequest request, JobDocument document)
+    : work_(std::make_unique<Work>()) {
+  Work *const work = work_.get(); // outlives the thread, whose end the destructor awaits
+  work->outcome = std::async(std::launch::async, [work, request = std::move(request),
+                                                  document = std::move(document)] {
+                    return submitJob(request, document, [work](const JobProgress &progress) {
+                      return work->take(progress);
+                    });
+                  }).share();
+}
+
+JobSubmission::~JobSubmission() {
+  cancel();
+  work_->outcome.wait();
+}
+
+JobProgress JobSubmission::progress() const {
+  const std::int64_t total = work_->total;
+  return {work_->sent, total < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(total))};
+}
+
+void JobSubmission::cancel() { work_->isCancelled = true; }
+
+bool JobSubmission::isDone() const {
+  return work_->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
+
+SubmittedJob JobSubmission::result() { return work_->outcome.get(); }
+
+} // namespace imageposition
