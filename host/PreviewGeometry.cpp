@@ -87,11 +87,6 @@ SidePreview shiftedSide(const PageShape &page, const Offset &offset) {
   return side;
 }
 
-/// The long edges of a page that is wider than high run across it.
-bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) {
-  return (page.height < page.width) == (turning == Turning::ShortEdge);
-}
-
 PageRectangle mirrored(const PageRectangle &rectangle, const PageShape &page, bool leftRight) {
   PageRectangle result = rectangle;
   if (leftRight) {
@@ -182,6 +177,10 @@ bool operator==(const Preview &a, const Preview &b) noexcept {
          a.page.isImageableKnown == b.page.isImageableKnown && a.turning == b.turning &&
          a.availability == b.availability && a.front == b.front && a.back == b.back &&
          a.backSeenThrough == b.backSeenThrough;
+}
+
+bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) noexcept {
+  return (page.height < page.width) == (turning == Turning::ShortEdge);
 }
 
 PreviewRequest readPreviewRequest(const PrintSettingsStore &job, ppd_file_t *ppd) {

@@ -90,6 +90,10 @@ Preview makePreview(const PreviewRequest &request);
 /// Both steps.
 Preview makePreview(const PrintSettingsStore &job, ppd_file_t *ppd);
 
+/// Whether the edge about which the sheet is turned runs down the page, so that the back is
+/// mirrored left-right. The long edges of a page that is wider than high run across it.
+bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) noexcept;
+
 /// How far the back lies from where it would be exactly behind the front, as the reader of the
 /// front sees it through the sheet. Zero for one-sided printing.
 Offset backAgainstFront(const Preview &preview);

@@ -10,6 +10,7 @@ const char *const kPreviewBack = "Back";
 const char *const kPreviewAgainstLight = "Against the light";
 const char *const kPreviewToScale = "to scale";
 const char *const kPreviewNotShifted = "not shifted";
+const char *const kPreviewPrintable = "printable area";
 const char *const kPreviewLost = "cannot be printed";
 const char *const kPreviewLongEdge = "long edge";
 const char *const kPreviewShortEdge = "short edge";

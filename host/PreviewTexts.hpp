@@ -17,6 +17,7 @@ extern const char *const kPreviewBack;
 extern const char *const kPreviewAgainstLight;
 extern const char *const kPreviewToScale;
 extern const char *const kPreviewNotShifted;
+extern const char *const kPreviewPrintable;
 extern const char *const kPreviewLost;
 extern const char *const kPreviewLongEdge;
 extern const char *const kPreviewShortEdge;
