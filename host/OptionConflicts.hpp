@@ -38,7 +38,8 @@ public:
   std::vector<OptionConflict> find();
 
   /// How to get rid of all conflicts. The option that was chosen last, when it is named, stays as
-  /// it is. None when there is no conflict, or CUPS knows no way out.
+  /// it is. None when there is no conflict, or CUPS knows no way out
+  /// without a locked option.
   std::optional<ConflictProposal> proposal(const std::string &chosenLast = {});
 
   /// Chooses what was proposed. False when a change is locked or no longer possible; the job is

@@ -22,34 +22,40 @@ struct LoadedPreset {
   std::vector<std::string> misfits; ///< A sentence for each setting that was left out.
 };
 
-/// The presets of the person who runs the program: CUPS's destination instances, in CUPS's own file
-/// (lpoptions), read again at every call, so that no copy here grows old.
+/// The presets of the person who runs the program: destination instances in CUPS's own file
+/// ("lpoptions"), read again at every call, so that no copy here grows old. Everybody's, which an
+/// administrator has made, are listed and loaded, too.
 ///
-/// Every operation asks the CUPS server, which knows the printers, and throws a `Failure` with
-/// `ExitCode::Printer` that says what to do. Several programs may write at once.
+/// The file is changed here and not through `cupsSetDests2`, which empties it before it writes,
+/// drops the presets of printers that are away for the moment, and copies everybody's settings into
+/// it. No server is asked. Several programs may save at once. Operations throw a `Failure` with
+/// `ExitCode::Printer` when the file cannot be read or written, and the file is then as it was.
 class Presets {
 public:
-  /// The queue's name, without an instance.
-  explicit Presets(std::string printer) : printer_(std::move(printer)) {}
+  /// The queue's name; an instance behind it ("queue/instance") is cut off.
+  explicit Presets(const std::string &printer);
 
   /// In alphabetical order.
   std::vector<std::string> names() const;
   /// Those of all other printers, by printer and name.
   std::vector<PresetName> ofOtherPrinters() const;
 
-  /// Adds the preset or replaces it. Left out are settings that belong to one document ("job-name",
-  /// "page-ranges", ...). Answers a sentence for each setting that CUPS's file cannot hold, and
-  /// that the preset therefore lacks.
+  /// Adds the preset, or replaces it, under `usableName(name)`. Left out are settings that belong
+  /// to one document ("job-name", "page-ranges", ...). Answers a sentence for each setting that
+  /// CUPS's file cannot hold, and that the preset therefore lacks.
   std::vector<std::string> save(const std::string &name, const PrintSettingsStore &settings) const;
-  /// The new name must be free.
+  /// The new name, too, becomes a usable one; it must be free.
   void rename(const std::string &name, const std::string &newName) const;
   /// One that is gone already is no failure.
   void remove(const std::string &name) const;
 
   /// What the preset says beyond the printer's defaults; meant to replace the job's settings.
-  LoadedPreset load(const std::string &name, const PrinterDescription &printer) const;
-  /// The same for any printer's preset; what `printer` cannot do is left out and named.
-  static LoadedPreset load(const PresetName &preset, const PrinterDescription &printer);
+  LoadedPreset load(const std::string &name, const PrinterDescription &printer,
+                    const std::vector<std::string> &panelKeywords = {}) const;
+  /// The same for any printer's preset. What `printer` cannot do is left out and named.
+  /// `panelKeywords` are the options that panels announce: kept, even if the PPD lacks them.
+  static LoadedPreset load(const PresetName &preset, const PrinterDescription &printer,
+                           const std::vector<std::string> &panelKeywords = {});
 
   /// A name that CUPS can hold and `lp` can be given, made of what a person typed: "Two sided"
   /// turns into "Two-sided". Throws a `Failure` with `ExitCode::Usage` when nothing usable is left.

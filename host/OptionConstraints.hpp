@@ -1,0 +1,31 @@
+/// Which combinations of options a PPD forbids.
+#ifndef IMAGEPOSITION_HOST_OPTIONCONSTRAINTS_HPP
+#define IMAGEPOSITION_HOST_OPTIONCONSTRAINTS_HPP
+
+#include <cups/ppd.h>
+
+#include <vector>
+
+namespace imageposition {
+
+/// One side of a constraint. Both pointers are the PPD's.
+struct ConstrainedOption {
+  const ppd_option_t *option = nullptr;
+  const ppd_choice_t *choice = nullptr; ///< Null means any but "None", "Off" and "False".
+};
+
+using OptionConstraint = std::vector<ConstrainedOption>;
+
+/// The constraints of "UIConstraints", "NonUIConstraints" and "cupsUIConstraints" that CUPS heeds:
+/// without those of unknown options, and with one for a pair that is written both ways in a row.
+std::vector<OptionConstraint> constraintsOf(ppd_file_t *ppd);
+
+/// Whether the marked choices violate it.
+bool isViolated(const OptionConstraint &constraint, ppd_file_t *ppd);
+
+/// The choice that is marked, for constraints that name none; may be null.
+const ppd_choice_t *markedChoiceOf(const ppd_option_t *option, ppd_file_t *ppd);
+
+} // namespace imageposition
+
+#endif

@@ -1,0 +1,44 @@
+/// What print-dialog says about options, conflicts, pages and presets.
+#ifndef IMAGEPOSITION_HOST_OPTIONMESSAGES_HPP
+#define IMAGEPOSITION_HOST_OPTIONMESSAGES_HPP
+
+#include <string>
+#include <vector>
+
+namespace imageposition::messages {
+
+/// "a", "a and b", "a, b and c".
+std::string inWords(const std::vector<std::string> &parts);
+/// An option with a choice, by their texts.
+std::string chosenOption(const std::string &option, const std::string &choice);
+
+// Conflicts.
+std::string conflict(const std::vector<std::string> &sides);
+std::string conflictProposal(const std::vector<std::string> &changes);
+
+// Pages.
+extern const char *const kNoPages;
+std::string pagesNotUnderstood(const std::string &part);
+extern const char *const kPagesWithoutNumber;
+extern const char *const kPageZero;
+std::string pageTooLarge(const std::string &number);
+std::string pagesBackwards(int first, int last);
+
+// Presets.
+std::string presetNameUnusable(const std::string &typed);
+std::string presetNameTooLong(int longest);
+std::string presetMissing(const std::string &printer, const std::string &name);
+std::string presetExists(const std::string &printer, const std::string &name);
+std::string presetOfEverybody(const std::string &name, const std::string &path);
+std::string presetTooLarge(const std::string &name);
+std::string presetsUnreadable(const std::string &path, const std::string &reason);
+std::string presetsUnwritable(const std::string &path, const std::string &reason);
+std::string presetCannotHold(const std::string &setting, const std::string &value);
+std::string misfitOption(const std::string &option, const std::string &value);
+std::string misfitChoice(const std::string &option, const std::string &value);
+std::string misfitRange(const std::string &option, const std::string &value,
+                        const std::string &lowest, const std::string &highest);
+
+} // namespace imageposition::messages
+
+#endif
