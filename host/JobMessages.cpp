@@ -30,9 +30,6 @@ std::string printersNotListed(const std::string &reason) {
          ". Ask its administrator, or save the job's settings as a ticket.";
 }
 
-std::string badPageRanges(const std::string &text) {
-  return "\"" + text + "\" names no pages. Write page numbers and ranges, for example 1-3, 7.";
-}
 std::string badCopies(int copies) {
   return std::to_string(copies) + " copies cannot be printed. Choose 1 or more.";
 }

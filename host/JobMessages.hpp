@@ -19,7 +19,6 @@ extern const char *const kNoAnswer;
 std::string printersNotListed(const std::string &reason);
 
 // Fields that no job can have.
-std::string badPageRanges(const std::string &text);
 std::string badCopies(int copies);
 std::string badPriority(int priority);
 std::string badNumberUp(int pages);

@@ -4,8 +4,6 @@
 #include "host/JobMessages.hpp"
 
 #include <algorithm>
-#include <cctype>
-#include <climits>
 #include <memory>
 #include <strings.h>
 #include <vector>
@@ -13,95 +11,6 @@
 namespace imageposition {
 
 namespace {
-
-struct PageRange {
-  int first;
-  int last; // INT_MAX: the document's end
-};
-
-void skipBlanks(const std::string &text, std::size_t &at) {
-  while (at < text.size() && std::isspace(static_cast<unsigned char>(text[at])))
-    at++;
-}
-
-/// None where no digit stands, or for a number that no page has.
-std::optional<int> readPage(const std::string &text, std::size_t &at) {
-  long long page = 0;
-  const std::size_t start = at;
-  for (; at < text.size() && text[at] >= '0' && text[at] <= '9'; at++)
-    page = std::min<long long>(page * 10 + (text[at] - '0'), INT_MAX);
-  if (at == start || page == 0 || page == INT_MAX)
-    return std::nullopt;
-  return static_cast<int>(page);
-}
-
-bool isDigitAt(const std::string &text, std::size_t at) {
-  return at < text.size() && text[at] >= '0' && text[at] <= '9';
-}
-
-/// "7", "1-3", "5-" or "-3", with blanks between.
-std::optional<PageRange> readRange(const std::string &text, std::size_t &at) {
-  PageRange range{1, INT_MAX};
-  const bool hasFirst = isDigitAt(text, at);
-  if (hasFirst) {
-    const auto first = readPage(text, at);
-    if (!first)
-      return std::nullopt;
-    range = {*first, *first};
-  }
-  skipBlanks(text, at);
-  if (at >= text.size() || text[at] != '-')
-    return hasFirst ? std::optional(range) : std::nullopt;
-  skipBlanks(text, ++at);
-  range.last = INT_MAX;
-  if (isDigitAt(text, at)) {
-    const auto last = readPage(text, at);
-    if (!last)
-      return std::nullopt;
-    range.last = *last;
-  } else if (!hasFirst) {
-    return std::nullopt;
-  }
-  return range.first <= range.last ? std::optional(range) : std::nullopt;
-}
-
-std::optional<std::vector<PageRange>> readRanges(const std::string &text) {
-  std::vector<PageRange> ranges;
-  std::size_t at = 0;
-  for (skipBlanks(text, at); at < text.size(); skipBlanks(text, at)) {
-    const auto range = readRange(text, at);
-    if (!range)
-      return std::nullopt;
-    ranges.push_back(*range);
-    skipBlanks(text, at);
-    if (at < text.size() && text[at] == ',')
-      at++;
-    else if (at < text.size())
-      return std::nullopt;
-  }
-  return ranges;
-}
-
-/// CUPS refuses ranges that are not ascending.
-void joinOverlapping(std::vector<PageRange> &ranges) {
-  std::sort(ranges.begin(), ranges.end(),
-            [](const PageRange &left, const PageRange &right) { return left.first < right.first; });
-  std::vector<PageRange> joined;
-  for (const PageRange &range : ranges) {
-    if (!joined.empty() && range.first - 1 <= joined.back().last)
-      joined.back().last = std::max(joined.back().last, range.last);
-    else
-      joined.push_back(range);
-  }
-  ranges = joined;
-}
-
-std::string rangeText(const PageRange &range) {
-  const std::string first = std::to_string(range.first);
-  if (range.first == range.last)
-    return first;
-  return first + "-" + (range.last == INT_MAX ? "" : std::to_string(range.last));
-}
 
 /// Names for one thing; the first in the job's settings decides, whatever the defaults call it.
 const std::vector<std::vector<const char *>> kSynonyms = {
@@ -133,14 +42,11 @@ void add(PrintSettingsStore &options, const char *name, const std::string &value
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Usage, message); }
 
 void addPages(const JobRequest &request, PrintSettingsStore &options) {
-  if (request.pageRanges) {
-    const auto ranges = normalizedPageRanges(*request.pageRanges);
-    if (!ranges)
-      refuse(messages::badPageRanges(*request.pageRanges));
-    options.remove("page-ranges");
-    if (!ranges->empty())
-      add(options, "page-ranges", *ranges);
-  }
+  const char *const stored = options.get("page-ranges");
+  const std::string pages = request.pageRanges.value_or(stored != nullptr ? stored : "");
+  options.remove("page-ranges");
+  if (!pages.empty()) // CUPS refuses ranges that are not ascending
+    add(options, "page-ranges", PageRanges::parse(pages).optionValue());
   if (request.pageSet) {
     options.remove("page-set");
     if (*request.pageSet != PageSet::All)
@@ -235,17 +141,6 @@ std::string attributeText(ipp_attribute_t *attribute) {
 }
 
 } // namespace
-
-std::optional<std::string> normalizedPageRanges(const std::string &text) {
-  auto ranges = readRanges(text);
-  if (!ranges)
-    return std::nullopt;
-  joinOverlapping(*ranges);
-  std::string normal;
-  for (const PageRange &range : *ranges)
-    normal += (normal.empty() ? "" : ",") + rangeText(range);
-  return normal;
-}
 
 PrintSettingsStore optionsToSend(const JobRequest &request) {
   // The fields' own options come first, so that they displace defaults too.

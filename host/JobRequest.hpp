@@ -27,10 +27,6 @@ struct JobRequest {
   std::string documentFormat;           ///< A MIME type; empty: CUPS finds out.
 };
 
-/// The ranges as IPP has them: ascending, without overlap or blanks ("7, 1-3,2-4" is "1-4,7");
-/// empty for empty text. None when the text is no list of page numbers. "5-" goes to the end.
-std::optional<std::string> normalizedPageRanges(const std::string &text);
-
 /// All options of the job: the destination's defaults, over them the job's settings, over them the
 /// request's fields. A setting also displaces the default of the same thing under another name
 /// ("Duplex" that of "sides"). Options that are not named hold as the queue's PPD has them, in
