@@ -4,6 +4,7 @@
 #import "host/Fonts.h"
 #import "host/Guard.h"
 #include "host/Messages.hpp"
+#import "host/Theme.h"
 
 #import <AppKit/AppKit.h>
 
@@ -67,6 +68,7 @@ void startApplication() {
   }
   letSignalsEndTheProgram();
   chooseFontsForLanguage();
+  installTheme(chosenAppearance(readSurroundings()));
 }
 
 } // namespace imageposition

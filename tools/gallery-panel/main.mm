@@ -2,6 +2,7 @@
 // picture, with these print settings. GNUstep's own arguments ("-NSLanguages (ja)") choose the
 // language and the font.
 #import "controller/MorvaADPPdeCallbackRV2.h"
+#import "host/Theme.h"
 #import "platform/PrintCore.h"
 
 #include <cstdio>
@@ -81,6 +82,7 @@ int main(int argc, char **argv) {
   if (arguments.size() < 3)
     return fail("usage: gallery-panel BUNDLE PPD OUT.png [NAME=VALUE...]");
   [NSApplication sharedApplication];
+  imageposition::installTheme(imageposition::chosenAppearance(imageposition::readSurroundings()));
 
   GalleryHost *host = [[GalleryHost alloc] init];
   host->ppd = ppdOpenFile(arguments[1].c_str());
