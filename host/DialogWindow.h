@@ -2,23 +2,16 @@
 #ifndef IMAGEPOSITION_HOST_DIALOGWINDOW_H
 #define IMAGEPOSITION_HOST_DIALOGWINDOW_H
 
-#import "host/PanelSession.h"
+#import "host/DialogJob.h"
 
 #include <iosfwd>
-#include <string>
 
 namespace imageposition {
 
-/// What the window says about the job.
-struct DialogTexts {
-  std::string printer;
-  std::string document; ///< May be empty.
-};
-
-/// Shows the window and waits. True when the person printed: the job's settings then hold what the
-/// panels saved. False when they cancelled. A panel that fails meanwhile is left out, with a
-/// message in the window and in `errors`.
-bool runDialog(PanelSession &session, const DialogTexts &texts, std::ostream &errors);
+/// Shows the window and waits. True when the person printed, and CUPS has the job or its settings
+/// are written; false when they cancelled. What goes wrong meanwhile is said in the window and in
+/// `errors`, and the window stays.
+bool runDialog(DialogJob &job, std::ostream &errors);
 
 } // namespace imageposition
 

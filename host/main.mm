@@ -1,13 +1,14 @@
 #import "host/Application.h"
 #import "host/BatchRun.h"
 #include "host/CommandLine.hpp"
+#include "host/Destinations.hpp"
+#import "host/DialogJob.h"
 #import "host/DialogWindow.h"
 #include "host/ExitCode.hpp"
+#include "host/JobSubmission.hpp"
 #include "host/Messages.hpp"
-#include "host/OptionText.hpp"
-#include "host/PluginFolders.hpp"
 #include "host/PrivateDisplay.hpp"
-#include "host/Ticket.hpp"
+#include "host/WindowTexts.hpp"
 
 #include <cerrno>
 #include <cstring>
@@ -18,89 +19,55 @@ using namespace imageposition;
 
 namespace {
 
-/// The user's default, or else the server's.
-std::string defaultQueue() {
-  cups_dest_t *const destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
-  if (destination == nullptr)
-    throw Failure(ExitCode::Printer, messages::kNoDefaultPrinter);
-  std::string name = destination->name;
-  if (destination->instance != nullptr)
-    name += std::string("/") + destination->instance;
-  cupsFreeDests(1, destination);
-  return name;
-}
-
-PrinterDescription openPrinter(const Arguments &arguments) {
-  if (!arguments.ppd.empty())
-    return PrinterDescription::fromFile(arguments.ppd);
-  return PrinterDescription::ofQueue(arguments.queue.empty() ? defaultQueue() : arguments.queue);
-}
-
-/// The ticket that is there already, with the command line's options on top.
-Ticket openTicket(const Arguments &arguments, const PrinterDescription &printer) {
-  Ticket ticket;
-  if (!arguments.ticket.empty())
-    if (auto stored = readTicket(arguments.ticket))
-      ticket = *stored;
-  ticket.printer = printer.name();
-  if (!arguments.document.empty())
-    ticket.document = arguments.document;
-  for (const std::string &option : arguments.options)
-    readOptionArgument(option, ticket.settings);
-  if (arguments.copies > 0)
-    ticket.settings.set("copies", std::to_string(arguments.copies));
-  if (!arguments.pages.empty())
-    ticket.settings.set("page-ranges", arguments.pages);
-  if (arguments.priority > 0)
-    ticket.settings.set("job-priority", std::to_string(arguments.priority));
-  return ticket;
-}
-
-std::vector<std::string> pluginsFor(const Arguments &arguments, const PrinterDescription &printer) {
-  return findPlugins({arguments.plugins, printer.attributeValues("APDialogExtension")},
-                     pluginFolders());
-}
-
-void finish(const Arguments &arguments, const Ticket &ticket) {
-  if (arguments.ticket.empty()) {
-    std::cout << writeOptionText(ticket.settings);
+/// What the window's Print does at its end.
+void finish(DialogJob &job) {
+  if (!job.isSubmitted()) {
+    job.writeSettings();
     return;
   }
-  writeTicket(ticket, arguments.ticket);
-  std::cerr << messages::ticketWritten(arguments.ticket, optionTextPath(arguments.ticket)) << '\n';
+  JobRequest request = job.request();
+  const DestinationList destinations = readDestinations();
+  if (const Destination *destination = destinations.find(job.queue())) {
+    request.defaults = destination->defaults;
+    request.printerUri = destination->uri;
+  }
+  if (job.arguments().isDryRun) {
+    std::cout << writeRequestText(request);
+    return;
+  }
+  const SubmittedJob sent = submitJob(request, {job.arguments().document});
+  std::cout << messages::jobSent(request.printer, sent.id) << '\n';
+  if (!sent.note.empty())
+    std::cerr << sent.note << '\n';
 }
 
-ExitCode runInBatch(const Arguments &arguments, PrinterDescription &printer, Ticket &ticket) {
+ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
   if (!isDisplayNamed())
     startPrivateDisplay();
   leaveOutPasteboardDaemon();
   startApplication();
-  const auto plugins = pluginsFor(arguments, printer);
-  PanelSession session(printer, ticket.settings);
-  session.load(plugins);
-  for (const std::string &trouble : session.troubles())
+  job.loadPanels();
+  for (const std::string &trouble : job.panels().troubles())
     std::cerr << trouble << '\n';
-  if (!session.troubles().empty())
+  if (!job.panels().troubles().empty())
     return ExitCode::Plugin;
-  if (session.panels().empty())
-    throw Failure(ExitCode::NoPanel, messages::noPanel(printer.name(), plugins));
-  const auto summary = runBatch(session, arguments.batch, std::cerr);
-  finish(arguments, ticket);
+  if (job.panels().panels().empty())
+    throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), job.plugins()));
+  const auto summary = runBatch(job.panels(), arguments.batch, std::cerr);
+  finish(job);
   if (arguments.batch.summary)
     std::cout << writeSummary(summary);
   return ExitCode::Done;
 }
 
-ExitCode runInWindow(const Arguments &arguments, PrinterDescription &printer, Ticket &ticket) {
+ExitCode runInWindow(DialogJob &job) {
   startApplication();
-  PanelSession session(printer, ticket.settings);
-  session.load(pluginsFor(arguments, printer));
-  if (!runDialog(session, {printer.name(), ticket.document}, std::cerr)) {
-    session.revert();
+  job.loadPanels();
+  if (!runDialog(job, std::cerr)) {
+    job.panels().revert();
     std::cerr << messages::kCancelled << '\n';
     return ExitCode::Cancelled;
   }
-  finish(arguments, ticket);
   return ExitCode::Done;
 }
 
@@ -117,12 +84,9 @@ ExitCode run(const std::vector<std::string> &words) {
       access(arguments.document.c_str(), R_OK) != 0)
     throw Failure(ExitCode::Usage,
                   messages::documentUnreadable(arguments.document, std::strerror(errno)));
-  PrinterDescription printer = openPrinter(arguments);
-  Ticket ticket = openTicket(arguments, printer);
-  printer.mark(ticket.settings);
+  DialogJob job(arguments);
   setPlatformDefaults();
-  return arguments.isBatch ? runInBatch(arguments, printer, ticket)
-                           : runInWindow(arguments, printer, ticket);
+  return arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);
 }
 
 } // namespace

@@ -72,6 +72,7 @@ PrintSettingsStore &PrintSettingsStore::operator=(const PrintSettingsStore &othe
     options_ = nullptr;
     count_ = 0;
     copyFrom(other);
+    tell();
   }
   return *this;
 }
@@ -82,6 +83,11 @@ void PrintSettingsStore::copyFrom(const PrintSettingsStore &other) {
   for (int i = 0; i < other.count_; i++)
     count_ = cupsAddOption(other.options_[i].name, other.options_[i].value, count_, &options_);
   locked_ = other.locked_;
+}
+
+void PrintSettingsStore::tell() const {
+  if (observer_ != nullptr)
+    observer_->settingsChanged();
 }
 
 PrintSettingsStore::Outcome PrintSettingsStore::set(std::string_view name, std::string_view value,
@@ -96,6 +102,7 @@ PrintSettingsStore::Outcome PrintSettingsStore::set(std::string_view name, std::
   count_ = cupsAddOption(nameText.c_str(), std::string(value).c_str(), count_, &options_);
   if (locked)
     locked_.insert(nameText);
+  tell();
   return Outcome::Stored;
 }
 
@@ -109,6 +116,7 @@ bool PrintSettingsStore::remove(std::string_view name) {
   if (isLocked(name) || get(name) == nullptr)
     return false;
   count_ = cupsRemoveOption(std::string(name).c_str(), count_, &options_);
+  tell();
   return true;
 }
 

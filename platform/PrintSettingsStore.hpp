@@ -40,6 +40,18 @@ public:
 
   bool isLocked(std::string_view name) const;
 
+  /// Is told after each change of an entry, by whomever; must not change entries itself.
+  class Observer {
+  public:
+    virtual void settingsChanged() = 0;
+
+  protected:
+    ~Observer() = default;
+  };
+
+  /// Borrowed, and with this object only: it is not copied with the entries. Null for none.
+  void setObserver(Observer *observer) noexcept { observer_ = observer; }
+
   /// For CUPS; the store's, and valid until the next change.
   const cups_option_t *options() const noexcept { return options_; }
   int optionCount() const noexcept { return count_; }
@@ -56,10 +68,12 @@ private:
   };
 
   void copyFrom(const PrintSettingsStore &other);
+  void tell() const;
 
   cups_option_t *options_ = nullptr; // freed with cupsFreeOptions
   int count_ = 0;
   std::set<std::string, IgnoringCase> locked_;
+  Observer *observer_ = nullptr;
 };
 
 } // namespace imageposition

@@ -1,0 +1,68 @@
+/// What a dialog is about: a printer, its panels and the job's settings.
+#ifndef IMAGEPOSITION_HOST_DIALOGJOB_H
+#define IMAGEPOSITION_HOST_DIALOGJOB_H
+
+#include "host/CommandLine.hpp"
+#import "host/PanelSession.h"
+#include "host/PrinterDescription.hpp"
+#include "host/Ticket.hpp"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace imageposition {
+
+struct JobRequest;
+
+class DialogJob {
+public:
+  /// Opens the printer, the ticket and the plug-ins that the command line names. Throws a
+  /// `Failure`. `arguments` outlives this.
+  explicit DialogJob(const Arguments &arguments);
+
+  /// Whether CUPS gets the job; otherwise its settings are written.
+  bool isSubmitted() const noexcept { return isSubmitted_; }
+  /// Without effect where there is no queue to submit to.
+  void setSubmitted(bool submitted) noexcept { isSubmitted_ = submitted && !queue_.empty(); }
+
+  /// "queue" or "queue/instance"; empty for a description file.
+  const std::string &queue() const noexcept { return queue_; }
+  /// Takes another queue, with its panels and those of the job's settings that it can have. Throws
+  /// a `Failure`, and then everything is as it was.
+  void chooseQueue(const std::string &queue);
+
+  const Arguments &arguments() const noexcept { return arguments_; }
+  PrinterDescription &printer() noexcept { return *printer_; }
+  PrintSettingsStore &settings() noexcept { return ticket_.settings; }
+  /// Another one after each `chooseQueue`. There is none before `loadPanels`.
+  PanelSession &panels() noexcept { return *panels_; }
+  /// Needs the application.
+  void loadPanels();
+  const std::vector<std::string> &plugins() const noexcept { return plugins_; }
+
+  /// As it was named; empty for standard input.
+  const std::string &document() const noexcept { return ticket_.document; }
+  /// Whether there is something to print: a document, or, for a window, what comes in.
+  bool hasDocument() const;
+  /// As CUPS is asked, but for the destination's defaults.
+  JobRequest request() const;
+
+  /// Writes the ticket, or the settings to standard output. Throws a `Failure`.
+  void writeSettings() const;
+
+private:
+  void keepWhatFits(const PrinterDescription &before);
+
+  const Arguments &arguments_;
+  std::string queue_;
+  std::unique_ptr<PrinterDescription> printer_;
+  Ticket ticket_;
+  std::vector<std::string> plugins_;
+  std::unique_ptr<PanelSession> panels_; // refers to the printer and the ticket
+  bool isSubmitted_;
+};
+
+} // namespace imageposition
+
+#endif

@@ -1,0 +1,153 @@
+#import "host/DialogJob.h"
+
+#include "host/ExitCode.hpp"
+#include "host/JobRequest.hpp"
+#include "host/Messages.hpp"
+#include "host/OptionText.hpp"
+#include "host/PluginFolders.hpp"
+
+#include <cups/cups.h>
+
+#include <iostream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace imageposition {
+
+namespace {
+
+/// The user's default, or else the server's.
+std::string defaultQueue() {
+  cups_dest_t *const destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+  if (destination == nullptr)
+    throw Failure(ExitCode::Printer, messages::kNoDefaultPrinter);
+  std::string name = destination->name;
+  if (destination->instance != nullptr)
+    name += std::string("/") + destination->instance;
+  cupsFreeDests(1, destination);
+  return name;
+}
+
+std::string queueFor(const Arguments &arguments) {
+  if (!arguments.ppd.empty())
+    return {};
+  return arguments.queue.empty() ? defaultQueue() : arguments.queue;
+}
+
+std::unique_ptr<PrinterDescription> openPrinter(const Arguments &arguments,
+                                                const std::string &queue) {
+  return std::make_unique<PrinterDescription>(queue.empty()
+                                                  ? PrinterDescription::fromFile(arguments.ppd)
+                                                  : PrinterDescription::ofQueue(queue));
+}
+
+void takeLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
+  for (const std::string &option : arguments.options)
+    readOptionArgument(option, settings);
+  if (arguments.copies > 0)
+    settings.set("copies", std::to_string(arguments.copies));
+  if (!arguments.pages.empty())
+    settings.set("page-ranges", arguments.pages);
+  if (arguments.priority > 0)
+    settings.set("job-priority", std::to_string(arguments.priority));
+}
+
+/// The ticket that is there already, with the command line's options on top.
+Ticket openTicket(const Arguments &arguments) {
+  Ticket ticket;
+  if (!arguments.ticket.empty())
+    if (auto stored = readTicket(arguments.ticket))
+      ticket = *stored;
+  if (!arguments.document.empty())
+    ticket.document = arguments.document;
+  takeLpOptions(arguments, ticket.settings);
+  return ticket;
+}
+
+std::vector<std::string> pluginsFor(const Arguments &arguments, const PrinterDescription &printer) {
+  return findPlugins({arguments.plugins, printer.attributeValues("APDialogExtension")},
+                     pluginFolders());
+}
+
+std::string lastComponent(const std::string &path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+/// A pipe or a file, and no terminal or the nothing that desktops start programs with.
+bool isInputGiven() {
+  struct stat status {};
+  return fstat(STDIN_FILENO, &status) == 0 && !S_ISCHR(status.st_mode);
+}
+
+/// False for a choice of another printer's, which this one does not know.
+bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) {
+  if (ppdFindOption(before, setting.name) == nullptr)
+    return true;
+  ppd_option_t *const option = ppdFindOption(ppd, setting.name);
+  return option != nullptr && ppdFindChoice(option, setting.value) != nullptr;
+}
+
+} // namespace
+
+DialogJob::DialogJob(const Arguments &arguments)
+    : arguments_(arguments), queue_(queueFor(arguments)), printer_(openPrinter(arguments, queue_)),
+      ticket_(openTicket(arguments)),
+      isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
+  ticket_.printer = printer_->name();
+  printer_->mark(ticket_.settings);
+}
+
+void DialogJob::loadPanels() {
+  plugins_ = pluginsFor(arguments_, *printer_);
+  panels_ = std::make_unique<PanelSession>(*printer_, ticket_.settings);
+  panels_->load(plugins_);
+}
+
+void DialogJob::keepWhatFits(const PrinterDescription &before) {
+  std::vector<std::string> strange;
+  for (int i = 0; i < settings().optionCount(); i++)
+    if (!canHave(printer_->ppd(), before.ppd(), settings().options()[i]))
+      strange.push_back(settings().options()[i].name);
+  for (const std::string &name : strange)
+    settings().remove(name);
+}
+
+void DialogJob::chooseQueue(const std::string &queue) {
+  auto printer = openPrinter(arguments_, queue);
+  panels_.reset();
+  printer_.swap(printer);
+  queue_ = queue;
+  ticket_.printer = printer_->name();
+  keepWhatFits(*printer);
+  printer_->mark(ticket_.settings);
+  loadPanels();
+}
+
+bool DialogJob::hasDocument() const {
+  return !arguments_.document.empty() || (!arguments_.isBatch && isInputGiven());
+}
+
+JobRequest DialogJob::request() const {
+  JobRequest request;
+  request.printer = queue_.substr(0, queue_.find('/'));
+  request.title = arguments_.title;
+  if (request.title.empty())
+    request.title = arguments_.document.empty() || arguments_.document == "-"
+                        ? "(stdin)"
+                        : lastComponent(arguments_.document);
+  request.settings = ticket_.settings;
+  return request;
+}
+
+void DialogJob::writeSettings() const {
+  if (arguments_.ticket.empty()) {
+    std::cout << writeOptionText(ticket_.settings);
+    return;
+  }
+  writeTicket(ticket_, arguments_.ticket);
+  std::cerr << messages::ticketWritten(arguments_.ticket, optionTextPath(arguments_.ticket))
+            << '\n';
+}
+
+} // namespace imageposition

@@ -1,0 +1,83 @@
+#import "host/DialogController.h"
+#import "host/DialogState.h"
+#include "host/WindowTexts.hpp"
+#import "platform/TextBridge.h"
+
+#include <iostream>
+
+using namespace imageposition;
+
+@interface DialogController (SubmissionInside)
+- (void)lookAfterSending;
+- (void)showSending:(BOOL)sending;
+@end
+
+@implementation DialogController (Submission)
+
+- (BOOL)isSending {
+  return state->submission != nullptr;
+}
+
+- (void)showSending:(BOOL)sending {
+  [views.progress setHidden:!sending];
+  [views.print setEnabled:!sending];
+}
+
+- (void)startSending {
+  if (!job->hasDocument()) {
+    [self say:messages::kNothingToPrint];
+    return;
+  }
+  JobRequest request = job->request();
+  if (const Destination *destination = state->destinations.list().find(job->queue())) {
+    request.defaults = destination->defaults;
+    request.printerUri = destination->uri;
+  }
+  const std::string path = job->arguments().document;
+  try {
+    if (job->arguments().isDryRun) {
+      std::cout << writeRequestText(request);
+      [NSApp stopModalWithCode:NSOKButton];
+      return;
+    }
+    state->submission =
+        std::make_unique<JobSubmission>(request, JobDocument{path.empty() ? "-" : path});
+  } catch (const Failure &failure) {
+    [self say:failure.what()];
+    return;
+  }
+  [views.message setStringValue:@""];
+  [views.progress setDoubleValue:0];
+  [self showSending:YES];
+}
+
+- (void)cancelSending {
+  state->submission->cancel();
+}
+
+/// Called by the window's timer.
+- (void)lookAfterSending {
+  if (![self isSending])
+    return;
+  const JobProgress progress = state->submission->progress();
+  const auto total = progress.total.value_or(0);
+  [views.progress setDoubleValue:total == 0 ? 0 : static_cast<double>(progress.sent) / total];
+  [views.message
+      setStringValue:toString(messages::sending(messages::byteCount(progress.sent),
+                                                total == 0 ? "" : messages::byteCount(total)))];
+  if (!state->submission->isDone())
+    return;
+  const auto submission = std::move(state->submission);
+  [self showSending:NO];
+  try {
+    const SubmittedJob sent = submission->result();
+    std::cout << messages::jobSent(job->request().printer, sent.id) << std::endl;
+    if (!sent.note.empty())
+      *errors << sent.note << std::endl;
+    [NSApp stopModalWithCode:NSOKButton];
+  } catch (const Failure &failure) {
+    [self say:failure.what()];
+  }
+}
+
+@end

@@ -1,0 +1,37 @@
+/// The pane of the options that have no place elsewhere in the dialog.
+#ifndef IMAGEPOSITION_HOST_OPTIONSVIEW_H
+#define IMAGEPOSITION_HOST_OPTIONSVIEW_H
+
+#import <AppKit/AppKit.h>
+
+#include "host/PrinterOptions.hpp"
+
+#include <string>
+#include <vector>
+
+@protocol OptionsViewOwner <NSObject>
+/// A person chose. `sender` is the pop-up.
+- (void)option:(const std::string &)keyword
+     wasChosen:(const std::string &)choice
+            by:(NSView *)sender;
+@end
+
+namespace imageposition {
+struct OptionsViewRow;
+}
+
+/// A heading for each group, and a pop-up for each option; it scrolls when they do not fit, and
+/// follows the focus.
+@interface OptionsView : NSScrollView {
+  id<OptionsViewOwner> owner; ///< Not owned.
+  std::vector<imageposition::OptionsViewRow> *rows;
+  std::string *shape; ///< Of the groups shown: keywords of all options and choices.
+}
+
+- (id)initWithFrame:(NSRect)frame owner:(id<OptionsViewOwner>)theOwner;
+/// Keeps the pop-ups where options and choices are those that are shown already.
+- (void)showGroups:(const std::vector<imageposition::OptionGroup> &)groups;
+
+@end
+
+#endif
