@@ -125,16 +125,20 @@ std::string directions(const Offset &offset) {
   return messages::listed(parts);
 }
 
+/// At most all of the content is lost.
 std::string lostEdges(const SidePreview &side) {
+  const PageRectangle &content = side.content;
+  const Point width = content.right - content.left;
+  const Point height = content.bottom - content.top;
   std::vector<std::string> parts;
-  const auto add = [&parts](Point length, std::string (*text)(const std::string &)) {
-    if (const TenthMillimetre lost = toTenthMillimetres(length); lost.count > 0)
+  const auto add = [&parts](Point length, Point most, std::string (*text)(const std::string &)) {
+    if (const TenthMillimetre lost = toTenthMillimetres(std::min(length, most)); lost.count > 0)
       parts.push_back(text(lengthText(lost)));
   };
-  add(side.imageable.left - side.content.left, messages::atTheLeft);
-  add(side.content.right - side.imageable.right, messages::atTheRight);
-  add(side.imageable.top - side.content.top, messages::atTheTop);
-  add(side.content.bottom - side.imageable.bottom, messages::atTheBottom);
+  add(side.imageable.left - content.left, width, messages::atTheLeft);
+  add(content.right - side.imageable.right, width, messages::atTheRight);
+  add(side.imageable.top - content.top, height, messages::atTheTop);
+  add(content.bottom - side.imageable.bottom, height, messages::atTheBottom);
   return messages::listed(parts);
 }
 

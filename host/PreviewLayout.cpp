@@ -6,7 +6,7 @@
 namespace imageposition {
 namespace {
 
-// How many squares of the grid lie on either side of its centre, upwards and downwards.
+// How many squares of the grid lie above its centre and below, and how many a mark moves at most.
 constexpr int kSquares = 5;
 constexpr double kHalfSquare = 0.5;
 
@@ -59,15 +59,15 @@ std::int64_t magnitude(TenthMillimetre length) {
   return length.count < 0 ? -length.count : length.count;
 }
 
-TenthMillimetre squareFor(const Preview &preview, int squaresAcross) {
-  std::int64_t right = magnitude(preview.front.offset.right);
-  std::int64_t down = magnitude(preview.front.offset.down);
-  if (preview.backSeenThrough) {
-    right = std::max(right, magnitude(preview.backSeenThrough->offset.right));
-    down = std::max(down, magnitude(preview.backSeenThrough->offset.down));
-  }
+TenthMillimetre squareFor(const Preview &preview) {
+  const auto farthest = [](const Offset &offset) {
+    return std::max(magnitude(offset.right), magnitude(offset.down));
+  };
+  std::int64_t reach = farthest(preview.front.offset);
+  if (preview.backSeenThrough)
+    reach = std::max(reach, farthest(preview.backSeenThrough->offset));
   std::int64_t square = 2;
-  while (right > square * squaresAcross || down > square * kSquares)
+  while (reach > square * kSquares)
     square = nextSquare(square);
   return {square};
 }
@@ -106,17 +106,13 @@ void layOutGrid(PreviewLayout &layout, const Preview &preview, const PictureSize
   column.skip(margin(size) / 2);
   layout.relation = column.line();
   layout.squarePixels = static_cast<int>(layout.grid.height / (2 * (kSquares + kHalfSquare)));
-  const int across =
-      layout.squarePixels == 0
-          ? kSquares
-          : static_cast<int>(layout.grid.width / 2 / layout.squarePixels - kHalfSquare);
-  layout.squareLength = squareFor(preview, std::max(across, 1));
+  layout.squareLength = squareFor(preview);
 }
 
 } // namespace
 
 PictureSize preferredPictureSize(double lineHeight) {
-  return {std::round(23 * lineHeight), std::round(27 * lineHeight), lineHeight};
+  return {std::round(26 * lineHeight), std::round(28 * lineHeight), lineHeight};
 }
 
 Pixel PreviewLayout::gridCentre() const noexcept {

@@ -63,6 +63,15 @@ struct Mark {
   bool isBack;
 };
 
+/// From where the mark would be when nothing is shifted.
+void strokeWay(const PreviewLayout &layout, const Mark &mark) {
+  const Pixel centre = layout.gridCentre();
+  const Pixel at = layout.mark(mark.offset);
+  [NSBezierPath setDefaultLineWidth:1.5];
+  setColour(mark.colour, 0.6);
+  strokeLine({centre.x + 0.5, centre.y + 0.5}, {at.x + 0.5, at.y + 0.5});
+}
+
 void strokeMark(const PreviewLayout &layout, const Mark &mark) {
   constexpr double kRadius = 8;
   constexpr double kArm = 14;
@@ -118,6 +127,8 @@ void drawMarks(const Preview &preview, const PreviewLayout &layout) {
   const Mark back = {preview.backSeenThrough->offset, previewColours().back, messages::kPreviewBack,
                      true};
   const bool frontIsLeft = front.offset.right.count <= back.offset.right.count;
+  strokeWay(layout, front);
+  strokeWay(layout, back);
   nameMark(layout, front, frontIsLeft);
   nameMark(layout, back, !frontIsLeft);
   strokeMark(layout, front);
@@ -134,8 +145,10 @@ void drawPreviewMarks(const Preview &preview, const PreviewLayout &layout) {
   }
   if (layout.squarePixels == 0)
     return;
-  drawLine(messages::previewEnlarged(lengthText(layout.squareLength)), layout.enlargedTitle,
-           previewBoldFont(), colours.text, Alignment::Left);
+  drawLine(messages::kPreviewEnlarged, layout.enlargedTitle, previewBoldFont(), colours.text,
+           Alignment::Left);
+  drawLine(messages::previewSquare(lengthText(layout.squareLength)), layout.enlargedTitle,
+           previewFont(), colours.text, Alignment::Right);
   setColour(colours.paper);
   NSRectFill(toRect(layout.grid));
   [NSGraphicsContext saveGraphicsState];

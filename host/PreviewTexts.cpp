@@ -12,11 +12,13 @@ const char *const kPreviewToScale = "to scale";
 const char *const kPreviewNotShifted = "not shifted";
 const char *const kPreviewPrintable = "printable area";
 const char *const kPreviewLost = "cannot be printed";
-const char *const kPreviewLongEdge = "long edge";
-const char *const kPreviewShortEdge = "short edge";
+const char *const kPreviewLongEdge = "turned: long edge";
+const char *const kPreviewShortEdge = "turned: short edge";
 const char *const kPreviewMarksCoincide = "Back lies exactly behind front";
 
-std::string previewEnlarged(const std::string &square) { return "Enlarged: 1 square = " + square; }
+const char *const kPreviewEnlarged = "Against the light, enlarged";
+
+std::string previewSquare(const std::string &length) { return "1 square = " + length; }
 
 std::string previewMarksApart(const std::string &arrows) { return "Back behind front: " + arrows; }
 

@@ -22,7 +22,8 @@ extern const char *const kPreviewLost;
 extern const char *const kPreviewLongEdge;
 extern const char *const kPreviewShortEdge;
 extern const char *const kPreviewMarksCoincide;
-std::string previewEnlarged(const std::string &square);
+extern const char *const kPreviewEnlarged;
+std::string previewSquare(const std::string &length);
 std::string previewMarksApart(const std::string &arrows);
 
 // In words.
