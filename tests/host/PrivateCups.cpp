@@ -6,8 +6,17 @@
 
 namespace imageposition::test {
 
-PrivateCups::PrivateCups() {
-  writeConfiguration();
+PrivateCups::PrivateCups(const std::string &policies) {
+  writeConfiguration(policies);
+  start();
+}
+
+void PrivateCups::stop() {
+  server_.reset();
+  isRunning_ = false;
+}
+
+void PrivateCups::start() {
   server_ = std::make_unique<Process>(std::vector<std::string>{"/usr/sbin/cupsd", "-f", "-c",
                                                                folder_.path("cupsd.conf"), "-s",
                                                                folder_.path("cups-files.conf")});
@@ -23,10 +32,10 @@ ProcessResult PrivateCups::run(const std::vector<std::string> &words) const {
 }
 
 std::string PrivateCups::log() const {
-  return contentOf(folder_.path("error_log")) + server_->errorsSoFar();
+  return contentOf(folder_.path("error_log")) + (server_ ? server_->errorsSoFar() : "");
 }
 
-void PrivateCups::writeConfiguration() const {
+void PrivateCups::writeConfiguration(const std::string &policies) const {
   const std::string folder = folder_.path();
   folder_.write("cupsd.conf", "Listen " + socket() +
                                   "\n"
@@ -34,7 +43,8 @@ void PrivateCups::writeConfiguration() const {
                                   "DefaultAuthType None\n"
                                   "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
                                   "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n"
-                                  "</Limit>\n</Policy>\n");
+                                  "</Limit>\n</Policy>\n" +
+                                  policies);
   // As root it insists on another user for what it runs.
   const std::string user = getuid() == 0 ? "User lp\nGroup lp\n" : "";
   folder_.write("cups-files.conf", "ServerRoot " + folder + "\nRequestRoot " + folder +

@@ -15,10 +15,24 @@ namespace imageposition::test {
 /// this object.
 class PrivateCups {
 public:
-  PrivateCups();
+  /// `policies` are further lines of its cupsd.conf.
+  explicit PrivateCups(const std::string &policies = "");
 
   /// Whether it answered in time.
   bool isRunning() const noexcept { return isRunning_; }
+  /// Ends it at once, as a crash would.
+  void stop();
+  /// Starts it again with all that it had on disk, and waits for it.
+  void start();
+  /// Lets it stand still, and go on.
+  void send(int signal) const {
+    if (server_)
+      server_->send(signal);
+  }
+  /// As CUPS_SERVER names it.
+  std::string socket() const { return folder_.path("socket"); }
+  /// As CUPS_SERVERROOT names it.
+  std::string root() const { return folder_.path(); }
   /// To lay over a program's environment, so that it talks to this CUPS.
   std::vector<std::string> environment() const {
     return {"CUPS_SERVER=" + socket(), "CUPS_SERVERROOT=" + folder_.path()};
@@ -29,8 +43,7 @@ public:
   std::string log() const;
 
 private:
-  std::string socket() const { return folder_.path("socket"); }
-  void writeConfiguration() const;
+  void writeConfiguration(const std::string &policies) const;
 
   TemporaryFolder folder_;
   std::unique_ptr<Process> server_; // ends before the folder goes
