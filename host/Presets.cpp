@@ -54,7 +54,7 @@ std::string ownFolder() {
     const passwd *const person = getpwuid(getuid());
     home = person != nullptr ? person->pw_dir : nullptr;
   }
-  return home != nullptr && *home != '\0' ? std::string(home) + "/.cups" : "";
+  return home != nullptr ? std::string(home) + "/.cups" : "";
 }
 
 std::string ownPath() {

@@ -1,0 +1,147 @@
+#include "host/PrinterOptions.hpp"
+
+#include "tests/host/OptionsPpd.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace imageposition;
+using imageposition::test::optionsPrinter;
+using testing::ElementsAre;
+using testing::Field;
+using testing::StrEq;
+
+class PrinterOptionsTest : public testing::Test {
+protected:
+  PrinterOption option(const char *keyword) {
+    const auto option = options.find(keyword);
+    EXPECT_TRUE(option) << keyword;
+    return option.value_or(PrinterOption());
+  }
+  static std::vector<std::string> keywords(const std::vector<OptionGroup> &groups) {
+    std::vector<std::string> keywords;
+    for (const OptionGroup &group : groups)
+      for (const PrinterOption &option : group.options)
+        keywords.push_back(group.text + "/" + option.keyword);
+    return keywords;
+  }
+
+  PrinterDescription printer = optionsPrinter();
+  PrintSettingsStore job;
+  PrinterOptions options{printer, job};
+};
+
+TEST_F(PrinterOptionsTest, EveryOptionStandsInItsGroup) {
+  EXPECT_THAT(keywords(options.all()),
+              ElementsAre("General/PageSize", "General/PageRegion", "Paper and Trays/MediaType",
+                          "Paper and Trays/InputSlot", "Finishing/Duplex", "Finishing/Stapler",
+                          "Finishing/Fold", "Finishing/LeftRightMargin", "Finishing/Watermark",
+                          "What Is Installed/OptionalTray"));
+}
+
+TEST_F(PrinterOptionsTest, ThePaneLeavesOutWhatHasItsPlaceElsewhere) {
+  EXPECT_THAT(keywords(options.listed({"pagesize", "Duplex", "OptionalTray"})),
+              ElementsAre("Paper and Trays/MediaType", "Paper and Trays/InputSlot",
+                          "Finishing/Stapler", "Finishing/Fold", "Finishing/Watermark"));
+}
+
+TEST_F(PrinterOptionsTest, OptionsAndChoicesHaveTexts) {
+  const PrinterOption media = option("MediaType");
+  EXPECT_EQ(media.text, "Kind of Paper");
+  EXPECT_EQ(media.kind, PrinterOption::Kind::List);
+  EXPECT_THAT(media.choices, ElementsAre(Field(&OptionChoice::text, "Plain Paper"),
+                                         Field(&OptionChoice::text, "Foil"),
+                                         Field(&OptionChoice::text, "Labels")));
+  EXPECT_EQ(media.textOf("transparency"), "Foil");
+  EXPECT_EQ(media.textOf("Gold"), "Gold");
+  EXPECT_EQ(option("Stapler").kind, PrinterOption::Kind::Switch);
+  EXPECT_FALSE(options.find("Unknown"));
+}
+
+TEST_F(PrinterOptionsTest, AChoiceThatIsEnteredIsListedOnlyWhileItHolds) {
+  EXPECT_TRUE(option("Watermark").takesCustomValue);
+  EXPECT_EQ(option("Watermark").choices.size(), 2U);
+  job.set("Watermark", "Custom.Mine");
+  const PrinterOption watermark = option("Watermark");
+  EXPECT_EQ(watermark.chosen, "Custom.Mine");
+  EXPECT_EQ(watermark.choices.size(), 3U);
+  EXPECT_TRUE(watermark.differsFromDefault());
+  EXPECT_TRUE(options.choose("Watermark", "Draft"));
+  EXPECT_EQ(option("Watermark").choices.size(), 2U);
+}
+
+TEST_F(PrinterOptionsTest, ChoosingStoresTheChoiceAndMarksIt) {
+  EXPECT_FALSE(option("MediaType").differsFromDefault());
+  EXPECT_TRUE(options.choose("mediatype", "labels"));
+  EXPECT_THAT(job.get("MediaType"), StrEq("Labels"));
+  EXPECT_STREQ(ppdFindMarkedChoice(printer.ppd(), "MediaType")->choice, "Labels");
+  EXPECT_TRUE(option("MediaType").differsFromDefault());
+  EXPECT_EQ(option("MediaType").defaultChoice, "Plain");
+}
+
+TEST_F(PrinterOptionsTest, ChoosingTheDefaultRemovesTheEntry) {
+  options.choose("MediaType", "Labels");
+  EXPECT_TRUE(options.choose("MediaType", "Plain"));
+  EXPECT_EQ(job.optionCount(), 0);
+  EXPECT_STREQ(ppdFindMarkedChoice(printer.ppd(), "MediaType")->choice, "Plain");
+}
+
+TEST_F(PrinterOptionsTest, AChangeOfTheJobByOthersIsSeen) {
+  job.set("Stapler", "True");
+  EXPECT_EQ(option("Stapler").chosen, "True");
+  job.remove("Stapler");
+  EXPECT_EQ(option("Stapler").chosen, "False");
+}
+
+TEST_F(PrinterOptionsTest, ALockedOptionStaysAsItIs) {
+  job.set("Stapler", "True", true);
+  EXPECT_TRUE(option("Stapler").isLocked);
+  EXPECT_FALSE(options.choose("Stapler", "False"));
+  EXPECT_THAT(job.get("Stapler"), StrEq("True"));
+}
+
+TEST_F(PrinterOptionsTest, WhatThePrinterDoesNotHaveIsNotChosen) {
+  EXPECT_FALSE(options.choose("Unknown", "True"));
+  EXPECT_FALSE(options.choose("MediaType", "Gold"));
+  EXPECT_FALSE(options.choose("MediaType", ""));
+  EXPECT_EQ(job.optionCount(), 0);
+}
+
+TEST_F(PrinterOptionsTest, AChoiceReplacesWhatTheJobSaidInOtherWords) {
+  job.set("sides", "two-sided-long-edge");
+  job.set("media", "A5");
+  EXPECT_EQ(option("Duplex").chosen, "DuplexNoTumble");
+  EXPECT_EQ(option("PageSize").chosen, "A5");
+  EXPECT_TRUE(options.choose("Duplex", "None"));
+  EXPECT_TRUE(options.choose("PageSize", "A4"));
+  EXPECT_EQ(option("Duplex").chosen, "None");
+  EXPECT_EQ(option("PageSize").chosen, "A4");
+  EXPECT_EQ(job.optionCount(), 0);
+}
+
+TEST_F(PrinterOptionsTest, TheTwoSidedOptionIsFoundUnderItsOlderName) {
+  ASSERT_TRUE(options.twoSided());
+  EXPECT_EQ(options.twoSided()->keyword, "Duplex");
+  std::string text = imageposition::test::kOptionsPpd;
+  for (std::size_t at; (at = text.find("*Duplex")) != std::string::npos;)
+    text.replace(at, 7, "*JCLDuplex");
+  text.replace(text.find("*DefaultDuplex"), 14, "*DefaultJCLDuplex");
+  PrinterDescription older = optionsPrinter(text);
+  EXPECT_EQ(PrinterOptions(older, job).twoSided().value_or(PrinterOption()).keyword, "JCLDuplex");
+}
+
+TEST_F(PrinterOptionsTest, TextsAreInThePersonsLanguage) {
+  setenv("LANG", "de_DE.UTF-8", 1);
+  setenv("LC_ALL", "de_DE.UTF-8", 1);
+  PrinterDescription german = optionsPrinter();
+  const PrinterOption media = *PrinterOptions(german, job).find("MediaType");
+  unsetenv("LC_ALL");
+  unsetenv("LANG");
+  EXPECT_EQ(media.text, "Papiersorte");
+  EXPECT_EQ(media.choices.front().text, "Normalpapier");
+  EXPECT_EQ(media.choices[1].text, "Foil") << "not translated";
+}
+
+} // namespace
