@@ -59,6 +59,8 @@ void leaveOutPasteboardDaemon() {
 }
 
 void startApplication() {
+  const Surroundings surroundings = readSurroundings();
+  setTextScale(chosenTextScale(surroundings));
   leaveOutImageLoaders();
   leaveOutNotificationDaemon();
   const auto raised = whatIsRaisedBy([] { [NSApplication sharedApplication]; });
@@ -68,7 +70,7 @@ void startApplication() {
   }
   letSignalsEndTheProgram();
   chooseFontsForLanguage();
-  installTheme(chosenAppearance(readSurroundings()));
+  installTheme(chosenAppearance(surroundings));
 }
 
 } // namespace imageposition

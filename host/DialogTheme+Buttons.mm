@@ -18,6 +18,9 @@ bool isDefault(NSCell *cell, NSView *view) {
   return cell != nil && [[view window] defaultButtonCell] == cell;
 }
 
+/// A checkbox or a radio button: it shows its state by another image.
+bool isSwitch(NSButtonCell *cell) { return ([cell showsStateBy] & NSContentsCellMask) != 0; }
+
 /// Interface files give a rounded button more room than it fills, by this platform's rule for them.
 NSRect bezelRect(NSRect frame, int style) {
   if (style == NSRoundedBezelStyle && NSHeight(frame) >= 30)
@@ -63,7 +66,8 @@ NSRect bezelRect(NSRect frame, int style) {
 
 /// A bezel and the box of a checkbox show the focus themselves.
 - (void)drawFocusFrame:(NSRect)frame view:(NSView *)view {
-  if (![view isKindOfClass:[NSButton class]])
+  const bool isButton = [view isKindOfClass:[NSButton class]];
+  if (!isButton || (![(NSButton *)view isBordered] && !isSwitch([(NSButton *)view cell])))
     drawFocusRing(NSIntersectionRect(NSInsetRect(frame, -2, -2), [view bounds]), kCornerRadius,
                   palette.focusRing);
 }

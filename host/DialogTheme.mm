@@ -22,12 +22,6 @@ using namespace imageposition;
   return [theme isKindOfClass:[DialogTheme class]] ? (DialogTheme *)theme : nil;
 }
 
-/// The platform compares it with the theme that the user's defaults name whenever a default
-/// changes, and puts that one in its place if they differ.
-- (NSString *)name {
-  return [[NSUserDefaults standardUserDefaults] stringForKey:@"GSTheme"];
-}
-
 - (NSColorList *)colors {
   return systemColors;
 }

@@ -20,6 +20,12 @@ const Choice kChoices[] = {
     {@"zh", @"SimplifiedChinese", @"WenQuanYiMicroHei", @"WenQuanYiMicroHei"},
 };
 
+// The platform's names of what it takes a font for; menus do not use the general one.
+NSString *const kUses[] = {
+    @"NSFont",        @"NSUserFont",    @"NSLabelFont",    @"NSMenuFont",
+    @"NSMessageFont", @"NSPaletteFont", @"NSToolTipsFont", @"NSControlContentFont",
+};
+
 bool isFor(const Choice &choice, NSString *language) {
   return [language hasPrefix:choice.language] || [language isEqualToString:choice.alternativeName];
 }
@@ -35,9 +41,11 @@ void chooseFontsForLanguage() {
   for (const Choice &choice : kChoices) {
     if (!isFor(choice, [languages objectAtIndex:0]) || ![installed containsObject:choice.regular])
       continue;
-    [defaults registerDefaults:[NSDictionary dictionaryWithObjectsAndKeys:choice.regular, @"NSFont",
-                                                                          choice.bold,
-                                                                          @"NSBoldFont", nil]];
+    NSMutableDictionary *const fonts = [NSMutableDictionary dictionary];
+    for (NSString *const use : kUses)
+      [fonts setObject:choice.regular forKey:use];
+    [fonts setObject:choice.bold forKey:@"NSBoldFont"];
+    [defaults registerDefaults:fonts];
     return;
   }
 }

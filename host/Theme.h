@@ -14,8 +14,8 @@ namespace imageposition {
 /// factor (1 is the usual size).
 void setTextScale(double scale);
 
-/// Makes every control look so from now on. Once per process, after the application object is made
-/// and before the first window.
+/// Makes every control look so from now on. After the application object is made; best before the
+/// first window, as those that are there have to be drawn anew.
 void installTheme(Appearance appearance);
 
 #ifdef __OBJC__

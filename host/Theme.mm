@@ -11,9 +11,19 @@ const ThemeColors &colorsInUse() {
   return theme != nil ? theme->palette : themeColors(Appearance::Light);
 }
 
+/// The platform puts the theme that the user's defaults name in place of this one whenever any
+/// default changes.
+void keepTheme() {
+  [[NSNotificationCenter defaultCenter] removeObserver:[GSTheme class]
+                                                  name:NSUserDefaultsDidChangeNotification
+                                                object:nil];
+}
+
 } // namespace
 
 void setTextScale(double scale) {
+  if (scale == 1)
+    return;
   NSDictionary *const defaults =
       [NSDictionary dictionaryWithObject:[NSNumber numberWithDouble:scale] forKey:@"GSScaleFactor"];
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
@@ -23,7 +33,9 @@ void installTheme(Appearance appearance) {
   replacePlatformDrawing();
   DialogTheme *const theme =
       [[[DialogTheme alloc] initWithPalette:themeColors(appearance)] autorelease];
+  [theme setName:@"PrintDialog"];
   [GSTheme setTheme:theme];
+  keepTheme();
 }
 
 NSColor *accentColor() { return toColor(colorsInUse().accent); }
