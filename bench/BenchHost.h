@@ -36,6 +36,9 @@ public:
   /// A new panel, which the caller owns.
   id makePanel();
 
+  ppd_file_t *ppd() const { return ppd_; }
+  const PrintSettingsStore &job() const { return store_; }
+
 private:
   test::TestPpd ppd_;
   PrintSettingsStore store_;

@@ -11,7 +11,7 @@ struct Colour {
   int blue;
 };
 
-/// Front, back and loss are a blue, a bluish green and a vermilion that people with any kind of
+/// Front, back and loss are a blue, a green and a vermilion that people with any kind of
 /// colour blindness tell apart; line patterns and names repeat what they say.
 struct PreviewColours {
   Colour text;
@@ -27,11 +27,11 @@ struct PreviewColours {
 
 constexpr PreviewColours kLightPreview = {{28, 28, 30},    {90, 90, 96},    {255, 255, 255},
                                           {120, 120, 128}, {110, 110, 118}, {224, 226, 232},
-                                          {0, 92, 170},    {0, 120, 84},    {206, 64, 0}};
+                                          {0, 40, 130},    {0, 133, 100},    {206, 64, 0}};
 
 constexpr PreviewColours kDarkPreview = {{240, 240, 242}, {176, 176, 184}, {44, 45, 50},
                                          {130, 131, 140}, {150, 151, 160}, {66, 68, 76},
-                                         {98, 186, 245},  {52, 211, 160},  {255, 138, 66}};
+                                         {110, 160, 255},  {120, 240, 150},  {255, 138, 66}};
 
 } // namespace imageposition
 

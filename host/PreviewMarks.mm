@@ -106,14 +106,14 @@ void strokeMark(const PreviewLayout &layout, const Mark &mark) {
 
 /// Beside the mark, the front's to the upper left and the back's to the lower right, or wherever
 /// the grid has room.
-void nameMark(const PreviewLayout &layout, const Mark &mark, bool toTheLeft) {
+void nameMark(const PreviewLayout &layout, const Mark &mark, bool toTheLeft, bool above) {
   constexpr double kDistance = 11;
   const PixelRectangle &grid = layout.grid;
   const Pixel at = layout.mark(mark.offset);
   const double line = previewLineHeight();
   const double width = widthOf(mark.name, previewBoldFont()) + 4;
   double left = toTheLeft ? at.x - kDistance - width : at.x + kDistance;
-  double top = mark.isBack ? at.y + 4 : at.y - 4 - line;
+  double top = above ? at.y - 4 - line : at.y + 4;
   left = std::min(std::max(left, grid.x + 1), grid.right() - width - 1);
   top = std::min(std::max(top, grid.y + 1), grid.bottom() - line - 1);
   const PixelRectangle place = {std::round(left), std::round(top), width, line};
@@ -129,8 +129,9 @@ void drawMarks(const Preview &preview, const PreviewLayout &layout) {
   const bool frontIsLeft = front.offset.right.count <= back.offset.right.count;
   strokeWay(layout, front);
   strokeWay(layout, back);
-  nameMark(layout, front, frontIsLeft);
-  nameMark(layout, back, !frontIsLeft);
+  const bool frontIsAbove = front.offset.down.count <= back.offset.down.count;
+  nameMark(layout, front, frontIsLeft, frontIsAbove);
+  nameMark(layout, back, !frontIsLeft, !frontIsAbove);
   strokeMark(layout, front);
   strokeMark(layout, back);
 }

@@ -25,6 +25,12 @@ struct PreviewViewState;
 /// The picture in words.
 - (NSString *)accessibilityLabel;
 
+/// The same, for the tool tip: asked for only when the pointer rests on the picture.
+- (NSString *)view:(NSView *)view
+    stringForToolTip:(NSToolTipTag)tag
+               point:(NSPoint)point
+            userData:(void *)data;
+
 @end
 
 #endif

@@ -72,7 +72,6 @@ struct imageposition::PreviewViewState {
   return toString(text);
 }
 
-/// Asked for only when the pointer rests on the picture.
 - (NSString *)view:(NSView *)view
     stringForToolTip:(NSToolTipTag)tag
                point:(NSPoint)point

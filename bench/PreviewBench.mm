@@ -1,0 +1,125 @@
+// The picture beside the panel: from a click on a stepper to the pixels in the window.
+#import "bench/BenchHost.h"
+
+#import "controller/MorvaADPSettingsCollectorRV2.h"
+#import "host/PreviewView.h"
+#import "tests/support/Pool.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+
+namespace {
+
+using namespace imageposition;
+using imageposition::bench::BenchHost;
+using imageposition::test::Pool;
+
+NSStepper *firstStepper(NSView *view) {
+  if ([view isKindOfClass:[NSStepper class]])
+    return static_cast<NSStepper *>(view);
+  for (NSUInteger index = 0; index < [[view subviews] count]; ++index) {
+    if (NSStepper *stepper = firstStepper([[view subviews] objectAtIndex:index]))
+      return stepper;
+  }
+  return nil;
+}
+
+/// The panel, and the picture at its right, on the screen.
+class PanelWithPicture {
+public:
+  explicit PanelWithPicture(BenchHost &host) : host_(host), panel_(host.makePanel()) {
+    NSView *const panelView = [panel_ panelView];
+    const NSSize panel = [panelView frame].size;
+    const NSSize picture = [PreviewView preferredSize];
+    window_ =
+        [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, panel.width + picture.width,
+                                                         std::max(panel.height, picture.height))
+                                    styleMask:NSTitledWindowMask
+                                      backing:NSBackingStoreBuffered
+                                        defer:NO];
+    [window_ setReleasedWhenClosed:NO];
+    picture_ = [[PreviewView alloc]
+        initWithFrame:NSMakeRect(panel.width, 0, picture.width, picture.height)];
+    [panelView setFrameOrigin:NSZeroPoint];
+    [[window_ contentView] addSubview:panelView];
+    [[window_ contentView] addSubview:picture_];
+    [panel_ willShow];
+    stepper_ = firstStepper(panelView);
+    [window_ makeKeyAndOrderFront:nil];
+    showPreview();
+    [window_ display];
+  }
+  ~PanelWithPicture() {
+    [window_ close];
+    [window_ release];
+    [picture_ release];
+    [panel_ release];
+  }
+  PanelWithPicture(const PanelWithPicture &) = delete;
+  PanelWithPicture &operator=(const PanelWithPicture &) = delete;
+
+  /// Up and down in turn, so that each click changes the picture.
+  void click() {
+    goesUp_ = !goesUp_;
+    [stepper_ setIntegerValue:goesUp_ ? 1 : -1];
+    [[stepper_ target] UIItemActionListener:stepper_];
+  }
+  void showPreview() { [picture_ showPreview:makePreview(host_.job(), host_.ppd())]; }
+  /// Until the server has drawn all of it: a pixel that is read back comes after what was drawn.
+  void paint() {
+    [window_ displayIfNeeded];
+    [window_ flushWindow];
+    [picture_ lockFocus];
+    benchmark::DoNotOptimize(NSReadPixel(NSMakePoint(1, 1)));
+    [picture_ unlockFocus];
+  }
+  void paintPictureOnly() {
+    [picture_ setNeedsDisplay:YES];
+    paint();
+  }
+
+private:
+  BenchHost &host_;
+  id panel_;
+  NSWindow *window_;
+  PreviewView *picture_;
+  NSStepper *stepper_;
+  bool goesUp_ = false;
+};
+
+void StepperClickToPaintedPicture(benchmark::State &state) {
+  const Pool pool;
+  BenchHost host;
+  PanelWithPicture shown(host);
+  for (auto _ : state) {
+    const Pool inner;
+    shown.click();
+    shown.showPreview();
+    shown.paint();
+  }
+  const char *const offset = host.job().get("LeftRightMargin");
+  state.SetLabel(offset == nullptr ? "the click has not reached the job" : offset);
+}
+BENCHMARK(StepperClickToPaintedPicture)->Unit(benchmark::kMillisecond);
+
+void PaintPicture(benchmark::State &state) {
+  const Pool pool;
+  BenchHost host;
+  PanelWithPicture shown(host);
+  for (auto _ : state) {
+    const Pool inner;
+    shown.paintPictureOnly();
+  }
+}
+BENCHMARK(PaintPicture)->Unit(benchmark::kMillisecond);
+
+void MakePreview(benchmark::State &state) {
+  const Pool pool;
+  BenchHost host;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(makePreview(host.job(), host.ppd()));
+}
+BENCHMARK(MakePreview);
+
+} // namespace
