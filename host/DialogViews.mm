@@ -113,13 +113,15 @@ void Builder::makeControls() {
   views_.collate = makeButton(messages::kCollate, target, actions_.collateChanged);
   [views_.collate setButtonType:NSSwitchButton];
   [views_.collate sizeToFit];
+  [views_.collate setFrameSize:NSMakeSize(NSWidth([views_.collate frame]) + 12, kRowHeight)];
   views_.pages = makePopUp(target, actions_.pagesChosen);
   [views_.pages setFrameSize:NSMakeSize(130, kRowHeight)];
   views_.ranges = makeField(kPopUpWidth - 130 - kGap, target, actions_.rangesChanged);
   views_.twoSided = makePopUp(target, actions_.twoSidedChosen);
   views_.media = makePopUp(target, actions_.mediaChosen);
   views_.panes = makePopUp(target, actions_.paneChosen);
-  rows_.push_back({messages::kPrinterRow, {views_.printers, views_.printerState}});
+  rows_.push_back({messages::kPrinterRow, {views_.printers}});
+  rows_.push_back({"", {views_.printerState}});
   if (!document_.empty())
     rows_.push_back({messages::kDocumentRow, {makeLabel(document_)}});
   rows_.push_back({messages::kPresetsRow, {views_.presets}});

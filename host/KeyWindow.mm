@@ -45,6 +45,7 @@ SEL editingOperationOf(NSEvent *event) {
 
 BOOL isPushButton(id responder) {
   return [responder isKindOfClass:[NSButton class]] &&
+         ![responder isKindOfClass:[NSPopUpButton class]] && // the space bar opens it
          ([[(NSButton *)responder cell] showsStateBy] & NSContentsCellMask) == 0;
 }
 
