@@ -2,6 +2,7 @@
 
 #include "host/CupsConnection.hpp"
 #include "host/JobMessages.hpp"
+#include "host/PasswordQuestion.hpp"
 
 #include <algorithm>
 #include <atomic>
@@ -171,6 +172,7 @@ const Destination *DestinationList::defaultDestination() const {
 DestinationList readDestinations(std::chrono::milliseconds patience) {
   const Clock::time_point deadline = Clock::now() + patience;
   const auto isInTime = [=] { return Clock::now() < deadline; };
+  const PasswordQuestion nobodyAnswers;
   const auto connection = CupsConnection::open(patience, isInTime);
   if (!connection)
     return {{}, messages::noCups(cupsServerName(), std::strerror(errno))};

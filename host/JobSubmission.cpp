@@ -76,30 +76,6 @@ struct FreeInfo {
   void operator()(cups_dinfo_t *info) const noexcept { cupsFreeDestInfo(info); }
 };
 
-/// libcups would ask on the terminal.
-class PasswordQuestion {
-public:
-  explicit PasswordQuestion(const PasswordCallback &callback) : callback_(callback) {
-    cupsSetPasswordCB2(answer, this);
-  }
-  ~PasswordQuestion() { cupsSetPasswordCB2(nullptr, nullptr); }
-  PasswordQuestion(const PasswordQuestion &) = delete;
-  PasswordQuestion &operator=(const PasswordQuestion &) = delete;
-
-private:
-  static const char *answer(const char *prompt, http_t *, const char *, const char *, void *self) {
-    auto &question = *static_cast<PasswordQuestion *>(self);
-    if (question.callback_)
-      question.password_ = question.callback_(prompt);
-    else
-      question.password_.reset();
-    return question.password_ ? question.password_->c_str() : nullptr;
-  }
-
-  const PasswordCallback &callback_;
-  std::optional<std::string> password_;
-};
-
 /// One job on its way.
 class Submission {
 public:

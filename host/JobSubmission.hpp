@@ -4,6 +4,7 @@
 
 #include "host/ExitCode.hpp"
 #include "host/JobRequest.hpp"
+#include "host/PasswordQuestion.hpp"
 
 #include <cstdint>
 #include <functional>
@@ -56,8 +57,6 @@ struct SubmittedJob {
 /// Called before each piece, after the last, and while CUPS or a pipe lets us wait; false cancels.
 /// Must not throw.
 using ProgressCallback = std::function<bool(const JobProgress &)>;
-/// Asked when CUPS wants one; the argument is CUPS's question. None gives up.
-using PasswordCallback = std::function<std::optional<std::string>(const std::string &prompt)>;
 
 /// Submits the job on the caller's thread and returns when CUPS has all of it. The document is
 /// streamed in small pieces. Both callbacks are called on this thread; without a password callback
