@@ -60,13 +60,13 @@ void leaveOutPasteboardDaemon() {
 void startApplication() {
   leaveOutImageLoaders();
   leaveOutNotificationDaemon();
+  chooseFontsForLanguage();
   const auto raised = whatIsRaisedBy([] { [NSApplication sharedApplication]; });
   if (raised || NSApp == nil) {
     const char *const name = std::getenv("DISPLAY");
     throw Failure(ExitCode::Display, messages::displayUnreachable(name != nullptr ? name : ""));
   }
   letSignalsEndTheProgram();
-  chooseFontsForLanguage();
 }
 
 } // namespace imageposition
