@@ -7,10 +7,12 @@
 #include "host/OptionText.hpp"
 #include "host/PluginFolders.hpp"
 #include "host/PrivateDisplay.hpp"
+#include "host/StartTexts.hpp"
 #include "host/Ticket.hpp"
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 #include <unistd.h>
 
@@ -21,6 +23,14 @@ namespace {
 PrinterDescription openPrinter(const Arguments &arguments) {
   return arguments.ppd.empty() ? PrinterDescription::ofQueue(arguments.queue)
                                : PrinterDescription::fromFile(arguments.ppd);
+}
+
+void checkDocument(const std::string &path) {
+  std::error_code ignored;
+  const bool isFolder = std::filesystem::is_directory(path, ignored);
+  if (isFolder || access(path.c_str(), R_OK) != 0)
+    throw Failure(ExitCode::Usage,
+                  messages::documentUnreadable(path, std::strerror(isFolder ? EISDIR : errno)));
 }
 
 /// The ticket that is there already, with the command line's options on top.
@@ -60,7 +70,7 @@ ExitCode runInBatch(const Arguments &arguments, PrinterDescription &printer, Tic
   PanelSession session(printer, ticket.settings);
   session.load(plugins);
   for (const std::string &trouble : session.troubles())
-    std::cerr << trouble << '\n';
+    std::cerr << messages::kProgram << trouble << '\n';
   if (!session.troubles().empty())
     return ExitCode::Plugin;
   if (session.panels().empty())
@@ -73,6 +83,8 @@ ExitCode runInBatch(const Arguments &arguments, PrinterDescription &printer, Tic
 }
 
 ExitCode runInWindow(const Arguments &arguments, PrinterDescription &printer, Ticket &ticket) {
+  if (!arguments.ticket.empty())
+    checkTicketPlace(arguments.ticket); // before the person has set anything that would be lost
   startApplication();
   PanelSession session(printer, ticket.settings);
   session.load(pluginsFor(arguments, printer));
@@ -92,9 +104,8 @@ ExitCode run(const std::vector<std::string> &words) {
     return ExitCode::Done;
   }
   const Arguments &arguments = std::get<Arguments>(request);
-  if (!arguments.document.empty() && access(arguments.document.c_str(), R_OK) != 0)
-    throw Failure(ExitCode::Usage,
-                  messages::documentUnreadable(arguments.document, std::strerror(errno)));
+  if (!arguments.document.empty())
+    checkDocument(arguments.document);
   PrinterDescription printer = openPrinter(arguments);
   Ticket ticket = openTicket(arguments, printer);
   printer.mark(ticket.settings);
@@ -103,18 +114,27 @@ ExitCode run(const std::vector<std::string> &words) {
                            : runInWindow(arguments, printer, ticket);
 }
 
+ExitCode runInPool(const std::vector<std::string> &words) {
+  struct Pool {
+    ~Pool() { [pool release]; }
+    NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
+  } const pool;
+  const ExitCode code = run(words);
+  if (!std::cout.flush())
+    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
+  return code;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
-  NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
-  ExitCode code = ExitCode::Done;
+  leaveOutForeignVariables(argv);
   try {
-    code = run(std::vector<std::string>(argv + 1, argv + argc));
-    std::cout.flush();
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    refuseForeignArguments(words);
+    return static_cast<int>(runInPool(words));
   } catch (const Failure &failure) {
-    std::cerr << "print-dialog: " << failure.what() << '\n';
-    code = failure.code();
+    std::cerr << messages::kProgram << failure.what() << '\n';
+    return static_cast<int>(failure.code());
   }
-  [pool release];
-  return static_cast<int>(code);
 }

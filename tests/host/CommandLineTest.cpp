@@ -42,6 +42,12 @@ TEST(CommandLine, APrinterMustBeNamedOnce) {
   mistake({"--ppd", "a.ppd", "-d", "office"});
 }
 
+TEST(CommandLine, AnEmptyTextIsNotTakenForNothing) {
+  for (const char *option : {"--ticket", "--back"})
+    EXPECT_THAT(mistake({"--ppd", "a.ppd", "--batch", option, ""}), HasSubstr("empty text"));
+  EXPECT_THAT(mistake({"--ppd", "a.ppd", ""}), HasSubstr("empty text"));
+}
+
 TEST(CommandLine, OptionsArePassedOnInTheirOrder) {
   EXPECT_THAT(read({"--ppd", "a", "-o", "Duplex=None", "-o", "x y=z"}).options,
               ElementsAre("Duplex=None", "x y=z"));
