@@ -22,7 +22,7 @@ add_custom_command(OUTPUT "${interface_file}"
   DEPENDS "${PROJECT_SOURCE_DIR}/resources/ImagePositionAdjustPrint.xib" VERBATIM)
 target_sources(MorvaADPImagePosition PRIVATE "${interface_file}")
 set_source_files_properties("${interface_file}" PROPERTIES
-  GENERATED TRUE EXTERNAL_OBJECT TRUE MACOSX_PACKAGE_LOCATION Resources)
+  GENERATED TRUE MACOSX_PACKAGE_LOCATION Resources)
 
 set_target_properties(MorvaADPImagePosition PROPERTIES
   BUNDLE TRUE

@@ -14,6 +14,12 @@ add_library(imageposition_options INTERFACE)
 target_include_directories(imageposition_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(imageposition_options INTERFACE -Wall -Wextra -Wshadow
   "$<$<COMPILE_LANGUAGE:CXX,OBJCXX>:-Wnon-virtual-dtor>")
+if(APPLE)
+  # For systems before 10.9 clang takes the old libstdc++ by itself, which has no C++17.
+  target_compile_options(imageposition_options INTERFACE
+    "$<$<COMPILE_LANGUAGE:CXX,OBJCXX>:-stdlib=libc++>")
+  target_link_options(imageposition_options INTERFACE -stdlib=libc++)
+endif()
 if(IMAGEPOSITION_WARNINGS_AS_ERRORS)
   target_compile_options(imageposition_options INTERFACE -Werror)
 endif()

@@ -45,6 +45,15 @@ NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) 
   return items;
 }
 
+// A reference to the view that the interface file connected; null when that is no view. A file's
+// top-level objects are left to whoever loads it, but a view inside another one is that one's.
+NSView *ownedView(NSView *connected, bool loaded) {
+  if (![connected isKindOfClass:[NSView class]])
+    return nil;
+  const bool isTopLevel = loaded && [connected superview] == nil;
+  return isTopLevel ? connected : [connected retain];
+}
+
 } // namespace
 
 @implementation MorvaADPSettingsCollectorRV2
@@ -118,8 +127,8 @@ NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) 
 - (NSView *)prepareView {
   if (ImagePositionPrintView != nil)
     return ImagePositionPrintView;
-  imageposition::loadInterfaceFile(kResourceInterfaceFile, self);
-  LoadedView = ImagePositionPrintView;
+  const bool loaded = imageposition::loadInterfaceFile(kResourceInterfaceFile, self);
+  LoadedView = ownedView(ImagePositionPrintView, loaded);
   [self CBSCInitializeView];
   return ImagePositionPrintView;
 }

@@ -3,6 +3,9 @@
 #define IMAGEPOSITION_CONTROLLER_MORVAADPPDECALLBACKRV2_H
 
 #import <ApplicationServices/ApplicationServices.h>
+#import <Foundation/Foundation.h>
+
+#include <cups/ppd.h>
 
 @protocol MorvaADPPdeCallbackRV2 <NSObject>
 /// The description of the chosen printer, or null; the dialog's.

@@ -51,9 +51,7 @@ extern NSString *const CBSCKeySettingName;
   NSDictionary *SettingInfoDictionary;    ///< Owned.
   NSBundle *Bundle;                       ///< Retained.
   ppd_file_t *ppd;                        ///< Taken once, at construction; the host's.
-  /// The view again, once the interface file is loaded: the file's one top-level object, which the
-  /// loader leaves to whoever loads it.
-  NSView *LoadedView;
+  NSView *LoadedView; ///< The view again, once the interface file is loaded; owned.
 }
 
 /// Null without a callback or bundle, without one of the two definition files, or when a

@@ -63,13 +63,13 @@ void startApplication() {
   setTextScale(chosenTextScale(surroundings));
   leaveOutImageLoaders();
   leaveOutNotificationDaemon();
+  chooseFontsForLanguage();
   const auto raised = whatIsRaisedBy([] { [NSApplication sharedApplication]; });
   if (raised || NSApp == nil) {
     const char *const name = std::getenv("DISPLAY");
     throw Failure(ExitCode::Display, messages::displayUnreachable(name != nullptr ? name : ""));
   }
   letSignalsEndTheProgram();
-  chooseFontsForLanguage();
   installTheme(chosenAppearance(surroundings));
 }
 

@@ -53,6 +53,15 @@ bool endsWith(const std::string &text, const std::string &end) {
   return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
+/// An empty text comes from a variable that was never set; what it was meant for would be skipped.
+void refuseEmptyTexts(const CLI::App &app) {
+  for (const char *name : {"--ticket", "--back", "DOCUMENT"}) {
+    const CLI::Option *const option = app.get_option(name);
+    if (option->count() > 0 && option->as<std::string>().empty())
+      refuse(messages::emptyText(name));
+  }
+}
+
 void fillBatchRequest(RawArguments &raw) {
   BatchRequest &batch = raw.arguments.batch;
   for (const std::string &word : raw.entries) {
@@ -98,6 +107,7 @@ std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) 
   } catch (const CLI::ParseError &error) {
     refuse(error.what());
   }
+  refuseEmptyTexts(app);
   fillBatchRequest(raw);
   checkCombination(raw.arguments);
   return raw.arguments;

@@ -11,11 +11,11 @@ namespace imageposition {
 enum class ExitCode : int {
   Done = 0,
   Cancelled = 1, ///< By the person, or a panel refused the job.
-  Usage = 2,     ///< The command line cannot be understood.
+  Usage = 2,     ///< The command line cannot be understood, or its document not be read.
   Printer = 3,   ///< No usable printer description.
   Plugin = 4,    ///< A plug-in or its panel cannot be used.
   NoPanel = 5,   ///< Batch: no plug-in has a panel for this printer.
-  Ticket = 6,    ///< The ticket cannot be read or written.
+  Ticket = 6,    ///< The ticket or the output cannot be read or written.
   Display = 7,   ///< There is no display, and none could be started.
   Value = 8,     ///< Batch: a value cannot be set on the panel.
   Job = 9,       ///< CUPS did not take the job.

@@ -72,11 +72,11 @@ const char *const kHelpFooter =
     "Exit status:\n"
     "  0  done\n"
     "  1  cancelled, or a panel refused the job\n"
-    "  2  the command line cannot be understood\n"
+    "  2  the command line cannot be understood, or its document not be read\n"
     "  3  no usable printer description\n"
     "  4  a plug-in or its panel cannot be used\n"
     "  5  batch: no plug-in has a panel for this printer\n"
-    "  6  the ticket cannot be read or written\n"
+    "  6  the ticket or the output cannot be read or written\n"
     "  7  no display, and none could be started\n"
     "  8  batch: a value cannot be set on the panel\n"
     "In batch, nothing is written unless the status is 0.";
@@ -91,6 +91,8 @@ const char *const kCancelButton = "Cancel";
 const char *const kNothingToSummarize = "Not available with the present settings.";
 const char *const kNoPanelHere = "No plug-in has a panel for this printer.";
 
+const char *const kProgram = "print-dialog: ";
+
 std::string usage(const std::string &mistake) {
   return mistake + (mistake.empty() || mistake.back() == '.' ? "" : ".") +
          " See print-dialog --help.";
@@ -98,6 +100,11 @@ std::string usage(const std::string &mistake) {
 const char *const kTwoPrintersNamed =
     "Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.";
 const char *const kOnlyInBatch = "--set, --back and --summary need --batch.";
+std::string argumentNotText(const std::string &argument) {
+  return "The argument \"" + argument +
+         "\" is not UTF-8 text. Give the file another name, or name it by a link.";
+}
+std::string emptyText(const std::string &option) { return option + " was given an empty text."; }
 std::string badEntry(const std::string &argument) {
   return "--set takes NAME=TEXT, for example --set FrontLRM=-3, and not \"" + argument + "\".";
 }
@@ -130,6 +137,10 @@ std::string ppdMalformed(const std::string &path, int line, const std::string &r
 std::string ppdOfQueue(const std::string &queue) { return "PPD of queue " + queue; }
 const char *const kNoDefaultPrinter = "There is no default printer. Name one with -d QUEUE (lpstat "
                                       "-e lists the queues) or --ppd FILE.";
+std::string cupsUnreachable(const std::string &server, const std::string &queue) {
+  return "CUPS, which knows the queue \"" + queue + "\", cannot be reached at \"" + server +
+         "\". Start it, or set CUPS_SERVER; --ppd names a description file instead.";
+}
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
   return "CUPS has no printer description for the queue \"" + queue + "\": " + withoutStop(reason) +
          ". lpstat -e lists the queues; --ppd names a description file instead.";
@@ -152,6 +163,9 @@ std::string ticketValueNotText(const std::string &name) {
 }
 std::string ticketEntryUnusable(const std::string &name) {
   return "the setting \"" + name + "\" has a name or value that no print job can carry";
+}
+std::string ticketEntryRepeated(const std::string &name) {
+  return "the setting \"" + name + "\" is locked and there twice";
 }
 const char *const kTicketLockedNotList = "\"locked\" is not a list of names";
 const char *const kTicketWithoutSettings = "it has no object \"settings\"";
@@ -179,8 +193,11 @@ std::string pluginMissing(const std::string &path) {
   return "The plug-in \"" + path + "\" does not exist. Check the path.";
 }
 std::string pluginNotBundle(const std::string &path) {
-  return "\"" + path + "\" is not a plug-in: it is no bundle with code in it. Install it again.";
+  return "\"" + path +
+         "\" is not a plug-in: it is no bundle with code in it. Check the path, or install it "
+         "again.";
 }
+const char *const kCodeCutShort = "its end is missing";
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
   return "The code of the plug-in \"" + path + "\" could not be loaded" +
          (reason.empty() ? std::string() : " (" + reason + ")") +
@@ -257,6 +274,9 @@ std::string valueAdjusted(const std::string &name, const std::string &typed,
 std::string ticketWritten(const std::string &path, const std::string &optionPath) {
   return "The job's settings are in " + path + " and " + optionPath + ".";
 }
+const char *const kOutputUnwritable =
+    "Standard output cannot be written. Send it elsewhere, or name "
+    "a file with --ticket.";
 const char *const kCancelled = "Cancelled; nothing was written.";
 
 } // namespace imageposition::messages

@@ -44,10 +44,15 @@ extern const char *const kCancelButton;
 extern const char *const kNothingToSummarize;
 extern const char *const kNoPanelHere;
 
+// Before a message that ends the program.
+extern const char *const kProgram;
+
 // Mistakes on the command line.
 std::string usage(const std::string &mistake);
 extern const char *const kTwoPrintersNamed;
 extern const char *const kOnlyInBatch;
+std::string argumentNotText(const std::string &argument);
+std::string emptyText(const std::string &option);
 std::string badEntry(const std::string &argument);
 std::string badSwitch(const std::string &argument);
 std::string badOption(const std::string &argument);
@@ -60,6 +65,7 @@ std::string ppdUnreadable(const std::string &path, const std::string &reason);
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason);
 std::string ppdOfQueue(const std::string &queue);
 extern const char *const kNoDefaultPrinter;
+std::string cupsUnreachable(const std::string &server, const std::string &queue);
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
 
 // Tickets.
@@ -69,6 +75,7 @@ std::string ticketNotJson(const std::string &reason);
 std::string ticketMemberNotText(const std::string &name);
 std::string ticketValueNotText(const std::string &name);
 std::string ticketEntryUnusable(const std::string &name);
+std::string ticketEntryRepeated(const std::string &name);
 extern const char *const kTicketLockedNotList;
 extern const char *const kTicketWithoutSettings;
 std::string notAnOrdinaryFile(const std::string &path);
@@ -81,6 +88,7 @@ std::string displayUnreachable(const std::string &name);
 // Plug-ins.
 std::string pluginMissing(const std::string &path);
 std::string pluginNotBundle(const std::string &path);
+extern const char *const kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);
 std::string pluginClassTaken(const std::string &path, const std::string &className);
@@ -105,6 +113,7 @@ std::string valueAdjusted(const std::string &name, const std::string &typed,
 
 // What came out.
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
+extern const char *const kOutputUnwritable;
 extern const char *const kCancelled;
 
 } // namespace imageposition::messages

@@ -2,9 +2,11 @@
 
 #include "host/ExitCode.hpp"
 #import "host/Guard.h"
+#include "host/LibraryFile.hpp"
 #include "host/Messages.hpp"
 
 #include <dlfcn.h>
+#include <filesystem>
 
 namespace imageposition {
 
@@ -29,6 +31,12 @@ NSBundle *bundleAt(const std::string &path) {
   NSString *const code = [bundle executablePath];
   if (code == nil || ![[NSFileManager defaultManager] isReadableFileAtPath:code])
     refuse(messages::pluginNotBundle(path));
+  // For a second copy of a bundle the platform answers the first one.
+  std::error_code failed;
+  if (!std::filesystem::equivalent(path, toText([bundle bundlePath]), failed))
+    refuse(messages::pluginClassTaken(
+        path,
+        toOptionalText([[bundle infoDictionary] objectForKey:@"NSPrincipalClass"]).value_or("")));
   return bundle;
 }
 
@@ -46,6 +54,8 @@ Class principalClassOf(NSBundle *bundle, const std::string &path) {
     refuse(messages::pluginWithoutClass(path, ""));
   if (![bundle isLoaded] && NSClassFromString(toString(*name)) != Nil)
     refuse(messages::pluginClassTaken(path, *name));
+  if (isCutShort(toText([bundle executablePath])))
+    refuse(messages::pluginNotLoadable(path, messages::kCodeCutShort));
   BOOL loaded = NO;
   const auto raised = whatIsRaisedBy([&] { loaded = [bundle load]; });
   if (raised)

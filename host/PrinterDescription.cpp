@@ -38,6 +38,14 @@ std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
   return otherwise;
 }
 
+bool isCupsReachable() {
+  constexpr int kPatienceInMilliseconds = 5000;
+  http_t *const connection = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                          cupsEncryption(), 1, kPatienceInMilliseconds, nullptr);
+  httpClose(connection);
+  return connection != nullptr;
+}
+
 struct QueueName {
   std::string printer;
   std::string instance; // may be empty
@@ -103,6 +111,8 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   if (status != HTTP_STATUS_OK) {
     if (*file != '\0')
       unlink(file);
+    if (!isCupsReachable())
+      throw Failure(ExitCode::Printer, messages::cupsUnreachable(cupsServer(), queue));
     throw Failure(ExitCode::Printer, messages::queueWithoutPpd(queue, cupsLastErrorString()));
   }
   const TemporaryFile owner(file);

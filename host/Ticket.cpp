@@ -23,6 +23,13 @@ using Json = nlohmann::ordered_json;
   throw Failure(ExitCode::Ticket, messages::ticketMalformed(source, reason));
 }
 
+/// What the library says without its own number for it.
+std::string reasonIn(const Json::exception &error) {
+  const std::string text = error.what();
+  const std::size_t end = text.find("] ");
+  return end == std::string::npos ? text : text.substr(end + 2);
+}
+
 std::string textMember(const Json &object, const char *name, const std::string &source) {
   const auto member = object.find(name);
   if (member == object.end())
@@ -63,6 +70,8 @@ void readSettings(const Json &object, const std::string &source, PrintSettingsSt
   for (const auto &[name, value] : member->items()) {
     const auto outcome =
         settings.set(name, valueText(name, value, source), locked.count(name) != 0);
+    if (outcome == PrintSettingsStore::Outcome::Locked)
+      refuse(source, messages::ticketEntryRepeated(name));
     if (outcome != PrintSettingsStore::Outcome::Stored)
       refuse(source, messages::ticketEntryUnusable(name));
   }
@@ -75,7 +84,7 @@ Ticket readTicketText(const std::string &json, const std::string &source) {
   try {
     object = Json::parse(json);
   } catch (const Json::exception &error) {
-    refuse(source, messages::ticketNotJson(error.what()));
+    refuse(source, messages::ticketNotJson(reasonIn(error)));
   }
   if (!object.is_object())
     refuse(source, messages::kTicketWithoutSettings);
@@ -127,6 +136,11 @@ void writeTicket(const Ticket &ticket, const std::string &path) {
   FileReplacement options(optionTextPath(path), writeOptionText(ticket.settings));
   options.commit();
   json.commit(); // last: it is what is read again
+}
+
+void checkTicketPlace(const std::string &path) {
+  for (const std::string &name : {path, optionTextPath(path)})
+    FileReplacement(name, "");
 }
 
 std::string optionTextPath(const std::string &ticketPath) {

@@ -33,6 +33,9 @@ std::optional<Ticket> readTicket(const std::string &path);
 /// first file changes. Throws a `Failure`.
 void writeTicket(const Ticket &ticket, const std::string &path);
 
+/// Throws the `Failure` of `writeTicket` for a place where nothing can be written. Changes nothing.
+void checkTicketPlace(const std::string &path);
+
 /// Where the "name=value" form of a ticket stands: "job.options" for "job.json", and for a name
 /// without ".json" the name with ".options" after it.
 std::string optionTextPath(const std::string &ticketPath);

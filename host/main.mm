@@ -8,16 +8,27 @@
 #include "host/JobSubmission.hpp"
 #include "host/Messages.hpp"
 #include "host/PrivateDisplay.hpp"
+#include "host/StartTexts.hpp"
+#include "host/Ticket.hpp"
 #include "host/WindowTexts.hpp"
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 #include <unistd.h>
 
 using namespace imageposition;
 
 namespace {
+
+void checkDocument(const std::string &path) {
+  std::error_code ignored;
+  const bool isFolder = std::filesystem::is_directory(path, ignored);
+  if (isFolder || access(path.c_str(), R_OK) != 0)
+    throw Failure(ExitCode::Usage,
+                  messages::documentUnreadable(path, std::strerror(isFolder ? EISDIR : errno)));
+}
 
 /// What the window's Print does at its end.
 void finish(DialogJob &job) {
@@ -48,7 +59,7 @@ ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
   startApplication();
   job.loadPanels();
   for (const std::string &trouble : job.panels().troubles())
-    std::cerr << trouble << '\n';
+    std::cerr << messages::kProgram << trouble << '\n';
   if (!job.panels().troubles().empty())
     return ExitCode::Plugin;
   if (job.panels().panels().empty())
@@ -61,6 +72,9 @@ ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
 }
 
 ExitCode runInWindow(DialogJob &job) {
+  const Arguments &arguments = job.arguments();
+  if (!arguments.ticket.empty())
+    checkTicketPlace(arguments.ticket); // before the person has set anything that would be lost
   startApplication();
   job.loadPanels();
   if (!runDialog(job, std::cerr)) {
@@ -80,27 +94,34 @@ ExitCode run(const std::vector<std::string> &words) {
   const Arguments &arguments = std::get<Arguments>(request);
   if (!arguments.server.empty())
     cupsSetServer(arguments.server.c_str());
-  if (!arguments.document.empty() && arguments.document != "-" &&
-      access(arguments.document.c_str(), R_OK) != 0)
-    throw Failure(ExitCode::Usage,
-                  messages::documentUnreadable(arguments.document, std::strerror(errno)));
+  if (!arguments.document.empty() && arguments.document != "-")
+    checkDocument(arguments.document);
   DialogJob job(arguments);
   setPlatformDefaults();
   return arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);
 }
 
+ExitCode runInPool(const std::vector<std::string> &words) {
+  struct Pool {
+    ~Pool() { [pool release]; }
+    NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
+  } const pool;
+  const ExitCode code = run(words);
+  if (!std::cout.flush())
+    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
+  return code;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
-  NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
-  ExitCode code = ExitCode::Done;
+  leaveOutForeignVariables(argv);
   try {
-    code = run(std::vector<std::string>(argv + 1, argv + argc));
-    std::cout.flush();
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    refuseForeignArguments(words);
+    return static_cast<int>(runInPool(words));
   } catch (const Failure &failure) {
-    std::cerr << "print-dialog: " << failure.what() << '\n';
-    code = failure.code();
+    std::cerr << messages::kProgram << failure.what() << '\n';
+    return static_cast<int>(failure.code());
   }
-  [pool release];
-  return static_cast<int>(code);
 }

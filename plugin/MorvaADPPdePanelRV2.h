@@ -6,7 +6,8 @@
 
 /// Forwards the dialog's requests to its controller, in fixed orders. Until the pane is first shown
 /// the view's values are not trusted: saving and restoring do nothing, printing reads first.
-@interface MorvaADPPdePanelRV2 : NSObject <PDEPanel> {
+/// Main thread only.
+@interface MorvaADPPdePanelRV2 : NSObject {
   id<MorvaADPPdeCallbackRV2> PDEPluginCallbackObject; ///< Retained.
   NSString *PDEName;                                  ///< Looked up once; the bundle's.
   BOOL PanelShown;                                    ///< True from the first `willShow` on.
@@ -19,7 +20,7 @@
 /// Null without a callback or bundle, or when the controller cannot be built.
 - (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle;
 
-/// The panel's view, or, when the interface file cannot be loaded, a text that says so.
+/// The panel's view, or, when the interface file gives none, a text that says so.
 - (NSView *)panelView;
 - (NSString *)panelName;
 - (NSString *)panelKind;

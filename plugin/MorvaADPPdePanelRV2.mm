@@ -37,7 +37,9 @@
 
 - (NSView *)panelView {
   NSView *view = [SettingItems prepareView];
-  return view != nil ? view : imageposition::missingInterfaceView(PDEBundle);
+  // A damaged interface file may have connected something else.
+  const bool isView = [view isKindOfClass:[NSView class]];
+  return isView ? view : imageposition::missingInterfaceView(PDEBundle);
 }
 
 - (NSString *)panelName {

@@ -3,6 +3,9 @@
 #define IMAGEPOSITION_PLUGIN_MORVAADPPDEPLUGINRV2_H
 
 #import <ApplicationServices/ApplicationServices.h>
+#import <Foundation/Foundation.h>
+
+#include <cups/ppd.h>
 
 /// The PPD attribute that says whether a printer can shift the image, and the one value that says
 /// yes.
@@ -10,7 +13,7 @@ extern NSString *const IPA_PPD_AdjustDuplexPositionSupport;
 extern NSString *const IPAPPDAdjustDuplexPositionSupportTrue;
 
 /// Offers one panel, to print dialogs, for printers that support it.
-@interface MorvaADPPdePluginRV2 : NSObject <PDEPlugIn> {
+@interface MorvaADPPdePluginRV2 : NSObject {
   NSBundle *Bundle; ///< Retained.
 }
 

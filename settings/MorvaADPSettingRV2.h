@@ -3,6 +3,9 @@
 #define IMAGEPOSITION_SETTINGS_MORVAADPSETTINGRV2_H
 
 #import <ApplicationServices/ApplicationServices.h>
+#import <Foundation/Foundation.h>
+
+#include <cups/ppd.h>
 
 /// One value of the panel that a person sets: bound to one entry of the job's print settings, to
 /// the view items that show it, to the panel's other settings and to the constraint rules.

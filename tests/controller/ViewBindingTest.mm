@@ -1,5 +1,7 @@
 // Loading the interface file and binding what it connects.
 #import "tests/controller/ControllerFixture.h"
+#import "tests/support/LiveObjects.h"
+#import "tests/support/Pool.h"
 
 #include <fstream>
 #include <regex>
@@ -248,6 +250,48 @@ TEST_F(ViewBinding, AClassThatDoesNotExistDoesNoHarm) {
   writeInterfaceFile(file);
   [controller prepareView];
   useEverything();
+}
+
+/// The real interface file with the outlet of the view connected to that other object of it.
+std::string interfaceFileWithViewOutletTo(const std::string &identifier) {
+  const std::string whole = realInterfaceFile();
+  const std::regex outlet("property=\"ImagePositionPrintView\" destination=\"[^\"]*\"");
+  const std::string changed = std::regex_replace(
+      whole, outlet, "property=\"ImagePositionPrintView\" destination=\"" + identifier + "\"");
+  EXPECT_NE(changed, whole);
+  return changed;
+}
+
+TEST_F(ViewBinding, AViewInsideAnotherOneStaysThatOnes) {
+  const LiveObjects alive;
+  int labels = 0;
+  {
+    const Pool pool;
+    writeInterfaceFile(interfaceFileWithViewOutletTo("tV3-Ln-e9r"));
+    [controller prepareView];
+    ASSERT_STREQ(object_getClassName(get<id>("ImagePositionPrintView")), "MorvaADPLabelItemRV2");
+    labels = LiveObjects::count("MorvaADPLabelItemRV2");
+    useEverything();
+    [controller release];
+    controller = nil;
+  }
+  EXPECT_EQ(LiveObjects::count("MorvaADPLabelItemRV2"), labels);
+}
+
+TEST_F(ViewBinding, AViewOutletToSomethingElseDoesNoHarm) {
+  const LiveObjects alive;
+  int cells = 0;
+  {
+    const Pool pool;
+    writeInterfaceFile(interfaceFileWithViewOutletTo("9ia-wL-iww"));
+    [controller prepareView];
+    ASSERT_TRUE([get<id>("ImagePositionPrintView") isKindOfClass:[NSTextFieldCell class]]);
+    cells = LiveObjects::count("NSTextFieldCell");
+    useEverything();
+    EXPECT_NO_THROW([controller release]);
+    controller = nil;
+  }
+  EXPECT_EQ(LiveObjects::count("NSTextFieldCell"), cells);
 }
 
 TEST_F(ViewBinding, ItemsOfThePlainPlatformClassesAreCarriedAndIgnored) {

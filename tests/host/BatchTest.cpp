@@ -193,6 +193,31 @@ TEST_F(Batch, EachKindOfTroubleHasItsStatus) {
   EXPECT_EQ(batch(shift, {"--ticket", folder.write("bad.json", "{")}).status, kTicket);
 }
 
+TEST_F(Batch, AnArgumentThatIsNoTextIsNamed) {
+  const auto result = batch(shift, {"--ticket", folder.path("job\xFF.json")});
+  EXPECT_EQ(result.status, kUsage);
+  EXPECT_THAT(result.errors, HasSubstr("job\xEF\xBF\xBD.json\" is not UTF-8"));
+}
+
+TEST_F(Batch, AVariableThatIsNoTextDoesNoHarm) {
+  const auto result = batch(shift, {"--set", "FrontLRM=-3"}, {"OLDPWD=/tmp/caf\xE9"});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_THAT(settingsIn(result.output), Contains(Pair("LeftRightMargin", "-3")));
+}
+
+TEST_F(Batch, AFolderIsNoDocument) {
+  const auto result = batch(shift, {folder.path()});
+  EXPECT_EQ(result.status, kUsage);
+  EXPECT_THAT(result.errors, HasSubstr("directory"));
+}
+
+TEST_F(Batch, SettingsThatReachNobodyAreAFailure) {
+  const auto result = runProcess(
+      {"/bin/sh", "-c", "exec \"$0\" --batch --ppd \"$1\" >/dev/full", PRINT_DIALOG, shift});
+  EXPECT_EQ(result.status, kTicket);
+  EXPECT_THAT(result.errors, HasSubstr("--ticket"));
+}
+
 TEST_F(Batch, WithoutADisplayAPrivateOneIsStartedAndEnded) {
   const auto result = batch(shift, {"--set", "FrontLRM=-3"}, {"DISPLAY"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);

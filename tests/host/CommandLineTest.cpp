@@ -75,6 +75,12 @@ TEST(CommandLine, CopiesAndPriorityKeepToWhatCupsTakes) {
 
 TEST(CommandLine, ADryRunIsAskedByName) { EXPECT_TRUE(read({"--dry-run", "a.pdf"}).isDryRun); }
 
+TEST(CommandLine, AnEmptyTextIsNotTakenForNothing) {
+  for (const char *option : {"--ticket", "--back"})
+    EXPECT_THAT(mistake({"--ppd", "a.ppd", "--batch", option, ""}), HasSubstr("empty text"));
+  EXPECT_THAT(mistake({"--ppd", "a.ppd", ""}), HasSubstr("empty text"));
+}
+
 TEST(CommandLine, OptionsArePassedOnInTheirOrder) {
   EXPECT_THAT(read({"--ppd", "a", "-o", "Duplex=None", "-o", "x y=z"}).options,
               ElementsAre("Duplex=None", "x y=z"));

@@ -129,6 +129,10 @@ TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
   std::ofstream(damaged + "/Fixture") << "no code";
   expectLeftOut(load(damaged, ""), "could not be loaded (");
 
+  const std::string cut = copy("cut.plugin");
+  fs::resize_file(cut + "/Fixture", 5000);
+  expectLeftOut(load(cut, ""), "its end is missing");
+
   const std::string nameless = copy("nameless.plugin");
   std::ofstream(nameless + "/Resources/Info-gnustep.plist") << "{ NSExecutable = Fixture; }";
   expectLeftOut(load(nameless, ""), "lacks its principal class");
@@ -185,6 +189,11 @@ TEST_F(PluginLoading, ThePanelWithoutItsInterfaceFileTakesNoOneDown) {
 TEST_F(PluginLoading, ASecondCopyIsRefusedByName) {
   const auto result = load(FIXTURE_PLUGIN, "", {"--plugin", copy()});
   expectLeftOut(result, "Copy.plugin\" was not loaded: its class \"FixturePlugin\"");
+
+  // A bundle with an identifier, by which the platform would answer the first copy.
+  fs::copy(IMAGE_POSITION_PLUGIN, folder.path("Other.plugin"), fs::copy_options::recursive);
+  expectLeftOut(load(IMAGE_POSITION_PLUGIN, "", {"--plugin", folder.path("Other.plugin")}),
+                "Other.plugin\" was not loaded: its class \"MorvaADPPdePluginRV2\"");
 }
 
 TEST_F(PluginLoading, TwoPluginsWorkSideBySide) {

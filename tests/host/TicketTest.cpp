@@ -80,6 +80,7 @@ TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
       {R"({"settings": {"": "1"}})", "can carry"},
       {R"({"settings": {"a=b": "1"}})", "\"a=b\""},
       {R"({"settings": {"a": "\u0000"}})", "can carry"},
+      {R"({"settings": {"a": "1", "A": "2"}, "locked": ["a"]})", "there twice"},
       {R"({"settings": {}, "locked": "a"})", "list of names"},
       {R"({"settings": {}, "locked": [1]})", "list of names"},
       {R"({"settings": {}, "printer": 1})", "\"printer\" is not a text"},
@@ -135,6 +136,18 @@ TEST(TicketFile, AMissingFolderIsNamed) {
   TemporaryFolder folder;
   EXPECT_THAT(failureOf([&] { writeTicket(sample(), folder.path("no/job.json")); }),
               HasSubstr("no/job.json"));
+}
+
+TEST(TicketFile, ItsPlaceIsCheckedWithoutChangingAnything) {
+  TemporaryFolder folder;
+  const std::string path = folder.write("job.json", "before");
+  imageposition::checkTicketPlace(path);
+  EXPECT_EQ(contentOf(path), "before");
+  EXPECT_FALSE(std::filesystem::exists(folder.path("job.options")));
+  EXPECT_THAT(failureOf([&] { imageposition::checkTicketPlace(folder.path("none/job.json")); }),
+              HasSubstr("none/job.json"));
+  EXPECT_THAT(failureOf([] { imageposition::checkTicketPlace("/dev/null"); }),
+              HasSubstr("ordinary file"));
 }
 
 TEST(TicketFile, ReplacingKeepsTheRightsAndTheLink) {

@@ -158,6 +158,12 @@ TEST_F(Window, ATicketsValuesAreShownAndKept) {
   EXPECT_EQ(printed(), offsets("9", "4", "0", "0", "True"));
 }
 
+TEST_F(Window, APlaceThatTakesNoTicketIsNamedBeforeAnythingIsTyped) {
+  const auto result = dialog(
+      {"--ppd", sample("duplex-shift.ppd"), "--ticket", folder.path("none/job.json")}, {"DISPLAY"});
+  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
+}
+
 TEST_F(Window, APrinterWithoutAPanelIsPrintedOnAllTheSame) {
   open("duplex-plain.ppd", {"-o", "MediaType=Heavy"});
   EXPECT_TRUE(says("No plug-in has a panel for this printer."));

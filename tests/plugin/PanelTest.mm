@@ -81,6 +81,11 @@ TEST(PanelInterface, DerivesFromTheRootClass) {
   EXPECT_EQ([MorvaADPPdePanelRV2 superclass], [NSObject class]);
 }
 
+// macOS has none to adopt.
+TEST(PanelInterface, NamesNoProtocol) {
+  EXPECT_FALSE([MorvaADPPdePanelRV2 conformsToProtocol:@protocol(PDEPanel)]);
+}
+
 TEST(PanelInterface, HasItsFieldsInOrder) {
   EXPECT_EQ(fieldsOf([MorvaADPPdePanelRV2 class]),
             (Lines{"PDEPluginCallbackObject @", "PDEName @", "PanelShown C", "ppd ^", "PDEBundle @",
@@ -315,6 +320,12 @@ TEST_F(Panel, ForwardsTheRequestForItsViewShownOrNot) {
   journal.clear();
   EXPECT_EQ([panel panelView], view);
   EXPECT_THAT(journal.take(), ElementsAre("items.prepareView"));
+}
+
+TEST_F(Panel, ShowsATextInPlaceOfSomethingThatIsNoView) {
+  recordCalls();
+  collector->view = (id)[[[NSTextFieldCell alloc] init] autorelease];
+  EXPECT_TRUE([[panel panelView] isKindOfClass:[NSTextField class]]);
 }
 
 TEST_F(Panel, AnswersTheControllersSummaryUnchanged) {

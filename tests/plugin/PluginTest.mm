@@ -51,6 +51,11 @@ TEST(PluginInterface, DerivesFromTheRootClassAndHasOneField) {
   EXPECT_EQ(fieldsOf([MorvaADPPdePluginRV2 class]), Lines{"Bundle @"});
 }
 
+// macOS has none to adopt.
+TEST(PluginInterface, NamesNoProtocol) {
+  EXPECT_FALSE([MorvaADPPdePluginRV2 conformsToProtocol:@protocol(PDEPlugIn)]);
+}
+
 TEST(PluginInterface, CarriesOutItsOperationsItself) {
   const auto operations = operationsOf([MorvaADPPdePluginRV2 class]);
   for (const char *name : {"initWithBundle:", "dealloc",
