@@ -25,10 +25,13 @@ NSStepper *firstStepper(NSView *view) {
   return nil;
 }
 
+enum class Keyboard { Elsewhere, InAField };
+
 /// The panel, and the picture at its right, on the screen.
 class PanelWithPicture {
 public:
-  explicit PanelWithPicture(BenchHost &host) : host_(host), panel_(host.makePanel()) {
+  explicit PanelWithPicture(BenchHost &host, Keyboard keyboard = Keyboard::Elsewhere)
+      : host_(host), panel_(host.makePanel()) {
     NSView *const panelView = [panel_ panelView];
     const NSSize panel = [panelView frame].size;
     const NSSize picture = [PreviewView preferredSize];
@@ -47,6 +50,8 @@ public:
     [panel_ willShow];
     stepper_ = firstStepper(panelView);
     [window_ makeKeyAndOrderFront:nil];
+    if (keyboard == Keyboard::Elsewhere)
+      [window_ makeFirstResponder:nil];
     showPreview();
     [window_ display];
   }
@@ -88,20 +93,30 @@ private:
   bool goesUp_ = false;
 };
 
-void StepperClickToPaintedPicture(benchmark::State &state) {
+void clickUntilPainted(benchmark::State &state, Keyboard keyboard) {
   const Pool pool;
   BenchHost host;
-  PanelWithPicture shown(host);
+  PanelWithPicture shown(host, keyboard);
   for (auto _ : state) {
     const Pool inner;
     shown.click();
     shown.showPreview();
     shown.paint();
   }
-  const char *const offset = host.job().get("LeftRightMargin");
-  state.SetLabel(offset == nullptr ? "the click has not reached the job" : offset);
+  if (host.job().get("LeftRightMargin") == nullptr)
+    state.SkipWithError("the click has not reached the job");
+}
+
+void StepperClickToPaintedPicture(benchmark::State &state) {
+  clickUntilPainted(state, Keyboard::Elsewhere);
 }
 BENCHMARK(StepperClickToPaintedPicture)->Unit(benchmark::kMillisecond);
+
+// The field's new text is selected, and a selection is announced to other programs.
+void StepperClickToPaintedPictureWhileTyping(benchmark::State &state) {
+  clickUntilPainted(state, Keyboard::InAField);
+}
+BENCHMARK(StepperClickToPaintedPictureWhileTyping)->Unit(benchmark::kMillisecond);
 
 void PaintPicture(benchmark::State &state) {
   const Pool pool;

@@ -81,6 +81,9 @@ std::string spoolRefuses(const std::string &reason) {
          ". Wait until other jobs are printed, free space on its disk, or print fewer pages at a "
          "time.";
 }
+const char *const kDocumentBrokenOff =
+    "CUPS broke off before it had the whole document, as it does with one that is too large for it "
+    "or for its disk. Nothing was printed; free space there, or print fewer pages at a time.";
 std::string connectionLost(const std::string &server, const std::string &reason) {
   return "CUPS at " + server + " went away before it had the whole document" + because(reason) +
          ". Nothing was printed; start CUPS (systemctl start cups) and print again.";

@@ -37,6 +37,7 @@ std::string documentEmpty(const std::string &name);
 std::string documentNotRead(const std::string &name, const std::string &reason);
 std::string formatRefused(const std::string &name, const std::string &reason);
 std::string spoolRefuses(const std::string &reason);
+extern const char *const kDocumentBrokenOff;
 std::string connectionLost(const std::string &server, const std::string &reason);
 std::string jobNotTaken(const std::string &queue, const std::string &reason);
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job);

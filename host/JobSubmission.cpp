@@ -125,10 +125,9 @@ bool Submission::keepWaiting() { return report() && Clock::now() - lastSign_ < k
 void Submission::failAsCups() {
   if (isCancelled_)
     failCancelled();
-  const ipp_status_t status = cupsLastError();
   const std::string reason = cupsLastErrorString();
   const bool isLost = httpError(connection_->http()) != 0;
-  const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(status);
+  const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(cupsLastError());
   fail(problem, messageFor(problem, reason));
 }
 
@@ -257,7 +256,10 @@ SubmittedJob Submission::run(const std::string &path) try {
   try {
     sendDocument(document, piece);
   } catch (const SubmissionFailure &failure) {
-    if (removeJob())
+    const bool isRemoved = removeJob();
+    if (isRemoved && failure.problem() == JobProblem::NoCups) // it is there, and broke off
+      fail(JobProblem::Spool, messages::kDocumentBrokenOff);
+    if (isRemoved)
       throw;
     throw SubmissionFailure(failure.problem(), failure.code(),
                             messages::jobLeftBehind(failure.what(), request_.printer, job_));

@@ -12,7 +12,7 @@ namespace {
 /// Everything is on disk at once, as a CUPS that is ended keeps nothing else. "asking" wants a
 /// password.
 constexpr char kPolicies[] =
-    "LogLevel warn\nDirtyCleanInterval 0\n"
+    "LogLevel warn\nDirtyCleanInterval 0\nLimitRequestBody 202m\n"
     "<Policy asking>\n<Limit Create-Job>\nAuthType Basic\nRequire user somebody\n</Limit>\n"
     "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
 

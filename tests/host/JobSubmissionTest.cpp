@@ -1,10 +1,12 @@
 #include "host/JobSubmission.hpp"
 
+#include "host/Destinations.hpp"
 #include "tests/host/JobFixture.hpp"
+#include "tests/host/RecordingRelay.hpp"
 
 #include <csignal>
 #include <fcntl.h>
-#include <fstream>
+#include <sstream>
 #include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
@@ -99,6 +101,61 @@ TEST_F(Job, ValuesThatNeedQuotesArriveWhole) {
   }
 }
 
+const char *groupName(ipp_tag_t group) {
+  return group == IPP_TAG_OPERATION ? "operation" : group == IPP_TAG_JOB ? "job" : "subscription";
+}
+
+std::string linesOf(ipp_t *request) {
+  std::string lines;
+  for (auto *attribute = ippFirstAttribute(request); attribute != nullptr;
+       attribute = ippNextAttribute(request)) {
+    char value[4096];
+    if (ippGetName(attribute) == nullptr)
+      continue;
+    ippAttributeString(attribute, value, sizeof value);
+    lines += std::string(groupName(ippGetGroupTag(attribute))) + " " + ippGetName(attribute) +
+             " (" + ippTagString(ippGetValueTag(attribute)) + ") = " + value + "\n";
+  }
+  return lines;
+}
+
+std::string withoutNotes(const std::string &text) {
+  std::istringstream lines(text);
+  std::string rest;
+  for (std::string line; std::getline(lines, line);)
+    if (line.compare(0, 4, "    ") != 0)
+      rest += line + "\n";
+  return rest;
+}
+
+TEST_F(Job, IsAskedForInExactlyTheWordsOfItsRequestText) {
+  JobRequest request = requestFor();
+  request.printerUri = readDestinations().find("office")->uri;
+  request.copies = 2;
+  request.collate = false;
+  request.pageRanges = "1-3, 7, 9-";
+  request.priority = 70;
+  request.holdUntil = "indefinite";
+  request.defaults.set("job-sheets", "none,standard");
+  const auto rows = settingsTable();
+  for (const auto &[name, value] : rows.front())
+    request.settings.set(name, value);
+  request.settings.set("Account", "a,b \"c\"");
+  request.settings.set("media-col", "{media-type=plain}");
+  const std::string path = folder.path("relay");
+  ipp_t *sent = nullptr;
+  {
+    RecordingRelay relay(path, cups().socket());
+    cupsSetServer(path.c_str());
+    submitJob(request, {document()});
+    cupsSetServer(cups().socket().c_str());
+    sent = relay.request(IPP_OP_CREATE_JOB);
+  }
+  ASSERT_NE(sent, nullptr);
+  EXPECT_EQ(withoutNotes(writeRequestText(request)), linesOf(sent));
+  ippDelete(sent);
+}
+
 TEST_F(Job, ForAStoppedPrinterIsKeptUntilItIsResumed) {
   command({"cupsdisable", "office"});
   const SubmittedJob job = submitJob(requestFor(), {document()});
@@ -169,6 +226,21 @@ TEST_F(Job, OfAUserWhoMayNotPrintThereIsRefused) {
   const SubmissionFailure failure = refusal(requestFor(), document());
   EXPECT_EQ(failure.problem(), JobProblem::Authentication) << failure.what();
   EXPECT_THAT(failure.what(), HasSubstr("does not let you print"));
+}
+
+TEST_F(Job, BeyondTheQuotaIsRefused) {
+  command({"lpadmin", "-p", "office", "-o", "job-k-limit=1", "-o", "job-quota-period=3600"});
+  submitJob(requestFor(), {document(5000)});
+  const SubmissionFailure failure = refusal(requestFor(), document());
+  EXPECT_EQ(failure.problem(), JobProblem::Spool) << failure.what();
+  EXPECT_THAT(failure.what(), HasSubstr("Wait until"));
+}
+
+TEST_F(Job, TooLargeForCupsIsRefusedAndLeavesNothing) {
+  const SubmissionFailure failure = refusal(requestFor(), document(203u << 20));
+  EXPECT_EQ(failure.problem(), JobProblem::Spool) << failure.what();
+  EXPECT_THAT(failure.what(), HasSubstr("too large"));
+  EXPECT_THAT(waitingJobs(), IsEmpty());
 }
 
 TEST_F(Job, WhosePasswordNobodyGivesIsRefused) {
