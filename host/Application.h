@@ -8,9 +8,6 @@ namespace imageposition {
 /// program's messages ("-GSLogSyslog NO" on the command line brings them back to standard error).
 void setPlatformDefaults();
 
-/// For runs in which nobody copies or pastes: selecting text then starts no daemon for it.
-void leaveOutPasteboardDaemon();
-
 /// Connects to the display: no application icon, no menu, nothing loaded that a dialog does not
 /// need. Throws a `Failure` with `ExitCode::Display`.
 void startApplication();

@@ -1,5 +1,6 @@
 #import "host/Application.h"
 
+#import "host/Daemons.h"
 #include "host/ExitCode.hpp"
 #import "host/Fonts.h"
 #import "host/Guard.h"
@@ -10,7 +11,6 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <objc/runtime.h>
 
 namespace imageposition {
 
@@ -21,20 +21,6 @@ void leaveOutImageLoaders() {
   const Class magick = NSClassFromString(@"GSImageMagickImageRep");
   if (magick != Nil)
     [NSImageRep unregisterImageRepClass:magick];
-}
-
-id answerNothing(id, SEL, ...) { return nil; }
-
-void silence(Class owner, SEL operation) {
-  if (Method const method = class_getClassMethod(owner, operation))
-    method_setImplementation(method, reinterpret_cast<IMP>(answerNothing));
-}
-
-/// Notifications between programs need a daemon, which would be started and outlive the dialog;
-/// nothing here sends or awaits one.
-void leaveOutNotificationDaemon() {
-  silence([NSDistributedNotificationCenter class], @selector(defaultCenter));
-  silence([NSDistributedNotificationCenter class], @selector(notificationCenterForType:));
 }
 
 /// The platform turns these signals into a wish to quit that a modal dialog never hears. Nothing
@@ -51,11 +37,6 @@ void setPlatformDefaults() {
   [defaults setObject:@"YES" forKey:@"GSLogSyslog"];
   [defaults setObject:@"YES" forKey:@"GSSuppressAppIcon"];
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
-}
-
-void leaveOutPasteboardDaemon() {
-  silence([NSPasteboard class], @selector(generalPasteboard));
-  silence([NSPasteboard class], @selector(pasteboardWithName:));
 }
 
 void startApplication() {

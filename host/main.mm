@@ -1,6 +1,7 @@
 #import "host/Application.h"
 #import "host/BatchRun.h"
 #include "host/CommandLine.hpp"
+#import "host/Daemons.h"
 #include "host/Destinations.hpp"
 #import "host/DialogJob.h"
 #import "host/DialogWindow.h"
@@ -75,6 +76,7 @@ ExitCode runInWindow(DialogJob &job) {
   const Arguments &arguments = job.arguments();
   if (!arguments.ticket.empty())
     checkTicketPlace(arguments.ticket); // before the person has set anything that would be lost
+  startPasteboardOnDemand();
   startApplication();
   job.loadPanels();
   if (!runDialog(job, std::cerr)) {
