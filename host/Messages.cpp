@@ -79,6 +79,7 @@ const char *const kHelpFooter =
     "  6  the ticket or the output cannot be read or written\n"
     "  7  no display, and none could be started\n"
     "  8  batch: a value cannot be set on the panel\n"
+    "  9  CUPS did not take the job\n"
     "In batch, nothing is written unless the status is 0.";
 
 const char *const kWindowTitle = "Print";

@@ -114,10 +114,18 @@ std::optional<ConflictProposal> OptionConflicts::proposal(const std::string &cho
     if (choice != nullptr && !choice->marked)
       proposal.changes.push_back(named(*option, choice));
   }
-  if (proposal.changes.empty())
+  if (proposal.changes.empty() || !endsAllConflicts(proposal))
     return std::nullopt;
   proposal.sentence = messages::conflictProposal(inWords(proposal.changes));
   return proposal;
+}
+
+bool OptionConflicts::endsAllConflicts(const ConflictProposal &proposal) {
+  PrintSettingsStore trial = job_;
+  const bool ends =
+      OptionConflicts(printer_, trial).take(proposal) && ppdConflicts(printer_.ppd()) == 0;
+  printer_.mark(job_);
+  return ends;
 }
 
 bool OptionConflicts::take(const ConflictProposal &proposal) {

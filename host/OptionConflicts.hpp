@@ -47,6 +47,9 @@ public:
   bool take(const ConflictProposal &proposal);
 
 private:
+  /// Some that CUPS finds do not: marking one option may unmark another.
+  bool endsAllConflicts(const ConflictProposal &proposal);
+
   PrinterDescription &printer_;
   PrintSettingsStore &job_;
 };
