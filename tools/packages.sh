@@ -24,5 +24,4 @@ test_packages=(
   xdotool xclip imagemagick x11-utils libxtst-dev   # a person at the window
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
   cups-filters hp-ppd foomatic-db-compressed-ppds   # printer descriptions that others wrote
-  openprinting-ppds                                 # the same, of makers of PostScript printers
 )
