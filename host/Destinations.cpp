@@ -66,7 +66,7 @@ std::string withoutSeverity(const std::string &reason) {
 }
 
 std::string wordsFor(const std::string &reason) {
-  const std::string bare = withoutSeverity(reason);
+  std::string bare = withoutSeverity(reason);
   for (const ReasonWords &known : kReasonWords)
     if (bare == known.reason)
       return known.words;

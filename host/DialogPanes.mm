@@ -65,6 +65,20 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
   return YES;
 }
 
+// A panel's controls need not reach the job's settings before it saves, and the picture shows the
+// settings. The text of a field that is being edited is nobody's yet, so that is left alone.
+- (void)personActed {
+  if (shownPanel == nullptr || [self isSending] ||
+      [[views.window firstResponder] isKindOfClass:[NSText class]])
+    return;
+  PanelDriver *const panel = shownPanel;
+  try {
+    panel->save();
+  } catch (const Failure &failure) {
+    [self leaveOut:panel because:failure.what()];
+  }
+}
+
 - (void)restorePanels {
   for (const auto &panel : job->panels().panels()) {
     try {

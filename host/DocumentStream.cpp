@@ -11,7 +11,7 @@ namespace imageposition {
 
 namespace {
 
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = 65536;
 constexpr int kMillisecondsBetweenQuestions = 250;
 
 [[noreturn]] void fail(int reason) { throw std::system_error(reason, std::generic_category()); }

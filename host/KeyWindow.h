@@ -12,6 +12,9 @@
 - (void)dismiss;
 /// Something raised while the window handled an event; what is the exception in words.
 - (void)eventRaised:(NSString *)what;
+@optional
+/// A click or a key has been handled, whatever became of it.
+- (void)personActed;
 @end
 
 /// Return confirms, also from an entry field, after the field has taken its text. Control with C,

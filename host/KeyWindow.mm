@@ -69,8 +69,12 @@ BOOL hasOpenMenu(id responder) {
 - (void)sendEvent:(NSEvent *)event {
   KeyWindow *const window = self;
   const auto raised = imageposition::whatIsRaisedBy([=] { [window handleEvent:event]; });
+  id<KeyWindowDelegate> const person = (id<KeyWindowDelegate>)[self delegate];
   if (raised)
-    [(id<KeyWindowDelegate>)[self delegate] eventRaised:imageposition::toString(*raised)];
+    [person eventRaised:imageposition::toString(*raised)];
+  const bool isAct = [event type] == NSLeftMouseDown || [event type] == NSKeyDown;
+  if (isAct && [person respondsToSelector:@selector(personActed)])
+    [person personActed];
 }
 
 - (void)handleEvent:(NSEvent *)event {

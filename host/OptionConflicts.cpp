@@ -29,6 +29,7 @@ NamedChoice named(const ppd_option_t &option, const ppd_choice_t *choice) {
 
 std::vector<std::string> inWords(const std::vector<NamedChoice> &choices) {
   std::vector<std::string> words;
+  words.reserve(choices.size());
   for (const NamedChoice &choice : choices)
     words.push_back(messages::chosenOption(choice.text, choice.choiceText));
   return words;
