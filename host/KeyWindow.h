@@ -13,8 +13,9 @@
 /// Something raised while the window handled an event; what is the exception in words.
 - (void)eventRaised:(NSString *)what;
 @optional
-/// A click or a key has been handled, whatever became of it.
-- (void)personActed;
+/// A click on the view, or a key while it had the focus, has been handled; keys that are the
+/// dialog's own are not told.
+- (void)personActedOn:(NSView *)view;
 @end
 
 /// Return confirms, also from an entry field, after the field has taken its text. Control with C,

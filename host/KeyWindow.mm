@@ -55,11 +55,26 @@ BOOL hasOpenMenu(id responder) {
          [[[(NSPopUpButton *)responder menu] window] isVisible];
 }
 
+BOOL movesFocus(NSEvent *event) {
+  NSString *const characters = [event charactersIgnoringModifiers];
+  return [characters isEqualToString:@"\t"] || [characters isEqualToString:@"\x19"];
+}
+
+/// The view that a click is on, or that a key is for; null for other events.
+NSView *actedOn(NSEvent *event, NSWindow *window) {
+  if ([event type] == NSLeftMouseDown)
+    return [[window contentView] hitTest:[event locationInWindow]];
+  if ([event type] != NSKeyDown || movesFocus(event))
+    return nil;
+  id const focus = [window firstResponder];
+  return [focus isKindOfClass:[NSView class]] ? focus : nil;
+}
+
 } // namespace
 
 @interface KeyWindow ()
-/// The event in the way of every window, after the dialog's own keys.
-- (void)handleEvent:(NSEvent *)event;
+/// The event in the way of every window, after the dialog's own keys; whether it was one of them.
+- (BOOL)handleEvent:(NSEvent *)event;
 /// Whether the key was the dialog's own.
 - (BOOL)handleKey:(NSEvent *)event;
 @end
@@ -68,18 +83,22 @@ BOOL hasOpenMenu(id responder) {
 
 - (void)sendEvent:(NSEvent *)event {
   KeyWindow *const window = self;
-  const auto raised = imageposition::whatIsRaisedBy([=] { [window handleEvent:event]; });
   id<KeyWindowDelegate> const person = (id<KeyWindowDelegate>)[self delegate];
+  NSView *const view = actedOn(event, self);
+  bool wasOurs = false;
+  bool *const ours = &wasOurs;
+  const auto raised = imageposition::whatIsRaisedBy([=] { *ours = [window handleEvent:event]; });
   if (raised)
     [person eventRaised:imageposition::toString(*raised)];
-  const bool isAct = [event type] == NSLeftMouseDown || [event type] == NSKeyDown;
-  if (isAct && [person respondsToSelector:@selector(personActed)])
-    [person personActed];
+  else if (!wasOurs && view != nil && [person respondsToSelector:@selector(personActedOn:)])
+    [person personActedOn:view];
 }
 
-- (void)handleEvent:(NSEvent *)event {
-  if ([event type] != NSKeyDown || ![self handleKey:event])
-    [super sendEvent:event];
+- (BOOL)handleEvent:(NSEvent *)event {
+  if ([event type] == NSKeyDown && [self handleKey:event])
+    return YES;
+  [super sendEvent:event];
+  return NO;
 }
 
 // The default button would otherwise take Return before the control that has the focus.
