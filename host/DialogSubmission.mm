@@ -7,6 +7,24 @@
 
 using namespace imageposition;
 
+namespace {
+
+/// A modal loop looks whether it has been stopped only after an event; a timer is none.
+void wakeModalLoop() {
+  NSEvent *const event = [NSEvent otherEventWithType:NSApplicationDefined
+                                            location:NSZeroPoint
+                                       modifierFlags:0
+                                           timestamp:0
+                                        windowNumber:0
+                                             context:nil
+                                             subtype:0
+                                               data1:0
+                                               data2:0];
+  [NSApp postEvent:event atStart:NO];
+}
+
+} // namespace
+
 @interface DialogController (SubmissionInside)
 - (void)lookAfterSending;
 - (void)showSending:(BOOL)sending;
@@ -75,6 +93,7 @@ using namespace imageposition;
     if (!sent.note.empty())
       *errors << sent.note << std::endl;
     [NSApp stopModalWithCode:NSOKButton];
+    wakeModalLoop();
   } catch (const Failure &failure) {
     [self say:failure.what()];
   }

@@ -220,9 +220,8 @@ void Builder::addButtons() {
 
 void Builder::linkKeys() {
   const std::vector<NSView *> order{
-      views_.printers, views_.presets, views_.copies,   views_.copiesStepper, views_.collate,
-      views_.pages,    views_.ranges,  views_.twoSided, views_.media,         views_.panes,
-      views_.resolve,  views_.cancel,  views_.print};
+      views_.printers, views_.presets, views_.copies, views_.collate, views_.pages,  views_.ranges,
+      views_.twoSided, views_.media,   views_.panes,  views_.resolve, views_.cancel, views_.print};
   for (std::size_t i = 0; i < order.size(); i++)
     [order[i] setNextKeyView:order[(i + 1) % order.size()]];
 }
