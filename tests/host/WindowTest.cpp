@@ -1,5 +1,6 @@
 // The window, used with real key events.
 #include "tests/host/DialogFixture.hpp"
+#include "tests/host/PrivateCups.hpp"
 
 #include <chrono>
 #include <csignal>
@@ -36,7 +37,13 @@ protected:
 
   /// Opens the dialog and waits until it has the keyboard.
   void open(const std::string &printer, const Words &words = {}, const Words &environment = {}) {
-    Words all{PRINT_DIALOG, "--ppd", sample(printer), "--ticket", ticket};
+    Words all{"--ppd", sample(printer), "--ticket", ticket};
+    all.insert(all.end(), words.begin(), words.end());
+    start(all, environment);
+  }
+
+  void start(const Words &words, const Words &environment) {
+    Words all{PRINT_DIALOG};
     all.insert(all.end(), words.begin(), words.end());
     dialogProcess = std::make_unique<Process>(all, environment);
     ASSERT_TRUE(becomesTrue([&] { return hasKeyboard() || dialogProcess->hasEnded(); }));
@@ -51,6 +58,10 @@ protected:
   static bool hasKeyboard() {
     return runProcess({"xdotool", "getwindowfocus", "getwindowname"}).output == "Print\n";
   }
+
+  /// Backwards from the pane's first control; each of the window's rows has its place there.
+  enum Back { kPanes = 1, kMedia, kTwoSided, kPages, kCollate, kCopies };
+  static void goTo(Back control) { press(Words(control, "shift+Tab")); }
 
   static void type(const std::string &text) {
     ASSERT_EQ(runProcess({"xdotool", "type", "--", text}).status, 0);
@@ -158,12 +169,6 @@ TEST_F(Window, ATicketsValuesAreShownAndKept) {
   EXPECT_EQ(printed(), offsets("9", "4", "0", "0", "True"));
 }
 
-TEST_F(Window, APlaceThatTakesNoTicketIsNamedBeforeAnythingIsTyped) {
-  const auto result = dialog(
-      {"--ppd", sample("duplex-shift.ppd"), "--ticket", folder.path("none/job.json")}, {"DISPLAY"});
-  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
-}
-
 TEST_F(Window, APrinterWithoutAPanelIsPrintedOnAllTheSame) {
   open("duplex-plain.ppd", {"-o", "MediaType=Heavy"});
   EXPECT_TRUE(says("No plug-in has a panel for this printer."));
@@ -237,6 +242,93 @@ TEST_F(Window, APluginThatCannotBeLoadedIsNamedAndTheDialogGoesOn) {
   EXPECT_TRUE(says("could not be loaded"));
   press({"Return"});
   EXPECT_EQ(ended().status, kDone);
+}
+
+TEST_F(Window, TurningTwoSidedOffGoesIntoTheJobAndSwitchesThePanelOff) {
+  open("duplex-shift.ppd");
+  goTo(kTwoSided);
+  press({"space", "Up", "Return"});
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_THAT(printed(), Contains(Pair("Duplex", "None")));
+  EXPECT_THAT(printed(), Contains(Pair("LeftRightMargin", "0")));
+}
+
+TEST_F(Window, CopiesAreTypedAndMistakesKeepTheDialogOpen) {
+  open("duplex-shift.ppd");
+  goTo(kCopies);
+  press({"ctrl+a"});
+  type("many");
+  press({"Return"});
+  ASSERT_TRUE(says("\"many\" is no number of copies"));
+  EXPECT_FALSE(dialogProcess->hasEnded());
+  press({"ctrl+a"});
+  type("3");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(printed(), Contains(Pair("copies", "3")));
+}
+
+TEST_F(Window, ARangeOfPagesIsTypedAndSentAsCupsReadsIt) {
+  open("duplex-shift.ppd");
+  goTo(kPages);
+  press({"space", "Down", "Down", "Down", "Return"}); // the entry field has the focus then
+  type("7, 1-3");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(printed(), Contains(Pair("page-ranges", "\"1-3,7\"")));
+}
+
+class QueueWindow : public Window {
+protected:
+  static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }
+  static void TearDownTestSuite() { cups.reset(); }
+  void SetUp() override {
+    ASSERT_TRUE(cups->isRunning()) << cups->log();
+    const auto added = cups->run({"lpadmin", "-p", "office", "-E", "-v", "file:///dev/null", "-P",
+                                  sample("duplex-shift.ppd")});
+    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
+  }
+  void TearDown() override { cups->run({"lpadmin", "-x", "office"}); }
+
+  void openQueue(const Words &words = {}) {
+    Words all{"-d", "office"};
+    all.insert(all.end(), words.begin(), words.end());
+    all.push_back(sample("two-sided.pdf"));
+    start(all, cups->environment());
+  }
+
+  static std::unique_ptr<PrivateCups> cups;
+};
+
+std::unique_ptr<PrivateCups> QueueWindow::cups;
+
+TEST_F(QueueWindow, PrintHandsTheJobToCups) {
+  openQueue();
+  type("-3");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_THAT(ended().output, HasSubstr("request id is office-"));
+}
+
+TEST_F(QueueWindow, ADryRunShowsWhatCupsWouldBeSent) {
+  openQueue({"--dry-run", "-n", "2"});
+  type("-3");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_THAT(ended().output, AllOf(HasSubstr("LeftRightMargin"), HasSubstr("copies")));
+  EXPECT_EQ(cups->run({"lpstat", "-W", "not-completed", "-o"}).output, "");
+}
+
+TEST_F(QueueWindow, AQueueDeletedMeanwhileIsASentenceAndTheDialogStays) {
+  openQueue();
+  type("-3");
+  ASSERT_EQ(cups->run({"lpadmin", "-x", "office"}).status, 0);
+  press({"Return"});
+  ASSERT_TRUE(says("office"));
+  EXPECT_FALSE(dialogProcess->hasEnded());
+  press({"Escape"});
+  EXPECT_EQ(ended().status, kCancelled);
 }
 
 } // namespace
