@@ -5,6 +5,7 @@
 #include "host/Messages.hpp"
 #include "host/OptionText.hpp"
 #include "host/PluginFolders.hpp"
+#include "host/Presets.hpp"
 
 #include <cups/cups.h>
 
@@ -52,9 +53,23 @@ void takeLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
     settings.set("job-priority", std::to_string(arguments.priority));
 }
 
-/// The ticket that is there already, with the command line's options on top.
-Ticket openTicket(const Arguments &arguments) {
+/// A preset is an instance of the queue; panels see what it holds only among the job's settings.
+PrintSettingsStore settingsOfInstance(const std::string &queue, const PrinterDescription &printer) {
+  const std::size_t slash = queue.find('/');
+  if (slash == std::string::npos)
+    return {};
+  const LoadedPreset preset =
+      Presets(queue.substr(0, slash)).load(queue.substr(slash + 1), printer);
+  for (const std::string &misfit : preset.misfits)
+    std::cerr << misfit << '\n';
+  return preset.settings;
+}
+
+/// The queue's preset, or the ticket that is there already, with the command line's options on top.
+Ticket openTicket(const Arguments &arguments, const std::string &queue,
+                  const PrinterDescription &printer) {
   Ticket ticket;
+  ticket.settings = settingsOfInstance(queue, printer);
   if (!arguments.ticket.empty())
     if (auto stored = readTicket(arguments.ticket))
       ticket = *stored;
@@ -92,7 +107,7 @@ bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) 
 
 DialogJob::DialogJob(const Arguments &arguments)
     : arguments_(arguments), queue_(queueFor(arguments)), printer_(openPrinter(arguments, queue_)),
-      ticket_(openTicket(arguments)),
+      ticket_(openTicket(arguments, queue_, *printer_)),
       isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);

@@ -41,6 +41,9 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
   job = theJob;
   errors = theErrors;
   state = new DialogState;
+  const std::size_t slash = job->queue().find('/');
+  if (slash != std::string::npos)
+    state->preset = job->queue().substr(slash + 1);
   [self buildWindow];
   [self listPrinters];
   [self listPresets];

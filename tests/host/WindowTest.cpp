@@ -60,7 +60,7 @@ protected:
   }
 
   /// Backwards from the pane's first control; each of the window's rows has its place there.
-  enum Back { kPanes = 1, kMedia, kTwoSided, kPages, kCollate, kCopies };
+  enum Back { kPanes = 1, kMedia, kTwoSided, kPages, kCollate, kCopies, kPresets };
   static void goTo(Back control) { press(Words(control, "shift+Tab")); }
 
   static void type(const std::string &text) {
@@ -279,6 +279,18 @@ TEST_F(Window, ARangeOfPagesIsTypedAndSentAsCupsReadsIt) {
   EXPECT_THAT(printed(), Contains(Pair("page-ranges", "\"1-3,7\"")));
 }
 
+TEST_F(Window, AConflictIsResolvedByItsButton) {
+  open("duplex-shift.ppd");
+  goTo(kPanes);
+  press({"space", "Down", "Return", "Tab"});  // the printer's options; media type is first
+  press({"space", "Down", "Down", "Return"}); // transparency, which has one side only
+  press({"Tab", "Tab", "Return"});            // banner pages, resolve
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_THAT(printed(), Contains(Pair("MediaType", "Transparency")));
+  EXPECT_THAT(printed(), Contains(Pair("Duplex", "None")));
+}
+
 class QueueWindow : public Window {
 protected:
   static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }
@@ -329,6 +341,27 @@ TEST_F(QueueWindow, AQueueDeletedMeanwhileIsASentenceAndTheDialogStays) {
   EXPECT_FALSE(dialogProcess->hasEnded());
   press({"Escape"});
   EXPECT_EQ(ended().status, kCancelled);
+}
+
+TEST_F(QueueWindow, ASavedPresetIsOneThatCupsKnows) {
+  openQueue();
+  type("-3");
+  goTo(kPresets);
+  press({"space", "Down", "Return"});
+  ASSERT_TRUE(becomesTrue([&] {
+    return runProcess({"xdotool", "getwindowfocus", "getwindowname"}).output ==
+           "Name of the preset:\n";
+  }));
+  type("thrifty");
+  press({"Return"});
+  ASSERT_TRUE(becomesTrue([&] { return hasKeyboard(); }));
+  press({"Escape"});
+  EXPECT_EQ(ended().status, kCancelled);
+  const auto result =
+      dialog({"--batch", "-d", "office/thrifty", "--dry-run", sample("two-sided.pdf")},
+             cups->environment());
+  EXPECT_THAT(result.output, HasSubstr("LeftRightMargin"));
+  EXPECT_THAT(result.output, HasSubstr("-3"));
 }
 
 } // namespace
