@@ -9,6 +9,8 @@
 #include "settings/RangeText.hpp"
 #include "settings/ValueRange.hpp"
 
+#import <AppKit/AppKit.h>
+
 using imageposition::composeRangeText;
 using imageposition::integerOf;
 using imageposition::integerString;

@@ -4,6 +4,8 @@
 #import "settings/MorvaADPItemProtocols.h"
 #import "settings/PropertyValues.h"
 
+#import <AppKit/AppKit.h>
+
 using imageposition::textEntry;
 
 @implementation MorvaADPSettingRV2
