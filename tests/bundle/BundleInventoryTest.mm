@@ -1,0 +1,135 @@
+#import "tests/support/Pool.h"
+#import "tests/support/Text.h"
+
+#import <Foundation/Foundation.h>
+#import <objc/runtime.h>
+
+#include <dlfcn.h>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <regex>
+
+namespace imageposition::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// As the table writes types.
+std::string plain(std::string encoding) {
+  encoding = std::regex_replace(encoding, std::regex("@\"[^\"]*\""), "@");
+  encoding = std::regex_replace(encoding, std::regex("\\d+"), "");
+  for (const std::regex structure("\\{[^{}]*\\}"); std::regex_search(encoding, structure);)
+    encoding = std::regex_replace(encoding, structure, "S");
+  encoding = std::regex_replace(encoding, std::regex("r?\\^(r?\\^)*r?."), "^");
+  std::replace(encoding.begin(), encoding.end(), 'C', 'c');
+  std::replace(encoding.begin(), encoding.end(), 'Q', 'I');
+  std::replace(encoding.begin(), encoding.end(), 'L', 'I');
+  return encoding;
+}
+
+void addProtocols(Class type, Lines &lines) {
+  unsigned count = 0;
+  Protocol **const list = class_copyProtocolList(type, &count);
+  for (unsigned i = 0; i < count; i++)
+    lines.push_back(std::string("  protocol ") + protocol_getName(list[i]));
+  free(list);
+}
+
+void addFields(Class type, Lines &lines) {
+  unsigned count = 0;
+  Ivar *const list = class_copyIvarList(type, &count);
+  for (unsigned i = 0; i < count; i++)
+    lines.push_back(std::string("  field ") + ivar_getName(list[i]) + " " +
+                    plain(ivar_getTypeEncoding(list[i])));
+  free(list);
+}
+
+void addOperations(Class type, const char *sign, Lines &lines) {
+  unsigned count = 0;
+  Method *const list = class_copyMethodList(type, &count);
+  const std::size_t begin = lines.size();
+  for (unsigned i = 0; i < count; i++)
+    lines.push_back(std::string("  ") + sign + sel_getName(method_getName(list[i])) + " " +
+                    plain(method_getTypeEncoding(list[i])));
+  std::sort(lines.begin() + begin, lines.end());
+  free(list);
+}
+
+Lines describe(Class type) {
+  const Class super = class_getSuperclass(type);
+  Lines lines = {std::string("class ") + class_getName(type) + " : " +
+                 (super == Nil ? "none" : class_getName(super))};
+  addProtocols(type, lines);
+  addFields(type, lines);
+  if (super != Nil) // a root class's operations are its class's too
+    addOperations(object_getClass(reinterpret_cast<id>(type)), "+", lines);
+  addOperations(type, "-", lines);
+  return lines;
+}
+
+/// One text, of which a failure shows only the lines that differ.
+std::string joined(const Lines &lines) {
+  std::string text;
+  for (const std::string &line : lines)
+    text += line + '\n';
+  return text;
+}
+
+/// The table without its comment, and what it begins a line with.
+Lines tableLines(const std::string &beginning) {
+  std::ifstream table(CLASS_TABLE);
+  Lines lines;
+  bool isTaken = false;
+  for (std::string line; std::getline(table, line);) {
+    if (line.compare(0, 2, "  ") != 0)
+      isTaken = line.compare(0, beginning.size(), beginning) == 0;
+    if (isTaken)
+      lines.push_back(line);
+  }
+  return lines;
+}
+
+class Bundle : public testing::Test {
+protected:
+  Bundle() : bundle([NSBundle bundleWithPath:nsString(IMAGEPOSITION_BUNDLE)]) { [bundle load]; }
+
+  Pool pool;
+  NSBundle *bundle;
+};
+
+TEST_F(Bundle, HasTheClassesOfTheTableWithTheirFieldsAndOperations) {
+  // As names: this compiler has no container of classes.
+  const int count = objc_getClassList(nullptr, 0);
+  Class *const classes = static_cast<Class *>(calloc(count, sizeof(Class)));
+  std::set<std::string> ours;
+  objc_getClassList(classes, count);
+  for (int i = 0; i < count; i++)
+    if (std::string(class_getName(classes[i])).compare(0, 8, "MorvaADP") == 0)
+      ours.insert(class_getName(classes[i]));
+  free(classes);
+  Lines lines;
+  for (const std::string &name : ours) {
+    const Lines description = describe(objc_getClass(name.c_str()));
+    lines.insert(lines.end(), description.begin(), description.end());
+  }
+  EXPECT_EQ(joined(lines), joined(tableLines("class ")));
+}
+
+TEST_F(Bundle, ExportsTheConstantsOfTheTable) {
+  const Lines constants = tableLines("constant ");
+  EXPECT_EQ(constants.size(), 4u);
+  for (const std::string &line : constants) {
+    const std::string name = line.substr(line.find(' ') + 1);
+    EXPECT_TRUE(dlsym(RTLD_DEFAULT, name.c_str()) != nullptr ||
+                dlsym(dlopen([[bundle executablePath] UTF8String], RTLD_LAZY | RTLD_NOLOAD),
+                      name.c_str()) != nullptr)
+        << name;
+  }
+}
+
+TEST_F(Bundle, NamesThePrincipalClass) {
+  EXPECT_EQ(cxxString(NSStringFromClass([bundle principalClass])), "MorvaADPPdePluginRV2");
+}
+
+} // namespace
+} // namespace imageposition::test
