@@ -1,0 +1,73 @@
+/// The calls of macOS's AppKit that the plug-in makes, and no other, each with the version that
+/// brought it, from the platform's public documentation. For compiling where there is no macOS.
+#ifndef IMAGEPOSITION_TOOLS_MACOS_APPKIT_H
+#define IMAGEPOSITION_TOOLS_MACOS_APPKIT_H
+
+#import <Foundation/Foundation.h>
+
+SINCE(10.0) @interface NSColor : NSObject
++ (NSColor *)blackColor SINCE(10.0);
++ (NSColor *)lightGrayColor SINCE(10.0);
+@end
+
+SINCE(10.0) @interface NSResponder : NSObject
+@end
+
+SINCE(10.0) @interface NSView : NSResponder
+- (id)initWithFrame:(NSRect)frame SINCE(10.0);
+- (NSView *)superview SINCE(10.0);
+- (NSArray *)subviews SINCE(10.0);
+- (void)setHidden:(BOOL)hidden SINCE(10.3);
+@end
+
+SINCE(10.0) @interface NSCell : NSObject
+- (void)setWraps:(BOOL)wraps SINCE(10.0);
+@end
+
+SINCE(10.0) @interface NSControl : NSView
+- (id)cell SINCE(10.0);
+- (id)target SINCE(10.0);
+- (void)setTarget:(id)target SINCE(10.0);
+- (NSInteger)tag SINCE(10.0);
+- (void)setEnabled:(BOOL)enabled SINCE(10.0);
+- (NSString *)stringValue SINCE(10.0);
+- (void)setStringValue:(NSString *)string SINCE(10.0);
+- (int)intValue SINCE(10.0);
+- (void)setIntegerValue:(NSInteger)value SINCE(10.5);
+@end
+
+SINCE(10.0) @interface NSText : NSView
+- (NSString *)string SINCE(10.0);
+- (NSRange)selectedRange SINCE(10.0);
+- (void)setSelectedRange:(NSRange)range SINCE(10.0);
+@end
+
+SINCE(10.0) @interface NSTextField : NSControl
+- (void)setTextColor:(NSColor *)colour SINCE(10.0);
+- (void)setEditable:(BOOL)editable SINCE(10.0);
+- (void)setBordered:(BOOL)bordered SINCE(10.0);
+- (void)setBezeled:(BOOL)bezeled SINCE(10.0);
+- (void)setDrawsBackground:(BOOL)draws SINCE(10.0);
+- (NSText *)currentEditor SINCE(10.0);
+- (void)textDidChange:(NSNotification *)notification SINCE(10.0);
+@end
+
+SINCE(10.0) @interface NSStepper : NSControl
+@end
+
+SINCE(10.0) @interface NSButton : NSControl
+- (void)setTitle:(NSString *)title SINCE(10.0);
+- (NSInteger)state SINCE(10.0);
+- (void)setState:(NSInteger)state SINCE(10.0);
+@end
+
+SINCE(10.0) @interface NSBox : NSView
+- (void)setTitle:(NSString *)title SINCE(10.0);
+@end
+
+SINCE(10.0) @interface NSBundle(NSNibLoading)
+// Deprecated later, in 10.8; its successor came with that version.
++ (BOOL)loadNibNamed:(NSString *)name owner:(id)owner SINCE(10.0);
+@end
+
+#endif

@@ -1,0 +1,29 @@
+/// What the plug-in needs of macOS's Objective-C runtime, with the version that brought it.
+#ifndef IMAGEPOSITION_TOOLS_MACOS_OBJC_RUNTIME_H
+#define IMAGEPOSITION_TOOLS_MACOS_OBJC_RUNTIME_H
+
+#include <Availability.h>
+
+typedef signed char BOOL; // a boolean of its own only on arm64
+typedef struct objc_class *Class;
+typedef struct objc_object {
+  Class isa;
+} * id;
+typedef struct objc_selector *SEL;
+typedef void (*IMP)(void);
+
+#define YES ((BOOL)1)
+#define NO ((BOOL)0)
+#ifdef __cplusplus
+#define nil nullptr
+#define Nil nullptr
+#endif
+
+@class Protocol;
+
+extern "C" {
+Class object_getClass(id object) SINCE(10.5);
+IMP class_getMethodImplementation(Class type, SEL name) SINCE(10.5);
+}
+
+#endif
