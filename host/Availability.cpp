@@ -26,7 +26,7 @@ std::string reasonText(const Availability &availability) {
   if (availability.oneSided)
     text = messages::kTwoSidedOff;
   if (availability.bannerPages)
-    text += (text.empty() ? "" : " ") + std::string(messages::kBannerPagesOn);
+    text += (text.empty() ? "" : " ") + messages::kBannerPagesOn.str();
   return text;
 }
 

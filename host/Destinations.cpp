@@ -99,16 +99,14 @@ DestinationState stateOf(const cups_dest_t &dest) {
 }
 
 std::string stateInWords(const Destination &destination, const std::string &reasons) {
-  std::string text = messages::kPrinterIdle;
+  std::string state = messages::kPrinterIdle;
   if (destination.state == DestinationState::Printing)
-    text = messages::kPrinterPrinting;
+    state = messages::kPrinterPrinting;
   if (destination.state == DestinationState::Stopped)
-    text = messages::kPrinterStopped;
+    state = messages::kPrinterStopped;
   if (const std::string words = stateReasonsInWords(reasons); !words.empty())
-    text += ": " + words;
-  if (!destination.acceptsJobs)
-    text += std::string("; ") + messages::kPrinterRefuses;
-  return text;
+    state = messages::stateBecause(state, words);
+  return destination.acceptsJobs ? state : messages::refusesJobs(state);
 }
 
 /// Why there is not one destination; empty where CUPS answered well.
@@ -175,7 +173,7 @@ DestinationList readDestinations(std::chrono::milliseconds patience) {
   const PasswordQuestion nobodyAnswers;
   const auto connection = CupsConnection::open(patience, isInTime);
   if (!connection)
-    return {{}, messages::noCups(cupsServerName(), std::strerror(errno))};
+    return {{}, messages::noCups(cupsServerName(), systemReason(errno))};
   DestinationList list;
   cups_dest_t *dests = nullptr;
   const int count = cupsGetDests2(connection->http(), &dests);

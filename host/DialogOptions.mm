@@ -97,7 +97,7 @@ std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterO
 
 - (void)refreshPages {
   if ([views.pages numberOfItems] == 0)
-    for (const char *title :
+    for (const Text &title :
          {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange})
       [[views.pages menu] addItemWithTitle:toString(title) action:NULL keyEquivalent:@""];
   const PageChoice choice = readPageChoice(job->settings());

@@ -1,6 +1,7 @@
 #import "host/DialogController.h"
 #import "host/DialogState.h"
 #include "host/Messages.hpp"
+#include "host/OptionMessages.hpp"
 #include "host/PageRanges.hpp"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
@@ -131,21 +132,17 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 
 - (SummarySection)jobSection {
   SummarySection section{messages::kJobSection, {}};
-  const auto titled = [](const char *row) {
-    const std::string text(row);
-    return text.substr(0, text.size() - 1); // the section adds the colon again
-  };
-  section.lines.push_back({titled(messages::kPrinterRow), job->printer().name()});
+  section.lines.push_back({messages::kPrinterTitle, job->printer().name()});
   if (!job->document().empty())
-    section.lines.push_back({titled(messages::kDocumentRow), job->document()});
+    section.lines.push_back({messages::kDocumentTitle, job->document()});
   const char *const copies = job->settings().get("copies");
-  section.lines.push_back({titled(messages::kCopiesRow), copies != nullptr ? copies : "1"});
+  section.lines.push_back({messages::kCopiesTitle, copies != nullptr ? copies : "1"});
   const PageChoice pages = readPageChoice(job->settings());
-  std::string text = pages.ranges ? pages.ranges->text() : messages::kAllPages;
+  std::string text = pages.ranges ? pages.ranges->text() : messages::kAllPages.str();
   if (pages.set != PageSet::All)
-    text += std::string(", ") +
-            (pages.set == PageSet::Odd ? messages::kOddPages : messages::kEvenPages);
-  section.lines.push_back({titled(messages::kPagesRow), text});
+    text = messages::inOrder(text, pages.set == PageSet::Odd ? messages::kOddPages
+                                                             : messages::kEvenPages);
+  section.lines.push_back({messages::kPagesTitle, text});
   return section;
 }
 

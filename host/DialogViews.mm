@@ -22,7 +22,7 @@ constexpr CGFloat kHintHeight = 36;
 constexpr CGFloat kMessageHeight = 48;
 constexpr CGFloat kPopUpWidth = 280;
 
-NSButton *makeButton(const char *title, id target, SEL action) {
+NSButton *makeButton(std::string_view title, id target, SEL action) {
   NSButton *const button = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
   [button setTitle:toString(title)];
   [button setBezelStyle:NSRoundedBezelStyle];
@@ -62,7 +62,7 @@ NSTextField *makeParagraph(NSRect frame) {
 
 /// A title and what stands beside it, from the left.
 struct Row {
-  const char *title;
+  std::string title;
   std::vector<NSView *> controls;
 };
 

@@ -70,7 +70,7 @@ FileReplacement::~FileReplacement() {
 }
 
 void FileReplacement::fail(int reason) const {
-  throw Failure(ExitCode::Ticket, messages::fileUnwritable(path_, std::strerror(reason)));
+  throw Failure(ExitCode::Ticket, messages::fileUnwritable(path_, systemReason(reason)));
 }
 
 void FileReplacement::writeContent(int descriptor, std::string_view content) const {

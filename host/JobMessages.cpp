@@ -13,18 +13,21 @@ std::string because(std::string reason) {
 
 } // namespace
 
-const char *const kPrinterIdle = "Ready";
-const char *const kPrinterPrinting = "Printing";
-const char *const kPrinterStopped = "Stopped";
-const char *const kPrinterRefuses = "takes no jobs";
-const char *const kNoPrinters =
+const Text kPrinterIdle = text("Ready");
+const Text kPrinterPrinting = text("Printing");
+const Text kPrinterStopped = text("Stopped");
+std::string stateBecause(const std::string &state, const std::string &reasons) {
+  return text("{1}: {2}").with(state, reasons);
+}
+std::string refusesJobs(const std::string &state) { return text("{1}; takes no jobs").with(state); }
+const Text kNoPrinters = text(
     "CUPS has no printers. Add one in the system's settings or with lpadmin, or save the job's "
-    "settings as a ticket.";
+    "settings as a ticket.");
 std::string noCups(const std::string &server, const std::string &reason) {
   return "CUPS does not answer at " + server + because(reason) +
          ". Start it (systemctl start cups) and try again, or save the job's settings as a ticket.";
 }
-const char *const kNoAnswer = "no answer in time";
+const Text kNoAnswer = text("no answer in time");
 std::string printersNotListed(const std::string &reason) {
   return "CUPS does not say which printers it has" + because(reason) +
          ". Ask its administrator, or save the job's settings as a ticket.";
@@ -39,8 +42,8 @@ std::string badPriority(int priority) {
 std::string badNumberUp(int pages) {
   return std::to_string(pages) + " pages do not fit on one side. Choose 1, 2, 4, 6, 9 or 16.";
 }
-const char *const kBadHold = "The time until which to hold the job is empty. Write \"indefinite\", "
-                             "\"no-hold\" or a time such as 18:30.";
+const Text kBadHold = text("The time until which to hold the job is empty. Write \"indefinite\", "
+                           "\"no-hold\" or a time such as 18:30.");
 std::string unusableOption(const std::string &name) {
   return "The option \"" + name + "\" has a name or value that no print job can carry. Change it.";
 }
@@ -81,9 +84,9 @@ std::string spoolRefuses(const std::string &reason) {
          ". Wait until other jobs are printed, free space on its disk, or print fewer pages at a "
          "time.";
 }
-const char *const kDocumentBrokenOff =
+const Text kDocumentBrokenOff = text(
     "CUPS broke off before it had the whole document, as it does with one that is too large for it "
-    "or for its disk. Nothing was printed; free space there, or print fewer pages at a time.";
+    "or for its disk. Nothing was printed; free space there, or print fewer pages at a time.");
 std::string connectionLost(const std::string &server, const std::string &reason) {
   return "CUPS at " + server + " went away before it had the whole document" + because(reason) +
          ". Nothing was printed; start CUPS (systemctl start cups) and print again.";
@@ -97,8 +100,8 @@ std::string jobLeftBehind(const std::string &message, const std::string &queue, 
   return message + " The unfinished job " + name +
          " could not be removed; it has no document, and \"cancel " + name + "\" removes it.";
 }
-const char *const kSubmissionCancelled = "Cancelled; nothing was printed.";
-const char *const kStandardInput = "standard input";
+const Text kSubmissionCancelled = text("Cancelled; nothing was printed.");
+const Text kStandardInput = text("standard input");
 std::string waitsForPrinter(const std::string &queue, const std::string &state) {
   return "The printer \"" + queue + "\" does not print at present (" + state +
          "). CUPS keeps the job and prints it when the printer is resumed (cupsenable " + queue +

@@ -4,25 +4,28 @@
 #ifndef IMAGEPOSITION_HOST_JOBMESSAGES_HPP
 #define IMAGEPOSITION_HOST_JOBMESSAGES_HPP
 
+#include "host/Text.hpp"
+
 #include <string>
 
 namespace imageposition::messages {
 
 // Printers.
-extern const char *const kPrinterIdle;
-extern const char *const kPrinterPrinting;
-extern const char *const kPrinterStopped;
-extern const char *const kPrinterRefuses;
-extern const char *const kNoPrinters;
+extern const Text kPrinterIdle;
+extern const Text kPrinterPrinting;
+extern const Text kPrinterStopped;
+std::string stateBecause(const std::string &state, const std::string &reasons);
+std::string refusesJobs(const std::string &state);
+extern const Text kNoPrinters;
 std::string noCups(const std::string &server, const std::string &reason);
-extern const char *const kNoAnswer;
+extern const Text kNoAnswer;
 std::string printersNotListed(const std::string &reason);
 
 // Fields that no job can have.
 std::string badCopies(int copies);
 std::string badPriority(int priority);
 std::string badNumberUp(int pages);
-extern const char *const kBadHold;
+extern const Text kBadHold;
 std::string unusableOption(const std::string &name);
 
 // The request's text.
@@ -37,12 +40,12 @@ std::string documentEmpty(const std::string &name);
 std::string documentNotRead(const std::string &name, const std::string &reason);
 std::string formatRefused(const std::string &name, const std::string &reason);
 std::string spoolRefuses(const std::string &reason);
-extern const char *const kDocumentBrokenOff;
+extern const Text kDocumentBrokenOff;
 std::string connectionLost(const std::string &server, const std::string &reason);
 std::string jobNotTaken(const std::string &queue, const std::string &reason);
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job);
-extern const char *const kSubmissionCancelled;
-extern const char *const kStandardInput;
+extern const Text kSubmissionCancelled;
+extern const Text kStandardInput;
 std::string waitsForPrinter(const std::string &queue, const std::string &state);
 std::string waitsForRelease(const std::string &queue, int job, const std::string &until);
 

@@ -157,7 +157,7 @@ std::string Submission::messageFor(JobProblem problem, const std::string &reason
 void Submission::connect() {
   connection_ = CupsConnection::open(kPatience, [this] { return keepWaiting(); });
   if (!connection_)
-    fail(JobProblem::NoCups, messages::noCups(cupsServerName(), std::strerror(errno)));
+    fail(JobProblem::NoCups, messages::noCups(cupsServerName(), systemReason(errno)));
 }
 
 void Submission::findPrinter() {

@@ -82,15 +82,18 @@ const char *const kHelpFooter =
     "  9  CUPS did not take the job\n"
     "In batch, nothing is written unless the status is 0.";
 
-const char *const kWindowTitle = "Print";
-const char *const kPrinterLabel = "Printer:";
-const char *const kDocumentLabel = "Document:";
-const char *const kPaneLabel = "Settings:";
-const char *const kSummaryPane = "Summary";
-const char *const kPrintButton = "Print";
-const char *const kCancelButton = "Cancel";
-const char *const kNothingToSummarize = "Not available with the present settings.";
-const char *const kNoPanelHere = "No plug-in has a panel for this printer.";
+const Text kWindowTitle = text("Print");
+const Text kPrinterLabel = text("Printer:");
+const Text kDocumentLabel = text("Document:");
+const Text kPaneLabel = text("Settings:");
+const Text kSummaryPane = text("Summary");
+const Text kPrintButton = text("Print");
+const Text kCancelButton = text("Cancel");
+const Text kNothingToSummarize = text("Not available with the present settings.");
+std::string summaryLine(const std::string &title, const std::string &value) {
+  return text("{1}: {2}").with(title, value);
+}
+const Text kNoPanelHere = text("No plug-in has a panel for this printer.");
 
 const char *const kProgram = "print-dialog: ";
 
@@ -98,9 +101,9 @@ std::string usage(const std::string &mistake) {
   return mistake + (mistake.empty() || mistake.back() == '.' ? "" : ".") +
          " See print-dialog --help.";
 }
-const char *const kTwoPrintersNamed =
-    "Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.";
-const char *const kOnlyInBatch = "--set, --back and --summary need --batch.";
+const Text kTwoPrintersNamed =
+    text("Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.");
+const Text kOnlyInBatch = text("--set, --back and --summary need --batch.");
 std::string argumentNotText(const std::string &argument) {
   return "The argument \"" + argument +
          "\" is not UTF-8 text. Give the file another name, or name it by a link.";
@@ -136,8 +139,8 @@ std::string ppdMalformed(const std::string &path, int line, const std::string &r
          ": " + reason + ". Name a PPD file; cupstestppd tells more about one.";
 }
 std::string ppdOfQueue(const std::string &queue) { return "PPD of queue " + queue; }
-const char *const kNoDefaultPrinter = "There is no default printer. Name one with -d QUEUE (lpstat "
-                                      "-e lists the queues) or --ppd FILE.";
+const Text kNoDefaultPrinter = text("There is no default printer. Name one with -d QUEUE (lpstat "
+                                    "-e lists the queues) or --ppd FILE.");
 std::string cupsUnreachable(const std::string &server, const std::string &queue) {
   return "CUPS, which knows the queue \"" + queue + "\", cannot be reached at \"" + server +
          "\". Start it, or set CUPS_SERVER; --ppd names a description file instead.";
@@ -168,8 +171,8 @@ std::string ticketEntryUnusable(const std::string &name) {
 std::string ticketEntryRepeated(const std::string &name) {
   return "the setting \"" + name + "\" is locked and there twice";
 }
-const char *const kTicketLockedNotList = "\"locked\" is not a list of names";
-const char *const kTicketWithoutSettings = "it has no object \"settings\"";
+const Text kTicketLockedNotList = text("\"locked\" is not a list of names");
+const Text kTicketWithoutSettings = text("it has no object \"settings\"");
 std::string notAnOrdinaryFile(const std::string &path) {
   return "\"" + path +
          "\" is not an ordinary file, so that no ticket is written there. Choose another "
@@ -179,9 +182,9 @@ std::string fileUnwritable(const std::string &path, const std::string &reason) {
   return "\"" + path + "\" cannot be written: " + reason + ". Choose another place.";
 }
 
-const char *const kNoDisplay = "There is no display, and no Xvfb could be started for the panel's "
-                               "view. Set DISPLAY, or install "
-                               "Xvfb (Debian: xvfb).";
+const Text kNoDisplay = text("There is no display, and no Xvfb could be started for the panel's "
+                             "view. Set DISPLAY, or install "
+                             "Xvfb (Debian: xvfb).");
 std::string displayUnreachable(const std::string &name) {
   return name.empty()
              ? "There is no display to show the window on. Set DISPLAY, or use --batch."
@@ -198,7 +201,7 @@ std::string pluginNotBundle(const std::string &path) {
          "\" is not a plug-in: it is no bundle with code in it. Check the path, or install it "
          "again.";
 }
-const char *const kCodeCutShort = "its end is missing";
+const Text kCodeCutShort = text("its end is missing");
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
   return "The code of the plug-in \"" + path + "\" could not be loaded" +
          (reason.empty() ? std::string() : " (" + reason + ")") +
@@ -263,10 +266,10 @@ std::string fieldUnavailable(const std::string &name) {
          "own "
          "(--back on).";
 }
-const char *const kNoSwitch = "No panel has exactly one checkbox for --back.";
-const char *const kSwitchUnavailable = "The checkbox cannot be changed with the present settings "
-                                       "of the job: the panel has switched it "
-                                       "off. Two-sided printing may be off (-o Duplex=...).";
+const Text kNoSwitch = text("No panel has exactly one checkbox for --back.");
+const Text kSwitchUnavailable = text("The checkbox cannot be changed with the present settings "
+                                     "of the job: the panel has switched it "
+                                     "off. Two-sided printing may be off (-o Duplex=...).");
 std::string valueAdjusted(const std::string &name, const std::string &typed,
                           const std::string &shown) {
   return "The panel made \"" + shown + "\" of \"" + typed + "\" for " + name + ".";
@@ -275,9 +278,8 @@ std::string valueAdjusted(const std::string &name, const std::string &typed,
 std::string ticketWritten(const std::string &path, const std::string &optionPath) {
   return "The job's settings are in " + path + " and " + optionPath + ".";
 }
-const char *const kOutputUnwritable =
-    "Standard output cannot be written. Send it elsewhere, or name "
-    "a file with --ticket.";
-const char *const kCancelled = "Cancelled; nothing was written.";
+const Text kOutputUnwritable = text("Standard output cannot be written. Send it elsewhere, or name "
+                                    "a file with --ticket.");
+const Text kCancelled = text("Cancelled; nothing was written.");
 
 } // namespace imageposition::messages

@@ -5,6 +5,8 @@
 #ifndef IMAGEPOSITION_HOST_MESSAGES_HPP
 #define IMAGEPOSITION_HOST_MESSAGES_HPP
 
+#include "host/Text.hpp"
+
 #include <string>
 #include <vector>
 
@@ -34,23 +36,24 @@ extern const char *const kHelpHelp;
 extern const char *const kHelpFooter;
 
 // The window.
-extern const char *const kWindowTitle;
-extern const char *const kPrinterLabel;
-extern const char *const kDocumentLabel;
-extern const char *const kPaneLabel;
-extern const char *const kSummaryPane;
-extern const char *const kPrintButton;
-extern const char *const kCancelButton;
-extern const char *const kNothingToSummarize;
-extern const char *const kNoPanelHere;
+extern const Text kWindowTitle;
+extern const Text kPrinterLabel;
+extern const Text kDocumentLabel;
+extern const Text kPaneLabel;
+extern const Text kSummaryPane;
+extern const Text kPrintButton;
+extern const Text kCancelButton;
+extern const Text kNothingToSummarize;
+std::string summaryLine(const std::string &title, const std::string &value);
+extern const Text kNoPanelHere;
 
 // Before a message that ends the program.
 extern const char *const kProgram;
 
 // Mistakes on the command line.
 std::string usage(const std::string &mistake);
-extern const char *const kTwoPrintersNamed;
-extern const char *const kOnlyInBatch;
+extern const Text kTwoPrintersNamed;
+extern const Text kOnlyInBatch;
 std::string argumentNotText(const std::string &argument);
 std::string emptyText(const std::string &option);
 std::string badEntry(const std::string &argument);
@@ -64,7 +67,7 @@ std::string documentUnreadable(const std::string &path, const std::string &reaso
 std::string ppdUnreadable(const std::string &path, const std::string &reason);
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason);
 std::string ppdOfQueue(const std::string &queue);
-extern const char *const kNoDefaultPrinter;
+extern const Text kNoDefaultPrinter;
 std::string cupsUnreachable(const std::string &server, const std::string &queue);
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
 
@@ -76,19 +79,19 @@ std::string ticketMemberNotText(const std::string &name);
 std::string ticketValueNotText(const std::string &name);
 std::string ticketEntryUnusable(const std::string &name);
 std::string ticketEntryRepeated(const std::string &name);
-extern const char *const kTicketLockedNotList;
-extern const char *const kTicketWithoutSettings;
+extern const Text kTicketLockedNotList;
+extern const Text kTicketWithoutSettings;
 std::string notAnOrdinaryFile(const std::string &path);
 std::string fileUnwritable(const std::string &path, const std::string &reason);
 
 // The display.
-extern const char *const kNoDisplay;
+extern const Text kNoDisplay;
 std::string displayUnreachable(const std::string &name);
 
 // Plug-ins.
 std::string pluginMissing(const std::string &path);
 std::string pluginNotBundle(const std::string &path);
-extern const char *const kCodeCutShort;
+extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);
 std::string pluginClassTaken(const std::string &path, const std::string &className);
@@ -106,15 +109,15 @@ std::string panelRefusedJob(const std::string &panel);
 std::string noSuchField(const std::string &name, const std::vector<std::string> &known);
 std::string ambiguousField(const std::string &name, const std::vector<std::string> &matches);
 std::string fieldUnavailable(const std::string &name);
-extern const char *const kNoSwitch;
-extern const char *const kSwitchUnavailable;
+extern const Text kNoSwitch;
+extern const Text kSwitchUnavailable;
 std::string valueAdjusted(const std::string &name, const std::string &typed,
                           const std::string &shown);
 
 // What came out.
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
-extern const char *const kOutputUnwritable;
-extern const char *const kCancelled;
+extern const Text kOutputUnwritable;
+extern const Text kCancelled;
 
 } // namespace imageposition::messages
 

@@ -38,7 +38,7 @@ namespace {
 
 constexpr NSSize kSize = {340, 130};
 
-NSButton *addButton(NSWindow *window, const char *title, CGFloat left, id target, SEL action) {
+NSButton *addButton(NSWindow *window, std::string_view title, CGFloat left, id target, SEL action) {
   const NSRect frame = NSMakeRect(left, 20, 96, 24);
   NSButton *const button = [[[NSButton alloc] initWithFrame:frame] autorelease];
   [button setTitle:toString(title)];

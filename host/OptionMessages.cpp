@@ -12,6 +12,10 @@ std::string inWords(const std::vector<std::string> &parts) {
   return text;
 }
 
+std::string inOrder(const std::string &first, const std::string &second) {
+  return text("{1}, {2}").with(first, second);
+}
+
 std::string chosenOption(const std::string &option, const std::string &choice) {
   return "\"" + option + ": " + choice + "\"";
 }
@@ -25,14 +29,14 @@ std::string conflictProposal(const std::vector<std::string> &changes) {
   return "Change to " + inWords(changes) + ".";
 }
 
-const char *const kNoPages = "No pages are named. Write, for example, 1-3, 7.";
+const Text kNoPages = text("No pages are named. Write, for example, 1-3, 7.");
 std::string pagesNotUnderstood(const std::string &part) {
   return "\"" + part + "\" is no page number. Write pages as, for example, 1-3, 7.";
 }
-const char *const kPagesWithoutNumber =
+const Text kPagesWithoutNumber = text(
     "A hyphen needs a page number on one side at least. Write, for example, 5- for page 5 and all "
-    "that follow.";
-const char *const kPageZero = "Pages are counted from 1. Write, for example, 1-3.";
+    "that follow.");
+const Text kPageZero = text("Pages are counted from 1. Write, for example, 1-3.");
 std::string pageTooLarge(const std::string &number) {
   return "Page " + number +
          " is more than a document can have. Write, for example, 5- for page 5 and all that "

@@ -2,6 +2,8 @@
 #ifndef IMAGEPOSITION_HOST_OPTIONMESSAGES_HPP
 #define IMAGEPOSITION_HOST_OPTIONMESSAGES_HPP
 
+#include "host/Text.hpp"
+
 #include <string>
 #include <vector>
 
@@ -9,6 +11,8 @@ namespace imageposition::messages {
 
 /// "a", "a and b", "a, b and c".
 std::string inWords(const std::vector<std::string> &parts);
+/// "a, b".
+std::string inOrder(const std::string &first, const std::string &second);
 /// An option with a choice, by their texts.
 std::string chosenOption(const std::string &option, const std::string &choice);
 
@@ -17,10 +21,10 @@ std::string conflict(const std::vector<std::string> &sides);
 std::string conflictProposal(const std::vector<std::string> &changes);
 
 // Pages.
-extern const char *const kNoPages;
+extern const Text kNoPages;
 std::string pagesNotUnderstood(const std::string &part);
-extern const char *const kPagesWithoutNumber;
-extern const char *const kPageZero;
+extern const Text kPagesWithoutNumber;
+extern const Text kPageZero;
 std::string pageTooLarge(const std::string &number);
 std::string pagesBackwards(int first, int last);
 

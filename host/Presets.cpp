@@ -68,12 +68,12 @@ std::string contentOf(const std::string &path) {
   if (!file) {
     if (errno == ENOENT || errno == ENOTDIR)
       return {};
-    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, std::strerror(errno)));
+    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, systemReason(errno)));
   }
   std::ostringstream content;
   content << file.rdbuf();
   if (file.bad() || errno == EISDIR)
-    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, std::strerror(errno)));
+    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, systemReason(errno)));
   return content.str();
 }
 
@@ -89,7 +89,7 @@ std::vector<DestinationFile::Entry> allEntries() {
 
 [[noreturn]] void failToWrite(int reason) {
   throw Failure(ExitCode::Printer,
-                messages::presetsUnwritable(ownPath(), std::strerror(reason != 0 ? reason : EIO)));
+                messages::presetsUnwritable(ownPath(), systemReason(reason != 0 ? reason : EIO)));
 }
 
 /// Held by whoever changes the file, from reading it to having written it. A file of its own, since

@@ -59,7 +59,7 @@ void drawScale(const PreviewLayout &layout) {
 struct Mark {
   Offset offset;
   Colour colour;
-  const char *name;
+  std::string name;
   bool isBack;
 };
 

@@ -103,7 +103,7 @@ void drawPaper(const PixelRectangle &page) {
   strokeRectangle(page, previewColours().outline, false);
 }
 
-void drawTexts(const PagePlace &place, const char *title, const std::string &caption,
+void drawTexts(const PagePlace &place, const std::string &title, const std::string &caption,
                const Colour &colour) {
   drawLine(title, place.title, previewBoldFont(), colour, Alignment::Centre);
   drawLine(caption, place.caption, previewFont(), previewColours().text, Alignment::Centre);
@@ -111,7 +111,7 @@ void drawTexts(const PagePlace &place, const char *title, const std::string &cap
 
 std::string shiftCaption(const Offset &offset) {
   const std::string arrows = arrowText(offset);
-  return arrows.empty() ? messages::kPreviewNotShifted : arrows;
+  return arrows.empty() ? messages::kPreviewNotShifted.str() : arrows;
 }
 
 /// Content that is moved beyond the page is shown as far as the next page allows.
@@ -139,7 +139,7 @@ void drawBackBehindFront(const Preview &preview, const PreviewLayout &layout) {
 }
 
 void drawPage(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,
-              const char *title) {
+              const std::string &title) {
   const PagePlace &place = layout.pages[at];
   drawPaper(place.page);
   [NSGraphicsContext saveGraphicsState];
@@ -150,7 +150,8 @@ void drawPage(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnS
 }
 
 /// A sample of a pattern and what it means; answers where the next one begins.
-double drawLegendEntry(double left, const PixelRectangle &line, const char *meaning, bool isLoss) {
+double drawLegendEntry(double left, const PixelRectangle &line, const std::string &meaning,
+                       bool isLoss) {
   const double height = std::round(line.height * 0.6);
   const PixelRectangle sample = {std::round(left), std::round(line.y + (line.height - height) / 2),
                                  std::round(line.height), height};

@@ -2,31 +2,31 @@
 
 namespace imageposition::messages {
 
-const char *const kTwoSidedOff = "Two-sided printing is off.";
-const char *const kBannerPagesOn = "Banner pages are on.";
+const Text kTwoSidedOff = text("Two-sided printing is off.");
+const Text kBannerPagesOn = text("Banner pages are on.");
 
-const char *const kPreviewFront = "Front";
-const char *const kPreviewBack = "Back";
-const char *const kPreviewAgainstLight = "Against the light";
-const char *const kPreviewToScale = "to scale";
-const char *const kPreviewNotShifted = "not shifted";
-const char *const kPreviewPrintable = "printable area";
-const char *const kPreviewLost = "cannot be printed";
-const char *const kPreviewLongEdge = "turned: long edge";
-const char *const kPreviewShortEdge = "turned: short edge";
-const char *const kPreviewMarksCoincide = "Back lies exactly behind front";
+const Text kPreviewFront = text("Front");
+const Text kPreviewBack = text("Back");
+const Text kPreviewAgainstLight = text("Against the light");
+const Text kPreviewToScale = text("to scale");
+const Text kPreviewNotShifted = text("not shifted");
+const Text kPreviewPrintable = text("printable area");
+const Text kPreviewLost = text("cannot be printed");
+const Text kPreviewLongEdge = text("turned: long edge");
+const Text kPreviewShortEdge = text("turned: short edge");
+const Text kPreviewMarksCoincide = text("Back lies exactly behind front");
 
-const char *const kPreviewEnlarged = "Against the light, enlarged";
+const Text kPreviewEnlarged = text("Against the light, enlarged");
 
 std::string previewSquare(const std::string &length) { return "1 square = " + length; }
 
 std::string previewMarksApart(const std::string &arrows) { return "Back behind front: " + arrows; }
 
-const char *const kPreviewSizeUnknown =
-    "The printer does not say how large the page is; A4 is shown.";
-const char *const kPreviewImageableUnknown =
-    "The printer does not say where on the page it can print; the whole page is assumed.";
-const char *const kPreviewNothingMoved = "Neither side is moved.";
+const Text kPreviewSizeUnknown =
+    text("The printer does not say how large the page is; A4 is shown.");
+const Text kPreviewImageableUnknown =
+    text("The printer does not say where on the page it can print; the whole page is assumed.");
+const Text kPreviewNothingMoved = text("Neither side is moved.");
 
 std::string previewFrontMoved(const std::string &directions) {
   return "The front is moved " + directions + ".";
@@ -44,8 +44,8 @@ std::string previewBackAgainstFront(const std::string &directions) {
   return "Held against the light, the back is moved " + directions + " against the front.";
 }
 
-const char *const kPreviewSidesCoincide =
-    "Held against the light, the back lies exactly behind the front.";
+const Text kPreviewSidesCoincide =
+    text("Held against the light, the back lies exactly behind the front.");
 
 std::string previewFrontLoses(const std::string &edges) {
   return "A front that fills its printable area loses " + edges + ".";

@@ -2,39 +2,41 @@
 #ifndef IMAGEPOSITION_HOST_PREVIEWTEXTS_HPP
 #define IMAGEPOSITION_HOST_PREVIEWTEXTS_HPP
 
+#include "host/Text.hpp"
+
 #include <string>
 #include <vector>
 
 namespace imageposition::messages {
 
 // Why the adjustment is not available.
-extern const char *const kTwoSidedOff;
-extern const char *const kBannerPagesOn;
+extern const Text kTwoSidedOff;
+extern const Text kBannerPagesOn;
 
 // In the picture, where there is little room.
-extern const char *const kPreviewFront;
-extern const char *const kPreviewBack;
-extern const char *const kPreviewAgainstLight;
-extern const char *const kPreviewToScale;
-extern const char *const kPreviewNotShifted;
-extern const char *const kPreviewPrintable;
-extern const char *const kPreviewLost;
-extern const char *const kPreviewLongEdge;
-extern const char *const kPreviewShortEdge;
-extern const char *const kPreviewMarksCoincide;
-extern const char *const kPreviewEnlarged;
+extern const Text kPreviewFront;
+extern const Text kPreviewBack;
+extern const Text kPreviewAgainstLight;
+extern const Text kPreviewToScale;
+extern const Text kPreviewNotShifted;
+extern const Text kPreviewPrintable;
+extern const Text kPreviewLost;
+extern const Text kPreviewLongEdge;
+extern const Text kPreviewShortEdge;
+extern const Text kPreviewMarksCoincide;
+extern const Text kPreviewEnlarged;
 std::string previewSquare(const std::string &length);
 std::string previewMarksApart(const std::string &arrows);
 
 // In words.
-extern const char *const kPreviewSizeUnknown;
-extern const char *const kPreviewImageableUnknown;
-extern const char *const kPreviewNothingMoved;
+extern const Text kPreviewSizeUnknown;
+extern const Text kPreviewImageableUnknown;
+extern const Text kPreviewNothingMoved;
 std::string previewFrontMoved(const std::string &directions);
 std::string previewBackMoved(const std::string &directions);
 std::string previewBothMoved(const std::string &directions);
 std::string previewBackAgainstFront(const std::string &directions);
-extern const char *const kPreviewSidesCoincide;
+extern const Text kPreviewSidesCoincide;
 std::string previewFrontLoses(const std::string &edges);
 std::string previewBackLoses(const std::string &edges);
 

@@ -4,7 +4,6 @@
 #include "host/Messages.hpp"
 
 #include <cerrno>
-#include <cstring>
 #include <ctime>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -83,7 +82,7 @@ PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, s
 std::unique_ptr<ppd_file_t, PrinterDescription::Close>
 PrinterDescription::open(const std::string &path, const std::string &shownPath) {
   if (isFolder(path))
-    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, std::strerror(EISDIR)));
+    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, systemReason(EISDIR)));
   errno = 0;
   std::unique_ptr<ppd_file_t, Close> ppd(ppdOpenFile(path.c_str()));
   if (ppd)
@@ -92,7 +91,7 @@ PrinterDescription::open(const std::string &path, const std::string &shownPath) 
   int line = 0;
   const ppd_status_t status = ppdLastError(&line);
   if (status == PPD_FILE_OPEN_ERROR)
-    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, std::strerror(reason)));
+    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, systemReason(reason)));
   throw Failure(ExitCode::Printer, messages::ppdMalformed(shownPath, line, ppdErrorString(status)));
 }
 

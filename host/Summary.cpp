@@ -9,9 +9,9 @@ std::string writeSummary(const std::vector<SummarySection> &sections) {
   for (const SummarySection &section : sections) {
     text += section.panelName + '\n';
     for (const SummaryLine &line : section.lines)
-      text += "  " + line.title + ": " + line.value + '\n';
+      text += "  " + messages::summaryLine(line.title, line.value) + '\n';
     if (section.lines.empty())
-      text += std::string("  ") + messages::kNothingToSummarize + '\n';
+      text += "  " + messages::kNothingToSummarize.str() + '\n';
   }
   return text;
 }

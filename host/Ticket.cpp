@@ -8,7 +8,6 @@
 #include <nlohmann/json.hpp>
 
 #include <cerrno>
-#include <cstring>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -121,13 +120,13 @@ std::optional<Ticket> readTicket(const std::string &path) {
   if (!file) {
     if (errno == ENOENT)
       return std::nullopt;
-    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, std::strerror(errno)));
+    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, systemReason(errno)));
   }
   std::ostringstream content;
   errno = 0;
   content << file.rdbuf();
   if (file.bad() || errno == EISDIR)
-    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, std::strerror(errno)));
+    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, systemReason(errno)));
   return readTicketText(content.str(), path);
 }
 

@@ -4,42 +4,46 @@
 
 namespace imageposition::messages {
 
-const char *const kPrintWindow = "Print";
-const char *const kPrinterRow = "Printer:";
-const char *const kDocumentRow = "Document:";
-const char *const kPresetsRow = "Preset:";
-const char *const kCopiesRow = "Copies:";
-const char *const kPagesRow = "Pages:";
-const char *const kTwoSidedRow = "Two-sided:";
-const char *const kMediaRow = "Media:";
-const char *const kPaneRow = "Settings:";
-const char *const kCollate = "Collate";
-const char *const kAllPages = "All";
-const char *const kOddPages = "Odd";
-const char *const kEvenPages = "Even";
-const char *const kPageRange = "Range";
-const char *const kSaveAsTicket = "Save as ticket";
-const char *const kNotOffered = "Not offered";
-const char *const kOptionsPane = "Printer options";
-const char *const kSummaryTitle = "Summary";
-const char *const kJobSection = "Job";
-const char *const kResolve = "Resolve";
-const char *const kCancel = "Cancel";
-const char *const kPrint = "Print";
-const char *const kOk = "OK";
+const Text kPrintWindow = text("Print");
+const Text kPrinterRow = text("Printer:");
+const Text kDocumentRow = text("Document:");
+const Text kPresetsRow = text("Preset:");
+const Text kCopiesRow = text("Copies:");
+const Text kPagesRow = text("Pages:");
+const Text kTwoSidedRow = text("Two-sided:");
+const Text kMediaRow = text("Media:");
+const Text kPaneRow = text("Settings:");
+const Text kPrinterTitle = textIn("summary", "Printer");
+const Text kDocumentTitle = textIn("summary", "Document");
+const Text kCopiesTitle = textIn("summary", "Copies");
+const Text kPagesTitle = textIn("summary", "Pages");
+const Text kCollate = text("Collate");
+const Text kAllPages = text("All");
+const Text kOddPages = text("Odd");
+const Text kEvenPages = text("Even");
+const Text kPageRange = text("Range");
+const Text kSaveAsTicket = text("Save as ticket");
+const Text kNotOffered = text("Not offered");
+const Text kOptionsPane = text("Printer options");
+const Text kSummaryTitle = text("Summary");
+const Text kJobSection = text("Job");
+const Text kResolve = text("Resolve");
+const Text kCancel = text("Cancel");
+const Text kPrint = text("Print");
+const Text kOk = text("OK");
 
-const char *const kNoPresetChosen = "None";
-const char *const kSavePreset = "Save as preset\u2026";
-const char *const kRenamePreset = "Rename this preset\u2026";
-const char *const kDeletePreset = "Delete this preset";
-const char *const kPresetNameQuestion = "Name of the preset:";
+const Text kNoPresetChosen = text("None");
+const Text kSavePreset = text("Save as preset…");
+const Text kRenamePreset = text("Rename this preset…");
+const Text kDeletePreset = text("Delete this preset");
+const Text kPresetNameQuestion = text("Name of the preset:");
 std::string presetSaved(const std::string &lpName) {
   return "The preset is saved; lp -d " + lpName + " prints with it too.";
 }
 
-const char *const kStateUnknown = "Asking for the printers\u2026";
+const Text kStateUnknown = text("Asking for the printers…");
 std::string printerState(const std::string &state, const std::string &location) {
-  return location.empty() ? state : state + " \u00B7 " + location;
+  return location.empty() ? state : state + " · " + location;
 }
 std::string differingValue(const std::string &value, const std::string &usual) {
   return value + "  (usually " + usual + ")";
@@ -47,15 +51,15 @@ std::string differingValue(const std::string &value, const std::string &usual) {
 std::string copiesNotUnderstood(const std::string &typed) {
   return "\"" + typed + "\" is no number of copies. Enter a number from 1 to 9999.";
 }
-const char *const kNothingToPrint =
-    "There is no document to print. Name one: print-dialog FILE. Or choose \"Save as ticket\".";
+const Text kNothingToPrint = text(
+    "There is no document to print. Name one: print-dialog FILE. Or choose \"Save as ticket\".");
 std::string sending(const std::string &sent, const std::string &total) {
   return total.empty() ? "Sending: " + sent : "Sending: " + sent + " of " + total;
 }
 std::string jobSent(const std::string &printer, int id) {
   return "request id is " + printer + "-" + std::to_string(id) + " (1 file(s))";
 }
-const char *const kSendingCancelled = "Nothing was printed: sending was cancelled.";
+const Text kSendingCancelled = text("Nothing was printed: sending was cancelled.");
 std::string byteCount(unsigned long long bytes) {
   char text[32];
   if (bytes < 1000000)

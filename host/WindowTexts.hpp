@@ -2,50 +2,57 @@
 #ifndef IMAGEPOSITION_HOST_WINDOWTEXTS_HPP
 #define IMAGEPOSITION_HOST_WINDOWTEXTS_HPP
 
+#include "host/Text.hpp"
+
 #include <string>
 
 namespace imageposition::messages {
 
-extern const char *const kPrintWindow;
-extern const char *const kPrinterRow;
-extern const char *const kDocumentRow;
-extern const char *const kPresetsRow;
-extern const char *const kCopiesRow;
-extern const char *const kPagesRow;
-extern const char *const kTwoSidedRow;
-extern const char *const kMediaRow;
-extern const char *const kPaneRow;
-extern const char *const kCollate;
-extern const char *const kAllPages;
-extern const char *const kOddPages;
-extern const char *const kEvenPages;
-extern const char *const kPageRange;
-extern const char *const kSaveAsTicket;
-extern const char *const kNotOffered; ///< In a pop-up of what the printer has no choice of.
-extern const char *const kOptionsPane;
-extern const char *const kSummaryTitle;
-extern const char *const kJobSection;
-extern const char *const kResolve;
-extern const char *const kCancel;
-extern const char *const kPrint;
-extern const char *const kOk;
+extern const Text kPrintWindow;
+extern const Text kPrinterRow;
+extern const Text kDocumentRow;
+extern const Text kPresetsRow;
+extern const Text kCopiesRow;
+extern const Text kPagesRow;
+extern const Text kTwoSidedRow;
+extern const Text kMediaRow;
+extern const Text kPaneRow;
+// The same in the summary.
+extern const Text kPrinterTitle;
+extern const Text kDocumentTitle;
+extern const Text kCopiesTitle;
+extern const Text kPagesTitle;
+extern const Text kCollate;
+extern const Text kAllPages;
+extern const Text kOddPages;
+extern const Text kEvenPages;
+extern const Text kPageRange;
+extern const Text kSaveAsTicket;
+extern const Text kNotOffered; ///< In a pop-up of what the printer has no choice of.
+extern const Text kOptionsPane;
+extern const Text kSummaryTitle;
+extern const Text kJobSection;
+extern const Text kResolve;
+extern const Text kCancel;
+extern const Text kPrint;
+extern const Text kOk;
 
-extern const char *const kNoPresetChosen;
-extern const char *const kSavePreset;
-extern const char *const kRenamePreset;
-extern const char *const kDeletePreset;
-extern const char *const kPresetNameQuestion;
+extern const Text kNoPresetChosen;
+extern const Text kSavePreset;
+extern const Text kRenamePreset;
+extern const Text kDeletePreset;
+extern const Text kPresetNameQuestion;
 std::string presetSaved(const std::string &lpName);
 
-extern const char *const kStateUnknown;
+extern const Text kStateUnknown;
 std::string printerState(const std::string &state, const std::string &location);
 /// A summary's value that is not the printer's default.
 std::string differingValue(const std::string &value, const std::string &usual);
 std::string copiesNotUnderstood(const std::string &typed);
-extern const char *const kNothingToPrint;
+extern const Text kNothingToPrint;
 std::string sending(const std::string &sent, const std::string &total);
 std::string jobSent(const std::string &printer, int id);
-extern const char *const kSendingCancelled;
+extern const Text kSendingCancelled;
 /// "Value" as a person reads a number of bytes.
 std::string byteCount(unsigned long long bytes);
 

@@ -7,14 +7,16 @@
 #import "host/DialogWindow.h"
 #include "host/ExitCode.hpp"
 #include "host/JobSubmission.hpp"
+#include "host/Language.hpp"
 #include "host/Messages.hpp"
+#import "host/PlatformLanguage.h"
 #include "host/PrivateDisplay.hpp"
 #include "host/StartTexts.hpp"
 #include "host/Ticket.hpp"
 #include "host/WindowTexts.hpp"
 
 #include <cerrno>
-#include <cstring>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <unistd.h>
@@ -28,7 +30,7 @@ void checkDocument(const std::string &path) {
   const bool isFolder = std::filesystem::is_directory(path, ignored);
   if (isFolder || access(path.c_str(), R_OK) != 0)
     throw Failure(ExitCode::Usage,
-                  messages::documentUnreadable(path, std::strerror(isFolder ? EISDIR : errno)));
+                  messages::documentUnreadable(path, systemReason(isFolder ? EISDIR : errno)));
 }
 
 /// What the window's Print does at its end.
@@ -81,7 +83,7 @@ ExitCode runInWindow(DialogJob &job) {
   job.loadPanels();
   if (!runDialog(job, std::cerr)) {
     job.panels().revert();
-    std::cerr << messages::kCancelled << '\n';
+    std::cerr << messages::kCancelled.view() << '\n';
     return ExitCode::Cancelled;
   }
   return ExitCode::Done;
@@ -108,6 +110,7 @@ ExitCode runInPool(const std::vector<std::string> &words) {
     ~Pool() { [pool release]; }
     NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
   } const pool;
+  agreeOnLanguage();
   const ExitCode code = run(words);
   if (!std::cout.flush())
     throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
@@ -118,6 +121,9 @@ ExitCode runInPool(const std::vector<std::string> &words) {
 
 int main(int argc, char **argv) {
   leaveOutForeignVariables(argv);
+  const std::string catalogues = catalogueFolder();
+  // Before the platform, which cannot be asked for its own default while an argument is no text.
+  speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
   try {
     const std::vector<std::string> words(argv + 1, argv + argc);
     refuseForeignArguments(words);

@@ -6,6 +6,7 @@ build_packages=(
   libgnustep-gui-dev                                # AppKit and Foundation
   libcups2-dev libfontconfig-dev                    # printers; which fonts there are
   libcli11-dev nlohmann-json3-dev                   # command line, tickets
+  gettext                                           # the dialog's words in other languages
 )
 
 run_packages=(
