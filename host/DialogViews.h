@@ -29,6 +29,7 @@ struct DialogViews {
   NSButton *resolve;
   NSTextField *message; ///< What happened last.
   NSProgressIndicator *progress;
+  NSButton *help;
   NSButton *cancel;
   NSButton *print;
 };
@@ -37,7 +38,7 @@ struct DialogViews {
 struct DialogActions {
   id target;
   SEL printerChosen, presetChosen, copiesChanged, copiesStepped, collateChanged, pagesChosen,
-      rangesChanged, twoSidedChosen, mediaChosen, paneChosen, resolve, cancel, print;
+      rangesChanged, twoSidedChosen, mediaChosen, paneChosen, resolve, help, cancel, print;
 };
 
 /// `pane` is the size of the largest pane. An empty `document` has no row.

@@ -1,7 +1,9 @@
 #import "host/DialogViews.h"
 
+#include "host/HelpTexts.hpp"
 #import "host/KeyLoop.h"
 #import "host/Labels.h"
+#import "host/MnemonicControls.h"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
@@ -17,22 +19,9 @@ constexpr CGFloat kMargin = 20;
 constexpr CGFloat kGap = 10;
 constexpr CGFloat kRowGap = 8;
 constexpr CGFloat kRowHeight = 24;
-constexpr CGFloat kButtonWidth = 96;
 constexpr CGFloat kHintHeight = 36;
 constexpr CGFloat kMessageHeight = 48;
 constexpr CGFloat kPopUpWidth = 280;
-
-NSButton *makeButton(std::string_view title, id target, SEL action) {
-  NSButton *const button = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
-  [button setTitle:toString(title)];
-  [button setBezelStyle:NSRoundedBezelStyle];
-  [button setTarget:target];
-  [button setAction:action];
-  [button sizeToFit];
-  const CGFloat width = std::max(kButtonWidth, NSWidth([button frame]) + 16);
-  [button setFrameSize:NSMakeSize(width, kRowHeight)];
-  return button;
-}
 
 NSPopUpButton *makePopUp(id target, SEL action) {
   const NSRect frame = NSMakeRect(0, 0, kPopUpWidth, kRowHeight);
@@ -45,15 +34,16 @@ NSPopUpButton *makePopUp(id target, SEL action) {
 }
 
 NSTextField *makeField(CGFloat width, id target, SEL action) {
-  const NSRect frame = NSMakeRect(0, 0, width, kRowHeight);
-  NSTextField *const field = [[[NSTextField alloc] initWithFrame:frame] autorelease];
+  NSTextField *const field = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
+  const CGFloat height = [[field cell] cellSize].height; // it writes at the top of a higher one
+  [field setFrameSize:NSMakeSize(width, height)];
   [field setTarget:target];
   [field setAction:action];
   [field setDelegate:target];
   return field;
 }
 
-NSTextField *makeParagraph(NSRect frame) {
+NSTextField *makeMessage(NSRect frame) {
   NSTextField *const label = makeLabel("");
   [[label cell] setWraps:YES];
   [label setFrame:frame];
@@ -110,10 +100,7 @@ void Builder::makeControls() {
   [views_.copiesStepper setValueWraps:NO];
   [views_.copiesStepper setTarget:target];
   [views_.copiesStepper setAction:actions_.copiesStepped];
-  views_.collate = makeButton(messages::kCollate, target, actions_.collateChanged);
-  [views_.collate setButtonType:NSSwitchButton];
-  [views_.collate sizeToFit];
-  [views_.collate setFrameSize:NSMakeSize(NSWidth([views_.collate frame]) + 12, kRowHeight)];
+  views_.collate = makeSwitch(messages::kCollate, target, actions_.collateChanged);
   views_.pages = makePopUp(target, actions_.pagesChosen);
   [views_.pages setFrameSize:NSMakeSize(130, kRowHeight)];
   views_.ranges = makeField(kPopUpWidth - 130 - kGap, target, actions_.rangesChanged);
@@ -155,7 +142,9 @@ void Builder::addRows() {
   CGFloat titleWidth = 0;
   std::vector<NSTextField *> titles;
   for (const Row &row : rows_) {
-    titles.push_back(makeLabel(row.title));
+    titles.push_back(makeTitle(row.title));
+    if (!row.controls.empty())
+      [views_.window reach:row.controls.front() by:row.title];
     titleWidth = std::max(titleWidth, NSWidth([titles.back() frame]));
   }
   CGFloat middle = NSHeight([[views_.window contentView] frame]) - kMargin - kRowHeight / 2;
@@ -192,14 +181,17 @@ void Builder::addPane() {
                                              hintBottom + (kHintHeight - kRowHeight) / 2)];
   [views_.resolve setHidden:YES];
   views_.hint =
-      makeParagraph(NSMakeRect(kMargin, hintBottom, width - resolveWidth - kGap, kHintHeight));
-  views_.message = makeParagraph(NSMakeRect(kMargin, messageBottom, width, kMessageHeight));
+      makeMessage(NSMakeRect(kMargin, hintBottom, width - resolveWidth - kGap, kHintHeight));
+  views_.message = makeMessage(NSMakeRect(kMargin, messageBottom, width, kMessageHeight));
+  [views_.window reach:views_.collate by:messages::kCollate];
+  [views_.window reach:views_.resolve by:messages::kResolve];
   add(views_.hint);
   add(views_.resolve);
   add(views_.message);
 }
 
 void Builder::addButtons() {
+  views_.help = makeButton(messages::kHelpButton, actions_.target, actions_.help);
   views_.cancel = makeButton(messages::kCancel, actions_.target, actions_.cancel);
   views_.print = makeButton(messages::kPrint, actions_.target, actions_.print);
   const CGFloat right = NSWidth([[views_.window contentView] frame]) - kMargin;
@@ -207,12 +199,19 @@ void Builder::addButtons() {
   const CGFloat cancelLeft = printLeft - kGap - NSWidth([views_.cancel frame]);
   [views_.print setFrameOrigin:NSMakePoint(printLeft, kMargin)];
   [views_.cancel setFrameOrigin:NSMakePoint(cancelLeft, kMargin)];
-  const NSRect bar = NSMakeRect(kMargin, kMargin + 4, cancelLeft - 2 * kMargin, kRowHeight - 8);
+  [views_.help setFrameOrigin:NSMakePoint(kMargin, kMargin)];
+  const CGFloat barLeft = NSMaxX([views_.help frame]) + kMargin;
+  const NSRect bar =
+      NSMakeRect(barLeft, kMargin + 4, cancelLeft - kMargin - barLeft, kRowHeight - 8);
   views_.progress = [[[NSProgressIndicator alloc] initWithFrame:bar] autorelease];
   [views_.progress setIndeterminate:NO];
   [views_.progress setMaxValue:1];
   [views_.progress setHidden:YES];
+  [views_.window reach:views_.help by:messages::kHelpButton];
+  [views_.window reach:views_.cancel by:messages::kCancel];
+  [views_.window reach:views_.print by:messages::kPrint];
   add(views_.progress);
+  add(views_.help);
   add(views_.cancel);
   add(views_.print);
   [views_.window setDefaultButtonCell:[views_.print cell]];
@@ -220,8 +219,9 @@ void Builder::addButtons() {
 
 void Builder::linkKeys() {
   const std::vector<NSView *> order{
-      views_.printers, views_.presets, views_.copies, views_.collate, views_.pages,  views_.ranges,
-      views_.twoSided, views_.media,   views_.panes,  views_.resolve, views_.cancel, views_.print};
+      views_.printers, views_.presets,  views_.copies, views_.collate, views_.pages,
+      views_.ranges,   views_.twoSided, views_.media,  views_.panes,   views_.resolve,
+      views_.help,     views_.cancel,   views_.print};
   for (std::size_t i = 0; i < order.size(); i++)
     [order[i] setNextKeyView:order[(i + 1) % order.size()]];
 }

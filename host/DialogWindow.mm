@@ -2,6 +2,7 @@
 
 #import "host/DialogController.h"
 #import "host/DialogState.h"
+#import "host/HelpPanel.h"
 #include "host/Messages.hpp"
 #import "platform/TextBridge.h"
 
@@ -71,7 +72,8 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
     self, @selector(printerChosen:), @selector(presetChosen:), @selector(copiesChanged:),
         @selector(copiesStepped:), @selector(collateChanged:), @selector(pagesChosen:),
         @selector(rangesChanged:), @selector(twoSidedChosen:), @selector(mediaChosen:),
-        @selector(paneChosen:), @selector(resolveConflicts:), @selector(dismiss), @selector(confirm)
+        @selector(paneChosen:), @selector(resolveConflicts:), @selector(help), @selector(dismiss),
+        @selector(confirm)
   };
   views = buildDialog(pane, job->document(), actions);
   [views.window setDelegate:(id)self];
@@ -121,6 +123,10 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
     [self cancelSending];
   else
     [NSApp stopModalWithCode:NSCancelButton];
+}
+
+- (void)help {
+  showHelp(views.window);
 }
 
 - (BOOL)windowShouldClose:(id)sender {

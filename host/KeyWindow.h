@@ -4,6 +4,9 @@
 
 #import <AppKit/AppKit.h>
 
+#include <string>
+#include <vector>
+
 /// What the window tells its delegate beyond a window's own messages.
 @protocol KeyWindowDelegate <NSObject>
 /// Return, wherever the focus is, except on a push button, which it presses.
@@ -13,14 +16,34 @@
 /// Something raised while the window handled an event; what is the exception in words.
 - (void)eventRaised:(NSString *)what;
 @optional
+/// F1.
+- (void)help;
 /// A click on the view, or a key while it had the focus, has been handled; keys that are the
 /// dialog's own are not told.
 - (void)personActedOn:(NSView *)view;
 @end
 
+namespace imageposition {
+
+struct ControlKey {
+  std::string letter; ///< In lower case.
+  NSView *control;    ///< The window's.
+};
+
+} // namespace imageposition
+
 /// Return confirms, also from an entry field, after the field has taken its text. Control with C,
-/// X, V and A edits in a field, as people on this platform expect; there is no menu to do it.
-@interface KeyWindow : NSWindow
+/// X, V and A edits in a field, as people on this platform expect; there is no menu to do it. Alt
+/// with a letter reaches a control.
+@interface KeyWindow : NSWindow {
+  std::vector<imageposition::ControlKey> *controlKeys; ///< Null: none.
+}
+
+/// Has Alt with the letter that is marked in the text (see host/Mnemonic.hpp) press a button, and
+/// give any other control the focus. Of several with one letter each has its turn; those that are
+/// hidden or cannot be used are passed over.
+- (void)reach:(NSView *)control by:(const std::string &)marked;
+
 @end
 
 #endif

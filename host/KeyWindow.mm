@@ -1,10 +1,15 @@
 #import "host/KeyWindow.h"
 
 #import "host/Guard.h"
+#include "host/Mnemonic.hpp"
+
+#include <algorithm>
+
+using imageposition::ControlKey;
 
 namespace {
 
-enum class Key { Other, Confirm, Dismiss };
+enum class Key { Other, Confirm, Dismiss, Help };
 
 Key keyOf(NSEvent *event) {
   NSString *const characters = [event charactersIgnoringModifiers];
@@ -17,6 +22,8 @@ Key keyOf(NSEvent *event) {
     return Key::Confirm;
   case 0x1B:
     return Key::Dismiss;
+  case NSF1FunctionKey:
+    return Key::Help;
   default:
     return Key::Other;
   }
@@ -43,9 +50,13 @@ SEL editingOperationOf(NSEvent *event) {
   }
 }
 
-BOOL isPushButton(id responder) {
+BOOL isButton(id responder) {
   return [responder isKindOfClass:[NSButton class]] &&
-         ![responder isKindOfClass:[NSPopUpButton class]] && // the space bar opens it
+         ![responder isKindOfClass:[NSPopUpButton class]]; // the space bar opens it
+}
+
+BOOL isPushButton(id responder) {
+  return isButton(responder) &&
          ([[(NSButton *)responder cell] showsStateBy] & NSContentsCellMask) == 0;
 }
 
@@ -70,9 +81,34 @@ NSView *actedOn(NSEvent *event, NSWindow *window) {
   return [focus isKindOfClass:[NSView class]] ? focus : nil;
 }
 
+/// The letter of Alt and a letter, in lower case; null for other keys. What AltGr types into a
+/// field is none: then the key has typed something else than its letter.
+NSString *letterOf(NSEvent *event) {
+  constexpr NSUInteger kAlt = NSAlternateKeyMask | NSCommandKeyMask; // either, by the platform
+  if (([event modifierFlags] & kAlt) == 0 || ([event modifierFlags] & NSControlKeyMask) != 0)
+    return nil;
+  NSString *const letter = [[event charactersIgnoringModifiers] lowercaseString];
+  const bool isTyped = [[[event characters] lowercaseString] isEqualToString:letter];
+  return isTyped && [letter length] > 0 ? letter : nil;
+}
+
+bool canBeReached(NSView *control) {
+  return ![control isHiddenOrHasHiddenAncestor] && [control window] != nil &&
+         (![control isKindOfClass:[NSControl class]] || [(NSControl *)control isEnabled]);
+}
+
+/// The control that has the focus, whose field editor may have it for it.
+NSView *focusOf(NSWindow *window) {
+  id const responder = [window firstResponder];
+  id const owner = [responder isKindOfClass:[NSText class]] ? [responder delegate] : responder;
+  return [owner isKindOfClass:[NSView class]] ? owner : nil;
+}
+
 } // namespace
 
 @interface KeyWindow ()
+/// Whether a control is reached so.
+- (BOOL)reachControl:(NSEvent *)event;
 /// The event in the way of every window, after the dialog's own keys; whether it was one of them.
 - (BOOL)handleEvent:(NSEvent *)event;
 /// Whether the key was the dialog's own.
@@ -80,6 +116,42 @@ NSView *actedOn(NSEvent *event, NSWindow *window) {
 @end
 
 @implementation KeyWindow
+
+- (void)dealloc {
+  delete controlKeys;
+  [super dealloc];
+}
+
+- (void)reach:(NSView *)control by:(const std::string &)marked {
+  const std::string letter = imageposition::readMnemonic(marked).key;
+  if (letter.empty())
+    return;
+  if (controlKeys == nullptr)
+    controlKeys = new std::vector<ControlKey>;
+  NSString *const lower = [imageposition::toString(letter) lowercaseString];
+  controlKeys->push_back({imageposition::toText(lower), control});
+}
+
+- (BOOL)reachControl:(NSEvent *)event {
+  NSString *const letter = letterOf(event);
+  if (letter == nil || controlKeys == nullptr)
+    return NO;
+  std::vector<NSView *> reached;
+  for (const ControlKey &key : *controlKeys)
+    if (key.letter == imageposition::toText(letter) && canBeReached(key.control))
+      reached.push_back(key.control);
+  if (reached.empty())
+    return NO;
+  const auto current = std::find(reached.begin(), reached.end(), focusOf(self));
+  const bool isLast = current == reached.end() || current + 1 == reached.end();
+  NSView *const control = isLast ? reached.front() : *(current + 1);
+  const bool isAlone = reached.size() == 1;
+  if (!isAlone || !isPushButton(control)) // a field that is left takes its text
+    [self makeFirstResponder:control];
+  if (isAlone && isButton(control))
+    [(NSButton *)control performClick:self];
+  return YES;
+}
 
 - (void)sendEvent:(NSEvent *)event {
   KeyWindow *const window = self;
@@ -103,7 +175,9 @@ NSView *actedOn(NSEvent *event, NSWindow *window) {
 
 // The default button would otherwise take Return before the control that has the focus.
 - (BOOL)performKeyEquivalent:(NSEvent *)event {
-  return keyOf(event) == Key::Other && [super performKeyEquivalent:event];
+  if (keyOf(event) != Key::Other)
+    return NO;
+  return [super performKeyEquivalent:event] || ([self isKeyWindow] && [self reachControl:event]);
 }
 
 - (BOOL)handleKey:(NSEvent *)event {
@@ -125,10 +199,14 @@ NSView *actedOn(NSEvent *event, NSWindow *window) {
   case Key::Dismiss:
     [(id<KeyWindowDelegate>)[self delegate] dismiss];
     return YES;
+  case Key::Help:
+    if ([[self delegate] respondsToSelector:@selector(help)])
+      [(id<KeyWindowDelegate>)[self delegate] help];
+    return YES;
   case Key::Other:
     break;
   }
-  return NO;
+  return [self reachControl:event];
 }
 
 @end

@@ -11,6 +11,17 @@ namespace imageposition {
 /// A text that nobody edits, as large as it needs to be. Not owned by the caller.
 NSTextField *makeLabel(const std::string &text, bool bold = false);
 
+/// Makes a new field into such a text.
+void makeIntoLabel(NSTextField *field, const std::string &text, bool bold);
+
+/// In lines of that width, as high as they need to be.
+NSTextField *makeParagraph(const std::string &text, CGFloat width);
+/// The height that the text of such a field needs.
+CGFloat paragraphHeight(NSString *text, NSFont *font, CGFloat width);
+
+/// Has a text that is too long end in an ellipsis, with the whole of it in a tooltip.
+void cutWithEllipsis(NSTextField *label);
+
 } // namespace imageposition
 
 #endif

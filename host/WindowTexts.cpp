@@ -5,19 +5,19 @@
 namespace imageposition::messages {
 
 const Text kPrintWindow = text("Print");
-const Text kPrinterRow = text("Printer:");
+const Text kPrinterRow = text("&Printer:");
 const Text kDocumentRow = text("Document:");
-const Text kPresetsRow = text("Preset:");
-const Text kCopiesRow = text("Copies:");
-const Text kPagesRow = text("Pages:");
-const Text kTwoSidedRow = text("Two-sided:");
-const Text kMediaRow = text("Media:");
-const Text kPaneRow = text("Settings:");
+const Text kPresetsRow = text("P&reset:");
+const Text kCopiesRow = text("&Copies:");
+const Text kPagesRow = text("P&ages:");
+const Text kTwoSidedRow = text("&Two-sided:");
+const Text kMediaRow = text("&Media:");
+const Text kPaneRow = text("&Settings:");
 const Text kPrinterTitle = textIn("summary", "Printer");
 const Text kDocumentTitle = textIn("summary", "Document");
 const Text kCopiesTitle = textIn("summary", "Copies");
 const Text kPagesTitle = textIn("summary", "Pages");
-const Text kCollate = text("Collate");
+const Text kCollate = text("C&ollate");
 const Text kAllPages = text("All");
 const Text kOddPages = text("Odd");
 const Text kEvenPages = text("Even");
@@ -27,7 +27,7 @@ const Text kNotOffered = text("Not offered");
 const Text kOptionsPane = text("Printer options");
 const Text kSummaryTitle = text("Summary");
 const Text kJobSection = text("Job");
-const Text kResolve = text("Resolve");
+const Text kResolve = text("Resol&ve");
 const Text kCancel = text("Cancel");
 const Text kPrint = text("Print");
 const Text kOk = text("OK");

@@ -1,12 +1,7 @@
 // The window, used with real key events.
-#include "tests/host/DialogFixture.hpp"
-#include "tests/host/PrivateCups.hpp"
+#include "tests/host/WindowFixture.hpp"
 
-#include <chrono>
 #include <csignal>
-#include <functional>
-#include <memory>
-#include <thread>
 
 namespace {
 
@@ -18,84 +13,6 @@ using testing::HasSubstr;
 using testing::Pair;
 
 namespace fs = std::filesystem;
-
-bool becomesTrue(const std::function<bool()> &condition) {
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > deadline)
-      return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
-  }
-  return true;
-}
-
-class Window : public DialogFixture {
-protected:
-  const std::string ticket = folder.path("job.json");
-  const std::string journal = folder.path("journal");
-  std::unique_ptr<Process> dialogProcess;
-
-  /// Opens the dialog and waits until it has the keyboard.
-  void open(const std::string &printer, const Words &words = {}, const Words &environment = {}) {
-    Words all{"--ppd", sample(printer), "--ticket", ticket};
-    all.insert(all.end(), words.begin(), words.end());
-    start(all, environment);
-  }
-
-  void start(const Words &words, const Words &environment) {
-    Words all{PRINT_DIALOG};
-    all.insert(all.end(), words.begin(), words.end());
-    dialogProcess = std::make_unique<Process>(all, environment);
-    ASSERT_TRUE(becomesTrue([&] { return hasKeyboard() || dialogProcess->hasEnded(); }));
-    ASSERT_FALSE(dialogProcess->hasEnded()) << testing::PrintToString(dialogProcess->wait());
-  }
-
-  void openFixture(const std::string &behaviour) {
-    open("duplex-shift.ppd", {"--plugin", FIXTURE_PLUGIN},
-         {"FIXTURE_BEHAVIOUR=" + behaviour, "FIXTURE_JOURNAL=" + journal});
-  }
-
-  static bool hasKeyboard() {
-    return runProcess({"xdotool", "getwindowfocus", "getwindowname"}).output == "Print\n";
-  }
-
-  /// Backwards from the pane's first control; each of the window's rows has its place there.
-  enum Back { kPanes = 1, kMedia, kTwoSided, kPages, kCollate, kCopies, kPresets };
-  static void goTo(Back control) { press(Words(control, "shift+Tab")); }
-
-  static void type(const std::string &text) {
-    ASSERT_EQ(runProcess({"xdotool", "type", "--", text}).status, 0);
-  }
-
-  static void press(const Words &keys) {
-    Words words{"xdotool", "key"};
-    words.insert(words.end(), keys.begin(), keys.end());
-    ASSERT_EQ(runProcess(words).status, 0);
-  }
-
-  bool journalEndsWith(const std::string &lines) {
-    return becomesTrue([&] {
-      const std::string text = contentOf(journal);
-      return text.size() >= lines.size() &&
-             text.compare(text.size() - lines.size(), lines.size(), lines) == 0;
-    });
-  }
-
-  bool says(const std::string &text) {
-    return becomesTrue(
-        [&] { return dialogProcess->errorsSoFar().find(text) != std::string::npos; });
-  }
-
-  /// How the dialog ended; it must end by itself.
-  const ProcessResult &ended() {
-    EXPECT_TRUE(becomesTrue([&] { return dialogProcess->hasEnded(); }));
-    return dialogProcess->wait();
-  }
-
-  std::map<std::string, std::string> printed() const {
-    return settingsIn(contentOf(folder.path("job.options")));
-  }
-};
 
 TEST_F(Window, ReturnTakesWhatIsBeingTypedAndPrints) {
   open("duplex-shift.ppd");
@@ -202,7 +119,7 @@ TEST_F(Window, CancelHasThePanelsRestoreTheirValues) {
 
 TEST_F(Window, ReturnOnCancelCancels) {
   openFixture("");
-  press({"Tab", "Tab", "Tab", "Return"}); // checkbox, two fields, Cancel
+  press({"Tab", "Tab", "Tab", "Tab", "Return"}); // checkbox, two fields, Help, Cancel
   EXPECT_EQ(ended().status, kCancelled);
 }
 
@@ -290,30 +207,6 @@ TEST_F(Window, AConflictIsResolvedByItsButton) {
   EXPECT_THAT(printed(), Contains(Pair("MediaType", "Transparency")));
   EXPECT_THAT(printed(), Contains(Pair("Duplex", "None")));
 }
-
-class QueueWindow : public Window {
-protected:
-  static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }
-  static void TearDownTestSuite() { cups.reset(); }
-  void SetUp() override {
-    ASSERT_TRUE(cups->isRunning()) << cups->log();
-    const auto added = cups->run({"lpadmin", "-p", "office", "-E", "-v", "file:///dev/null", "-P",
-                                  sample("duplex-shift.ppd")});
-    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
-  }
-  void TearDown() override { cups->run({"lpadmin", "-x", "office"}); }
-
-  void openQueue(const Words &words = {}) {
-    Words all{"-d", "office"};
-    all.insert(all.end(), words.begin(), words.end());
-    all.push_back(sample("two-sided.pdf"));
-    start(all, cups->environment());
-  }
-
-  static std::unique_ptr<PrivateCups> cups;
-};
-
-std::unique_ptr<PrivateCups> QueueWindow::cups;
 
 TEST_F(QueueWindow, PrintHandsTheJobToCups) {
   openQueue();

@@ -1,0 +1,25 @@
+/// The letter in a control's text that, with Alt, reaches the control.
+#ifndef IMAGEPOSITION_HOST_MNEMONIC_HPP
+#define IMAGEPOSITION_HOST_MNEMONIC_HPP
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace imageposition {
+
+/// A text as it is shown. A marker "&" stands before the letter: "&Printer:"; where the script has
+/// no letters for a keyboard one is added in parentheses: "プリンタ(&P):". "&&" is an ampersand,
+/// and so is one with no letter or digit behind it. The first marker counts, later ones only
+/// disappear.
+struct MnemonicText {
+  std::string text;      ///< UTF-8, without markers.
+  std::string key;       ///< One UTF-8 character as in the text; empty when none is marked.
+  std::size_t keyAt = 0; ///< Bytes before the key in the text.
+};
+
+MnemonicText readMnemonic(std::string_view marked);
+
+} // namespace imageposition
+
+#endif
