@@ -87,6 +87,12 @@ std::optional<Appearance> readAppearance(const std::string &text) {
   return std::nullopt;
 }
 
+std::optional<double> readTextScale(const std::string &text) {
+  char *end = nullptr;
+  const double scale = std::strtod(text.c_str(), &end);
+  return *end == '\0' && scale > 0 ? std::optional(scale) : std::nullopt;
+}
+
 Surroundings readSurroundings() {
   Surroundings found;
   found.appearance = environment("PRINT_DIALOG_APPEARANCE");
@@ -111,10 +117,8 @@ Appearance chosenAppearance(const Surroundings &surroundings) {
 }
 
 double chosenTextScale(const Surroundings &surroundings) {
-  const double scale = std::strtod(surroundings.textScale.c_str(), nullptr);
-  if (!(scale > 0))
-    return 1;
-  return std::clamp(scale, kSmallestScale, kLargestScale);
+  return std::clamp(readTextScale(surroundings.textScale).value_or(1), kSmallestScale,
+                    kLargestScale);
 }
 
 } // namespace imageposition

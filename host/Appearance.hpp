@@ -12,6 +12,9 @@ enum class Appearance { Light, Dark };
 /// "light" or "dark", in any case; none for everything else.
 std::optional<Appearance> readAppearance(const std::string &text);
 
+/// A number above 0; none for everything else.
+std::optional<double> readTextScale(const std::string &text);
+
 /// What a person's surroundings say about looks. The files are the text of their settings files,
 /// empty where there is none.
 struct Surroundings {

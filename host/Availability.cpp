@@ -1,8 +1,10 @@
 #include "host/Availability.hpp"
 
+#include "host/Messages.hpp"
 #include "host/PreviewTexts.hpp"
 
 #include <cstring>
+#include <initializer_list>
 
 namespace imageposition {
 namespace {
@@ -10,6 +12,14 @@ namespace {
 bool isMarked(ppd_file_t *ppd, const char *option, const char *keyword) {
   const ppd_choice_t *const choice = ppdFindMarkedChoice(ppd, option);
   return choice != nullptr && std::strcmp(choice->choice, keyword) == 0;
+}
+
+/// With blanks between those that say something.
+std::string sentences(std::initializer_list<std::string> parts) {
+  std::string text;
+  for (const std::string &part : parts)
+    text += (text.empty() || part.empty() ? "" : " ") + part;
+  return text;
 }
 
 } // namespace
@@ -22,12 +32,15 @@ Availability availabilityOf(ppd_file_t *ppd) {
 }
 
 std::string reasonText(const Availability &availability) {
-  std::string text;
-  if (availability.oneSided)
-    text = messages::kTwoSidedOff;
-  if (availability.bannerPages)
-    text += (text.empty() ? "" : " ") + messages::kBannerPagesOn.str();
-  return text;
+  return sentences({availability.oneSided ? messages::kTwoSidedOff.str() : "",
+                    availability.bannerPages ? messages::kBannerPagesOn.str() : ""});
+}
+
+std::string adviceText(const Availability &availability) {
+  return sentences({availability.oneSided ? messages::kTwoSidedOff.str() : "",
+                    availability.oneSided ? messages::kChooseTwoSided.str() : "",
+                    availability.bannerPages ? messages::kBannerPagesOn.str() : "",
+                    availability.bannerPages ? messages::kSwitchBannerPagesOff.str() : ""});
 }
 
 } // namespace imageposition

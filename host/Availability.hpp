@@ -28,6 +28,9 @@ Availability availabilityOf(ppd_file_t *ppd);
 /// One sentence for each thing that is in the way; empty when nothing is.
 std::string reasonText(const Availability &availability);
 
+/// The same with what to do about it on the command line.
+std::string adviceText(const Availability &availability);
+
 } // namespace imageposition
 
 #endif

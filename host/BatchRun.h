@@ -5,6 +5,8 @@
 #include "host/BatchRequest.hpp"
 #import "host/PanelSession.h"
 
+#include <cups/ppd.h>
+
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -13,10 +15,10 @@ namespace imageposition {
 
 /// Shows each panel (to nobody), uses its controls as asked, and prints: the job's settings then
 /// hold what the window would have left there. Answers the panels' summary. What a panel makes of a
-/// value that it does not take as it is goes to `notes`. Throws a `Failure`; a panel that raises is
-/// one.
-std::vector<SummarySection> runBatch(const PanelSession &session, const BatchRequest &request,
-                                     std::ostream &notes);
+/// value that it does not take as it is goes to `notes`. `ppd` has the job's choices marked. Throws
+/// a `Failure`; a panel that raises is one.
+std::vector<SummarySection> runBatch(const PanelSession &session, ppd_file_t *ppd,
+                                     const BatchRequest &request, std::ostream &notes);
 
 } // namespace imageposition
 

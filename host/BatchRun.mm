@@ -1,5 +1,6 @@
 #import "host/BatchRun.h"
 
+#include "host/Availability.hpp"
 #include "host/ExitCode.hpp"
 #import "host/Guard.h"
 #include "host/Messages.hpp"
@@ -58,15 +59,18 @@ template <typename Body> void actingOn(const PanelDriver &panel, const char *act
     throw Failure(ExitCode::Plugin, messages::pluginRaised(panel.pluginPath(), act, *raised));
 }
 
-void flipSwitch(const UnseenPanels &panels, bool on) {
+void flipSwitch(const UnseenPanels &panels, ppd_file_t *ppd, bool on) {
   std::vector<const UnseenPanel *> owners;
   for (const auto &panel : panels)
     owners.insert(owners.end(), panel->controls.switches().size(), panel.get());
   if (owners.size() != 1)
     throw Failure(ExitCode::Value, messages::kNoSwitch);
   const UnseenPanel &owner = *owners.front();
+  bool isFlipped = false;
   actingOn(owner.panel, "--back",
-           [&] { PanelControls::flip(owner.controls.switches().front(), on); });
+           [&] { isFlipped = PanelControls::flip(owner.controls.switches().front(), on); });
+  if (!isFlipped)
+    throw Failure(ExitCode::Value, messages::switchUnavailable(adviceText(availabilityOf(ppd))));
 }
 
 struct FoundField {
@@ -93,28 +97,32 @@ FoundField findField(const UnseenPanels &panels, const std::string &name) {
   return found.front();
 }
 
-void typeEntry(const UnseenPanels &panels, const Entry &entry, std::ostream &notes) {
+void typeEntry(const UnseenPanels &panels, ppd_file_t *ppd, const Entry &entry,
+               std::ostream &notes) {
   const FoundField found = findField(panels, entry.name);
-  std::string shown;
+  std::optional<std::string> shown;
   actingOn(found.panel->panel, "--set",
            [&] { shown = PanelControls::type(found.field, entry.text); });
-  if (shown != entry.text)
-    notes << messages::valueAdjusted(entry.name, entry.text, shown) << '\n';
+  if (!shown)
+    throw Failure(ExitCode::Value,
+                  messages::fieldUnavailable(found.field.name, adviceText(availabilityOf(ppd))));
+  if (*shown != entry.text)
+    notes << messages::valueAdjusted(entry.name, entry.text, *shown) << '\n';
 }
 
 } // namespace
 
-std::vector<SummarySection> runBatch(const PanelSession &session, const BatchRequest &request,
-                                     std::ostream &notes) {
+std::vector<SummarySection> runBatch(const PanelSession &session, ppd_file_t *ppd,
+                                     const BatchRequest &request, std::ostream &notes) {
   UnseenPanels panels;
   for (const auto &panel : session.panels())
     panels.push_back(std::make_unique<UnseenPanel>(*panel));
   for (const auto &panel : panels)
     panel->panel.willShow();
   if (request.back)
-    flipSwitch(panels, *request.back);
+    flipSwitch(panels, ppd, *request.back);
   for (const Entry &entry : request.entries)
-    typeEntry(panels, entry, notes);
+    typeEntry(panels, ppd, entry, notes);
   for (const auto &panel : panels)
     if (!panel->panel.mayPrint())
       throw Failure(ExitCode::Cancelled, messages::panelRefusedJob(panel->panel.name()));

@@ -1,9 +1,15 @@
 #include "host/CommandLine.hpp"
 
+#include "host/Appearance.hpp"
 #include "host/ExitCode.hpp"
+#include "host/HoldTime.hpp"
 #include "host/Messages.hpp"
+#include "host/OptionText.hpp"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <functional>
 
 namespace imageposition {
 
@@ -15,38 +21,97 @@ struct RawArguments {
   std::string back;
 };
 
-void addOptions(CLI::App &app, RawArguments &raw) {
-  Arguments &arguments = raw.arguments;
-  app.add_option("--ppd", arguments.ppd, messages::kHelpPpd)->type_name("FILE");
-  app.add_option("-d,--queue", arguments.queue, messages::kHelpQueue)->type_name("QUEUE");
-  app.add_option("-o,--option", arguments.options, messages::kHelpOption)
-      ->type_name("NAME=VALUE")
-      ->allow_extra_args(false);
-  app.add_option("-h", arguments.server, messages::kHelpServer)->type_name("SERVER");
-  app.add_option("-n", arguments.copies, messages::kHelpCopies)
-      ->type_name("COPIES")
-      ->check(CLI::Range(1, 9999));
-  app.add_option("-P", arguments.pages, messages::kHelpPages)->type_name("PAGES");
-  app.add_option("-t", arguments.title, messages::kHelpTitle)->type_name("TITLE");
-  app.add_option("-q", arguments.priority, messages::kHelpPriority)
-      ->type_name("PRIORITY")
-      ->check(CLI::Range(1, 100));
-  app.add_flag("--dry-run", arguments.isDryRun, messages::kHelpDryRun);
-  app.add_option("--plugin", arguments.plugins, messages::kHelpPlugin)
-      ->type_name("BUNDLE")
-      ->allow_extra_args(false);
-  app.add_option("--ticket", arguments.ticket, messages::kHelpTicket)->type_name("FILE");
-  app.add_option("DOCUMENT", arguments.document, messages::kHelpDocument)->type_name("");
-  app.add_flag("--batch", arguments.isBatch, messages::kHelpBatch);
-  app.add_option("--set", raw.entries, messages::kHelpSet)
-      ->type_name("NAME=TEXT")
-      ->allow_extra_args(false);
-  app.add_option("--back", raw.back, messages::kHelpBack)->type_name("on|off");
-  app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
-}
-
 [[noreturn]] void refuse(const std::string &message) {
   throw Failure(ExitCode::Usage, messages::usage(message));
+}
+
+/// An option that may be repeated, and whose occurrences `take` gets in their order.
+template <typename Value>
+CLI::Option *addRepeated(CLI::App &app, const char *names, const std::function<void(Value)> &take,
+                         const char *help) {
+  return app.add_option_function<Value>(names, take, help)->trigger_on_parse();
+}
+
+/// An option that may be repeated, and of which the last one counts.
+CLI::Option *addText(CLI::App &app, const char *names, std::string &value, const char *help,
+                     const char *type) {
+  return app.add_option(names, value, help)->take_last()->type_name(type);
+}
+
+/// Without words of its own in the help.
+CLI::Validator between(int first, int last) { return CLI::Range(first, last).description(""); }
+
+/// What lp calls restarting and changing is about jobs that CUPS has already.
+void addRefused(CLI::App &app) {
+  addRepeated<std::string>(
+      app, "-i", [](const std::string &job) { refuse(messages::jobsAreNotChanged(job)); }, "")
+      ->group("");
+}
+
+void addPrinterOptions(CLI::App &app, Arguments &arguments) {
+  addText(app, "--ppd", arguments.ppd, messages::kHelpPpd, "FILE");
+  addText(app, "-d,--queue", arguments.queue, messages::kHelpQueue, "QUEUE");
+  addText(app, "-h", arguments.server, messages::kHelpServer, "SERVER");
+  app.add_flag("-E", arguments.isEncrypted, messages::kHelpEncryption);
+  addText(app, "-U", arguments.user, messages::kHelpUser, "USER");
+}
+
+/// Those that lp makes job options of. Later ones of a name displace earlier ones.
+void addJobOptions(CLI::App &app, Arguments &arguments) {
+  const auto add = [&arguments](const char *name, const std::string &value) {
+    arguments.options.push_back(writeOptionArgument(name, value));
+  };
+  addRepeated<std::string>(
+      app, "-o,--option",
+      [&arguments](const std::string &text) { arguments.options.push_back(text); },
+      messages::kHelpOption)
+      ->type_name("NAME=VALUE");
+  addRepeated<int>(
+      app, "-n", [add](int copies) { add("copies", std::to_string(copies)); },
+      messages::kHelpCopies)
+      ->type_name("COPIES")
+      ->check(between(1, 9999));
+  addRepeated<std::string>(
+      app, "-P", [add](const std::string &pages) { add("page-ranges", pages); },
+      messages::kHelpPages)
+      ->type_name("PAGES");
+  addRepeated<int>(
+      app, "-q", [add](int priority) { add("job-priority", std::to_string(priority)); },
+      messages::kHelpPriority)
+      ->type_name("PRIORITY")
+      ->check(between(1, 100));
+  addRepeated<std::string>(
+      app, "-H",
+      [&arguments](const std::string &when) {
+        for (const std::string &option : optionsForHold(when))
+          arguments.options.push_back(option);
+      },
+      messages::kHelpHold)
+      ->type_name("WHEN");
+}
+
+void addOtherOptions(CLI::App &app, RawArguments &raw) {
+  Arguments &arguments = raw.arguments;
+  addText(app, "-t", arguments.title, messages::kHelpTitle, "TITLE");
+  app.add_flag("-m", arguments.isMailWanted, messages::kHelpMail);
+  app.add_flag("-s", arguments.isSilent, messages::kHelpSilent);
+  app.add_flag("-c", messages::kHelpCopy);
+  app.add_flag("--dry-run", arguments.isDryRun, messages::kHelpDryRun);
+  addRepeated<std::string>(
+      app, "--plugin", [&arguments](const std::string &path) { arguments.plugins.push_back(path); },
+      messages::kHelpPlugin)
+      ->type_name("BUNDLE");
+  addText(app, "--ticket", arguments.ticket, messages::kHelpTicket, "FILE");
+  app.add_option("DOCUMENT", arguments.documents, messages::kHelpDocument)->type_name("");
+  addText(app, "--appearance", arguments.appearance, messages::kHelpAppearance, "light|dark");
+  addText(app, "--text-scale", arguments.textScale, messages::kHelpTextScale, "NUMBER");
+  app.add_flag("--batch", arguments.isBatch, messages::kHelpBatch);
+  addRepeated<std::string>(
+      app, "--set", [&raw](const std::string &entry) { raw.entries.push_back(entry); },
+      messages::kHelpSet)
+      ->type_name("NAME=TEXT");
+  addText(app, "--back", raw.back, messages::kHelpBack, "on|off");
+  app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
 }
 
 bool endsWith(const std::string &text, const std::string &end) {
@@ -55,9 +120,9 @@ bool endsWith(const std::string &text, const std::string &end) {
 
 /// An empty text comes from a variable that was never set; what it was meant for would be skipped.
 void refuseEmptyTexts(const CLI::App &app) {
-  for (const char *name : {"--ticket", "--back", "DOCUMENT"}) {
-    const CLI::Option *const option = app.get_option(name);
-    if (option->count() > 0 && option->as<std::string>().empty())
+  for (const char *name : {"--ticket", "--back", "--ppd", "-d", "-h", "-U", "DOCUMENT"}) {
+    const auto &texts = app.get_option(name)->results();
+    if (std::find(texts.begin(), texts.end(), "") != texts.end())
       refuse(messages::emptyText(name));
   }
 }
@@ -85,6 +150,12 @@ void checkCombination(const Arguments &arguments) {
     refuse(messages::kTwoPrintersNamed);
   if (endsWith(arguments.ticket, ".options"))
     refuse(messages::ticketNamesOptions(arguments.ticket));
+  if (std::count(arguments.documents.begin(), arguments.documents.end(), "-") > 1)
+    refuse(messages::kInputNamedTwice);
+  if (!arguments.appearance.empty() && !readAppearance(arguments.appearance))
+    refuse(messages::badAppearance(arguments.appearance));
+  if (!arguments.textScale.empty() && !readTextScale(arguments.textScale))
+    refuse(messages::badTextScale(arguments.textScale));
 }
 
 } // namespace
@@ -96,7 +167,10 @@ std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) 
   app.footer(messages::kHelpFooter);
   app.get_formatter()->column_width(26);
   RawArguments raw;
-  addOptions(app, raw);
+  addPrinterOptions(app, raw.arguments);
+  addJobOptions(app, raw.arguments);
+  addOtherOptions(app, raw);
+  addRefused(app);
   try {
     std::reverse(words.begin(), words.end()); // CLI11 takes them from the back
     app.parse(words);

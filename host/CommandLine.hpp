@@ -15,14 +15,19 @@ struct Arguments {
   std::string ppd;    ///< A printer description file; never given together with `queue`.
   std::string queue;  ///< A CUPS queue, perhaps with "/instance"; without both, the default one.
   std::string server; ///< The CUPS server, as "host", "host:port" or the path of a socket.
-  std::vector<std::string> options; ///< Each "name=value", or several separated by blanks.
+  std::string user;   ///< Whom the job belongs to.
+  bool isEncrypted = false; ///< The connection to CUPS has to be.
+  /// Each "name=value", or several separated by blanks, in the order of the command line; what -n,
+  /// -q, -P and -H say stands among them, so that the last one counts as it does for lp.
+  std::vector<std::string> options;
   std::vector<std::string> plugins;
   std::string ticket;
-  std::string document; ///< "-" stands for standard input.
+  std::vector<std::string> documents; ///< "-" stands for standard input, at most once.
   std::string title;
-  std::string pages; ///< As "1-3,7"; not yet checked.
-  int copies = 0;    ///< From 1; 0 when not given.
-  int priority = 0;  ///< From 1 to 100; 0 when not given.
+  std::string appearance;    ///< "light" or "dark".
+  std::string textScale;     ///< A number above 0.
+  bool isMailWanted = false; ///< When the job is done.
+  bool isSilent = false;     ///< Nothing is said of what went well.
   bool isDryRun = false;
   bool isBatch = false;
   BatchRequest batch;

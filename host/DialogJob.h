@@ -7,6 +7,7 @@
 #include "host/PrinterDescription.hpp"
 #include "host/Ticket.hpp"
 
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +15,7 @@
 namespace imageposition {
 
 struct JobRequest;
+struct SubmittedJob;
 
 class DialogJob {
 public:
@@ -41,12 +43,18 @@ public:
   void loadPanels();
   const std::vector<std::string> &plugins() const noexcept { return plugins_; }
 
-  /// As it was named; empty for standard input.
-  const std::string &document() const noexcept { return ticket_.document; }
+  /// As they were named, here or in the ticket; none for standard input that nobody named.
+  const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
+  /// Paths; "-" for standard input.
+  std::vector<std::string> documentsToSend() const;
   /// Whether there is something to print: a document, or, for a window, what comes in.
   bool hasDocument() const;
   /// As CUPS is asked, but for the destination's defaults.
   JobRequest request() const;
+
+  /// What there is to say when CUPS has taken it: lp's line for `output`, what is special for
+  /// `notes`; nothing in silence.
+  void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) const;
 
   /// Writes the ticket, or the settings to standard output. Throws a `Failure`.
   void writeSettings() const;

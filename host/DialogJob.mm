@@ -1,14 +1,17 @@
 #import "host/DialogJob.h"
 
+#include "host/DocumentNames.hpp"
 #include "host/ExitCode.hpp"
-#include "host/JobRequest.hpp"
+#include "host/JobSubmission.hpp"
 #include "host/Messages.hpp"
 #include "host/OptionText.hpp"
 #include "host/PluginFolders.hpp"
 #include "host/Presets.hpp"
+#include "host/WindowTexts.hpp"
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <iostream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -42,15 +45,17 @@ std::unique_ptr<PrinterDescription> openPrinter(const Arguments &arguments,
                                                   : PrinterDescription::ofQueue(queue));
 }
 
+/// Where lp has CUPS send what happened to a job.
+std::string mailAddress() {
+  char host[HTTP_MAX_HOST];
+  return std::string(cupsUser()) + "@" + httpGetHostname(nullptr, host, sizeof host);
+}
+
 void takeLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
   for (const std::string &option : arguments.options)
     readOptionArgument(option, settings);
-  if (arguments.copies > 0)
-    settings.set("copies", std::to_string(arguments.copies));
-  if (!arguments.pages.empty())
-    settings.set("page-ranges", arguments.pages);
-  if (arguments.priority > 0)
-    settings.set("job-priority", std::to_string(arguments.priority));
+  if (arguments.isMailWanted)
+    readOptionArgument("notify-recipient-uri=mailto:" + mailAddress(), settings);
 }
 
 /// A preset is an instance of the queue; panels see what it holds only among the job's settings.
@@ -73,8 +78,8 @@ Ticket openTicket(const Arguments &arguments, const std::string &queue,
   if (!arguments.ticket.empty())
     if (auto stored = readTicket(arguments.ticket))
       ticket = *stored;
-  if (!arguments.document.empty())
-    ticket.document = arguments.document;
+  if (!arguments.documents.empty())
+    ticket.documents = arguments.documents;
   takeLpOptions(arguments, ticket.settings);
   return ticket;
 }
@@ -82,11 +87,6 @@ Ticket openTicket(const Arguments &arguments, const std::string &queue,
 std::vector<std::string> pluginsFor(const Arguments &arguments, const PrinterDescription &printer) {
   return findPlugins({arguments.plugins, printer.attributeValues("APDialogExtension")},
                      pluginFolders());
-}
-
-std::string lastComponent(const std::string &path) {
-  const std::size_t slash = path.rfind('/');
-  return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
 /// A pipe or a file, and no terminal or the nothing that desktops start programs with.
@@ -140,7 +140,11 @@ void DialogJob::chooseQueue(const std::string &queue) {
 }
 
 bool DialogJob::hasDocument() const {
-  return !arguments_.document.empty() || (!arguments_.isBatch && isInputGiven());
+  return !arguments_.documents.empty() || (!arguments_.isBatch && isInputGiven());
+}
+
+std::vector<std::string> DialogJob::documentsToSend() const {
+  return arguments_.documents.empty() ? std::vector<std::string>{"-"} : arguments_.documents;
 }
 
 JobRequest DialogJob::request() const {
@@ -148,11 +152,19 @@ JobRequest DialogJob::request() const {
   request.printer = queue_.substr(0, queue_.find('/'));
   request.title = arguments_.title;
   if (request.title.empty())
-    request.title = arguments_.document.empty() || arguments_.document == "-"
-                        ? "(stdin)"
-                        : lastComponent(arguments_.document);
+    request.title = documentName(documentsToSend().front());
   request.settings = ticket_.settings;
   return request;
+}
+
+void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) const {
+  if (arguments_.isSilent || arguments_.isMailWanted)
+    return;
+  const auto &paths = arguments_.documents;
+  const auto inputs = std::count(paths.begin(), paths.end(), "-"); // lp counts files alone
+  output << messages::jobSent(request().printer, sent.id, paths.size() - inputs) << std::endl;
+  if (!sent.note.empty())
+    notes << sent.note << std::endl;
 }
 
 void DialogJob::writeSettings() const {
@@ -161,8 +173,9 @@ void DialogJob::writeSettings() const {
     return;
   }
   writeTicket(ticket_, arguments_.ticket);
-  std::cerr << messages::ticketWritten(arguments_.ticket, optionTextPath(arguments_.ticket))
-            << '\n';
+  if (!arguments_.isSilent)
+    std::cerr << messages::ticketWritten(arguments_.ticket, optionTextPath(arguments_.ticket))
+              << '\n';
 }
 
 } // namespace imageposition

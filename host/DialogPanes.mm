@@ -1,5 +1,6 @@
 #import "host/DialogController.h"
 #import "host/DialogState.h"
+#include "host/DocumentNames.hpp"
 #include "host/Messages.hpp"
 #include "host/OptionMessages.hpp"
 #include "host/PageRanges.hpp"
@@ -133,8 +134,8 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 - (SummarySection)jobSection {
   SummarySection section{messages::kJobSection, {}};
   section.lines.push_back({messages::kPrinterTitle, job->printer().name()});
-  if (!job->document().empty())
-    section.lines.push_back({messages::kDocumentTitle, job->document()});
+  if (!job->documents().empty())
+    section.lines.push_back({messages::kDocumentTitle, documentsInWords(job->documents())});
   const char *const copies = job->settings().get("copies");
   section.lines.push_back({messages::kCopiesTitle, copies != nullptr ? copies : "1"});
   const PageChoice pages = readPageChoice(job->settings());

@@ -51,15 +51,13 @@ void wakeModalLoop() {
     request.defaults = destination->defaults;
     request.printerUri = destination->uri;
   }
-  const std::string path = job->arguments().document;
   try {
     if (job->arguments().isDryRun) {
       std::cout << writeRequestText(request);
       [NSApp stopModalWithCode:NSOKButton];
       return;
     }
-    state->submission =
-        std::make_unique<JobSubmission>(request, JobDocument{path.empty() ? "-" : path});
+    state->submission = std::make_unique<JobSubmission>(request, job->documentsToSend());
   } catch (const Failure &failure) {
     [self say:failure.what()];
     return;
@@ -88,10 +86,7 @@ void wakeModalLoop() {
   const auto submission = std::move(state->submission);
   [self showSending:NO];
   try {
-    const SubmittedJob sent = submission->result();
-    std::cout << messages::jobSent(job->request().printer, sent.id) << std::endl;
-    if (!sent.note.empty())
-      *errors << sent.note << std::endl;
+    job->report(submission->result(), std::cout, *errors);
     [NSApp stopModalWithCode:NSOKButton];
     wakeModalLoop();
   } catch (const Failure &failure) {

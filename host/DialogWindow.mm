@@ -2,6 +2,7 @@
 
 #import "host/DialogController.h"
 #import "host/DialogState.h"
+#include "host/DocumentNames.hpp"
 #import "host/HelpPanel.h"
 #include "host/Messages.hpp"
 #import "platform/TextBridge.h"
@@ -75,7 +76,7 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
         @selector(paneChosen:), @selector(resolveConflicts:), @selector(help), @selector(dismiss),
         @selector(confirm)
   };
-  views = buildDialog(pane, job->document(), actions);
+  views = buildDialog(pane, documentsInWords(job->documents()), actions);
   [views.window setDelegate:(id)self];
   const NSRect frame = NSMakeRect(0, 0, pane.width, pane.height);
   summary = [[SummaryView alloc] initWithFrame:frame];

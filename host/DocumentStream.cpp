@@ -18,23 +18,25 @@ constexpr int kMillisecondsBetweenQuestions = 250;
 
 } // namespace
 
+std::optional<std::uint64_t> documentSize(const std::string &path) {
+  struct stat status {};
+  const bool isInput = path == "-";
+  if ((isInput ? fstat(STDIN_FILENO, &status) : stat(path.c_str(), &status)) != 0 ||
+      (!isInput && access(path.c_str(), R_OK) != 0))
+    fail(errno);
+  if (S_ISDIR(status.st_mode))
+    fail(EISDIR);
+  if (!S_ISREG(status.st_mode))
+    return std::nullopt;
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
 DocumentStream::DocumentStream(const std::string &path)
     : descriptor_(STDIN_FILENO), isOwn_(path != "-"), buffer_(kPiece) {
   if (isOwn_)
     descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor_ < 0)
     fail(errno);
-  struct stat status {};
-  int reason = fstat(descriptor_, &status) == 0 ? 0 : errno;
-  if (reason == 0 && S_ISDIR(status.st_mode))
-    reason = EISDIR;
-  if (reason != 0) {
-    if (isOwn_)
-      close(descriptor_);
-    fail(reason);
-  }
-  if (S_ISREG(status.st_mode))
-    size_ = static_cast<std::uint64_t>(status.st_size);
 }
 
 DocumentStream::~DocumentStream() {

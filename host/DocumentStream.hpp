@@ -11,6 +11,10 @@
 
 namespace imageposition {
 
+/// Bytes in all of what `DocumentStream` would read, without opening it; none for a pipe. Throws a
+/// `std::system_error` when it cannot be read.
+std::optional<std::uint64_t> documentSize(const std::string &path);
+
 class DocumentStream {
 public:
   /// A file, or standard input for "-". Throws a `std::system_error` when it cannot be read.
@@ -18,9 +22,6 @@ public:
   ~DocumentStream();
   DocumentStream(const DocumentStream &) = delete;
   DocumentStream &operator=(const DocumentStream &) = delete;
-
-  /// Bytes in all; none for a pipe.
-  std::optional<std::uint64_t> size() const noexcept { return size_; }
 
   /// The next piece, valid until the next call; empty at the end. A pipe that has nothing yet is
   /// waited for while `keepWaiting` says so, asked about four times a second; none when it does
@@ -30,7 +31,6 @@ public:
 private:
   int descriptor_;
   bool isOwn_;
-  std::optional<std::uint64_t> size_;
   std::vector<char> buffer_;
 };
 

@@ -97,8 +97,8 @@ std::string jobNotTaken(const std::string &queue, const std::string &reason) {
 }
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job) {
   const std::string name = queue + "-" + std::to_string(job);
-  return message + " The unfinished job " + name +
-         " could not be removed; it has no document, and \"cancel " + name + "\" removes it.";
+  return message + " The unfinished job " + name + " could not be removed; \"cancel " + name +
+         "\" removes it.";
 }
 const Text kSubmissionCancelled = text("Cancelled; nothing was printed.");
 const Text kStandardInput = text("standard input");

@@ -2,6 +2,7 @@
 
 #include "host/CupsConnection.hpp"
 #include "host/Destinations.hpp"
+#include "host/DocumentNames.hpp"
 #include "host/DocumentStream.hpp"
 #include "host/JobMessages.hpp"
 
@@ -69,6 +70,10 @@ JobProblem problemOf(ipp_status_t status) {
   }
 }
 
+std::string nameOf(const std::string &path) {
+  return path == "-" ? messages::kStandardInput : path;
+}
+
 struct FreeDestination {
   void operator()(cups_dest_t *dest) const noexcept { cupsFreeDests(1, dest); }
 };
@@ -79,12 +84,10 @@ struct FreeInfo {
 /// One job on its way.
 class Submission {
 public:
-  Submission(const JobRequest &request, const JobDocument &document,
-             const ProgressCallback &progress)
-      : request_(request), options_(optionsToSend(request)), progress_(progress),
-        documentName_(document.path == "-" ? messages::kStandardInput : document.path) {}
+  Submission(const JobRequest &request, const ProgressCallback &progress)
+      : request_(request), options_(optionsToSend(request)), progress_(progress) {}
 
-  SubmittedJob run(const std::string &path);
+  SubmittedJob run(const JobDocuments &documents);
 
 private:
   bool report();
@@ -92,8 +95,14 @@ private:
   void connect();
   void findPrinter();
   void createJob();
-  void sendDocument(DocumentStream &document, std::string_view piece);
-  void startDocument();
+  void lookAt(const JobDocuments &documents);
+  std::string_view firstPiece(DocumentStream &document);
+  void sendDocuments(const JobDocuments &documents);
+  void sendAll(const JobDocuments &documents);
+  void clearUp(const SubmissionFailure &failure);
+  void sendDocument(DocumentStream &document, std::string_view piece, bool isLast);
+  void startDocument(bool isLast);
+  const char *format() const;
   void sendPiece(std::string_view piece);
   std::string_view nextPiece(DocumentStream &document);
   bool removeJob();
@@ -104,7 +113,7 @@ private:
   const JobRequest &request_;
   const PrintSettingsStore options_;
   const ProgressCallback &progress_;
-  const std::string documentName_;
+  std::string documentPath_; // of the one that is read
   JobProgress state_;
   Clock::time_point lastSign_ = Clock::now();
   bool isCancelled_ = false;
@@ -146,7 +155,7 @@ std::string Submission::messageFor(JobProblem problem, const std::string &reason
   case JobProblem::BadOption:
     return messages::optionRefused(queue, reason);
   case JobProblem::Format:
-    return messages::formatRefused(documentName_, reason);
+    return messages::formatRefused(nameOf(documentPath_), reason);
   case JobProblem::Spool:
     return messages::spoolRefuses(reason);
   default:
@@ -177,24 +186,45 @@ void Submission::createJob() {
     failAsCups();
 }
 
-std::string_view Submission::nextPiece(DocumentStream &document) {
-  try {
-    const auto piece = document.next([this] { return report(); });
-    if (!piece)
-      failCancelled();
-    return *piece;
-  } catch (const std::system_error &error) {
-    fail(JobProblem::Document, messages::documentNotRead(documentName_, error.code().message()));
+/// Finds out how much there is to send, and what cannot be, while nothing has been.
+void Submission::lookAt(const JobDocuments &documents) {
+  state_.total = 0;
+  for (const std::string &path : documents) {
+    documentPath_ = path;
+    const auto size = documentSize(path);
+    if (size == 0u)
+      fail(JobProblem::Document, messages::documentEmpty(nameOf(path)));
+    state_.total = size && state_.total ? std::optional(*state_.total + *size) : std::nullopt;
   }
 }
 
-void Submission::startDocument() {
-  const char *const chosen = options_.get("document-format");
-  const char *format = chosen != nullptr ? chosen : CUPS_FORMAT_AUTO;
+std::string_view Submission::nextPiece(DocumentStream &document) {
+  const auto piece = document.next([this] { return report(); });
+  if (!piece)
+    failCancelled();
+  return *piece;
+}
+
+std::string_view Submission::firstPiece(DocumentStream &document) {
+  const std::string_view piece = nextPiece(document);
+  if (piece.empty())
+    fail(JobProblem::Document, messages::documentEmpty(nameOf(documentPath_)));
+  return piece;
+}
+
+const char *Submission::format() const {
   if (!request_.documentFormat.empty())
-    format = request_.documentFormat.c_str();
+    return request_.documentFormat.c_str();
+  if (options_.get("raw") != nullptr)
+    return CUPS_FORMAT_RAW;
+  const char *const chosen = options_.get("document-format");
+  return chosen != nullptr ? chosen : CUPS_FORMAT_AUTO;
+}
+
+void Submission::startDocument(bool isLast) {
   if (cupsStartDestDocument(connection_->http(), printer_.get(), info_.get(), job_,
-                            request_.title.c_str(), format, 0, nullptr, 1) != HTTP_STATUS_CONTINUE)
+                            documentName(documentPath_).c_str(), format(), 0, nullptr,
+                            isLast ? 1 : 0) != HTTP_STATUS_CONTINUE)
     failAsCups();
 }
 
@@ -205,8 +235,8 @@ void Submission::sendPiece(std::string_view piece) {
   state_.sent += piece.size();
 }
 
-void Submission::sendDocument(DocumentStream &document, std::string_view piece) {
-  startDocument();
+void Submission::sendDocument(DocumentStream &document, std::string_view piece, bool isLast) {
+  startDocument(isLast);
   while (!piece.empty()) {
     if (!report())
       failCancelled();
@@ -219,6 +249,23 @@ void Submission::sendDocument(DocumentStream &document, std::string_view piece) 
   if (cupsFinishDestDocument(connection_->http(), printer_.get(), info_.get()) >
       IPP_STATUS_OK_EVENTS_COMPLETE)
     failAsCups();
+}
+
+/// The first document is there before there is a job.
+void Submission::sendDocuments(const JobDocuments &documents) {
+  for (const std::string &path : documents) {
+    documentPath_ = path;
+    DocumentStream document(path);
+    const std::string_view piece = firstPiece(document);
+    if (job_ == 0) {
+      if (!report())
+        failCancelled();
+      connect();
+      findPrinter();
+      createJob();
+    }
+    sendDocument(document, piece, &path == &documents.back());
+  }
 }
 
 /// A connection with half a document on it says nothing else: CUPS drops that half with it.
@@ -242,39 +289,41 @@ std::string Submission::note() const {
              : "";
 }
 
-SubmittedJob Submission::run(const std::string &path) try {
-  DocumentStream document(path);
-  state_.total = document.size();
-  const std::string_view piece = nextPiece(document);
-  if (piece.empty())
-    fail(JobProblem::Document, messages::documentEmpty(documentName_));
-  if (!report())
-    failCancelled();
-  connect();
-  findPrinter();
-  createJob();
-  try {
-    sendDocument(document, piece);
-  } catch (const SubmissionFailure &failure) {
-    const bool isRemoved = removeJob();
-    if (isRemoved && failure.problem() == JobProblem::NoCups) // it is there, and broke off
-      fail(JobProblem::Spool, messages::kDocumentBrokenOff);
-    if (isRemoved)
-      throw;
+/// Takes a job that failed back, and says what is left of it.
+void Submission::clearUp(const SubmissionFailure &failure) {
+  if (job_ == 0)
+    return;
+  if (!removeJob())
     throw SubmissionFailure(failure.problem(), failure.code(),
                             messages::jobLeftBehind(failure.what(), request_.printer, job_));
+  if (failure.problem() == JobProblem::NoCups) // it is there, and broke off
+    fail(JobProblem::Spool, messages::kDocumentBrokenOff);
+}
+
+void Submission::sendAll(const JobDocuments &documents) try {
+  lookAt(documents);
+  sendDocuments(documents);
+} catch (const std::system_error &error) {
+  fail(JobProblem::Document,
+       messages::documentNotRead(nameOf(documentPath_), error.code().message()));
+}
+
+SubmittedJob Submission::run(const JobDocuments &documents) {
+  try {
+    sendAll(documents);
+  } catch (const SubmissionFailure &failure) {
+    clearUp(failure);
+    throw;
   }
   return {job_, note()};
-} catch (const std::system_error &error) {
-  fail(JobProblem::Document, messages::documentNotRead(documentName_, error.code().message()));
 }
 
 } // namespace
 
-SubmittedJob submitJob(const JobRequest &request, const JobDocument &document,
+SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
                        const ProgressCallback &progress, const PasswordCallback &password) {
   const PasswordQuestion question(password);
-  return Submission(request, document, progress).run(document.path);
+  return Submission(request, progress).run(documents);
 }
 
 struct JobSubmission::Work {
@@ -290,12 +339,12 @@ struct JobSubmission::Work {
   }
 };
 
-JobSubmission::JobSubmission(JobRequest request, JobDocument document)
+JobSubmission::JobSubmission(JobRequest request, JobDocuments documents)
     : work_(std::make_unique<Work>()) {
   Work *const work = work_.get(); // outlives the thread, whose end the destructor awaits
   work->outcome = std::async(std::launch::async, [work, request = std::move(request),
-                                                  document = std::move(document)] {
-                    return submitJob(request, document, [work](const JobProgress &progress) {
+                                                  documents = std::move(documents)] {
+                    return submitJob(request, documents, [work](const JobProgress &progress) {
                       return work->take(progress);
                     });
                   }).share();

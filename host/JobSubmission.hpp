@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace imageposition {
 
@@ -40,14 +41,13 @@ private:
 };
 
 struct JobProgress {
-  std::uint64_t sent = 0;             ///< Bytes.
+  std::uint64_t sent = 0;             ///< Bytes, of all documents.
   std::optional<std::uint64_t> total; ///< Bytes; unknown for a pipe.
 };
 
-/// What is printed: the file of that path, or standard input for "-".
-struct JobDocument {
-  std::string path;
-};
+/// What is printed, at least one and in this order: the file of that path, or standard input for
+/// "-".
+using JobDocuments = std::vector<std::string>;
 
 struct SubmittedJob {
   int id = 0;       ///< lp's "printer-id".
@@ -58,10 +58,10 @@ struct SubmittedJob {
 /// Must not throw.
 using ProgressCallback = std::function<bool(const JobProgress &)>;
 
-/// Submits the job on the caller's thread and returns when CUPS has all of it. The document is
+/// Submits the job on the caller's thread and returns when CUPS has all of it. The documents are
 /// streamed in small pieces. Both callbacks are called on this thread; without a password callback
 /// nobody is asked. Throws a `SubmissionFailure`, or what `optionsToSend` throws.
-SubmittedJob submitJob(const JobRequest &request, const JobDocument &document,
+SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
                        const ProgressCallback &progress = {},
                        const PasswordCallback &password = {});
 
@@ -70,7 +70,7 @@ SubmittedJob submitJob(const JobRequest &request, const JobDocument &document,
 class JobSubmission {
 public:
   /// Starts at once.
-  JobSubmission(JobRequest request, JobDocument document);
+  JobSubmission(JobRequest request, JobDocuments documents);
   /// Cancels what is under way and waits until that has happened.
   ~JobSubmission();
   JobSubmission(const JobSubmission &) = delete;

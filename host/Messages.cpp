@@ -30,10 +30,19 @@ const char *const kHelpQueue = "The printer, by its CUPS queue: NAME or NAME/INS
 const char *const kHelpOption = "A setting of the job, as lp takes it: NAME=VALUE, NAME\n"
                                 "or noNAME; may be repeated";
 const char *const kHelpServer = "The CUPS server: HOST, HOST:PORT or a socket's path";
+const char *const kHelpEncryption = "Encrypt the connection to the CUPS server";
+const char *const kHelpUser = "Print as this user";
 const char *const kHelpCopies = "The number of copies";
 const char *const kHelpPages = "The pages to print, as 1-3,7";
-const char *const kHelpTitle = "The job's title; without it, the document's name";
+const char *const kHelpTitle = "The job's title; without it, the first document's name";
 const char *const kHelpPriority = "The job's priority, from 1 to 100; 50 is usual";
+const char *const kHelpHold = "When to print: hold (not before it is released),\n"
+                              "immediate (before other jobs), a UTC time as HH:MM, or\n"
+                              "day-time, evening, night, weekend, second-shift,\n"
+                              "third-shift, indefinite, no-hold";
+const char *const kHelpMail = "Have CUPS send a mail when the job is done; implies -s";
+const char *const kHelpSilent = "Say nothing when CUPS has taken the job";
+const char *const kHelpCopy = "Taken for lp's sake: CUPS always copies the document";
 const char *const kHelpDryRun = "Print nothing: write what CUPS would be sent";
 const char *const kHelpPlugin =
     "Use this plug-in and no other; may be repeated.\n"
@@ -43,8 +52,11 @@ const char *const kHelpPlugin =
 const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exists,\n"
                                 "written by Print. The same as NAME=VALUE lines goes\n"
                                 "beside it (job.options for job.json)";
-const char *const kHelpDocument = "The document to print; \"-\" is standard input, which is\n"
-                                  "also read when the window prints and no document is named";
+const char *const kHelpDocument = "What to print, several as one job; \"-\" is standard input,\n"
+                                  "which is also read when the window prints and no document\n"
+                                  "is named. After \"--\" a name may begin with a dash";
+const char *const kHelpAppearance = "How the window looks; without it, as the desktop does";
+const char *const kHelpTextScale = "How much larger texts are than usual, such as 1.25";
 const char *const kHelpBatch = "Show no window: set the panel, then write the job's\n"
                                "settings to the ticket, or print them without one.\n"
                                "Where there is no display, Xvfb is started";
@@ -104,6 +116,25 @@ std::string usage(const std::string &mistake) {
 const Text kTwoPrintersNamed =
     text("Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.");
 const Text kOnlyInBatch = text("--set, --back and --summary need --batch.");
+const Text kInputNamedTwice = text("Standard input can be printed only once; name \"-\" one time.");
+std::string jobsAreNotChanged(const std::string &job) {
+  return text("Jobs that CUPS has already are not changed here. Change this one with lp -i {1}, or "
+              "remove it with cancel {1} and print again.")
+      .with(job);
+}
+const Text kJobsAreNotRestarted =
+    text("Jobs that CUPS has already are not printed again from here. Use lp -i JOB -H restart.");
+std::string badHoldTime(const std::string &when) {
+  return text("-H takes hold, immediate, a UTC time such as 18:30, or a name such as night, and "
+              "not \"{1}\".")
+      .with(when);
+}
+std::string badAppearance(const std::string &appearance) {
+  return text("--appearance takes \"light\" or \"dark\", and not \"{1}\".").with(appearance);
+}
+std::string badTextScale(const std::string &scale) {
+  return text("--text-scale takes a number above 0, such as 1.25, and not \"{1}\".").with(scale);
+}
 std::string argumentNotText(const std::string &argument) {
   return "The argument \"" + argument +
          "\" is not UTF-8 text. Give the file another name, or name it by a link.";
@@ -171,12 +202,13 @@ std::string ticketEntryUnusable(const std::string &name) {
 std::string ticketEntryRepeated(const std::string &name) {
   return "the setting \"" + name + "\" is locked and there twice";
 }
-const Text kTicketLockedNotList = text("\"locked\" is not a list of names");
+std::string ticketMemberNotList(const std::string &name) {
+  return text("\"{1}\" is not a list of names").with(name);
+}
 const Text kTicketWithoutSettings = text("it has no object \"settings\"");
 std::string notAnOrdinaryFile(const std::string &path) {
   return "\"" + path +
-         "\" is not an ordinary file, so that no ticket is written there. Choose another "
-         "name.";
+         "\" is not an ordinary file, so that no ticket can stand there. Choose another name.";
 }
 std::string fileUnwritable(const std::string &path, const std::string &reason) {
   return "\"" + path + "\" cannot be written: " + reason + ". Choose another place.";
@@ -258,18 +290,23 @@ std::string ambiguousField(const std::string &name, const std::vector<std::strin
   return "\"" + name + "\" may mean several entry fields: " + join(matches) +
          ". Write more of the name.";
 }
-std::string fieldUnavailable(const std::string &name) {
-  return "\"" + name +
-         "\" cannot be changed with the present settings of the job: the panel has switched it "
-         "off. "
-         "Two-sided printing may be off (-o Duplex=...), or the back side has no offsets of its "
-         "own "
-         "(--back on).";
+std::string fieldUnavailable(const std::string &name, const std::string &reason) {
+  return text("\"{1}\" cannot be changed with the present settings of the job: the panel has "
+              "switched it off.")
+             .with(name) +
+         " " +
+         (reason.empty() ? text("The back side may have no offsets of its own (--back on).").str()
+                         : reason);
 }
 const Text kNoSwitch = text("No panel has exactly one checkbox for --back.");
-const Text kSwitchUnavailable = text("The checkbox cannot be changed with the present settings "
-                                     "of the job: the panel has switched it "
-                                     "off. Two-sided printing may be off (-o Duplex=...).");
+std::string switchUnavailable(const std::string &reason) {
+  return text("The checkbox cannot be changed with the present settings of the job: the panel has "
+              "switched it off.")
+             .str() +
+         (reason.empty() ? reason : " " + reason);
+}
+const Text kChooseTwoSided = text("Choose it, such as with -o Duplex=DuplexNoTumble.");
+const Text kSwitchBannerPagesOff = text("Switch them off with -o MVBannerPagePrint=False.");
 std::string valueAdjusted(const std::string &name, const std::string &typed,
                           const std::string &shown) {
   return "The panel made \"" + shown + "\" of \"" + typed + "\" for " + name + ".";

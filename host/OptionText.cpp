@@ -23,12 +23,15 @@ std::string quoted(const std::string &value) {
 
 } // namespace
 
+std::string writeOptionArgument(const std::string &name, const std::string &value) {
+  return name + '=' + (needsQuotes(value) ? quoted(value) : value);
+}
+
 std::string writeOptionText(const PrintSettingsStore &settings) {
   std::string text;
   for (int i = 0; i < settings.optionCount(); i++) {
     const cups_option_t &option = settings.options()[i];
-    const std::string value = option.value;
-    text += std::string(option.name) + '=' + (needsQuotes(value) ? quoted(value) : value) + '\n';
+    text += writeOptionArgument(option.name, option.value) + '\n';
   }
   return text;
 }

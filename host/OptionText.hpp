@@ -12,6 +12,9 @@ namespace imageposition {
 /// back to the same entries. A value that it would read differently stands in double quotes.
 std::string writeOptionText(const PrintSettingsStore &settings);
 
+/// "name=value" as `writeOptionText` writes it, without the line's end.
+std::string writeOptionArgument(const std::string &name, const std::string &value);
+
 /// Adds the options of a command-line argument as `lp -o` reads it: "name=value", a bare "name" for
 /// "true", "noname" for "false", several separated by blanks. Throws a `Failure` with
 /// `ExitCode::Usage` for what cannot be an option.

@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,11 +37,11 @@ public:
   /// The checkboxes.
   const std::vector<NSButton *> &switches() const noexcept { return switches_; }
 
-  /// Replaces the content; answers what the field shows afterwards. Throws a `Failure` with
-  /// `ExitCode::Value` when the field is switched off.
-  static std::string type(const Field &field, const std::string &text);
-  /// Clicks it unless it is so already. Throws a `Failure` when it is switched off.
-  static void flip(NSButton *button, bool on);
+  /// Replaces the content; answers what the field shows afterwards. None when the field is switched
+  /// off.
+  static std::optional<std::string> type(const Field &field, const std::string &text);
+  /// Clicks it unless it is so already. False when it would have to, and is switched off.
+  static bool flip(NSButton *button, bool on);
 
 private:
   void collect(NSView *view);

@@ -1,7 +1,5 @@
 #import "host/PanelControls.h"
 
-#include "host/ExitCode.hpp"
-#include "host/Messages.hpp"
 #import "platform/TextBridge.h"
 
 #include <cstdlib>
@@ -74,28 +72,29 @@ std::vector<PanelControls::Field> PanelControls::fieldsNamed(const std::string &
   return beginningSo;
 }
 
-std::string PanelControls::type(const Field &field, const std::string &text) {
+std::optional<std::string> PanelControls::type(const Field &field, const std::string &text) {
   NSWindow *const window = [field.field window];
   // A cell asks the field's editor for its text only once it knows the field, and learns that when
   // it is drawn, which in a window that nobody sees it never is.
   [[field.field cell] setControlView:field.field];
   if (![field.field isEnabled] || ![window makeFirstResponder:field.field])
-    throw Failure(ExitCode::Value, messages::fieldUnavailable(field.name));
+    return std::nullopt;
   NSText *const editor = [field.field currentEditor];
   if (editor == nil)
-    throw Failure(ExitCode::Value, messages::fieldUnavailable(field.name));
+    return std::nullopt;
   replaceContent(editor, text);
   [editor doCommandBySelector:@selector(insertNewline:)];
   [window makeFirstResponder:nil];
   return toText([field.field stringValue]);
 }
 
-void PanelControls::flip(NSButton *button, bool on) {
+bool PanelControls::flip(NSButton *button, bool on) {
   if (([button state] != NSOffState) == on)
-    return;
+    return true;
   if (![button isEnabled])
-    throw Failure(ExitCode::Value, messages::kSwitchUnavailable);
+    return false;
   [button performClick:nil];
+  return true;
 }
 
 } // namespace imageposition

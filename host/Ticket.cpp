@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include <cerrno>
+#include <filesystem>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -38,19 +39,20 @@ std::string textMember(const Json &object, const char *name, const std::string &
   return member->get<std::string>();
 }
 
-std::set<std::string> lockedNames(const Json &object, const std::string &source) {
-  std::set<std::string> names;
-  const auto member = object.find("locked");
+std::vector<std::string> listMember(const Json &object, const char *name,
+                                    const std::string &source) {
+  std::vector<std::string> texts;
+  const auto member = object.find(name);
   if (member == object.end())
-    return names;
+    return texts;
   if (!member->is_array())
-    refuse(source, messages::kTicketLockedNotList);
-  for (const Json &name : *member) {
-    if (!name.is_string())
-      refuse(source, messages::kTicketLockedNotList);
-    names.insert(name.get<std::string>());
+    refuse(source, messages::ticketMemberNotList(name));
+  for (const Json &text : *member) {
+    if (!text.is_string())
+      refuse(source, messages::ticketMemberNotList(name));
+    texts.push_back(text.get<std::string>());
   }
-  return names;
+  return texts;
 }
 
 std::string valueText(const std::string &name, const Json &value, const std::string &source) {
@@ -65,7 +67,8 @@ void readSettings(const Json &object, const std::string &source, PrintSettingsSt
   const auto member = object.find("settings");
   if (member == object.end() || !member->is_object())
     refuse(source, messages::kTicketWithoutSettings);
-  const std::set<std::string> locked = lockedNames(object, source);
+  const std::vector<std::string> names = listMember(object, "locked", source);
+  const std::set<std::string> locked(names.begin(), names.end());
   for (const auto &[name, value] : member->items()) {
     const auto outcome =
         settings.set(name, valueText(name, value, source), locked.count(name) != 0);
@@ -89,7 +92,10 @@ Ticket readTicketText(const std::string &json, const std::string &source) {
     refuse(source, messages::kTicketWithoutSettings);
   Ticket ticket;
   ticket.printer = textMember(object, "printer", source);
-  ticket.document = textMember(object, "document", source);
+  ticket.documents = listMember(object, "documents", source);
+  const std::string document = textMember(object, "document", source);
+  if (!document.empty())
+    ticket.documents.insert(ticket.documents.begin(), document);
   readSettings(object, source, ticket.settings);
   return ticket;
 }
@@ -97,8 +103,10 @@ Ticket readTicketText(const std::string &json, const std::string &source) {
 std::string writeTicketText(const Ticket &ticket) {
   Json object = Json::object();
   object["printer"] = ticket.printer;
-  if (!ticket.document.empty())
-    object["document"] = ticket.document;
+  if (ticket.documents.size() == 1)
+    object["document"] = ticket.documents.front();
+  if (ticket.documents.size() > 1)
+    object["documents"] = ticket.documents;
   Json settings = Json::object();
   Json locked = Json::array();
   for (int i = 0; i < ticket.settings.optionCount(); i++) {
@@ -115,6 +123,11 @@ std::string writeTicketText(const Ticket &ticket) {
 }
 
 std::optional<Ticket> readTicket(const std::string &path) {
+  std::error_code ignored;
+  const auto kind = std::filesystem::status(path, ignored).type();
+  using Type = std::filesystem::file_type;
+  if (kind == Type::fifo || kind == Type::socket || kind == Type::character || kind == Type::block)
+    throw Failure(ExitCode::Ticket, messages::notAnOrdinaryFile(path)); // reading may never end
   errno = 0;
   std::ifstream file(path, std::ios::binary);
   if (!file) {

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace imageposition {
 
@@ -13,11 +14,11 @@ namespace imageposition {
 ///
 ///     { "printer": "...", "document": "...", "locked": ["name"], "settings": { "name": "value" } }
 ///
-/// "settings" alone is required. Values are texts; a whole number is read as its text. "locked"
-/// names settings that panels may not change.
+/// "settings" alone is required; several documents are a list, "documents". Values are texts; a
+/// whole number is read as its text. "locked" names settings that panels may not change.
 struct Ticket {
-  std::string printer;  ///< For the reader's information.
-  std::string document; ///< For the reader's information; may be empty.
+  std::string printer;                ///< For the reader's information.
+  std::vector<std::string> documents; ///< For the reader's information; may be empty.
   PrintSettingsStore settings;
 };
 

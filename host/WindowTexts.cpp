@@ -56,8 +56,13 @@ const Text kNothingToPrint = text(
 std::string sending(const std::string &sent, const std::string &total) {
   return total.empty() ? "Sending: " + sent : "Sending: " + sent + " of " + total;
 }
-std::string jobSent(const std::string &printer, int id) {
-  return "request id is " + printer + "-" + std::to_string(id) + " (1 file(s))";
+std::string jobSent(const std::string &printer, int id, std::size_t files) {
+  return "request id is " + printer + "-" + std::to_string(id) + " (" + std::to_string(files) +
+         " file(s))";
+}
+std::string andMore(const std::string &document, std::size_t others) {
+  // Translators: {2} is the first of several documents, {1} how many others there are.
+  return counted(static_cast<long>(others), "{2} and {1} more", "{2} and {1} more", {document});
 }
 const Text kSendingCancelled = text("Nothing was printed: sending was cancelled.");
 std::string byteCount(unsigned long long bytes) {

@@ -51,7 +51,9 @@ std::string differingValue(const std::string &value, const std::string &usual);
 std::string copiesNotUnderstood(const std::string &typed);
 extern const Text kNothingToPrint;
 std::string sending(const std::string &sent, const std::string &total);
-std::string jobSent(const std::string &printer, int id);
+/// lp's own words, which scripts read.
+std::string jobSent(const std::string &printer, int id, std::size_t files);
+std::string andMore(const std::string &document, std::size_t others);
 extern const Text kSendingCancelled;
 /// "Value" as a person reads a number of bytes.
 std::string byteCount(unsigned long long bytes);

@@ -20,6 +20,7 @@
 #include <filesystem>
 #include <iostream>
 #include <unistd.h>
+#include <utility>
 
 using namespace imageposition;
 
@@ -31,6 +32,19 @@ void checkDocument(const std::string &path) {
   if (isFolder || access(path.c_str(), R_OK) != 0)
     throw Failure(ExitCode::Usage,
                   messages::documentUnreadable(path, systemReason(isFolder ? EISDIR : errno)));
+}
+
+/// For every thread: what CUPS is told by its own calls, it keeps for one thread.
+void takeOverEnvironment(const Arguments &arguments) {
+  const std::pair<const char *, std::string> variables[] = {
+      {"CUPS_SERVER", arguments.server},
+      {"CUPS_USER", arguments.user},
+      {"CUPS_ENCRYPTION", arguments.isEncrypted ? "Required" : ""},
+      {"PRINT_DIALOG_APPEARANCE", arguments.appearance},
+      {"PRINT_DIALOG_TEXT_SCALE", arguments.textScale}};
+  for (const auto &[name, value] : variables)
+    if (!value.empty())
+      setenv(name, value.c_str(), 1);
 }
 
 /// What the window's Print does at its end.
@@ -49,10 +63,7 @@ void finish(DialogJob &job) {
     std::cout << writeRequestText(request);
     return;
   }
-  const SubmittedJob sent = submitJob(request, {job.arguments().document});
-  std::cout << messages::jobSent(request.printer, sent.id) << '\n';
-  if (!sent.note.empty())
-    std::cerr << sent.note << '\n';
+  job.report(submitJob(request, job.documentsToSend()), std::cout, std::cerr);
 }
 
 ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
@@ -67,7 +78,7 @@ ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
     return ExitCode::Plugin;
   if (job.panels().panels().empty())
     throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), job.plugins()));
-  const auto summary = runBatch(job.panels(), arguments.batch, std::cerr);
+  const auto summary = runBatch(job.panels(), job.printer().ppd(), arguments.batch, std::cerr);
   finish(job);
   if (arguments.batch.summary)
     std::cout << writeSummary(summary);
@@ -96,10 +107,10 @@ ExitCode run(const std::vector<std::string> &words) {
     return ExitCode::Done;
   }
   const Arguments &arguments = std::get<Arguments>(request);
-  if (!arguments.server.empty())
-    cupsSetServer(arguments.server.c_str());
-  if (!arguments.document.empty() && arguments.document != "-")
-    checkDocument(arguments.document);
+  takeOverEnvironment(arguments);
+  for (const std::string &path : arguments.documents)
+    if (path != "-")
+      checkDocument(path);
   DialogJob job(arguments);
   setPlatformDefaults();
   return arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);

@@ -41,6 +41,14 @@ TEST(Availability, SaysWhichChoiceIsInTheWay) {
   }
 }
 
+TEST(Availability, AdvisesAboutWhatIsInTheWayAndNothingElse) {
+  EXPECT_EQ(adviceText({true, false}),
+            "Two-sided printing is off. Choose it, such as with -o Duplex=DuplexNoTumble.");
+  EXPECT_EQ(adviceText({false, true}),
+            "Banner pages are on. Switch them off with -o MVBannerPagePrint=False.");
+  EXPECT_EQ(adviceText({}), "");
+}
+
 TEST(Availability, FollowsTheMarkedChoice) {
   TestPpd ppd(TestPpd::option("Duplex", {"DuplexNoTumble", "None"}));
   EXPECT_TRUE(availabilityOf(ppd).isAvailable());

@@ -104,14 +104,20 @@ TEST_F(Batch, APrinterThatCannotShiftHasNoPanelAndNothingIsWritten) {
 }
 
 TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreOffToo) {
-  for (const char *off : {"Duplex=None", "MVBannerPagePrint=True"}) {
+  const struct {
+    const char *off;
+    const char *reason;
+  } rows[] = {{"Duplex=None", "off. Two-sided printing is off. Choose"},
+              {"MVBannerPagePrint=True", "off. Banner pages are on. Switch"}};
+  for (const auto &[off, reason] : rows) {
     SCOPED_TRACE(off);
     auto result = batch(shift, {"-o", off, "--set", "FrontLRM=1"});
     EXPECT_EQ(result.status, kValue);
-    EXPECT_THAT(result.errors, HasSubstr("Two-sided printing may be off"));
+    EXPECT_THAT(result.errors, HasSubstr(reason));
     EXPECT_THAT(result.output, IsEmpty());
     result = batch(shift, {"-o", off, "--back", "on"});
     EXPECT_EQ(result.status, kValue);
+    EXPECT_THAT(result.errors, HasSubstr(reason));
     result = batch(shift, {"-o", off, "--summary"});
     EXPECT_EQ(result.status, kDone);
     EXPECT_THAT(result.output, HasSubstr("Not available with the present settings."));
@@ -119,7 +125,9 @@ TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreOffToo) {
 }
 
 TEST_F(Batch, TheBackSidesFieldsNeedTheCheckbox) {
-  EXPECT_EQ(batch(shift, {"--set", "BackLRM=1"}).status, kValue);
+  const auto result = batch(shift, {"--set", "BackLRM=1"});
+  EXPECT_EQ(result.status, kValue);
+  EXPECT_THAT(result.errors, HasSubstr("off. The back side may have"));
   EXPECT_EQ(batch(shift, {"--set", "BackLRM=1", "--back", "on"}).status, kDone);
 }
 
@@ -183,6 +191,15 @@ TEST_F(Batch, ADocumentIsNamedInTheTicket) {
   EXPECT_EQ(result.status, kDone);
   EXPECT_THAT(contentOf(folder.path("job.json")), HasSubstr("two-sided.pdf"));
   EXPECT_EQ(batch(shift, {folder.path("missing.pdf")}).status, kUsage);
+}
+
+TEST_F(Batch, SeveralDocumentsAreNamedInTheTicketAndEachIsLookedAt) {
+  const std::string first = sample("two-sided.pdf"), second = folder.write("a.txt", "text");
+  const auto result = batch(shift, {"-s", "--ticket", folder.path("job.json"), first, second});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, IsEmpty());
+  EXPECT_THAT(contentOf(folder.path("job.json")), HasSubstr("\"" + first + "\",\n    \"" + second));
+  EXPECT_EQ(batch(shift, {first, folder.path("missing.pdf")}).status, kUsage);
 }
 
 TEST_F(Batch, EachKindOfTroubleHasItsStatus) {

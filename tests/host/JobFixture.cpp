@@ -32,7 +32,12 @@ struct Printers {
         folder.write("bin/record", "#!/bin/sh\n"
                                    "record=" +
                                        records +
-                                       "/$1\n"
+                                       "/$1.1\n"
+                                       "number=1\n"
+                                       "while [ -e \"$record\" ]; do\n"
+                                       "  number=$((number + 1))\n"
+                                       "  record=${record%.*}.$number\n"
+                                       "done\n"
                                        "mkdir \"$record.part\"\n"
                                        "cat ${6:+\"$6\"} | wc -c "
                                        ">\"$record.part/bytes\"\n"
@@ -79,7 +84,9 @@ std::map<std::string, std::string> parsedOptions(const std::string &text) {
   return parsed;
 }
 
-std::string recordOf(int job) { return printers->folder.path("printed/" + std::to_string(job)); }
+std::string recordOf(int job, int document) {
+  return printers->folder.path("printed/" + std::to_string(job) + "." + std::to_string(document));
+}
 
 } // namespace
 
@@ -149,12 +156,14 @@ int JobFixture::printedCount() {
   return count;
 }
 
-bool JobFixture::hasPrinted(int job) { return std::filesystem::exists(recordOf(job)); }
+bool JobFixture::hasPrinted(int job, int document) {
+  return std::filesystem::exists(recordOf(job, document));
+}
 
-PrintedJob JobFixture::printed(int job) {
+PrintedJob JobFixture::printed(int job, int document) {
   PrintedJob result;
-  EXPECT_TRUE(comesTrue([=] { return hasPrinted(job); })) << cups().log();
-  const std::string record = recordOf(job);
+  EXPECT_TRUE(comesTrue([=] { return hasPrinted(job, document); })) << cups().log();
+  const std::string record = recordOf(job, document);
   result.arguments = splitAtNuls(contentOf(record + "/arguments"));
   if (result.arguments.size() < 5)
     return result;

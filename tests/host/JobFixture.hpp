@@ -42,11 +42,11 @@ protected:
   /// A document that CUPS takes for PDF.
   std::string document(std::size_t size = 1000) const;
   /// Waits until it has been printed; fails the test when it is not.
-  static PrintedJob printed(int job);
+  static PrintedJob printed(int job, int document = 1);
   /// Of all jobs that ever were in this test and are not finished.
   static std::string waitingJobs() { return command({"lpstat", "-o"}); }
-  static bool hasPrinted(int job);
-  /// Jobs of this test whose document has reached the filter.
+  static bool hasPrinted(int job, int document = 1);
+  /// Documents of this test that have reached the filter.
   static int printedCount();
   /// Submits and expects a refusal.
   static SubmissionFailure refusal(const JobRequest &request, const std::string &path,

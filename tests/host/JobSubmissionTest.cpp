@@ -398,4 +398,71 @@ TEST_F(Job, ThatWaitsForStandardInputCanBeCancelled) {
   EXPECT_THROW(submission.result(), SubmissionFailure);
 }
 
+TEST_F(Job, OfSeveralDocumentsPrintsThemInTheirOrder) {
+  StandardInput input;
+  input.write("%PDF-1.4\n");
+  input.finish();
+  JobRequest request = requestFor();
+  request.settings.set("LeftRightMargin", "-3");
+  const std::string first = document(1000);
+  const std::string last = folder.path("last.pdf");
+  std::filesystem::copy_file(document(2000), last);
+  std::filesystem::resize_file(first, 1000);
+  const int job = submitJob(request, {first, "-", last}).id;
+  const std::size_t sizes[] = {1000, 9, 2000};
+  for (int i = 0; i < 3; i++) {
+    const PrintedJob print = printed(job, i + 1);
+    EXPECT_EQ(print.bytes, sizes[i]);
+    EXPECT_EQ(print.arguments[2], "letter");
+    EXPECT_THAT(print.options, Contains(Pair("LeftRightMargin", "-3")));
+  }
+  EXPECT_EQ(cups().jobAttribute(job, "number-of-documents"), "3");
+  EXPECT_TRUE(comesTrue([=] { return cups().jobAttribute(job, "job-state") == "completed"; }));
+}
+
+TEST_F(Job, ProgressIsThatOfAllDocuments) {
+  const std::string path = document(1000);
+  JobProgress last;
+  submitJob(requestFor(), {path, path}, [&](const JobProgress &progress) {
+    EXPECT_EQ(progress.total, 2000u);
+    EXPECT_GE(progress.sent, last.sent);
+    last = progress;
+    return true;
+  });
+  EXPECT_EQ(last.sent, 2000u);
+}
+
+TEST_F(Job, WithAnEmptyDocumentAmongOthersIsRefusedBeforeCupsHearsOfIt) {
+  const std::string empty = folder.write("empty.pdf", "");
+  const int before = submitJob(requestFor(), {document()}).id;
+  try {
+    submitJob(requestFor(), {document(), empty});
+    ADD_FAILURE();
+  } catch (const SubmissionFailure &failure) {
+    EXPECT_EQ(failure.problem(), JobProblem::Document);
+    EXPECT_THAT(failure.what(), HasSubstr("empty.pdf\" is empty"));
+  }
+  EXPECT_EQ(submitJob(requestFor(), {document()}).id, before + 1);
+}
+
+TEST_F(Job, WhoseLaterDocumentFailsIsTakenBack) {
+  StandardInput input; // nothing comes
+  input.finish();
+  try {
+    submitJob(requestFor(), {document(), "-"});
+    ADD_FAILURE();
+  } catch (const SubmissionFailure &failure) {
+    EXPECT_EQ(failure.problem(), JobProblem::Document);
+  }
+  EXPECT_THAT(waitingJobs(), IsEmpty());
+}
+
+TEST_F(Job, ThatIsRawReachesThePrinterAsItIs) {
+  JobRequest request = requestFor();
+  request.settings.set("raw", "true");
+  const int job = submitJob(request, {document()}).id;
+  EXPECT_TRUE(comesTrue([=] { return cups().jobAttribute(job, "job-state") == "completed"; }));
+  EXPECT_FALSE(hasPrinted(job)); // no filter saw it
+}
+
 } // namespace

@@ -1,5 +1,7 @@
 #include "tests/host/PrivateCups.hpp"
 
+#include <cups/cups.h>
+
 #include <chrono>
 #include <thread>
 #include <unistd.h>
@@ -29,6 +31,21 @@ void PrivateCups::start() {
 
 ProcessResult PrivateCups::run(const std::vector<std::string> &words) const {
   return runProcess(words, environment());
+}
+
+std::string PrivateCups::jobAttribute(int job, const char *name) const {
+  http_t *const http = httpConnect2(socket().c_str(), 0, nullptr, AF_UNSPEC,
+                                    HTTP_ENCRYPTION_IF_REQUESTED, 1, 30000, nullptr);
+  ipp_t *const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  const std::string uri = "ipp://localhost/jobs/" + std::to_string(job);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+  ipp_t *const answer = cupsDoRequest(http, request, "/jobs");
+  char text[1024] = "";
+  if (ipp_attribute_t *const attribute = ippFindAttribute(answer, name, IPP_TAG_ZERO))
+    ippAttributeString(attribute, text, sizeof text);
+  ippDelete(answer);
+  httpClose(http);
+  return text;
 }
 
 std::string PrivateCups::log() const {

@@ -39,6 +39,8 @@ public:
   }
   /// Runs one of CUPS's commands against it.
   ProcessResult run(const std::vector<std::string> &words) const;
+  /// What it knows of a job, as text; empty for nothing.
+  std::string jobAttribute(int job, const char *name) const;
   /// What it wrote about itself.
   std::string log() const;
 

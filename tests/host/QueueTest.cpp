@@ -87,4 +87,68 @@ TEST_F(Queue, NothingOfItsDescriptionIsLeftBehind) {
     EXPECT_THAT(contentOf(entry.path().string()), testing::Not(HasSubstr("PPD-Adobe")));
 }
 
+/// The number behind "request id is office-".
+int jobIn(const std::string &output) {
+  const std::size_t dash = output.find("office-");
+  return dash == std::string::npos ? 0 : std::atoi(output.c_str() + dash + 7);
+}
+
+TEST_F(Queue, AnswersAsLpDoes) {
+  const std::string document = sample("two-sided.pdf");
+  const Words lp{"lp", "-d", "office", "-H", "hold", "-t", "a", document, document};
+  const auto theirs = cups->run(lp);
+  const auto ours = print("office", {"-H", "hold", "-t", "a", document, document});
+  ASSERT_EQ(ours.status, kDone) << testing::PrintToString(ours);
+  EXPECT_EQ(ours.output,
+            "request id is office-" + std::to_string(jobIn(ours.output)) + " (2 file(s))\n");
+  EXPECT_EQ(theirs.output,
+            "request id is office-" + std::to_string(jobIn(ours.output) - 1) + " (2 file(s))\n");
+  cups->run({"cancel", "-a", "-x"});
+}
+
+TEST_F(Queue, AJobIsToCupsWhatLpsIs) {
+  const std::string document = sample("two-sided.pdf");
+  const std::vector<Words> lines = {
+      {document},
+      {"-H", "hold", document, document, document},
+      {"-H", "night", "-n", "2", "-q", "70", "-P", "1-2", "-U", "mary", document},
+      {"-H", "23:59", "-n", "2", "-o", "copies=4 sides=one-sided", "-t", "Annual report", document},
+      {"-H", "immediate", "-o", "number-up=2", "-o", "nocollate", "--", document}};
+  for (const Words &line : lines) {
+    SCOPED_TRACE(testing::PrintToString(line));
+    cups->run({"cupsdisable", "office"});
+    Words lp{"lp", "-d", "office"};
+    lp.insert(lp.end(), line.begin(), line.end());
+    const int theirs = jobIn(cups->run(lp).output);
+    const auto result = print("office", line);
+    const int ours = jobIn(result.output);
+    ASSERT_NE(theirs, 0);
+    ASSERT_NE(ours, 0) << testing::PrintToString(result);
+    for (const char *name :
+         {"job-name", "number-of-documents", "job-hold-until", "job-priority", "copies", "sides",
+          "page-ranges", "number-up", "job-originating-user-name", "job-state"})
+      EXPECT_EQ(cups->jobAttribute(ours, name), cups->jobAttribute(theirs, name)) << name;
+    cups->run({"cancel", "-a", "-x"});
+  }
+}
+
+TEST_F(Queue, SilenceAndMailSayNothingOfTheJob) {
+  const std::string document = sample("two-sided.pdf");
+  for (const char *option : {"-s", "-m"}) {
+    const auto result = print("office", {option, "-H", "hold", document});
+    EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+    EXPECT_EQ(result.output + result.errors, "");
+    EXPECT_THAT(cups->run({"lpstat", "-o"}).output, HasSubstr("office-"));
+    cups->run({"cancel", "-a", "-x"});
+  }
+}
+
+TEST_F(Queue, AServerThatIsNamedServesTheWholeProgram) {
+  const auto result = dialog(
+      {"--batch", "-h", cups->socket(), "-d", "office", "-H", "hold", sample("two-sided.pdf")},
+      {"CUPS_SERVER=/nonexistent/cups.sock"});
+  EXPECT_NE(jobIn(result.output), 0) << testing::PrintToString(result);
+  cups->run({"cancel", "-a", "-x"});
+}
+
 } // namespace

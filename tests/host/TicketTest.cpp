@@ -39,7 +39,7 @@ template <typename Act> std::string failureOf(Act &&act) {
 TEST(Ticket, IsReadBackAsItWasWritten) {
   const Ticket read = readTicketText(writeTicketText(sample()), "job.json");
   EXPECT_EQ(read.printer, "Sample");
-  EXPECT_EQ(read.document, "");
+  EXPECT_THAT(read.documents, testing::IsEmpty());
   EXPECT_EQ(read.settings.optionCount(), 2);
   EXPECT_THAT(read.settings.get("LeftRightMargin"), StrEq("-3"));
   EXPECT_TRUE(read.settings.isLocked("Duplex"));
@@ -55,13 +55,23 @@ TEST(Ticket, KeepsEveryKindOfText) {
 
 TEST(Ticket, ADocumentNameInAnotherEncodingDoesNotSpoilIt) {
   Ticket ticket = sample();
-  ticket.document = "\xE4.pdf";
+  ticket.documents = {"\xE4.pdf"};
   EXPECT_EQ(readTicketText(writeTicketText(ticket), "t").settings.optionCount(), 2);
 }
 
 TEST(Ticket, AWholeNumberIsReadAsItsText) {
   const Ticket read = readTicketText(R"({"settings": {"LeftRightMargin": -3}})", "t");
   EXPECT_THAT(read.settings.get("LeftRightMargin"), StrEq("-3"));
+}
+
+TEST(Ticket, OneDocumentIsATextAndSeveralAreAList) {
+  Ticket ticket;
+  ticket.documents = {"a.pdf"};
+  EXPECT_THAT(writeTicketText(ticket), HasSubstr(R"("document": "a.pdf")"));
+  EXPECT_EQ(readTicketText(writeTicketText(ticket), "t").documents, ticket.documents);
+  ticket.documents = {"a.pdf", "-", "b.pdf"};
+  EXPECT_THAT(writeTicketText(ticket), HasSubstr("\"documents\": ["));
+  EXPECT_EQ(readTicketText(writeTicketText(ticket), "t").documents, ticket.documents);
 }
 
 TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
@@ -83,6 +93,7 @@ TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
       {R"({"settings": {"a": "1", "A": "2"}, "locked": ["a"]})", "there twice"},
       {R"({"settings": {}, "locked": "a"})", "list of names"},
       {R"({"settings": {}, "locked": [1]})", "list of names"},
+      {R"({"settings": {}, "documents": "a"})", "\"documents\" is not a list"},
       {R"({"settings": {}, "printer": 1})", "\"printer\" is not a text"},
   };
   for (const auto &row : rows) {
@@ -100,6 +111,13 @@ TEST(Ticket, DeeplyNestedTextIsRefusedAndNothingWorse) {
 TEST(TicketFile, NothingThereIsNoTicket) {
   TemporaryFolder folder;
   EXPECT_FALSE(readTicket(folder.path("job.json")));
+}
+
+TEST(TicketFile, APipeIsRefusedBeforeItIsRead) {
+  TemporaryFolder folder;
+  ASSERT_EQ(mkfifo(folder.path("job.json").c_str(), 0600), 0);
+  EXPECT_THAT(failureOf([&] { readTicket(folder.path("job.json")); }),
+              HasSubstr("not an ordinary file"));
 }
 
 TEST(TicketFile, AFolderIsNoTicket) {
