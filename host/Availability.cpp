@@ -4,7 +4,6 @@
 #include "host/PreviewTexts.hpp"
 
 #include <cstring>
-#include <initializer_list>
 
 namespace imageposition {
 namespace {
@@ -12,14 +11,6 @@ namespace {
 bool isMarked(ppd_file_t *ppd, const char *option, const char *keyword) {
   const ppd_choice_t *const choice = ppdFindMarkedChoice(ppd, option);
   return choice != nullptr && std::strcmp(choice->choice, keyword) == 0;
-}
-
-/// With blanks between those that say something.
-std::string sentences(std::initializer_list<std::string> parts) {
-  std::string text;
-  for (const std::string &part : parts)
-    text += (text.empty() || part.empty() ? "" : " ") + part;
-  return text;
 }
 
 } // namespace
@@ -32,15 +23,16 @@ Availability availabilityOf(ppd_file_t *ppd) {
 }
 
 std::string reasonText(const Availability &availability) {
-  return sentences({availability.oneSided ? messages::kTwoSidedOff.str() : "",
-                    availability.bannerPages ? messages::kBannerPagesOn.str() : ""});
+  return messages::sentences({availability.oneSided ? messages::kTwoSidedOff.str() : "",
+                              availability.bannerPages ? messages::kBannerPagesOn.str() : ""});
 }
 
 std::string adviceText(const Availability &availability) {
-  return sentences({availability.oneSided ? messages::kTwoSidedOff.str() : "",
-                    availability.oneSided ? messages::kChooseTwoSided.str() : "",
-                    availability.bannerPages ? messages::kBannerPagesOn.str() : "",
-                    availability.bannerPages ? messages::kSwitchBannerPagesOff.str() : ""});
+  return messages::sentences(
+      {availability.oneSided ? messages::kTwoSidedOff.str() : "",
+       availability.oneSided ? messages::kChooseTwoSided.str() : "",
+       availability.bannerPages ? messages::kBannerPagesOn.str() : "",
+       availability.bannerPages ? messages::kSwitchBannerPagesOff.str() : ""});
 }
 
 } // namespace imageposition

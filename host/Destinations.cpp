@@ -2,6 +2,7 @@
 
 #include "host/CupsConnection.hpp"
 #include "host/JobMessages.hpp"
+#include "host/OptionMessages.hpp"
 #include "host/PasswordQuestion.hpp"
 
 #include <algorithm>
@@ -19,42 +20,43 @@ using Clock = std::chrono::steady_clock;
 
 struct ReasonWords {
   const char *reason; // without the severity at its end
-  const char *words;  // empty for what tells a person nothing
+  Text words;
 };
+
+/// These tell a person nothing.
+constexpr const char *kSilentReasons[] = {"none", "other", "com.apple.print.recoverable"};
 
 /// The keywords of RFC 8011, 5.4.12, and those of CUPS's own.
 constexpr ReasonWords kReasonWords[] = {
-    {"none", ""},
-    {"other", ""},
-    {"com.apple.print.recoverable", ""},
-    {"paused", "paused"},
-    {"moving-to-paused", "being paused"},
-    {"media-empty", "out of paper"},
-    {"media-low", "little paper left"},
-    {"media-needed", "needs paper"},
-    {"media-jam", "paper jam"},
-    {"input-tray-missing", "a paper tray is missing"},
-    {"output-area-full", "output tray full"},
-    {"output-area-almost-full", "output tray nearly full"},
-    {"output-tray-missing", "the output tray is missing"},
-    {"toner-low", "little toner left"},
-    {"toner-empty", "out of toner"},
-    {"marker-supply-low", "little ink or toner left"},
-    {"marker-supply-empty", "out of ink or toner"},
-    {"marker-waste-full", "waste container full"},
-    {"marker-waste-almost-full", "waste container nearly full"},
-    {"cover-open", "a cover is open"},
-    {"door-open", "a door is open"},
-    {"interlock-open", "a cover is open"},
-    {"offline", "not connected"},
-    {"connecting-to-device", "connecting"},
-    {"timed-out", "not responding"},
-    {"shutdown", "switched off"},
-    {"stopping", "stopping"},
-    {"stopped-partly", "partly stopped"},
-    {"spool-area-full", "its memory is full"},
-    {"cups-missing-filter", "a part of its driver is missing"},
-    {"cups-insecure-filter", "a part of its driver has unsafe rights"},
+    // Translators: what is the matter with a printer; it follows its state, "Stopped: ".
+    {"paused", text("paused")},
+    {"moving-to-paused", text("being paused")},
+    {"media-empty", text("out of paper")},
+    {"media-low", text("little paper left")},
+    {"media-needed", text("needs paper")},
+    {"media-jam", text("paper jam")},
+    {"input-tray-missing", text("a paper tray is missing")},
+    {"output-area-full", text("output tray full")},
+    {"output-area-almost-full", text("output tray nearly full")},
+    {"output-tray-missing", text("the output tray is missing")},
+    {"toner-low", text("little toner left")},
+    {"toner-empty", text("out of toner")},
+    {"marker-supply-low", text("little ink or toner left")},
+    {"marker-supply-empty", text("out of ink or toner")},
+    {"marker-waste-full", text("waste container full")},
+    {"marker-waste-almost-full", text("waste container nearly full")},
+    {"cover-open", text("a cover is open")},
+    {"door-open", text("a door is open")},
+    {"interlock-open", text("a cover is open")},
+    {"offline", text("not connected")},
+    {"connecting-to-device", text("connecting")},
+    {"timed-out", text("not responding")},
+    {"shutdown", text("switched off")},
+    {"stopping", text("stopping")},
+    {"stopped-partly", text("partly stopped")},
+    {"spool-area-full", text("its memory is full")},
+    {"cups-missing-filter", text("a part of its driver is missing")},
+    {"cups-insecure-filter", text("a part of its driver has unsafe rights")},
 };
 
 std::string withoutSeverity(const std::string &reason) {
@@ -67,6 +69,9 @@ std::string withoutSeverity(const std::string &reason) {
 
 std::string wordsFor(const std::string &reason) {
   std::string bare = withoutSeverity(reason);
+  for (const char *silent : kSilentReasons)
+    if (bare == silent)
+      return {};
   for (const ReasonWords &known : kReasonWords)
     if (bare == known.reason)
       return known.words;
@@ -226,15 +231,15 @@ bool operator==(const DestinationList &left, const DestinationList &right) {
 }
 
 std::string stateReasonsInWords(const std::string &reasons) {
-  std::string text;
+  std::string list;
   for (std::size_t start = 0; start < reasons.size();) {
     const std::size_t comma = std::min(reasons.find(',', start), reasons.size());
     const std::string words = wordsFor(reasons.substr(start, comma - start));
-    if (!words.empty() && text.find(words) == std::string::npos)
-      text += (text.empty() ? "" : ", ") + words;
+    if (!words.empty() && list.find(words) == std::string::npos)
+      list = list.empty() ? words : messages::inOrder(list, words);
     start = comma + 1;
   }
-  return text;
+  return list;
 }
 
 } // namespace imageposition

@@ -1,14 +1,23 @@
 #include "host/Messages.hpp"
 
+#include "host/OptionMessages.hpp"
+#include "host/PreviewTexts.hpp"
+
 namespace imageposition::messages {
+
+std::string because(std::string reason) {
+  while (!reason.empty() && (reason.back() == '.' || reason.back() == ' '))
+    reason.pop_back();
+  return reason.empty() ? reason : text(" ({1})").with(reason);
+}
 
 namespace {
 
 std::string join(const std::vector<std::string> &words) {
-  std::string text;
+  std::string list;
   for (const std::string &word : words)
-    text += (text.empty() ? "" : ", ") + word;
-  return text;
+    list = list.empty() ? word : inOrder(list, word);
+  return list;
 }
 
 /// Reasons of libraries come with and without a full stop.
@@ -94,13 +103,6 @@ const char *const kHelpFooter =
     "  9  CUPS did not take the job\n"
     "In batch, nothing is written unless the status is 0.";
 
-const Text kWindowTitle = text("Print");
-const Text kPrinterLabel = text("Printer:");
-const Text kDocumentLabel = text("Document:");
-const Text kPaneLabel = text("Settings:");
-const Text kSummaryPane = text("Summary");
-const Text kPrintButton = text("Print");
-const Text kCancelButton = text("Cancel");
 const Text kNothingToSummarize = text("Not available with the present settings.");
 std::string summaryLine(const std::string &title, const std::string &value) {
   return text("{1}: {2}").with(title, value);
@@ -110,8 +112,9 @@ const Text kNoPanelHere = text("No plug-in has a panel for this printer.");
 const char *const kProgram = "print-dialog: ";
 
 std::string usage(const std::string &mistake) {
-  return mistake + (mistake.empty() || mistake.back() == '.' ? "" : ".") +
-         " See print-dialog --help.";
+  const std::string sentence =
+      mistake.empty() || mistake.back() == '.' ? mistake : text("{1}.").with(mistake);
+  return text("{1} See print-dialog --help.").with(sentence);
 }
 const Text kTwoPrintersNamed =
     text("Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.");
@@ -136,82 +139,94 @@ std::string badTextScale(const std::string &scale) {
   return text("--text-scale takes a number above 0, such as 1.25, and not \"{1}\".").with(scale);
 }
 std::string argumentNotText(const std::string &argument) {
-  return "The argument \"" + argument +
-         "\" is not UTF-8 text. Give the file another name, or name it by a link.";
+  return text("The argument \"{1}\" is not UTF-8 text. Give the file another name, or name it by a "
+              "link.")
+      .with(argument);
 }
-std::string emptyText(const std::string &option) { return option + " was given an empty text."; }
+std::string emptyText(const std::string &option) {
+  return text("{1} was given an empty text.").with(option);
+}
 std::string badEntry(const std::string &argument) {
-  return "--set takes NAME=TEXT, for example --set FrontLRM=-3, and not \"" + argument + "\".";
+  return text("--set takes NAME=TEXT, for example --set FrontLRM=-3, and not \"{1}\".")
+      .with(argument);
 }
 std::string badSwitch(const std::string &argument) {
-  return "--back takes \"on\" or \"off\", and not \"" + argument + "\".";
+  return text("--back takes \"on\" or \"off\", and not \"{1}\".").with(argument);
 }
 std::string badOption(const std::string &argument) {
-  return "\"" + argument + "\" is no job option; write it as NAME=VALUE.";
+  return text("\"{1}\" is no job option; write it as NAME=VALUE.").with(argument);
 }
 std::string optionLocked(const std::string &name) {
-  return "The ticket locks \"" + name + "\". Leave out -o " + name + ", or use another ticket.";
+  return text("The ticket locks \"{1}\". Leave out -o {1}, or use another ticket.").with(name);
 }
 std::string ticketNamesOptions(const std::string &path) {
-  return "--ticket takes the JSON file; \"" + path +
-         "\" is named like the file that is written beside it. Give it the ending .json.";
+  return text("--ticket takes the JSON file; \"{1}\" is named like the file that is written beside "
+              "it. Give it the ending .json.")
+      .with(path);
 }
 std::string documentUnreadable(const std::string &path, const std::string &reason) {
-  return "The document \"" + path + "\" cannot be read: " + reason +
-         ". Check the name and its rights.";
+  return text("The document \"{1}\" cannot be read: {2}. Check the name and its rights.")
+      .with(path, reason);
 }
 
 std::string ppdUnreadable(const std::string &path, const std::string &reason) {
-  return "The printer description \"" + path + "\" cannot be read: " + reason +
-         ". Check the name and its rights.";
+  return text("The printer description \"{1}\" cannot be read: {2}. Check the name and its rights.")
+      .with(path, reason);
 }
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason) {
-  return "\"" + path + "\" is not a usable printer description: line " + std::to_string(line) +
-         ": " + reason + ". Name a PPD file; cupstestppd tells more about one.";
+  return text("\"{1}\" is not a usable printer description: line {2}: {3}. Name a PPD file; "
+              "cupstestppd tells more about one.")
+      .with(path, line, reason);
 }
-std::string ppdOfQueue(const std::string &queue) { return "PPD of queue " + queue; }
+std::string ppdOfQueue(const std::string &queue) { return text("PPD of queue {1}").with(queue); }
 const Text kNoDefaultPrinter = text("There is no default printer. Name one with -d QUEUE (lpstat "
                                     "-e lists the queues) or --ppd FILE.");
 std::string cupsUnreachable(const std::string &server, const std::string &queue) {
-  return "CUPS, which knows the queue \"" + queue + "\", cannot be reached at \"" + server +
-         "\". Start it, or set CUPS_SERVER; --ppd names a description file instead.";
+  return text("CUPS, which knows the queue \"{1}\", cannot be reached at \"{2}\". Start it, or set "
+              "CUPS_SERVER; --ppd names a description file instead.")
+      .with(queue, server);
 }
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
-  return "CUPS has no printer description for the queue \"" + queue + "\": " + withoutStop(reason) +
-         ". lpstat -e lists the queues; --ppd names a description file instead.";
+  return text("CUPS has no printer description for the queue \"{1}\": {2}. lpstat -e lists the "
+              "queues; --ppd names a description file instead.")
+      .with(queue, withoutStop(reason));
 }
 
 std::string ticketUnreadable(const std::string &path, const std::string &reason) {
-  return "The ticket \"" + path + "\" cannot be read: " + reason +
-         ". Check the name and its rights.";
+  return text("The ticket \"{1}\" cannot be read: {2}. Check the name and its rights.")
+      .with(path, reason);
 }
 std::string ticketMalformed(const std::string &source, const std::string &reason) {
-  return "\"" + source + "\" is not a usable ticket: " + reason +
-         ". Correct it, or remove it to start from the printer's defaults.";
+  return text("\"{1}\" is not a usable ticket: {2}. Correct it, or remove it to start from the "
+              "printer's defaults.")
+      .with(source, reason);
 }
-std::string ticketNotJson(const std::string &reason) { return "it is not JSON (" + reason + ")"; }
+std::string ticketNotJson(const std::string &reason) {
+  return text("it is not JSON ({1})").with(reason);
+}
 std::string ticketMemberNotText(const std::string &name) {
-  return "\"" + name + "\" is not a text";
+  return text("\"{1}\" is not a text").with(name);
 }
 std::string ticketValueNotText(const std::string &name) {
-  return "the setting \"" + name + "\" is neither a text nor a whole number";
+  return text("the setting \"{1}\" is neither a text nor a whole number").with(name);
 }
 std::string ticketEntryUnusable(const std::string &name) {
-  return "the setting \"" + name + "\" has a name or value that no print job can carry";
+  return text("the setting \"{1}\" has a name or value that no print job can carry").with(name);
 }
 std::string ticketEntryRepeated(const std::string &name) {
-  return "the setting \"" + name + "\" is locked and there twice";
+  return text("the setting \"{1}\" is locked and there twice").with(name);
 }
 std::string ticketMemberNotList(const std::string &name) {
   return text("\"{1}\" is not a list of names").with(name);
 }
 const Text kTicketWithoutSettings = text("it has no object \"settings\"");
 std::string notAnOrdinaryFile(const std::string &path) {
-  return "\"" + path +
-         "\" is not an ordinary file, so that no ticket can stand there. Choose another name.";
+  return text("\"{1}\" is not an ordinary file, so that no ticket can stand there. Choose another "
+              "name.")
+      .with(path);
 }
 std::string fileUnwritable(const std::string &path, const std::string &reason) {
-  return "\"" + path + "\" cannot be written: " + reason + ". Choose another place.";
+  return text("\"{1}\" cannot be written: {2}. Choose another place.").with(path, reason);
 }
 
 const Text kNoDisplay = text("There is no display, and no Xvfb could be started for the panel's "
@@ -219,101 +234,110 @@ const Text kNoDisplay = text("There is no display, and no Xvfb could be started 
                              "Xvfb (Debian: xvfb).");
 std::string displayUnreachable(const std::string &name) {
   return name.empty()
-             ? "There is no display to show the window on. Set DISPLAY, or use --batch."
-             : "The display \"" + name +
-                   "\" cannot be reached. Set DISPLAY to one that can, or use --batch with "
-                   "DISPLAY unset.";
+             ? text("There is no display to show the window on. Set DISPLAY, or use --batch.").str()
+             : text("The display \"{1}\" cannot be reached. Set DISPLAY to one that can, or use "
+                    "--batch with DISPLAY unset.")
+                   .with(name);
 }
 
 std::string pluginMissing(const std::string &path) {
-  return "The plug-in \"" + path + "\" does not exist. Check the path.";
+  return text("The plug-in \"{1}\" does not exist. Check the path.").with(path);
 }
 std::string pluginNotBundle(const std::string &path) {
-  return "\"" + path +
-         "\" is not a plug-in: it is no bundle with code in it. Check the path, or install it "
-         "again.";
+  return text("\"{1}\" is not a plug-in: it is no bundle with code in it. Check the path, or "
+              "install it again.")
+      .with(path);
 }
 const Text kCodeCutShort = text("its end is missing");
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
-  return "The code of the plug-in \"" + path + "\" could not be loaded" +
-         (reason.empty() ? std::string() : " (" + reason + ")") +
-         "; it may be damaged or made for another system. Install it again.";
+  return text("The code of the plug-in \"{1}\" could not be loaded{2}; it may be damaged or made "
+              "for another system. Install it again.")
+      .with(path, because(reason));
 }
 std::string pluginWithoutClass(const std::string &path, const std::string &className) {
-  return "The plug-in \"" + path + "\" lacks its principal class" +
-         (className.empty() ? std::string() : " \"" + className + "\"") + ". Install it again.";
+  if (className.empty())
+    return text("The plug-in \"{1}\" lacks its principal class. Install it again.").with(path);
+  return text("The plug-in \"{1}\" lacks its principal class \"{2}\". Install it again.")
+      .with(path, className);
 }
 std::string pluginClassTaken(const std::string &path, const std::string &className) {
-  return "The plug-in \"" + path + "\" was not loaded: its class \"" + className +
-         "\" is in use already, perhaps by another copy. Remove one of them.";
+  return text("The plug-in \"{1}\" was not loaded: its class \"{2}\" is in use already, perhaps by "
+              "another copy. Remove one of them.")
+      .with(path, className);
 }
 std::string pluginWithoutOperation(const std::string &path, const std::string &operation) {
-  return "The plug-in \"" + path + "\" is no print-dialog extension: its principal class lacks \"" +
-         operation + "\". Ask its maker for another version.";
+  return text("The plug-in \"{1}\" is no print-dialog extension: its principal class lacks "
+              "\"{2}\". Ask its maker for another version.")
+      .with(path, operation);
 }
 std::string pluginRefused(const std::string &path) {
-  return "The plug-in \"" + path +
-         "\" could not be loaded: it reports that it cannot start. Install "
-         "it again.";
+  return text("The plug-in \"{1}\" could not be loaded: it reports that it cannot start. Install "
+              "it again.")
+      .with(path);
 }
 std::string pluginRaised(const std::string &path, const std::string &operation,
                          const std::string &what) {
-  return "The plug-in \"" + path + "\" failed in \"" + operation + "\" (" + what +
-         ") and is left out. Ask its maker for another version.";
+  return text("The plug-in \"{1}\" failed in \"{2}\" ({3}) and is left out. Ask its maker for "
+              "another version.")
+      .with(path, operation, what);
 }
 std::string panelNotBuilt(const std::string &path) {
-  return "The panel of the plug-in \"" + path +
-         "\" could not be loaded; a file of it is missing or damaged. Install it again.";
+  return text("The panel of the plug-in \"{1}\" could not be loaded; a file of it is missing or "
+              "damaged. Install it again.")
+      .with(path);
 }
 std::string panelWithoutOperation(const std::string &path, const std::string &operation) {
-  return "A panel of the plug-in \"" + path + "\" cannot be used: it lacks \"" + operation +
-         "\". Ask its maker for another version.";
+  return text("A panel of the plug-in \"{1}\" cannot be used: it lacks \"{2}\". Ask its maker for "
+              "another version.")
+      .with(path, operation);
 }
 std::string panelWithoutView(const std::string &path) {
-  return "A panel of the plug-in \"" + path + "\" has no view. Install it again.";
+  return text("A panel of the plug-in \"{1}\" has no view. Install it again.").with(path);
 }
 std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins) {
   if (plugins.empty())
-    return "No plug-in was found for \"" + printer + "\". Name one with --plugin BUNDLE.";
-  return "No plug-in has a panel for \"" + printer + "\" (asked: " + join(plugins) +
-         "). Choose a printer that supports one, or name another plug-in with --plugin BUNDLE.";
+    return text("No plug-in was found for \"{1}\". Name one with --plugin BUNDLE.").with(printer);
+  return text("No plug-in has a panel for \"{1}\" (asked: {2}). Choose a printer that supports "
+              "one, or name another plug-in with --plugin BUNDLE.")
+      .with(printer, join(plugins));
 }
 std::string panelRefusedJob(const std::string &panel) {
-  return "\"" + panel + "\" does not allow the job to be printed. Look at its settings.";
+  return text("\"{1}\" does not allow the job to be printed. Look at its settings.").with(panel);
 }
 
 std::string noSuchField(const std::string &name, const std::vector<std::string> &known) {
-  return "No panel has an entry field \"" + name + "\"" +
-         (known.empty() ? std::string(".") : "; there are: " + join(known) + ".");
+  if (known.empty())
+    return text("No panel has an entry field \"{1}\".").with(name);
+  return text("No panel has an entry field \"{1}\"; there are: {2}.").with(name, join(known));
 }
 std::string ambiguousField(const std::string &name, const std::vector<std::string> &matches) {
-  return "\"" + name + "\" may mean several entry fields: " + join(matches) +
-         ". Write more of the name.";
+  return text("\"{1}\" may mean several entry fields: {2}. Write more of the name.")
+      .with(name, join(matches));
 }
 std::string fieldUnavailable(const std::string &name, const std::string &reason) {
-  return text("\"{1}\" cannot be changed with the present settings of the job: the panel has "
-              "switched it off.")
-             .with(name) +
-         " " +
-         (reason.empty() ? text("The back side may have no offsets of its own (--back on).").str()
-                         : reason);
+  const std::string offByPanel = text("\"{1}\" cannot be changed with the present settings of the "
+                                      "job: the panel has switched it off.")
+                                     .with(name);
+  if (reason.empty())
+    return sentences(
+        {offByPanel, text("The back side may have no offsets of its own (--back on).")});
+  return sentences({offByPanel, reason});
 }
 const Text kNoSwitch = text("No panel has exactly one checkbox for --back.");
 std::string switchUnavailable(const std::string &reason) {
-  return text("The checkbox cannot be changed with the present settings of the job: the panel has "
-              "switched it off.")
-             .str() +
-         (reason.empty() ? reason : " " + reason);
+  return sentences({text("The checkbox cannot be changed with the present settings of the job: the "
+                         "panel has switched it off."),
+                    reason});
 }
 const Text kChooseTwoSided = text("Choose it, such as with -o Duplex=DuplexNoTumble.");
 const Text kSwitchBannerPagesOff = text("Switch them off with -o MVBannerPagePrint=False.");
 std::string valueAdjusted(const std::string &name, const std::string &typed,
                           const std::string &shown) {
-  return "The panel made \"" + shown + "\" of \"" + typed + "\" for " + name + ".";
+  return text("The panel made \"{3}\" of \"{2}\" for {1}.").with(name, typed, shown);
 }
 
 std::string ticketWritten(const std::string &path, const std::string &optionPath) {
-  return "The job's settings are in " + path + " and " + optionPath + ".";
+  return text("The job's settings are in {1} and {2}.").with(path, optionPath);
 }
 const Text kOutputUnwritable = text("Standard output cannot be written. Send it elsewhere, or name "
                                     "a file with --ticket.");

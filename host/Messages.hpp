@@ -44,16 +44,13 @@ extern const char *const kHelpHelp;
 extern const char *const kHelpFooter;
 
 // The window.
-extern const Text kWindowTitle;
-extern const Text kPrinterLabel;
-extern const Text kDocumentLabel;
-extern const Text kPaneLabel;
-extern const Text kSummaryPane;
-extern const Text kPrintButton;
-extern const Text kCancelButton;
 extern const Text kNothingToSummarize;
 std::string summaryLine(const std::string &title, const std::string &value);
 extern const Text kNoPanelHere;
+
+/// A library's reason, to follow a clause in parentheses: with the space before them, and without
+/// its own full stop. Nothing for nothing.
+std::string because(std::string reason);
 
 // Before a message that ends the program.
 extern const char *const kProgram;

@@ -3,13 +3,16 @@
 namespace imageposition::messages {
 
 std::string inWords(const std::vector<std::string> &parts) {
-  std::string text;
+  std::string list;
   for (std::size_t i = 0; i < parts.size(); i++) {
-    if (i > 0)
-      text += i + 1 == parts.size() ? " and " : ", ";
-    text += parts[i];
+    if (i == 0)
+      list = parts[i];
+    else if (i + 1 == parts.size())
+      list = text("{1} and {2}").with(list, parts[i]);
+    else
+      list = inOrder(list, parts[i]);
   }
-  return text;
+  return list;
 }
 
 std::string inOrder(const std::string &first, const std::string &second) {
@@ -17,83 +20,88 @@ std::string inOrder(const std::string &first, const std::string &second) {
 }
 
 std::string chosenOption(const std::string &option, const std::string &choice) {
-  return "\"" + option + ": " + choice + "\"";
+  return text("\"{1}: {2}\"").with(option, choice);
 }
 
 std::string conflict(const std::vector<std::string> &sides) {
   if (sides.size() == 1)
-    return "The printer cannot do " + sides.front() + ".";
-  return "The printer cannot combine " + inWords(sides) + ".";
+    return text("The printer cannot do {1}.").with(sides.front());
+  return text("The printer cannot combine {1}.").with(inWords(sides));
 }
 std::string conflictProposal(const std::vector<std::string> &changes) {
-  return "Change to " + inWords(changes) + ".";
+  return text("Change to {1}.").with(inWords(changes));
 }
 
 const Text kNoPages = text("No pages are named. Write, for example, 1-3, 7.");
 std::string pagesNotUnderstood(const std::string &part) {
-  return "\"" + part + "\" is no page number. Write pages as, for example, 1-3, 7.";
+  return text("\"{1}\" is no page number. Write pages as, for example, 1-3, 7.").with(part);
 }
 const Text kPagesWithoutNumber = text(
     "A hyphen needs a page number on one side at least. Write, for example, 5- for page 5 and all "
     "that follow.");
 const Text kPageZero = text("Pages are counted from 1. Write, for example, 1-3.");
 std::string pageTooLarge(const std::string &number) {
-  return "Page " + number +
-         " is more than a document can have. Write, for example, 5- for page 5 and all that "
-         "follow.";
+  return text("Page {1} is more than a document can have. Write, for example, 5- for page 5 and "
+              "all that follow.")
+      .with(number);
 }
 std::string pagesBackwards(int first, int last) {
-  const std::string low = std::to_string(last);
-  const std::string high = std::to_string(first);
-  return high + "-" + low + " runs backwards. Write " + low + "-" + high + ".";
+  return text("{1}-{2} runs backwards. Write {2}-{1}.").with(first, last);
 }
 
 std::string presetNameUnusable(const std::string &typed) {
-  return typed.empty() ? "A preset needs a name. Write, for example, Two-sided."
-                       : "\"" + typed +
-                             "\" cannot be the name of a preset. Use letters and digits, for "
-                             "example Two-sided.";
+  if (typed.empty())
+    return text("A preset needs a name. Write, for example, Two-sided.");
+  return text("\"{1}\" cannot be the name of a preset. Use letters and digits, for example "
+              "Two-sided.")
+      .with(typed);
 }
 std::string presetNameTooLong(int longest) {
-  return "The name of a preset has at most " + std::to_string(longest) +
-         " bytes. Choose a shorter one.";
+  return counted(longest, "The name of a preset has at most {1} byte. Choose a shorter one.",
+                 "The name of a preset has at most {1} bytes. Choose a shorter one.");
 }
 std::string presetMissing(const std::string &printer, const std::string &name) {
-  return "\"" + printer + "\" has no preset \"" + name +
-         "\"; it may have been renamed or deleted meanwhile. Choose another one.";
+  return text("\"{1}\" has no preset \"{2}\"; it may have been renamed or deleted meanwhile. "
+              "Choose another one.")
+      .with(printer, name);
 }
 std::string presetExists(const std::string &printer, const std::string &name) {
-  return "\"" + printer + "\" has a preset \"" + name + "\" already. Choose another name.";
+  return text("\"{1}\" has a preset \"{2}\" already. Choose another name.").with(printer, name);
 }
 std::string presetOfEverybody(const std::string &name, const std::string &path) {
-  return "The preset \"" + name + "\" is everybody's: it stands in \"" + path +
-         "\", which an administrator can change. Save one of another name instead.";
+  return text("The preset \"{1}\" is everybody's: it stands in \"{2}\", which an administrator can "
+              "change. Save one of another name instead.")
+      .with(name, path);
 }
 std::string presetTooLarge(const std::string &name) {
-  return "The preset \"" + name +
-         "\" has more settings than CUPS can read back. Set some to the printer's defaults.";
+  return text("The preset \"{1}\" has more settings than CUPS can read back. Set some to the "
+              "printer's defaults.")
+      .with(name);
 }
 std::string presetsUnreadable(const std::string &path, const std::string &reason) {
-  return "The presets in \"" + path + "\" cannot be read: " + reason + ". Check its rights.";
+  return text("The presets in \"{1}\" cannot be read: {2}. Check its rights.").with(path, reason);
 }
 std::string presetsUnwritable(const std::string &path, const std::string &reason) {
-  return "The presets in \"" + path + "\" cannot be changed: " + reason +
-         ". Check the rights and the room on the disk.";
+  return text("The presets in \"{1}\" cannot be changed: {2}. Check the rights and the room on the "
+              "disk.")
+      .with(path, reason);
 }
 std::string presetCannotHold(const std::string &setting, const std::string &value) {
-  return "The preset does not keep \"" + setting + "\": CUPS's file cannot hold the value \"" +
-         value + "\".";
+  return text("The preset does not keep \"{1}\": CUPS's file cannot hold the value \"{2}\".")
+      .with(setting, value);
 }
 std::string misfitOption(const std::string &option, const std::string &value) {
-  return "\"" + option + "\" (" + value + ") was left out: this printer has no such option.";
+  return text("\"{1}\" ({2}) was left out: this printer has no such option.").with(option, value);
 }
 std::string misfitChoice(const std::string &option, const std::string &value) {
-  return "\"" + option + "\" was left as it is: this printer does not offer \"" + value + "\".";
+  return text("\"{1}\" was left as it is: this printer does not offer \"{2}\".")
+      .with(option, value);
 }
 std::string misfitRange(const std::string &option, const std::string &value,
                         const std::string &lowest, const std::string &highest) {
-  return "\"" + option + "\" was left as it is: " + value + " is not between " + lowest + " and " +
-         highest + ", which this printer allows.";
+  return text("\"{1}\" was left as it is: {2} is not between {3} and {4}, which this printer "
+              "allows.")
+      .with(option, value, lowest, highest);
 }
 
 } // namespace imageposition::messages

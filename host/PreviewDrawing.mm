@@ -1,5 +1,6 @@
 #import "host/PreviewDrawing.h"
 
+#include "host/PreviewTexts.hpp"
 #import "platform/TextBridge.h"
 
 #include <algorithm>
@@ -22,9 +23,6 @@ NSDictionary *attributesOf(NSFont *font, const Colour &colour) {
   return [NSDictionary dictionaryWithObjectsAndKeys:font, NSFontAttributeName, colourOf(colour, 1),
                                                     NSForegroundColorAttributeName, nil];
 }
-
-/// "2.5" of "2.5 mm": two lengths beside each other share their unit.
-std::string withoutUnit(const std::string &length) { return length.substr(0, length.find(' ')); }
 
 } // namespace
 
@@ -109,11 +107,11 @@ std::string arrowText(const Offset &offset) {
       return;
     text += text.empty() ? "" : "  ";
     text += length.count > 0 ? forwards : backwards;
-    text += " " + withoutUnit(lengthText(length.count > 0 ? length : -length));
+    text += " " + numberText(length.count > 0 ? length : -length);
   };
   add(offset.right, "→", "←");
   add(offset.down, "↓", "↑");
-  return text.empty() ? text : text + " mm";
+  return text.empty() ? text : messages::inMillimetres(text);
 }
 
 } // namespace imageposition

@@ -1,5 +1,6 @@
 #include "host/PreviewGeometry.hpp"
 
+#include "host/OptionMessages.hpp"
 #include "host/PreviewTexts.hpp"
 #include "settings/IntegerText.hpp"
 
@@ -122,7 +123,7 @@ std::string directions(const Offset &offset) {
     parts.push_back(messages::downwards(lengthText(offset.down)));
   if (offset.down.count < 0)
     parts.push_back(messages::upwards(lengthText(-offset.down)));
-  return messages::listed(parts);
+  return messages::inWords(parts);
 }
 
 /// At most all of the content is lost.
@@ -139,7 +140,7 @@ std::string lostEdges(const SidePreview &side) {
   add(content.right - side.imageable.right, width, messages::atTheRight);
   add(side.imageable.top - content.top, height, messages::atTheTop);
   add(content.bottom - side.imageable.bottom, height, messages::atTheBottom);
-  return messages::listed(parts);
+  return messages::inWords(parts);
 }
 
 bool isZero(const Offset &offset) { return offset == Offset{}; }

@@ -40,8 +40,7 @@ void drawScale(const PreviewLayout &layout) {
   const Pixel centre = layout.gridCentre();
   const double line = previewLineHeight();
   const auto label = [&](int squares) {
-    const std::string length = lengthText({std::abs(squares) * layout.squareLength.count});
-    return length.substr(0, length.find(' '));
+    return numberText({std::abs(squares) * layout.squareLength.count});
   };
   for (int squares = 2; squares * layout.squarePixels < grid.width / 2 - line; squares += 2) {
     for (const int signedSquares : {-squares, squares}) {

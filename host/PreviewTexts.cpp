@@ -18,9 +18,11 @@ const Text kPreviewMarksCoincide = text("Back lies exactly behind front");
 
 const Text kPreviewEnlarged = text("Against the light, enlarged");
 
-std::string previewSquare(const std::string &length) { return "1 square = " + length; }
+std::string previewSquare(const std::string &length) { return text("1 square = {1}").with(length); }
 
-std::string previewMarksApart(const std::string &arrows) { return "Back behind front: " + arrows; }
+std::string previewMarksApart(const std::string &arrows) {
+  return text("Back behind front: {1}").with(arrows);
+}
 
 const Text kPreviewSizeUnknown =
     text("The printer does not say how large the page is; A4 is shown.");
@@ -29,46 +31,59 @@ const Text kPreviewImageableUnknown =
 const Text kPreviewNothingMoved = text("Neither side is moved.");
 
 std::string previewFrontMoved(const std::string &directions) {
-  return "The front is moved " + directions + ".";
+  return text("The front is moved {1}.").with(directions);
 }
 
 std::string previewBackMoved(const std::string &directions) {
-  return "The back is moved " + directions + " as its reader sees it.";
+  return text("The back is moved {1} as its reader sees it.").with(directions);
 }
 
 std::string previewBothMoved(const std::string &directions) {
-  return "Each side is moved " + directions + " as its reader sees it.";
+  return text("Each side is moved {1} as its reader sees it.").with(directions);
 }
 
 std::string previewBackAgainstFront(const std::string &directions) {
-  return "Held against the light, the back is moved " + directions + " against the front.";
+  return text("Held against the light, the back is moved {1} against the front.").with(directions);
 }
 
 const Text kPreviewSidesCoincide =
     text("Held against the light, the back lies exactly behind the front.");
 
 std::string previewFrontLoses(const std::string &edges) {
-  return "A front that fills its printable area loses " + edges + ".";
+  return text("A front that fills its printable area loses {1}.").with(edges);
 }
 
 std::string previewBackLoses(const std::string &edges) {
-  return "A back that fills its printable area loses " + edges + ".";
+  return text("A back that fills its printable area loses {1}.").with(edges);
 }
 
-std::string toTheRight(const std::string &length) { return length + " to the right"; }
-std::string toTheLeft(const std::string &length) { return length + " to the left"; }
-std::string downwards(const std::string &length) { return length + " down"; }
-std::string upwards(const std::string &length) { return length + " up"; }
-std::string atTheRight(const std::string &length) { return length + " at the right"; }
-std::string atTheLeft(const std::string &length) { return length + " at the left"; }
-std::string atTheBottom(const std::string &length) { return length + " at the bottom"; }
-std::string atTheTop(const std::string &length) { return length + " at the top"; }
-
-std::string listed(const std::vector<std::string> &items) {
-  std::string text;
-  for (const std::string &item : items)
-    text += (text.empty() ? "" : " and ") + item;
-  return text;
+std::string toTheRight(const std::string &length) { return text("{1} to the right").with(length); }
+std::string toTheLeft(const std::string &length) { return text("{1} to the left").with(length); }
+std::string downwards(const std::string &length) { return text("{1} down").with(length); }
+std::string upwards(const std::string &length) { return text("{1} up").with(length); }
+std::string atTheRight(const std::string &length) { return text("{1} at the right").with(length); }
+std::string atTheLeft(const std::string &length) { return text("{1} at the left").with(length); }
+std::string atTheBottom(const std::string &length) {
+  return text("{1} at the bottom").with(length);
 }
+std::string atTheTop(const std::string &length) { return text("{1} at the top").with(length); }
+
+std::string sentences(const std::vector<std::string> &parts) {
+  std::string whole;
+  for (const std::string &part : parts) {
+    if (whole.empty())
+      whole = part;
+    else if (!part.empty()) // Translators: two sentences after each other
+      whole = text("{1} {2}").with(whole, part);
+  }
+  return whole;
+}
+
+std::string decimalNumber(const std::string &whole, const std::string &tenths) {
+  // Translators: a number, such as 2.5, with the sign that separates its tenths.
+  return text("{1}.{2}").with(whole, tenths);
+}
+
+std::string inMillimetres(const std::string &number) { return text("{1} mm").with(number); }
 
 } // namespace imageposition::messages

@@ -50,8 +50,12 @@ std::string atTheLeft(const std::string &length);
 std::string atTheBottom(const std::string &length);
 std::string atTheTop(const std::string &length);
 
-/// "a and b"; one alone as it is.
-std::string listed(const std::vector<std::string> &items);
+/// Sentences after each other, without the empty ones.
+std::string sentences(const std::vector<std::string> &parts);
+
+/// "2.5" of "2" and "5".
+std::string decimalNumber(const std::string &whole, const std::string &tenths);
+std::string inMillimetres(const std::string &number);
 
 } // namespace imageposition::messages
 

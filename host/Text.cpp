@@ -53,6 +53,8 @@ std::string fill(std::string_view pattern, const std::vector<std::string> &value
 }
 
 std::string_view Text::view() const {
+  if (*english_ == '\0')
+    return {}; // which is how catalogues call their description
   const Lookup lookup;
   if (context_ == nullptr)
     return dgettext(kTextDomain, english_);

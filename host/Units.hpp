@@ -27,7 +27,10 @@ constexpr Point toPoints(TenthMillimetre length) noexcept {
 /// The nearest whole tenth, halves away from zero. Lengths up to 10^15 points.
 TenthMillimetre toTenthMillimetres(Point length) noexcept;
 
-/// "2.5 mm", "-0.1 mm", "10 mm": a decimal only where there is one.
+/// "2.5", "-0.1", "10": millimetres, for people, with a decimal only where there is one.
+std::string numberText(TenthMillimetre length);
+
+/// The same with its unit, "2.5 mm".
 std::string lengthText(TenthMillimetre length);
 
 constexpr TenthMillimetre operator+(TenthMillimetre a, TenthMillimetre b) noexcept {

@@ -1,6 +1,6 @@
 #include "host/WindowTexts.hpp"
 
-#include <cstdio>
+#include "host/PreviewTexts.hpp"
 
 namespace imageposition::messages {
 
@@ -38,7 +38,7 @@ const Text kRenamePreset = text("Rename this preset…");
 const Text kDeletePreset = text("Delete this preset");
 const Text kPresetNameQuestion = text("Name of the preset:");
 std::string presetSaved(const std::string &lpName) {
-  return "The preset is saved; lp -d " + lpName + " prints with it too.";
+  return text("The preset is saved; lp -d {1} prints with it too.").with(lpName);
 }
 
 const Text kStateUnknown = text("Asking for the printers…");
@@ -46,16 +46,18 @@ std::string printerState(const std::string &state, const std::string &location) 
   return location.empty() ? state : state + " · " + location;
 }
 std::string differingValue(const std::string &value, const std::string &usual) {
-  return value + "  (usually " + usual + ")";
+  return text("{1}  (usually {2})").with(value, usual);
 }
 std::string copiesNotUnderstood(const std::string &typed) {
-  return "\"" + typed + "\" is no number of copies. Enter a number from 1 to 9999.";
+  return text("\"{1}\" is no number of copies. Enter a number from 1 to 9999.").with(typed);
 }
 const Text kNothingToPrint = text(
     "There is no document to print. Name one: print-dialog FILE. Or choose \"Save as ticket\".");
 std::string sending(const std::string &sent, const std::string &total) {
-  return total.empty() ? "Sending: " + sent : "Sending: " + sent + " of " + total;
+  return total.empty() ? text("Sending: {1}").with(sent)
+                       : text("Sending: {1} of {2}").with(sent, total);
 }
+// As lp says it in English: scripts read it.
 std::string jobSent(const std::string &printer, int id, std::size_t files) {
   return "request id is " + printer + "-" + std::to_string(id) + " (" + std::to_string(files) +
          " file(s))";
@@ -66,12 +68,12 @@ std::string andMore(const std::string &document, std::size_t others) {
 }
 const Text kSendingCancelled = text("Nothing was printed: sending was cancelled.");
 std::string byteCount(unsigned long long bytes) {
-  char text[32];
-  if (bytes < 1000000)
-    std::snprintf(text, sizeof text, "%llu kB", (bytes + 999) / 1000);
-  else
-    std::snprintf(text, sizeof text, "%.1f MB", static_cast<double>(bytes) / 1e6);
-  return text;
+  constexpr unsigned long long kTenthOfMegabyte = 100000;
+  if (bytes < 10 * kTenthOfMegabyte)
+    return text("{1} kB").with(std::to_string((bytes + 999) / 1000));
+  const unsigned long long tenths = (bytes + kTenthOfMegabyte / 2) / kTenthOfMegabyte;
+  return text("{1} MB").with(
+      decimalNumber(std::to_string(tenths / 10), std::to_string(tenths % 10)));
 }
 
 } // namespace imageposition::messages

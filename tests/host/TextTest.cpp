@@ -47,6 +47,7 @@ TEST_F(SpokenText, IsEnglishWhereThereIsNoTranslation) {
   speak("de", IMAGEPOSITION_CATALOGUES);
   EXPECT_EQ(text("Nobody has translated this").str(), "Nobody has translated this");
   EXPECT_EQ(textIn("nowhere", "Cancel").str(), "Cancel");
+  EXPECT_EQ(text("").str(), "");
   speak("xx", IMAGEPOSITION_CATALOGUES);
   EXPECT_EQ(kCancel.str(), "Cancel");
   speak("de", "/nowhere");
