@@ -1,5 +1,7 @@
 #include "host/Language.hpp"
 
+#include "host/ProgramFolder.hpp"
+
 #include <algorithm>
 #include <clocale>
 #include <cstdlib>
@@ -135,11 +137,13 @@ void speak(const std::string &language, const std::string &folder) {
 }
 
 std::string catalogueFolder() {
-  std::error_code failed;
-  const fs::path program = fs::read_symlink("/proc/self/exe", failed);
-  const fs::path beside = program.parent_path() / "locale";
-  return !failed && fs::is_directory(beside, failed) ? beside.string()
-                                                     : IMAGEPOSITION_LOCALE_FOLDER;
+  for (const char *name : {"locale", IMAGEPOSITION_LOCALES_FROM_PROGRAM}) {
+    std::error_code ignored;
+    const std::string folder = besideProgram(name);
+    if (!folder.empty() && fs::is_directory(folder, ignored))
+      return folder;
+  }
+  return IMAGEPOSITION_LOCALE_FOLDER;
 }
 
 } // namespace imageposition

@@ -32,7 +32,7 @@ std::string chosenLanguage(const std::vector<std::string> &wanted, const std::st
 /// and those of printer descriptions too. Sets environment variables: before other threads start.
 void speak(const std::string &language, const std::string &folder);
 
-/// Where this program's catalogues are: beside it, or where it is installed.
+/// Where this program's catalogues are: beside it, or where they are installed with it.
 std::string catalogueFolder();
 
 } // namespace imageposition

@@ -53,11 +53,10 @@ const char *const kHelpMail = "Have CUPS send a mail when the job is done; impli
 const char *const kHelpSilent = "Say nothing when CUPS has taken the job";
 const char *const kHelpCopy = "Taken for lp's sake: CUPS always copies the document";
 const char *const kHelpDryRun = "Print nothing: write what CUPS would be sent";
-const char *const kHelpPlugin =
-    "Use this plug-in and no other; may be repeated.\n"
-    "Without it: those that the printer's description names\n"
-    "(APDialogExtension), or else those in\n" IMAGEPOSITION_PLUGIN_FOLDER "\n"
-    "or beside this program";
+const char *const kHelpPlugin = "Use this plug-in and no other; may be repeated.\n"
+                                "Without it: those that the printer's description names\n"
+                                "(APDialogExtension), or else those beside this program, or\n"
+                                "in " IMAGEPOSITION_PLUGIN_FOLDER;
 const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exists,\n"
                                 "written by Print. The same as NAME=VALUE lines goes\n"
                                 "beside it (job.options for job.json)";

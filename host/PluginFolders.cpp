@@ -1,5 +1,7 @@
 #include "host/PluginFolders.hpp"
 
+#include "host/ProgramFolder.hpp"
+
 #include <algorithm>
 #include <filesystem>
 #include <set>
@@ -87,11 +89,11 @@ std::vector<std::string> findPlugins(const PluginNames &names,
 }
 
 std::vector<std::string> pluginFolders() {
-  std::vector<std::string> folders{IMAGEPOSITION_PLUGIN_FOLDER};
-  std::error_code failed;
-  const fs::path program = fs::read_symlink("/proc/self/exe", failed);
-  if (!failed)
-    folders.push_back(program.parent_path().string());
+  std::vector<std::string> folders;
+  for (const char *name : {".", IMAGEPOSITION_PLUGINS_FROM_PROGRAM})
+    if (const std::string folder = besideProgram(name); !folder.empty())
+      folders.push_back(folder);
+  folders.emplace_back(IMAGEPOSITION_PLUGIN_FOLDER);
   return folders;
 }
 

@@ -23,8 +23,8 @@ struct PluginNames {
 std::vector<std::string> findPlugins(const PluginNames &names,
                                      const std::vector<std::string> &folders);
 
-/// The folders in which plug-ins are looked for: where the system installs them, then beside the
-/// running program.
+/// The folders in which plug-ins are looked for: beside the running program, then where they are
+/// installed with it, then where the build expected that to be.
 std::vector<std::string> pluginFolders();
 
 } // namespace imageposition

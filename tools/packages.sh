@@ -23,6 +23,7 @@ test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev        # test and benchmark frameworks
   clang-format clang-tidy shellcheck                # style
   xdotool xclip imagemagick x11-utils libxtst-dev   # a person at the window
+  man-db mandoc desktop-file-utils                  # check the man page and the desktop file
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
   cups-filters hp-ppd foomatic-db-compressed-ppds   # printer descriptions that others wrote
 )

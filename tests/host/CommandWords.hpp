@@ -1,0 +1,18 @@
+/// What print-dialog says of itself.
+#ifndef IMAGEPOSITION_TESTS_HOST_COMMANDWORDS_HPP
+#define IMAGEPOSITION_TESTS_HOST_COMMANDWORDS_HPP
+
+#include <set>
+#include <string>
+
+namespace imageposition::test {
+
+/// Every option by each of its names, "-d" and "--queue", as --help lists them.
+std::set<std::string> optionsOfHelp();
+
+/// The exit statuses that --help explains.
+std::set<std::string> statusesOfHelp();
+
+} // namespace imageposition::test
+
+#endif
