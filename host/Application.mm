@@ -36,6 +36,7 @@ void setPlatformDefaults() {
   NSMutableDictionary *const defaults = [NSMutableDictionary dictionary];
   [defaults setObject:@"YES" forKey:@"GSLogSyslog"];
   [defaults setObject:@"YES" forKey:@"GSSuppressAppIcon"];
+  [defaults setObject:@"NSWindows95InterfaceStyle" forKey:@"NSScrollViewInterfaceStyle"]; // right
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
 }
 

@@ -8,6 +8,8 @@
 #import "host/OptionsView.h"
 #import "host/SummaryView.h"
 
+#include "host/JobRequest.hpp"
+
 #include <iosfwd>
 #include <string>
 
@@ -55,10 +57,17 @@ struct DialogState;
 
 @interface DialogController (Options) <OptionsViewOwner>
 - (void)refreshOptions;
-- (void)refreshPages;
-- (void)refreshCopies;
 /// The picture, and what stands in the way. Cheap: called at every change of a setting.
 - (void)refreshPicture;
+- (void)twoSidedChosen:(id)sender;
+- (void)mediaChosen:(id)sender;
+- (void)resolveConflicts:(id)sender;
+@end
+
+/// Copies and pages.
+@interface DialogController (Entries)
+- (void)refreshPages;
+- (void)refreshCopies;
 /// False, with a sentence, when the pages or copies cannot be understood.
 - (BOOL)takeEntries;
 - (void)copiesChanged:(id)sender;
@@ -66,9 +75,6 @@ struct DialogState;
 - (void)collateChanged:(id)sender;
 - (void)pagesChosen:(id)sender;
 - (void)rangesChanged:(id)sender;
-- (void)twoSidedChosen:(id)sender;
-- (void)mediaChosen:(id)sender;
-- (void)resolveConflicts:(id)sender;
 @end
 
 @interface DialogController (Printers)
@@ -84,6 +90,8 @@ struct DialogState;
 @end
 
 @interface DialogController (Submission)
+/// What would be sent now; a ticket has none of the destination's defaults.
+- (imageposition::JobRequest)request;
 - (BOOL)isSending;
 - (void)startSending;
 - (void)cancelSending;

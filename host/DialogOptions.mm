@@ -1,33 +1,13 @@
 #import "host/DialogController.h"
 #import "host/DialogState.h"
-#include "host/ExitCode.hpp"
-#include "host/PageRanges.hpp"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdlib>
 
 using namespace imageposition;
 
 namespace {
-
-enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
-
-/// None unless the whole text is a number that CUPS takes.
-std::optional<int> readCopies(const std::string &text) {
-  char *end = nullptr;
-  const long number = std::strtol(text.c_str(), &end, 10);
-  if (text.empty() || *end != '\0' || number < 1 || number > 9999)
-    return std::nullopt;
-  return static_cast<int>(number);
-}
-
-bool isTrue(const char *value) {
-  return value != nullptr && (strcasecmp(value, "true") == 0 || strcasecmp(value, "on") == 0 ||
-                              strcasecmp(value, "yes") == 0);
-}
 
 /// Fills a pop-up with an option's choices; answers their keywords.
 std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterOption> &option) {
@@ -55,7 +35,6 @@ std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterO
 @interface DialogController (OptionsInside)
 - (void)choose:(const std::string &)choice of:(const std::string &)keyword by:(NSView *)sender;
 - (void)refreshHint;
-- (void)takeRanges;
 @end
 
 @implementation DialogController (Options)
@@ -85,115 +64,6 @@ std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterO
 
 - (void)refreshPicture {
   [views.preview showPreview:makePreview(job->settings(), job->printer().ppd())];
-}
-
-- (void)refreshCopies {
-  const char *const copies = job->settings().get("copies");
-  [views.copies setStringValue:toString(copies != nullptr ? copies : "1")];
-  [views.copiesStepper setIntValue:copies != nullptr ? std::atoi(copies) : 1];
-  const char *const collate = job->settings().get("Collate");
-  [views.collate setState:isTrue(collate) ? NSOnState : NSOffState];
-}
-
-- (void)refreshPages {
-  if ([views.pages numberOfItems] == 0)
-    for (const Text &title :
-         {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange})
-      [[views.pages menu] addItemWithTitle:toString(title) action:NULL keyEquivalent:@""];
-  const PageChoice choice = readPageChoice(job->settings());
-  const PagesItem item = choice.ranges                 ? kRangeItem
-                         : choice.set == PageSet::Odd  ? kOddItem
-                         : choice.set == PageSet::Even ? kEvenItem
-                                                       : kAllItem;
-  [views.pages selectItemAtIndex:item];
-  [views.ranges setStringValue:toString(choice.ranges ? choice.ranges->text() : "")];
-  [views.ranges setEnabled:choice.ranges.has_value()];
-}
-
-/// Throws a `Failure` when the text cannot be understood.
-- (void)takeRanges {
-  if ([views.pages indexOfSelectedItem] != kRangeItem)
-    return;
-  PageChoice choice;
-  choice.ranges = PageRanges::parse(toText([views.ranges stringValue]));
-  storePageChoice(choice, job->settings());
-}
-
-- (BOOL)takeEntries {
-  const std::string typed = toText([views.copies stringValue]);
-  const auto copies = readCopies(typed);
-  if (!copies) {
-    [self say:messages::copiesNotUnderstood(typed)];
-    [views.window makeFirstResponder:views.copies];
-    return NO;
-  }
-  try {
-    [self takeRanges];
-  } catch (const Failure &failure) {
-    [self say:failure.what()];
-    [views.window makeFirstResponder:views.ranges];
-    return NO;
-  }
-  if (*copies != 1 || job->settings().get("copies") != nullptr)
-    job->settings().set("copies", std::to_string(*copies));
-  return YES;
-}
-
-- (void)controlTextDidEndEditing:(NSNotification *)notification {
-  if ([notification object] == views.copies)
-    [self copiesChanged:views.copies];
-  else if ([notification object] == views.ranges)
-    [self rangesChanged:views.ranges];
-}
-
-- (void)copiesChanged:(id)sender {
-  (void)sender;
-  const std::string typed = toText([views.copies stringValue]);
-  const auto copies = readCopies(typed);
-  if (!copies) {
-    [self say:messages::copiesNotUnderstood(typed)];
-    return;
-  }
-  [views.copiesStepper setIntValue:*copies];
-  if (*copies != 1 || job->settings().get("copies") != nullptr)
-    job->settings().set("copies", std::to_string(*copies));
-}
-
-- (void)copiesStepped:(id)sender {
-  (void)sender;
-  [self takeFocus:views.copies];
-  const int copies = [views.copiesStepper intValue];
-  [views.copies setIntValue:copies];
-  job->settings().set("copies", std::to_string(copies));
-}
-
-- (void)collateChanged:(id)sender {
-  (void)sender;
-  job->settings().set("Collate", [views.collate state] == NSOnState ? "True" : "False");
-}
-
-- (void)pagesChosen:(id)sender {
-  [self takeFocus:sender];
-  const NSInteger item = [views.pages indexOfSelectedItem];
-  [views.ranges setEnabled:item == kRangeItem];
-  if (item == kRangeItem) {
-    [views.window makeFirstResponder:views.ranges];
-    return;
-  }
-  PageChoice choice;
-  choice.set = item == kOddItem ? PageSet::Odd : item == kEvenItem ? PageSet::Even : PageSet::All;
-  storePageChoice(choice, job->settings());
-}
-
-- (void)rangesChanged:(id)sender {
-  (void)sender;
-  if ([[views.ranges stringValue] length] == 0)
-    return;
-  try {
-    [self takeRanges];
-  } catch (const Failure &failure) {
-    [self say:failure.what()];
-  }
 }
 
 /// The panels see the change at once: the pane is shown anew.

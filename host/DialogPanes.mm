@@ -1,9 +1,7 @@
 #import "host/DialogController.h"
 #import "host/DialogState.h"
-#include "host/DocumentNames.hpp"
+#include "host/JobSummary.hpp"
 #include "host/Messages.hpp"
-#include "host/OptionMessages.hpp"
-#include "host/PageRanges.hpp"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
@@ -21,8 +19,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 - (void)showOptions;
 - (void)showPanel:(PanelDriver *)panel;
 - (std::vector<OptionGroup>)listedOptions;
-- (SummarySection)jobSection;
-- (SummarySection)optionSection;
+- (std::vector<std::string>)announcedOptions;
 @end
 
 @implementation DialogController (Panes)
@@ -117,11 +114,17 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
   }
 }
 
-- (std::vector<OptionGroup>)listedOptions {
-  std::vector<std::string> without(std::begin(kPlacedOptions), std::end(kPlacedOptions));
-  without.push_back(state->twoSidedKeyword);
+- (std::vector<std::string>)announcedOptions {
+  std::vector<std::string> announced;
   for (const auto &panel : job->panels().panels())
-    without.insert(without.end(), panel->optionKeys().begin(), panel->optionKeys().end());
+    announced.insert(announced.end(), panel->optionKeys().begin(), panel->optionKeys().end());
+  return announced;
+}
+
+- (std::vector<OptionGroup>)listedOptions {
+  std::vector<std::string> without = [self announcedOptions];
+  without.insert(without.end(), std::begin(kPlacedOptions), std::end(kPlacedOptions));
+  without.push_back(state->twoSidedKeyword);
   return PrinterOptions(job->printer(), job->settings()).listed(without);
 }
 
@@ -131,42 +134,10 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
   showInPaneArea(views, options);
 }
 
-- (SummarySection)jobSection {
-  SummarySection section{messages::kJobSection, {}};
-  section.lines.push_back({messages::kPrinterTitle, job->printer().name()});
-  if (!job->documents().empty())
-    section.lines.push_back({messages::kDocumentTitle, documentsInWords(job->documents())});
-  const char *const copies = job->settings().get("copies");
-  section.lines.push_back({messages::kCopiesTitle, copies != nullptr ? copies : "1"});
-  const PageChoice pages = readPageChoice(job->settings());
-  std::string text = pages.ranges ? pages.ranges->text() : messages::kAllPages.str();
-  if (pages.set != PageSet::All)
-    text = messages::inOrder(text, pages.set == PageSet::Odd ? messages::kOddPages
-                                                             : messages::kEvenPages);
-  section.lines.push_back({messages::kPagesTitle, text});
-  return section;
-}
-
-- (SummarySection)optionSection {
-  SummarySection section{messages::kOptionsPane, {}};
-  PrinterOptions all(job->printer(), job->settings());
-  std::vector<std::string> announced;
-  for (const auto &panel : job->panels().panels())
-    announced.insert(announced.end(), panel->optionKeys().begin(), panel->optionKeys().end());
-  for (const OptionGroup &group : all.listed(announced))
-    for (const PrinterOption &option : group.options) {
-      const std::string chosen = option.textOf(option.chosen);
-      section.lines.push_back(
-          {option.text, option.differsFromDefault()
-                            ? messages::differingValue(chosen, option.textOf(option.defaultChoice))
-                            : chosen});
-    }
-  return section;
-}
-
 - (void)showSummary {
   shownPanel = nullptr;
-  std::vector<SummarySection> sections{[self jobSection]};
+  std::vector<SummarySection> sections{
+      jobSection(job->printer().name(), job->documents(), job->settings())};
   for (const auto &panel : job->panels().panels()) {
     try {
       sections.push_back(panel->summary());
@@ -175,7 +146,8 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
       return;
     }
   }
-  sections.push_back([self optionSection]);
+  sections.push_back(optionSection(job->printer(), job->settings(), [self announcedOptions]));
+  sections.push_back(sentSection([self request]));
   [summary showSections:sections];
   showInPaneArea(views, summary);
 }

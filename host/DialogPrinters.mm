@@ -1,6 +1,7 @@
 #import "host/DialogController.h"
 #import "host/DialogState.h"
 #include "host/ExitCode.hpp"
+#import "host/Labels.h"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
@@ -90,8 +91,7 @@ std::string titleOf(const Destination &destination) {
     text = messages::printerState(destination->stateText, destination->location);
   else
     text = list.reason.empty() ? messages::kStateUnknown : list.reason;
-  [views.printerState setStringValue:toString(text)];
-  [views.printerState setToolTip:toString(text)];
+  showCut(views.printerState, text, NSWidth([views.printerState frame]));
 }
 
 - (void)printerChosen:(id)sender {

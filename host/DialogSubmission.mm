@@ -41,16 +41,22 @@ void wakeModalLoop() {
   [views.print setEnabled:!sending];
 }
 
+- (JobRequest)request {
+  JobRequest request = job->request();
+  const Destination *const destination = state->destinations.list().find(job->queue());
+  if (destination != nullptr && job->isSubmitted()) {
+    request.defaults = destination->defaults;
+    request.printerUri = destination->uri;
+  }
+  return request;
+}
+
 - (void)startSending {
   if (!job->hasDocument()) {
     [self say:messages::kNothingToPrint];
     return;
   }
-  JobRequest request = job->request();
-  if (const Destination *destination = state->destinations.list().find(job->queue())) {
-    request.defaults = destination->defaults;
-    request.printerUri = destination->uri;
-  }
+  const JobRequest request = [self request];
   try {
     if (job->arguments().isDryRun) {
       std::cout << writeRequestText(request);

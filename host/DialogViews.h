@@ -3,6 +3,7 @@
 #define IMAGEPOSITION_HOST_DIALOGVIEWS_H
 
 #import "host/KeyWindow.h"
+#import "host/MessageView.h"
 #import "host/PreviewView.h"
 
 #include <string>
@@ -27,7 +28,7 @@ struct DialogViews {
   PreviewView *preview;
   NSTextField *hint; ///< What stands in the way: conflicts, or why a panel is switched off.
   NSButton *resolve;
-  NSTextField *message; ///< What happened last.
+  MessageView *message; ///< What happened last.
   NSProgressIndicator *progress;
   NSButton *help;
   NSButton *cancel;

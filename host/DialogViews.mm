@@ -20,7 +20,7 @@ constexpr CGFloat kGap = 10;
 constexpr CGFloat kRowGap = 8;
 constexpr CGFloat kRowHeight = 24;
 constexpr CGFloat kHintHeight = 36;
-constexpr CGFloat kMessageHeight = 48;
+constexpr int kMessageLines = 3; // it scrolls when there are more
 constexpr CGFloat kPopUpWidth = 280;
 
 NSPopUpButton *makePopUp(id target, SEL action) {
@@ -56,6 +56,10 @@ struct Row {
   std::vector<NSView *> controls;
 };
 
+CGFloat messageHeight() {
+  return kMessageLines * paragraphHeight(@"Ag", [NSFont systemFontOfSize:0], 100) + 3;
+}
+
 class Builder {
 public:
   Builder(NSSize pane, const std::string &document, const DialogActions &actions)
@@ -86,6 +90,7 @@ private:
   DialogViews views_{};
   std::vector<Row> rows_;
   CGFloat paneTop_ = 0;
+  NSTextField *documentName_ = nil;
 };
 
 void Builder::makeControls() {
@@ -109,8 +114,9 @@ void Builder::makeControls() {
   views_.panes = makePopUp(target, actions_.paneChosen);
   rows_.push_back({messages::kPrinterRow, {views_.printers}});
   rows_.push_back({"", {views_.printerState}});
+  documentName_ = makeLabel(document_);
   if (!document_.empty())
-    rows_.push_back({messages::kDocumentRow, {makeLabel(document_)}});
+    rows_.push_back({messages::kDocumentRow, {documentName_}});
   rows_.push_back({messages::kPresetsRow, {views_.presets}});
   rows_.push_back({messages::kCopiesRow, {views_.copies, views_.copiesStepper, views_.collate}});
   rows_.push_back({messages::kPagesRow, {views_.pages, views_.ranges}});
@@ -122,7 +128,7 @@ void Builder::makeControls() {
 void Builder::makeWindow() {
   const NSSize picture = [PreviewView preferredSize];
   const CGFloat rows = rows_.size() * (kRowHeight + kRowGap);
-  const CGFloat foot = kHintHeight + kMessageHeight + kRowHeight + 3 * kGap;
+  const CGFloat foot = kHintHeight + messageHeight() + kRowHeight + 3 * kGap;
   const CGFloat body = std::max(rows + kGap + pane_.height, picture.height);
   const NSSize size = {pane_.width + picture.width + 3 * kMargin, body + foot + 2 * kMargin};
   paneTop_ = size.height - kMargin - rows - kGap;
@@ -156,8 +162,10 @@ void Builder::addRows() {
     CGFloat left = kMargin + titleWidth + kGap;
     for (NSView *control : rows_[i].controls) {
       NSRect frame = [control frame];
-      // A long text is cut, not spilt; one that is still to come takes what is left.
       const CGFloat rest = pane_.width + kMargin - left;
+      if (control == documentName_)
+        showCut(documentName_, document_, rest);
+      // One that is still to come takes what is left.
       frame.size.width = control == views_.printerState ? rest : std::min(NSWidth(frame), rest);
       frame.origin = NSMakePoint(left, std::round(middle - NSHeight(frame) / 2));
       [control setFrame:frame];
@@ -174,7 +182,7 @@ void Builder::addPane() {
   add(views_.paneArea);
   const CGFloat width = NSWidth([[views_.window contentView] frame]) - 2 * kMargin;
   const CGFloat messageBottom = kMargin + kRowHeight + kGap;
-  const CGFloat hintBottom = messageBottom + kMessageHeight + kGap;
+  const CGFloat hintBottom = messageBottom + messageHeight() + kGap;
   views_.resolve = makeButton(messages::kResolve, actions_.target, actions_.resolve);
   const CGFloat resolveWidth = NSWidth([views_.resolve frame]);
   [views_.resolve setFrameOrigin:NSMakePoint(kMargin + width - resolveWidth,
@@ -182,7 +190,8 @@ void Builder::addPane() {
   [views_.resolve setHidden:YES];
   views_.hint =
       makeMessage(NSMakeRect(kMargin, hintBottom, width - resolveWidth - kGap, kHintHeight));
-  views_.message = makeMessage(NSMakeRect(kMargin, messageBottom, width, kMessageHeight));
+  views_.message = [[[MessageView alloc]
+      initWithFrame:NSMakeRect(kMargin, messageBottom, width, messageHeight())] autorelease];
   [views_.window reach:views_.collate by:messages::kCollate];
   [views_.window reach:views_.resolve by:messages::kResolve];
   add(views_.hint);

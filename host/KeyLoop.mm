@@ -1,5 +1,7 @@
 #import "host/KeyLoop.h"
 
+#import "host/KeyScrollView.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -10,6 +12,8 @@ namespace {
 bool takesKeys(NSView *view) {
   if ([view isKindOfClass:[NSTextField class]])
     return [(NSTextField *)view isEditable];
+  if ([view isKindOfClass:[KeyScrollView class]])
+    return [view acceptsFirstResponder];
   return [view isKindOfClass:[NSControl class]] && ![view isKindOfClass:[NSScroller class]];
 }
 

@@ -15,12 +15,13 @@ NSTextField *makeLabel(const std::string &text, bool bold = false);
 void makeIntoLabel(NSTextField *field, const std::string &text, bool bold);
 
 /// In lines of that width, as high as they need to be.
-NSTextField *makeParagraph(const std::string &text, CGFloat width);
+NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold = false);
 /// The height that the text of such a field needs.
 CGFloat paragraphHeight(NSString *text, NSFont *font, CGFloat width);
 
-/// Has a text that is too long end in an ellipsis, with the whole of it in a tooltip.
-void cutWithEllipsis(NSTextField *label);
+/// Shows a text of one line in a label of that width: what does not fit is left out of its middle,
+/// with an ellipsis, and the whole of it is in a tooltip.
+void showCut(NSTextField *label, const std::string &text, CGFloat width);
 
 } // namespace imageposition
 

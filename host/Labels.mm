@@ -10,6 +10,17 @@ namespace {
 
 constexpr CGFloat kCellMargin = 2; // of a text field, to both sides of its text
 
+/// With that many of its units left, more of them at the end, where paths have the file's name.
+NSString *withoutMiddle(NSString *text, NSUInteger kept) {
+  const NSUInteger head = kept / 3;
+  const NSUInteger tail = [text length] - (kept - head);
+  NSString *const before =
+      [text substringToIndex:[text rangeOfComposedCharacterSequenceAtIndex:head].location];
+  NSString *const after =
+      [text substringFromIndex:NSMaxRange([text rangeOfComposedCharacterSequenceAtIndex:tail])];
+  return [NSString stringWithFormat:@"%@%@%@", before, toString("…"), after];
+}
+
 } // namespace
 
 NSTextField *makeLabel(const std::string &text, bool bold) {
@@ -39,16 +50,22 @@ CGFloat paragraphHeight(NSString *text, NSFont *font, CGFloat width) {
   return std::ceil(NSHeight(drawn));
 }
 
-NSTextField *makeParagraph(const std::string &text, CGFloat width) {
-  NSTextField *const label = makeLabel(text);
+NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold) {
+  NSTextField *const label = makeLabel(text, bold);
   [[label cell] setWraps:YES];
   [label setFrameSize:NSMakeSize(width, paragraphHeight([label stringValue], [label font], width))];
   return label;
 }
 
-void cutWithEllipsis(NSTextField *label) {
-  [[label cell] setLineBreakMode:NSLineBreakByTruncatingTail];
-  [label setToolTip:[label stringValue]];
+void showCut(NSTextField *label, const std::string &text, CGFloat width) {
+  NSString *const whole = toString(text);
+  NSString *shown = whole;
+  const CGFloat room = width - 2 * kCellMargin;
+  for (NSUInteger kept = [whole length]; kept > 0 && [[label font] widthOfString:shown] > room;)
+    shown = withoutMiddle(whole, --kept);
+  [label setStringValue:shown];
+  [label setToolTip:shown == whole ? nil : whole];
+  [label setFrameSize:NSMakeSize(width, NSHeight([label frame]))];
 }
 
 } // namespace imageposition

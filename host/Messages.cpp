@@ -106,7 +106,9 @@ const Text kNothingToSummarize = text("Not available with the present settings."
 std::string summaryLine(const std::string &title, const std::string &value) {
   return text("{1}: {2}").with(title, value);
 }
-const Text kNoPanelHere = text("No plug-in has a panel for this printer.");
+const Text kNoPanelHere = text(
+    "No plug-in has a panel for this printer. You can print with everything that is shown here. To "
+    "move the image, choose a printer that supports it, or name a plug-in with --plugin BUNDLE.");
 
 const char *const kProgram = "print-dialog: ";
 

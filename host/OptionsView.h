@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_HOST_OPTIONSVIEW_H
 #define IMAGEPOSITION_HOST_OPTIONSVIEW_H
 
-#import <AppKit/AppKit.h>
+#import "host/KeyScrollView.h"
 
 #include "host/PrinterOptions.hpp"
 
@@ -22,7 +22,7 @@ struct OptionsViewRow;
 
 /// A heading for each group, and a pop-up for each option; it scrolls when they do not fit, and
 /// follows the focus.
-@interface OptionsView : NSScrollView {
+@interface OptionsView : KeyScrollView {
   id<OptionsViewOwner> owner; ///< Not owned.
   std::vector<imageposition::OptionsViewRow> *rows;
   std::string *shape; ///< Of the groups shown: keywords of all options and choices.

@@ -80,10 +80,7 @@ void select(const OptionsViewRow &row, const PrinterOption &option) {
   owner = theOwner;
   rows = new std::vector<OptionsViewRow>;
   shape = new std::string;
-  [self setHasVerticalScroller:YES];
-  [self setAutohidesScrollers:YES];
   [self setBorderType:NSBezelBorder];
-  [self setDrawsBackground:NO];
   return self;
 }
 
@@ -91,6 +88,11 @@ void select(const OptionsViewRow &row, const PrinterOption &option) {
   delete rows;
   delete shape;
   [super dealloc];
+}
+
+/// Its controls do.
+- (BOOL)acceptsFirstResponder {
+  return NO;
 }
 
 - (void)choose:(id)sender {

@@ -10,6 +10,7 @@ namespace imageposition {
 struct SummaryLine {
   std::string title;
   std::string value;
+  bool differs = false; ///< From what the printer does unless told otherwise.
 };
 
 /// One panel's part; without lines when the panel has nothing to say.

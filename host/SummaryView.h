@@ -2,14 +2,14 @@
 #ifndef IMAGEPOSITION_HOST_SUMMARYVIEW_H
 #define IMAGEPOSITION_HOST_SUMMARYVIEW_H
 
-#import <AppKit/AppKit.h>
+#import "host/KeyScrollView.h"
 
 #include "host/Summary.hpp"
 
 #include <vector>
 
 /// Two columns of text under a heading for each panel; it scrolls when they do not fit.
-@interface SummaryView : NSScrollView
+@interface SummaryView : KeyScrollView
 
 - (void)showSections:(const std::vector<imageposition::SummarySection> &)sections;
 

@@ -2,10 +2,12 @@
 
 #import "host/Labels.h"
 #include "host/Messages.hpp"
-#import "platform/TextBridge.h"
+#include "host/WindowTexts.hpp"
 
 #include <algorithm>
+#include <cmath>
 
+using imageposition::SummaryLine;
 using imageposition::SummarySection;
 
 /// Lays rows out from the top.
@@ -23,44 +25,59 @@ using imageposition::SummarySection;
 namespace {
 
 constexpr CGFloat kMargin = 12;
-constexpr CGFloat kRowHeight = 20;
+constexpr CGFloat kLineGap = 5;
 constexpr CGFloat kColumnGap = 12;
 
-NSTextField *addLabel(NSView *rows, const std::string &text, bool bold) {
-  NSTextField *const label = imageposition::makeLabel(text, bold);
-  [rows addSubview:label];
-  return label;
-}
+/// Before the title of what differs from the printer's default, whose value is bold as well.
+constexpr const char *kMark = "\u2022 ";
 
-/// Title and value beside each other; answers the title's width.
-struct Row {
-  NSTextField *title;
-  NSTextField *value;
-};
+/// Writes from the top; titles end where the values begin.
+class Writer {
+public:
+  Writer(NSView *rows, CGFloat width)
+      : rows_(rows), width_(width), column_(std::floor(width * 0.42)) {}
 
-std::vector<Row> addRows(NSView *rows, const SummarySection &section) {
-  std::vector<Row> made;
-  for (const auto &line : section.lines)
-    made.push_back({addLabel(rows, line.title + ":", false), addLabel(rows, line.value, false)});
-  if (section.lines.empty())
-    made.push_back({addLabel(rows, imageposition::messages::kNothingToSummarize, false), nil});
-  return made;
-}
+  CGFloat top() const { return top_; }
+  bool hasMarks() const { return hasMarks_; }
 
-/// The titles end where the values begin. Answers the height below the last row.
-CGFloat layOut(const std::vector<Row> &rows, CGFloat top) {
-  CGFloat titleWidth = 0;
-  for (const Row &row : rows)
-    if (row.value != nil)
-      titleWidth = std::max(titleWidth, NSWidth([row.title frame]));
-  for (const Row &row : rows) {
-    const CGFloat indent = row.value == nil ? 0 : titleWidth - NSWidth([row.title frame]);
-    [row.title setFrameOrigin:NSMakePoint(kMargin + indent, top)];
-    [row.value setFrameOrigin:NSMakePoint(kMargin + titleWidth + kColumnGap, top)];
-    top += kRowHeight;
+  void addSection(const SummarySection &section) {
+    addLine(imageposition::makeLabel(section.panelName, true));
+    for (const auto &line : section.lines)
+      addRow(line);
+    if (section.lines.empty())
+      addLine(imageposition::makeLabel(imageposition::messages::kNothingToSummarize));
+    top_ += kMargin - kLineGap;
   }
-  return top;
-}
+
+  void addLine(NSTextField *label) {
+    [label setFrameOrigin:NSMakePoint(kMargin, top_)];
+    [rows_ addSubview:label];
+    top_ += NSHeight([label frame]) + kLineGap;
+  }
+
+private:
+  void addRow(const SummaryLine &line) {
+    const std::string title = (line.differs ? kMark : "") + line.title + ":";
+    NSTextField *const label = imageposition::makeLabel(title);
+    if (NSWidth([label frame]) > column_)
+      imageposition::showCut(label, title, column_);
+    const CGFloat right = kMargin + column_;
+    [label setFrameOrigin:NSMakePoint(right - NSWidth([label frame]), top_)];
+    const CGFloat rest = width_ - right - kColumnGap - kMargin;
+    NSTextField *const value = imageposition::makeParagraph(line.value, rest, line.differs);
+    [value setFrameOrigin:NSMakePoint(right + kColumnGap, top_)];
+    [rows_ addSubview:label];
+    [rows_ addSubview:value];
+    top_ += std::max(NSHeight([value frame]), NSHeight([label frame])) + kLineGap;
+    hasMarks_ = hasMarks_ || line.differs;
+  }
+
+  NSView *rows_;
+  CGFloat width_;
+  CGFloat column_;
+  CGFloat top_ = kMargin;
+  bool hasMarks_ = false;
+};
 
 } // namespace
 
@@ -68,24 +85,23 @@ CGFloat layOut(const std::vector<Row> &rows, CGFloat top) {
 
 - (id)initWithFrame:(NSRect)frame {
   if ((self = [super initWithFrame:frame]) != nil) {
-    [self setHasVerticalScroller:YES];
-    [self setAutohidesScrollers:YES];
     [self setBorderType:NSBezelBorder];
-    [self setDrawsBackground:NO];
   }
   return self;
 }
 
 - (void)showSections:(const std::vector<SummarySection> &)sections {
   NSView *const rows = [[[SummaryRows alloc] initWithFrame:NSZeroRect] autorelease];
-  CGFloat top = kMargin;
-  for (const SummarySection &section : sections) {
-    [addLabel(rows, section.panelName, true) setFrameOrigin:NSMakePoint(kMargin, top)];
-    top = layOut(addRows(rows, section), top + kRowHeight + 2) + kMargin;
-  }
-  const NSSize visible = [self contentSize];
-  [rows setFrameSize:NSMakeSize(visible.width, std::max(top, visible.height))];
-  [self setDocumentView:rows];
+  // The scroller may come, and must not cut anything off.
+  const CGFloat width = NSWidth([self frame]) - [NSScroller scrollerWidth] - 4;
+  Writer writer(rows, width);
+  for (const SummarySection &section : sections)
+    writer.addSection(section);
+  if (writer.hasMarks())
+    writer.addLine(
+        imageposition::makeLabel(kMark + imageposition::messages::kDifferingLegend.str()));
+  [rows setFrameSize:NSMakeSize(width, writer.top())];
+  [self showRows:rows];
 }
 
 @end

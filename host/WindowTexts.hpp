@@ -32,6 +32,8 @@ extern const Text kNotOffered; ///< In a pop-up of what the printer has no choic
 extern const Text kOptionsPane;
 extern const Text kSummaryTitle;
 extern const Text kJobSection;
+extern const Text kSentSection;     ///< The summary's list of options as CUPS gets them.
+extern const Text kDifferingLegend; ///< What the mark beside some lines of the summary means.
 extern const Text kResolve;
 extern const Text kCancel;
 extern const Text kPrint;

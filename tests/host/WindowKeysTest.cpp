@@ -43,7 +43,22 @@ TEST_F(WindowKeys, AltAndALetterSwitchesACheckbox) {
   open("duplex-shift.ppd");
   press({"alt+o", "Return"});
   EXPECT_EQ(ended().status, kDone);
-  EXPECT_THAT(printed(), Contains(Pair("Collate", "True")));
+  EXPECT_THAT(printed(),
+              Contains(Pair("multiple-document-handling", "separate-documents-collated-copies")));
+}
+
+TEST_F(WindowKeys, TheArrowKeysCountTheCopies) {
+  open("duplex-shift.ppd");
+  press({"alt+c", "Up", "Up", "Up", "Down", "Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(printed(), Contains(Pair("copies", "3")));
+}
+
+TEST_F(WindowKeys, ThereIsNoLessThanOneCopy) {
+  open("duplex-shift.ppd");
+  press({"alt+c", "Up", "Down", "Down", "Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(printed(), Contains(Pair("copies", "1")));
 }
 
 TEST_F(WindowKeys, ControlLettersStillEditAndPlainOnesAreTyped) {

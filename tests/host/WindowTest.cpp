@@ -196,6 +196,26 @@ TEST_F(Window, ARangeOfPagesIsTypedAndSentAsCupsReadsIt) {
   EXPECT_THAT(printed(), Contains(Pair("page-ranges", "\"1-3,7\"")));
 }
 
+TEST_F(Window, OddPagesAreThoseOfARange) {
+  open("duplex-shift.ppd");
+  goTo(kPages);
+  press({"space", "Down", "Return", "Tab"});
+  type("1-6");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(printed(),
+              AllOf(Contains(Pair("page-ranges", "1-6")), Contains(Pair("page-set", "odd"))));
+}
+
+TEST_F(Window, EvenPagesNeedNoRange) {
+  open("duplex-shift.ppd");
+  goTo(kPages);
+  press({"space", "Down", "Down", "Return", "Return"});
+  EXPECT_EQ(ended().status, kDone);
+  EXPECT_THAT(printed(), Contains(Pair("page-set", "even")));
+  EXPECT_EQ(printed().count("page-ranges"), 0U);
+}
+
 TEST_F(Window, AConflictIsResolvedByItsButton) {
   open("duplex-shift.ppd");
   goTo(kPanes);
