@@ -66,6 +66,7 @@ bool PrintSettingsStore::IgnoringCase::operator()(const std::string &left,
 
 PrintSettingsStore::PrintSettingsStore(const PrintSettingsStore &other) { copyFrom(other); }
 
+// cppcheck-suppress operatorEqVarError ; an observer stays with its object
 PrintSettingsStore &PrintSettingsStore::operator=(const PrintSettingsStore &other) {
   if (this != &other) {
     cupsFreeOptions(count_, options_);

@@ -21,7 +21,7 @@ demonstration_packages=(
 
 test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev        # test and benchmark frameworks
-  clang-format clang-tidy shellcheck                # style
+  clang-format clang-tidy cppcheck shellcheck       # style, and faults that can be read
   xdotool xclip imagemagick x11-utils libxtst-dev   # a person at the window
   man-db mandoc desktop-file-utils                  # check the man page and the desktop file
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
