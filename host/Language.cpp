@@ -139,7 +139,7 @@ void speak(const std::string &language, const std::string &folder) {
 std::string catalogueFolder() {
   for (const char *name : {"locale", IMAGEPOSITION_LOCALES_FROM_PROGRAM}) {
     std::error_code ignored;
-    const std::string folder = besideProgram(name);
+    std::string folder = besideProgram(name);
     if (!folder.empty() && fs::is_directory(folder, ignored))
       return folder;
   }
