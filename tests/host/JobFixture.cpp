@@ -46,13 +46,19 @@ struct Printers {
                                        ">\"$record.part/arguments\"\n"
                                        "mv \"$record.part\" \"$record\"\n");
     fs::permissions(filter, fs::perms(0755));
-    std::string ppd = contentOf(IMAGEPOSITION_SAMPLES "/duplex-shift.ppd");
-    const std::string original = "application/vnd.cups-postscript 0 -";
-    ppd.replace(ppd.find(original), original.size(), "application/pdf 0 " + filter);
-    folder.write("printer.ppd", ppd);
+    for (const fs::directory_entry &sample : fs::directory_iterator(IMAGEPOSITION_SAMPLES))
+      if (sample.path().extension() == ".ppd")
+        writeRecordingPpd(sample.path(), filter);
     setenv("CUPS_SERVER", cups.socket().c_str(), 1);
     setenv("CUPS_SERVERROOT", cups.root().c_str(), 1);
     setenv("HOME", folder.path("home").c_str(), 1);
+  }
+
+  void writeRecordingPpd(const std::filesystem::path &sample, const std::string &filter) const {
+    std::string ppd = contentOf(sample.string());
+    const std::string original = "application/vnd.cups-postscript 0 -";
+    ppd.replace(ppd.find(original), original.size(), "application/pdf 0 " + filter);
+    folder.write(sample.filename().string(), ppd);
   }
 };
 
@@ -127,13 +133,9 @@ std::string JobFixture::command(const std::vector<std::string> &words) {
   return result.output;
 }
 
-void JobFixture::addQueue(const std::string &name, const std::vector<std::string> &more) {
-  std::vector<std::string> words{"lpadmin", "-p",
-                                 name,      "-E",
-                                 "-v",      "file:///dev/null",
-                                 "-P",      printers->folder.path("printer.ppd")};
-  words.insert(words.end(), more.begin(), more.end());
-  command(words);
+void JobFixture::addQueue(const std::string &name, const std::string &sample) {
+  command(
+      {"lpadmin", "-p", name, "-E", "-v", "file:///dev/null", "-P", printers->folder.path(sample)});
 }
 
 JobRequest JobFixture::requestFor(const std::string &queue) {

@@ -36,7 +36,8 @@ protected:
   static PrivateCups &cups();
   /// Runs one of CUPS's commands; a failure of it fails the test.
   static std::string command(const std::vector<std::string> &words);
-  static void addQueue(const std::string &name, const std::vector<std::string> &more = {});
+  /// A printer as one of the samples describes it.
+  static void addQueue(const std::string &name, const std::string &sample = "duplex-shift.ppd");
 
   static JobRequest requestFor(const std::string &queue = "office");
   /// A document that CUPS takes for PDF.

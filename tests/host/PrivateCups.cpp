@@ -19,9 +19,11 @@ void PrivateCups::stop() {
 }
 
 void PrivateCups::start() {
-  server_ = std::make_unique<Process>(std::vector<std::string>{"/usr/sbin/cupsd", "-f", "-c",
-                                                               folder_.path("cupsd.conf"), "-s",
-                                                               folder_.path("cups-files.conf")});
+  constexpr int kLongestTests = 1800; // seconds
+  const std::vector<std::string> command{
+      "/usr/sbin/cupsd",          "-f", "-c",
+      folder_.path("cupsd.conf"), "-s", folder_.path("cups-files.conf")};
+  server_ = std::make_unique<Process>(command, std::vector<std::string>{}, kLongestTests);
   const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
   while (!isRunning_ && !server_->hasEnded() && std::chrono::steady_clock::now() < deadline) {
     isRunning_ = run({"lpstat", "-r"}).output.find("is running") != std::string::npos;

@@ -13,8 +13,6 @@ namespace imageposition::test {
 
 namespace {
 
-constexpr int kPatienceInSeconds = 120;
-
 struct Pipe {
   int ends[2];
   Pipe() {
@@ -34,12 +32,13 @@ void applyEnvironment(const std::vector<std::string> &environment) {
 }
 
 [[noreturn]] void become(const std::vector<std::string> &words,
-                         const std::vector<std::string> &environment, int output, int errors) {
+                         const std::vector<std::string> &environment, int patience, int output,
+                         int errors) {
   dup2(open("/dev/null", O_RDONLY), STDIN_FILENO);
   dup2(output, STDOUT_FILENO);
   dup2(errors, STDERR_FILENO);
   applyEnvironment(environment);
-  alarm(kPatienceInSeconds); // survives exec
+  alarm(static_cast<unsigned>(patience)); // survives exec
   std::vector<char *> arguments;
   for (const std::string &word : words)
     arguments.push_back(const_cast<char *>(word.c_str()));
@@ -64,12 +63,12 @@ void PrintTo(const ProcessResult &result, std::ostream *stream) {
           << result.errors;
 }
 
-Process::Process(const std::vector<std::string> &words,
-                 const std::vector<std::string> &environment) {
+Process::Process(const std::vector<std::string> &words, const std::vector<std::string> &environment,
+                 int patience) {
   Pipe output, errors;
   child_ = fork();
   if (child_ == 0)
-    become(words, environment, output.ends[1], errors.ends[1]);
+    become(words, environment, patience, output.ends[1], errors.ends[1]);
   close(output.ends[1]);
   close(errors.ends[1]);
   output_ = output.ends[0];

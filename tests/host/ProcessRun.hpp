@@ -21,8 +21,11 @@ void PrintTo(const ProcessResult &result, std::ostream *stream);
 /// A program that runs beside the test. It is ended with this object.
 class Process {
 public:
-  /// As `runProcess`.
-  Process(const std::vector<std::string> &words, const std::vector<std::string> &environment = {});
+  static constexpr int kPatience = 120; ///< Seconds.
+
+  /// As `runProcess`; ends the program after `patience` seconds.
+  Process(const std::vector<std::string> &words, const std::vector<std::string> &environment = {},
+          int patience = kPatience);
   ~Process();
   Process(const Process &) = delete;
   Process &operator=(const Process &) = delete;
@@ -31,6 +34,7 @@ public:
   const ProcessResult &wait();
   bool hasEnded();
   void send(int signal) const;
+  pid_t id() const noexcept { return child_; }
   /// What it has written so far.
   std::string errorsSoFar();
 
