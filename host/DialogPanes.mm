@@ -67,8 +67,11 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 // A panel's controls need not reach the job's settings before it saves, and the picture shows the
 // settings. The text of a field that is being edited is nobody's yet, so that is left alone.
 - (void)personActedOn:(NSView *)view {
-  if (shownPanel == nullptr || ![view isDescendantOf:shownPanel->view()] || [self isSending] ||
-      [[views.window firstResponder] isKindOfClass:[NSText class]])
+  if (shownPanel == nullptr || ![view isDescendantOf:shownPanel->view()] || [self isSending])
+    return;
+  if ([view isKindOfClass:[NSButton class]])
+    [self takeFocus:view]; // a click leaves it in the field
+  if ([[views.window firstResponder] isKindOfClass:[NSText class]])
     return;
   PanelDriver *const panel = shownPanel;
   try {

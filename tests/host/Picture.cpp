@@ -9,7 +9,7 @@ namespace {
 
 // Outlines are longer than this, as fractions of the pages' part of the picture; letters are not.
 constexpr double kShortestSide = 0.2;
-constexpr int kShortestArm = 20;
+constexpr int kShortestArm = 18;
 
 } // namespace
 
@@ -40,9 +40,9 @@ Picture::Pixel Picture::at(int x, int y) const {
   return {pixels_[start], pixels_[start + 1], pixels_[start + 2]};
 }
 
-int Picture::inColumn(int x, const Pixel &colour) const {
+int Picture::inColumn(int x, int top, int bottom, const Pixel &colour) const {
   int count = 0;
-  for (int y = 0; y < pagesHeight(); y++)
+  for (int y = top; y < bottom; y++)
     count += at(x, y) == colour ? 1 : 0;
   return count;
 }
@@ -58,7 +58,7 @@ int Picture::inRow(int y, int left, int right, const Pixel &colour) const {
 Outline Picture::outline(const Pixel &colour) const {
   Outline found;
   for (int x = 0; x < width_ && found.right < 0; x++)
-    if (inColumn(x, colour) >= kShortestSide * pagesHeight())
+    if (inColumn(x, 0, pagesHeight(), colour) >= kShortestSide * pagesHeight())
       (found.left < 0 ? found.left : found.right) = x;
   if (found.right < 0)
     return found;
@@ -68,30 +68,33 @@ Outline Picture::outline(const Pixel &colour) const {
   return found;
 }
 
+Outline Picture::front() const { return outline({0, 40, 130}); }
+Outline Picture::back() const { return outline({0, 133, 100}); }
 Outline Picture::paper() const { return outline({120, 120, 128}); }
 
+/// The back's cross may cover a part of the front's.
 int Picture::frontMarkX() const {
-  for (int x = 0; x < width_; x++) {
-    int run = 0;
-    for (int y = pagesHeight(); y < height_; y++) {
-      run = at(x, y) == Pixel{0, 40, 130} ? run + 1 : 0;
-      if (run >= kShortestArm)
-        return x;
+  int found = -1;
+  for (int x = 0, most = kShortestArm; x < width_; x++) {
+    const int count = inColumn(x, pagesHeight(), height_, Pixel{0, 40, 130});
+    if (count > most) {
+      most = count;
+      found = x;
     }
   }
-  return -1;
+  return found;
 }
 
 int Picture::frontMarkY() const {
-  for (int y = pagesHeight(); y < height_; y++) {
-    int run = 0;
-    for (int x = 0; x < width_; x++) {
-      run = at(x, y) == Pixel{0, 40, 130} ? run + 1 : 0;
-      if (run >= kShortestArm)
-        return y;
+  int found = -1;
+  for (int y = pagesHeight(), most = kShortestArm; y < height_; y++) {
+    const int count = inRow(y, 0, width_ - 1, Pixel{0, 40, 130});
+    if (count > most) {
+      most = count;
+      found = y;
     }
   }
-  return -1;
+  return found;
 }
 
 } // namespace imageposition::test

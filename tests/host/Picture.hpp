@@ -23,8 +23,8 @@ public:
   explicit Picture(const Screen &screen);
 
   /// What is printed, on the pages named "Front" and "Back".
-  Outline front() const { return outline({0, 40, 130}); }
-  Outline back() const { return outline({0, 133, 100}); }
+  Outline front() const;
+  Outline back() const;
   /// The paper of the page named "Front".
   Outline paper() const;
   /// Where the front's cross is in the enlarged centre; -1 when it is hidden.
@@ -42,8 +42,8 @@ private:
   };
   Pixel at(int x, int y) const;
   Outline outline(const Pixel &colour) const;
-  /// How many pixels of a column, or a row, of the pages have that colour.
-  int inColumn(int x, const Pixel &colour) const;
+  /// How many pixels of a part of a column, or a row, have that colour.
+  int inColumn(int x, int top, int bottom, const Pixel &colour) const;
   int inRow(int y, int left, int right, const Pixel &colour) const;
   int pagesHeight() const { return height_ / 2; }
 

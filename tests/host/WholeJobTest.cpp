@@ -122,7 +122,7 @@ TEST_F(ThePicture, MovesBothSidesAlikeWithoutTheTick) {
 TEST_F(ThePicture, ShowsEachClickOnAStepperEnlarged) {
   PrintWindow window(onQueue("office"));
   window.tick(kSeparateOffsets, true);
-  window.enter(kBackLeftRight, "-1"); // its mark no longer hides the front's
+  window.enter(kBackLeftRight, "10"); // its mark no longer hides the front's
   const auto moves = [&](const char *label, bool up, int rightwards, int downwards) {
     const Picture before(window.screen());
     window.step(label, up);
@@ -142,7 +142,7 @@ TEST_F(ThePicture, ShowsEachClickOnAStepperEnlarged) {
   moves(kFrontTopBottom, false, 0, -1);
   EXPECT_EQ(window.field(kFrontTopBottom), "-1");
   window.click("Print");
-  expectValues(printed(jobOf(window.ended())), {true, {1, -1, -1, 0}});
+  expectValues(printed(jobOf(window.ended())), {true, {1, -1, 10, 0}});
 }
 
 TEST_F(WholeJob, APresetIsSavedAndChosenAfterARestartAndPrinted) {
