@@ -24,6 +24,7 @@ test_packages=(
   clang-format clang-tidy cppcheck shellcheck       # style, and faults that can be read
   xdotool xclip imagemagick x11-utils libxtst-dev   # a person at the window
   man-db mandoc desktop-file-utils                  # check the man page and the desktop file
+  zsh python3                                       # completion, in the real shells
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
   cups-filters hp-ppd foomatic-db-compressed-ppds   # printer descriptions that others wrote
 )

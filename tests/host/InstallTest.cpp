@@ -38,10 +38,12 @@ protected:
 std::unique_ptr<TemporaryFolder> Install::folder;
 
 TEST_F(Install, PutsEverythingWhereOthersLookForIt) {
-  for (const char *name : {"bin/print-dialog", "share/man/man1/print-dialog.1",
-                           "share/applications/print-dialog.desktop",
-                           "share/icons/hicolor/scalable/apps/print-dialog.svg",
-                           "share/locale/de/LC_MESSAGES/print-dialog.mo"})
+  for (const char *name :
+       {"bin/print-dialog", "share/man/man1/print-dialog.1",
+        "share/applications/print-dialog.desktop",
+        "share/icons/hicolor/scalable/apps/print-dialog.svg",
+        "share/bash-completion/completions/print-dialog", "share/zsh/site-functions/_print-dialog",
+        "share/locale/de/LC_MESSAGES/print-dialog.mo"})
     EXPECT_TRUE(std::filesystem::is_regular_file(prefix() + "/" + name)) << name;
   EXPECT_THAT(find("MorvaADPImagePosition.plugin"), HasSubstr("/print-dialog/plugins/"));
 }

@@ -1,0 +1,146 @@
+# Completion of print-dialog for bash. What a printer has is asked of CUPS, once a key, for a second at
+# most, and without a word when there is none.
+
+# The words before the cursor, with what bash splits at "=" and ":" put together again.
+_print_dialog_read_line() {
+  local line=${COMP_LINE:0:COMP_POINT} index
+  words=()
+  for ((index = 0; index <= COMP_CWORD; index++)); do
+    local word=${COMP_WORDS[index]}
+    if ((index && ${#words[@]})) && [[ $line != [[:space:]]* ]]; then
+      words[-1]+=${line:0:${#word}}
+    else
+      line=${line#"${line%%[![:space:]]*}"}
+      words+=("${line:0:${#word}}")
+    fi
+    line=${line:${#word}}
+  done
+}
+
+# What was said with the option whose names are $2 and on; the last one, into the variable $1.
+_print_dialog_said() {
+  local -n said=$1
+  local index name
+  said=
+  for ((index = 1; index < ${#words[@]} - 1; index++)); do
+    for name in "${@:2}"; do
+      if [[ ${words[index]} == "$name" ]]; then
+        said=${words[index + 1]}
+      elif [[ $name == --* && ${words[index]} == "$name="* ]]; then
+        said=${words[index]#*=}
+      elif [[ $name == -? && ${words[index]} == "$name"?* ]]; then
+        # shellcheck disable=SC2034 # a name for the variable of the caller
+        said=${words[index]:2}
+      fi
+    done
+  done
+}
+
+_print_dialog_ask() {
+  local server
+  _print_dialog_said server -h
+  if type -P timeout >/dev/null; then
+    ${server:+env "CUPS_SERVER=$server"} timeout 1 "$@" 2>/dev/null </dev/null
+  fi
+}
+
+# A line "name choice choice ..." for each option of the printer.
+_print_dialog_options() {
+  local queue ppd
+  _print_dialog_said queue -d --queue
+  _print_dialog_said ppd --ppd
+  if [[ $ppd ]]; then
+    [[ -f ${ppd/#\~\//$HOME/} ]] || return
+    tr '\r' '\n' <"${ppd/#\~\//$HOME/}" 2>/dev/null | awk '
+      /^\*(JCL)?OpenUI/ { option = $2; sub(/^\*/, "", option); sub(/[\/:].*/, "", option); line = option }
+      /^\*(JCL)?CloseUI/ && option != "" { print line; option = "" }
+      option != "" && $1 == "*" option { choice = $2; sub(/[\/:].*/, "", choice); line = line " " choice }'
+  else
+    _print_dialog_ask lpoptions ${queue:+-p "$queue"} -l |
+      sed -n 's/^\([^/: ]*\)[^:]*:/\1/p' | tr -d '*'
+  fi
+}
+
+# The candidates in $2 and on that begin with $1, which bash has split before its last "=" or ":".
+_print_dialog_offer() {
+  local typed=$1 candidate split=
+  shift
+  if [[ $COMP_WORDBREAKS == *=* && $typed == *=* ]]; then split=${typed%"${typed##*=}"}; fi
+  for candidate; do
+    [[ $candidate == "$typed"* ]] && COMPREPLY+=("${candidate#"$split"}")
+  done
+}
+
+_print_dialog_offer_settings() {
+  local typed=$1 line name choices choice
+  local -a candidates=()
+  while read -r name choices; do
+    if [[ $typed == "$name="* ]]; then
+      for choice in $choices; do candidates+=("$name=$choice"); done
+    else
+      candidates+=("$name=")
+    fi
+  done < <(_print_dialog_options)
+  _print_dialog_offer "$typed" "${candidates[@]}"
+  [[ ${COMPREPLY[*]} != *= ]] || compopt -o nospace
+}
+
+# Files and folders that match the pattern $2, or all.
+_print_dialog_offer_files() {
+  local file typed=${1/#\~\//$HOME/}
+  compopt -o filenames
+  while IFS= read -r file; do
+    # shellcheck disable=SC2053 # a pattern
+    if [[ -d $file || ${file##*/} == ${2-*} ]]; then COMPREPLY+=("$file"); fi
+  done < <(compgen -f -- "$typed")
+}
+
+_print_dialog_offer_queues() {
+  local -a queues
+  mapfile -t queues < <(_print_dialog_ask lpstat -e)
+  _print_dialog_offer "$1" "${queues[@]}"
+}
+
+_print_dialog_value() {
+  case $1 in
+  -d | --queue) _print_dialog_offer_queues "$2" ;;
+  -o | --option) _print_dialog_offer_settings "$2" ;;
+  -H) _print_dialog_offer "$2" hold immediate resume indefinite day-time evening night weekend \
+    second-shift third-shift no-hold ;;
+  -U) mapfile -t COMPREPLY < <(compgen -u -- "$2") ;;
+  --ppd) _print_dialog_offer_files "$2" '*.[pP][pP][dD]' ;;
+  --plugin) _print_dialog_offer_files "$2" '*.plugin' ;;
+  --ticket) _print_dialog_offer_files "$2" '*.json' ;;
+  --back) _print_dialog_offer "$2" on off ;;
+  --appearance) _print_dialog_offer "$2" light dark ;;
+  --text-scale) _print_dialog_offer "$2" 1 1.25 1.5 2 ;;
+  -h | -n | -P | -q | -t | --set) ;;
+  *) return 1 ;;
+  esac
+}
+
+_print_dialog() {
+  local -a words
+  local word current previous
+  COMPREPLY=()
+  _print_dialog_read_line
+  current=${words[-1]}
+  previous=${words[-2]-}
+  for word in "${words[@]:1:${#words[@]}-2}"; do
+    if [[ $word == -- ]]; then
+      _print_dialog_offer_files "$current"
+      return
+    fi
+  done
+  if [[ $current == --*=* ]] && _print_dialog_value "${current%%=*}" "${current#*=}"; then return; fi
+  if _print_dialog_value "$previous" "$current"; then return; fi
+  if [[ $current == -* ]]; then
+    _print_dialog_offer "$current" --version --help --ppd -d --queue -h -E -U -o --option -n -P -q \
+      -H -t -m -s -c --dry-run --plugin --ticket --appearance --text-scale --batch --set --back \
+      --summary
+    return
+  fi
+  _print_dialog_offer_files "$current"
+}
+
+complete -F _print_dialog print-dialog
