@@ -420,6 +420,28 @@ TEST_F(Job, OfSeveralDocumentsPrintsThemInTheirOrder) {
   EXPECT_TRUE(comesTrue([=] { return cups().jobAttribute(job, "job-state") == "completed"; }));
 }
 
+TEST_F(Job, SaysThatMoreDocumentsFollowTheFirst) {
+  const std::string path = folder.path("relay");
+  for (const bool isAlone : {false, true}) {
+    ipp_t *sent = nullptr;
+    {
+      RecordingRelay relay(path, cups().socket());
+      cupsSetServer(path.c_str());
+      submitJob(requestFor(),
+                isAlone ? JobDocuments{document()} : JobDocuments{document(), document()});
+      cupsSetServer(cups().socket().c_str());
+      sent = relay.request(IPP_OP_SEND_DOCUMENT);
+    }
+    std::filesystem::remove(path);
+    ASSERT_NE(sent, nullptr);
+    ipp_attribute_t *const last = ippFindAttribute(sent, "last-document", IPP_TAG_BOOLEAN);
+    EXPECT_EQ(ippGetBoolean(last, 0) != 0, isAlone);
+    ipp_attribute_t *const name = ippFindAttribute(sent, "document-name", IPP_TAG_NAME);
+    EXPECT_STREQ(ippGetString(name, 0, nullptr), "document.pdf");
+    ippDelete(sent);
+  }
+}
+
 TEST_F(Job, ProgressIsThatOfAllDocuments) {
   const std::string path = document(1000);
   JobProgress last;

@@ -89,7 +89,10 @@ ipp_t *RecordingRelay::request(ipp_op_t operation) {
     const std::size_t end = sent_.find("\r\n\r\n", post);
     if (end == std::string::npos)
       break;
-    Bytes body{sent_.data() + end + 4, sent_.size() - end - 4};
+    std::size_t start = end + 4;
+    if (sent_.find("chunked", post) < end) // the first chunk has all attributes
+      start = sent_.find("\r\n", start) + 2;
+    Bytes body{sent_.data() + start, sent_.size() - start};
     ipp_t *const request = ippNew();
     if (ippReadIO(&body, take, 1, nullptr, request) == IPP_STATE_DATA &&
         ippGetOperation(request) == operation)
