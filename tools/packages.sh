@@ -28,3 +28,9 @@ test_packages=(
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
   cups-filters hp-ppd foomatic-db-compressed-ppds   # printer descriptions that others wrote
 )
+
+comparison_packages=(
+  qt6-base-dev libgtk-3-dev                         # other print dialogs
+  libxdamage-dev libxext-dev                        # what is drawn, seen from outside
+  cups-client cups-daemon dbus-daemon at-spi2-core  # what they all talk to
+)
