@@ -5,6 +5,7 @@
 #import "host/Fonts.h"
 #import "host/Guard.h"
 #include "host/Messages.hpp"
+#import "host/QuickStart.h"
 #import "host/Theme.h"
 
 #import <AppKit/AppKit.h>
@@ -46,7 +47,12 @@ void startApplication() {
   leaveOutImageLoaders();
   leaveOutNotificationDaemon();
   chooseFontsForLanguage();
-  const auto raised = whatIsRaisedBy([] { [NSApplication sharedApplication]; });
+  leaveOutIconAndServices();
+  openInputMethodWithFirstKey();
+  const auto raised = whatIsRaisedBy([] {
+    const ShortWaits whileStarting;
+    [NSApplication sharedApplication];
+  });
   if (raised || NSApp == nil) {
     const char *const name = std::getenv("DISPLAY");
     throw Failure(ExitCode::Display, messages::displayUnreachable(name != nullptr ? name : ""));

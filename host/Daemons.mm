@@ -1,39 +1,21 @@
 #import "host/Daemons.h"
 
-#import <AppKit/AppKit.h>
+#import "host/Replaced.h"
 
-#include <objc/runtime.h>
+#import <AppKit/AppKit.h>
 
 namespace imageposition {
 namespace {
 
-/// A class operation whose implementation is another for a while.
-class Replaced {
-public:
-  Replaced(Class owner, SEL operation) : method_(class_getClassMethod(owner, operation)) {}
-
-  void by(IMP other) {
-    if (method_ != nullptr && before_ == nullptr)
-      before_ = method_setImplementation(method_, other);
-  }
-  void restore() {
-    if (before_ != nullptr)
-      method_setImplementation(method_, before_);
-    before_ = nullptr;
-  }
-
-private:
-  Method method_;
-  IMP before_ = nullptr;
-};
-
 struct Operations {
-  Replaced defaultCentre { [NSDistributedNotificationCenter class], @selector(defaultCenter) };
-  Replaced centreForType {
-    [NSDistributedNotificationCenter class], @selector(notificationCenterForType:)
-  };
-  Replaced generalPasteboard { [NSPasteboard class], @selector(generalPasteboard) };
-  Replaced namedPasteboard { [NSPasteboard class], @selector(pasteboardWithName:) };
+  Replaced defaultCentre =
+      Replaced::classOperation([NSDistributedNotificationCenter class], @selector(defaultCenter));
+  Replaced centreForType = Replaced::classOperation([NSDistributedNotificationCenter class],
+                                                    @selector(notificationCenterForType:));
+  Replaced generalPasteboard =
+      Replaced::classOperation([NSPasteboard class], @selector(generalPasteboard));
+  Replaced namedPasteboard =
+      Replaced::classOperation([NSPasteboard class], @selector(pasteboardWithName:));
 };
 
 Operations &operations() {
@@ -63,7 +45,7 @@ id namedPasteboardAtLast(id owner, SEL operation, NSString *name) {
   letDaemonsIn();
   operations().namedPasteboard.restore();
   id const pasteboard = [owner pasteboardWithName:name];
-  operations().namedPasteboard.by(reinterpret_cast<IMP>(namedPasteboardAtLast));
+  operations().namedPasteboard.by(namedPasteboardAtLast);
   (void)operation;
   return pasteboard;
 }
@@ -71,18 +53,18 @@ id namedPasteboardAtLast(id owner, SEL operation, NSString *name) {
 } // namespace
 
 void leaveOutNotificationDaemon() {
-  operations().defaultCentre.by(reinterpret_cast<IMP>(answerNothing));
-  operations().centreForType.by(reinterpret_cast<IMP>(answerNothing));
+  operations().defaultCentre.by(answerNothing);
+  operations().centreForType.by(answerNothing);
 }
 
 void leaveOutPasteboardDaemon() {
-  operations().generalPasteboard.by(reinterpret_cast<IMP>(answerNothing));
-  operations().namedPasteboard.by(reinterpret_cast<IMP>(answerNothing));
+  operations().generalPasteboard.by(answerNothing);
+  operations().namedPasteboard.by(answerNothing);
 }
 
 void startPasteboardOnDemand() {
-  operations().generalPasteboard.by(reinterpret_cast<IMP>(generalPasteboardAtLast));
-  operations().namedPasteboard.by(reinterpret_cast<IMP>(namedPasteboardAtLast));
+  operations().generalPasteboard.by(generalPasteboardAtLast);
+  operations().namedPasteboard.by(namedPasteboardAtLast);
 }
 
 } // namespace imageposition

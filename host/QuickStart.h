@@ -1,0 +1,28 @@
+/// What the platform does at the start of every program, and a dialog does without or later.
+#ifndef IMAGEPOSITION_HOST_QUICKSTART_H
+#define IMAGEPOSITION_HOST_QUICKSTART_H
+
+namespace imageposition {
+
+/// No application icon, neither beside the window nor in it; and no services of other programs,
+/// which only a menu would offer, and for which a further program would search the disk.
+void leaveOutIconAndServices();
+
+/// While this is there, the platform looks for an answer of the window manager every fifth of a
+/// millisecond instead of every ten: it asks for the frames of fifteen kinds of windows, one after
+/// the other, when it is the first of its programs on a display.
+class ShortWaits {
+public:
+  ShortWaits();
+  ~ShortWaits();
+  ShortWaits(const ShortWaits &) = delete;
+  ShortWaits &operator=(const ShortWaits &) = delete;
+};
+
+/// The input method, and with it the table of composed characters, is opened by the first key that
+/// is pressed, which it then gets. Call it before the application is there.
+void openInputMethodWithFirstKey();
+
+} // namespace imageposition
+
+#endif
