@@ -4,8 +4,8 @@
 
 namespace imageposition {
 
-/// No application icon, neither beside the window nor in it; and no services of other programs,
-/// which only a menu would offer, and for which a further program would search the disk.
+/// No application icon beside the window; no workspace, which would have a further program look for
+/// all applications on the disk; no services of other programs, which only a menu would offer.
 void leaveOutIconAndServices();
 
 /// While this is there, the platform looks for an answer of the window manager every fifth of a

@@ -37,7 +37,7 @@ void sleepShortly(id, SEL, NSDate *date) {
 } // namespace
 
 void leaveOutIconAndServices() {
-  for (const char *operation : {"_appIconInit", "_loadAppIconImage", "applicationIconImage"})
+  for (const char *operation : {"_appIconInit", "applicationIconImage", "setApplicationIconImage:"})
     leaveOut([NSApplication class], operation);
   for (const char *operation : {"loadServices", "rebuildServices", "registerAsServiceProvider"})
     leaveOut(NSClassFromString(@"GSServicesManager"), operation);

@@ -23,6 +23,7 @@ test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev        # test and benchmark frameworks
   clang-format clang-tidy cppcheck shellcheck       # style, and faults that can be read
   xdotool xclip imagemagick x11-utils libxtst-dev   # a person at the window
+  x11-xkb-utils procps                              # its keyboard; which programs run
   man-db mandoc desktop-file-utils                  # check the man page and the desktop file
   zsh python3                                       # completion, in the real shells
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
