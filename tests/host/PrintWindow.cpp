@@ -1,5 +1,7 @@
 #include "tests/host/PrintWindow.hpp"
 
+#include "tests/host/FocusedWindow.hpp"
+
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -24,7 +26,8 @@ bool comesTrueInTime(const std::function<bool()> &condition) {
 
 /// What a person does next makes no sense then.
 [[noreturn]] void giveUp(const std::string &missing, const Screen &shown) {
-  std::string text = missing + ", in \"" + shown.keyWindow + "\":";
+  std::string text = missing + ", in \"" + shown.keyWindow + "\" at " + std::to_string(shown.x) +
+                     ", " + std::to_string(shown.y) + ":";
   for (const Control &control : shown.controls)
     text += "\n" + control.kind + (control.isEnabled ? " " : " (off) ") + control.text;
   throw std::runtime_error(text);
@@ -80,8 +83,10 @@ std::string PrintWindow::field(const std::string &label) const {
 }
 
 bool PrintWindow::hasKeyboard(const std::string &title) const {
-  return screen().keyWindow == title &&
-         runProcess({"xdotool", "getwindowfocus", "getwindowname"}).output == title + "\n";
+  const Screen shown = screen();
+  const FocusedWindow focused = FocusedWindow::find();
+  return shown.keyWindow == title && focused.title == title && focused.x == shown.x &&
+         focused.y == shown.y;
 }
 
 void PrintWindow::moveTo(int x, int y) {

@@ -27,7 +27,7 @@ public:
   /// What the field beside the label holds; "?" when there is none.
   std::string field(const std::string &label) const;
 
-  /// Another window of the program has the keyboard, or this one again.
+  /// Whether a window of the program has the keyboard, and is where the program believes it to be.
   bool hasKeyboard(const std::string &title) const;
   /// Puts the window's corner there.
   void moveTo(int x, int y);

@@ -26,9 +26,13 @@ Screen Screen::read(const std::string &file) {
   std::string line;
   if (!std::getline(lines, line))
     return screen;
-  const std::size_t tab = line.find('\t');
-  screen.isTracking = line.substr(0, tab) == "NSEventTrackingRunLoopMode";
-  screen.keyWindow = line.substr(tab + 1);
+  std::istringstream words(line);
+  std::string mode;
+  int width, height;
+  words >> mode >> screen.x >> screen.y >> width >> height;
+  words.get(); // the tab
+  std::getline(words, screen.keyWindow);
+  screen.isTracking = mode == "NSEventTrackingRunLoopMode";
   while (std::getline(lines, line))
     screen.controls.push_back(readControl(line));
   return screen;

@@ -26,7 +26,9 @@ struct Control {
 /// As the bundle that observes the program wrote it down last.
 struct Screen {
   bool isTracking = false; ///< A button of the mouse is held in one of the program's controls.
-  std::string keyWindow;   ///< Its title.
+  std::string keyWindow;   ///< Its title, once the program is the active one.
+  int x = 0;               ///< Of the key window's content, as the program knows it.
+  int y = 0;
   std::vector<Control> controls;
 
   /// Everything is empty when there is no such file yet.

@@ -101,8 +101,10 @@ void writeView(std::ostream &out, NSView *view) {
 
 std::string listing() {
   std::ostringstream out;
-  out << oneLine([[NSRunLoop currentRunLoop] currentMode]) << '\t'
-      << oneLine([[NSApp keyWindow] title]) << '\n';
+  NSWindow *const key = [NSApp isActive] ? [NSApp keyWindow] : nil;
+  out << oneLine([[NSRunLoop currentRunLoop] currentMode]);
+  writePlace(out, [key contentView], [[key contentView] bounds]);
+  out << '\t' << oneLine([key title]) << '\n';
   for (NSUInteger i = 0; i < [[NSApp windows] count]; i++) {
     NSWindow *const window = [[NSApp windows] objectAtIndex:i];
     if ([window isVisible])
