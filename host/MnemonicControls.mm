@@ -25,7 +25,9 @@ Underline underlineOf(const MnemonicText &mnemonic, NSFont *font) {
   const auto width = [=](const std::string &text) {
     return text.empty() ? 0 : [font widthOfString:toString(text)];
   };
-  return {width(mnemonic.text.substr(0, mnemonic.keyAt)), width(mnemonic.key)};
+  // With the key: a blank at the end of a text is not measured.
+  const std::string upToKey = mnemonic.text.substr(0, mnemonic.keyAt) + mnemonic.key;
+  return {width(upToKey) - width(mnemonic.key), width(mnemonic.key)};
 }
 
 /// On whole pixels, one below the baseline of a text that fills `text` in a flipped view.
