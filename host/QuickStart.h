@@ -4,8 +4,9 @@
 
 namespace imageposition {
 
-/// No application icon beside the window; no workspace, which would have a further program look for
-/// all applications on the disk; no services of other programs, which only a menu would offer.
+/// No application icon beside the window or in it; no workspace, which would have a further program
+/// look for all applications on the disk; no services of other programs, which only a menu would
+/// offer.
 void leaveOutIconAndServices();
 
 /// While this is there, the platform looks for an answer of the window manager every fifth of a

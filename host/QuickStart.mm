@@ -41,6 +41,7 @@ void leaveOutIconAndServices() {
     leaveOut([NSApplication class], operation);
   for (const char *operation : {"loadServices", "rebuildServices", "registerAsServiceProvider"})
     leaveOut(NSClassFromString(@"GSServicesManager"), operation);
+  leaveOut([NSWindow class], "miniwindowImage");
   leaveOutOfClass([NSWorkspace class], @selector(sharedWorkspace));
 }
 
