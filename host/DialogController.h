@@ -95,6 +95,8 @@ struct DialogState;
 - (BOOL)isSending;
 - (void)startSending;
 - (void)cancelSending;
+/// Asks for the password that CUPS waits for.
+- (void)wake;
 @end
 
 #endif

@@ -58,6 +58,8 @@ public:
 
   /// Writes the ticket, or the settings to standard output. Throws a `Failure`.
   void writeSettings() const;
+  /// Writes a ticket of that path. Throws a `Failure`.
+  void writeSettings(const std::string &path) const;
 
 private:
   void keepWhatFits(const PrinterDescription &before);

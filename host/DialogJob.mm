@@ -168,14 +168,16 @@ void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostr
 }
 
 void DialogJob::writeSettings() const {
-  if (arguments_.ticket.empty()) {
+  if (arguments_.ticket.empty())
     std::cout << writeOptionText(ticket_.settings);
-    return;
-  }
-  writeTicket(ticket_, arguments_.ticket);
+  else
+    writeSettings(arguments_.ticket);
+}
+
+void DialogJob::writeSettings(const std::string &path) const {
+  writeTicket(ticket_, path);
   if (!arguments_.isSilent)
-    std::cerr << messages::ticketWritten(arguments_.ticket, optionTextPath(arguments_.ticket))
-              << '\n';
+    std::cerr << messages::ticketWritten(path, optionTextPath(path)) << '\n';
 }
 
 } // namespace imageposition

@@ -41,6 +41,7 @@ struct DialogState {
   std::string preset; ///< The chosen one's name; may be empty.
 
   std::unique_ptr<JobSubmission> submission;
+  bool isAskingForPassword = false;
 };
 
 } // namespace imageposition

@@ -1,5 +1,6 @@
 #import "host/DialogController.h"
 #import "host/DialogState.h"
+#import "host/PasswordPanel.h"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
@@ -10,12 +11,12 @@ using namespace imageposition;
 namespace {
 
 /// A modal loop looks whether it has been stopped only after an event; a timer is none.
-void wakeModalLoop() {
+void wakeModalLoop(NSWindow *window) {
   NSEvent *const event = [NSEvent otherEventWithType:NSApplicationDefined
                                             location:NSZeroPoint
                                        modifierFlags:0
                                            timestamp:0
-                                        windowNumber:0
+                                        windowNumber:[window windowNumber]
                                              context:nil
                                              subtype:0
                                                data1:0
@@ -77,10 +78,28 @@ void wakeModalLoop() {
   state->submission->cancel();
 }
 
+- (void)wake {
+  if (![self isSending] || state->isAskingForPassword)
+    return;
+  const auto question = state->submission->question();
+  if (!question)
+    return;
+  state->isAskingForPassword = true;
+  auto answer = askForPassword(views.window, job->request().printer, *question);
+  state->isAskingForPassword = false;
+  if (!answer)
+    [self cancelSending];
+  state->submission->answer(std::move(answer));
+}
+
 /// Called by the window's timer.
 - (void)lookAfterSending {
-  if (![self isSending])
+  if (![self isSending] || state->isAskingForPassword)
     return;
+  if (state->submission->question()) {
+    wakeModalLoop(views.window);
+    return;
+  }
   const JobProgress progress = state->submission->progress();
   const auto total = progress.total.value_or(0);
   [views.progress setDoubleValue:total == 0 ? 0 : static_cast<double>(progress.sent) / total];
@@ -94,7 +113,7 @@ void wakeModalLoop() {
   try {
     job->report(submission->result(), std::cout, *errors);
     [NSApp stopModalWithCode:NSOKButton];
-    wakeModalLoop();
+    wakeModalLoop(views.window);
   } catch (const Failure &failure) {
     [self say:failure.what()];
   }

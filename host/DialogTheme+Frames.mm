@@ -6,8 +6,12 @@ using namespace imageposition;
 
 namespace {
 
+/// A secure field has an editor of its own, which it does not tell of.
 bool isBeingEdited(NSView *view) {
-  return [view isKindOfClass:[NSTextField class]] && [(NSTextField *)view currentEditor] != nil;
+  id const responder = [[view window] firstResponder];
+  return [view isKindOfClass:[NSTextField class]] &&
+         ([(NSTextField *)view currentEditor] != nil ||
+          ([responder isKindOfClass:[NSText class]] && [responder delegate] == view));
 }
 
 bool isUsable(NSView *view) {

@@ -5,6 +5,8 @@
 #include "host/DocumentNames.hpp"
 #import "host/HelpPanel.h"
 #include "host/Messages.hpp"
+#import "host/NamePanel.h"
+#include "host/TicketName.hpp"
 #import "platform/TextBridge.h"
 
 #include <algorithm>
@@ -112,7 +114,14 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
     return;
   }
   try {
-    job->writeSettings();
+    std::string path = job->arguments().ticket;
+    if (path.empty()) {
+      const auto named = askForTicket(views.window, suggestedTicket(job->documents()));
+      if (!named)
+        return;
+      path = *named;
+    }
+    job->writeSettings(path);
     [NSApp stopModalWithCode:NSOKButton];
   } catch (const Failure &failure) {
     [self say:failure.what()];

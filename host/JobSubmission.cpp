@@ -9,8 +9,10 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <condition_variable>
 #include <cstring>
 #include <future>
+#include <mutex>
 #include <string_view>
 #include <system_error>
 #include <thread>
@@ -88,6 +90,11 @@ public:
       : request_(request), options_(optionsToSend(request)), progress_(progress) {}
 
   SubmittedJob run(const JobDocuments &documents);
+  /// The time that a person took is not CUPS's.
+  void noticeAnswer() {
+    lastSign_ = Clock::now();
+    report();
+  }
 
 private:
   bool report();
@@ -322,8 +329,16 @@ SubmittedJob Submission::run(const JobDocuments &documents) {
 
 SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
                        const ProgressCallback &progress, const PasswordCallback &password) {
-  const PasswordQuestion question(password);
-  return Submission(request, progress).run(documents);
+  Submission submission(request, progress);
+  PasswordCallback asking;
+  if (password)
+    asking = [&](const PasswordRequest &wanted) {
+      const auto answer = password(wanted);
+      submission.noticeAnswer();
+      return answer;
+    };
+  const PasswordQuestion question(asking);
+  return submission.run(documents);
 }
 
 struct JobSubmission::Work {
@@ -331,6 +346,20 @@ struct JobSubmission::Work {
   std::atomic<std::int64_t> total{-1}; // -1: unknown
   std::atomic<bool> isCancelled{false};
   std::shared_future<SubmittedJob> outcome;
+
+  std::mutex mutex; // of the following
+  std::condition_variable answered;
+  std::optional<PasswordRequest> question;
+  std::optional<Credentials> credentials;
+
+  /// On the submission's thread: waits for the other one.
+  std::optional<Credentials> ask(const PasswordRequest &wanted) {
+    std::unique_lock<std::mutex> lock(mutex);
+    question = wanted;
+    answered.wait(lock, [this] { return !question || isCancelled; });
+    question.reset();
+    return std::exchange(credentials, std::nullopt);
+  }
 
   bool take(const JobProgress &progress) {
     sent = progress.sent;
@@ -344,9 +373,10 @@ JobSubmission::JobSubmission(JobRequest request, JobDocuments documents)
   Work *const work = work_.get(); // outlives the thread, whose end the destructor awaits
   work->outcome = std::async(std::launch::async, [work, request = std::move(request),
                                                   documents = std::move(documents)] {
-                    return submitJob(request, documents, [work](const JobProgress &progress) {
-                      return work->take(progress);
-                    });
+                    return submitJob(
+                        request, documents,
+                        [work](const JobProgress &progress) { return work->take(progress); },
+                        [work](const PasswordRequest &wanted) { return work->ask(wanted); });
                   }).share();
 }
 
@@ -360,7 +390,23 @@ JobProgress JobSubmission::progress() const {
   return {work_->sent, total < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(total))};
 }
 
-void JobSubmission::cancel() { work_->isCancelled = true; }
+void JobSubmission::cancel() {
+  const std::lock_guard<std::mutex> lock(work_->mutex);
+  work_->isCancelled = true;
+  work_->answered.notify_one();
+}
+
+std::optional<PasswordRequest> JobSubmission::question() const {
+  const std::lock_guard<std::mutex> lock(work_->mutex);
+  return work_->question;
+}
+
+void JobSubmission::answer(std::optional<Credentials> credentials) {
+  const std::lock_guard<std::mutex> lock(work_->mutex);
+  work_->credentials = std::move(credentials);
+  work_->question.reset();
+  work_->answered.notify_one();
+}
 
 bool JobSubmission::isDone() const {
   return work_->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready;

@@ -80,6 +80,10 @@ public:
   /// Takes effect between two pieces; too late once all has been sent.
   void cancel();
   bool isDone() const;
+  /// While CUPS waits for a password: what it asks. `answer` lets it go on.
+  std::optional<PasswordRequest> question() const;
+  /// None gives up.
+  void answer(std::optional<Credentials> credentials);
   /// Waits for the end; throws what `submitJob` threw.
   SubmittedJob result();
 

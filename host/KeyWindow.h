@@ -18,6 +18,9 @@
 @optional
 /// F1.
 - (void)help;
+/// An event of the application's own for this window: there is something to do that waits for the
+/// person, which a timer must not.
+- (void)wake;
 /// A click on the view, or a key while it had the focus, has been handled; keys that are the
 /// dialog's own are not told.
 - (void)personActedOn:(NSView *)view;

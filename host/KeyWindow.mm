@@ -154,6 +154,11 @@ NSView *focusOf(NSWindow *window) {
 }
 
 - (void)sendEvent:(NSEvent *)event {
+  if ([event type] == NSApplicationDefined &&
+      [[self delegate] respondsToSelector:@selector(wake)]) {
+    [(id<KeyWindowDelegate>)[self delegate] wake];
+    return;
+  }
   KeyWindow *const window = self;
   id<KeyWindowDelegate> const person = (id<KeyWindowDelegate>)[self delegate];
   NSView *const view = actedOn(event, self);

@@ -28,8 +28,9 @@ public:
   void add(NSView *view);
 
   /// Shows it in the middle of `parent` and waits; true when the person confirmed. The views are
-  /// those that take keys, in the order of Tab and before the buttons. Main thread.
-  bool run(NSWindow *parent, const std::vector<NSView *> &order);
+  /// those that take keys, in the order of Tab and before the buttons; `first` has the focus, or
+  /// the first of them, or the button that confirms. Main thread.
+  bool run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first = nil);
 
 private:
   KeyWindow *window_; // owned

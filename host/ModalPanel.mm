@@ -70,14 +70,15 @@ CGFloat ModalPanel::bottom() const noexcept { return 2 * kPanelMargin + kButtonH
 
 void ModalPanel::add(NSView *view) { [[window_ contentView] addSubview:view]; }
 
-bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order) {
+bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first) {
   std::vector<NSView *> loop = order;
   if (cancel_ != nil)
     loop.push_back(cancel_);
   loop.push_back(confirm_);
   for (std::size_t i = 0; i < loop.size(); i++)
     [loop[i] setNextKeyView:loop[(i + 1) % loop.size()]];
-  NSView *const first = order.empty() ? confirm_ : order.front();
+  if (first == nil)
+    first = order.empty() ? confirm_ : order.front();
   [window_ setInitialFirstResponder:first];
   const NSRect frame = [parent frame];
   const NSSize size = [window_ frame].size;

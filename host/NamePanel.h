@@ -13,6 +13,10 @@ namespace imageposition {
 std::optional<std::string> askForName(NSWindow *parent, const std::string &question,
                                       const std::string &suggestion);
 
+/// The same for the file of a ticket; whether one that is there may be replaced is asked, too. The
+/// answer is a path.
+std::optional<std::string> askForTicket(NSWindow *parent, const std::string &suggestion);
+
 } // namespace imageposition
 
 #endif

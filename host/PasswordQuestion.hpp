@@ -10,11 +10,22 @@
 
 namespace imageposition {
 
-/// Asked when CUPS wants one; the argument is CUPS's question. None gives up.
-using PasswordCallback = std::function<std::optional<std::string>(const std::string &prompt)>;
+struct PasswordRequest {
+  std::string user;     ///< Whom CUPS knows the person as.
+  bool isAgain = false; ///< The last answer was wrong.
+};
+
+struct Credentials {
+  std::string user;
+  std::string password;
+};
+
+/// Asked when CUPS wants a password. None gives up.
+using PasswordCallback = std::function<std::optional<Credentials>(const PasswordRequest &)>;
 
 /// Has the callback answer for this thread while the object lives, or nobody without one: left to
-/// itself libcups asks on the terminal, which a window's process may not have.
+/// itself libcups asks on the terminal, which a window's process may not have. Another connection
+/// of the same work gets the last answer before the callback is asked again.
 class PasswordQuestion {
 public:
   explicit PasswordQuestion(PasswordCallback callback = {});
@@ -24,9 +35,11 @@ public:
 
 private:
   static const char *answer(const char *prompt, http_t *, const char *, const char *, void *self);
+  const char *answer(http_t *connection);
 
   PasswordCallback callback_;
-  std::optional<std::string> password_;
+  std::optional<Credentials> credentials_; ///< Of the last answer.
+  http_t *connection_ = nullptr;           ///< Which had it.
 };
 
 } // namespace imageposition

@@ -43,6 +43,28 @@ std::string presetSaved(const std::string &lpName) {
   return text("The preset is saved; lp -d {1} prints with it too.").with(lpName);
 }
 
+const Text kTicketQuestion = text("File for the job's settings:");
+const Text kSave = text("Save");
+const Text kReplace = text("Replace");
+std::string ticketExists(const std::string &path) {
+  return text("\"{1}\" is there already. Replace it?").with(path);
+}
+
+const Text kPasswordWindow = text("Password");
+const Text kWrongPasswordWindow = text("Wrong password");
+const Text kUserRow = text("&User name:");
+const Text kPasswordRow = text("&Password:");
+std::string passwordWanted(const std::string &printer) {
+  return text("CUPS prints on \"{1}\" for users that it knows. Enter your name and password there.")
+      .with(printer);
+}
+std::string wrongPassword(const std::string &printer) {
+  return text("CUPS did not take that name and password for \"{1}\". Try again, or cancel to go "
+              "back "
+              "to the settings.")
+      .with(printer);
+}
+
 const Text kStateUnknown = text("Asking for the printers…");
 std::string printerState(const std::string &state, const std::string &location) {
   return location.empty() ? state : state + " · " + location;

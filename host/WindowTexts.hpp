@@ -46,6 +46,18 @@ extern const Text kDeletePreset;
 extern const Text kPresetNameQuestion;
 std::string presetSaved(const std::string &lpName);
 
+extern const Text kTicketQuestion;
+extern const Text kSave;
+extern const Text kReplace;
+std::string ticketExists(const std::string &path);
+
+extern const Text kPasswordWindow;
+extern const Text kWrongPasswordWindow;
+extern const Text kUserRow;
+extern const Text kPasswordRow;
+std::string passwordWanted(const std::string &printer);
+std::string wrongPassword(const std::string &printer);
+
 extern const Text kStateUnknown;
 std::string printerState(const std::string &state, const std::string &location);
 /// A summary's value that is not the printer's default.
