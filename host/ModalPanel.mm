@@ -86,6 +86,7 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
                                       std::round(NSMidY(frame) - size.height / 2))];
   [window_ makeKeyAndOrderFront:nil];
   [window_ makeFirstResponder:first];
+  [first setNeedsDisplay:YES]; // it has been drawn without the focus
   const NSInteger answer = [NSApp runModalForWindow:window_];
   [window_ makeFirstResponder:nil];
   [window_ orderOut:nil];
