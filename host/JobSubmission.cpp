@@ -333,7 +333,7 @@ SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
   PasswordCallback asking;
   if (password)
     asking = [&](const PasswordRequest &wanted) {
-      const auto answer = password(wanted);
+      auto answer = password(wanted);
       submission.noticeAnswer();
       return answer;
     };

@@ -20,7 +20,7 @@ TEST(TicketName, IsTakenAsItIsMeant) {
                                  {"~/job", "/home/ann/job.json"},
                                  {"~job", "~job.json"},
                                  {"job.txt", "job.txt"},
-                                 {"/tmp/", "/tmp/"},
+                                 {"/var/", "/var/"},
                                  {"   ", ""},
                                  {"", ""}};
   for (const auto &[typed, path] : rows)
