@@ -23,7 +23,6 @@ struct Printers {
 
   Printers() {
     namespace fs = std::filesystem;
-    fs::create_directory(folder.path("home"));
     fs::create_directory(folder.path("printed"));
     fs::permissions(folder.path(), fs::perms(0711));
     fs::permissions(folder.path("printed"), fs::perms(0777));
@@ -51,7 +50,7 @@ struct Printers {
         writeRecordingPpd(sample.path(), filter);
     setenv("CUPS_SERVER", cups.socket().c_str(), 1);
     setenv("CUPS_SERVERROOT", cups.root().c_str(), 1);
-    setenv("HOME", folder.path("home").c_str(), 1);
+    setenv("HOME", cups.home().c_str(), 1);
   }
 
   void writeRecordingPpd(const std::filesystem::path &sample, const std::string &filter) const {

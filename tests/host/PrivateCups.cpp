@@ -72,7 +72,7 @@ void PrivateCups::writeConfiguration(const std::string &policies) const {
                                        folder + "/access_log\nErrorLog " + folder +
                                        "/error_log\nPageLog " + folder +
                                        "/page_log\nFileDevice Yes\nSystemGroup root\n" + user);
-  for (const char *name : {"spool/tmp/x", "cache/x", "state/x", "ssl/x", "ppd/x"})
+  for (const char *name : {"spool/tmp/x", "cache/x", "state/x", "ssl/x", "ppd/x", "home/x"})
     folder_.write(name, "");
 }
 

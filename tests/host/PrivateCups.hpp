@@ -33,9 +33,11 @@ public:
   std::string socket() const { return folder_.path("socket"); }
   /// As CUPS_SERVERROOT names it.
   std::string root() const { return folder_.path(); }
+  /// Of a person who has nothing of CUPS's yet.
+  std::string home() const { return folder_.path("home"); }
   /// To lay over a program's environment, so that it talks to this CUPS.
   std::vector<std::string> environment() const {
-    return {"CUPS_SERVER=" + socket(), "CUPS_SERVERROOT=" + folder_.path()};
+    return {"CUPS_SERVER=" + socket(), "CUPS_SERVERROOT=" + folder_.path(), "HOME=" + home()};
   }
   /// Runs one of CUPS's commands against it.
   ProcessResult run(const std::vector<std::string> &words) const;

@@ -1,0 +1,105 @@
+// Presets, as a person keeps them with the window.
+#include "tests/host/WholeJob.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+
+namespace {
+
+using namespace imageposition::test;
+using testing::HasSubstr;
+using testing::Not;
+
+class PresetWindow : public WholeJob {
+protected:
+  void SetUp() override {
+    WholeJob::SetUp();
+    std::filesystem::remove(lpoptions());
+    std::filesystem::remove(cups().root() + "/lpoptions");
+  }
+
+  static std::string lpoptions() { return std::string(getenv("HOME")) + "/.cups/lpoptions"; }
+
+  static bool showsPreset(const PrintWindow &window, const std::string &name) {
+    return window.becomes([&](const Screen &shown) {
+      const Control *const preset = shown.beside("Preset:", "popup");
+      return preset != nullptr && preset->text == name;
+    });
+  }
+
+  static void answerName(PrintWindow &window, const std::string &name) {
+    if (!window.becomes([&](const Screen &) { return window.hasKeyboard("Name of the preset:"); }))
+      throw std::runtime_error("no question for a name");
+    window.press("ctrl+a");
+    window.write(name);
+    window.click("OK");
+    EXPECT_TRUE(showsPreset(window, name));
+  }
+
+  static void save(PrintWindow &window, const std::string &name) {
+    window.choose("Preset:", "Save as preset");
+    answerName(window, name);
+  }
+
+  static void cancel(PrintWindow &window) {
+    window.click("Cancel");
+    EXPECT_EQ(window.ended().status, 1);
+  }
+};
+
+TEST_F(PresetWindow, TwoDialogsSaveForTheSamePrinterAndLoseNothing) {
+  PrintWindow first(onQueue("office"));
+  first.moveTo(0, 20);
+  PrintWindow second(onQueue("office"));
+  second.moveTo(1120, 20);
+  first.enter(kLeftRight, "-3");
+  second.enter(kLeftRight, "7");
+  save(first, "mine");
+  save(second, "yours");
+  cancel(first);
+  cancel(second);
+  const std::string file = contentOf(lpoptions());
+  EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 2) << file;
+  EXPECT_THAT(file, HasSubstr("Dest office/mine "));
+  EXPECT_THAT(file, HasSubstr("LeftRightMargin=-3"));
+  EXPECT_THAT(file, HasSubstr("Dest office/yours "));
+  EXPECT_THAT(file, HasSubstr("LeftRightMargin=7"));
+}
+
+TEST_F(PresetWindow, APresetIsRenamedAndDeleted) {
+  PrintWindow window(onQueue("office"));
+  window.enter(kTopBottom, "-7");
+  save(window, "draft");
+  window.choose("Preset:", "Rename this preset");
+  answerName(window, "final");
+  EXPECT_THAT(contentOf(lpoptions()), HasSubstr("Dest office/final "));
+  EXPECT_THAT(contentOf(lpoptions()), HasSubstr("TopBottomMargin=-7"));
+  EXPECT_THAT(contentOf(lpoptions()), Not(HasSubstr("draft")));
+  window.choose("Preset:", "Delete this preset");
+  EXPECT_TRUE(showsPreset(window, "None"));
+  EXPECT_THAT(contentOf(lpoptions()), Not(HasSubstr("final")));
+  EXPECT_EQ(window.field(kTopBottom), "-7"); // what it had set stays in the job
+  cancel(window);
+}
+
+TEST_F(PresetWindow, OneOfAnotherPrinterLoadsWhatFitsAndSaysWhatDoesNot) {
+  addQueue("small", "duplex-shift-narrow.ppd");
+  {
+    PrintWindow window(onQueue("office"));
+    window.enter(kLeftRight, "80");
+    window.enter(kTopBottom, "-7");
+    save(window, "far");
+    cancel(window);
+  }
+  PrintWindow window(onQueue("small"));
+  window.choose("Preset:", "office/far");
+  EXPECT_TRUE(window.says("80 is not between -50 and 50"));
+  EXPECT_TRUE(window.becomes([&](const Screen &) { return window.field(kTopBottom) == "-7"; }));
+  EXPECT_EQ(window.field(kLeftRight), "0");
+  window.click("Print");
+  expectValues(printed(jobOf(window.ended())), {false, {0, -7, 0, 0}});
+  command({"lpadmin", "-x", "small"});
+}
+
+} // namespace
