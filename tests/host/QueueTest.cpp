@@ -2,6 +2,8 @@
 #include "tests/host/DialogFixture.hpp"
 #include "tests/host/PrivateCups.hpp"
 
+#include <ctime>
+
 namespace {
 
 using namespace imageposition::test;
@@ -106,13 +108,22 @@ TEST_F(Queue, AnswersAsLpDoes) {
   cups->run({"cancel", "-a", "-x"});
 }
 
+/// A time of day at which no hold ends soon; names such as "night" say nothing at night.
+std::string halfADayFromNow() {
+  const std::time_t then = std::time(nullptr) + 12 * 60 * 60;
+  char text[sizeof "23:59"];
+  std::strftime(text, sizeof text, "%H:%M", std::gmtime(&then));
+  return text;
+}
+
 TEST_F(Queue, AJobIsToCupsWhatLpsIs) {
   const std::string document = sample("two-sided.pdf");
   const std::vector<Words> lines = {
       {document},
       {"-H", "hold", document, document, document},
-      {"-H", "night", "-n", "2", "-q", "70", "-P", "1-2", "-U", "mary", document},
-      {"-H", "23:59", "-n", "2", "-o", "copies=4 sides=one-sided", "-t", "Annual report", document},
+      {"-H", "indefinite", "-n", "2", "-q", "70", "-P", "1-2", "-U", "mary", document},
+      {"-H", halfADayFromNow(), "-n", "2", "-o", "copies=4 sides=one-sided", "-t", "Annual report",
+       document},
       {"-H", "immediate", "-o", "number-up=2", "-o", "nocollate", "--", document}};
   for (const Words &line : lines) {
     SCOPED_TRACE(testing::PrintToString(line));
