@@ -126,7 +126,7 @@ void select(const OptionsViewRow &row, const PrinterOption &option) {
   [document addSubview:heading];
   top = NSMaxY([heading frame]) + kRowGap;
   for (const PrinterOption &option : group.options) {
-    NSTextField *const title = makeLabel(option.text + ":");
+    NSTextField *const title = makeLabel(messages::asLabel(option.text));
     const NSSize size = [title frame].size;
     const CGFloat titleWidth = std::min(size.width, column);
     [title setFrame:NSMakeRect(kMargin + column - titleWidth, top + (kRowHeight - size.height) / 2,

@@ -1,5 +1,7 @@
 #include "host/PrinterOptions.hpp"
 
+#include "host/WindowTexts.hpp"
+
 #include <algorithm>
 #include <map>
 #include <strings.h>
@@ -61,6 +63,8 @@ public:
 
   void addGroup(const ppd_group_t &source, std::vector<OptionGroup> &groups) const {
     OptionGroup group{textOr(source.name, source.text), textOr(source.text, source.name), {}};
+    if (group.text == "General")
+      group.text = messages::kGeneralGroup;
     for (int i = 0; i < source.num_options; i++)
       group.options.push_back(option(source.options[i]));
     groups.push_back(std::move(group));

@@ -31,11 +31,24 @@ constexpr CGFloat kColumnGap = 12;
 /// Before the title of what differs from the printer's default, whose value is bold as well.
 constexpr const char *kMark = "\u2022 ";
 
+std::string titleOf(const SummaryLine &line) {
+  return (line.differs ? kMark : "") + imageposition::messages::asLabel(line.title);
+}
+
+/// As wide as the widest title, as long as there is room for the values.
+CGFloat titleColumn(const std::vector<SummarySection> &sections, CGFloat width) {
+  CGFloat widest = 0;
+  for (const SummarySection &section : sections)
+    for (const SummaryLine &line : section.lines)
+      widest = std::max(widest, NSWidth([imageposition::makeLabel(titleOf(line)) frame]));
+  return std::min(widest, std::floor(width * 0.6));
+}
+
 /// Writes from the top; titles end where the values begin.
 class Writer {
 public:
-  Writer(NSView *rows, CGFloat width)
-      : rows_(rows), width_(width), column_(std::floor(width * 0.42)) {}
+  Writer(NSView *rows, CGFloat width, CGFloat column)
+      : rows_(rows), width_(width), column_(column) {}
 
   CGFloat top() const { return top_; }
   bool hasMarks() const { return hasMarks_; }
@@ -57,7 +70,7 @@ public:
 
 private:
   void addRow(const SummaryLine &line) {
-    const std::string title = (line.differs ? kMark : "") + line.title + ":";
+    const std::string title = titleOf(line);
     NSTextField *const label = imageposition::makeLabel(title);
     if (NSWidth([label frame]) > column_)
       imageposition::showCut(label, title, column_);
@@ -94,7 +107,7 @@ private:
   NSView *const rows = [[[SummaryRows alloc] initWithFrame:NSZeroRect] autorelease];
   // The scroller may come, and must not cut anything off.
   const CGFloat width = NSWidth([self frame]) - [NSScroller scrollerWidth] - 4;
-  Writer writer(rows, width);
+  Writer writer(rows, width, titleColumn(sections, width));
   for (const SummarySection &section : sections)
     writer.addSection(section);
   if (writer.hasMarks())

@@ -17,6 +17,8 @@ const Text kPrinterTitle = textIn("summary", "Printer");
 const Text kDocumentTitle = textIn("summary", "Document");
 const Text kCopiesTitle = textIn("summary", "Copies");
 const Text kPagesTitle = textIn("summary", "Pages");
+std::string asLabel(const std::string &title) { return text("{1}:").with(title); }
+const Text kGeneralGroup = text("General");
 const Text kCollate = text("C&ollate");
 const Text kAllPages = text("All");
 const Text kOddPages = text("Odd");

@@ -22,6 +22,10 @@ extern const Text kPrinterTitle;
 extern const Text kDocumentTitle;
 extern const Text kCopiesTitle;
 extern const Text kPagesTitle;
+/// A title with what it has before a control or a value: "Paper:".
+std::string asLabel(const std::string &title);
+/// CUPS's own name for the options that stand in no group.
+extern const Text kGeneralGroup;
 extern const Text kCollate;
 extern const Text kAllPages;
 extern const Text kOddPages;
