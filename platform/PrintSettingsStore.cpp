@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <strings.h>
 
 namespace imageposition {
@@ -86,6 +87,16 @@ void PrintSettingsStore::copyFrom(const PrintSettingsStore &other) {
   locked_ = other.locked_;
 }
 
+// CUPS leaves the memory of a list without entries to whoever thinks of it, and takes new memory for
+// the next entry.
+void PrintSettingsStore::take(const std::string &name) {
+  count_ = cupsRemoveOption(name.c_str(), count_, &options_);
+  if (count_ > 0)
+    return;
+  std::free(options_);
+  options_ = nullptr;
+}
+
 void PrintSettingsStore::tell() const {
   if (observer_ != nullptr)
     observer_->settingsChanged();
@@ -100,6 +111,7 @@ PrintSettingsStore::Outcome PrintSettingsStore::set(std::string_view name, std::
   if (isLocked(name) || isLocked(displacedName(name)))
     return Outcome::Locked;
   const std::string nameText(name);
+  take(std::string(displacedName(name)));
   count_ = cupsAddOption(nameText.c_str(), std::string(value).c_str(), count_, &options_);
   if (locked)
     locked_.insert(nameText);
@@ -116,7 +128,7 @@ const char *PrintSettingsStore::get(std::string_view name) const {
 bool PrintSettingsStore::remove(std::string_view name) {
   if (isLocked(name) || get(name) == nullptr)
     return false;
-  count_ = cupsRemoveOption(std::string(name).c_str(), count_, &options_);
+  take(std::string(name));
   tell();
   return true;
 }

@@ -68,6 +68,7 @@ private:
   };
 
   void copyFrom(const PrintSettingsStore &other);
+  void take(const std::string &name);
   void tell() const;
 
   cups_option_t *options_ = nullptr; // freed with cupsFreeOptions

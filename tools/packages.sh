@@ -35,3 +35,7 @@ comparison_packages=(
   libxdamage-dev libxext-dev                        # what is drawn, seen from outside
   cups-client cups-daemon dbus-daemon at-spi2-core  # what they all talk to
 )
+
+fuzz_packages=(
+  clang                                             # its fuzzer and sanitizers
+)

@@ -1,22 +1,13 @@
 // Controllers with the real view, real settings and real rules, in sequence: print settings that
-// fail, hosts that answer nothing, and long random uses compared with a plain model.
+// fail, and hosts that answer nothing.
 #import "tests/controller/ControllerFixture.h"
-#include "tests/controller/PanelModel.hpp"
 #import "tests/support/Pool.h"
-
-#include <random>
+#include "tests/use/PanelModel.hpp"
 
 using namespace imageposition::test;
 using testing::ElementsAre;
 
 namespace {
-
-NSDictionary *rulesOfTheModel() {
-  return rules({{"BackLRM", "Setting", "Value", "7", "FrontTBM", "Range", "-5:5"},
-                {"FrontLRM", "Setting", "Range", "5:10", "BackLRM", "Value", "3"},
-                {"FrontTBM", "Setting", "Value", "0", "BackTBM", "Default", "4"},
-                {"FrontLRM", "Setting", "Value", "-1", "BackTBM", "View", "OFF"}});
-}
 
 class PanelUse : public ControllerFixture {
 protected:
@@ -31,6 +22,7 @@ protected:
   void makeWithView() {
     ASSERT_NE(make(), nil);
     ASSERT_NE([controller prepareView], nil);
+    model.loadView();
     for (std::size_t i = 0; i < kNames.size(); ++i)
       model.offsets[i].shown = cxxString([text(kNames[i]) stringValue]);
   }
@@ -50,7 +42,7 @@ protected:
 
   void put(const std::string &key, const std::string &value) {
     settings->put(key, value);
-    model.store[key] = value;
+    model.store[key] = {value};
   }
   void putAll() {
     put("FrontLRMTicket", "-3");
@@ -103,7 +95,7 @@ protected:
     const auto entry = model.store.find(key);
     if (entry == model.store.end())
       return std::nullopt;
-    return entry->second;
+    return entry->second.text;
   }
 
   PanelModel model;
@@ -189,7 +181,7 @@ TEST_F(PanelUse, ForbiddenWithTheBoxCheckedEverythingIsDisabledAndTheBoxStaysChe
   putAll();
   ppd->mark("Duplex", "None");
   show();
-  model.allowed = false;
+  model.printer->duplex = "None";
   model.grayUI();
   expectLikeTheModel();
   EXPECT_EQ([check() state], 1);
@@ -466,104 +458,5 @@ TEST_F(PanelUse, AHostThatNeverAnswersLeavesThePanelUsable) {
   EXPECT_EQ(shown("FrontLRM"), "0");
   EXPECT_TRUE([text("FrontLRM") isEnabled]);
 }
-
-// Long uses.
-
-class PanelUseAtRandom : public PanelUse, public testing::WithParamInterface<unsigned> {
-protected:
-  int draw(int from, int to) { return std::uniform_int_distribution<int>(from, to)(generator_); }
-
-  void step() {
-    const std::size_t i = draw(0, 3);
-    PanelModel::Offset &offset = model.offsets[i];
-    switch (draw(0, 11)) {
-    case 0:
-    case 1:
-    case 2: {
-      static const char *const kTexts[] = {"0",   "-1",  "7", "5",  "-",  "-0",         "20",
-                                           "-20", "abc", "",  "25", "-3", "3000000000", "10"};
-      offset.shown = kTexts[draw(0, 13)];
-      [text(kNames[i]) setStringValue:nsString(offset.shown)];
-      break;
-    }
-    case 3:
-      offset.steps = draw(-3, 3);
-      [stepper(kNames[i]) setIntValue:offset.steps];
-      break;
-    case 4:
-      model.checked = !model.checked;
-      [check() setState:model.checked ? 1 : 0];
-      model.grayUI();
-      [controller clickEnableImgPositionAdjust:check()];
-      break;
-    case 5:
-      model.restoreDefaults();
-      [controller clickbtnReasto2Default:nil];
-      break;
-    case 6:
-      EXPECT_EQ([controller getTicket] != NO, model.getTicket());
-      break;
-    case 7:
-      EXPECT_EQ([controller saveTicket] != NO, model.saveTicket());
-      break;
-    case 8:
-      model.prepareForShow();
-      [controller prepareForShow];
-      break;
-    case 9: {
-      static const char *const kStored[] = {"0", "-1", "7", "-25", "abc", "99999999999", "True"};
-      put(draw(0, 4) == 0 ? kEnableKey : offset.ticketKey, kStored[draw(0, 6)]);
-      break;
-    }
-    case 10:
-      change(draw(0, 3));
-      break;
-    default:
-      model.action();
-      [controller UIItemActionListener:text(kNames[i])];
-    }
-  }
-
-  void change(int what) {
-    if (what == 0) {
-      model.allowed = !model.allowed;
-      ppd->mark("MVBannerPagePrint", model.allowed ? "False" : "True");
-    } else if (what == 1) {
-      model.settingsThere = !model.settingsThere;
-      host->settings = model.settingsThere ? settings->handle() : nullptr;
-    } else if (what == 2) {
-      settings->failRead(model.failRead = draw(1, 12));
-    } else {
-      settings->failWrite(model.failWrite = draw(1, 12));
-    }
-    model.notifyUI();
-    [controller notifyUI];
-  }
-
-private:
-  std::mt19937 generator_{GetParam()};
-};
-
-TEST_P(PanelUseAtRandom, StaysLikeTheModel) {
-  model.withRules = GetParam() % 2 != 0;
-  if (model.withRules)
-    writeBundle(fourDefinitions(), rulesOfTheModel());
-  makeWithView();
-  show();
-  for (int i = 0; i < 200; ++i) {
-    SCOPED_TRACE(i);
-    Pool pool;
-    step();
-    model.action();
-    [controller UIItemActionListener:nil];
-    expectLikeTheModel();
-    if (HasFailure())
-      return;
-    log->clear();
-    settings->forgetCalls();
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Seeds, PanelUseAtRandom, testing::Range(1U, 41U));
 
 } // namespace

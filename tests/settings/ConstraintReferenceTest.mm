@@ -1,4 +1,5 @@
 #import "settings/ConstraintDictionary.h"
+#import "tests/settings/LiteralRules.h"
 #import "tests/settings/SettingFixture.h"
 #import "tests/support/Pool.h"
 
@@ -9,135 +10,7 @@
 namespace imageposition::test {
 namespace {
 
-// A second, slow and literal reading of rule tables, against which the settings are compared: it
-// walks the raw dictionaries with the platform's own operations and keeps nothing.
-
 constexpr std::array<const char *, 4> kNames = {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"};
-
-int32_t integer(NSString *text) {
-  const std::string bytes = text == nil ? "" : cxxString(text);
-  std::size_t i = 0;
-  while (i < bytes.size() && (bytes[i] == ' ' || bytes[i] == '\t'))
-    ++i;
-  const bool negative = i < bytes.size() && bytes[i] == '-';
-  if (i < bytes.size() && (bytes[i] == '-' || bytes[i] == '+'))
-    ++i;
-  double number = 0;
-  for (; i < bytes.size() && bytes[i] >= '0' && bytes[i] <= '9'; ++i)
-    number = number * 10 + (bytes[i] - '0');
-  number = negative ? -number : number;
-  return static_cast<int32_t>(std::min(2147483647.0, std::max(-2147483648.0, number)));
-}
-
-NSString *text(id rule, NSString *key) {
-  id entry = [rule isKindOfClass:[NSDictionary class]] ? [rule objectForKey:key] : nil;
-  return [entry isKindOfClass:[NSString class]] ? entry : nil;
-}
-
-struct Model {
-  NSString *name;
-  int32_t value = 3;
-  int32_t min = -20;
-  int32_t max = 20;
-  int32_t standard = 3;
-
-  void set(int32_t number, Lines &calls) {
-    value = number;
-    if (value > max)
-      value = max;
-    else if (value < min)
-      value = min;
-    calls.push_back(cxxString(name) + ".setStringValue:" + std::to_string(value));
-  }
-
-  void setAvailable(bool available, Lines &calls) {
-    if (!available)
-      set(standard, calls);
-    calls.push_back(cxxString(name) + ".setViewAvailable:" + std::to_string(available));
-  }
-};
-
-class Reference {
-public:
-  Reference(NSDictionary *rules, ppd_file_t *ppd) : rules_(rules), ppd_(ppd) {
-    for (const char *name : kNames)
-      models.push_back({nsString(name)});
-  }
-
-  void apply(std::size_t index) {
-    Model &own = models[index];
-    for (NSUInteger i = 0; i < [rules_ count]; ++i) {
-      id rule = [rules_ objectForKey:nsString(std::to_string(i))];
-      NSString *object = text(rule, @"ActionObj");
-      if (object == nil || ![object isEqualToString:own.name] || !holds(rule))
-        continue;
-      act(own, text(rule, @"ActionPattern"), text(rule, @"ActionValue"));
-    }
-  }
-
-  std::vector<Model> models;
-  Lines calls;
-
-private:
-  void act(Model &own, NSString *pattern, NSString *actionValue) {
-    if ([pattern isEqualToString:@"Value"]) {
-      if (actionValue != nil)
-        own.set(integer(actionValue), calls);
-    } else if ([pattern isEqualToString:@"View"]) {
-      if ([actionValue isEqualToString:@"ON"])
-        own.setAvailable(true, calls);
-      else if ([actionValue isEqualToString:@"OFF"])
-        own.setAvailable(false, calls);
-    } else if ([pattern isEqualToString:@"Range"]) {
-      NSArray *parts = [actionValue componentsSeparatedByString:@":"];
-      if (actionValue == nil)
-        own.min = own.max = 0;
-      else if ([parts count] >= 2) {
-        own.min = integer([parts objectAtIndex:0]);
-        own.max = integer([parts objectAtIndex:1]);
-      }
-    } else if ([pattern isEqualToString:@"Default"]) {
-      if (actionValue != nil)
-        own.standard = integer(actionValue);
-    }
-  }
-
-  bool holds(id rule) const {
-    NSString *type = text(rule, @"ConditionType");
-    NSString *pattern = text(rule, @"ConditionPattern");
-    NSString *expected = text(rule, @"ConditionValue");
-    if ([type isEqualToString:@"PPD"]) {
-      if (pattern == nil || expected == nil)
-        return false;
-      const ppd_attr_t *attribute = ppdFindAttr(ppd_, cxxString(pattern).c_str(), nullptr);
-      return attribute != nullptr && attribute->value != nullptr &&
-             cxxString(expected) == attribute->value;
-    }
-    bool result = false;
-    if (![type isEqualToString:@"Setting"])
-      return result;
-    for (const Model &model : models) {
-      if (![model.name isEqualToString:text(rule, @"ConditionObj")])
-        continue;
-      if ([pattern isEqualToString:@"Value"])
-        result |= expected != nil && cxxString(expected) == std::to_string(model.value);
-      else if ([pattern isEqualToString:@"Range"])
-        result |= liesIn(model.value, expected);
-    }
-    return result;
-  }
-
-  static bool liesIn(int32_t number, NSString *interval) {
-    if (interval == nil)
-      return number == 0;
-    NSArray *parts = [interval componentsSeparatedByString:@":"];
-    return [parts count] >= 2 && integer([parts objectAtIndex:1]) >= number &&
-           integer([parts objectAtIndex:0]) <= number;
-  }
-
-  NSDictionary *rules_;
-  ppd_file_t *ppd_;
-};
 
 /// Rule tables in which most rules make sense and the others are wrong in every known way.
 class Tables {
@@ -261,9 +134,9 @@ protected:
   }
 
   void expectSame(const std::vector<MorvaADPIntegerSettingRV2 *> &settings,
-                  const Reference &reference) {
+                  const LiteralRules &reference) {
     for (std::size_t i = 0; i < kNames.size(); ++i) {
-      const Model &model = reference.models[i];
+      const LiteralSetting &model = reference.models[i];
       EXPECT_EQ(value(settings[i]), model.value) << kNames[i];
       EXPECT_EQ(field<int32_t>(settings[i], "Min"), model.min) << kNames[i];
       EXPECT_EQ(field<int32_t>(settings[i], "Max"), model.max) << kNames[i];
@@ -275,7 +148,7 @@ protected:
   /// Edits and walks at random, the same in both.
   void play(Tables &random, NSDictionary *rules) {
     const auto settings = panel(rules);
-    Reference reference(rules, ppd_);
+    LiteralRules reference(rules, ppd_);
     std::size_t edits = 0;
     for (; edits < 8 && !HasFailure(); ++edits) {
       const unsigned index = random.below(4);
@@ -325,7 +198,7 @@ TEST_F(ConstraintReference, EveryRuleAloneDecidesAsALiteralReadingDoes) {
       [question setObject:@"Default" forKey:@"ActionPattern"];
       [question setObject:@"77" forKey:@"ActionValue"];
       NSDictionary *table = [NSDictionary dictionaryWithObject:question forKey:@"0"];
-      Reference reference(table, ppd_);
+      LiteralRules reference(table, ppd_);
       reference.apply(0);
       EXPECT_EQ(bool([settings[0] checkUIConstraintCondition:rule]),
                 reference.models[0].standard == 77)

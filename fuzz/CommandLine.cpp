@@ -1,0 +1,61 @@
+// Command lines: words in any number and of any bytes end in a request, an answer or a sentence.
+#include "host/CommandLine.hpp"
+
+#include "fuzz/Check.hpp"
+#include "host/ExitCode.hpp"
+
+using imageposition::Arguments;
+using imageposition::fuzz::check;
+using imageposition::fuzz::checkSame;
+
+namespace {
+
+std::vector<std::string> wordsIn(const std::string &text) {
+  std::vector<std::string> words(1);
+  for (const char c : text) {
+    if (c == '\n')
+      words.emplace_back();
+    else if (c != '\0') // at which the system would end the word
+      words.back() += c;
+  }
+  return words;
+}
+
+void checkArguments(const Arguments &arguments) {
+  check(arguments.ppd.empty() || arguments.queue.empty(), "one printer at most is named");
+  check(arguments.copies >= 0 && arguments.copies <= 9999, "copies are within their bounds");
+  check(arguments.priority >= 0 && arguments.priority <= 100, "the priority is within its bounds");
+  check(arguments.isBatch || arguments.batch.entries.empty(), "values are entered in batches alone");
+  for (const imageposition::Entry &entry : arguments.batch.entries)
+    check(!entry.name.empty(), "an entry has a name");
+}
+
+void checkEntry(const std::string &word) {
+  const auto entry = imageposition::readEntry(word);
+  const std::size_t equals = word.find('=');
+  check(entry.has_value() == (equals != std::string::npos && equals > 0), "NAME=TEXT is an entry");
+  if (entry)
+    checkSame(entry->name + "=" + entry->text, word, "an entry keeps every character");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
+  const auto words = wordsIn(std::string(reinterpret_cast<const char *>(data), size));
+  checkEntry(words.front());
+  const auto own = imageposition::withoutPlatformDefaults(words);
+  for (const std::string &word : own)
+    check(word.compare(0, 3, "-NS") != 0 && word.compare(0, 3, "-GS") != 0,
+          "the platform's words are taken out");
+  try {
+    const auto result = imageposition::readCommandLine(own);
+    if (const auto *arguments = std::get_if<Arguments>(&result))
+      checkArguments(*arguments);
+    else
+      check(!std::get<imageposition::Answer>(result).text.empty(), "an answer says something");
+  } catch (const imageposition::Failure &failure) {
+    check(failure.code() == imageposition::ExitCode::Usage && *failure.what() != '\0',
+          "what is wrong with a command line is said");
+  }
+  return 0;
+}

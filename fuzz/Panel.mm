@@ -1,0 +1,19 @@
+// The whole plug-in: each input is one use of it, compared with the model after every step.
+#include "fuzz/Check.hpp"
+#import "tests/support/Pool.h"
+#import "tests/use/PanelUse.h"
+
+#import <AppKit/AppKit.h>
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***) {
+  const imageposition::test::Pool pool;
+  [NSApplication sharedApplication];
+  return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
+  const imageposition::test::Pool pool;
+  const std::string difference = imageposition::test::usePanel(data, size);
+  imageposition::fuzz::check(difference.empty(), "the panel is like its model\n" + difference);
+  return 0;
+}
