@@ -7,7 +7,5 @@ if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang" OR NOT CMAKE_OBJCXX_COMPILER_ID ST
   message(FATAL_ERROR "The fuzzers need clang++ for C++ and g++ for Objective-C++: use the preset fuzz.")
 endif()
 set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-add_compile_options(${sanitizers}
-  "$<$<COMPILE_LANGUAGE:CXX>:-fsanitize=fuzzer-no-link>"
-  "$<$<COMPILE_LANGUAGE:OBJCXX>:-fsanitize-coverage=trace-pc,trace-cmp>")
+add_compile_options(${sanitizers} "$<$<COMPILE_LANGUAGE:CXX>:-fsanitize=fuzzer-no-link>")
 add_link_options(${sanitizers})

@@ -25,7 +25,8 @@ void checkArguments(const Arguments &arguments) {
   check(arguments.ppd.empty() || arguments.queue.empty(), "one printer at most is named");
   check(arguments.copies >= 0 && arguments.copies <= 9999, "copies are within their bounds");
   check(arguments.priority >= 0 && arguments.priority <= 100, "the priority is within its bounds");
-  check(arguments.isBatch || arguments.batch.entries.empty(), "values are entered in batches alone");
+  check(arguments.isBatch || arguments.batch.entries.empty(),
+        "values are entered in batches alone");
   for (const imageposition::Entry &entry : arguments.batch.entries)
     check(!entry.name.empty(), "an entry has a name");
 }

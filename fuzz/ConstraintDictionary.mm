@@ -1,7 +1,7 @@
 // Rule tables as property lists, applied by real settings and by a literal walk over the same list.
+#import "settings/ConstraintDictionary.h"
 #include "fuzz/Check.hpp"
 #import "fuzz/PropertyList.h"
-#import "settings/ConstraintDictionary.h"
 #import "settings/MorvaADPIntegerSettingRV2.h"
 #import "tests/settings/LiteralRules.h"
 #import "tests/support/Fields.h"
@@ -21,9 +21,10 @@ namespace {
 const imageposition::fuzz::Vocabulary kVocabulary = {
     {"ActionObj", "ConditionObj", "ConditionType", "ConditionPattern", "ConditionValue",
      "ActionPattern", "ActionValue"},
-    {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "PPD", "Setting", "Value", "View", "Range",
-     "Default", "ON", "OFF", "ShiftA", "ShiftB", "on", "off", "0", "3", "-4", "-4:4", "4:-4", "05",
-     "99999999999", ":", ""}};
+    {"FrontLRM", "FrontTBM",    "BackLRM", "BackTBM", "PPD", "Setting", "Value",
+     "View",     "Range",       "Default", "ON",      "OFF", "ShiftA",  "ShiftB",
+     "on",       "off",         "0",       "3",       "-4",  "-4:4",    "4:-4",
+     "05",       "99999999999", ":",       ""}};
 
 /// Four settings in place of a panel's, whose entry fields write down what reaches them.
 class Panel {

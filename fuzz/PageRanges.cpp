@@ -15,7 +15,8 @@ void checkOrder(const std::vector<PageRange> &ranges) {
   // Neighbours are one range, so that there is a page between any two.
   long long before = -1;
   for (const PageRange &range : ranges) {
-    check(range.first > before + 1 && range.first >= 1, "ranges ascend and neither overlap nor touch");
+    check(range.first > before + 1 && range.first >= 1,
+          "ranges ascend and neither overlap nor touch");
     check(range.last >= range.first, "a range does not run backwards");
     before = range.last;
   }

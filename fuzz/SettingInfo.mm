@@ -54,8 +54,8 @@ struct Outcome {
 };
 
 Outcome outcomeOf(id list) {
-  static NSArray *const kNames = [[NSArray alloc]
-      initWithObjects:@"FrontLRM", @"FrontTBM", @"BackLRM", @"BackTBM", nil];
+  static NSArray *const kNames =
+      [[NSArray alloc] initWithObjects:@"FrontLRM", @"FrontTBM", @"BackLRM", @"BackTBM", nil];
   Outcome outcome;
   outcome.isUsable = [list isKindOfClass:[NSDictionary class]];
   for (NSUInteger i = 0; outcome.isUsable && i < [list count]; ++i) {
@@ -65,12 +65,11 @@ Outcome outcomeOf(id list) {
       continue;
     NSString *range = textIn(record, @"Range");
     NSArray *bounds = [range componentsSeparatedByString:@":"];
-    NSArray *wording =
-        [textIn(record, @"RangeLabelWording") componentsSeparatedByString:@":"];
+    NSArray *wording = [textIn(record, @"RangeLabelWording") componentsSeparatedByString:@":"];
     outcome.isUsable = (range == nil || [bounds count] > 1) && [wording count] > 2;
+    outcome.repeatsName = outcome.repeatsName || outcome.settings.count(cxxString(name)) != 0;
     if (!outcome.isUsable)
       break;
-    outcome.repeatsName = outcome.repeatsName || outcome.settings.count(cxxString(name)) != 0;
     Expected &expected = outcome.settings[cxxString(name)];
     expected.min = range == nil ? 0 : literalInteger([bounds objectAtIndex:0]);
     expected.max = range == nil ? 0 : literalInteger([bounds objectAtIndex:1]);

@@ -87,8 +87,8 @@ void PrintSettingsStore::copyFrom(const PrintSettingsStore &other) {
   locked_ = other.locked_;
 }
 
-// CUPS leaves the memory of a list without entries to whoever thinks of it, and takes new memory for
-// the next entry.
+// CUPS leaves the memory of a list without entries to whoever thinks of it, and takes new memory
+// for the next entry.
 void PrintSettingsStore::take(const std::string &name) {
   count_ = cupsRemoveOption(name.c_str(), count_, &options_);
   if (count_ > 0)

@@ -48,10 +48,9 @@ void compareControls(const OffsetControls &controls, const PanelModel::Offset &o
   const std::string &name = offset.name;
   difference.expect(name + "'s field", cxxString([controls.text stringValue]), offset.shown);
   difference.expect(name + "'s stepper", [controls.stepper intValue], offset.steps);
-  for (NSControl *control : {static_cast<NSControl *>(controls.text),
-                             static_cast<NSControl *>(controls.stepper),
-                             static_cast<NSControl *>(controls.label),
-                             static_cast<NSControl *>(controls.rangeLabel)})
+  for (NSControl *control :
+       {static_cast<NSControl *>(controls.text), static_cast<NSControl *>(controls.stepper),
+        static_cast<NSControl *>(controls.label), static_cast<NSControl *>(controls.rangeLabel)})
     difference.expect(name + "'s control enabled", [control isEnabled] != NO, offset.enabled);
   difference.expect(name + "'s field gray", isGray(controls.text), offset.fieldIsGray);
   difference.expect(name + "'s label", cxxString([controls.label stringValue]), offset.nameText);
@@ -61,7 +60,8 @@ void compareControls(const OffsetControls &controls, const PanelModel::Offset &o
 
 } // namespace
 
-PanelParts::PanelParts(MorvaADPPdePanelRV2 *panel) : controller_(field<id>(panel, "SettingItems")) {}
+PanelParts::PanelParts(MorvaADPPdePanelRV2 *panel)
+    : controller_(field<id>(panel, "SettingItems")) {}
 
 id PanelParts::setting(const std::string &name) const {
   return field<id>(controller_, (name + "Settings").c_str());

@@ -12,9 +12,9 @@ constexpr const char *kCheckTrace = "@@@Check on checkbox Enable Image Position 
 
 // A long is wider than the numbers here, or ends where they do.
 std::int32_t number(const std::string &text) {
-  return static_cast<std::int32_t>(std::clamp<long long>(
-      std::strtoll(text.c_str(), nullptr, 10), std::numeric_limits<std::int32_t>::min(),
-      std::numeric_limits<std::int32_t>::max()));
+  return static_cast<std::int32_t>(std::clamp<long long>(std::strtoll(text.c_str(), nullptr, 10),
+                                                         std::numeric_limits<std::int32_t>::min(),
+                                                         std::numeric_limits<std::int32_t>::max()));
 }
 
 std::int32_t number(const StoredValue &value) {

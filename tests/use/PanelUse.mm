@@ -37,8 +37,9 @@ void expectNothing(const std::string &difference) { expect(difference.empty(), d
 void actOn(NSControl *control) { [control sendAction:[control action] to:[control target]]; }
 
 std::u16string drawText(Choices &choices) {
-  static const std::u16string kTexts[] = {
-      u"0", u"-1", u"7", u"-", u"-0", u"20", u"-99", u"abc", u"", u"250", u"3000000000", u"5-", u"007"};
+  static const std::u16string kTexts[] = {u"0",          u"-1",  u"7",   u"-", u"-0",
+                                          u"20",         u"-99", u"abc", u"",  u"250",
+                                          u"3000000000", u"5-",  u"007"};
   const unsigned which = choices.below(std::size(kTexts) + 3);
   if (which < std::size(kTexts))
     return kTexts[which];
@@ -142,9 +143,9 @@ private:
   }
 
   void askPanel(unsigned which) {
-    static const char *const kNames[] = {"panelView",   "willShow",    "shouldPrint",
-                                         "save",        "restore",     "summary",
-                                         "constants",   "an action",   "the controller"};
+    static const char *const kNames[] = {"panelView", "willShow",  "shouldPrint",
+                                         "save",      "restore",   "summary",
+                                         "constants", "an action", "the controller"};
     note(kNames[which]);
     switch (which) {
     case 0:
@@ -193,9 +194,9 @@ private:
                                                                 table:nil]],
            "another name");
     expect([panel_ shouldShowHelp] && [panel_ shouldHide], "another answer than yes");
-    NSArray *keys = [NSArray arrayWithObjects:@"LeftRightMargin", @"TopBottomMargin",
-                                              @"BackLeftRightMargin", @"BackTopBottomMargin",
-                                              @"MVAdjustDuplexPosition", nil];
+    NSArray *keys =
+        [NSArray arrayWithObjects:@"LeftRightMargin", @"TopBottomMargin", @"BackLeftRightMargin",
+                                  @"BackTopBottomMargin", @"MVAdjustDuplexPosition", nil];
     model_.log.emplace_back(kKeysTrace);
     expect([[panel_ supportedPPDOptionKeys] isEqual:keys], "other option keys");
   }

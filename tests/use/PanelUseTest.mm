@@ -1,5 +1,5 @@
-// Thousands of random uses of the plug-in, each compared with the model after every step. The fuzzer
-// `panel` runs the same uses without end.
+// Thousands of random uses of the plug-in, each compared with the model after every step. The
+// fuzzer `panel` runs the same uses without end.
 #import "tests/use/PanelUse.h"
 
 #include <gtest/gtest.h>

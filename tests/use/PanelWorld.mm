@@ -15,8 +15,8 @@ const Lines kKeywords = {"AdjustDuplexPositionSupport", "MVDuplexShiftRange",
 const Lines kIntervals = {"-20:20", "-100:100", "10:5",     "0:0",
                           "5:10",   "-10:-1",   " 3:+9:77", "-2147483648:2147483647",
                           "7",      "",         "x:y",      "2147483647:-2147483648"};
-const Lines kNumbers = {"0", "3", "-7", "25", "", "+5", "05", "12abc", "2147483647", "-99999999999",
-                        "-10"};
+const Lines kNumbers = {"0",  "3",     "-7",         "25",           "",   "+5",
+                        "05", "12abc", "2147483647", "-99999999999", "-10"};
 const Lines kExpected = {"true", "Narrow", "Wide", "-10", "5", "0", "-1", "7", "05"};
 
 NSMutableDictionary *indexed(NSArray *entries) {
@@ -58,7 +58,8 @@ NSDictionary *drawDefinition(Choices &choices, const std::string &name) {
   put(record, @"SummaryInfoName", name + "Summary");
   put(record, @"Range", choices.perhapsOf(kRanges));
   put(record, @"RangeLabelWording",
-      choices.of({"{min}:{max}:RangeTemplate", "m:m:m to {max}", "::Empty", "a:b:NoSuchText:more"}));
+      choices.of(
+          {"{min}:{max}:RangeTemplate", "m:m:m to {max}", "::Empty", "a:b:NoSuchText:more"}));
   put(record, @"DefaultValue", choices.perhapsOf(kNumbers));
   return record;
 }
@@ -182,11 +183,13 @@ void readBundle(NSBundle *bundle, PanelModel &model) {
   for (const PanelModel::Offset &offset : model.offsets)
     keys.insert(keys.end(), {offset.name, offset.summaryName, offset.rangeTemplate});
   for (const std::string &key : keys)
-    model.strings[key] = cxxString([bundle localizedStringForKey:nsString(key) value:nil table:nil]);
+    model.strings[key] = cxxString([bundle localizedStringForKey:nsString(key)
+                                                           value:nil
+                                                           table:nil]);
 }
 
 id drawValue(Choices &choices, StoredValue &value) {
-  static const Lines kTexts = {"0",   "-1",         "7", "-25",  "abc", "99999999999",
+  static const Lines kTexts = {"0",   "-1",          "7", "-25",  "abc",  "99999999999",
                                "150", "-2147483648", "",  "True", "true", " +9x"};
   static const Lines kPlain = {"0", "-3", "400", "99999999999", "-99999999999", "1"};
   switch (choices.below(8)) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <string>
 
@@ -89,6 +90,22 @@ TEST(PrintSettingsStore, RemovesAnEntryOnce) {
   EXPECT_THAT(store.get("Duplex"), StrEq("None"));
   EXPECT_THAT(store.get("PageSize"), StrEq("A4"));
   EXPECT_EQ(store.optionCount(), 2);
+}
+
+TEST(PrintSettingsStore, EmptyingItOverAndOverTakesNoMoreMemory) {
+  const auto emptyOften = [] {
+    for (int i = 0; i < 10000; ++i) {
+      PrintSettingsStore store;
+      store.set("copies", "2");
+      store.remove("copies");
+      store.set("print-quality", "5");
+      store.set("cupsPrintQuality", "High"); // in place of the other
+    }
+  };
+  emptyOften();
+  const std::size_t before = mallinfo2().uordblks;
+  emptyOften();
+  EXPECT_LT(mallinfo2().uordblks, before + 10000);
 }
 
 TEST(PrintSettingsStore, ACopyIsIndependentAndKeepsTheLocks) {
