@@ -9,6 +9,13 @@ using testing::ElementsAre;
 
 namespace {
 
+NSDictionary *mixedRules() {
+  return rules({{"BackLRM", "Setting", "Value", "7", "FrontTBM", "Range", "-5:5"},
+                {"FrontLRM", "Setting", "Range", "5:10", "BackLRM", "Value", "3"},
+                {"FrontTBM", "Setting", "Value", "0", "BackTBM", "Default", "4"},
+                {"FrontLRM", "Setting", "Value", "-1", "BackTBM", "View", "OFF"}});
+}
+
 class PanelUse : public ControllerFixture {
 protected:
   void SetUp() override {
@@ -269,7 +276,7 @@ TEST_F(PanelUse, ReadingWithoutAViewKeepsTheStoredNumberUnclamped) {
 }
 
 TEST_F(PanelUse, ARangeThatARuleChangedShowsAtTheNextRefreshAndNotInTheEntryField) {
-  writeBundle(fourDefinitions(), rulesOfTheModel());
+  writeBundle(fourDefinitions(), mixedRules());
   makeWithView();
   show();
   [text("BackLRM") setStringValue:@"7"];
@@ -281,7 +288,7 @@ TEST_F(PanelUse, ARangeThatARuleChangedShowsAtTheNextRefreshAndNotInTheEntryFiel
 }
 
 TEST_F(PanelUse, AnEntryFieldThatARuleMadeUnusableStaysLightGray) {
-  writeBundle(fourDefinitions(), rulesOfTheModel());
+  writeBundle(fourDefinitions(), mixedRules());
   makeWithView();
   settings->put(kEnableKey, "True");
   show();
