@@ -4,6 +4,8 @@
 #include "fuzz/Check.hpp"
 #include "host/ExitCode.hpp"
 
+#include <algorithm>
+
 using imageposition::Arguments;
 using imageposition::fuzz::check;
 using imageposition::fuzz::checkSame;
@@ -23,8 +25,11 @@ std::vector<std::string> wordsIn(const std::string &text) {
 
 void checkArguments(const Arguments &arguments) {
   check(arguments.ppd.empty() || arguments.queue.empty(), "one printer at most is named");
-  check(arguments.copies >= 0 && arguments.copies <= 9999, "copies are within their bounds");
-  check(arguments.priority >= 0 && arguments.priority <= 100, "the priority is within its bounds");
+  check(std::count(arguments.documents.begin(), arguments.documents.end(), "-") <= 1,
+        "standard input is printed once at most");
+  check(arguments.appearance.empty() || arguments.appearance == "light" ||
+            arguments.appearance == "dark",
+        "the window is light or dark");
   check(arguments.isBatch || arguments.batch.entries.empty(),
         "values are entered in batches alone");
   for (const imageposition::Entry &entry : arguments.batch.entries)
