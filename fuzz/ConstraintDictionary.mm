@@ -83,7 +83,8 @@ std::string stateOf(const LiteralRules &rules) {
 }
 
 void play(Choices &choices, NSDictionary *rules, NSDictionary *table) {
-  static TestBundle bundle;
+  // To the end of the program and beyond: the platform is no longer there when statics go.
+  static TestBundle &bundle = *new TestBundle;
   static const TestPpd kPpd({"*ShiftA: \"on\"", "*ShiftB: \"-4\"", "*ShiftEmpty: \"\""});
   Panel panel(table, bundle.bundle(), kPpd);
   LiteralRules literal(rules, kPpd);
