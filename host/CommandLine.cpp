@@ -96,6 +96,7 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
   app.add_flag("-m", arguments.isMailWanted, messages::kHelpMail);
   app.add_flag("-s", arguments.isSilent, messages::kHelpSilent);
   app.add_flag("-c", messages::kHelpCopy);
+  app.add_flag("--list-options", arguments.isListingOptions, messages::kHelpListOptions);
   app.add_flag("--dry-run", arguments.isDryRun, messages::kHelpDryRun);
   addRepeated<std::string>(
       app, "--plugin", [&arguments](const std::string &path) { arguments.plugins.push_back(path); },

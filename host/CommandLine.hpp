@@ -28,6 +28,7 @@ struct Arguments {
   std::string textScale;     ///< A number above 0.
   bool isMailWanted = false; ///< When the job is done.
   bool isSilent = false;     ///< Nothing is said of what went well.
+  bool isListingOptions = false; ///< Of the printer, with their choices; nothing is printed.
   bool isDryRun = false;
   bool isBatch = false;
   BatchRequest batch;

@@ -9,6 +9,8 @@
 #include "host/JobSubmission.hpp"
 #include "host/Language.hpp"
 #include "host/Messages.hpp"
+#include "host/OptionConflicts.hpp"
+#include "host/OptionList.hpp"
 #import "host/PlatformLanguage.h"
 #include "host/PrivateDisplay.hpp"
 #include "host/StartTexts.hpp"
@@ -85,6 +87,13 @@ ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
   return ExitCode::Done;
 }
 
+ExitCode listOptions(DialogJob &job) {
+  std::cout << writeOptionList(PrinterOptions(job.printer(), job.settings()).all());
+  for (const OptionConflict &conflict : OptionConflicts(job.printer(), job.settings()).find())
+    std::cerr << messages::kProgram << conflict.sentence << '\n';
+  return ExitCode::Done;
+}
+
 ExitCode runInWindow(DialogJob &job) {
   const Arguments &arguments = job.arguments();
   if (!arguments.ticket.empty())
@@ -112,6 +121,8 @@ ExitCode run(const std::vector<std::string> &words) {
     if (path != "-")
       checkDocument(path);
   DialogJob job(arguments);
+  if (arguments.isListingOptions)
+    return listOptions(job);
   setPlatformDefaults();
   return arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);
 }

@@ -4,8 +4,13 @@
 
 #include <cups/ppd.h>
 
+#include <algorithm>
 #include <deque>
+#include <map>
 #include <memory>
+#include <random>
+#include <set>
+#include <sstream>
 
 namespace {
 
@@ -129,6 +134,95 @@ TEST_F(ForeignPrinters, WithTheAttributeTheValuesArrive) {
     settings.erase("Duplex");
     EXPECT_EQ(settings, offsets("-3", "0", "0", "12", "True"));
     EXPECT_THAT(result.errors, IsEmpty());
+  });
+}
+
+/// A job's settings, and what CUPS says of them on a printer.
+struct DrawnJob {
+  std::vector<std::string> words;
+  std::set<std::string> lines; ///< Of each option and choice that there is.
+  bool conflicts = false;
+};
+
+/// A choice of each option, and both sides of a constraint where there is one, drawn with the same
+/// luck every time.
+DrawnJob drawJob(const std::string &path, std::mt19937 &random) {
+  DrawnJob job;
+  ppd_file_t *const ppd = ppdOpenFile(path.c_str());
+  ppdMarkDefaults(ppd);
+  std::map<std::string, std::string> drawn;
+  for (ppd_option_t *option = ppdFirstOption(ppd); option != nullptr; option = ppdNextOption(ppd)) {
+    job.lines.insert(option->keyword);
+    for (int i = 0; i < option->num_choices; i++) {
+      const std::string choice = option->choices[i].choice;
+      const bool isEntered =
+          choice == "Custom" && ppdFindCustomOption(ppd, option->keyword) != nullptr;
+      job.lines.insert(option->keyword + (isEntered ? " Custom.VALUE" : " " + choice));
+      if (choice != "Custom" && random() % (i + 1) == 0)
+        drawn[option->keyword] = choice;
+    }
+  }
+  if (ppd->num_consts > 0) {
+    const ppd_const_t &constraint = ppd->consts[random() % ppd->num_consts];
+    if (*constraint.choice1 != '\0')
+      drawn[constraint.option1] = constraint.choice1;
+    if (*constraint.choice2 != '\0')
+      drawn[constraint.option2] = constraint.choice2;
+  }
+  cups_option_t *options = nullptr;
+  int count = 0;
+  for (const auto &[keyword, choice] : drawn) {
+    count = cupsAddOption(keyword.c_str(), choice.c_str(), count, &options);
+    job.words.insert(job.words.end(), {"-o", keyword + "=" + choice});
+  }
+  cupsMarkOptions(ppd, count, options);
+  job.conflicts = ppdConflicts(ppd) != 0;
+  cupsFreeOptions(count, options);
+  ppdClose(ppd);
+  return job;
+}
+
+/// "option" and "option choice" for each line of a list.
+std::set<std::string> namedIn(const std::string &list) {
+  std::istringstream lines(list);
+  std::set<std::string> named;
+  std::string option;
+  for (std::string line; std::getline(lines, line);) {
+    const bool isChoice = line.compare(0, 4, "    ") == 0 || line.compare(0, 4, "  * ") == 0;
+    const std::size_t begin = isChoice ? 4 : 2;
+    const std::string keyword = line.substr(begin, line.find(": ") - begin);
+    if (isChoice)
+      named.insert(option + " " + keyword);
+    else if (line.compare(0, 2, "  ") == 0)
+      named.insert(option = keyword);
+  }
+  return named;
+}
+
+TEST_F(ForeignPrinters, EveryOptionAndChoiceIsListedAndConflictsAreThoseOfCups) {
+  std::mt19937 random(20);
+  std::vector<BatchOnPrinter> runs;
+  std::deque<DrawnJob> jobs;
+  for (const ForeignPrinter &printer : printers) {
+    jobs.push_back(drawJob(folder.write("printer.ppd", printer.text), random));
+    Words words{"--list-options"};
+    words.insert(words.end(), jobs.back().words.begin(), jobs.back().words.end());
+    runs.push_back({printer.name, printer.text, words});
+  }
+  const auto conflicting = [](const DrawnJob &job) { return job.conflicts; };
+  EXPECT_GE(std::count_if(jobs.begin(), jobs.end(), conflicting), 5);
+  batchOnEach(runs, [&](const ProcessResult &result) {
+    EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+    const std::set<std::string> named = namedIn(result.output);
+    std::vector<std::string> differing;
+    std::set_symmetric_difference(named.begin(), named.end(), jobs.front().lines.begin(),
+                                  jobs.front().lines.end(), std::back_inserter(differing));
+    EXPECT_THAT(differing, IsEmpty());
+    EXPECT_EQ(result.errors.find("cannot combine") != std::string::npos ||
+                  result.errors.find("cannot do") != std::string::npos,
+              jobs.front().conflicts)
+        << result.errors;
+    jobs.pop_front();
   });
 }
 

@@ -1,0 +1,34 @@
+#include "host/OptionList.hpp"
+
+#include <algorithm>
+
+namespace imageposition {
+
+namespace {
+
+std::string onOneLine(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
+  return text;
+}
+
+} // namespace
+
+std::string writeOptionList(const std::vector<OptionGroup> &groups) {
+  std::string list;
+  for (const OptionGroup &group : groups) {
+    list += onOneLine(group.text) + '\n';
+    for (const PrinterOption &option : group.options) {
+      list += "  " + option.keyword + ": " + onOneLine(option.text) + '\n';
+      for (const OptionChoice &choice : option.choices) {
+        list += choice.keyword == option.chosen ? "  * " : "    ";
+        list += choice.keyword + ": " + onOneLine(choice.text) + '\n';
+      }
+      if (option.takesCustomValue)
+        list += "    Custom.VALUE\n";
+    }
+  }
+  return list;
+}
+
+} // namespace imageposition

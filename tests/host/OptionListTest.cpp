@@ -1,0 +1,46 @@
+#include "host/OptionList.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace imageposition;
+
+PrinterOption mediaSize() {
+  PrinterOption option;
+  option.keyword = "PageSize";
+  option.text = "Media Size";
+  option.choices = {{"A4", "A4"}, {"Letter", "US Letter"}};
+  option.chosen = "Letter";
+  return option;
+}
+
+TEST(OptionList, NamesGroupsOptionsAndChoicesWithAStarBeforeTheChosenOne) {
+  EXPECT_EQ(writeOptionList({{"General", "General settings", {mediaSize()}}}),
+            "General settings\n"
+            "  PageSize: Media Size\n"
+            "    A4: A4\n"
+            "  * Letter: US Letter\n");
+}
+
+TEST(OptionList, HasNoStarWhereNothingIsChosen) {
+  PrinterOption option = mediaSize();
+  option.chosen.clear();
+  EXPECT_EQ(writeOptionList({{"General", "General", {option}}}).find('*'), std::string::npos);
+}
+
+TEST(OptionList, SaysWhereAValueCanBeGiven) {
+  PrinterOption option = mediaSize();
+  option.takesCustomValue = true;
+  EXPECT_NE(writeOptionList({{"General", "General", {option}}}).find("\n    Custom.VALUE\n"),
+            std::string::npos);
+}
+
+TEST(OptionList, KeepsATextWithLineBreaksOnItsLine) {
+  PrinterOption option = mediaSize();
+  option.text = "Media\nDuplex: None";
+  EXPECT_EQ(writeOptionList({{"General", "General", {option}}}).find("\nDuplex"),
+            std::string::npos);
+}
+
+} // namespace
