@@ -52,10 +52,9 @@ const char *const kHelpHold = "When to print: hold (not before it is released),\
 const char *const kHelpMail = "Have CUPS send a mail when the job is done; implies -s";
 const char *const kHelpSilent = "Say nothing when CUPS has taken the job";
 const char *const kHelpCopy = "Taken for lp's sake: CUPS always copies the document";
-const char *const kHelpListOptions =
-    "Print nothing: list the printer's options with their\n"
-    "choices, a star before what the job has; what it\n"
-    "cannot combine is told on standard error";
+const char *const kHelpListOptions = "Print nothing: list the printer's options with their\n"
+                                     "choices, a star before what the job has; what it\n"
+                                     "cannot combine is told on standard error";
 const char *const kHelpDryRun = "Print nothing: write what CUPS would be sent";
 const char *const kHelpPlugin = "Use this plug-in and no other; may be repeated.\n"
                                 "Without it: those that the printer's description names\n"
