@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_HOST_DIALOGSTATE_H
 #define IMAGEPOSITION_HOST_DIALOGSTATE_H
 
+#import "host/ControlLock.h"
 #include "host/Destinations.hpp"
 #include "host/JobSubmission.hpp"
 #include "host/OptionConflicts.hpp"
@@ -41,6 +42,9 @@ struct DialogState {
   std::string preset; ///< The chosen one's name; may be empty.
 
   std::unique_ptr<JobSubmission> submission;
+  std::unique_ptr<ControlLock> lock; ///< While there is a submission.
+  NSView *focusBefore = nil;         ///< What had the focus when Print was pressed; the window's.
+  std::string note;                  ///< Why CUPS does not print at once what it took.
   bool isAskingForPassword = false;
 };
 

@@ -39,7 +39,12 @@ void wakeModalLoop(NSWindow *window) {
 
 - (void)showSending:(BOOL)sending {
   [views.progress setHidden:!sending];
-  [views.print setEnabled:!sending];
+  if (sending) {
+    state->lock = std::make_unique<ControlLock>([views.window contentView], views.cancel);
+    return;
+  }
+  state->lock.reset();
+  [views.window makeFirstResponder:state->focusBefore];
 }
 
 - (JobRequest)request {
@@ -111,7 +116,9 @@ void wakeModalLoop(NSWindow *window) {
   const auto submission = std::move(state->submission);
   [self showSending:NO];
   try {
-    job->report(submission->result(), std::cout, *errors);
+    const SubmittedJob sent = submission->result();
+    job->report(sent, std::cout, *errors);
+    state->note = sent.note;
     [NSApp stopModalWithCode:NSOKButton];
     wakeModalLoop(views.window);
   } catch (const Failure &failure) {

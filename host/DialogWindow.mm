@@ -6,7 +6,9 @@
 #import "host/HelpPanel.h"
 #include "host/Messages.hpp"
 #import "host/NamePanel.h"
+#import "host/NotePanel.h"
 #include "host/TicketName.hpp"
+#include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
 #include <algorithm>
@@ -106,6 +108,7 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
 - (void)confirm {
   if ([self isSending])
     return;
+  state->focusBefore = [views.window focusedView];
   [views.window makeFirstResponder:nil];
   if (![self takeEntries] || ![self panelsAllowPrinting])
     return;
@@ -136,6 +139,8 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
 }
 
 - (void)help {
+  if ([self isSending])
+    return; // what ends with the job would be the help's window
   showHelp(views.window);
 }
 
@@ -175,6 +180,8 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
   [views.window makeKeyAndOrderFront:nil];
   [self startAskingForPrinters];
   const NSInteger answer = [NSApp runModalForWindow:views.window];
+  if (!state->note.empty()) // a desktop shows nobody what goes to standard error
+    showNote(views.window, messages::kJobWaits, state->note);
   [views.window orderOut:nil];
   return answer == NSOKButton;
 }

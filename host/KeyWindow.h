@@ -46,6 +46,8 @@ struct ControlKey {
 /// give any other control the focus. Of several with one letter each has its turn; those that are
 /// hidden or cannot be used are passed over.
 - (void)reach:(NSView *)control by:(const std::string &)marked;
+/// The control that has the focus, also while its field editor has it for it; may be null.
+- (NSView *)focusedView;
 
 @end
 

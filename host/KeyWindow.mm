@@ -97,13 +97,6 @@ bool canBeReached(NSView *control) {
          (![control isKindOfClass:[NSControl class]] || [(NSControl *)control isEnabled]);
 }
 
-/// The control that has the focus, whose field editor may have it for it.
-NSView *focusOf(NSWindow *window) {
-  id const responder = [window firstResponder];
-  id const owner = [responder isKindOfClass:[NSText class]] ? [responder delegate] : responder;
-  return [owner isKindOfClass:[NSView class]] ? owner : nil;
-}
-
 } // namespace
 
 @interface KeyWindow ()
@@ -132,6 +125,12 @@ NSView *focusOf(NSWindow *window) {
   controlKeys->push_back({imageposition::toText(lower), control});
 }
 
+- (NSView *)focusedView {
+  id const responder = [self firstResponder];
+  id const owner = [responder isKindOfClass:[NSText class]] ? [responder delegate] : responder;
+  return [owner isKindOfClass:[NSView class]] ? owner : nil;
+}
+
 - (BOOL)reachControl:(NSEvent *)event {
   NSString *const letter = letterOf(event);
   if (letter == nil || controlKeys == nullptr)
@@ -142,7 +141,7 @@ NSView *focusOf(NSWindow *window) {
       reached.push_back(key.control);
   if (reached.empty())
     return NO;
-  const auto current = std::find(reached.begin(), reached.end(), focusOf(self));
+  const auto current = std::find(reached.begin(), reached.end(), [self focusedView]);
   const bool isLast = current == reached.end() || current + 1 == reached.end();
   NSView *const control = isLast ? reached.front() : *(current + 1);
   const bool isAlone = reached.size() == 1;

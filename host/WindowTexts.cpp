@@ -52,6 +52,8 @@ std::string ticketExists(const std::string &path) {
   return text("\"{1}\" is there already. Replace it?").with(path);
 }
 
+const Text kJobWaits = text("The job waits");
+
 const Text kPasswordWindow = text("Password");
 const Text kWrongPasswordWindow = text("Wrong password");
 const Text kUserRow = text("&User name:");

@@ -55,6 +55,8 @@ extern const Text kSave;
 extern const Text kReplace;
 std::string ticketExists(const std::string &path);
 
+extern const Text kJobWaits;
+
 extern const Text kPasswordWindow;
 extern const Text kWrongPasswordWindow;
 extern const Text kUserRow;

@@ -35,6 +35,25 @@ protected:
     EXPECT_EQ(job.arguments.at(3), "2");
   }
 
+  /// What can be used, with what it shows.
+  static std::vector<std::string> usable(const PrintWindow &window) {
+    std::vector<std::string> found;
+    for (const Control &control : window.screen().controls)
+      if (control.isEnabled && control.kind != "label")
+        found.push_back(control.kind + " " + control.text);
+    return found;
+  }
+
+  /// Closes the window that says why the job waits.
+  static void closeNote(PrintWindow &window, const std::string &why, const std::string &key) {
+    ASSERT_TRUE(window.becomes([&](const Screen &shown) {
+      return shown.keyWindow == "The job waits" && shown.says(why);
+    }));
+    ASSERT_TRUE(comesTrue([&] { return window.hasKeyboard("The job waits"); }));
+    EXPECT_FALSE(window.process().hasEnded());
+    window.press(key);
+  }
+
   static long peakMemoryInKilobytes(PrintWindow &window) {
     std::ifstream status("/proc/" + std::to_string(window.process().id()) + "/status");
     for (std::string line; std::getline(status, line);)
@@ -105,6 +124,7 @@ TEST_F(Failing, APausedQueueTakesTheJobAndItIsSaidWhatResumesIt) {
   fillIn(window);
   command({"cupsdisable", "office"});
   window.click("Print");
+  closeNote(window, "does not print at present", "Return");
   const int job = jobOf(window.ended());
   EXPECT_THAT(window.ended().errors,
               AllOf(HasSubstr("does not print at present"), HasSubstr("cupsenable office")));
@@ -118,6 +138,7 @@ TEST_F(Failing, AHeldJobIsKeptAndItIsSaidWhatReleasesIt) {
   PrintWindow window({"-d", "office", "-o", "job-hold-until=indefinite", document()});
   fillIn(window);
   window.click("Print");
+  closeNote(window, "held until it is released", "Escape");
   const std::string name = "office-" + std::to_string(jobOf(window.ended()));
   EXPECT_THAT(window.ended().errors,
               AllOf(HasSubstr("held until it is released"), HasSubstr("-i " + name)));
@@ -152,6 +173,33 @@ TEST_F(Failing, ALargeDocumentIsStreamedWithProgressAndCancelledLeavesNothing) {
   EXPECT_EQ(job.bytes, kLarge);
   expectValues(job, kEntered);
   EXPECT_EQ(printedCount(), 1); // nothing of the one that was cancelled
+}
+
+TEST_F(Failing, WhileADocumentIsSentNothingButCancelCanBeUsedAndThenEverythingAsBefore) {
+  PrintWindow window({"-d", "office", JobFixture::document(kLarge)});
+  fillIn(window);
+  const auto before = usable(window);
+  window.press("alt+c");
+  window.press("Return");
+  ASSERT_TRUE(stopsCupsHalfWay());
+  ASSERT_TRUE(window.says("Sending: "));
+  const auto isCancel = [](const std::string &control) {
+    return control == "button Cancel" || control.compare(0, 8, "progress") == 0 ||
+           control.compare(0, 7, "picture") == 0;
+  };
+  for (const std::string &control : usable(window))
+    EXPECT_TRUE(isCancel(control)) << control;
+  for (const char *key : {"alt+c", "9", "alt+p", "F1", "Return"})
+    window.press(key);
+  window.press("Escape");
+  cups().send(SIGCONT);
+  ASSERT_TRUE(window.says("nothing was printed"));
+  EXPECT_EQ(window.screen().keyWindow, "Print"); // and no help
+  EXPECT_EQ(usable(window), before);
+  expectAllIsStillThere(window);
+  window.press("ctrl+a"); // the field has the keyboard again
+  window.write("3");
+  EXPECT_TRUE(window.becomes([&](const Screen &) { return window.field("Copies:") == "3"; }));
 }
 
 } // namespace
