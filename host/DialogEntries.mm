@@ -152,6 +152,7 @@ std::optional<int> readCopies(const std::string &text) {
     [views.ranges setStringValue:@""];
   [views.ranges setEnabled:item != kAllItem];
   if (item == kRangeItem) {
+    [views.pages synchronizeTitleAndSelectedItem]; // left to itself only where the focus stays
     [views.window makeFirstResponder:views.ranges];
     return;
   }
@@ -160,6 +161,7 @@ std::optional<int> readCopies(const std::string &text) {
 
 - (void)rangesChanged:(id)sender {
   (void)sender;
+  [views.ranges setNeedsDisplay:YES]; // without the focus
   if ([views.pages indexOfSelectedItem] == kRangeItem && [[views.ranges stringValue] length] == 0)
     return;
   try {

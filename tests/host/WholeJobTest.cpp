@@ -53,6 +53,23 @@ TEST_F(WholeJob, TwoSidedOffSwitchesThePanelOffAndSaysWhyUntilItIsOnAgain) {
   EXPECT_THAT(job.options, Contains(Pair("Duplex", "DuplexTumble")));
 }
 
+TEST_F(WholeJob, TheChoiceOfARangeStaysShownWhenTheRangeIsRefused) {
+  PrintWindow window(onQueue("office"));
+  for (const char *key : {"alt+a", "space", "Down", "Down", "Down", "Return"})
+    window.press(key);
+  window.write("9-2");
+  window.press("Tab");
+  ASSERT_TRUE(window.says("9-2 runs backwards"));
+  EXPECT_TRUE(window.becomes([](const Screen &shown) {
+    const Control *const pages = shown.beside("Pages:", "popup");
+    return pages != nullptr && pages->text == "Range";
+  }));
+  window.press("shift+Tab");
+  window.write("2-9");
+  window.click("Print");
+  EXPECT_THAT(printed(jobOf(window.ended())).options, Contains(Pair("page-ranges", "2-9")));
+}
+
 class ThePicture : public WholeJob {
 protected:
   /// How far an outline has moved, in tenths of a millimetre on the paper; half a pixel is not

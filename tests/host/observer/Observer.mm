@@ -45,8 +45,8 @@ const char *kindOf(NSView *view) {
 }
 
 std::string textOf(NSView *view) {
-  if ([view isKindOfClass:[NSPopUpButton class]])
-    return oneLine([(NSPopUpButton *)view titleOfSelectedItem]);
+  if ([view isKindOfClass:[NSPopUpButton class]]) // what is drawn, not what would be answered
+    return oneLine([[[(NSPopUpButton *)view cell] menuItem] title]);
   if ([view isKindOfClass:[NSButton class]])
     return oneLine([(NSButton *)view title]);
   if ([view isKindOfClass:[NSProgressIndicator class]])
