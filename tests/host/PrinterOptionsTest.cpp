@@ -1,9 +1,12 @@
 #include "host/PrinterOptions.hpp"
 
+#include "host/Language.hpp"
 #include "tests/host/OptionsPpd.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace {
 
@@ -142,6 +145,23 @@ TEST_F(PrinterOptionsTest, TextsAreInThePersonsLanguage) {
   EXPECT_EQ(media.text, "Papiersorte");
   EXPECT_EQ(media.choices.front().text, "Normalpapier");
   EXPECT_EQ(media.choices[1].text, "Foil") << "not translated";
+}
+
+/// CUPS remembers what it has read of the environment, so that this is a process's own.
+[[noreturn]] void exitWithWordsIn(const std::string &language, const std::string &twoSided) {
+  speak(language, "/nowhere");
+  PrinterDescription printer =
+      PrinterDescription::fromFile(std::string(IMAGEPOSITION_SAMPLES) + "/duplex-shift.ppd");
+  PrintSettingsStore job;
+  const auto option = PrinterOptions(printer, job).find("Duplex");
+  std::exit(option && option->text == twoSided ? 0 : 1);
+}
+
+TEST(PrinterOptions, SpeakTheProgramsLanguageWhereTheDescriptionHasIt) {
+  EXPECT_EXIT(exitWithWordsIn("en", "Two-Sided"), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(exitWithWordsIn("de", "Beidseitig"), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(exitWithWordsIn("zh_CN", "双面"), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(exitWithWordsIn("nl", "Two-Sided"), testing::ExitedWithCode(0), "");
 }
 
 } // namespace
