@@ -54,6 +54,12 @@ NSView *ownedView(NSView *connected, bool loaded) {
   return isTopLevel ? connected : [connected retain];
 }
 
+// A damaged interface file may connect anything. What is no such control counts as not connected,
+// once and for all: every refresh would raise otherwise, or would have to ask.
+template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
+  ((outlets = [outlets isKindOfClass:type] ? outlets : nil), ...);
+}
+
 } // namespace
 
 @implementation MorvaADPSettingsCollectorRV2
@@ -129,6 +135,12 @@ NSView *ownedView(NSView *connected, bool loaded) {
     return ImagePositionPrintView;
   const bool loaded = imageposition::loadInterfaceFile(kResourceInterfaceFile, self);
   LoadedView = ownedView(ImagePositionPrintView, loaded);
+  forgetUnless([NSButton class], chkEnableImagePositionAdjust, btnRestore2Defalut);
+  forgetUnless([NSTextField class], FrontLRMText, FrontTBMText, BackLRMText, BackTBMText);
+  forgetUnless([NSControl class], FrontLRMStepper, FrontTBMStepper, BackLRMStepper, BackTBMStepper);
+  forgetUnless([NSTextField class], FrontLRMLabel, FrontTBMLabel, BackLRMLabel, BackTBMLabel);
+  forgetUnless([NSTextField class], FrontLRMRangeLabel, FrontTBMRangeLabel, BackLRMRangeLabel,
+               BackTBMRangeLabel);
   [self CBSCInitializeView];
   return ImagePositionPrintView;
 }

@@ -57,9 +57,10 @@ const char *const kHelpListOptions = "Print nothing: list the printer's options 
                                      "cannot combine is told on standard error";
 const char *const kHelpDryRun = "Print nothing: write what CUPS would be sent";
 const char *const kHelpPlugin = "Use this plug-in and no other; may be repeated.\n"
-                                "Without it: those that the printer's description names\n"
-                                "(APDialogExtension), or else those beside this program, or\n"
-                                "in " IMAGEPOSITION_PLUGIN_FOLDER;
+                                "Without it: those with the file names that the printer's\n"
+                                "description has (APDialogExtension), or else all; beside\n"
+                                "this program, or in\n" IMAGEPOSITION_PLUGIN_FOLDER ".\n"
+                                "What other users may change is not loaded";
 const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exists,\n"
                                 "written by Print. The same as NAME=VALUE lines goes\n"
                                 "beside it (job.options for job.json)";
@@ -251,6 +252,21 @@ std::string pluginNotBundle(const std::string &path) {
   return text("\"{1}\" is not a plug-in: it is no bundle with code in it. Check the path, or "
               "install it again.")
       .with(path);
+}
+std::string pluginWritable(const std::string &path, const std::string &part) {
+  return text(
+             "The plug-in \"{1}\" was not loaded: other users may change \"{2}\", and with it what "
+             "the plug-in does. Take that right from them (chmod go-w), or use a copy of the "
+             "plug-in "
+             "in a folder of your own.")
+      .with(path, part);
+}
+std::string pluginOwnedByOthers(const std::string &path, const std::string &part) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" belongs to another user, who may change "
+              "what the plug-in does. Have it installed by the system's administrator, or use a "
+              "copy "
+              "of it in a folder of your own.")
+      .with(path, part);
 }
 const Text kCodeCutShort = text("its end is missing");
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {

@@ -103,6 +103,9 @@ std::string displayUnreachable(const std::string &name);
 // Plug-ins.
 std::string pluginMissing(const std::string &path);
 std::string pluginNotBundle(const std::string &path);
+/// `part` is the bundle, something in it, or a folder on the way.
+std::string pluginWritable(const std::string &path, const std::string &part);
+std::string pluginOwnedByOthers(const std::string &path, const std::string &part);
 extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);

@@ -46,10 +46,6 @@ std::vector<std::string> bundlesNamed(const std::vector<std::string> &paths,
     const std::string name = fileNameOf(path);
     if (name.empty() || name == "." || name == "..")
       continue;
-    if (fs::path(path).is_absolute() && isFolder(path)) {
-      bundles.push_back(path);
-      continue;
-    }
     const auto folder =
         std::find_if(folders.begin(), folders.end(), [&](const std::string &candidate) {
           return isFolder(fs::path(candidate) / name);

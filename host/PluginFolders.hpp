@@ -16,9 +16,9 @@ struct PluginNames {
 /// The bundles to load, each once, in the order in which they were named.
 ///
 /// What the person names is used alone, whether or not it exists, so that a mistake is reported.
-/// Else the printer's paths are used where they exist; one that does not exist, because the maker
-/// wrote it for another system, stands for the bundle of the same file name in the first folder
-/// that has one. Where nothing was named or found, all bundles of the first folder that has any are
+/// Else each of the printer's paths stands for the bundle of the same file name in the first folder
+/// that has one: a description comes from a server, which must not choose what code runs here, and
+/// its maker wrote the path for another system. Where nothing was named or found, all bundles of the first folder that has any are
 /// used.
 std::vector<std::string> findPlugins(const PluginNames &names,
                                      const std::vector<std::string> &folders);

@@ -13,9 +13,10 @@ namespace imageposition {
 /// One loaded plug-in; its code stays in the process for good.
 class Plugin {
 public:
-  /// Checks each step: that the path exists, that it is a bundle with code, that the code loads,
-  /// that its principal class is there and answers the operations of a print-dialog extension, and
-  /// that it starts. Throws a `Failure` with `ExitCode::Plugin` that names the step.
+  /// Checks each step: that the path exists, that nobody else could have changed what is there,
+  /// that it is a bundle with code, that the code loads, that its principal class is there and
+  /// answers the operations of a print-dialog extension, and that it starts. Throws a `Failure`
+  /// with `ExitCode::Plugin` that names the step.
   explicit Plugin(const std::string &path);
   ~Plugin();
   Plugin(const Plugin &) = delete;

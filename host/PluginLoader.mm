@@ -4,6 +4,7 @@
 #import "host/Guard.h"
 #include "host/LibraryFile.hpp"
 #include "host/Messages.hpp"
+#include "host/PluginTrust.hpp"
 
 #include <dlfcn.h>
 #include <filesystem>
@@ -17,23 +18,31 @@ NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Plugin, message); }
 
-std::string absolute(NSString *path) {
-  NSString *const folder = [[NSFileManager defaultManager] currentDirectoryPath];
-  return toText([path isAbsolutePath] ? path : [folder stringByAppendingPathComponent:path]);
+/// What other people could have changed is no part of the plug-in that was installed.
+void checkPeople(const std::string &code, const std::string &plugin) {
+  const auto part = untrustedPart(code, TrustedPeople::here());
+  if (!part)
+    return;
+  refuse(part->reason == UntrustedPart::Reason::OthersMayWrite
+             ? messages::pluginWritable(plugin, part->path)
+             : messages::pluginOwnedByOthers(plugin, part->path));
 }
 
 NSBundle *bundleAt(const std::string &path) {
-  NSString *const name = toString(path);
-  BOOL isFolder = NO;
-  if (![[NSFileManager defaultManager] fileExistsAtPath:name isDirectory:&isFolder])
+  std::error_code failed;
+  // Where a link leads now is what is looked at, and loaded.
+  const std::string real = std::filesystem::canonical(path, failed).string();
+  if (failed)
     refuse(messages::pluginMissing(path));
-  NSBundle *const bundle = isFolder ? [NSBundle bundleWithPath:toString(absolute(name))] : nil;
+  checkPeople(real, path);
+  const bool isFolder = std::filesystem::is_directory(real, failed);
+  NSBundle *const bundle = isFolder ? [NSBundle bundleWithPath:toString(real)] : nil;
   NSString *const code = [bundle executablePath];
   if (code == nil || ![[NSFileManager defaultManager] isReadableFileAtPath:code])
     refuse(messages::pluginNotBundle(path));
+  checkPeople(toText(code), path); // which a bundle may say is elsewhere
   // For a second copy of a bundle the platform answers the first one.
-  std::error_code failed;
-  if (!std::filesystem::equivalent(path, toText([bundle bundlePath]), failed))
+  if (!std::filesystem::equivalent(real, toText([bundle bundlePath]), failed))
     refuse(messages::pluginClassTaken(
         path,
         toOptionalText([[bundle infoDictionary] objectForKey:@"NSPrincipalClass"]).value_or("")));

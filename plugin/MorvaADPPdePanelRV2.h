@@ -9,7 +9,7 @@
 /// Main thread only.
 @interface MorvaADPPdePanelRV2 : NSObject {
   id<MorvaADPPdeCallbackRV2> PDEPluginCallbackObject; ///< Retained.
-  NSString *PDEName;                                  ///< Looked up once; the bundle's.
+  NSString *PDEName;                                  ///< Looked up once; not owned, and stays.
   BOOL PanelShown;                                    ///< True from the first `willShow` on.
   ppd_file_t *ppd;                                    ///< As of the last `willShow`; the host's.
   NSBundle *PDEBundle;                                ///< Retained.

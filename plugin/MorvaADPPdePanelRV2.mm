@@ -3,6 +3,21 @@
 #import "plugin/MissingInterfaceView.h"
 #import "settings/Keys.h"
 
+namespace {
+
+// An equal text that stays to the end of the process. A bundle need not keep what it gives: a text
+// that it lacks, or that the platform marks as not translated, may be a temporary one.
+NSString *lasting(NSString *text) {
+  static NSMutableSet *const kTexts = [[NSMutableSet alloc] init];
+  if (text == nil)
+    return nil;
+  if ([kTexts member:text] == nil)
+    [kTexts addObject:[[text copy] autorelease]];
+  return [kTexts member:text];
+}
+
+} // namespace
+
 @implementation MorvaADPPdePanelRV2
 
 - (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle {
@@ -43,9 +58,8 @@
 }
 
 - (NSString *)panelName {
-  // Not retained: the bundle keeps its localized strings.
   if (PDEName == nil)
-    PDEName = [PDEBundle localizedStringForKey:kTextPluginName value:nil table:nil];
+    PDEName = lasting([PDEBundle localizedStringForKey:kTextPluginName value:nil table:nil]);
   return PDEName;
 }
 

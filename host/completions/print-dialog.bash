@@ -61,22 +61,28 @@ _print_dialog_options() {
   fi
 }
 
-# The candidates in $2 and on that begin with $1, which bash has split before its last "=" or ":".
+# The candidates in $2 and on that begin with $1, which bash has split before its last "=" or ":". They
+# are names that others gave, and stand in a command line afterwards: what the shell would act on is
+# quoted.
 _print_dialog_offer() {
   local typed=$1 candidate split=
   shift
   if [[ $COMP_WORDBREAKS == *=* && $typed == *=* ]]; then split=${typed%"${typed##*=}"}; fi
   for candidate; do
-    [[ $candidate == "$typed"* ]] && COMPREPLY+=("${candidate#"$split"}")
+    [[ $candidate == "$typed"* ]] || continue
+    candidate=${candidate#"$split"}
+    if [[ $candidate == *[!A-Za-z0-9_.,:=/@%+-]* ]]; then printf -v candidate %q "$candidate"; fi
+    COMPREPLY+=("$candidate")
   done
 }
 
 _print_dialog_offer_settings() {
-  local typed=$1 line name choices choice
-  local -a candidates=()
-  while read -r name choices; do
+  local typed=$1 name choice
+  local -a candidates=() choices
+  while read -r name choice; do
     if [[ $typed == "$name="* ]]; then
-      for choice in $choices; do candidates+=("$name=$choice"); done
+      read -ra choices <<<"$choice"
+      for choice in "${choices[@]}"; do candidates+=("$name=$choice"); done
     else
       candidates+=("$name=")
     fi
@@ -90,6 +96,7 @@ _print_dialog_offer_files() {
   local file typed=${1/#\~\//$HOME/}
   compopt -o filenames
   while IFS= read -r file; do
+    [[ -e $file ]] || continue # a part of a name of several lines
     # shellcheck disable=SC2053 # a pattern
     if [[ -d $file || ${file##*/} == ${2-*} ]]; then COMPREPLY+=("$file"); fi
   done < <(compgen -f -- "$typed")

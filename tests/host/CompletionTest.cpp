@@ -121,6 +121,59 @@ TEST_P(Completion, SaysNothingWhereThereIsNoCups) {
   EXPECT_THAT(all("-o xyz", nowhere), ElementsAre("xyz"));
 }
 
+/// Names that a server or a description's maker chose, and what a shell does with them unless they
+/// are quoted: makes a file "acted".
+const Words kHostile{"$(touch${IFS}acted)", "`touch${IFS}acted`",
+                     ";touch${IFS}acted",   "&touch${IFS}acted",
+                     "|touch${IFS}acted",   "*",
+                     "a${HOME}b",           "~"};
+
+// The words of the completed line are read by the shell itself, as a person's Return would have it.
+TEST_P(Completion, TheNameOfAPrinterOrPresetIsNeverACommand) {
+  for (const std::string &name : kHostile) {
+    SCOPED_TRACE(name);
+    const std::string queue = "evil" + name;
+    const auto added = cups->run({"lpadmin", "-p", queue, "-E", "-v", "file:///dev/null"});
+    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
+    EXPECT_THAT(all("-d evil"), ElementsAre(queue));
+    EXPECT_FALSE(std::filesystem::exists(folder.path("acted")));
+    cups->run({"lpadmin", "-x", queue});
+  }
+  const std::string preset = "office/$(touch${IFS}acted)";
+  ASSERT_EQ(cups->run({"lpoptions", "-p", preset, "-o", "Duplex=None"}).status, 0);
+  EXPECT_THAT(all("-d office/"), testing::UnorderedElementsAre("office/draft", preset));
+  EXPECT_FALSE(std::filesystem::exists(folder.path("acted")));
+  cups->run({"lpoptions", "-x", preset});
+}
+
+TEST_P(Completion, WhatADescriptionCallsItsOptionsAndChoicesIsNeverACommand) {
+  std::string ppd = "*PPD-Adobe: \"4.3\"\n*OpenUI *Evil: PickOne\n*DefaultEvil: x\n";
+  for (const std::string &choice : kHostile)
+    ppd += "*Evil " + choice + ": \"\"\n";
+  ppd += "*Evil 'quoted: \"\"\n*Evil \"twice: \"\"\n*CloseUI: *Evil\n"
+         "*OpenUI *Other$(touch${IFS}acted): PickOne\n*CloseUI: *Other\n";
+  folder.write("evil.ppd", ppd);
+  std::string joined;
+  for (const std::string &word : all("--ppd evil.ppd -o Evil="))
+    joined += word + "\n";
+  for (const std::string &choice : kHostile)
+    EXPECT_THAT(joined, testing::HasSubstr(choice + "\n"));
+  EXPECT_THAT(joined, testing::HasSubstr("'quoted\n"));
+  EXPECT_THAT(joined, testing::HasSubstr("\"twice\n"));
+  EXPECT_THAT(joined, testing::Not(testing::HasSubstr("report.pdf")));
+  EXPECT_THAT(all("--ppd evil.ppd -o Oth"), ElementsAre("Other$(touch${IFS}acted)="));
+  EXPECT_FALSE(std::filesystem::exists(folder.path("acted")));
+}
+
+TEST_P(Completion, TheNameOfAFileIsNeverACommand) {
+  const std::string name = "$(touch acted) `touch acted`;touch acted\"'";
+  folder.write("evil" + name + ".ppd", "");
+  EXPECT_THAT(tab("--ppd evil"), ElementsAre("evil" + name + ".ppd"));
+  folder.write("two\nlines$(touch acted).json", "");
+  EXPECT_THAT(tab("--ticket li"), ElementsAre("li")); // no part of it is a file
+  EXPECT_FALSE(std::filesystem::exists(folder.path("acted")));
+}
+
 INSTANTIATE_TEST_SUITE_P(Shells, Completion, testing::Values(kBash, kZsh),
                          [](const auto &shell) { return shell.param.name; });
 

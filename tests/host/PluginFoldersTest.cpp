@@ -31,10 +31,14 @@ TEST_F(PluginFolders, WhatThePersonNamesIsUsedAloneEvenIfItIsNotThere) {
       ElementsAre("missing.plugin"));
 }
 
-TEST_F(PluginFolders, WhatThePrinterNamesIsUsedWhereItExists) {
-  bundle("installed/A.plugin");
-  const std::string maker = bundle("maker/M.plugin");
-  EXPECT_THAT(findPlugins({{}, {maker}}, {installed}), ElementsAre(maker));
+TEST_F(PluginFolders, APrintersPathLeadsNowhereButToTheFolders) {
+  const std::string ours = bundle("installed/M.plugin");
+  const std::string elsewhere = bundle("elsewhere/M.plugin");
+  const std::string unknown = bundle("elsewhere/N.plugin");
+  EXPECT_THAT(findPlugins({{}, {elsewhere}}, {installed}), ElementsAre(ours));
+  EXPECT_THAT(findPlugins({{}, {unknown}}, {beside}), IsEmpty());
+  for (const char *path : {"../elsewhere/N.plugin", "/../elsewhere/N.plugin/.", "N.plugin/../.."})
+    EXPECT_THAT(findPlugins({{}, {path}}, {beside}), IsEmpty()) << path;
 }
 
 TEST_F(PluginFolders, APathOfAnotherSystemStandsForTheBundleOfThatName) {
@@ -61,7 +65,9 @@ TEST_F(PluginFolders, ABundleIsUsedOnce) {
   const std::string a = bundle("installed/A.plugin");
   EXPECT_THAT(findPlugins({{a, a + "/", folder.path("installed/../installed/A.plugin")}, {}}, {}),
               ElementsAre(a));
-  EXPECT_THAT(findPlugins({{}, {a, "/gone/A.plugin"}}, {installed}), ElementsAre(a));
+  bundle("installed/A.plugin");
+  EXPECT_THAT(findPlugins({{}, {"A.plugin", "/gone/A.plugin"}}, {installed}),
+              ElementsAre(folder.path("installed/A.plugin")));
 }
 
 TEST_F(PluginFolders, NamesThatLeadNowhereAreHarmless) {

@@ -25,6 +25,7 @@ protected:
 
   /// A copy of the plug-in to be spoilt.
   std::string copy(const std::string &name = "Copy.plugin") {
+    fs::create_directories(fs::path(folder.path(name)).parent_path());
     fs::copy(FIXTURE_PLUGIN, folder.path(name), fs::copy_options::recursive);
     return folder.path(name);
   }
@@ -155,6 +156,56 @@ TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
   const std::string garbled = copy("garbled.plugin");
   std::ofstream(garbled + "/Resources/Info-gnustep.plist") << "{{{ not a property list";
   expectLeftOut(load(garbled, ""), "");
+}
+
+// A description comes from a server.
+TEST_F(PluginLoading, NoDescriptionBringsCodeFromAnywhere) {
+  const std::string description = contentOf(sample("duplex-shift.ppd"));
+  for (const std::string &path :
+       {std::string(FIXTURE_PLUGIN), copy("MorvaADPImagePosition.plugin"), "../" + copy()}) {
+    SCOPED_TRACE(path);
+    const std::string ppd =
+        folder.write("evil.ppd", description + "*APDialogExtension: \"" + path + "\"\n");
+    const auto result = batch(ppd, {"--summary"}, {"FIXTURE_JOURNAL=" + folder.path("journal")});
+    EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+    EXPECT_THAT(result.output, HasSubstr("Image Position\n")); // the one beside the program
+    EXPECT_FALSE(fs::exists(folder.path("journal")));
+  }
+}
+
+TEST_F(PluginLoading, WhatOtherUsersMayChangeIsLeftOut) {
+  const std::string journal = folder.path("journal");
+  const auto everybody = fs::perms::others_write;
+  const std::string bundle = copy("place/Copy.plugin");
+  for (const std::string &part : {folder.path("place"), bundle, bundle + "/Fixture",
+                                  bundle + "/Resources/Info-gnustep.plist"}) {
+    fs::permissions(part, everybody, fs::perm_options::add);
+    const auto result = load(bundle, "");
+    expectLeftOut(result, "Copy.plugin\" was not loaded: other users may change \"" + part + "\"");
+    EXPECT_FALSE(fs::exists(journal)) << "no code of it may run";
+    fs::permissions(part, everybody, fs::perm_options::remove);
+  }
+  EXPECT_EQ(load(bundle, "").status, kDone);
+}
+
+TEST_F(PluginLoading, ALinkStandsForWhatItLeadsTo) {
+  const std::string bundle = copy("place/Copy.plugin");
+  fs::create_directory_symlink(bundle, folder.path("Link.plugin"));
+  EXPECT_EQ(load(folder.path("Link.plugin"), "").status, kDone);
+  fs::remove(folder.path("job.json"));
+  fs::permissions(folder.path("place"), fs::perms::others_write, fs::perm_options::add);
+  expectLeftOut(load(folder.path("Link.plugin"), ""),
+                "Link.plugin\" was not loaded: other users may change");
+}
+
+TEST_F(PluginLoading, ABundleThatNamesCodeElsewhereIsLookedAtThereToo) {
+  const std::string bundle = copy();
+  fs::create_directory(folder.path("open"));
+  fs::rename(bundle + "/Fixture", folder.path("open/Fixture"));
+  fs::permissions(folder.path("open"), fs::perms::others_write, fs::perm_options::add);
+  std::ofstream(bundle + "/Resources/Info-gnustep.plist")
+      << "{ NSExecutable = \"../open/Fixture\"; NSPrincipalClass = FixturePlugin; }";
+  expectLeftOut(load(bundle, ""), "Copy.plugin\" was not loaded: other users may change");
 }
 
 TEST_F(PluginLoading, ThePanelWithoutOneOfItsDefinitionsCannotBeLoaded) {
