@@ -46,7 +46,6 @@ NSTextField *makeField(CGFloat width, id target, SEL action) {
 NSTextField *makeMessage(NSRect frame) {
   NSTextField *const label = makeLabel("");
   [[label cell] setWraps:YES];
-  coverGround(label);
   [label setFrame:frame];
   return label;
 }
@@ -98,7 +97,6 @@ void Builder::makeControls() {
   const id target = actions_.target;
   views_.printers = makePopUp(target, actions_.printerChosen);
   views_.printerState = makeLabel("");
-  coverGround(views_.printerState);
   views_.presets = makePopUp(target, actions_.presetChosen);
   views_.copies = makeField(56, target, actions_.copiesChanged);
   views_.copiesStepper = [[[NSStepper alloc] initWithFrame:NSMakeRect(0, 0, 19, 27)] autorelease];
@@ -117,7 +115,6 @@ void Builder::makeControls() {
   rows_.push_back({messages::kPrinterRow, {views_.printers}});
   rows_.push_back({"", {views_.printerState}});
   documentName_ = makeLabel(document_);
-  coverGround(documentName_);
   if (!document_.empty())
     rows_.push_back({messages::kDocumentRow, {documentName_}});
   rows_.push_back({messages::kPresetsRow, {views_.presets}});
@@ -152,7 +149,6 @@ void Builder::addRows() {
   std::vector<NSTextField *> titles;
   for (const Row &row : rows_) {
     titles.push_back(makeTitle(row.title));
-    coverGround(titles.back());
     if (!row.controls.empty())
       [views_.window reach:row.controls.front() by:row.title];
     titleWidth = std::max(titleWidth, NSWidth([titles.back() frame]));

@@ -11,10 +11,6 @@ namespace imageposition {
 /// A text that nobody edits, as large as it needs to be. Not owned by the caller.
 NSTextField *makeLabel(const std::string &text, bool bold = false);
 
-/// Has a text in a window cover what it was when it is drawn anew: with larger text the platform
-/// leaves that there.
-void coverGround(NSTextField *label);
-
 /// Makes a new field into such a text.
 void makeIntoLabel(NSTextField *field, const std::string &text, bool bold);
 

@@ -29,11 +29,6 @@ NSTextField *makeLabel(const std::string &text, bool bold) {
   return label;
 }
 
-void coverGround(NSTextField *label) {
-  [label setBackgroundColor:[NSColor windowBackgroundColor]];
-  [label setDrawsBackground:YES];
-}
-
 void makeIntoLabel(NSTextField *field, const std::string &text, bool bold) {
   [field setEditable:NO];
   [field setSelectable:NO];

@@ -23,8 +23,6 @@
   label = [[[MessageLabel alloc] initWithFrame:NSZeroRect] autorelease];
   imageposition::makeIntoLabel(label, "", false);
   [[label cell] setWraps:YES];
-  [self setBackgroundColor:[NSColor windowBackgroundColor]];
-  [self setDrawsBackground:YES];
   [self setStringValue:@""];
   return self;
 }

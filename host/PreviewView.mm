@@ -57,8 +57,6 @@ struct imageposition::PreviewViewState {
   (void)dirty;
   if (!state->preview)
     return;
-  [[NSColor windowBackgroundColor] set]; // with larger text the platform leaves what was there
-  NSRectFill([self bounds]);
   const NSSize size = [self bounds].size;
   const PreviewLayout layout =
       layOutPreview(*state->preview, {size.width, size.height, previewLineHeight()});

@@ -1,6 +1,7 @@
 #import "host/Theme.h"
 
 #import "host/DialogTheme.h"
+#import "host/RedrawRounding.h"
 
 namespace imageposition {
 
@@ -24,13 +25,18 @@ void keepTheme() {
 void setTextScale(double scale) {
   if (scale == 1)
     return;
-  NSDictionary *const defaults =
-      [NSDictionary dictionaryWithObject:[NSNumber numberWithDouble:scale] forKey:@"GSScaleFactor"];
+  // Letters as wide as they are drawn: widths in whole pixels of the unscaled size would not do.
+  // Cairo's figures: bits 4 and up for metrics (1: not rounded), the others for shapes (2: slight).
+  constexpr int kHinting = 1 << 4 | 2;
+  NSDictionary *const defaults = [NSDictionary
+      dictionaryWithObjectsAndKeys:[NSNumber numberWithDouble:scale], @"GSScaleFactor",
+                                   [NSNumber numberWithInt:kHinting], @"GSFontHinting", nil];
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
 }
 
 void installTheme(Appearance appearance) {
   replacePlatformDrawing();
+  drawOnceAtAnyScale();
   DialogTheme *const theme =
       [[[DialogTheme alloc] initWithPalette:themeColors(appearance)] autorelease];
   [theme setName:@"PrintDialog"];

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 #include <vector>
 
 using namespace imageposition;
@@ -132,8 +133,13 @@ protected:
   }
 
   Picture picture() {
-    NSView *const view = [window contentView];
     [window display];
+    return shown();
+  }
+
+  /// Without drawing anything anew.
+  Picture shown() {
+    NSView *const view = [window contentView];
     [view lockFocus];
     NSBitmapImageRep *const bitmap =
         [[[NSBitmapImageRep alloc] initWithFocusedViewRect:[view bounds]] autorelease];
@@ -168,10 +174,41 @@ protected:
   FocusHolder *elsewhere = nil;
 };
 
+/// The platform rounds where the scale is no whole number: the tests run at several, which have to
+/// be known before there is an application.
+const bool isScaled = [] {
+  NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
+  const char *const scale = std::getenv("PRINT_DIALOG_TEXT_SCALE");
+  if (scale != nullptr)
+    setTextScale(std::atof(scale));
+  [pool release];
+  return scale != nullptr;
+}();
+
+class ScaledTheme : public Theme {
+protected:
+  /// The columns of pixels at which something begins that differs from the ground.
+  static std::vector<long> beginnings(const Picture &picture) {
+    std::vector<long> found;
+    bool wasGround = true;
+    for (long x = 0; x < picture.width; x++) {
+      bool isGround = true;
+      for (std::size_t i = x; i < picture.pixels.size(); i += picture.width)
+        isGround = isGround && !differ(picture.pixels[i], picture.corner());
+      if (wasGround && !isGround)
+        found.push_back(x);
+      wasGround = isGround;
+    }
+    return found;
+  }
+};
+
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Light, Theme, testing::Values(Appearance::Light));
 INSTANTIATE_TEST_SUITE_P(Dark, Theme, testing::Values(Appearance::Dark));
+INSTANTIATE_TEST_SUITE_P(Light, ScaledTheme, testing::Values(Appearance::Light));
+INSTANTIATE_TEST_SUITE_P(Dark, ScaledTheme, testing::Values(Appearance::Dark));
 
 TEST_P(Theme, TheWindowIsAsLightOrDarkAsAsked) {
   const double ground = luminance(picture().corner());
@@ -289,4 +326,33 @@ TEST_P(Theme, StaysWhenAUserDefaultChanges) {
   [[NSNotificationCenter defaultCenter] postNotificationName:NSUserDefaultsDidChangeNotification
                                                       object:[NSUserDefaults standardUserDefaults]];
   EXPECT_EQ([GSTheme theme], before);
+}
+
+TEST_P(ScaledTheme, WhatIsDrawnTwiceLooksAsIfDrawnOnce) {
+  NSView *const panel = add([[NSView alloc] initWithFrame:NSZeroRect]);
+  [panel setFrame:NSMakeRect(7, 3, 227, 71)];
+  std::vector<NSView *> views;
+  for (int i = 0; i < 4; i++) {
+    NSView *const view = i < 2 ? static_cast<NSView *>(addLabel([NSColor blackColor]))
+                               : static_cast<NSView *>(addCheckbox());
+    [view setFrame:NSMakeRect(5 + i * 7, 1 + i * 17, 103 + i * 31, 17)];
+    [panel addSubview:view];
+    views.push_back(view);
+  }
+  const Picture once = picture();
+  for (NSView *const view : views) {
+    [view setNeedsDisplay:YES];
+    [window displayIfNeeded];
+    EXPECT_EQ(difference(once, shown()).count, 0);
+  }
+}
+
+// The platform draws sixteen letters at a time, and places the next ones by what it measured.
+TEST_P(ScaledTheme, LettersAreAsFarApartAsTheyWereMeasured) {
+  [addLabel([NSColor blackColor]) setStringValue:@"l l l l l l l l l l l l"];
+  const std::vector<long> begun = beginnings(picture());
+  ASSERT_EQ(begun.size(), 12u);
+  const double usual = (begun[7] - begun[0]) / 7.0;
+  for (std::size_t i = 1; i < begun.size(); i++)
+    EXPECT_NEAR(begun[i] - begun[i - 1], usual, 1.01) << i;
 }
