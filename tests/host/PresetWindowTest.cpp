@@ -102,4 +102,36 @@ TEST_F(PresetWindow, OneOfAnotherPrinterLoadsWhatFitsAndSaysWhatDoesNot) {
   command({"lpadmin", "-x", "small"});
 }
 
+/// Its panel writes down what it is asked.
+class PresetOfAPanel : public PresetWindow {
+protected:
+  /// How often the panel was asked for an operation.
+  long asked(const std::string &operation) const {
+    const std::string text = "\n" + contentOf(journal);
+    long count = 0;
+    for (std::size_t at = 0; (at = text.find("\n" + operation + "\n", at)) != std::string::npos;)
+      count++, at++;
+    return count;
+  }
+
+  const std::string journal = folder.path("journal");
+  const Words words{"-d", "office", "--plugin", FIXTURE_PLUGIN, document()};
+  const Words environment{"FIXTURE_JOURNAL=" + journal};
+};
+
+TEST_F(PresetOfAPanel, ItIsSavedWithTheJobsPresetAndRestoredFromIt) {
+  PrintWindow window(words, environment);
+  const long saved = asked("saveValuesAndReturnError:");
+  EXPECT_EQ(asked("restoreValuesAndReturnError:"), 0);
+  save(window, "draft");
+  EXPECT_GT(asked("saveValuesAndReturnError:"), saved);
+  window.choose("Preset:", "None");
+  EXPECT_TRUE(showsPreset(window, "None"));
+  EXPECT_EQ(asked("restoreValuesAndReturnError:"), 0);
+  window.choose("Preset:", "draft");
+  EXPECT_TRUE(showsPreset(window, "draft"));
+  EXPECT_TRUE(comesTrue([&] { return asked("restoreValuesAndReturnError:") == 1; }));
+  cancel(window);
+}
+
 } // namespace
