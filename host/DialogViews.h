@@ -42,10 +42,17 @@ struct DialogActions {
       rangesChanged, twoSidedChosen, mediaChosen, paneChosen, resolve, help, cancel, print;
 };
 
-/// `pane` is the size of the largest pane. An empty `document` has no row.
-DialogViews buildDialog(NSSize pane, const std::string &document, const DialogActions &actions);
+/// The largest content of a window that has room on the screen, in points.
+NSSize roomOnScreen();
 
-/// Fits a pane into its area, in place of what was there, and into the order of Tab.
+/// `pane` is the size of the largest pane, `room` that of the largest window's content. Where it is
+/// not enough the picture stands beside the rows alone, and the area of the panes is lower than
+/// wanted. An empty `document` has no row.
+DialogViews buildDialog(NSSize pane, NSSize room, const std::string &document,
+                        const DialogActions &actions);
+
+/// Fits a pane into its area, in place of what was there, and into the order of Tab. One that is
+/// higher than the area is scrolled.
 void showInPaneArea(const DialogViews &views, NSView *pane);
 
 } // namespace imageposition

@@ -2,6 +2,7 @@
 
 #include "host/HelpTexts.hpp"
 #import "host/KeyLoop.h"
+#import "host/KeyScrollView.h"
 #import "host/Labels.h"
 #import "host/MnemonicControls.h"
 #include "host/WindowTexts.hpp"
@@ -22,6 +23,8 @@ constexpr CGFloat kRowHeight = 24;
 constexpr CGFloat kHintHeight = 36;
 constexpr int kMessageLines = 3; // it scrolls when there are more
 constexpr CGFloat kPopUpWidth = 280;
+constexpr CGFloat kSmallestPaneHeight = 72;
+constexpr NSSize kWindowFrame = {8, 40}; // pixels, of most window managers
 
 NSPopUpButton *makePopUp(id target, SEL action) {
   const NSRect frame = NSMakeRect(0, 0, kPopUpWidth, kRowHeight);
@@ -62,8 +65,8 @@ CGFloat messageHeight() {
 
 class Builder {
 public:
-  Builder(NSSize pane, const std::string &document, const DialogActions &actions)
-      : pane_(pane), document_(document), actions_(actions) {}
+  Builder(NSSize pane, NSSize room, const std::string &document, const DialogActions &actions)
+      : pane_(pane), room_(room), document_(document), actions_(actions) {}
 
   DialogViews build() {
     makeControls();
@@ -84,11 +87,15 @@ private:
   void linkKeys();
   void add(NSView *view) { [[views_.window contentView] addSubview:view]; }
 
-  NSSize pane_;
+  NSSize pane_; // what of it has room
+  NSSize room_;
   std::string document_;
   const DialogActions &actions_;
   DialogViews views_{};
   std::vector<Row> rows_;
+  std::vector<NSTextField *> titles_;
+  CGFloat titleWidth_ = 0;
+  CGFloat rowsRight_ = 0;
   CGFloat paneTop_ = 0;
   NSTextField *documentName_ = nil;
 };
@@ -123,14 +130,30 @@ void Builder::makeControls() {
   rows_.push_back({messages::kTwoSidedRow, {views_.twoSided}});
   rows_.push_back({messages::kMediaRow, {views_.media}});
   rows_.push_back({messages::kPaneRow, {views_.panes}});
+  for (const Row &row : rows_) {
+    titles_.push_back(makeTitle(row.title));
+    titleWidth_ = std::max(titleWidth_, NSWidth([titles_.back() frame]));
+  }
 }
 
 void Builder::makeWindow() {
-  const NSSize picture = [PreviewView preferredSize];
+  NSSize picture = [PreviewView preferredSize];
   const CGFloat rows = rows_.size() * (kRowHeight + kRowGap);
+  const CGFloat rowsWidth = titleWidth_ + kGap + kPopUpWidth;
   const CGFloat foot = kHintHeight + messageHeight() + kRowHeight + 3 * kGap;
+  const bool isNarrow = pane_.width + picture.width + 3 * kMargin > room_.width;
+  NSSize size = {pane_.width + picture.width + 3 * kMargin, 0};
+  if (isNarrow) {
+    size.width = std::min(room_.width,
+                          std::max(pane_.width, rowsWidth + kMargin + picture.width) + 2 * kMargin);
+    picture.width = std::min(picture.width, size.width - rowsWidth - 3 * kMargin);
+    picture.height = std::min(picture.height, rows);
+    pane_.width = size.width - 2 * kMargin;
+  }
+  const CGFloat paneRoom = room_.height - rows - kGap - foot - 2 * kMargin;
+  pane_.height = std::min(pane_.height, std::max(paneRoom, kSmallestPaneHeight));
   const CGFloat body = std::max(rows + kGap + pane_.height, picture.height);
-  const NSSize size = {pane_.width + picture.width + 3 * kMargin, body + foot + 2 * kMargin};
+  size.height = body + foot + 2 * kMargin;
   paneTop_ = size.height - kMargin - rows - kGap;
   views_.window = [[KeyWindow alloc] initWithContentRect:NSMakeRect(0, 0, size.width, size.height)
                                                styleMask:NSTitledWindowMask | NSClosableWindowMask
@@ -138,31 +161,28 @@ void Builder::makeWindow() {
                                                    defer:YES];
   [views_.window setReleasedWhenClosed:NO];
   [views_.window setTitle:toString(messages::kPrintWindow)];
-  const NSRect frame = NSMakeRect(2 * kMargin + pane_.width, size.height - kMargin - picture.height,
-                                  picture.width, picture.height);
+  const NSRect frame =
+      NSMakeRect(size.width - kMargin - picture.width, size.height - kMargin - picture.height,
+                 picture.width, picture.height);
+  rowsRight_ = NSMinX(frame) - kMargin;
   views_.preview = [[[PreviewView alloc] initWithFrame:frame] autorelease];
   add(views_.preview);
 }
 
 void Builder::addRows() {
-  CGFloat titleWidth = 0;
-  std::vector<NSTextField *> titles;
-  for (const Row &row : rows_) {
-    titles.push_back(makeTitle(row.title));
+  for (const Row &row : rows_)
     if (!row.controls.empty())
       [views_.window reach:row.controls.front() by:row.title];
-    titleWidth = std::max(titleWidth, NSWidth([titles.back() frame]));
-  }
   CGFloat middle = NSHeight([[views_.window contentView] frame]) - kMargin - kRowHeight / 2;
   for (std::size_t i = 0; i < rows_.size(); i++, middle -= kRowHeight + kRowGap) {
-    NSTextField *const title = titles[i];
-    [title setFrameOrigin:NSMakePoint(kMargin + titleWidth - NSWidth([title frame]),
+    NSTextField *const title = titles_[i];
+    [title setFrameOrigin:NSMakePoint(kMargin + titleWidth_ - NSWidth([title frame]),
                                       std::round(middle - NSHeight([title frame]) / 2))];
     add(title);
-    CGFloat left = kMargin + titleWidth + kGap;
+    CGFloat left = kMargin + titleWidth_ + kGap;
     for (NSView *control : rows_[i].controls) {
       NSRect frame = [control frame];
-      const CGFloat rest = pane_.width + kMargin - left;
+      const CGFloat rest = rowsRight_ - left;
       if (control == documentName_)
         showCut(documentName_, document_, rest);
       // One that is still to come takes what is left.
@@ -237,20 +257,51 @@ void Builder::linkKeys() {
 
 } // namespace
 
-DialogViews buildDialog(NSSize pane, const std::string &document, const DialogActions &actions) {
-  return Builder(pane, document, actions).build();
+NSSize roomOnScreen() {
+  NSScreen *const screen = [NSScreen mainScreen];
+  const CGFloat scale = [screen userSpaceScaleFactor];
+  const NSSize pixels = [screen visibleFrame].size;
+  return NSMakeSize(std::floor((pixels.width - kWindowFrame.width) / scale),
+                    std::floor((pixels.height - kWindowFrame.height) / scale));
 }
 
+DialogViews buildDialog(NSSize pane, NSSize room, const std::string &document,
+                        const DialogActions &actions) {
+  return Builder(pane, room, document, actions).build();
+}
+
+namespace {
+
+/// The pane itself, or what scrolls it where it is higher than its area.
+NSView *fitted(NSView *pane, NSRect area) {
+  if (NSHeight([pane frame]) <= NSHeight(area) + 0.5)
+    return pane;
+  NSScrollView *const before = [pane enclosingScrollView];
+  if (before != nil && [before documentView] == pane)
+    return before;
+  const CGFloat width =
+      std::min(NSWidth(area), NSWidth([pane frame]) + [NSScroller scrollerWidth] + 2);
+  KeyScrollView *const scroll =
+      [[[KeyScrollView alloc] initWithFrame:NSMakeRect(0, 0, width, NSHeight(area))] autorelease];
+  [scroll setBorderType:NSNoBorder];
+  [scroll setDocumentView:pane];
+  [pane scrollRectToVisible:NSMakeRect(0, NSMaxY([pane bounds]) - 1, 1, 1)]; // its upper edge
+  return scroll;
+}
+
+} // namespace
+
 void showInPaneArea(const DialogViews &views, NSView *pane) {
-  NSArray *const shown = [NSArray arrayWithArray:[views.paneArea subviews]];
-  for (NSUInteger i = 0; i < [shown count]; i++)
-    if ([shown objectAtIndex:i] != pane)
-      [[shown objectAtIndex:i] removeFromSuperview];
   const NSRect area = [views.paneArea frame];
-  const CGFloat left = std::floor((NSWidth(area) - NSWidth([pane frame])) / 2);
-  [pane setFrameOrigin:NSMakePoint(left, NSHeight(area) - NSHeight([pane frame]))];
-  if ([pane superview] != views.paneArea)
-    [views.paneArea addSubview:pane];
+  NSView *const shown = fitted(pane, area);
+  NSArray *const before = [NSArray arrayWithArray:[views.paneArea subviews]];
+  for (NSUInteger i = 0; i < [before count]; i++)
+    if ([before objectAtIndex:i] != shown)
+      [[before objectAtIndex:i] removeFromSuperview];
+  const CGFloat left = std::floor((NSWidth(area) - NSWidth([shown frame])) / 2);
+  [shown setFrameOrigin:NSMakePoint(left, NSHeight(area) - NSHeight([shown frame]))];
+  if ([shown superview] != views.paneArea)
+    [views.paneArea addSubview:shown];
   [views.paneArea setNeedsDisplay:YES];
   linkPane(pane, views.panes, views.resolve);
 }

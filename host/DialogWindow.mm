@@ -80,9 +80,9 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
         @selector(paneChosen:), @selector(resolveConflicts:), @selector(help), @selector(dismiss),
         @selector(confirm)
   };
-  views = buildDialog(pane, documentsInWords(job->documents()), actions);
+  views = buildDialog(pane, roomOnScreen(), documentsInWords(job->documents()), actions);
   [views.window setDelegate:(id)self];
-  const NSRect frame = NSMakeRect(0, 0, pane.width, pane.height);
+  const NSRect frame = [views.paneArea bounds];
   summary = [[SummaryView alloc] initWithFrame:frame];
   options = [[OptionsView alloc] initWithFrame:frame owner:(id)self];
 }

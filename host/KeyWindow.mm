@@ -9,6 +9,8 @@ using imageposition::ControlKey;
 
 namespace {
 
+constexpr CGFloat kFocusMargin = 6; // shown above and below what has the focus
+
 enum class Key { Other, Confirm, Dismiss, Help };
 
 Key keyOf(NSEvent *event) {
@@ -123,6 +125,15 @@ bool canBeReached(NSView *control) {
     controlKeys = new std::vector<ControlKey>;
   NSString *const lower = [imageposition::toString(letter) lowercaseString];
   controlKeys->push_back({imageposition::toText(lower), control});
+}
+
+// What has the focus is seen, also in something that scrolls.
+- (BOOL)makeFirstResponder:(NSResponder *)responder {
+  const BOOL isTaken = [super makeFirstResponder:responder];
+  NSView *const view = [self focusedView];
+  if (isTaken && view != nil && [view window] == self)
+    [view scrollRectToVisible:NSInsetRect([view bounds], 0, -kFocusMargin)];
+  return isTaken;
 }
 
 - (NSView *)focusedView {

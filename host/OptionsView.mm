@@ -37,7 +37,6 @@ std::string shapeOf(const std::vector<OptionGroup> &groups) {
   return shape;
 }
 
-/// A pop-up that is scrolled into sight when Tab reaches it.
 void select(const OptionsViewRow &row, const PrinterOption &option) {
   const auto chosen = std::find(row.choices.begin(), row.choices.end(), option.chosen);
   [row.popUp selectItemAtIndex:chosen == row.choices.end() ? -1 : chosen - row.choices.begin()];
@@ -56,18 +55,6 @@ void select(const OptionsViewRow &row, const PrinterOption &option) {
 
 - (BOOL)isFlipped {
   return YES;
-}
-
-@end
-
-@interface OptionPopUp : NSPopUpButton
-@end
-
-@implementation OptionPopUp
-
-- (BOOL)becomeFirstResponder {
-  [self scrollRectToVisible:NSInsetRect([self bounds], 0, -kRowGap)];
-  return [super becomeFirstResponder];
 }
 
 @end
@@ -104,7 +91,8 @@ void select(const OptionsViewRow &row, const PrinterOption &option) {
 }
 
 - (NSPopUpButton *)popUpFor:(const PrinterOption &)option frame:(NSRect)frame {
-  NSPopUpButton *const popUp = [[[OptionPopUp alloc] initWithFrame:frame pullsDown:NO] autorelease];
+  NSPopUpButton *const popUp = [[[NSPopUpButton alloc] initWithFrame:frame
+                                                           pullsDown:NO] autorelease];
   OptionsViewRow row{option.keyword, {}, popUp};
   for (const OptionChoice &choice : option.choices) {
     [[popUp menu] addItemWithTitle:toString(choice.text) action:NULL keyEquivalent:@""];

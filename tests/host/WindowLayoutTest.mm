@@ -19,12 +19,16 @@ namespace {
 
 constexpr CGFloat kArrowsOfPopUp = 30;
 
-class WindowLayout : public testing::Test {
+const NSSize kWide = {2000, 1200};
+const NSSize kLargeTextOnSmallScreen = {848, 656}; // points, of 1280 by 1024 pixels at 1.5
+const NSSize kSmallScreen = {1016, 728};
+
+class WindowLayout : public testing::TestWithParam<NSSize> {
 protected:
   void SetUp() override {
     const auto wanted = wantedLanguages(std::getenv);
     speak(chosenLanguage(wanted, IMAGEPOSITION_CATALOGUES), IMAGEPOSITION_CATALOGUES);
-    views_ = buildDialog(NSMakeSize(560, 220), "report.pdf", DialogActions{});
+    views_ = buildDialog(NSMakeSize(560, 247), GetParam(), "report.pdf", DialogActions{});
     fill(views_.printers, {messages::kSaveAsTicket});
     fill(views_.presets, {messages::kNoPresetChosen, messages::kSavePreset, messages::kRenamePreset,
                           messages::kDeletePreset});
@@ -50,7 +54,7 @@ protected:
   DialogViews views_{};
 };
 
-TEST_F(WindowLayout, ClipsNoTitle) {
+TEST_P(WindowLayout, ClipsNoTitle) {
   for (NSUInteger i = 0; i < [placed() count]; i++) {
     NSView *const view = [placed() objectAtIndex:i];
     if (![view isKindOfClass:[NSControl class]] || [view isKindOfClass:[NSPopUpButton class]] ||
@@ -62,7 +66,7 @@ TEST_F(WindowLayout, ClipsNoTitle) {
   }
 }
 
-TEST_F(WindowLayout, ClipsNoChoiceOfItsPopUps) {
+TEST_P(WindowLayout, ClipsNoChoiceOfItsPopUps) {
   NSFont *const font = [views_.pages font];
   for (NSPopUpButton *const popUp :
        {views_.printers, views_.presets, views_.pages, views_.twoSided, views_.panes})
@@ -72,7 +76,7 @@ TEST_F(WindowLayout, ClipsNoChoiceOfItsPopUps) {
     }
 }
 
-TEST_F(WindowLayout, PutsNothingOnTopOfAnother) {
+TEST_P(WindowLayout, PutsNothingOnTopOfAnother) {
   for (NSUInteger i = 0; i < [placed() count]; i++) {
     NSView *const one = [placed() objectAtIndex:i];
     EXPECT_TRUE(NSContainsRect([[views_.window contentView] bounds], [one frame]))
@@ -85,7 +89,7 @@ TEST_F(WindowLayout, PutsNothingOnTopOfAnother) {
   }
 }
 
-TEST_F(WindowLayout, HasRoomForTheWordsOfThePicture) {
+TEST_P(WindowLayout, HasRoomForTheWordsOfThePicture) {
   const NSSize size = [PreviewView preferredSize];
   PreviewRequest request;
   request.page = {{595}, {842}, {{12}, {12}, {583}, {830}}, true, true};
@@ -117,4 +121,38 @@ TEST_F(WindowLayout, HasRoomForTheWordsOfThePicture) {
     EXPECT_LE(widthOf(words, previewFont()), layout.relation.width) << words;
 }
 
+TEST_P(WindowLayout, IsNoLargerThanItsRoom) {
+  const NSSize size = [[views_.window contentView] frame].size;
+  EXPECT_LE(size.width, GetParam().width);
+  EXPECT_LE(size.height, GetParam().height);
+}
+
+TEST_P(WindowLayout, LeavesMuchOfAPanelInSight) {
+  EXPECT_GE(NSHeight([views_.paneArea frame]), 160);
+}
+
+TEST_P(WindowLayout, ScrollsAPaneThatIsHigherThanItsAreaToTheControlWithTheFocus) {
+  NSView *const pane = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, 500, 800)] autorelease];
+  NSTextField *const lowest =
+      [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 10, 80, 22)] autorelease];
+  NSTextField *const highest =
+      [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 768, 80, 22)] autorelease];
+  [pane addSubview:lowest];
+  [pane addSubview:highest];
+  showInPaneArea(views_, pane);
+  for (int twice = 0; twice < 2; twice++, showInPaneArea(views_, pane)) {
+    EXPECT_EQ([[views_.paneArea subviews] count], 1u);
+    [views_.window makeFirstResponder:highest];
+    EXPECT_TRUE(NSContainsRect([pane visibleRect], [highest frame]));
+    EXPECT_FALSE(NSIntersectsRect([pane visibleRect], [lowest frame]));
+    [views_.window makeFirstResponder:lowest];
+    EXPECT_TRUE(NSContainsRect([pane visibleRect], [lowest frame]));
+  }
+  EXPECT_EQ([views_.panes nextKeyView], highest);
+}
+
 } // namespace
+
+INSTANTIATE_TEST_SUITE_P(Wide, WindowLayout, testing::Values(kWide));
+INSTANTIATE_TEST_SUITE_P(LargeText, WindowLayout, testing::Values(kLargeTextOnSmallScreen));
+INSTANTIATE_TEST_SUITE_P(SmallScreen, WindowLayout, testing::Values(kSmallScreen));
