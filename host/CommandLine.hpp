@@ -24,10 +24,10 @@ struct Arguments {
   std::string ticket;
   std::vector<std::string> documents; ///< "-" stands for standard input, at most once.
   std::string title;
-  std::string appearance;    ///< "light" or "dark".
-  std::string textScale;     ///< A number above 0.
-  bool isMailWanted = false; ///< When the job is done.
-  bool isSilent = false;     ///< Nothing is said of what went well.
+  std::string appearance;        ///< "light" or "dark".
+  std::string textScale;         ///< A number above 0.
+  bool isMailWanted = false;     ///< When the job is done.
+  bool isSilent = false;         ///< Nothing is said of what went well.
   bool isListingOptions = false; ///< Of the printer, with their choices; nothing is printed.
   bool isDryRun = false;
   bool isBatch = false;
