@@ -119,6 +119,14 @@ Pixel PreviewLayout::gridCentre() const noexcept {
   return {std::floor(grid.x + grid.width / 2), std::floor(grid.y + grid.height / 2)};
 }
 
+int PreviewLayout::squaresPerNumber(double width) const noexcept {
+  constexpr double kGap = 6;
+  int squares = 2;
+  while (squarePixels > 0 && squares * squarePixels < width + kGap)
+    squares += 2;
+  return squares;
+}
+
 Pixel PreviewLayout::mark(const Offset &offset) const noexcept {
   const double pixels = squarePixels / static_cast<double>(squareLength.count);
   const Pixel centre = gridCentre();

@@ -58,6 +58,9 @@ struct PreviewLayout {
   TenthMillimetre squareLength; ///< ... and on paper. Grows in steps with the offsets.
 
   Pixel gridCentre() const noexcept;
+  /// From one number on the axes to the next: an even count, so that numbers of that width stay
+  /// apart.
+  int squaresPerNumber(double width) const noexcept;
   /// Where a mark that is moved by `offset` is drawn.
   Pixel mark(const Offset &offset) const noexcept;
   PixelRectangle onPage(Place place, const PageRectangle &rectangle) const noexcept;

@@ -34,7 +34,7 @@ void drawGridLines(const PreviewLayout &layout) {
   strokeLine({grid.x, crisp(centre.y)}, {grid.right(), crisp(centre.y)});
 }
 
-/// Millimetres along both axes, at every other square.
+/// Millimetres along both axes, at every other square or less often.
 void drawScale(const PreviewLayout &layout) {
   const PixelRectangle &grid = layout.grid;
   const Pixel centre = layout.gridCentre();
@@ -42,7 +42,14 @@ void drawScale(const PreviewLayout &layout) {
   const auto label = [&](int squares) {
     return numberText({std::abs(squares) * layout.squareLength.count});
   };
-  for (int squares = 2; squares * layout.squarePixels < grid.width / 2 - line; squares += 2) {
+  if (layout.squarePixels <= 0)
+    return;
+  double widest = 0;
+  for (int squares = 2; squares * layout.squarePixels < grid.width / 2 - line; squares += 2)
+    widest = std::max(widest, widthOf(label(squares), previewFont()));
+  const int every = layout.squaresPerNumber(widest);
+  for (int squares = every; squares * layout.squarePixels < grid.width / 2 - line;
+       squares += every) {
     for (const int signedSquares : {-squares, squares}) {
       const double at = signedSquares * layout.squarePixels;
       drawLine(label(squares), {centre.x + at, centre.y + 1, 0, line}, previewFont(),

@@ -101,6 +101,17 @@ TEST(PreviewLayout, MarksAreMovedBySquares) {
   EXPECT_DOUBLE_EQ(mark.y - centre.y, -layout.squarePixels);
 }
 
+TEST(PreviewLayout, NumbersOnTheAxesStayApartHoweverSmallTheSquares) {
+  for (const double height : {130.0, 200.0, 288.0, 364.0}) {
+    const PreviewLayout layout = layOutPreview(previewOf({{5}, {5}}, {}), {338, height, 13});
+    for (const double width : {4.0, 16.0, 25.0}) {
+      const int squares = layout.squaresPerNumber(width);
+      EXPECT_EQ(squares % 2, 0);
+      EXPECT_TRUE(layout.squarePixels == 0 || squares * layout.squarePixels > width + 5) << height;
+    }
+  }
+}
+
 TEST(PreviewLayout, ATinyPictureHasNoPlacesOfNegativeSize) {
   for (const double side : {0.0, 1.0, 20.0, 60.0, 120.0}) {
     const PreviewLayout layout = layOutPreview(previewOf({{5}, {5}}, {}), {side, side, 13});

@@ -2,6 +2,7 @@
 #include "tests/host/WindowFixture.hpp"
 
 #include <csignal>
+#include <sstream>
 
 namespace {
 
@@ -275,6 +276,27 @@ TEST_F(QueueWindow, ASavedPresetIsOneThatCupsKnows) {
              cups->environment());
   EXPECT_THAT(result.output, HasSubstr("LeftRightMargin"));
   EXPECT_THAT(result.output, HasSubstr("-3"));
+}
+
+TEST_F(Window, WithLargeTextItIsNoLargerThanTheScreen) {
+  open("duplex-shift.ppd", {}, {"PRINT_DIALOG_TEXT_SCALE=1.5"});
+  const auto numbers = [](const std::string &text) {
+    std::istringstream stream(text);
+    std::pair<int, int> size;
+    stream >> size.first >> size.second;
+    return size;
+  };
+  const std::string told = runProcess({"xwininfo", "-name", "Print"}).output;
+  const auto valueOf = [&](const std::string &name) {
+    const std::size_t found = told.find(name + ":");
+    return found == std::string::npos ? -1 : std::stoi(told.substr(found + name.size() + 1));
+  };
+  const auto screen = numbers(runProcess({"xdotool", "getdisplaygeometry"}).output);
+  EXPECT_GT(valueOf("Width"), 900) << told; // it is large
+  EXPECT_GE(valueOf("upper-left X"), 0);
+  EXPECT_GE(valueOf("upper-left Y"), 0);
+  EXPECT_LE(valueOf("upper-left X") + valueOf("Width"), screen.first);
+  EXPECT_LE(valueOf("upper-left Y") + valueOf("Height"), screen.second);
 }
 
 } // namespace
