@@ -26,6 +26,7 @@ test_packages=(
   x11-xkb-utils procps                              # its keyboard; which programs run
   man-db mandoc desktop-file-utils                  # check the man page and the desktop file
   zsh python3                                       # completion, in the real shells
+  strace util-linux                                 # kill at each system call; run as somebody else
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
   cups-filters hp-ppd foomatic-db-compressed-ppds   # printer descriptions that others wrote
 )

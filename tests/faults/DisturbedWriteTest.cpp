@@ -1,0 +1,175 @@
+// Programs that are killed, or whose disk fails, at each step of writing a file.
+#include "tests/host/DialogFixture.hpp"
+
+#include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace imageposition::test;
+using testing::AnyOf;
+using testing::HasSubstr;
+
+/// What changes anything on the disk, one kind after the other: strace counts each kind for itself.
+constexpr const char *kCalls[] = {"write", "fsync",  "fchmod", "rename",
+                                  "flock", "unlink", "mkdir",  "ftruncate"};
+
+class DisturbedWrite : public DialogFixture {
+protected:
+  /// As it was, as it is to be.
+  struct File {
+    std::string path;
+    std::string before;
+    std::string after;
+  };
+
+  /// Runs the program once for each of its calls, with that one disturbed; how often that was.
+  int disturbEach(const std::string &how, const Words &program, const Words &environment,
+                  std::vector<File> files) {
+    for (const File &file : files)
+      writeFile(file.path, file.before);
+    EXPECT_EQ(runProcess(program, environment).status, kDone);
+    for (File &file : files)
+      file.after = contentOf(file.path);
+    int times = 0;
+    for (const std::string call : kCalls)
+      for (int count = 1; disturb(call, how, count, program, environment, files); count++)
+        times++;
+    return times;
+  }
+
+  /// Whether there was such a call.
+  bool disturb(const std::string &call, const std::string &how, int count, const Words &program,
+               const Words &environment, const std::vector<File> &files) {
+    for (const File &file : files)
+      writeFile(file.path, file.before);
+    Words words{"strace", "-qq",
+                "-o",     folder.path("trace"),
+                "-e",     "trace=" + call,
+                "-e",     "inject=" + call + ":" + how + ":when=" + std::to_string(count)};
+    words.insert(words.end(), program.begin(), program.end());
+    const auto result = runProcess(words, environment);
+    for (const File &file : files)
+      EXPECT_THAT(contentOf(file.path), AnyOf(file.before, file.after))
+          << call << " " << count << ": " << file.path;
+    const std::string trace = contentOf(folder.path("trace"));
+    expectClear(result, count);
+    return trace.find("INJECTED") != std::string::npos ||
+           trace.find("killed by SIGKILL") != std::string::npos;
+  }
+
+  static void expectClear(const ProcessResult &result, int call) {
+    if (result.status == 128 + SIGKILL)
+      return;
+    EXPECT_LT(result.status, 128) << call << ": " << testing::PrintToString(result);
+  }
+
+  static void writeFile(const std::string &path, const std::string &content) {
+    std::ofstream(path, std::ios::binary) << content;
+  }
+
+  Words ticketWriter() const {
+    return {PRINT_DIALOG, "--batch", "--ppd", sample("duplex-shift.ppd"),
+            "--ticket",   ticket,    "--set", "FrontLRM=-3"};
+  }
+  std::vector<File> ticketFiles() const {
+    return {{ticket, R"({"settings": {"LeftRightMargin": "9", "Foreign": "kept"}})", ""},
+            {folder.path("job.options"), "Foreign=kept\n", ""}};
+  }
+
+  Words presetEnvironment() const {
+    return {"HOME=" + folder.path("home"), "CUPS_SERVERROOT=" + folder.path("home/.cups")};
+  }
+  std::vector<File> presetFiles() {
+    std::filesystem::create_directories(folder.path("home/.cups"));
+    return {{folder.path("home/.cups/lpoptions"),
+             "Default office Duplex=None\nDest office/mine Duplex=DuplexTumble\n# kept\n", ""}};
+  }
+  const Words presetWriter{PRESET_WRITER, "office", "other", "Duplex=DuplexNoTumble"};
+  const std::string ticket = folder.path("job.json");
+};
+
+TEST_F(DisturbedWrite, KillingTheProgramAtAnyMomentLeavesTicketsWhole) {
+  const int times = disturbEach("signal=SIGKILL", ticketWriter(), {}, ticketFiles());
+  EXPECT_GE(times, 10); // two files, each written, made safe, put in its place, and that made safe
+  RecordProperty("times", times);
+}
+
+TEST_F(DisturbedWrite, KillingTheProgramAtAnyMomentLosesNoPreset) {
+  const int times = disturbEach("signal=SIGKILL", presetWriter, presetEnvironment(), presetFiles());
+  EXPECT_GE(times, 7);
+  EXPECT_THAT(contentOf(folder.path("home/.cups/lpoptions")),
+              testing::AllOf(HasSubstr("Dest office/mine Duplex=DuplexTumble\n"),
+                             HasSubstr("Dest office/other Duplex=DuplexNoTumble\n"),
+                             HasSubstr("# kept\n")));
+  RecordProperty("times", times);
+}
+
+TEST_F(DisturbedWrite, ADiskThatIsFullOrFailsAtAnyStepLeavesTicketsWhole) {
+  for (const char *error : {"ENOSPC", "EIO"}) {
+    SCOPED_TRACE(error);
+    EXPECT_GE(disturbEach(std::string("error=") + error, ticketWriter(), {}, ticketFiles()), 10);
+  }
+}
+
+TEST_F(DisturbedWrite, ADiskThatIsFullOrFailsAtAnyStepLosesNoPreset) {
+  for (const char *error : {"ENOSPC", "EIO", "EDQUOT", "EROFS"}) {
+    SCOPED_TRACE(error);
+    EXPECT_GE(disturbEach(std::string("error=") + error, presetWriter, presetEnvironment(),
+                          presetFiles()),
+              7);
+  }
+}
+
+/// As somebody who is not root, to whom no right is given for the asking.
+class WithoutRights : public DisturbedWrite {
+protected:
+  static Words asAnybody(Words program) {
+    if (geteuid() == 0)
+      program.insert(program.begin(),
+                     {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"});
+    return program;
+  }
+};
+
+TEST_F(WithoutRights, ATicketInAFolderThatCannotBeWrittenIsNamedAndStays) {
+  const std::vector<File> files = ticketFiles();
+  for (const File &file : files)
+    writeFile(file.path, file.before);
+  chmod(folder.path().c_str(), 0555);
+  const auto result = runProcess(asAnybody(ticketWriter()));
+  chmod(folder.path().c_str(), 0755);
+  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, HasSubstr("job.json\""));
+  EXPECT_THAT(result.errors, HasSubstr("Permission denied"));
+  for (const File &file : files)
+    EXPECT_EQ(contentOf(file.path), file.before);
+  EXPECT_EQ(folder.fileCount(), 2u);
+}
+
+TEST_F(WithoutRights, ATicketThatCannotBeReadIsNamedAndStays) {
+  const std::vector<File> files = ticketFiles();
+  for (const File &file : files)
+    writeFile(file.path, file.before);
+  chmod(folder.path().c_str(), 0777);
+  chmod(ticket.c_str(), geteuid() == 0 ? 0600 : 0000);
+  const auto result = runProcess(asAnybody(ticketWriter()));
+  chmod(ticket.c_str(), 0600);
+  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, HasSubstr("job.json\""));
+  EXPECT_EQ(contentOf(ticket), files.front().before);
+}
+
+TEST_F(WithoutRights, PresetsThatCannotBeWrittenAreNamedAndStay) {
+  const File file = presetFiles().front();
+  writeFile(file.path, file.before);
+  chmod(folder.path("home/.cups").c_str(), 0555);
+  const auto result = runProcess(asAnybody(presetWriter), presetEnvironment());
+  chmod(folder.path("home/.cups").c_str(), 0755);
+  EXPECT_EQ(result.status, kPrinter) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, HasSubstr("lpoptions"));
+  EXPECT_EQ(contentOf(file.path), file.before);
+}
+
+} // namespace

@@ -1,0 +1,62 @@
+// Another's panel that raises, in the window; without one see PluginLoadingTest.
+#include "tests/host/WindowFixture.hpp"
+
+namespace {
+
+using namespace imageposition::test;
+using testing::HasSubstr;
+using testing::Not;
+
+class RaisingPanel : public Window {
+protected:
+  void openBoth(const std::string &behaviour) {
+    open("duplex-shift.ppd", {"--plugin", FIXTURE_PLUGIN, "--plugin", IMAGE_POSITION_PLUGIN},
+         {"FIXTURE_BEHAVIOUR=" + behaviour, "FIXTURE_JOURNAL=" + journal});
+  }
+
+  /// The one that raised is named, and the job still goes with the other one's panel.
+  void expectLeftOut(const std::string &operation) {
+    ASSERT_TRUE(says("failed in \"" + operation + "\"")) << dialogProcess->errorsSoFar();
+    EXPECT_THAT(dialogProcess->errorsSoFar(), HasSubstr("Fixture.plugin\""));
+    EXPECT_THAT(dialogProcess->errorsSoFar(), HasSubstr("on demand"));
+    if (!dialogProcess->hasEnded())
+      press({"Return"});
+    EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+    EXPECT_EQ(printed().count("LeftRightMargin"), 1u);
+  }
+};
+
+TEST_F(RaisingPanel, IsLeftOutWhereItIsLoaded) {
+  for (const char *how : {"raise ", "throw "})
+    for (const char *operation : {"initWithBundle:", "PDEPanelsForType:withHostInfo:", "panelKind",
+                                  "panelName", "supportedPPDOptionKeys", "panelView", "willShow"}) {
+      SCOPED_TRACE(std::string(how) + operation);
+      openBoth(std::string(how) + operation);
+      expectLeftOut(operation);
+    }
+}
+
+TEST_F(RaisingPanel, IsLeftOutWhereItPrints) {
+  for (const char *how : {"raise ", "throw "})
+    for (const char *operation : {"shouldPrint", "saveValuesAndReturnError:"}) {
+      SCOPED_TRACE(std::string(how) + operation);
+      openBoth(std::string(how) + operation);
+      press({"Return"});
+      expectLeftOut(operation);
+    }
+}
+
+TEST_F(RaisingPanel, IsLeftOutWhereItIsSummedUp) {
+  openBoth("raise summaryInfo");
+  goTo(kPanes);
+  press({"space", "Down", "Down", "Down", "Return"});
+  expectLeftOut("summaryInfo");
+}
+
+TEST_F(RaisingPanel, DoesNotKeepAnybodyFromCancelling) {
+  openBoth("raise restoreValuesAndReturnError:");
+  press({"Escape"});
+  EXPECT_EQ(ended().status, kCancelled) << testing::PrintToString(ended());
+}
+
+} // namespace
