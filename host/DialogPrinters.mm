@@ -21,11 +21,6 @@ std::string titleOf(const Destination &destination) {
              : destination.description + " (" + name + ")";
 }
 
-/// An open menu keeps its items: it shows only a part of others that are put in their place.
-bool isMenuOpen() {
-  return [[[NSRunLoop currentRunLoop] currentMode] isEqualToString:NSEventTrackingRunLoopMode];
-}
-
 } // namespace
 
 @interface DialogController (PrintersInside)
@@ -56,7 +51,7 @@ bool isMenuOpen() {
 - (void)tick:(NSTimer *)timer {
   (void)timer;
   [self lookAfterSending];
-  if (!isMenuOpen() && state->destinations.takeAnswer())
+  if (state->destinations.takeAnswer())
     [self listPrinters];
   if (++state->ticks % kTicksBetweenQuestions == 0)
     state->destinations.refresh();
