@@ -18,8 +18,8 @@ struct PluginNames {
 /// What the person names is used alone, whether or not it exists, so that a mistake is reported.
 /// Else each of the printer's paths stands for the bundle of the same file name in the first folder
 /// that has one: a description comes from a server, which must not choose what code runs here, and
-/// its maker wrote the path for another system. Where nothing was named or found, all bundles of the first folder that has any are
-/// used.
+/// its maker wrote the path for another system. Where nothing was named or found, all bundles of
+/// the first folder that has any are used.
 std::vector<std::string> findPlugins(const PluginNames &names,
                                      const std::vector<std::string> &folders);
 
