@@ -90,6 +90,7 @@ TEST(PrinterDescription, AFileThatIsNoPpdIsNamedWithItsLine) {
 
 TEST(PrinterDescription, ACupsThatIsNotRunningIsNamedWithWhatToDo) {
   setenv("CUPS_SERVER", "/nonexistent/cups.sock", 1);
+  cupsSetServer(nullptr); // it may have been read before
   try {
     PrinterDescription::ofQueue("no-such-queue/draft");
     FAIL() << "was opened";
