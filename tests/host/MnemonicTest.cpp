@@ -13,6 +13,14 @@ struct Row {
   std::size_t keyAt;
 };
 
+void expectRead(const Row &row) {
+  SCOPED_TRACE(row.marked);
+  const MnemonicText mnemonic = readMnemonic(row.marked);
+  EXPECT_EQ(mnemonic.text, row.text);
+  EXPECT_EQ(mnemonic.key, row.key);
+  EXPECT_EQ(mnemonic.keyAt, row.keyAt);
+}
+
 TEST(Mnemonic, TheMarkerStandsBeforeItsLetterAndIsNotShown) {
   const Row rows[] = {
       {"&Printer:", "Printer:", "P", 0},
@@ -28,13 +36,8 @@ TEST(Mnemonic, TheMarkerStandsBeforeItsLetterAndIsNotShown) {
        "\xC3\xA9", 9},
       {"&Пресет", "Пресет", "П", 0},
   };
-  for (const Row &row : rows) {
-    SCOPED_TRACE(row.marked);
-    const MnemonicText mnemonic = readMnemonic(row.marked);
-    EXPECT_EQ(mnemonic.text, row.text);
-    EXPECT_EQ(mnemonic.key, row.key);
-    EXPECT_EQ(mnemonic.keyAt, row.keyAt);
-  }
+  for (const Row &row : rows)
+    expectRead(row);
 }
 
 TEST(Mnemonic, AnAmpersandIsWrittenTwiceOrWithNoLetterBehindIt) {
@@ -48,13 +51,8 @@ TEST(Mnemonic, AnAmpersandIsWrittenTwiceOrWithNoLetterBehindIt) {
       {"&:", "&:", "", 0},
       {"&\xC3", "&\xC3", "", 0},
   };
-  for (const Row &row : rows) {
-    SCOPED_TRACE(row.marked);
-    const MnemonicText mnemonic = readMnemonic(row.marked);
-    EXPECT_EQ(mnemonic.text, row.text);
-    EXPECT_EQ(mnemonic.key, row.key);
-    EXPECT_EQ(mnemonic.keyAt, row.keyAt);
-  }
+  for (const Row &row : rows)
+    expectRead(row);
 }
 
 TEST(Mnemonic, TheFirstOfSeveralMarkersCountsAndNoneIsShown) {
