@@ -1,14 +1,17 @@
-/// Counts the objects of a class that are alive.
+/// Counts the objects that are alive, by class.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_LIVEOBJECTS_H
 #define IMAGEPOSITION_TESTS_SUPPORT_LIVEOBJECTS_H
 
 #import <Foundation/Foundation.h>
+#include <objc/runtime.h>
 
+#include <map>
 #include <string>
 
 // The platform hides its own bookkeeping from optimised builds, which still have it.
 extern "C" BOOL GSDebugAllocationActive(BOOL active);
 extern "C" int GSDebugAllocationCount(Class type);
+extern "C" Class *GSDebugAllocationClassList();
 
 namespace imageposition::test {
 
@@ -24,6 +27,15 @@ public:
   static int count(Class type) { return GSDebugAllocationCount(type); }
   static int count(const std::string &name) {
     return GSDebugAllocationCount(NSClassFromString([NSString stringWithUTF8String:name.c_str()]));
+  }
+  /// By the name of the class, of all that had objects since counting began.
+  static std::map<std::string, int> counts() {
+    std::map<std::string, int> result;
+    Class *const types = GSDebugAllocationClassList();
+    for (Class *type = types; *type != Nil; ++type)
+      result[class_getName(*type)] = GSDebugAllocationCount(*type);
+    NSZoneFree(NSDefaultMallocZone(), types);
+    return result;
   }
 
 private:
