@@ -6,6 +6,7 @@
 #import "host/Guard.h"
 #include "host/Messages.hpp"
 #import "host/QuickStart.h"
+#import "host/Replaced.h"
 #import "host/Theme.h"
 
 #import <AppKit/AppKit.h>
@@ -22,6 +23,17 @@ void leaveOutImageLoaders() {
   const Class magick = NSClassFromString(@"GSImageMagickImageRep");
   if (magick != Nil)
     [NSImageRep unregisterImageRepClass:magick];
+}
+
+/// The name the program was started with.
+NSArray *firstArgument(NSProcessInfo *process, SEL) {
+  return [NSArray arrayWithObject:[process processName]];
+}
+
+/// The platform would open a document that is named first, and say that this program opens none. It
+/// has read its own defaults among the arguments before.
+void hideDocuments() {
+  Replaced::objectOperation([NSProcessInfo class], @selector(arguments)).by(firstArgument);
 }
 
 /// The platform turns these signals into a wish to quit that a modal dialog never hears. Nothing
@@ -44,6 +56,7 @@ void setPlatformDefaults() {
 void startApplication() {
   const Surroundings surroundings = readSurroundings();
   setTextScale(chosenTextScale(surroundings));
+  hideDocuments();
   leaveOutImageLoaders();
   leaveOutNotificationDaemon();
   chooseFontsForLanguage();

@@ -78,6 +78,10 @@ TEST_F(Start, NoOtherProgramIsStarted) {
   EXPECT_EQ(mine.output, "");
 }
 
+TEST_F(Start, ADocumentThatIsNamedBeforeAllElseIsTheDialogsToPrint) {
+  start({sample("two-sided.pdf"), "--ppd", sample("duplex-shift.ppd"), "--ticket", ticket}, {});
+}
+
 TEST_F(Start, WithoutAWindowManagerTheWindowStandsInTheMiddle) {
   Process server({"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
   std::string display;
