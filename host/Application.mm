@@ -18,11 +18,16 @@ namespace imageposition {
 
 namespace {
 
-/// Loading ImageMagick takes longer than showing the dialog, which has no image that needs it.
+id doNothing(id, SEL, ...) { return nil; }
+
+/// Loading ImageMagick takes longer than showing the dialog, which has no image that needs it. The
+/// platform asks for the class as soon as it deals with images.
 void leaveOutImageLoaders() {
   const Class magick = NSClassFromString(@"GSImageMagickImageRep");
-  if (magick != Nil)
-    [NSImageRep unregisterImageRepClass:magick];
+  if (magick == Nil)
+    return;
+  Replaced::classOperation(magick, @selector(initialize)).by(doNothing);
+  [NSImageRep unregisterImageRepClass:magick];
 }
 
 /// The name the program was started with.

@@ -144,11 +144,28 @@ void drawButtonImage(id cell, SEL operation, NSImage *image, NSRect frame, NSVie
     drawMenuMark(cell, frame, view, picture == Picture::PopUp);
 }
 
+/// Has their names and sizes, in place of the platform's own images, which are never seen here: to
+/// read those, the libraries of three image formats would be needed.
+void putBlankImages() {
+  static const struct {
+    NSString *name;
+    NSSize size;
+  } kImages[] = {{@"GSSwitch", {15, 15}}, {@"GSSwitchSelected", {15, 15}},
+                 {@"GSRadio", {16, 16}}, {@"GSRadioSelected", {16, 16}},
+                 {@"common_Nibble", {11, 8}}, {@"common_3DArrowDown", {7, 7}}};
+  for (const auto &[name, size] : kImages) {
+    NSImage *const blank = [[NSImage alloc] initWithSize:size];
+    (void)[blank setName:name];
+    [blank release]; // it is kept by its name
+  }
+}
+
 } // namespace
 
 void replacePlatformDrawing() {
   if (textFieldColor != nullptr)
     return;
+  putBlankImages();
   textFieldColor = replace([NSTextFieldCell class], @selector(textColor), meantColor);
   fieldGround = replace([NSTextFieldCell class],
                         sel_registerName("_drawBackgroundWithFrame:inView:"), drawFieldGround);
