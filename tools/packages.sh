@@ -24,7 +24,7 @@ test_packages=(
   clang-format clang-tidy cppcheck shellcheck       # style, and faults that can be read
   xdotool xclip imagemagick x11-utils libxtst-dev   # a person at the window
   x11-xkb-utils procps                              # its keyboard; which programs run
-  man-db mandoc desktop-file-utils                  # check the man page and the desktop file
+  man-db mandoc desktop-file-utils libxml2-utils    # check the man page, the desktop file, and XML
   zsh python3                                       # completion, in the real shells
   strace util-linux                                 # kill at each system call; run as somebody else
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask

@@ -29,7 +29,7 @@ std::vector<Record> indexedRecords(const std::string &name);
 const std::vector<std::string> &languages();
 
 /// The texts of a language by their keys, in the order of the file; throws when the file is not
-/// UTF-8 behind a byte order mark, or not a strings file.
+/// UTF-8 behind a byte order mark, not a strings file, or has a key twice.
 std::vector<std::pair<std::string, std::string>> orderedTexts(const std::string &language);
 std::map<std::string, std::string> texts(const std::string &language);
 

@@ -1,10 +1,10 @@
 #import "tests/resources/ResourceFiles.h"
 
+#include "tests/resources/TextEntries.hpp"
 #import "tests/support/Text.h"
 
 #include <fstream>
 #include <iterator>
-#include <regex>
 #include <sstream>
 #include <stdexcept>
 
@@ -70,21 +70,13 @@ std::vector<std::pair<std::string, std::string>> orderedTexts(const std::string 
   const std::string bytes = fileBytes(resourcePath(name));
   if (bytes.compare(0, 3, kByteOrderMark) != 0)
     throw std::runtime_error(name + " does not begin with a byte order mark");
-  NSString *text = [NSString stringWithUTF8String:bytes.c_str() + 3];
-  if (text == nil)
+  if ([NSString stringWithUTF8String:bytes.c_str() + 3] == nil)
     throw std::runtime_error(name + " is not UTF-8");
-  NSDictionary *parsed = [text propertyListFromStringsFileFormat];
-
-  // The dictionary has lost the order and whatever came twice.
-  std::vector<std::pair<std::string, std::string>> result;
-  const std::regex line("(?:^|\n)\"([A-Za-z]+)\" = \"");
-  for (std::sregex_iterator match(bytes.begin(), bytes.end(), line), end; match != end; ++match) {
-    const std::string key = (*match)[1];
-    result.emplace_back(key, cxxString([parsed objectForKey:nsString(key)]));
+  try {
+    return stringsEntries(std::string_view(bytes).substr(3));
+  } catch (const std::runtime_error &fault) {
+    throw std::runtime_error(name + ", " + fault.what());
   }
-  if (result.size() < [parsed count])
-    throw std::runtime_error(name + " has a key that is not of letters, or not on its own line");
-  return result;
 }
 
 std::map<std::string, std::string> texts(const std::string &language) {

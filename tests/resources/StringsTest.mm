@@ -85,8 +85,6 @@ TEST_P(Strings, HasEveryKeyInUseAndNoOther) {
   EXPECT_EQ(keys, keysInUse());
 }
 
-TEST_P(Strings, NoKeyComesTwice) { EXPECT_EQ(orderedTexts(GetParam()).size(), texts_.size()); }
-
 TEST_P(Strings, KeysStandInTheSameOrderAsInEnglish) {
   std::vector<std::string> keys, english;
   for (const auto &[key, text] : orderedTexts(GetParam()))

@@ -1,0 +1,114 @@
+#import "tests/resources/PropertyListForm.h"
+
+#import "tests/support/Text.h"
+
+#include <regex>
+#include <set>
+
+namespace imageposition::test {
+namespace {
+
+constexpr const char kBeginning[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                    "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                                    "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                                    "<plist version=\"1.0\">\n";
+
+using Nodes = std::vector<NSXMLNode *>;
+
+const std::set<std::string> kLeaves = {"string", "integer", "real", "date", "data", "key"};
+const std::set<std::string> kMarks = {"true", "false"};
+
+/// Collects the faults of one document.
+class Form {
+public:
+  /// `element` is a value: the one in the list, an entry's, an array's.
+  void lookAtValue(NSXMLElement *element) {
+    const std::string name = cxxString([element name]);
+    if ([[element attributes] count] > 0)
+      add("<" + name + "> has an attribute");
+    const Nodes children = elementsOf(element, kLeaves.count(name) > 0);
+    if (name == "dict")
+      lookAtDictionary(children);
+    else if (name == "array")
+      lookAtValues(children);
+    else if (kLeaves.count(name) + kMarks.count(name) == 0 || name == "key")
+      add("<" + name + "> is no value");
+    else if (!children.empty())
+      add("<" + name + "> has elements in it");
+  }
+
+  void lookAtValues(const Nodes &values) {
+    for (NSXMLNode *value : values)
+      lookAtValue(static_cast<NSXMLElement *>(value));
+  }
+
+  Nodes elementsOf(NSXMLElement *element, bool mayHaveText) {
+    Nodes elements;
+    NSArray *children = [element children];
+    for (NSUInteger i = 0; i < [children count]; i++) {
+      NSXMLNode *child = [children objectAtIndex:i];
+      if ([child kind] == NSXMLElementKind)
+        elements.push_back(child);
+      else if ([child kind] == NSXMLTextKind && !mayHaveText && !isBlank([child stringValue]))
+        add("text stands in <" + cxxString([element name]) + ">: " + cxxString(child));
+    }
+    return elements;
+  }
+
+  void add(const std::string &fault) { faults_.push_back(fault); }
+  std::vector<std::string> faults() const { return faults_; }
+
+private:
+  static bool isBlank(NSString *text) {
+    return [[text stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceAndNewlineCharacterSet]]
+               length] == 0;
+  }
+
+  void lookAtDictionary(const Nodes &children) {
+    std::set<std::string> keys;
+    for (std::size_t i = 0; i < children.size(); i += 2) {
+      const std::string key = cxxString([children[i] stringValue]);
+      if (cxxString([children[i] name]) != "key")
+        add("a dictionary has a value without a key: " + key);
+      else if (!keys.insert(key).second)
+        add("the key \"" + key + "\" comes twice in one dictionary");
+      if (i + 1 == children.size())
+        add("the key \"" + key + "\" has no value");
+      else
+        lookAtValue(static_cast<NSXMLElement *>(children[i + 1]));
+    }
+  }
+
+  std::vector<std::string> faults_;
+};
+
+} // namespace
+
+std::vector<std::string> propertyListFaults(const std::string &bytes) {
+  if (bytes.compare(0, sizeof kBeginning - 1, kBeginning) != 0)
+    return {"it does not begin as property lists do"};
+  static const std::regex kOtherEntity("&(?!(?:amp|lt|gt|quot|apos);)[^;]*;?");
+  std::smatch entity; // the platform's documents raise when they come to one
+  if (std::regex_search(bytes, entity, kOtherEntity))
+    return {"it has an entity of its own: " + entity.str()};
+  NSData *data = [NSData dataWithBytes:bytes.data() length:bytes.size()];
+  NSXMLDocument *document = [[[NSXMLDocument alloc] initWithData:data options:0
+                                                           error:NULL] autorelease];
+  if (document == nil)
+    return {"it is not well-formed"};
+  Form form;
+  const auto values = form.elementsOf([document rootElement], false);
+  if (values.size() != 1)
+    form.add("a property list is one value");
+  form.lookAtValues(values);
+  // The platform's reader raises at some of these faults.
+  if (form.faults().empty() &&
+      [NSPropertyListSerialization propertyListWithData:data
+                                                options:NSPropertyListImmutable
+                                                 format:NULL
+                                                  error:NULL] == nil)
+    form.add("the platform cannot read it");
+  return form.faults();
+}
+
+} // namespace imageposition::test
