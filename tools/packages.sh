@@ -28,6 +28,7 @@ test_packages=(
   zsh python3                                       # completion, in the real shells
   strace util-linux                                 # kill at each system call; run as somebody else
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
+  libpam-wrapper                                    # names and passwords of that CUPS's own
   cups-filters hp-ppd foomatic-db-compressed-ppds   # printer descriptions that others wrote
 )
 

@@ -1,6 +1,7 @@
 // What is set in the panel is what the printer's filter is given.
 #include "tests/host/WholeJob.hpp"
 
+#include <cstdlib>
 #include <deque>
 #include <memory>
 
@@ -8,7 +9,7 @@ namespace {
 
 using namespace imageposition::test;
 
-/// Each two of the four offsets and the checkbox meet in each pair of their values: 25 of 1250.
+/// Each two of the four offsets and the checkbox meet in each pair of their values: 25 of 650.
 std::vector<PanelValues> pairwise() {
   std::vector<PanelValues> rows;
   for (int a = 0; a < 5; a++)
@@ -32,6 +33,11 @@ std::vector<PanelValues> all() {
   return rows;
 }
 
+/// A window takes half a second and more, all of them some ten minutes.
+std::vector<PanelValues> forTheWindow() {
+  return std::getenv("IMAGEPOSITION_ALL_COMBINATIONS") != nullptr ? all() : pairwise();
+}
+
 class Combination : public WholeJob {
 protected:
   static Words batchWords(const PanelValues &values) {
@@ -44,8 +50,8 @@ protected:
   }
 };
 
-TEST_F(Combination, OfEveryTwoSettingsArrivesFromTheWindow) {
-  for (const PanelValues &values : pairwise()) {
+TEST_F(Combination, OfSettingsArrivesFromTheWindow) {
+  for (const PanelValues &values : forTheWindow()) {
     SCOPED_TRACE(testing::PrintToString(values));
     PrintWindow window(onQueue("office"));
     enter(window, values);

@@ -1,4 +1,5 @@
-// A CUPS that wants a password. It lets nobody in: its users are the machine's.
+// A CUPS that wants a password. Whom it lets in is written in a file: its users would be the
+// machine's otherwise.
 #include "tests/host/WindowFixture.hpp"
 
 #include <arpa/inet.h>
@@ -9,9 +10,9 @@ namespace {
 
 using namespace imageposition::test;
 
-constexpr char kPolicies[] =
-    "<Policy asking>\n<Limit Create-Job>\nAuthType Basic\nRequire user somebody\n</Limit>\n"
-    "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
+constexpr char kPolicies[] = "DefaultAuthType Basic\n<Policy asking>\n<Limit Create-Job>\nAuthType "
+                             "Basic\nRequire user somebody\n</Limit>\n"
+                             "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
 
 /// One that nobody listens on.
 std::string freePort() {
@@ -26,13 +27,27 @@ std::string freePort() {
   return std::to_string(ntohs(address.sin_port));
 }
 
+/// The names, passwords and services that the system knows, for programs that are started so.
+class KnownUsers {
+public:
+  KnownUsers() {
+    const std::string users = folder_.write("users", "somebody:open sesame:cups\n");
+    const std::string module = PAM_MATRIX " passdb=" + users + "\n";
+    folder_.write("services/cups", "auth required " + module + "account required " + module);
+  }
+  std::vector<std::string> environment() const {
+    return {"LD_PRELOAD=" PAM_WRAPPER, "PAM_WRAPPER=1",
+            "PAM_WRAPPER_SERVICE_DIR=" + folder_.path("services")};
+  }
+
+private:
+  TemporaryFolder folder_;
+};
+
 class PasswordWindow : public Window {
 protected:
   void SetUp() override {
-    ASSERT_TRUE(cups.isRunning()) << cups.log();
-    const auto added = cups.run({"lpadmin", "-p", "office", "-E", "-v", "file:///dev/null", "-P",
-                                 sample("duplex-shift.ppd"), "-o", "printer-op-policy=asking"});
-    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
+    addOfficeQueue(cups, {"-o", "printer-op-policy=asking"});
     // On a socket the system tells CUPS who it is, and no password is wanted.
     start({"-d", "office", sample("two-sided.pdf")},
           {"CUPS_SERVER=" + address, "CUPS_SERVERROOT=" + cups.root()});
@@ -44,7 +59,8 @@ protected:
   }
 
   const std::string address = "127.0.0.1:" + freePort();
-  PrivateCups cups{"Listen " + address + "\n" + kPolicies};
+  const KnownUsers users;
+  PrivateCups cups{"Listen " + address + "\n" + kPolicies, users.environment()};
 };
 
 TEST_F(PasswordWindow, CancelLeavesTheDialogOpenAndNothingPrinted) {
@@ -60,6 +76,32 @@ TEST_F(PasswordWindow, CancelLeavesTheDialogOpenAndNothingPrinted) {
   press({"Escape"});
   EXPECT_EQ(ended().status, kCancelled) << testing::PrintToString(ended());
   EXPECT_EQ(cups.run({"lpstat", "-W", "all", "-o"}).output, "");
+}
+
+TEST_F(PasswordWindow, TheRightNameAndPasswordPrint) {
+  ASSERT_TRUE(isAsked());
+  press({"shift+Tab", "ctrl+a"});
+  type("somebody");
+  press({"Tab"});
+  type("open sesame");
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_THAT(ended().output, testing::HasSubstr("request id is office-"));
+  EXPECT_THAT(cups.run({"lpstat", "-W", "all", "-o"}).output, testing::HasSubstr("somebody"));
+}
+
+TEST_F(PasswordWindow, TheRightPasswordAfterAWrongOnePrints) {
+  ASSERT_TRUE(isAsked());
+  press({"shift+Tab", "ctrl+a"});
+  type("somebody");
+  press({"Tab"});
+  type("wrong");
+  press({"Return"});
+  ASSERT_TRUE(becomesTrue([] { return isFocused("Wrong password"); }));
+  type("open sesame"); // the name is still there
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_THAT(cups.run({"lpstat", "-W", "all", "-o"}).output, testing::HasSubstr("office-"));
 }
 
 TEST_F(PasswordWindow, AWrongPasswordIsAskedForAgain) {

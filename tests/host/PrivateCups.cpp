@@ -8,7 +8,8 @@
 
 namespace imageposition::test {
 
-PrivateCups::PrivateCups(const std::string &policies) {
+PrivateCups::PrivateCups(const std::string &policies, std::vector<std::string> environment)
+    : environment_(std::move(environment)) {
   writeConfiguration(policies);
   start();
 }
@@ -19,11 +20,11 @@ void PrivateCups::stop() {
 }
 
 void PrivateCups::start() {
-  constexpr int kLongestTests = 1800; // seconds
+  constexpr int kLongestTests = 3000; // seconds
   const std::vector<std::string> command{
       "/usr/sbin/cupsd",          "-f", "-c",
       folder_.path("cupsd.conf"), "-s", folder_.path("cups-files.conf")};
-  server_ = std::make_unique<Process>(command, std::vector<std::string>{}, kLongestTests);
+  server_ = std::make_unique<Process>(command, environment_, kLongestTests);
   const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
   while (!isRunning_ && !server_->hasEnded() && std::chrono::steady_clock::now() < deadline) {
     isRunning_ = run({"lpstat", "-r"}).output.find("is running") != std::string::npos;

@@ -15,8 +15,9 @@ namespace imageposition::test {
 /// this object.
 class PrivateCups {
 public:
-  /// `policies` are further lines of its cupsd.conf.
-  explicit PrivateCups(const std::string &policies = "");
+  /// `policies` are further lines of its cupsd.conf; `environment` is laid over this process's for
+  /// it.
+  explicit PrivateCups(const std::string &policies = "", std::vector<std::string> environment = {});
 
   /// Whether it answered in time.
   bool isRunning() const noexcept { return isRunning_; }
@@ -50,6 +51,7 @@ private:
   void writeConfiguration(const std::string &policies) const;
 
   TemporaryFolder folder_;
+  const std::vector<std::string> environment_;
   std::unique_ptr<Process> server_; // ends before the folder goes
   bool isRunning_ = false;
 };

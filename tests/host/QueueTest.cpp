@@ -1,6 +1,6 @@
 // Printers of a CUPS that the test runs.
 #include "tests/host/DialogFixture.hpp"
-#include "tests/host/PrivateCups.hpp"
+#include "tests/host/OfficeQueue.hpp"
 
 #include <ctime>
 
@@ -11,28 +11,14 @@ using testing::Contains;
 using testing::HasSubstr;
 using testing::Pair;
 
-class Queue : public DialogFixture {
+class Queue : public WithOfficeQueue<DialogFixture> {
 protected:
-  static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }
-  static void TearDownTestSuite() { cups.reset(); }
-  void SetUp() override {
-    ASSERT_TRUE(cups->isRunning()) << cups->log();
-    const auto added = cups->run({"lpadmin", "-p", "office", "-E", "-v", "file:///dev/null", "-P",
-                                  sample("duplex-shift.ppd")});
-    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
-  }
-  void TearDown() override { cups->run({"lpadmin", "-x", "office"}); }
-
   ProcessResult print(const std::string &queue, const Words &words) {
     Words all{"--batch", "-d", queue};
     all.insert(all.end(), words.begin(), words.end());
     return dialog(all, cups->environment());
   }
-
-  static std::unique_ptr<PrivateCups> cups;
 };
-
-std::unique_ptr<PrivateCups> Queue::cups;
 
 TEST_F(Queue, ItsDescriptionComesFromCups) {
   const auto result =

@@ -3,7 +3,7 @@
 #define IMAGEPOSITION_TESTS_HOST_WINDOWFIXTURE_HPP
 
 #include "tests/host/DialogFixture.hpp"
-#include "tests/host/PrivateCups.hpp"
+#include "tests/host/OfficeQueue.hpp"
 
 #include <chrono>
 #include <functional>
@@ -93,27 +93,14 @@ protected:
   }
 };
 
-/// With a queue "office" of a CUPS of the tests' own.
-class QueueWindow : public Window {
+class QueueWindow : public WithOfficeQueue<Window> {
 protected:
-  static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }
-  static void TearDownTestSuite() { cups.reset(); }
-  void SetUp() override {
-    ASSERT_TRUE(cups->isRunning()) << cups->log();
-    const auto added = cups->run({"lpadmin", "-p", "office", "-E", "-v", "file:///dev/null", "-P",
-                                  sample("duplex-shift.ppd")});
-    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
-  }
-  void TearDown() override { cups->run({"lpadmin", "-x", "office"}); }
-
   void openQueue(const Words &words = {}) {
     Words all{"-d", "office"};
     all.insert(all.end(), words.begin(), words.end());
     all.push_back(sample("two-sided.pdf"));
     start(all, cups->environment());
   }
-
-  static inline std::unique_ptr<PrivateCups> cups;
 };
 
 } // namespace imageposition::test
