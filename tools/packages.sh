@@ -41,3 +41,7 @@ comparison_packages=(
 fuzz_packages=(
   clang                                             # its fuzzer and sanitizers
 )
+
+valgrind_packages=(
+  valgrind libc6-dbg                                # memory errors; names of the loader's functions
+)
