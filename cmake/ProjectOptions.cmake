@@ -14,6 +14,11 @@ add_library(imageposition_options INTERFACE)
 target_include_directories(imageposition_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(imageposition_options INTERFACE -Wall -Wextra -Wshadow
   "$<$<COMPILE_LANGUAGE:CXX,OBJCXX>:-Wnon-virtual-dtor>")
+# Also on a 32-bit processor a file may be larger than 2 GiB, and later than 2038: the calls that tell
+# who may change it fail otherwise.
+if(NOT APPLE)
+  target_compile_definitions(imageposition_options INTERFACE _FILE_OFFSET_BITS=64 _TIME_BITS=64)
+endif()
 if(APPLE)
   # For systems before 10.9 clang takes the old libstdc++ by itself, which has no C++17.
   target_compile_options(imageposition_options INTERFACE

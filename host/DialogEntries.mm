@@ -1,4 +1,5 @@
 #include "host/Collation.hpp"
+#include "host/Copies.hpp"
 #import "host/DialogController.h"
 #import "host/DialogState.h"
 #include "host/ExitCode.hpp"
@@ -7,24 +8,12 @@
 #import "platform/TextBridge.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 using namespace imageposition;
 
 namespace {
 
-constexpr int kMostCopies = 9999; // that CUPS takes
-
 enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
-
-/// None unless the whole text is a number that CUPS takes.
-std::optional<int> readCopies(const std::string &text) {
-  char *end = nullptr;
-  const long number = std::strtol(text.c_str(), &end, 10);
-  if (text.empty() || *end != '\0' || number < 1 || number > kMostCopies)
-    return std::nullopt;
-  return static_cast<int>(number);
-}
 
 } // namespace
 
@@ -38,7 +27,7 @@ std::optional<int> readCopies(const std::string &text) {
 - (void)refreshCopies {
   const char *const copies = job->settings().get("copies");
   [views.copies setStringValue:toString(copies != nullptr ? copies : "1")];
-  [views.copiesStepper setIntValue:copies != nullptr ? std::atoi(copies) : 1];
+  [views.copiesStepper setIntValue:copies != nullptr ? nearestCopies(copies) : 1];
   const bool collated = isCollated(job->printer(), job->settings());
   [views.collate setState:collated ? NSOnState : NSOffState];
 }

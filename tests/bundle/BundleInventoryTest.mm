@@ -7,6 +7,7 @@
 #include <dlfcn.h>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <map>
 #include <regex>
 
 namespace imageposition::test {
@@ -113,6 +114,28 @@ TEST_F(Bundle, HasTheClassesOfTheTableWithTheirFieldsAndOperations) {
     lines.insert(lines.end(), description.begin(), description.end());
   }
   EXPECT_EQ(joined(lines), joined(tableLines("class ")));
+}
+
+// As whoever reads a field by its place finds it, with pointers of 32 or of 64 bits.
+TEST_F(Bundle, FieldsAreAsWideAsTheirTypesAndLieOneBehindTheOther) {
+  const std::map<char, std::ptrdiff_t> widths = {
+      {'@', sizeof(void *)}, {'^', sizeof(void *)}, {'i', 4}, {'c', 1}, {'C', 1}};
+  for (const std::string &line : tableLines("class ")) {
+    if (line.compare(0, 6, "class ") != 0)
+      continue;
+    const std::string name = line.substr(6, line.find(' ', 6) - 6);
+    const Class type = objc_getClass(name.c_str());
+    unsigned count = 0;
+    Ivar *const list = class_copyIvarList(type, &count);
+    std::ptrdiff_t place = count > 0 ? ivar_getOffset(list[0]) : 0;
+    for (unsigned i = 0; i < count; i++) {
+      const std::ptrdiff_t width = widths.at(*ivar_getTypeEncoding(list[i]));
+      place = (place + width - 1) / width * width;
+      EXPECT_EQ(ivar_getOffset(list[i]), place) << name << " " << ivar_getName(list[i]);
+      place += width;
+    }
+    free(list);
+  }
 }
 
 TEST_F(Bundle, ExportsTheConstantsOfTheTable) {

@@ -202,6 +202,15 @@ TEST_F(Batch, SeveralDocumentsAreNamedInTheTicketAndEachIsLookedAt) {
   EXPECT_EQ(batch(shift, {first, folder.path("missing.pdf")}).status, kUsage);
 }
 
+// It takes no room on the disk.
+TEST_F(Batch, ADocumentOfFiveGigabytesIsTaken) {
+  const std::string large = folder.write("large.pdf", "%PDF");
+  std::filesystem::resize_file(large, 0x140000000);
+  const auto result = batch(shift, {"--ticket", folder.path("job.json"), large});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_THAT(contentOf(folder.path("job.json")), HasSubstr("large.pdf"));
+}
+
 TEST_F(Batch, EachKindOfTroubleHasItsStatus) {
   EXPECT_EQ(dialog({"--nonsense"}).status, kUsage);
   EXPECT_EQ(batch(sample("two-sided.pdf"), {}).status, kPrinter);

@@ -2,6 +2,7 @@
 
 #include "tests/host/TemporaryFolder.hpp"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <grp.h>
 #include <gtest/gtest.h>
@@ -103,6 +104,19 @@ TEST_F(PluginTrust, LinksAreFollowedToWhatIsUsed) {
   std::filesystem::create_symlink(bundle, bundle + "/circle");
   std::filesystem::create_symlink(folder.path("gone"), bundle + "/nowhere");
   EXPECT_FALSE(look());
+}
+
+// Not even on a 32-bit processor, whose calls fail for such files unless told otherwise.
+TEST_F(PluginTrust, NeitherItsSizeNorItsTimeHidesWhoMayChangeAFile) {
+  chmod(code.c_str(), 0666);
+  std::filesystem::resize_file(code, 0x140000000);
+  expectFound(code, Reason::OthersMayWrite);
+  std::filesystem::resize_file(code, 0);
+  for (const std::string &path : {bundle, code}) {
+    const timespec times[] = {{2366841600, 0}, {2366841600, 0}}; // 2045
+    ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+    expectFound(code, Reason::OthersMayWrite);
+  }
 }
 
 TEST_F(PluginTrust, WhatIsNotThereIsNobodys) {
