@@ -166,7 +166,8 @@ TEST_F(Failing, ALargeDocumentIsStreamedWithProgressAndCancelledLeavesNothing) {
   EXPECT_FALSE(window.process().hasEnded());
   EXPECT_THAT(waitingJobs(), IsEmpty());
   expectAllIsStillThere(window);
-  EXPECT_LT(peakMemoryInKilobytes(window) - before, 8 << 10);
+  // Little of the document; with sanitizers, what is freed takes room for a while.
+  EXPECT_LT(peakMemoryInKilobytes(window) - before, long{kLarge / 1024 / 8});
 
   window.click("Print");
   const PrintedJob job = printed(jobOf(window.ended()));
