@@ -38,6 +38,10 @@ comparison_packages=(
   cups-client cups-daemon dbus-daemon at-spi2-core  # what they all talk to
 )
 
+coverage_packages=(
+  gcovr                                             # adds up what the compiler counted
+)
+
 fuzz_packages=(
   clang                                             # its fuzzer and sanitizers
 )

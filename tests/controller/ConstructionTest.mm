@@ -2,6 +2,7 @@
 #import "tests/controller/ControllerFixture.h"
 #import "tests/support/LiveObjects.h"
 #import "tests/support/Pool.h"
+#import "tests/support/RefusingInit.h"
 
 #include <algorithm>
 
@@ -77,6 +78,16 @@ struct BrokenFileRow {
 
 std::ostream &operator<<(std::ostream &out, const BrokenFileRow &row) {
   return out << row.resource << ": " << (row.content ? row.content : "missing");
+}
+
+TEST_F(Construction, NeedsItsBase) {
+  writeBundle();
+  {
+    const RefusingInit refusing([MorvaADPSettingsCollectorRV2 class]);
+    EXPECT_EQ([[MorvaADPSettingsCollectorRV2 alloc] initWithCallback:host Bundle:bundle->bundle()],
+              nil);
+  }
+  EXPECT_NE(make(), nil);
 }
 
 class ConstructionOverBrokenFiles : public Construction,

@@ -1,6 +1,21 @@
 // What the print dialog's summary is given.
 #import "tests/controller/ControllerFixture.h"
 
+/// In place of the controller's bundle: has no texts.
+@interface SilentBundle : NSObject
+@end
+
+@implementation SilentBundle
+- (NSString *)localizedStringForKey:(NSString *)key
+                              value:(NSString *)value
+                              table:(NSString *)table {
+  (void)key;
+  (void)value;
+  (void)table;
+  return nil;
+}
+@end
+
 using namespace imageposition::test;
 using testing::ElementsAre;
 
@@ -208,6 +223,21 @@ TEST_F(Summary, EqualTitlesShareOneEntryWithoutHarm) {
   NSDictionary *summary = [other getSummaryInfo];
   EXPECT_EQ([summary count], 5U);
   EXPECT_EQ(order(summary).size(), 5U);
+}
+
+// The key stands in for a text that is missing; here there is no key either.
+TEST_F(Summary, AValueWithoutATitleHasNoEntry) {
+  NSMutableDictionary *records = fourDefinitions();
+  [[records objectForKey:@"2"] removeObjectForKey:@"SummaryInfoName"];
+  writeBundle(records);
+  ASSERT_NE(make(), nil);
+  SilentBundle *strings = [[SilentBundle alloc] init];
+  NSBundle *original = get<NSBundle *>("Bundle");
+  get<id>("Bundle") = strings;
+  NSDictionary *summary = [controller getSummaryInfo];
+  get<id>("Bundle") = original;
+  [strings release];
+  EXPECT_THAT(order(summary), ElementsAre("EnableImgPstAdj", "LRM", "TBM", "BackTBMSummary"));
 }
 
 // A missing setting has neither a name nor a value, and the rest of the summary stands.

@@ -7,6 +7,16 @@
 #include <regex>
 #include <sstream>
 
+/// Fails when everything is connected.
+@interface RaisingLabel : NSTextField
+@end
+
+@implementation RaisingLabel
+- (void)awakeFromNib {
+  [NSException raise:NSGenericException format:@"on purpose"];
+}
+@end
+
 using namespace imageposition::test;
 using testing::ElementsAre;
 
@@ -250,6 +260,21 @@ TEST_F(ViewBinding, AClassThatDoesNotExistDoesNoHarm) {
   writeInterfaceFile(file);
   [controller prepareView];
   useEverything();
+}
+
+TEST_F(ViewBinding, AFailureAfterTheConnectionsDoesNoHarm) {
+  std::string file = realInterfaceFile();
+  file = std::regex_replace(file, std::regex("customClass=\"MorvaADPLabelItemRV2\""),
+                            "customClass=\"RaisingLabel\"");
+  {
+    const Pool pool;
+    writeInterfaceFile(file);
+    NSView *view = [controller prepareView];
+    ASSERT_NE(view, nil);
+    EXPECT_EQ([[view subviews] count], 18U);
+  }
+  useEverything();
+  EXPECT_EQ([[[controller prepareView] subviews] count], 18U);
 }
 
 /// The real interface file with the outlet of the view connected to that other object of it.

@@ -3,6 +3,7 @@
 #import "tests/support/ClassTable.h"
 #import "tests/support/LiveObjects.h"
 #import "tests/support/Pool.h"
+#import "tests/support/RefusingInit.h"
 
 #import "plugin/MorvaADPPdePanelRV2.h"
 
@@ -41,6 +42,21 @@ using testing::IsEmpty;
 - (NSDictionary *)getSummaryInfo {
   [self record:"getSummaryInfo"];
   return summary;
+}
+@end
+
+/// In place of the panel's bundle: has not even the keys.
+@interface SilentStrings : NSObject
+@end
+
+@implementation SilentStrings
+- (NSString *)localizedStringForKey:(NSString *)key
+                              value:(NSString *)value
+                              table:(NSString *)table {
+  (void)key;
+  (void)value;
+  (void)table;
+  return nil;
 }
 @end
 
@@ -117,6 +133,11 @@ TEST(PanelInterface, BooleansAreOneByte) {
 TEST_F(Panel, NeedsAHostAndABundle) {
   EXPECT_EQ([[MorvaADPPdePanelRV2 alloc] initWithCallback:nil Bundle:bundle->bundle()], nil);
   EXPECT_EQ([[MorvaADPPdePanelRV2 alloc] initWithCallback:host Bundle:nil], nil);
+}
+
+TEST_F(Panel, DoesNotExistWithoutItsBase) {
+  const RefusingInit refusing([MorvaADPPdePanelRV2 class]);
+  EXPECT_EQ([[MorvaADPPdePanelRV2 alloc] initWithCallback:host Bundle:bundle->bundle()], nil);
 }
 
 TEST_F(Panel, WithoutAControllerDoesNotExistAndLetsGoOfEverything) {
@@ -215,6 +236,17 @@ TEST_F(Panel, WithoutALocalizedNameIsCalledByTheKey) {
   MorvaADPPdePanelRV2 *other =
       [[[MorvaADPPdePanelRV2 alloc] initWithCallback:host Bundle:nameless.bundle()] autorelease];
   EXPECT_EQ(cxxString([other panelName]), "PluginName");
+}
+
+// Until there is one.
+TEST_F(Panel, HasNoNameFromABundleThatGivesNone) {
+  NSBundle *original = field<NSBundle *>(panel, "PDEBundle");
+  SilentStrings *strings = [[SilentStrings alloc] init];
+  field<id>(panel, "PDEBundle") = strings;
+  EXPECT_EQ([panel panelName], nil);
+  field<id>(panel, "PDEBundle") = original;
+  EXPECT_EQ(cxxString([panel panelName]), "Image Position");
+  [strings release];
 }
 
 TEST_F(Panel, AnnouncesTheSameFiveOptionKeysEachTimeAndLogsThemEachTime) {

@@ -1,4 +1,5 @@
 #import "tests/settings/SettingFixture.h"
+#import "tests/support/RefusingInit.h"
 
 /// An item that decides anew each time what it conforms to.
 @interface ChangingItem : RecordingItem {
@@ -112,6 +113,18 @@ TEST_F(BaseSetting, DoesNotExistWithoutRulesBundleOrPrinter) {
                                                 PPD:nullptr] == nil);
     }
   }
+}
+
+TEST_F(BaseSetting, DoesNotExistWithoutItsBase) {
+  {
+    const RefusingInit refusing([MorvaADPSettingRV2 class]);
+    EXPECT_EQ(base(dictionary(record())), nil);
+  }
+  {
+    const RefusingInit refusing([MorvaADPSettingRV2 class]); // not what the other one inherits
+    EXPECT_NE(make(), nil);
+  }
+  EXPECT_NE(base(dictionary(record())), nil);
 }
 
 TEST_F(BaseSetting, BeforeBindingViewStateChangesNothing) {

@@ -1,5 +1,18 @@
 #import "tests/settings/SettingFixture.h"
 
+/// An item that conforms to something else each time.
+@interface FickleItem : RecordingItem {
+@public
+  Protocol *conformsTo;
+}
+@end
+
+@implementation FickleItem
+- (BOOL)conformsToProtocol:(Protocol *)protocol {
+  return conformsTo != nil && protocol_isEqual(protocol, conformsTo);
+}
+@end
+
 namespace imageposition::test {
 namespace {
 
@@ -37,6 +50,25 @@ TEST_F(IntegerSettingRefresh, AsksTheItemsInOrderThenWritesThenReads) {
                    "range.tag", "range.setRangeStrings:-20 to 20 mm", "set LeftRightMargin=5",
                    "get LeftRightMargin", "entry.setStringValue:5"}));
   EXPECT_EQ(value(setting), 5);
+}
+
+TEST_F(IntegerSettingRefresh, AnItemThatAnswersForItselfIsAskedEachTimeWhatItConformsTo) {
+  FickleItem *fickle = static_cast<FickleItem *>([FickleItem itemNamed:"fickle"
+                                                          capabilities:kNone
+                                                               journal:&journal]);
+  MorvaADPIntegerSettingRV2 *setting = make();
+  bind(setting, {fickle});
+  const Lines access = {"set LeftRightMargin=3", "get LeftRightMargin"};
+  [setting checkUI:store.handle()];
+  EXPECT_EQ(journal.take(), access);
+  fickle->conformsTo = @protocol(StepperInterface);
+  [setting checkUI:store.handle()];
+  EXPECT_EQ(journal.take(), (Lines{"fickle.getSteps", access[0], access[1]}));
+  fickle->conformsTo = @protocol(TextFieldInterface);
+  fickle->number = 3;
+  [setting checkUI:store.handle()];
+  EXPECT_EQ(journal.take(),
+            (Lines{"fickle.getInt", access[0], access[1], "fickle.setStringValue:3"}));
 }
 
 TEST_F(IntegerSettingRefresh, EntryFieldThatShowsTheValueIsReadOnce) {

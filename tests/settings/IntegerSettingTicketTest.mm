@@ -1,5 +1,7 @@
 #import "tests/settings/SettingFixture.h"
 
+#include <cmath>
+
 namespace imageposition::test {
 namespace {
 
@@ -162,7 +164,11 @@ TEST_F(IntegerSettingTicket, StoredNumberIsReadAsOneAndAnythingElseAsZero) {
        {Row{[NSNumber numberWithInt:7], 7}, Row{[NSNumber numberWithDouble:-7.9], -7},
         Row{[NSNumber numberWithLongLong:3000000000LL], INT32_MAX},
         Row{[NSNumber numberWithLongLong:-3000000000LL], INT32_MIN},
-        Row{[NSArray arrayWithObject:@"7"], 0}, Row{[NSData dataWithBytes:"7" length:1], 0},
+        Row{[NSNumber numberWithUnsignedLongLong:UINT64_MAX], INT32_MAX},
+        Row{[NSNumber numberWithDouble:HUGE_VAL], INT32_MAX},
+        Row{[NSNumber numberWithDouble:-HUGE_VAL], INT32_MIN},
+        Row{[NSNumber numberWithDouble:std::nan("")], 0}, Row{[NSArray arrayWithObject:@"7"], 0},
+        Row{[NSData dataWithBytes:"7" length:1], 0},
         Row{[NSDictionary dictionaryWithObject:@"7" forKey:@"7"], 0},
         Row{[NSDate dateWithTimeIntervalSince1970:7], 0}}) {
     store.putObject(kKey, row.stored);

@@ -75,6 +75,22 @@ TEST(IntegerText, SkipsLeadingWhiteSpaceOnly) {
               {"_5", 0}});
 }
 
+TEST(IntegerText, WhiteSpaceIsThatOfUnicode) {
+  const std::u16string white = u"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004"
+                               u"\u2005\u2006\u2007\u2008\u2009\u200A\u2028\u2029\u202F\u205F"
+                               u"\u3000";
+  for (char32_t unit = 0; unit <= 0xFFFF; ++unit) {
+    if (unit == u'5' || unit == u'+' || unit == u'-')
+      continue;
+    const std::u16string text = {static_cast<char16_t>(unit), u'5'};
+    const bool isDigit = unit >= u'0' && unit <= u'9';
+    const int expected = isDigit ? static_cast<int>(unit - u'0') * 10 + 5
+                         : white.find(text[0]) != std::u16string::npos ? 5
+                                                                       : 0;
+    EXPECT_EQ(readInteger(text), expected) << std::hex << static_cast<unsigned>(unit);
+  }
+}
+
 TEST(IntegerText, DigitsOfOtherScriptsAreNoDigits) {
   expectRows({{"\xEF\xBC\x95", 0},       // fullwidth five
               {"1\xD9\xA2", 1},          // one, Arabic-Indic two
