@@ -5,6 +5,7 @@
 #import "host/Fonts.h"
 #import "host/Guard.h"
 #include "host/Messages.hpp"
+#import "host/Pool.h"
 #import "host/QuickStart.h"
 #import "host/Replaced.h"
 #import "host/Theme.h"
@@ -59,6 +60,7 @@ void setPlatformDefaults() {
 }
 
 void startApplication() {
+  const Pool pool;
   const Surroundings surroundings = readSurroundings();
   setTextScale(chosenTextScale(surroundings));
   hideDocuments();

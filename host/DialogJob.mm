@@ -6,6 +6,7 @@
 #include "host/Messages.hpp"
 #include "host/OptionText.hpp"
 #include "host/PluginFolders.hpp"
+#import "host/Pool.h"
 #include "host/Presets.hpp"
 #include "host/WindowTexts.hpp"
 
@@ -114,6 +115,7 @@ DialogJob::DialogJob(const Arguments &arguments)
 }
 
 void DialogJob::loadPanels() {
+  const Pool pool;
   plugins_ = pluginsFor(arguments_, *printer_);
   panels_ = std::make_unique<PanelSession>(*printer_, ticket_.settings);
   panels_->load(plugins_);

@@ -7,6 +7,7 @@
 #include "host/Messages.hpp"
 #import "host/NamePanel.h"
 #import "host/NotePanel.h"
+#import "host/Pool.h"
 #include "host/TicketName.hpp"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
@@ -168,7 +169,8 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
     [self say:troubles];
 }
 
-- (BOOL)run {
+- (void)show {
+  const Pool pool;
   [self sayTroubles];
   [self refresh];
   [self showChosenPane];
@@ -179,6 +181,10 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
   [NSApp activateIgnoringOtherApps:YES];
   [views.window makeKeyAndOrderFront:nil];
   [self startAskingForPrinters];
+}
+
+- (BOOL)run {
+  [self show];
   const NSInteger answer = [NSApp runModalForWindow:views.window];
   if (!state->note.empty()) // a desktop shows nobody what goes to standard error
     showNote(views.window, messages::kJobWaits, state->note);
@@ -191,7 +197,11 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
 namespace imageposition {
 
 bool runDialog(DialogJob &job, std::ostream &errors) {
-  DialogController *const controller = [[DialogController alloc] initWithJob:&job errors:&errors];
+  DialogController *controller = nil;
+  {
+    const Pool pool;
+    controller = [[DialogController alloc] initWithJob:&job errors:&errors];
+  }
   const bool printed = [controller run];
   [controller release];
   return printed;

@@ -1,6 +1,7 @@
 #import "host/PlatformLanguage.h"
 
 #include "host/Language.hpp"
+#import "host/Pool.h"
 #import "platform/TextBridge.h"
 
 #import <Foundation/Foundation.h>
@@ -40,6 +41,7 @@ std::vector<std::string> languagesInDefaults(NSUserDefaults *defaults) {
 } // namespace
 
 void agreeOnLanguage() {
+  const Pool pool;
   NSUserDefaults *const defaults = [NSUserDefaults standardUserDefaults];
   std::vector<std::string> wanted = languagesInDefaults(defaults);
   if (wanted.empty())

@@ -150,8 +150,8 @@ void putBlankImages() {
   static const struct {
     NSString *name;
     NSSize size;
-  } kImages[] = {{@"GSSwitch", {15, 15}}, {@"GSSwitchSelected", {15, 15}},
-                 {@"GSRadio", {16, 16}}, {@"GSRadioSelected", {16, 16}},
+  } kImages[] = {{@"GSSwitch", {15, 15}},     {@"GSSwitchSelected", {15, 15}},
+                 {@"GSRadio", {16, 16}},      {@"GSRadioSelected", {16, 16}},
                  {@"common_Nibble", {11, 8}}, {@"common_3DArrowDown", {7, 7}}};
   for (const auto &[name, size] : kImages) {
     NSImage *const blank = [[NSImage alloc] initWithSize:size];

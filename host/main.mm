@@ -12,6 +12,7 @@
 #include "host/OptionConflicts.hpp"
 #include "host/OptionList.hpp"
 #import "host/PlatformLanguage.h"
+#import "host/Pool.h"
 #include "host/PrivateDisplay.hpp"
 #include "host/StartTexts.hpp"
 #include "host/Ticket.hpp"
@@ -128,10 +129,7 @@ ExitCode run(const std::vector<std::string> &words) {
 }
 
 ExitCode runInPool(const std::vector<std::string> &words) {
-  struct Pool {
-    ~Pool() { [pool release]; }
-    NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
-  } const pool;
+  const Pool pool;
   agreeOnLanguage();
   const ExitCode code = run(words);
   if (!std::cout.flush())
