@@ -91,7 +91,7 @@ delayed_names:
 delayed_count:
   .long index
 
-/* Their addresses, on pages of their own: nothing may write there once they are known. */
+/* Their addresses, on pages of their own, which cannot be written. */
   .bss
   .p2align 12
   .globl delayed_functions, delayed_functions_end

@@ -67,12 +67,20 @@ TEST_P(Hardening, ItsFunctionsAreMarkedWhereTheyBegin) {
 #endif
 
 std::string nameOf(const testing::TestParamInfo<const char *> &info) {
-  static const char *const kNames[] = {"Program", "PrintCore", "Plugin"};
+  static const char *const kNames[] = {"Program", "PrintCore", "Plugin", "StandIn"};
   return kNames[info.index];
 }
 
-INSTANTIATE_TEST_SUITE_P(Built, Hardening,
-                         testing::Values(PRINT_DIALOG, CODE_OF_PRINT_CORE, CODE_OF_PLUGIN), nameOf);
+const std::vector<const char *> kCode{
+    PRINT_DIALOG,
+    CODE_OF_PRINT_CORE,
+    CODE_OF_PLUGIN,
+#ifdef CODE_OF_STAND_IN
+    CODE_OF_STAND_IN,
+#endif
+};
+
+INSTANTIATE_TEST_SUITE_P(Built, Hardening, testing::ValuesIn(kCode), nameOf);
 
 TEST(HardeningOfTheProgram, CopiesAreCheckedAgainstTheRoomForThem) {
   EXPECT_EQ(readelf("--dyn-syms", PRINT_DIALOG).find("_chk@") != std::string::npos, IS_FORTIFIED);
