@@ -62,6 +62,8 @@ struct DialogState;
 - (void)twoSidedChosen:(id)sender;
 - (void)mediaChosen:(id)sender;
 - (void)resolveConflicts:(id)sender;
+/// Asks for the value that a person has chosen to enter.
+- (void)enterValue;
 @end
 
 /// Copies and pages.

@@ -1,5 +1,7 @@
 #import "host/DialogJob.h"
 
+#include "host/ChoiceList.hpp"
+#include "host/CustomValue.hpp"
 #include "host/DocumentNames.hpp"
 #include "host/ExitCode.hpp"
 #include "host/JobSubmission.hpp"
@@ -96,12 +98,27 @@ bool isInputGiven() {
   return fstat(STDIN_FILENO, &status) == 0 && !S_ISCHR(status.st_mode);
 }
 
+/// While it lives and is wanted, new files are for their owner alone.
+class OwnersFiles {
+public:
+  explicit OwnersFiles(bool isWanted) : before_(umask(0)) { umask(isWanted ? 077 : before_); }
+  ~OwnersFiles() { umask(before_); }
+  OwnersFiles(const OwnersFiles &) = delete;
+  OwnersFiles &operator=(const OwnersFiles &) = delete;
+
+private:
+  mode_t before_;
+};
+
 /// False for a choice of another printer's, which this one does not know.
 bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) {
   if (ppdFindOption(before, setting.name) == nullptr)
     return true;
   ppd_option_t *const option = ppdFindOption(ppd, setting.name);
-  return option != nullptr && ppdFindChoice(option, setting.value) != nullptr;
+  if (option == nullptr)
+    return false;
+  return option->ui == PPD_UI_PICKMANY ? areChoices(*option, splitChoices(setting.value))
+                                       : ppdFindChoice(option, setting.value) != nullptr;
 }
 
 } // namespace
@@ -156,6 +173,10 @@ JobRequest DialogJob::request() const {
   if (request.title.empty())
     request.title = documentName(documentsToSend().front());
   request.settings = ticket_.settings;
+  request.compounds = compoundOptions(printer_->ppd());
+  for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &ticket_.settings})
+    for (std::string &name : hiddenSettings(printer_->ppd(), *settings))
+      request.secrets.push_back(std::move(name));
   return request;
 }
 
@@ -177,6 +198,8 @@ void DialogJob::writeSettings() const {
 }
 
 void DialogJob::writeSettings(const std::string &path) const {
+  const bool isSecret = !hiddenSettings(printer_->ppd(), ticket_.settings).empty();
+  const OwnersFiles owners(isSecret);
   writeTicket(ticket_, path);
   if (!arguments_.isSilent)
     std::cerr << messages::ticketWritten(path, optionTextPath(path)) << '\n';

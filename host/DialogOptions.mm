@@ -1,9 +1,13 @@
+#import "host/ChoicePopUp.h"
 #import "host/DialogController.h"
 #import "host/DialogState.h"
+#include "host/OptionMessages.hpp"
+#import "host/ValuePanel.h"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
-#include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 using namespace imageposition;
 
@@ -11,29 +15,36 @@ namespace {
 
 /// Fills a pop-up with an option's choices; answers their keywords.
 std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterOption> &option) {
-  std::vector<std::string> keywords;
+  if (option)
+    return showChoices(popUp, *option);
   [popUp removeAllItems];
-  NSMenu *const menu = [popUp menu];
-  if (!option) {
-    [menu addItemWithTitle:toString(messages::kNotOffered) action:NULL keyEquivalent:@""];
-    [popUp selectItemAtIndex:0];
-    [popUp setEnabled:NO];
-    return keywords;
-  }
-  for (const OptionChoice &choice : option->choices) {
-    [menu addItemWithTitle:toString(choice.text) action:NULL keyEquivalent:@""];
-    keywords.push_back(choice.keyword);
-  }
-  const auto chosen = std::find(keywords.begin(), keywords.end(), option->chosen);
-  [popUp selectItemAtIndex:chosen == keywords.end() ? -1 : chosen - keywords.begin()];
-  [popUp setEnabled:!option->isLocked];
-  return keywords;
+  [[popUp menu] addItemWithTitle:toString(messages::kNotOffered) action:NULL keyEquivalent:@""];
+  [popUp selectItemAtIndex:0];
+  [popUp setEnabled:NO];
+  return {};
+}
+
+/// What entering a value begins with: the one that holds, or for the page the size that holds.
+std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit unit) {
+  const ppd_size_t *const size = option.custom->isPageSize ? ppdPageSize(ppd, nullptr) : nullptr;
+  if (size == nullptr || readCustomValue(*option.custom, option.chosen))
+    return option.chosen;
+  const auto side = [=](float points) {
+    return writeLength(convert({points, LengthUnit::Point}, unit));
+  };
+  return writeCustomValue(*option.custom, {side(size->width), side(size->length)});
 }
 
 } // namespace
 
 @interface DialogController (OptionsInside)
 - (void)choose:(const std::string &)choice of:(const std::string &)keyword by:(NSView *)sender;
+- (void)enterValueOf:(const std::string &)keyword by:(NSView *)sender;
+- (void)optionChanged:(const std::string &)keyword;
+- (void)choice:(NSInteger)chosen
+            of:(const std::string &)keyword
+          from:(const std::vector<std::string> &)choices
+            by:(NSView *)sender;
 - (void)refreshHint;
 @end
 
@@ -72,10 +83,40 @@ std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterO
   if (![self savePanels])
     return;
   PrinterOptions(job->printer(), job->settings()).choose(keyword, choice);
+  [self optionChanged:keyword];
+}
+
+- (void)optionChanged:(const std::string &)keyword {
   state->chosenLast = keyword;
   [self refreshOptions];
   [self showChosenPane];
   [self refreshPicture];
+}
+
+/// Another window can be shown only when the pop-up's menu has gone.
+- (void)enterValueOf:(const std::string &)keyword by:(NSView *)sender {
+  [self takeFocus:sender];
+  if (![self savePanels])
+    return;
+  state->optionToEnter = keyword;
+  state->controlToEnter = sender;
+  wakeModalLoop(views.window);
+}
+
+/// Whatever comes of it the pop-up shows what holds then.
+- (void)enterValue {
+  const std::string keyword = std::exchange(state->optionToEnter, {});
+  PrinterOptions printerOptions(job->printer(), job->settings());
+  const auto option = printerOptions.find(keyword);
+  if (!option || !option->custom)
+    return;
+  const LengthUnit unit = usualUnit(std::getenv);
+  const auto value = askForValue(views.window, option->text, *option->custom,
+                                 firstValue(*option, job->printer().ppd(), unit), unit);
+  if (value && !printerOptions.choose(keyword, *value))
+    [self say:messages::entryUnusable(option->text)];
+  [self optionChanged:keyword];
+  [views.window makeFirstResponder:state->controlToEnter];
 }
 
 - (void)option:(const std::string &)keyword
@@ -84,16 +125,40 @@ std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterO
   [self choose:choice of:keyword by:sender];
 }
 
+- (void)option:(const std::string &)keyword wantsValueBy:(NSView *)sender {
+  [self enterValueOf:keyword by:sender];
+}
+
+- (void)option:(const std::string &)keyword
+        choice:(const std::string &)choice
+     wasTicked:(bool)on
+            by:(NSView *)sender {
+  [self takeFocus:sender];
+  if (![self savePanels])
+    return;
+  PrinterOptions(job->printer(), job->settings()).tick(keyword, choice, on);
+  [self optionChanged:keyword];
+}
+
+- (void)choice:(NSInteger)chosen
+            of:(const std::string &)keyword
+          from:(const std::vector<std::string> &)choices
+            by:(NSView *)sender {
+  if (chosen >= static_cast<NSInteger>(choices.size()))
+    [self enterValueOf:keyword by:sender];
+  else if (chosen >= 0)
+    [self choose:std::string(choices[chosen]) of:keyword by:sender];
+}
+
 - (void)twoSidedChosen:(id)sender {
-  const NSInteger chosen = [sender indexOfSelectedItem];
-  if (chosen >= 0 && chosen < static_cast<NSInteger>(state->twoSidedChoices.size()))
-    [self choose:std::string(state->twoSidedChoices[chosen]) of:state->twoSidedKeyword by:sender];
+  [self choice:[sender indexOfSelectedItem]
+            of:std::string(state->twoSidedKeyword)
+          from:state->twoSidedChoices
+            by:sender];
 }
 
 - (void)mediaChosen:(id)sender {
-  const NSInteger chosen = [sender indexOfSelectedItem];
-  if (chosen >= 0 && chosen < static_cast<NSInteger>(state->mediaChoices.size()))
-    [self choose:std::string(state->mediaChoices[chosen]) of:"PageSize" by:sender];
+  [self choice:[sender indexOfSelectedItem] of:"PageSize" from:state->mediaChoices by:sender];
 }
 
 - (void)resolveConflicts:(id)sender {

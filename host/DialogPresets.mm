@@ -109,7 +109,7 @@ std::string joined(const std::vector<std::string> &sentences) {
     return;
   const std::string name = Presets::usableName(*typed);
   const std::string printer = printerOf(job->queue());
-  const auto missing = Presets(printer).save(name, job->settings());
+  const auto missing = Presets(printer).save(name, job->settings(), job->printer().ppd());
   state->preset = name;
   const std::string saved = messages::presetSaved(printer + "/" + name);
   if (missing.empty())

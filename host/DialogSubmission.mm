@@ -8,24 +8,6 @@
 
 using namespace imageposition;
 
-namespace {
-
-/// A modal loop looks whether it has been stopped only after an event; a timer is none.
-void wakeModalLoop(NSWindow *window) {
-  NSEvent *const event = [NSEvent otherEventWithType:NSApplicationDefined
-                                            location:NSZeroPoint
-                                       modifierFlags:0
-                                           timestamp:0
-                                        windowNumber:[window windowNumber]
-                                             context:nil
-                                             subtype:0
-                                               data1:0
-                                               data2:0];
-  [NSApp postEvent:event atStart:NO];
-}
-
-} // namespace
-
 @interface DialogController (SubmissionInside)
 - (void)lookAfterSending;
 - (void)showSending:(BOOL)sending;
@@ -84,6 +66,8 @@ void wakeModalLoop(NSWindow *window) {
 }
 
 - (void)wake {
+  if (!state->optionToEnter.empty())
+    [self enterValue];
   if (![self isSending] || state->isAskingForPassword)
     return;
   const auto question = state->submission->question();
@@ -119,6 +103,7 @@ void wakeModalLoop(NSWindow *window) {
     const SubmittedJob sent = submission->result();
     job->report(sent, std::cout, *errors);
     state->note = sent.note;
+    [views.message setStringValue:@""]; // what was said of sending is over when the note is read
     [NSApp stopModalWithCode:NSOKButton];
     wakeModalLoop(views.window);
   } catch (const Failure &failure) {

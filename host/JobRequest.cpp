@@ -90,25 +90,33 @@ void addNumberUp(const JobRequest &request, PrintSettingsStore &options) {
   add(options, "number-up", std::to_string(*request.numberUp));
 }
 
+bool contains(const std::vector<std::string> &names, const char *name) {
+  return std::any_of(names.begin(), names.end(), [=](const std::string &other) {
+    return strcasecmp(other.c_str(), name) == 0;
+  });
+}
+
+bool isCompound(const JobRequest &request, const cups_option_t &option) {
+  return option.value[0] == '{' && contains(request.compounds, option.name);
+}
+
 struct DeleteRequest {
   void operator()(ipp_t *ipp) const noexcept { ippDelete(ipp); }
 };
 using Request = std::unique_ptr<ipp_t, DeleteRequest>;
 
-/// As cupsCreateDestJob fills it.
-Request makeRequest(const JobRequest &job, const PrintSettingsStore &options) {
-  Request request(ippNewRequest(IPP_OP_CREATE_JOB));
-  const auto addText = [&](ipp_tag_t type, const char *name, const char *value) {
-    ippAddString(request.get(), IPP_TAG_OPERATION, type, name, nullptr, value);
-  };
-  if (!job.printerUri.empty())
-    addText(IPP_TAG_URI, "printer-uri", job.printerUri.c_str());
-  addText(IPP_TAG_NAME, "requesting-user-name", cupsUser());
-  addText(IPP_TAG_NAME, "job-name", job.title.c_str());
-  for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION})
-    cupsEncodeOptions2(request.get(), options.optionCount(),
-                       const_cast<cups_option_t *>(options.options()), group); // only read
-  return request;
+/// The longest value of IPP's type "name"; a text may be longer.
+constexpr std::size_t kLongestName = 255;
+
+void addCompounds(ipp_t *request, const JobRequest &job, const PrintSettingsStore &options) {
+  for (int i = 0; i < options.optionCount(); i++) {
+    const cups_option_t &option = options.options()[i];
+    if (!isCompound(job, option))
+      continue;
+    const bool isShort = std::string_view(option.value).size() <= kLongestName;
+    ippAddString(request, IPP_TAG_JOB, isShort ? IPP_TAG_NAME : IPP_TAG_TEXT, option.name, nullptr,
+                 option.value);
+  }
 }
 
 std::string groupName(ipp_tag_t group) {
@@ -130,11 +138,12 @@ std::string valueText(ipp_attribute_t *attribute) {
   return text;
 }
 
-std::string attributeText(ipp_attribute_t *attribute) {
+std::string attributeText(const JobRequest &request, ipp_attribute_t *attribute) {
   const std::string name = ippGetName(attribute);
   const ipp_tag_t type = ippGetValueTag(attribute);
+  const std::string value = isSecret(request, name.c_str()) ? kHiddenValue : valueText(attribute);
   std::string text = groupName(ippGetGroupTag(attribute)) + " " + name + " (" + ippTagString(type) +
-                     ") = " + valueText(attribute) + "\n";
+                     ") = " + value + "\n";
   if (type == IPP_TAG_BOOLEAN)
     text += "    " + messages::filtersRead((ippGetBoolean(attribute, 0) ? "" : "no") + name) + "\n";
   return text;
@@ -163,14 +172,48 @@ PrintSettingsStore optionsToSend(const JobRequest &request) {
   return options;
 }
 
+const char *const kHiddenValue = "••••";
+
+bool isSecret(const JobRequest &request, const char *name) {
+  return contains(request.secrets, name);
+}
+
+bool hasCompound(const JobRequest &request, const PrintSettingsStore &options) {
+  const cups_option_t *const all = options.options();
+  return std::any_of(all, all + options.optionCount(),
+                     [&](const cups_option_t &option) { return isCompound(request, option); });
+}
+
+ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &options) {
+  ipp_t *const ipp = ippNewRequest(IPP_OP_CREATE_JOB);
+  const auto addText = [=](ipp_tag_t type, const char *name, const char *value) {
+    ippAddString(ipp, IPP_TAG_OPERATION, type, name, nullptr, value);
+  };
+  if (!request.printerUri.empty())
+    addText(IPP_TAG_URI, "printer-uri", request.printerUri.c_str());
+  addText(IPP_TAG_NAME, "requesting-user-name", cupsUser());
+  addText(IPP_TAG_NAME, "job-name", request.title.c_str());
+  PrintSettingsStore simple = options;
+  for (int i = 0; i < options.optionCount(); i++)
+    if (isCompound(request, options.options()[i]))
+      simple.remove(options.options()[i].name);
+  for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION}) {
+    cupsEncodeOptions2(ipp, simple.optionCount(), const_cast<cups_option_t *>(simple.options()),
+                       group); // only read
+    if (group == IPP_TAG_JOB)
+      addCompounds(ipp, request, options);
+  }
+  return ipp;
+}
+
 std::string writeRequestText(const JobRequest &request) {
   const PrintSettingsStore options = optionsToSend(request);
-  const Request ipp = makeRequest(request, options);
+  const Request ipp(newJobRequest(request, options));
   std::string text;
   for (ipp_attribute_t *attribute = ippFirstAttribute(ipp.get()); attribute != nullptr;
        attribute = ippNextAttribute(ipp.get()))
     if (ippGetName(attribute) != nullptr) // else it stands between two groups
-      text += attributeText(attribute);
+      text += attributeText(request, attribute);
   return text;
 }
 

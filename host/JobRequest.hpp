@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace imageposition {
 
@@ -25,6 +26,9 @@ struct JobRequest {
   std::optional<int> priority;          ///< 1 to 100; CUPS takes 50.
   std::optional<int> numberUp;          ///< Pages on one side: 1, 2, 4, 6, 9 or 16.
   std::string documentFormat;           ///< A MIME type; empty: CUPS finds out.
+  std::vector<std::string> secrets;     ///< Options whose values no text may show.
+  /// Options of the PPD whose values can have parts, "{Width=3 Colour=red}". See `newJobRequest`.
+  std::vector<std::string> compounds;
 };
 
 /// All options of the job: the destination's defaults, over them the job's settings, over them the
@@ -34,10 +38,24 @@ struct JobRequest {
 /// have.
 PrintSettingsStore optionsToSend(const JobRequest &request);
 
-/// The attributes of the request that creates the job, made by the same calls of libcups that send
-/// it: a line "group name (type) = value" for each, in the order of sending. A boolean has a second
-/// line with the word that filters find among their options, its bare name or "no" and its name.
-/// Throws as `optionsToSend`.
+/// The request that creates the job, as cupsCreateDestJob makes it, but for the values of
+/// `compounds`: libcups would encode "{...}" as a collection, which the scheduler leaves out of
+/// what filters are given; as a name it reaches them, and they read it as they do on a command
+/// line. The caller's, for `ippDelete` or `cupsDoRequest`. `options` are those of `optionsToSend`.
+ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &options);
+
+/// Whether an option has such a value, so that cupsCreateDestJob would lose it.
+bool hasCompound(const JobRequest &request, const PrintSettingsStore &options);
+
+/// What stands for a value of `secrets`.
+extern const char *const kHiddenValue;
+
+bool isSecret(const JobRequest &request, const char *name);
+
+/// The attributes of that request: a line "group name (type) = value" for each, in the order of
+/// sending. A boolean has a second line with the word that filters find among their options, its
+/// bare name or "no" and its name. The values of `secrets` are hidden, also from who gave them:
+/// such texts are kept and passed on. Throws as `optionsToSend`.
 std::string writeRequestText(const JobRequest &request);
 
 } // namespace imageposition

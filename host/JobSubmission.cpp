@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <cstring>
 #include <future>
+#include <memory>
 #include <mutex>
 #include <string_view>
 #include <system_error>
@@ -102,6 +103,7 @@ private:
   void connect();
   void findPrinter();
   void createJob();
+  void createJobWithCompounds();
   void lookAt(const JobDocuments &documents);
   std::string_view firstPiece(DocumentStream &document);
   void sendDocuments(const JobDocuments &documents);
@@ -185,7 +187,31 @@ void Submission::findPrinter() {
     failAsCups();
 }
 
+/// As cupsCreateDestJob does, whose request would lose a value.
+void Submission::createJobWithCompounds() {
+  const char *const uri =
+      cupsGetOption("printer-uri-supported", printer_->num_options, printer_->options);
+  char scheme[32], user[256], host[256], resource[1024];
+  int port = 0;
+  if (uri == nullptr ||
+      httpSeparateURI(HTTP_URI_CODING_ALL, uri, scheme, sizeof scheme, user, sizeof user, host,
+                      sizeof host, &port, resource, sizeof resource) < HTTP_URI_STATUS_OK)
+    failAsCups();
+  JobRequest request = request_;
+  request.printerUri = uri;
+  const std::unique_ptr<ipp_t, decltype(&ippDelete)> response(
+      cupsDoRequest(connection_->http(), newJobRequest(request, options_), resource), ippDelete);
+  ipp_attribute_t *const id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
+  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE || id == nullptr)
+    failAsCups();
+  job_ = ippGetInteger(id, 0);
+}
+
 void Submission::createJob() {
+  if (hasCompound(request_, options_)) {
+    createJobWithCompounds();
+    return;
+  }
   const ipp_status_t status = cupsCreateDestJob(
       connection_->http(), printer_.get(), info_.get(), &job_, request_.title.c_str(),
       options_.optionCount(), const_cast<cups_option_t *>(options_.options())); // only read

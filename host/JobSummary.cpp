@@ -46,8 +46,11 @@ SummarySection sentSection(const JobRequest &request) {
   SummarySection section{messages::kSentSection, {}};
   try {
     const PrintSettingsStore options = optionsToSend(request);
-    for (int i = 0; i < options.optionCount(); i++)
-      section.lines.push_back({options.options()[i].name, options.options()[i].value});
+    for (int i = 0; i < options.optionCount(); i++) {
+      const cups_option_t &option = options.options()[i];
+      section.lines.push_back(
+          {option.name, isSecret(request, option.name) ? kHiddenValue : option.value});
+    }
   } catch (const Failure &failure) {
     section.lines.push_back({messages::kSentSection, failure.what()});
   }

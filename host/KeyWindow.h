@@ -33,6 +33,10 @@ struct ControlKey {
   NSView *control;    ///< The window's.
 };
 
+/// Has the window's delegate told to wake, when what is happening now is over. A modal loop looks
+/// only after an event whether it has been stopped; a timer is none.
+void wakeModalLoop(NSWindow *window);
+
 } // namespace imageposition
 
 /// Return confirms, also from an entry field, after the field has taken its text. Control with C,

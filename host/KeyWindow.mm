@@ -225,3 +225,20 @@ bool canBeReached(NSView *control) {
 }
 
 @end
+
+namespace imageposition {
+
+void wakeModalLoop(NSWindow *window) {
+  NSEvent *const event = [NSEvent otherEventWithType:NSApplicationDefined
+                                            location:NSZeroPoint
+                                       modifierFlags:0
+                                           timestamp:0
+                                        windowNumber:[window windowNumber]
+                                             context:nil
+                                             subtype:0
+                                               data1:0
+                                               data2:0];
+  [NSApp postEvent:event atStart:NO];
+}
+
+} // namespace imageposition

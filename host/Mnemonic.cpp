@@ -1,5 +1,8 @@
 #include "host/Mnemonic.hpp"
 
+#include <algorithm>
+#include <cctype>
+
 namespace imageposition {
 
 namespace {
@@ -40,6 +43,35 @@ MnemonicText readMnemonic(std::string_view marked) {
     }
   }
   return mnemonic;
+}
+
+std::string withKey(std::string_view text, std::string &used) {
+  const auto isFree = [&](char c) {
+    return std::isalnum(static_cast<unsigned char>(c)) != 0 && static_cast<signed char>(c) > 0 &&
+           std::none_of(used.begin(), used.end(), [=](char other) {
+             return std::tolower(static_cast<unsigned char>(other)) ==
+                    std::tolower(static_cast<unsigned char>(c));
+           });
+  };
+  const auto key = std::find_if(text.begin(), text.end(), isFree);
+  if (key != text.end()) {
+    used += *key;
+    const auto at = static_cast<std::size_t>(key - text.begin());
+    return withoutKey(text.substr(0, at)) + '&' + withoutKey(text.substr(at));
+  }
+  for (const char digit : std::string_view("123456789"))
+    if (isFree(digit)) {
+      used += digit;
+      return withoutKey(text) + "(&" + digit + ')';
+    }
+  return withoutKey(text);
+}
+
+std::string withoutKey(std::string_view text) {
+  std::string result;
+  for (const char c : text)
+    result += c == '&' ? std::string("&&") : std::string(1, c);
+  return result;
 }
 
 } // namespace imageposition

@@ -20,6 +20,13 @@ struct MnemonicText {
 
 MnemonicText readMnemonic(std::string_view marked);
 
+/// A text of somebody else's with a marker before the first ASCII letter or digit that is not among
+/// `used`, to which it is added; behind a text that has none a digit is added in parentheses.
+std::string withKey(std::string_view text, std::string &used);
+
+/// A text of somebody else's, to be shown as it is.
+std::string withoutKey(std::string_view text);
+
 } // namespace imageposition
 
 #endif

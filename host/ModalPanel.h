@@ -4,6 +4,7 @@
 
 #import "host/KeyWindow.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,10 @@ public:
 
   /// Shows it in the middle of `parent` and waits; true when the person confirmed. The views are
   /// those that take keys, in the order of Tab and before the buttons; `first` has the focus, or
-  /// the first of them, or the button that confirms. Main thread.
-  bool run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first = nil);
+  /// the first of them, or the button that confirms. `mayConfirm` is asked before the window goes,
+  /// and keeps it by answering false. Main thread.
+  bool run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first = nil,
+           const std::function<bool()> &mayConfirm = {});
 
 private:
   KeyWindow *window_; // owned

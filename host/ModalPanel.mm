@@ -6,12 +6,17 @@
 #include <algorithm>
 #include <cmath>
 
-@interface ModalPanelController : NSObject <KeyWindowDelegate>
+@interface ModalPanelController : NSObject <KeyWindowDelegate> {
+@public
+  const std::function<bool()> *mayConfirm; ///< Borrowed while the panel runs.
+}
 @end
 
 @implementation ModalPanelController
 
 - (void)confirm {
+  if (mayConfirm != nullptr && *mayConfirm && !(*mayConfirm)())
+    return;
   [NSApp stopModalWithCode:NSOKButton];
 }
 
@@ -70,7 +75,9 @@ CGFloat ModalPanel::bottom() const noexcept { return 2 * kPanelMargin + kButtonH
 
 void ModalPanel::add(NSView *view) { [[window_ contentView] addSubview:view]; }
 
-bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first) {
+bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first,
+                     const std::function<bool()> &mayConfirm) {
+  static_cast<ModalPanelController *>(controller_)->mayConfirm = &mayConfirm;
   std::vector<NSView *> loop = order;
   if (cancel_ != nil)
     loop.push_back(cancel_);
@@ -88,6 +95,7 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
   [window_ makeFirstResponder:first];
   [first setNeedsDisplay:YES]; // it has been drawn without the focus
   const NSInteger answer = [NSApp runModalForWindow:window_];
+  static_cast<ModalPanelController *>(controller_)->mayConfirm = nullptr;
   [window_ makeFirstResponder:nil];
   [window_ orderOut:nil];
   [parent makeKeyAndOrderFront:nil];

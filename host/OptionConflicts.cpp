@@ -4,6 +4,7 @@
 #include "host/OptionMessages.hpp"
 
 #include <algorithm>
+#include <map>
 #include <strings.h>
 
 namespace imageposition {
@@ -42,6 +43,22 @@ OptionConflict described(const OptionConstraint &constraint, ppd_file_t *ppd) {
         *side.option, side.choice != nullptr ? side.choice : markedChoiceOf(side.option, ppd)));
   conflict.sentence = messages::conflict(inWords(conflict.sides));
   return conflict;
+}
+
+bool isList(ppd_file_t *ppd, const std::string &keyword) {
+  const ppd_option_t *const option = ppdFindOption(ppd, keyword.c_str());
+  return option != nullptr && option->ui == PPD_UI_PICKMANY;
+}
+
+/// Of several choices that which is in conflict: CUPS thinks of one only.
+const ppd_choice_t *choiceToKeep(ppd_file_t *ppd, const std::string &keyword) {
+  if (isList(ppd, keyword))
+    for (const OptionConstraint &constraint : constraintsOf(ppd))
+      for (const ConstrainedOption &side : constraint)
+        if (isSame(side.option->keyword, keyword) && side.choice != nullptr &&
+            isViolated(constraint, ppd))
+          return side.choice;
+  return ppdFindMarkedChoice(ppd, keyword.c_str());
 }
 
 bool isSameSide(const NamedChoice &left, const NamedChoice &right) {
@@ -94,12 +111,53 @@ std::vector<OptionConflict> OptionConflicts::find() {
 }
 
 std::optional<ConflictProposal> OptionConflicts::proposal(const std::string &chosenLast) {
+  const auto cups = proposalOfCups(chosenLast);
+  const bool isSimple = cups && std::none_of(cups->changes.begin(), cups->changes.end(),
+                                             [&](const NamedChoice &change) {
+                                               return isList(printer_.ppd(), change.keyword);
+                                             });
+  if (isSimple)
+    return cups;
+  const auto lists = proposalOfLists(chosenLast);
+  return lists ? lists : cups;
+}
+
+std::optional<ConflictProposal> OptionConflicts::proposalOfLists(const std::string &chosenLast) {
+  ppd_file_t *const ppd = printer_.ppd();
+  std::map<std::string, ChoiceList> left; // by keyword
+  printer_.mark(job_);
+  for (const OptionConstraint &constraint : constraintsOf(ppd)) {
+    if (!isViolated(constraint, ppd))
+      continue;
+    for (const ConstrainedOption &side : constraint) {
+      const ppd_option_t &option = *side.option;
+      const ppd_choice_t *const choice =
+          side.choice != nullptr ? side.choice : markedChoiceOf(&option, ppd);
+      if (option.ui != PPD_UI_PICKMANY || choice == nullptr || isSame(option.keyword, chosenLast) ||
+          job_.isLocked(option.keyword))
+        continue;
+      const auto before = left.try_emplace(option.keyword, markedChoices(option)).first;
+      before->second = withChoice(option, before->second, choice->choice, false);
+    }
+  }
+  ConflictProposal proposal;
+  PrinterOptions options(printer_, job_);
+  for (const auto &[keyword, choices] : left)
+    if (const auto option = options.find(keyword))
+      proposal.changes.push_back({option->keyword, option->text, joinChoices(choices),
+                                  option->textOf(joinChoices(choices))});
+  if (proposal.changes.empty() || !endsAllConflicts(proposal))
+    return std::nullopt;
+  proposal.sentence = messages::conflictProposal(inWords(proposal.changes));
+  return proposal;
+}
+
+std::optional<ConflictProposal> OptionConflicts::proposalOfCups(const std::string &chosenLast) {
   printer_.mark(job_);
   ppd_file_t *const ppd = printer_.ppd();
   if (ppdConflicts(ppd) == 0)
     return std::nullopt;
-  const ppd_choice_t *const kept =
-      chosenLast.empty() ? nullptr : ppdFindMarkedChoice(ppd, chosenLast.c_str());
+  const ppd_choice_t *const kept = chosenLast.empty() ? nullptr : choiceToKeep(ppd, chosenLast);
   const Changes changes(ppd, kept != nullptr ? chosenLast : "",
                         kept != nullptr ? kept->choice : "");
   if (!changes.found())

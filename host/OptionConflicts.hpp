@@ -38,8 +38,8 @@ public:
   std::vector<OptionConflict> find();
 
   /// How to get rid of all conflicts. The option that was chosen last, when it is named, stays as
-  /// it is. None when there is no conflict, or CUPS knows no way out
-  /// without a locked option.
+  /// it is. Of an option that takes several choices only those in conflict go, where that is
+  /// enough. None when there is no conflict, or no way out without a locked option.
   std::optional<ConflictProposal> proposal(const std::string &chosenLast = {});
 
   /// Chooses what was proposed. False when a change is locked or no longer possible; the job is
@@ -47,6 +47,8 @@ public:
   bool take(const ConflictProposal &proposal);
 
 private:
+  std::optional<ConflictProposal> proposalOfCups(const std::string &chosenLast);
+  std::optional<ConflictProposal> proposalOfLists(const std::string &chosenLast);
   /// Some that CUPS finds do not: marking one option may unmark another.
   bool endsAllConflicts(const ConflictProposal &proposal);
 

@@ -1,5 +1,7 @@
 #include "host/OptionConstraints.hpp"
 
+#include "host/ChoiceList.hpp"
+
 #include <optional>
 #include <sstream>
 #include <string>
@@ -101,10 +103,7 @@ bool isPageSizeInForce(const ConstrainedOption &side, ppd_file_t *ppd) {
   return isSame(isCustom ? kCustom : size->name, side.choice->choice);
 }
 
-bool isOff(const ppd_choice_t *choice) {
-  return choice == nullptr || isSame(choice->choice, "None") || isSame(choice->choice, "Off") ||
-         isSame(choice->choice, "False");
-}
+bool isOff(const ppd_choice_t *choice) { return choice == nullptr || isNone(choice->choice); }
 
 bool holds(const ConstrainedOption &side, ppd_file_t *ppd) {
   if (side.choice == nullptr)
@@ -129,6 +128,9 @@ bool isViolated(const OptionConstraint &constraint, ppd_file_t *ppd) {
 }
 
 const ppd_choice_t *markedChoiceOf(const ppd_option_t *option, ppd_file_t *ppd) {
+  for (int i = 0; option->ui == PPD_UI_PICKMANY && i < option->num_choices; i++)
+    if (option->choices[i].marked && !isNone(option->choices[i].choice))
+      return &option->choices[i];
   return ppdFindMarkedChoice(ppd, option->keyword);
 }
 

@@ -23,7 +23,8 @@ std::vector<OptionConstraint> constraintsOf(ppd_file_t *ppd);
 /// Whether the marked choices violate it.
 bool isViolated(const OptionConstraint &constraint, ppd_file_t *ppd);
 
-/// The choice that is marked, for constraints that name none; may be null.
+/// The choice that is marked, for constraints that name none; may be null. Of several the first
+/// that is not "None", "Off" or "False".
 const ppd_choice_t *markedChoiceOf(const ppd_option_t *option, ppd_file_t *ppd);
 
 } // namespace imageposition

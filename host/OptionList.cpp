@@ -21,11 +21,11 @@ std::string writeOptionList(const std::vector<OptionGroup> &groups) {
     for (const PrinterOption &option : group.options) {
       list += "  " + option.keyword + ": " + onOneLine(option.text) + '\n';
       for (const OptionChoice &choice : option.choices) {
-        list += choice.keyword == option.chosen ? "  * " : "    ";
+        list += option.isChosen(choice.keyword) ? "  * " : "    ";
         list += choice.keyword + ": " + onOneLine(choice.text) + '\n';
       }
       if (option.takesCustomValue)
-        list += "    Custom.VALUE\n";
+        list += "    " + (option.custom ? customValueForm(*option.custom) : "Custom.VALUE") + '\n';
     }
   }
   return list;

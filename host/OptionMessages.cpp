@@ -23,6 +23,51 @@ std::string chosenOption(const std::string &option, const std::string &choice) {
   return text("\"{1}: {2}\"").with(option, choice);
 }
 
+std::string named(const std::string &name, const std::string &value) {
+  return text("{1}: {2}").with(name, value);
+}
+const Text kNothingChosen = textIn("choices", "None");
+
+const Text kPageWidth = text("Width");
+const Text kPageHeight = text("Height");
+std::string enteredValue(const std::string &value) { return text("Custom: {1}").with(value); }
+std::string widthByHeight(const std::string &width, const std::string &height) {
+  return text("{1} × {2}").with(width, height);
+}
+std::string inInches(const std::string &number) { return text("{1} in").with(number); }
+std::string inPoints(const std::string &number) { return text("{1} pt").with(number); }
+std::string fromTo(const std::string &low, const std::string &high) {
+  return text("{1} to {2}").with(low, high);
+}
+std::string digits(const std::string &count) { return text("Digits: {1}").with(count); }
+std::string letters(const std::string &count) { return text("Letters: {1}").with(count); }
+std::string entryNoNumber(const std::string &name, const std::string &range) {
+  return text("{1}: that is no number. Enter {2}.").with(name, range);
+}
+std::string entryNotWhole(const std::string &name, const std::string &range) {
+  return text("{1}: that is no whole number. Enter {2}.").with(name, range);
+}
+std::string entryOutOfRange(const std::string &name, const std::string &range) {
+  return text("{1}: that is out of range. Enter {2}.").with(name, range);
+}
+std::string entryLength(const std::string &name, const std::string &bytes,
+                        const std::string &range) {
+  // Translators: {1} is the name of a field, such as "Password"; {2} a number, {3} one or "4 to
+  // 16".
+  return text("{1}: that has a length of {2}. The printer takes {3}; a letter such as é counts as "
+              "two or more.")
+      .with(name, bytes, range);
+}
+std::string entryNoDigits(const std::string &name) {
+  return text("{1}: enter digits only.").with(name);
+}
+std::string entryHasBrackets(const std::string &name) {
+  return text("{1}: leave out curly brackets, which CUPS cannot carry there.").with(name);
+}
+std::string entryUnusable(const std::string &name) {
+  return text("{1}: no job can carry that. Enter something else.").with(name);
+}
+
 std::string conflict(const std::vector<std::string> &sides) {
   if (sides.size() == 1)
     return text("The printer cannot do {1}.").with(sides.front());
@@ -90,12 +135,20 @@ std::string presetCannotHold(const std::string &setting, const std::string &valu
   return text("The preset does not keep \"{1}\": CUPS's file cannot hold the value \"{2}\".")
       .with(setting, value);
 }
+std::string presetKeepsNoPassword(const std::string &option) {
+  return text("The preset does not keep \"{1}\": everybody who can read CUPS's file would read the "
+              "password.")
+      .with(option);
+}
 std::string misfitOption(const std::string &option, const std::string &value) {
   return text("\"{1}\" ({2}) was left out: this printer has no such option.").with(option, value);
 }
 std::string misfitChoice(const std::string &option, const std::string &value) {
   return text("\"{1}\" was left as it is: this printer does not offer \"{2}\".")
       .with(option, value);
+}
+std::string misfitEntered(const std::string &option, const std::string &problem) {
+  return text("\"{1}\" was left as it is: {2}").with(option, problem);
 }
 std::string misfitRange(const std::string &option, const std::string &value,
                         const std::string &lowest, const std::string &highest) {

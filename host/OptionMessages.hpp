@@ -16,6 +16,32 @@ std::string inOrder(const std::string &first, const std::string &second);
 /// An option with a choice, by their texts.
 std::string chosenOption(const std::string &option, const std::string &choice);
 
+/// "name: value", for one of several values.
+std::string named(const std::string &name, const std::string &value);
+/// Of an option that takes several choices.
+extern const Text kNothingChosen;
+
+// Values of a person's own. `name` is the parameter's, `range` what may be entered.
+extern const Text kPageWidth;
+extern const Text kPageHeight;
+/// "Custom: 100 × 200 mm".
+std::string enteredValue(const std::string &value);
+std::string widthByHeight(const std::string &width, const std::string &height);
+std::string inInches(const std::string &number);
+std::string inPoints(const std::string &number);
+/// "10 to 20".
+std::string fromTo(const std::string &low, const std::string &high);
+std::string digits(const std::string &count);
+std::string letters(const std::string &count);
+std::string entryNoNumber(const std::string &name, const std::string &range);
+std::string entryNotWhole(const std::string &name, const std::string &range);
+std::string entryOutOfRange(const std::string &name, const std::string &range);
+std::string entryLength(const std::string &name, const std::string &bytes,
+                        const std::string &range);
+std::string entryNoDigits(const std::string &name);
+std::string entryHasBrackets(const std::string &name);
+std::string entryUnusable(const std::string &name);
+
 // Conflicts.
 std::string conflict(const std::vector<std::string> &sides);
 std::string conflictProposal(const std::vector<std::string> &changes);
@@ -38,8 +64,10 @@ std::string presetTooLarge(const std::string &name);
 std::string presetsUnreadable(const std::string &path, const std::string &reason);
 std::string presetsUnwritable(const std::string &path, const std::string &reason);
 std::string presetCannotHold(const std::string &setting, const std::string &value);
+std::string presetKeepsNoPassword(const std::string &option);
 std::string misfitOption(const std::string &option, const std::string &value);
 std::string misfitChoice(const std::string &option, const std::string &value);
+std::string misfitEntered(const std::string &option, const std::string &problem);
 std::string misfitRange(const std::string &option, const std::string &value,
                         const std::string &lowest, const std::string &highest);
 

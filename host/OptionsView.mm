@@ -1,6 +1,9 @@
 #import "host/OptionsView.h"
 
+#import "host/ChoicePopUp.h"
 #import "host/Labels.h"
+#include "host/Mnemonic.hpp"
+#import "host/MnemonicControls.h"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
@@ -13,7 +16,8 @@ namespace imageposition {
 struct OptionsViewRow {
   std::string keyword;
   std::vector<std::string> choices;
-  NSPopUpButton *popUp; // the view's
+  NSPopUpButton *popUp;             // the view's; null where there are check boxes
+  std::vector<NSButton *> switches; // the view's; one for each choice
 };
 
 namespace {
@@ -29,18 +33,24 @@ std::string shapeOf(const std::vector<OptionGroup> &groups) {
     shape += group.text + '\n';
     for (const PrinterOption &option : group.options) {
       shape += option.keyword + '\t';
-      for (const OptionChoice &choice : option.choices)
-        shape += choice.keyword + '\t';
+      if (option.kind == PrinterOption::Kind::Several)
+        for (const OptionChoice &choice : option.choices)
+          shape += choice.keyword + '\t';
       shape += '\n';
     }
   }
   return shape;
 }
 
-void select(const OptionsViewRow &row, const PrinterOption &option) {
-  const auto chosen = std::find(row.choices.begin(), row.choices.end(), option.chosen);
-  [row.popUp selectItemAtIndex:chosen == row.choices.end() ? -1 : chosen - row.choices.begin()];
-  [row.popUp setEnabled:!option.isLocked];
+void select(OptionsViewRow &row, const PrinterOption &option) {
+  if (row.popUp != nil) {
+    row.choices = showChoices(row.popUp, option);
+    return;
+  }
+  for (std::size_t i = 0; i < row.switches.size(); i++) {
+    [row.switches[i] setState:option.isChosen(row.choices[i]) ? NSOnState : NSOffState];
+    [row.switches[i] setEnabled:!option.isLocked];
+  }
 }
 
 } // namespace
@@ -83,27 +93,52 @@ void select(const OptionsViewRow &row, const PrinterOption &option) {
 }
 
 - (void)choose:(id)sender {
-  const NSInteger tag = [sender tag];
-  const OptionsViewRow &row = (*rows)[tag];
+  const OptionsViewRow row = rows->at([sender tag]); // what is called may show others
   const NSInteger chosen = [sender indexOfSelectedItem];
-  if (chosen >= 0)
+  if (chosen >= static_cast<NSInteger>(row.choices.size()))
+    [owner option:row.keyword wantsValueBy:sender];
+  else if (chosen >= 0)
     [owner option:row.keyword wasChosen:row.choices[chosen] by:sender];
+}
+
+- (void)tick:(id)sender {
+  const OptionsViewRow row = rows->at([sender tag]);
+  const auto ticked = std::find(row.switches.begin(), row.switches.end(), sender);
+  if (ticked != row.switches.end())
+    [owner option:row.keyword
+           choice:row.choices[ticked - row.switches.begin()]
+        wasTicked:[sender state] == NSOnState
+               by:sender];
 }
 
 - (NSPopUpButton *)popUpFor:(const PrinterOption &)option frame:(NSRect)frame {
   NSPopUpButton *const popUp = [[[NSPopUpButton alloc] initWithFrame:frame
                                                            pullsDown:NO] autorelease];
-  OptionsViewRow row{option.keyword, {}, popUp};
-  for (const OptionChoice &choice : option.choices) {
-    [[popUp menu] addItemWithTitle:toString(choice.text) action:NULL keyEquivalent:@""];
-    row.choices.push_back(choice.keyword);
-  }
   [popUp setAutoenablesItems:NO];
   [popUp setTag:rows->size()];
   [popUp setTarget:self];
   [popUp setAction:@selector(choose:)];
-  rows->push_back(row);
+  rows->push_back({option.keyword, {}, popUp, {}});
   return popUp;
+}
+
+/// One below the other; answers the lower edge.
+- (CGFloat)addSwitchesFor:(const PrinterOption &)option to:(NSView *)document frame:(NSRect)frame {
+  OptionsViewRow row{option.keyword, {}, nil, {}};
+  for (const OptionChoice &choice : option.choices) {
+    NSButton *const button = makeSwitch(withoutKey(choice.text), self, @selector(tick:));
+    if (NSWidth([button frame]) > NSWidth(frame))
+      [button setToolTip:toString(choice.text)];
+    [button setFrame:NSMakeRect(NSMinX(frame), NSMinY(frame),
+                                std::min(NSWidth([button frame]), NSWidth(frame)), kRowHeight)];
+    [button setTag:rows->size()];
+    [document addSubview:button];
+    row.choices.push_back(choice.keyword);
+    row.switches.push_back(button);
+    frame.origin.y += kRowHeight;
+  }
+  rows->push_back(row);
+  return NSMinY(frame);
 }
 
 - (CGFloat)add:(const OptionGroup &)group to:(NSView *)document below:(CGFloat)top {
@@ -122,6 +157,10 @@ void select(const OptionsViewRow &row, const PrinterOption &option) {
     [document addSubview:title];
     const CGFloat left = kMargin + column + kColumnGap;
     const NSRect frame = NSMakeRect(left, top, width + kMargin - left, kRowHeight);
+    if (option.kind == PrinterOption::Kind::Several) {
+      top = [self addSwitchesFor:option to:document frame:frame] + kRowGap;
+      continue;
+    }
     [document addSubview:[self popUpFor:option frame:frame]];
     top += kRowHeight + kRowGap;
   }

@@ -1,5 +1,7 @@
 #include "host/PresetFit.hpp"
 
+#include "host/ChoiceList.hpp"
+#include "host/CustomValue.hpp"
 #include "host/OptionMessages.hpp"
 
 #include <algorithm>
@@ -68,6 +70,16 @@ bool isPageSizeAllowed(ppd_file_t *ppd, const std::string &value) {
          size->length <= ppd->custom_max[1] + kRounding;
 }
 
+/// For texts, lengths and several parameters at once.
+std::string misfitOfEntries(ppd_file_t *ppd, const char *keyword, const std::string &text,
+                            const std::string &value) {
+  const auto option = customOption(ppd, keyword);
+  if (!option || !readCustomValue(*option, value))
+    return messages::misfitChoice(text, isHiddenValue(ppd, keyword, value) ? "••••" : value);
+  const std::string problem = customValueProblem(*option, value);
+  return problem.empty() ? "" : messages::misfitEntered(text, problem);
+}
+
 /// For an option that takes a value of the person's own.
 std::string misfitOfEntered(ppd_file_t *ppd, ppd_coption_t &custom, const std::string &text,
                             const std::string &value) {
@@ -78,8 +90,7 @@ std::string misfitOfEntered(ppd_file_t *ppd, ppd_coption_t &custom, const std::s
   ppd_cparam_t *const parameter = ppdFirstCustomParam(&custom);
   Limits limits{};
   if (cupsArrayCount(custom.params) != 1 || parameter == nullptr || !limitsOf(*parameter, limits))
-    return startsWithCustom(value) || value.front() == '{' ? ""
-                                                           : messages::misfitChoice(text, value);
+    return misfitOfEntries(ppd, custom.keyword, text, value);
   const std::string digits = startsWithCustom(value) ? value.substr(7) : value;
   char *end = nullptr;
   const double number = std::strtod(digits.c_str(), &end);
@@ -101,6 +112,8 @@ std::string misfitOf(ppd_file_t *ppd, const std::string &name, const std::string
   if (isPlainChoice(*option, value))
     return {};
   const std::string text = *option->text != '\0' ? option->text : option->keyword;
+  if (option->ui == PPD_UI_PICKMANY)
+    return areChoices(*option, splitChoices(value)) ? "" : messages::misfitChoice(text, value);
   ppd_coption_t *const custom = ppdFindCustomOption(ppd, option->keyword);
   if (custom == nullptr || value.empty())
     return messages::misfitChoice(text, value);

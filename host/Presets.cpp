@@ -1,5 +1,6 @@
 #include "host/Presets.hpp"
 
+#include "host/CustomValue.hpp"
 #include "host/DestinationFile.hpp"
 #include "host/ExitCode.hpp"
 #include "host/FileReplacement.hpp"
@@ -201,8 +202,8 @@ std::vector<PresetName> Presets::ofOtherPrinters() const {
   return presets;
 }
 
-std::vector<std::string> Presets::save(const std::string &name,
-                                       const PrintSettingsStore &settings) const {
+std::vector<std::string> Presets::save(const std::string &name, const PrintSettingsStore &settings,
+                                       ppd_file_t *ppd) const {
   const std::string usable = usableName(name);
   std::vector<std::string> lost;
   PrintSettingsStore held;
@@ -210,7 +211,9 @@ std::vector<std::string> Presets::save(const std::string &name,
     const cups_option_t &option = settings.options()[i];
     if (!isKept(option.name))
       continue;
-    if (canBeHeld(option.value) && std::strchr(option.name, '#') == nullptr)
+    if (ppd != nullptr && isHiddenValue(ppd, option.name, option.value))
+      lost.push_back(messages::presetKeepsNoPassword(option.name));
+    else if (canBeHeld(option.value) && std::strchr(option.name, '#') == nullptr)
       held.set(option.name, option.value);
     else
       lost.push_back(messages::presetCannotHold(option.name, option.value));

@@ -1,5 +1,6 @@
 #include "host/PrinterDescription.hpp"
 
+#include "host/ChoiceList.hpp"
 #include "host/ExitCode.hpp"
 #include "host/Messages.hpp"
 
@@ -77,6 +78,10 @@ PrintSettingsStore defaultsOf(const QueueName &queue) {
 PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name)
     : ppd_(std::move(ppd)), name_(std::move(name)) {
   ppdMarkDefaults(ppd_.get());
+  for (ppd_option_t *option = ppdFirstOption(ppd_.get()); option != nullptr;
+       option = ppdNextOption(ppd_.get()))
+    if (option->ui == PPD_UI_PICKMANY)
+      lists_.push_back(option);
 }
 
 std::unique_ptr<ppd_file_t, PrinterDescription::Close>
@@ -125,6 +130,18 @@ void PrinterDescription::mark(const PrintSettingsStore &job) {
   for (const PrintSettingsStore *settings : {&std::as_const(queueDefaults_), &job})
     cupsMarkOptions(ppd(), settings->optionCount(),
                     const_cast<cups_option_t *>(settings->options())); // only read
+  markLists(job);
+}
+
+void PrinterDescription::markLists(const PrintSettingsStore &job) {
+  for (ppd_option_t *const option : lists_) {
+    bool isMarked = false;
+    for (const PrintSettingsStore *settings : {&job, &std::as_const(queueDefaults_)})
+      if (const char *const value = settings->get(option->keyword); value != nullptr && !isMarked)
+        isMarked = markChoices(ppd(), *option, splitChoices(value));
+    if (!isMarked)
+      markChoices(ppd(), *option, splitChoices(option->defchoice));
+  }
 }
 
 std::vector<std::string> PrinterDescription::attributeValues(const std::string &keyword) const {

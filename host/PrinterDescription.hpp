@@ -27,8 +27,12 @@ public:
   /// The queue's name, or the name that the PPD gives the printer.
   const std::string &name() const noexcept { return name_; }
 
-  /// Marks the choices that hold for a job: the printer's defaults, the queue's, then the job's.
+  /// Marks the choices that hold for a job: the printer's defaults, the queue's, then the job's. Of
+  /// an option that takes several choices at once the job's list holds instead of the default.
   void mark(const PrintSettingsStore &job);
+
+  /// What the queue's users, or an administrator, chose for all jobs. Empty for a file.
+  const PrintSettingsStore &queueDefaults() const noexcept { return queueDefaults_; }
 
   /// The values of all attributes with that keyword, in the file's order; those without a value are
   /// left out.
@@ -41,12 +45,15 @@ private:
 
   PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name);
 
+  void markLists(const PrintSettingsStore &job);
+
   static std::unique_ptr<ppd_file_t, Close> open(const std::string &path,
                                                  const std::string &shownPath);
 
   std::unique_ptr<ppd_file_t, Close> ppd_;
   std::string name_;
   PrintSettingsStore queueDefaults_;
+  std::vector<ppd_option_t *> lists_; ///< The options that take several choices; the PPD's.
 };
 
 } // namespace imageposition

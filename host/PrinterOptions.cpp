@@ -1,5 +1,6 @@
 #include "host/PrinterOptions.hpp"
 
+#include "host/OptionMessages.hpp"
 #include "host/WindowTexts.hpp"
 
 #include <algorithm>
@@ -26,8 +27,10 @@ std::string textOr(const char *text, const char *keyword) {
 /// The choice that CUPS adds to an option that takes a value of the person's own.
 bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, "Custom"); }
 
-std::string markedChoice(ppd_file_t *ppd, const char *keyword) {
-  const ppd_choice_t *const marked = ppdFindMarkedChoice(ppd, keyword);
+std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option) {
+  if (option.ui == PPD_UI_PICKMANY)
+    return joinChoices(markedChoices(option));
+  const ppd_choice_t *const marked = ppdFindMarkedChoice(ppd, option.keyword);
   return marked != nullptr ? marked->choice : "";
 }
 
@@ -36,7 +39,7 @@ using Marked = std::map<std::string, std::string>;
 
 void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Marked &marked) {
   for (int i = 0; i < group.num_options; i++)
-    marked[group.options[i].keyword] = markedChoice(ppd, group.options[i].keyword);
+    marked[group.options[i].keyword] = markedChoice(ppd, group.options[i]);
   for (int i = 0; i < group.num_subgroups; i++)
     collectMarked(ppd, group.subgroups[i], marked);
 }
@@ -55,11 +58,30 @@ constexpr std::pair<const char *, const char *> kAliases[] = {
     {"EFDuplex", "sides"},       {"KD03Duplex", "sides"},
     {"OutputBin", "output-bin"}, {"ColorModel", "print-color-mode"}};
 
+bool isEnteredValue(const std::string &value) {
+  return strncasecmp(value.c_str(), "Custom.", 7) == 0 || (!value.empty() && value.front() == '{');
+}
+
+/// The value that was entered for an option, under whatever name; empty for none.
+std::string enteredIn(const PrintSettingsStore &settings, const std::string &keyword) {
+  const char *const own = settings.get(keyword);
+  if (own != nullptr && isEnteredValue(own))
+    return own;
+  for (const auto &[name, alias] : kAliases) {
+    const char *const value = isSame(name, keyword) ? settings.get(alias) : nullptr;
+    for (const std::string &part : splitChoices(value != nullptr ? value : ""))
+      if (isEnteredValue(part))
+        return part;
+  }
+  return {};
+}
+
 /// Builds options from the PPD as it is marked for the job.
 class Builder {
 public:
-  Builder(ppd_file_t *ppd, const PrintSettingsStore &job, Marked defaults)
-      : ppd_(ppd), job_(job), defaults_(std::move(defaults)) {}
+  Builder(ppd_file_t *ppd, const PrintSettingsStore &job, const PrintSettingsStore &queue,
+          Marked defaults)
+      : ppd_(ppd), job_(job), queue_(queue), defaults_(std::move(defaults)) {}
 
   void addGroup(const ppd_group_t &source, std::vector<OptionGroup> &groups) const {
     OptionGroup group{textOr(source.name, source.text), textOr(source.text, source.name), {}};
@@ -76,34 +98,52 @@ public:
     PrinterOption option;
     option.keyword = source.keyword;
     option.text = textOr(source.text, source.keyword);
-    option.kind =
-        source.ui == PPD_UI_BOOLEAN ? PrinterOption::Kind::Switch : PrinterOption::Kind::List;
+    option.kind = source.ui == PPD_UI_BOOLEAN    ? PrinterOption::Kind::Switch
+                  : source.ui == PPD_UI_PICKMANY ? PrinterOption::Kind::Several
+                                                 : PrinterOption::Kind::List;
     option.isLocked = job_.isLocked(source.keyword);
     option.takesCustomValue = ppdFindCustomOption(ppd_, source.keyword) != nullptr;
+    if (option.kind != PrinterOption::Kind::Several)
+      option.custom = customOption(ppd_, source.keyword);
     for (int i = 0; i < source.num_choices; i++) {
       const ppd_choice_t &choice = source.choices[i];
       if (!(option.takesCustomValue && isCustom(choice)))
         option.choices.push_back({choice.choice, textOr(choice.text, choice.choice)});
     }
-    option.chosen = markedChoice(ppd_, source.keyword);
+    option.chosen = markedChoice(ppd_, source);
     const auto known = defaults_.find(source.keyword);
     if (known != defaults_.end())
       option.defaultChoice = known->second;
-    if (option.takesCustomValue && isSame(option.chosen, "Custom"))
+    if (option.takesCustomValue)
       nameEnteredValue(option);
     return option;
   }
 
 private:
-  /// Marking keeps the choice "Custom" alone; the job has the value.
+  /// Marking keeps the choice "Custom" alone; the job or the queue has the value.
   void nameEnteredValue(PrinterOption &option) const {
-    if (const char *const value = job_.get(option.keyword))
-      option.chosen = value;
-    option.choices.push_back({option.chosen, option.chosen});
+    if (isSame(option.defaultChoice, "Custom"))
+      if (std::string value = enteredIn(queue_, option.keyword); !value.empty())
+        option.defaultChoice = std::move(value);
+    const bool isMarked = isSame(option.chosen, "Custom");
+    if (!isMarked && !isNumber(option))
+      return;
+    std::string value = isMarked ? enteredIn(job_, option.keyword) : job_.get(option.keyword);
+    option.chosen = !value.empty() ? std::move(value) : option.defaultChoice;
+    option.choices.push_back({option.chosen, option.textOf(option.chosen)});
+  }
+
+  /// Some clients send a number by itself, which filters understand and marking does not.
+  bool isNumber(const PrinterOption &option) const {
+    const char *const value = job_.get(option.keyword);
+    return value != nullptr && option.custom && readCustomValue(*option.custom, value) &&
+           std::none_of(option.choices.begin(), option.choices.end(),
+                        [=](const OptionChoice &known) { return isSame(known.keyword, value); });
   }
 
   ppd_file_t *ppd_;
   const PrintSettingsStore &job_;
+  const PrintSettingsStore &queue_;
   Marked defaults_;
 };
 
@@ -111,16 +151,33 @@ Builder builderFor(PrinterDescription &printer, const PrintSettingsStore &job) {
   printer.mark(PrintSettingsStore());
   Marked defaults = allMarked(printer.ppd());
   printer.mark(job);
-  return Builder(printer.ppd(), job, std::move(defaults));
+  return Builder(printer.ppd(), job, printer.queueDefaults(), std::move(defaults));
 }
 
 } // namespace
 
+bool PrinterOption::isChosen(const std::string &choice) const {
+  return kind == Kind::Several ? contains(splitChoices(chosen), choice) : isSame(chosen, choice);
+}
+
 std::string PrinterOption::textOf(const std::string &choice) const {
   for (const OptionChoice &candidate : choices)
-    if (isSame(candidate.keyword, choice))
+    if (candidate.keyword == choice ||
+        (!isEnteredValue(choice) && isSame(candidate.keyword, choice)))
       return candidate.text;
-  return choice;
+  if (custom && readCustomValue(*custom, choice))
+    return messages::enteredValue(customValueText(*custom, choice));
+  if (kind != Kind::Several)
+    return choice;
+  std::string texts;
+  for (const std::string &one : splitChoices(choice)) {
+    const auto known = std::find_if(choices.begin(), choices.end(), [&](const OptionChoice &other) {
+      return isSame(other.keyword, one);
+    });
+    const std::string &name = known != choices.end() ? known->text : one;
+    texts = texts.empty() ? name : messages::inOrder(texts, name);
+  }
+  return texts.empty() ? messages::kNothingChosen.str() : texts;
 }
 
 PrinterOptions::PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job)
@@ -142,7 +199,7 @@ std::vector<OptionGroup> PrinterOptions::listed(const std::vector<std::string> &
     auto &options = group.options;
     const auto isOut = [&](const PrinterOption &option) {
       return isSame(option.keyword, "PageRegion") || contains(without, option.keyword) ||
-             option.choices.empty() || (option.takesCustomValue && option.choices.size() == 1);
+             (option.choices.empty() && !option.custom);
     };
     options.erase(std::remove_if(options.begin(), options.end(), isOut), options.end());
     if (!options.empty())
@@ -169,22 +226,41 @@ bool PrinterOptions::choose(const std::string &keyword, const std::string &choic
   const auto option = find(keyword);
   if (!option || option->isLocked)
     return false;
+  if (option->kind == PrinterOption::Kind::Several) {
+    const ppd_option_t &source = *ppdFindOption(printer_.ppd(), keyword.c_str());
+    const ChoiceList wanted = splitChoices(choice);
+    return areChoices(source, wanted) && store(*option, joinChoices(inOrder(source, wanted)));
+  }
+  if (isEnteredValue(choice))
+    return option->custom && customValueProblem(*option->custom, choice).empty() &&
+           store(*option, choice);
   const auto wanted =
       std::find_if(option->choices.begin(), option->choices.end(),
                    [&](const OptionChoice &known) { return isSame(known.keyword, choice); });
-  if (wanted == option->choices.end())
+  return wanted != option->choices.end() && store(*option, wanted->keyword);
+}
+
+bool PrinterOptions::tick(const std::string &keyword, const std::string &choice, bool on) {
+  const auto option = find(keyword);
+  if (!option || option->isLocked || option->kind != PrinterOption::Kind::Several)
     return false;
+  const ppd_option_t &source = *ppdFindOption(printer_.ppd(), keyword.c_str());
+  return areChoices(source, {choice}) &&
+         store(*option, joinChoices(withChoice(source, markedChoices(source), choice, on)));
+}
+
+bool PrinterOptions::store(const PrinterOption &option, const std::string &value) {
   for (const auto &[name, alias] : kAliases)
-    if (isSame(name, option->keyword))
+    if (isSame(name, option.keyword))
       job_.remove(alias); // else the job would say two things
-  if (wanted->keyword != option->defaultChoice)
-    job_.set(option->keyword, wanted->keyword);
-  else
-    job_.remove(option->keyword);
+  if (value == option.defaultChoice)
+    job_.remove(option.keyword);
+  else if (job_.set(option.keyword, value) != PrintSettingsStore::Outcome::Stored)
+    return false;
   printer_.mark(job_);
   // Another setting of the job may imply something else than the default.
-  if (markedChoice(printer_.ppd(), option->keyword.c_str()) != wanted->keyword) {
-    job_.set(option->keyword, wanted->keyword);
+  if (find(option.keyword)->chosen != value) {
+    job_.set(option.keyword, value);
     printer_.mark(job_);
   }
   return true;

@@ -2,6 +2,8 @@
 #ifndef IMAGEPOSITION_HOST_PRINTEROPTIONS_HPP
 #define IMAGEPOSITION_HOST_PRINTEROPTIONS_HPP
 
+#include "host/ChoiceList.hpp"
+#include "host/CustomValue.hpp"
 #include "host/PrinterDescription.hpp"
 
 #include <optional>
@@ -16,20 +18,23 @@ struct OptionChoice {
 };
 
 struct PrinterOption {
-  enum class Kind { Switch, List };
+  enum class Kind { Switch, List, Several };
 
   std::string keyword;
   std::string text; ///< Never empty.
   Kind kind = Kind::List;
   /// In the PPD's order. A value that is entered ("Custom.7") is among them only while it holds.
   std::vector<OptionChoice> choices;
-  std::string chosen;            ///< A choice's keyword; empty when nothing is marked.
-  std::string defaultChoice;     ///< The queue's, or else the PPD's; may be empty.
-  bool isLocked = false;         ///< The job's ticket does not let it change.
-  bool takesCustomValue = false; ///< A value may be entered that is not in the list.
+  std::string chosen;        ///< A choice's keyword, of `Several` a list; empty: nothing is marked.
+  std::string defaultChoice; ///< The queue's, or else the PPD's; may be empty.
+  bool isLocked = false;     ///< The job's ticket does not let it change.
+  bool takesCustomValue = false;      ///< A value may be given that is not in the list.
+  std::optional<CustomOption> custom; ///< How such a value is entered; none where nobody knows.
 
   bool differsFromDefault() const { return chosen != defaultChoice; }
-  /// The choice's text; its keyword when it is none of the choices.
+  /// Whether the choice, of `Several` one of them, holds.
+  bool isChosen(const std::string &choice) const;
+  /// The choice's text, or those of a list; of a value that is entered what a person reads of it.
   std::string textOf(const std::string &choice) const;
 };
 
@@ -52,8 +57,7 @@ public:
 
   /// What a pane of options shows: without these keywords (of options that have a place elsewhere
   /// in the window, and those that panels announce), without "PageRegion", which only repeats
-  /// "PageSize", and without options that leave nothing to choose but an entered value. No group is
-  /// empty.
+  /// "PageSize", and without options that leave nothing to choose or enter. No group is empty.
   std::vector<OptionGroup> listed(const std::vector<std::string> &without);
 
   /// Keywords match without regard to case.
@@ -64,10 +68,16 @@ public:
   std::optional<PrinterOption> twoSided();
 
   /// Stores the choice in the job, or removes the job's entry when it is the default, and marks the
-  /// PPD. False, and nothing changes, when there is no such option or choice, or it is locked.
+  /// PPD. A list of choices is one, too, and a value that the option lets a person enter. False,
+  /// and nothing changes, when there is no such option or choice, or it is locked.
   bool choose(const std::string &keyword, const std::string &choice);
 
+  /// The same for one choice of an option that takes several; see `withChoice`.
+  bool tick(const std::string &keyword, const std::string &choice, bool on);
+
 private:
+  bool store(const PrinterOption &option, const std::string &value);
+
   PrinterDescription &printer_;
   PrintSettingsStore &job_;
 };

@@ -32,6 +32,11 @@ extern const Text kOddPages;
 extern const Text kEvenPages;
 extern const Text kPageRange;
 extern const Text kSaveAsTicket;
+extern const Text kEnterValue;
+extern const Text kUnitRow;
+extern const Text kMillimetres;
+extern const Text kInches;
+extern const Text kPoints;
 extern const Text kNotOffered; ///< In a pop-up of what the printer has no choice of.
 extern const Text kOptionsPane;
 extern const Text kSummaryTitle;

@@ -50,6 +50,7 @@ protected:
       return shown.keyWindow == "The job waits" && shown.says(why);
     }));
     ASSERT_TRUE(comesTrue([&] { return window.hasKeyboard("The job waits"); }));
+    EXPECT_FALSE(window.screen().says("Sending")) << "that is over";
     EXPECT_FALSE(window.process().hasEnded());
     window.press(key);
   }

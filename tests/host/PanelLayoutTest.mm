@@ -5,8 +5,10 @@
 #import "host/NamePanel.h"
 #import "host/PasswordPanel.h"
 #import "host/Theme.h"
+#import "host/ValuePanel.h"
 
 #include "host/Language.hpp"
+#include "host/OptionMessages.hpp"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 #include "tests/host/TemporaryFolder.hpp"
@@ -125,6 +127,20 @@ TEST_F(PanelLayout, TheQuestionForAPasswordHasRoomForItsTexts) {
   askForPassword(parent_, "office", {"somebody", false});
   askForPassword(parent_, "the printer on the second floor beside the stairs", {"somebody", true});
   EXPECT_EQ(visited(), 2);
+}
+
+TEST_F(PanelLayout, TheQuestionForAValueHasRoomForItsTexts) {
+  CustomParameter side{"Width", messages::kPageWidth, CustomParameter::Kind::Length, 200, 40000,
+                       false};
+  CustomParameter text{"Words", "Words of the Watermark", CustomParameter::Kind::Text, 1, 100,
+                       true};
+  CustomParameter secret = text;
+  secret.kind = CustomParameter::Kind::Password;
+  for (const CustomOption &option : {CustomOption{"PageSize", true, {side, side}},
+                                     CustomOption{"Watermark", false, {side, text, secret}},
+                                     CustomOption{"Secret", false, {text}}})
+    askForValue(parent_, "Watermark", option, "", LengthUnit::Inch);
+  EXPECT_EQ(visited(), 3);
 }
 
 TEST_F(PanelLayout, TheQuestionsForATicketsFileHaveRoomForTheirTexts) {

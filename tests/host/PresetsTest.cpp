@@ -66,7 +66,7 @@ TEST_F(PresetsTest, ThereAreNoneAtFirstAndLookingLeavesNothing) {
 TEST_F(PresetsTest, WhatIsSavedIsLoaded) {
   const auto saved = settings({{"Duplex", "DuplexTumble"},
                                {"LeftRightMargin", "-3"},
-                               {"Watermark", "Custom.It's \"mine\", \\ {really}"},
+                               {"Watermark", "Custom.It's \"my\", \\ {yes}"},
                                {"copies", "2"}});
   EXPECT_THAT(presets.save("draft", saved), IsEmpty());
   EXPECT_THAT(presets.names(), ElementsAre("draft"));

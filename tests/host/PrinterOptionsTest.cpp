@@ -47,7 +47,8 @@ TEST_F(PrinterOptionsTest, EveryOptionStandsInItsGroup) {
 TEST_F(PrinterOptionsTest, ThePaneLeavesOutWhatHasItsPlaceElsewhere) {
   EXPECT_THAT(keywords(options.listed({"pagesize", "Duplex", "OptionalTray"})),
               ElementsAre("Paper and Trays/MediaType", "Paper and Trays/InputSlot",
-                          "Finishing/Stapler", "Finishing/Fold", "Finishing/Watermark"));
+                          "Finishing/Stapler", "Finishing/Fold", "Finishing/LeftRightMargin",
+                          "Finishing/Watermark"));
 }
 
 TEST_F(PrinterOptionsTest, OptionsAndChoicesHaveTexts) {

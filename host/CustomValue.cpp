@@ -1,0 +1,359 @@
+#include "host/CustomValue.hpp"
+
+#include "host/OptionMessages.hpp"
+#include "host/OptionText.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <strings.h>
+
+namespace imageposition {
+
+namespace {
+
+using Kind = CustomParameter::Kind;
+
+constexpr const char kPrefix[] = "Custom.";
+constexpr std::size_t kPrefixLength = sizeof kPrefix - 1;
+constexpr const char *kHidden = "••••"; // its length is nobody's business either
+constexpr double kRounding = 0.5;       // points
+constexpr int kRealDecimals = 4;
+
+bool isEntered(const std::string &value) {
+  return strncasecmp(value.c_str(), kPrefix, kPrefixLength) == 0;
+}
+
+std::optional<Kind> kindOf(ppd_cptype_t type) {
+  switch (type) {
+  case PPD_CUSTOM_INT:
+    return Kind::Integer;
+  case PPD_CUSTOM_REAL:
+  case PPD_CUSTOM_CURVE:
+  case PPD_CUSTOM_INVCURVE:
+    return Kind::Real;
+  case PPD_CUSTOM_POINTS:
+    return Kind::Length;
+  case PPD_CUSTOM_STRING:
+    return Kind::Text;
+  case PPD_CUSTOM_PASSWORD:
+    return Kind::Password;
+  case PPD_CUSTOM_PASSCODE:
+    return Kind::Passcode;
+  default:
+    return std::nullopt;
+  }
+}
+
+/// The member of libcups's union that belongs to the type.
+double limit(const ppd_cplimit_t &limit, ppd_cptype_t type) {
+  switch (type) {
+  case PPD_CUSTOM_REAL:
+  case PPD_CUSTOM_CURVE:
+  case PPD_CUSTOM_INVCURVE:
+  case PPD_CUSTOM_POINTS:
+    return limit.custom_real;
+  default:
+    return limit.custom_int;
+  }
+}
+
+std::optional<CustomParameter> parameterOf(const ppd_cparam_t &source) {
+  const auto kind = kindOf(source.type);
+  if (!kind)
+    return std::nullopt;
+  CustomParameter parameter;
+  parameter.name = source.name;
+  parameter.text = *source.text != '\0' ? source.text : source.name;
+  parameter.kind = *kind;
+  const double one = limit(source.minimum, source.type), other = limit(source.maximum, source.type);
+  parameter.minimum = std::min(one, other);
+  parameter.maximum = std::max(one, other);
+  return parameter;
+}
+
+CustomOption pageSizeOption(const ppd_file_t &ppd) {
+  const auto parameter = [&](const char *name, const Text &text, int side) {
+    CustomParameter result;
+    result.name = name;
+    result.text = text;
+    result.kind = Kind::Length;
+    result.minimum = std::min(ppd.custom_min[side], ppd.custom_max[side]);
+    result.maximum = std::max(ppd.custom_min[side], ppd.custom_max[side]);
+    return result;
+  };
+  return {
+      "PageSize",
+      true,
+      {parameter("Width", messages::kPageWidth, 0), parameter("Height", messages::kPageHeight, 1)}};
+}
+
+std::optional<CustomEntries> readPageSize(const std::string &value) {
+  const std::string size = value.substr(kPrefixLength);
+  const std::size_t by = size.find('x');
+  if (by == std::string::npos)
+    return std::nullopt;
+  const std::size_t end = size.find_last_of("0123456789.");
+  const std::string unit = end == std::string::npos ? "" : size.substr(end + 1);
+  const auto width = readLength(size.substr(0, by) + unit);
+  const auto height = readLength(size.substr(by + 1));
+  if (!width || !height)
+    return std::nullopt;
+  return CustomEntries{writeLength(*width), writeLength(*height)};
+}
+
+CustomEntries readSeveral(const CustomOption &option, const std::string &value) {
+  cups_option_t *options = nullptr;
+  const int count = cupsParseOptions(value.c_str(), 0, &options);
+  CustomEntries entries;
+  for (const CustomParameter &parameter : option.parameters) {
+    const char *const entry = cupsGetOption(parameter.name.c_str(), count, options);
+    entries.emplace_back(entry != nullptr ? entry : "");
+  }
+  cupsFreeOptions(count, options);
+  return entries;
+}
+
+std::string entryText(const CustomParameter &parameter, const std::string &entry) {
+  if (parameter.isHidden())
+    return kHidden;
+  if (parameter.isText())
+    return entry;
+  if (parameter.kind != Kind::Length)
+    return numberInWords(entry);
+  const auto length = readLength(entry);
+  return length ? inUnit(numberInWords(plainNumber(length->number, decimalsOf(length->unit))),
+                         length->unit)
+                : entry;
+}
+
+std::string pageSizeText(const CustomEntries &entries) {
+  const auto width = readLength(entries[0]), height = readLength(entries[1]);
+  if (!width || !height)
+    return {};
+  const auto number = [](const Length &length) {
+    return numberInWords(plainNumber(length.number, decimalsOf(length.unit)));
+  };
+  return inUnit(messages::widthByHeight(number(*width), number(convert(*height, width->unit))),
+                width->unit);
+}
+
+/// An end of a range, rounded into it.
+std::string endText(const CustomParameter &parameter, double end, bool isLower, LengthUnit unit) {
+  if (parameter.kind != Kind::Length)
+    return plainNumber(end, kRealDecimals);
+  const int decimals = decimalsOf(unit);
+  const double scale = std::pow(10, decimals);
+  constexpr double kFloatingPoint = 1e-6;
+  const double scaled = convert({end, LengthUnit::Point}, unit).number * scale;
+  return plainNumber(
+      (isLower ? std::ceil(scaled - kFloatingPoint) : std::floor(scaled + kFloatingPoint)) / scale,
+      decimals);
+}
+
+std::string rangeInWords(const CustomParameter &parameter, LengthUnit unit) {
+  const std::string low = numberInWords(endText(parameter, parameter.minimum, true, unit));
+  const std::string high = numberInWords(endText(parameter, parameter.maximum, false, unit));
+  return low == high ? low : messages::fromTo(low, high);
+}
+
+CheckedEntry checkText(const CustomParameter &parameter, const std::string &typed) {
+  const bool isControl = std::any_of(typed.begin(), typed.end(), [](char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+  });
+  if (isControl || !PrintSettingsStore::isUsableValue(typed))
+    return {"", messages::entryUnusable(parameter.text)};
+  if (parameter.kind == Kind::Passcode && typed.find_first_not_of("0123456789") != typed.npos)
+    return {"", messages::entryNoDigits(parameter.text)};
+  if (parameter.isOneOfSeveral && typed.find_first_of("{}") != std::string::npos)
+    return {"", messages::entryHasBrackets(parameter.text)};
+  const auto bytes = static_cast<double>(typed.size());
+  if (bytes < parameter.minimum || bytes > parameter.maximum)
+    return {"", messages::entryLength(parameter.text, std::to_string(typed.size()),
+                                      rangeInWords(parameter, LengthUnit::Point))};
+  return {typed, ""};
+}
+
+CheckedEntry checkLength(const CustomParameter &parameter, const std::string &typed,
+                         LengthUnit unit) {
+  const auto length = readLength(typed, unit);
+  if (!length)
+    return {"", messages::entryNoNumber(parameter.text, rangeText(parameter, unit))};
+  const Length rounded = *readLength(writeLength(*length));
+  const double points = toPoints(rounded).count;
+  if (points < parameter.minimum - kRounding || points > parameter.maximum + kRounding)
+    return {"", messages::entryOutOfRange(parameter.text, rangeText(parameter, unit))};
+  return {writeLength(rounded), ""};
+}
+
+CheckedEntry checkNumber(const CustomParameter &parameter, const std::string &typed) {
+  const auto number = readNumber(typed);
+  const std::string range = rangeText(parameter, LengthUnit::Point);
+  if (!number)
+    return {"", messages::entryNoNumber(parameter.text, range)};
+  if (parameter.kind == Kind::Integer && *number != std::floor(*number))
+    return {"", messages::entryNotWhole(parameter.text, range)};
+  if (*number < parameter.minimum || *number > parameter.maximum)
+    return {"", messages::entryOutOfRange(parameter.text, range)};
+  return {plainNumber(*number, parameter.kind == Kind::Integer ? 0 : kRealDecimals), ""};
+}
+
+} // namespace
+
+bool CustomOption::hasHidden() const noexcept {
+  return std::any_of(parameters.begin(), parameters.end(),
+                     [](const CustomParameter &parameter) { return parameter.isHidden(); });
+}
+
+bool CustomOption::hasLength() const noexcept {
+  return std::any_of(parameters.begin(), parameters.end(), [](const CustomParameter &parameter) {
+    return parameter.kind == Kind::Length;
+  });
+}
+
+std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &keyword) {
+  ppd_coption_t *const source = ppdFindCustomOption(ppd, keyword.c_str());
+  if (source == nullptr)
+    return std::nullopt;
+  if (strcasecmp(keyword.c_str(), "PageSize") == 0)
+    return ppd->variable_sizes != 0 ? std::optional(pageSizeOption(*ppd)) : std::nullopt;
+  CustomOption option{source->keyword, false, {}};
+  std::vector<const ppd_cparam_t *> parameters;
+  for (ppd_cparam_t *parameter = ppdFirstCustomParam(source); parameter != nullptr;
+       parameter = ppdNextCustomParam(source))
+    parameters.push_back(parameter);
+  std::stable_sort(parameters.begin(), parameters.end(),
+                   [](const auto *left, const auto *right) { return left->order < right->order; });
+  for (const ppd_cparam_t *known : parameters) {
+    auto parameter = parameterOf(*known);
+    if (!parameter)
+      return std::nullopt;
+    parameter->isOneOfSeveral = parameters.size() > 1;
+    option.parameters.push_back(std::move(*parameter));
+  }
+  return option.parameters.empty() ? std::nullopt : std::optional(option);
+}
+
+std::optional<CustomEntries> readCustomValue(const CustomOption &option, const std::string &value) {
+  const CustomParameter &first = option.parameters.front();
+  if (isEntered(value)) {
+    if (option.isPageSize)
+      return readPageSize(value);
+    CustomEntries entries(option.parameters.size());
+    entries.front() = value.substr(kPrefixLength); // as CUPS reads it
+    return entries;
+  }
+  if (!option.isPageSize && !value.empty() && value.front() == '{')
+    return readSeveral(option, value);
+  if (option.parameters.size() == 1 && !first.isText() && readNumber(value))
+    return CustomEntries{value};
+  return std::nullopt;
+}
+
+std::string writeCustomValue(const CustomOption &option, const CustomEntries &entries) {
+  if (option.isPageSize) {
+    Length width = readLength(entries[0]).value_or(Length());
+    Length height = readLength(entries[1]).value_or(Length());
+    if (width.unit != height.unit) {
+      width = convert(width, LengthUnit::Point);
+      height = convert(height, LengthUnit::Point);
+    }
+    return kPrefix + plainNumber(width.number, decimalsOf(width.unit)) + "x" + writeLength(height);
+  }
+  if (entries.size() == 1)
+    return kPrefix + entries.front();
+  std::string value;
+  for (std::size_t i = 0; i < entries.size(); i++)
+    value += (i == 0 ? "{" : " ") + writeOptionArgument(option.parameters[i].name, entries[i]);
+  return value + "}";
+}
+
+std::string customValueForm(const CustomOption &option) {
+  if (option.isPageSize)
+    return "Custom.WIDTHxHEIGHT";
+  if (option.parameters.size() == 1)
+    return "Custom.VALUE";
+  std::string form;
+  for (const CustomParameter &parameter : option.parameters)
+    form += (form.empty() ? "{" : " ") + parameter.name + "=VALUE";
+  return form + "}";
+}
+
+std::string customValueText(const CustomOption &option, const std::string &value) {
+  const auto entries = readCustomValue(option, value);
+  if (!entries)
+    return option.hasHidden() ? kHidden : value;
+  if (option.isPageSize) {
+    const std::string size = pageSizeText(*entries);
+    return size.empty() ? value : size;
+  }
+  if (entries->size() == 1)
+    return entryText(option.parameters.front(), entries->front());
+  std::string text;
+  for (std::size_t i = 0; i < entries->size(); i++) {
+    const std::string part =
+        messages::named(option.parameters[i].text, entryText(option.parameters[i], (*entries)[i]));
+    text = text.empty() ? part : messages::inOrder(text, part);
+  }
+  return text;
+}
+
+CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typed,
+                        LengthUnit unit) {
+  if (parameter.isText())
+    return checkText(parameter, typed);
+  return parameter.kind == Kind::Length ? checkLength(parameter, typed, unit)
+                                        : checkNumber(parameter, typed);
+}
+
+std::string customValueProblem(const CustomOption &option, const std::string &value) {
+  const auto entries = readCustomValue(option, value);
+  if (!entries)
+    return messages::entryUnusable(option.keyword);
+  for (std::size_t i = 0; i < entries->size(); i++) {
+    const CheckedEntry checked = checkEntry(option.parameters[i], (*entries)[i], LengthUnit::Point);
+    if (!checked.problem.empty())
+      return checked.problem;
+  }
+  return {};
+}
+
+std::string rangeText(const CustomParameter &parameter, LengthUnit unit) {
+  const std::string range = rangeInWords(parameter, unit);
+  if (parameter.kind == Kind::Length)
+    return inUnit(range, unit);
+  if (parameter.kind == Kind::Passcode)
+    return messages::digits(range);
+  return parameter.isText() ? messages::letters(range) : range;
+}
+
+std::string initialEntry(const CustomParameter &parameter, LengthUnit unit) {
+  return parameter.isText() ? "" : numberInWords(endText(parameter, parameter.minimum, true, unit));
+}
+
+bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::string &value) {
+  const auto option = customOption(ppd, keyword);
+  if (!option || !option->hasHidden())
+    return false;
+  ppd_option_t *const source = ppdFindOption(ppd, keyword.c_str());
+  const bool isEntry = isEntered(value) || (!value.empty() && value.front() == '{');
+  return isEntry || source == nullptr || ppdFindChoice(source, value.c_str()) == nullptr;
+}
+
+std::vector<std::string> hiddenSettings(ppd_file_t *ppd, const PrintSettingsStore &settings) {
+  std::vector<std::string> names;
+  for (int i = 0; i < settings.optionCount(); i++)
+    if (isHiddenValue(ppd, settings.options()[i].name, settings.options()[i].value))
+      names.emplace_back(settings.options()[i].name);
+  return names;
+}
+
+std::vector<std::string> compoundOptions(ppd_file_t *ppd) {
+  std::vector<std::string> names;
+  for (ppd_option_t *option = ppdFirstOption(ppd); option != nullptr; option = ppdNextOption(ppd))
+    if (const auto custom = customOption(ppd, option->keyword))
+      if (!custom->isPageSize && custom->parameters.size() > 1)
+        names.emplace_back(option->keyword);
+  return names;
+}
+
+} // namespace imageposition
