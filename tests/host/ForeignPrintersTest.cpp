@@ -144,6 +144,21 @@ struct DrawnJob {
   bool conflicts = false;
 };
 
+/// What a value of one's own looks like.
+std::string enteredForm(ppd_coption_t &option) {
+  if (option.keyword == std::string("PageSize"))
+    return "Custom.WIDTHxHEIGHT";
+  std::multimap<int, std::string> parts; // by their place in the driver's own code
+  for (ppd_cparam_t *part = ppdFirstCustomParam(&option); part; part = ppdNextCustomParam(&option))
+    parts.emplace(part->order, part->name);
+  if (parts.size() < 2)
+    return "Custom.VALUE";
+  std::string form;
+  for (const auto &[order, name] : parts)
+    form += " " + name + "=VALUE";
+  return "{" + form.substr(1) + "}";
+}
+
 /// A choice of each option, and both sides of a constraint where there is one, drawn with the same
 /// luck every time.
 DrawnJob drawJob(const std::string &path, std::mt19937 &random) {
@@ -155,9 +170,9 @@ DrawnJob drawJob(const std::string &path, std::mt19937 &random) {
     job.lines.insert(option->keyword);
     for (int i = 0; i < option->num_choices; i++) {
       const std::string choice = option->choices[i].choice;
-      const bool isEntered =
-          choice == "Custom" && ppdFindCustomOption(ppd, option->keyword) != nullptr;
-      job.lines.insert(option->keyword + (isEntered ? " Custom.VALUE" : " " + choice));
+      ppd_coption_t *const custom =
+          choice == "Custom" ? ppdFindCustomOption(ppd, option->keyword) : nullptr;
+      job.lines.insert(option->keyword + (" " + (custom ? enteredForm(*custom) : choice)));
       if (choice != "Custom" && random() % (i + 1) == 0)
         drawn[option->keyword] = choice;
     }
