@@ -146,7 +146,7 @@ void Builder::makeWindow() {
   if (isNarrow) {
     size.width = std::min(room_.width,
                           std::max(pane_.width, rowsWidth + kMargin + picture.width) + 2 * kMargin);
-    picture.width = std::clamp(size.width - rowsWidth - 3 * kMargin, 0.0, picture.width);
+    picture.width = std::clamp<CGFloat>(size.width - rowsWidth - 3 * kMargin, 0.0, picture.width);
     picture.height = std::min(picture.height, rows);
     pane_.width = size.width - 2 * kMargin;
   }
