@@ -4,8 +4,8 @@
 #include "host/OptionText.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <strings.h>
+#include <utility>
 
 namespace imageposition {
 
@@ -15,11 +15,8 @@ using Kind = CustomParameter::Kind;
 
 constexpr const char kPrefix[] = "Custom.";
 constexpr std::size_t kPrefixLength = sizeof kPrefix - 1;
-constexpr const char *kHidden = "••••"; // its length is nobody's business either
-constexpr double kRounding = 0.5;       // points
-constexpr int kRealDecimals = 4;
 
-bool isEntered(const std::string &value) {
+bool hasPrefix(const std::string &value) {
   return strncasecmp(value.c_str(), kPrefix, kPrefixLength) == 0;
 }
 
@@ -71,6 +68,11 @@ std::optional<CustomParameter> parameterOf(const ppd_cparam_t &source) {
   return parameter;
 }
 
+/// A PPD can promise sizes of one's own and name none.
+bool hasPageSizes(const ppd_file_t &ppd) {
+  return ppd.variable_sizes != 0 && ppd.custom_max[0] > 0 && ppd.custom_max[1] > 0;
+}
+
 CustomOption pageSizeOption(const ppd_file_t &ppd) {
   const auto parameter = [&](const char *name, const Text &text, int side) {
     CustomParameter result;
@@ -87,10 +89,9 @@ CustomOption pageSizeOption(const ppd_file_t &ppd) {
       {parameter("Width", messages::kPageWidth, 0), parameter("Height", messages::kPageHeight, 1)}};
 }
 
-std::optional<CustomEntries> readPageSize(const std::string &value) {
-  const std::string size = value.substr(kPrefixLength);
+std::optional<CustomEntries> readPageSize(const std::string &size) {
   const std::size_t by = size.find('x');
-  if (by == std::string::npos)
+  if (by == std::string::npos || size.find_first_of(", \t") != std::string::npos)
     return std::nullopt;
   const std::size_t end = size.find_last_of("0123456789.");
   const std::string unit = end == std::string::npos ? "" : size.substr(end + 1);
@@ -99,6 +100,11 @@ std::optional<CustomEntries> readPageSize(const std::string &value) {
   if (!width || !height)
     return std::nullopt;
   return CustomEntries{writeLength(*width), writeLength(*height)};
+}
+
+/// Elsewhere blanks and a decimal comma are taken; CUPS would stop reading there.
+bool isInForm(const CustomParameter &parameter, const std::string &entry) {
+  return parameter.isText() || entry.find_first_of(", \t") == std::string::npos;
 }
 
 CustomEntries readSeveral(const CustomOption &option, const std::string &value) {
@@ -115,7 +121,7 @@ CustomEntries readSeveral(const CustomOption &option, const std::string &value) 
 
 std::string entryText(const CustomParameter &parameter, const std::string &entry) {
   if (parameter.isHidden())
-    return kHidden;
+    return kHiddenValue;
   if (parameter.isText())
     return entry;
   if (parameter.kind != Kind::Length)
@@ -137,67 +143,25 @@ std::string pageSizeText(const CustomEntries &entries) {
                 width->unit);
 }
 
-/// An end of a range, rounded into it.
-std::string endText(const CustomParameter &parameter, double end, bool isLower, LengthUnit unit) {
-  if (parameter.kind != Kind::Length)
-    return plainNumber(end, kRealDecimals);
-  const int decimals = decimalsOf(unit);
-  const double scale = std::pow(10, decimals);
-  constexpr double kFloatingPoint = 1e-6;
-  const double scaled = convert({end, LengthUnit::Point}, unit).number * scale;
-  return plainNumber(
-      (isLower ? std::ceil(scaled - kFloatingPoint) : std::floor(scaled + kFloatingPoint)) / scale,
-      decimals);
-}
-
-std::string rangeInWords(const CustomParameter &parameter, LengthUnit unit) {
-  const std::string low = numberInWords(endText(parameter, parameter.minimum, true, unit));
-  const std::string high = numberInWords(endText(parameter, parameter.maximum, false, unit));
-  return low == high ? low : messages::fromTo(low, high);
-}
-
-CheckedEntry checkText(const CustomParameter &parameter, const std::string &typed) {
-  const bool isControl = std::any_of(typed.begin(), typed.end(), [](char c) {
-    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
-  });
-  if (isControl || !PrintSettingsStore::isUsableValue(typed))
-    return {"", messages::entryUnusable(parameter.text)};
-  if (parameter.kind == Kind::Passcode && typed.find_first_not_of("0123456789") != typed.npos)
-    return {"", messages::entryNoDigits(parameter.text)};
-  if (parameter.isOneOfSeveral && typed.find_first_of("{}") != std::string::npos)
-    return {"", messages::entryHasBrackets(parameter.text)};
-  const auto bytes = static_cast<double>(typed.size());
-  if (bytes < parameter.minimum || bytes > parameter.maximum)
-    return {"", messages::entryLength(parameter.text, std::to_string(typed.size()),
-                                      rangeInWords(parameter, LengthUnit::Point))};
-  return {typed, ""};
-}
-
-CheckedEntry checkLength(const CustomParameter &parameter, const std::string &typed,
-                         LengthUnit unit) {
-  const auto length = readLength(typed, unit);
-  if (!length)
-    return {"", messages::entryNoNumber(parameter.text, rangeText(parameter, unit))};
-  const Length rounded = *readLength(writeLength(*length));
-  const double points = toPoints(rounded).count;
-  if (points < parameter.minimum - kRounding || points > parameter.maximum + kRounding)
-    return {"", messages::entryOutOfRange(parameter.text, rangeText(parameter, unit))};
-  return {writeLength(rounded), ""};
-}
-
-CheckedEntry checkNumber(const CustomParameter &parameter, const std::string &typed) {
-  const auto number = readNumber(typed);
-  const std::string range = rangeText(parameter, LengthUnit::Point);
-  if (!number)
-    return {"", messages::entryNoNumber(parameter.text, range)};
-  if (parameter.kind == Kind::Integer && *number != std::floor(*number))
-    return {"", messages::entryNotWhole(parameter.text, range)};
-  if (*number < parameter.minimum || *number > parameter.maximum)
-    return {"", messages::entryOutOfRange(parameter.text, range)};
-  return {plainNumber(*number, parameter.kind == Kind::Integer ? 0 : kRealDecimals), ""};
+/// Whatever stands in their places.
+std::optional<CustomEntries> entriesOf(const CustomOption &option, const std::string &value) {
+  if (hasPrefix(value)) {
+    std::string entry = value.substr(kPrefixLength);
+    if (option.isPageSize)
+      return readPageSize(entry);
+    CustomEntries entries(option.parameters.size());
+    entries.front() = std::move(entry); // as CUPS reads it
+    return entries;
+  }
+  if (!option.isPageSize && !value.empty() && value.front() == '{')
+    return readSeveral(option, value);
+  const bool isOneNumber = option.parameters.size() == 1 && !option.parameters.front().isText();
+  return isOneNumber && readNumber(value) ? std::optional(CustomEntries{value}) : std::nullopt;
 }
 
 } // namespace
+
+const char *const kHiddenValue = "••••"; // its length is nobody's business either
 
 bool CustomOption::hasHidden() const noexcept {
   return std::any_of(parameters.begin(), parameters.end(),
@@ -215,7 +179,7 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
   if (source == nullptr)
     return std::nullopt;
   if (strcasecmp(keyword.c_str(), "PageSize") == 0)
-    return ppd->variable_sizes != 0 ? std::optional(pageSizeOption(*ppd)) : std::nullopt;
+    return hasPageSizes(*ppd) ? std::optional(pageSizeOption(*ppd)) : std::nullopt;
   CustomOption option{source->keyword, false, {}};
   std::vector<const ppd_cparam_t *> parameters;
   for (ppd_cparam_t *parameter = ppdFirstCustomParam(source); parameter != nullptr;
@@ -233,20 +197,16 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
   return option.parameters.empty() ? std::nullopt : std::optional(option);
 }
 
+bool isEnteredValue(const std::string &value) {
+  return hasPrefix(value) || (!value.empty() && value.front() == '{');
+}
+
 std::optional<CustomEntries> readCustomValue(const CustomOption &option, const std::string &value) {
-  const CustomParameter &first = option.parameters.front();
-  if (isEntered(value)) {
-    if (option.isPageSize)
-      return readPageSize(value);
-    CustomEntries entries(option.parameters.size());
-    entries.front() = value.substr(kPrefixLength); // as CUPS reads it
-    return entries;
-  }
-  if (!option.isPageSize && !value.empty() && value.front() == '{')
-    return readSeveral(option, value);
-  if (option.parameters.size() == 1 && !first.isText() && readNumber(value))
-    return CustomEntries{value};
-  return std::nullopt;
+  auto entries = entriesOf(option, value);
+  for (std::size_t i = 0; entries && i < entries->size(); i++)
+    if (!isInForm(option.parameters[i], (*entries)[i]))
+      return std::nullopt;
+  return entries;
 }
 
 std::string writeCustomValue(const CustomOption &option, const CustomEntries &entries) {
@@ -281,7 +241,7 @@ std::string customValueForm(const CustomOption &option) {
 std::string customValueText(const CustomOption &option, const std::string &value) {
   const auto entries = readCustomValue(option, value);
   if (!entries)
-    return option.hasHidden() ? kHidden : value;
+    return option.hasHidden() ? kHiddenValue : value;
   if (option.isPageSize) {
     const std::string size = pageSizeText(*entries);
     return size.empty() ? value : size;
@@ -297,46 +257,13 @@ std::string customValueText(const CustomOption &option, const std::string &value
   return text;
 }
 
-CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typed,
-                        LengthUnit unit) {
-  if (parameter.isText())
-    return checkText(parameter, typed);
-  return parameter.kind == Kind::Length ? checkLength(parameter, typed, unit)
-                                        : checkNumber(parameter, typed);
-}
-
-std::string customValueProblem(const CustomOption &option, const std::string &value) {
-  const auto entries = readCustomValue(option, value);
-  if (!entries)
-    return messages::entryUnusable(option.keyword);
-  for (std::size_t i = 0; i < entries->size(); i++) {
-    const CheckedEntry checked = checkEntry(option.parameters[i], (*entries)[i], LengthUnit::Point);
-    if (!checked.problem.empty())
-      return checked.problem;
-  }
-  return {};
-}
-
-std::string rangeText(const CustomParameter &parameter, LengthUnit unit) {
-  const std::string range = rangeInWords(parameter, unit);
-  if (parameter.kind == Kind::Length)
-    return inUnit(range, unit);
-  if (parameter.kind == Kind::Passcode)
-    return messages::digits(range);
-  return parameter.isText() ? messages::letters(range) : range;
-}
-
-std::string initialEntry(const CustomParameter &parameter, LengthUnit unit) {
-  return parameter.isText() ? "" : numberInWords(endText(parameter, parameter.minimum, true, unit));
-}
-
 bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::string &value) {
   const auto option = customOption(ppd, keyword);
   if (!option || !option->hasHidden())
     return false;
   ppd_option_t *const source = ppdFindOption(ppd, keyword.c_str());
-  const bool isEntry = isEntered(value) || (!value.empty() && value.front() == '{');
-  return isEntry || source == nullptr || ppdFindChoice(source, value.c_str()) == nullptr;
+  return isEnteredValue(value) || source == nullptr ||
+         ppdFindChoice(source, value.c_str()) == nullptr;
 }
 
 std::vector<std::string> hiddenSettings(ppd_file_t *ppd, const PrintSettingsStore &settings) {

@@ -50,6 +50,12 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
 /// A text for each parameter, as CUPS takes it: "7", "0.5", "100mm" or "30" (points), "words".
 using CustomEntries = std::vector<std::string>;
 
+/// Whether the value has a form that only entered ones have: "Custom.VALUE" or "{name=value ...}".
+bool isEnteredValue(const std::string &value);
+
+/// What stands for a value, or a part of it, that is nobody else's to read.
+extern const char *const kHiddenValue;
+
 /// Reads "Custom.VALUE", "Custom.WIDTHxHEIGHTUNIT" and "{name=value ...}"; also a number alone,
 /// which some clients send. A parameter that a "{...}" leaves out is empty. None for anything else.
 std::optional<CustomEntries> readCustomValue(const CustomOption &option, const std::string &value);
@@ -65,28 +71,6 @@ std::string customValueForm(const CustomOption &option);
 /// The value in words, without its hidden parts: "100 × 200 mm", "12", "User: me, Code: ••••". The
 /// value itself where it cannot be read, unless the option hides something.
 std::string customValueText(const CustomOption &option, const std::string &value);
-
-/// What a person typed for one parameter.
-struct CheckedEntry {
-  std::string entry;   ///< As CUPS takes it; meaningful without a problem.
-  std::string problem; ///< In a sentence; empty when the printer takes it.
-};
-
-/// Numbers can have a comma or a point, and lengths a unit of their own; without one they are in
-/// `unit`. Nothing is changed silently, but that a length is rounded to the unit's decimals. It may
-/// be beyond an end of its range by half a point: the PPD's whole points are rounded, too.
-CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typed,
-                        LengthUnit unit);
-
-/// Why the printer does not take the value; empty when it does.
-std::string customValueProblem(const CustomOption &option, const std::string &value);
-
-/// What may be entered, in a few words: "70.56 to 246.94 mm". Rounded inwards, so that each end can
-/// be entered.
-std::string rangeText(const CustomParameter &parameter, LengthUnit unit);
-
-/// Where a field starts when nothing has been entered: the range's lower end; nothing for a text.
-std::string initialEntry(const CustomParameter &parameter, LengthUnit unit);
 
 /// Whether the value is one that was entered, with a part that is nobody else's to read.
 bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::string &value);

@@ -1,6 +1,5 @@
 #import "host/DialogJob.h"
 
-#include "host/ChoiceList.hpp"
 #include "host/CustomValue.hpp"
 #include "host/DocumentNames.hpp"
 #include "host/ExitCode.hpp"
@@ -9,6 +8,7 @@
 #include "host/OptionText.hpp"
 #include "host/PluginFolders.hpp"
 #import "host/Pool.h"
+#include "host/PresetFit.hpp"
 #include "host/Presets.hpp"
 #include "host/WindowTexts.hpp"
 
@@ -98,27 +98,12 @@ bool isInputGiven() {
   return fstat(STDIN_FILENO, &status) == 0 && !S_ISCHR(status.st_mode);
 }
 
-/// While it lives and is wanted, new files are for their owner alone.
-class OwnersFiles {
-public:
-  explicit OwnersFiles(bool isWanted) : before_(umask(0)) { umask(isWanted ? 077 : before_); }
-  ~OwnersFiles() { umask(before_); }
-  OwnersFiles(const OwnersFiles &) = delete;
-  OwnersFiles &operator=(const OwnersFiles &) = delete;
-
-private:
-  mode_t before_;
-};
-
-/// False for a choice of another printer's, which this one does not know.
+/// False for a choice or a value of another printer's, which this one does not take.
 bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) {
   if (ppdFindOption(before, setting.name) == nullptr)
     return true;
-  ppd_option_t *const option = ppdFindOption(ppd, setting.name);
-  if (option == nullptr)
-    return false;
-  return option->ui == PPD_UI_PICKMANY ? areChoices(*option, splitChoices(setting.value))
-                                       : ppdFindChoice(option, setting.value) != nullptr;
+  return ppdFindOption(ppd, setting.name) != nullptr &&
+         misfitOf(ppd, setting.name, setting.value, true).empty();
 }
 
 } // namespace
@@ -199,8 +184,7 @@ void DialogJob::writeSettings() const {
 
 void DialogJob::writeSettings(const std::string &path) const {
   const bool isSecret = !hiddenSettings(printer_->ppd(), ticket_.settings).empty();
-  const OwnersFiles owners(isSecret);
-  writeTicket(ticket_, path);
+  writeTicket(ticket_, path, isSecret ? Readers::OwnerAlone : Readers::Same);
   if (!arguments_.isSilent)
     std::cerr << messages::ticketWritten(path, optionTextPath(path)) << '\n';
 }

@@ -40,7 +40,7 @@ mode_t rightsFor(const std::string &path) {
 
 } // namespace
 
-FileReplacement::FileReplacement(const std::string &path, std::string_view content)
+FileReplacement::FileReplacement(const std::string &path, std::string_view content, Readers readers)
     : path_(resolved(path)) {
   struct stat status {};
   if (stat(path_.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
@@ -51,7 +51,7 @@ FileReplacement::FileReplacement(const std::string &path, std::string_view conte
     fail(errno);
   temporary_ = name;
   try {
-    writeContent(descriptor, content);
+    writeContent(descriptor, content, readers);
   } catch (...) {
     close(descriptor);
     unlink(temporary_.c_str()); // a constructor that throws has no destructor
@@ -73,7 +73,8 @@ void FileReplacement::fail(int reason) const {
   throw Failure(ExitCode::Ticket, messages::fileUnwritable(path_, systemReason(reason)));
 }
 
-void FileReplacement::writeContent(int descriptor, std::string_view content) const {
+void FileReplacement::writeContent(int descriptor, std::string_view content,
+                                   Readers readers) const {
   while (!content.empty()) {
     const ssize_t written = write(descriptor, content.data(), content.size());
     if (written < 0 && errno == EINTR)
@@ -82,7 +83,8 @@ void FileReplacement::writeContent(int descriptor, std::string_view content) con
       fail(errno);
     content.remove_prefix(static_cast<std::size_t>(written));
   }
-  if (fchmod(descriptor, rightsFor(path_)) != 0 || fsync(descriptor) != 0)
+  const mode_t readable = readers == Readers::OwnerAlone ? S_IRWXU : 07777;
+  if (fchmod(descriptor, rightsFor(path_) & readable) != 0 || fsync(descriptor) != 0)
     fail(errno);
 }
 

@@ -7,12 +7,19 @@
 
 namespace imageposition {
 
+/// Who may read the new file.
+enum class Readers {
+  Same,      ///< As the file that it replaces, or as any new one.
+  OwnerAlone ///< Even where others could read the old one.
+};
+
 /// The new content of a file, first beside it under another name, on disk before it takes its
 /// place. Throws a `Failure` with `ExitCode::Ticket`; the file is then as it was.
 class FileReplacement {
 public:
   /// Writes the content. A symbolic link is followed; anything but an ordinary file is refused.
-  FileReplacement(const std::string &path, std::string_view content);
+  FileReplacement(const std::string &path, std::string_view content,
+                  Readers readers = Readers::Same);
   /// Leaves nothing behind unless `commit` has succeeded.
   ~FileReplacement();
   FileReplacement(const FileReplacement &) = delete;
@@ -22,7 +29,7 @@ public:
 
 private:
   [[noreturn]] void fail(int reason) const;
-  void writeContent(int descriptor, std::string_view content) const;
+  void writeContent(int descriptor, std::string_view content, Readers readers) const;
 
   std::string path_;
   std::string temporary_; // empty when there is none

@@ -1,5 +1,6 @@
 #include "host/JobRequest.hpp"
 
+#include "host/CustomValue.hpp"
 #include "host/ExitCode.hpp"
 #include "host/JobMessages.hpp"
 
@@ -171,8 +172,6 @@ PrintSettingsStore optionsToSend(const JobRequest &request) {
   addPages(request, options); // removes defaults too
   return options;
 }
-
-const char *const kHiddenValue = "••••";
 
 bool isSecret(const JobRequest &request, const char *name) {
   return contains(request.secrets, name);

@@ -47,9 +47,6 @@ ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &option
 /// Whether an option has such a value, so that cupsCreateDestJob would lose it.
 bool hasCompound(const JobRequest &request, const PrintSettingsStore &options);
 
-/// What stands for a value of `secrets`.
-extern const char *const kHiddenValue;
-
 bool isSecret(const JobRequest &request, const char *name);
 
 /// The attributes of that request: a line "group name (type) = value" for each, in the order of

@@ -1,5 +1,6 @@
 #include "host/JobSummary.hpp"
 
+#include "host/CustomValue.hpp"
 #include "host/DocumentNames.hpp"
 #include "host/ExitCode.hpp"
 #include "host/OptionMessages.hpp"

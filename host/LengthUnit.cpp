@@ -14,6 +14,7 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 constexpr double kMillimetresPerInch = 25.4;
+constexpr double kLargestWithDecimals = 1e15; // beyond it neighbouring numbers are whole
 
 double pointsPer(LengthUnit unit) {
   switch (unit) {
@@ -63,7 +64,7 @@ std::optional<double> readNumber(const std::string &text) {
   // Digits alone: neither "nan" nor "0x10", which the library would take.
   if (plain.empty() || plain.find_first_not_of("+-.0123456789") != std::string::npos)
     return std::nullopt;
-  if (plain.front() == '+')
+  if (plain.front() == '+' && plain.find_first_of("+-", 1) == std::string::npos)
     plain.erase(0, 1);
   std::istringstream stream(plain);
   stream.imbue(std::locale::classic());
@@ -86,7 +87,7 @@ std::optional<Length> readLength(const std::string &text, LengthUnit otherwise) 
   if (name.empty())
     return Length{*number, otherwise};
   for (const NamedUnit &known : kUnits)
-    if (strcasecmp(known.name, name.c_str()) == 0)
+    if (strcasecmp(known.name, name.c_str()) == 0 && std::isfinite(*number * known.count))
       return Length{*number * known.count, known.unit};
   return std::nullopt;
 }
@@ -107,7 +108,8 @@ int decimalsOf(LengthUnit unit) noexcept { return unit == LengthUnit::Inch ? 3 :
 
 std::string plainNumber(double number, int decimals) {
   const double scale = std::pow(10, decimals);
-  const double rounded = std::round(number * scale) / scale;
+  const bool isWhole = std::abs(number) > kLargestWithDecimals;
+  const double rounded = isWhole ? number : std::round(number * scale) / scale;
   std::ostringstream stream;
   stream.imbue(std::locale::classic());
   stream.setf(std::ios::fixed);

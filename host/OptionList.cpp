@@ -12,6 +12,13 @@ std::string onOneLine(std::string text) {
   return text;
 }
 
+/// What -o takes, but for what is nobody else's to read: lists are kept and passed on.
+std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {
+  const bool isHidden =
+      option.custom && option.custom->hasHidden() && isEnteredValue(choice.keyword);
+  return isHidden ? kHiddenValue : choice.keyword;
+}
+
 } // namespace
 
 std::string writeOptionList(const std::vector<OptionGroup> &groups) {
@@ -22,7 +29,7 @@ std::string writeOptionList(const std::vector<OptionGroup> &groups) {
       list += "  " + option.keyword + ": " + onOneLine(option.text) + '\n';
       for (const OptionChoice &choice : option.choices) {
         list += option.isChosen(choice.keyword) ? "  * " : "    ";
-        list += choice.keyword + ": " + onOneLine(choice.text) + '\n';
+        list += wordFor(option, choice) + ": " + onOneLine(choice.text) + '\n';
       }
       if (option.takesCustomValue)
         list += "    " + (option.custom ? customValueForm(*option.custom) : "Custom.VALUE") + '\n';

@@ -32,7 +32,7 @@ struct OptionsViewRow;
 @interface OptionsView : KeyScrollView {
   id<OptionsViewOwner> owner; ///< Not owned.
   std::vector<imageposition::OptionsViewRow> *rows;
-  std::string *shape; ///< Of the groups shown: keywords of all options and check boxes.
+  std::string *shape; ///< Of the groups shown: all options and check boxes.
 }
 
 - (id)initWithFrame:(NSRect)frame owner:(id<OptionsViewOwner>)theOwner;

@@ -32,10 +32,10 @@ std::string shapeOf(const std::vector<OptionGroup> &groups) {
   for (const OptionGroup &group : groups) {
     shape += group.text + '\n';
     for (const PrinterOption &option : group.options) {
-      shape += option.keyword + '\t';
+      shape += option.keyword + '\t' + option.text + '\t';
       if (option.kind == PrinterOption::Kind::Several)
         for (const OptionChoice &choice : option.choices)
-          shape += choice.keyword + '\t';
+          shape += choice.keyword + '\t' + choice.text + '\t';
       shape += '\n';
     }
   }

@@ -1,7 +1,7 @@
 #include "host/PresetFit.hpp"
 
 #include "host/ChoiceList.hpp"
-#include "host/CustomValue.hpp"
+#include "host/EntryCheck.hpp"
 #include "host/OptionMessages.hpp"
 
 #include <algorithm>
@@ -75,7 +75,7 @@ std::string misfitOfEntries(ppd_file_t *ppd, const char *keyword, const std::str
                             const std::string &value) {
   const auto option = customOption(ppd, keyword);
   if (!option || !readCustomValue(*option, value))
-    return messages::misfitChoice(text, isHiddenValue(ppd, keyword, value) ? "••••" : value);
+    return messages::misfitChoice(text, isHiddenValue(ppd, keyword, value) ? kHiddenValue : value);
   const std::string problem = customValueProblem(*option, value);
   return problem.empty() ? "" : messages::misfitEntered(text, problem);
 }

@@ -1,5 +1,6 @@
 #include "host/PrinterOptions.hpp"
 
+#include "host/EntryCheck.hpp"
 #include "host/OptionMessages.hpp"
 #include "host/WindowTexts.hpp"
 
@@ -58,10 +59,6 @@ constexpr std::pair<const char *, const char *> kAliases[] = {
     {"EFDuplex", "sides"},       {"KD03Duplex", "sides"},
     {"OutputBin", "output-bin"}, {"ColorModel", "print-color-mode"}};
 
-bool isEnteredValue(const std::string &value) {
-  return strncasecmp(value.c_str(), "Custom.", 7) == 0 || (!value.empty() && value.front() == '{');
-}
-
 /// The value that was entered for an option, under whatever name; empty for none.
 std::string enteredIn(const PrintSettingsStore &settings, const std::string &keyword) {
   const char *const own = settings.get(keyword);
@@ -115,21 +112,25 @@ public:
     if (known != defaults_.end())
       option.defaultChoice = known->second;
     if (option.takesCustomValue)
-      nameEnteredValue(option);
+      nameEnteredValue(option, source.defchoice);
     return option;
   }
 
 private:
-  /// Marking keeps the choice "Custom" alone; the job or the queue has the value.
-  void nameEnteredValue(PrinterOption &option) const {
-    if (isSame(option.defaultChoice, "Custom"))
-      if (std::string value = enteredIn(queue_, option.keyword); !value.empty())
-        option.defaultChoice = std::move(value);
+  /// Marking keeps the choice "Custom" alone; the job, the queue or the PPD has the value.
+  void nameEnteredValue(PrinterOption &option, const std::string &ofPpd) const {
+    if (isSame(option.defaultChoice, "Custom")) {
+      const std::string value = enteredIn(queue_, option.keyword);
+      option.defaultChoice = !value.empty() ? value : ofPpd;
+    }
     const bool isMarked = isSame(option.chosen, "Custom");
     if (!isMarked && !isNumber(option))
       return;
     std::string value = isMarked ? enteredIn(job_, option.keyword) : job_.get(option.keyword);
-    option.chosen = !value.empty() ? std::move(value) : option.defaultChoice;
+    if (value.empty() && isEnteredValue(option.defaultChoice))
+      value = option.defaultChoice;
+    if (!value.empty())
+      option.chosen = std::move(value);
     option.choices.push_back({option.chosen, option.textOf(option.chosen)});
   }
 

@@ -1,7 +1,6 @@
 #include "host/Ticket.hpp"
 
 #include "host/ExitCode.hpp"
-#include "host/FileReplacement.hpp"
 #include "host/Messages.hpp"
 #include "host/OptionText.hpp"
 
@@ -143,9 +142,9 @@ std::optional<Ticket> readTicket(const std::string &path) {
   return readTicketText(content.str(), path);
 }
 
-void writeTicket(const Ticket &ticket, const std::string &path) {
-  FileReplacement json(path, writeTicketText(ticket));
-  FileReplacement options(optionTextPath(path), writeOptionText(ticket.settings));
+void writeTicket(const Ticket &ticket, const std::string &path, Readers readers) {
+  FileReplacement json(path, writeTicketText(ticket), readers);
+  FileReplacement options(optionTextPath(path), writeOptionText(ticket.settings), readers);
   options.commit();
   json.commit(); // last: it is what is read again
 }

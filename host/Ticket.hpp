@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_HOST_TICKET_HPP
 #define IMAGEPOSITION_HOST_TICKET_HPP
 
+#include "host/FileReplacement.hpp"
 #include "platform/PrintSettingsStore.hpp"
 
 #include <optional>
@@ -32,7 +33,7 @@ std::optional<Ticket> readTicket(const std::string &path);
 
 /// Writes the JSON to `path` and the "name=value" form beside it. Both texts are on disk before the
 /// first file changes. Throws a `Failure`.
-void writeTicket(const Ticket &ticket, const std::string &path);
+void writeTicket(const Ticket &ticket, const std::string &path, Readers readers = Readers::Same);
 
 /// Throws the `Failure` of `writeTicket` for a place where nothing can be written. Changes nothing.
 void checkTicketPlace(const std::string &path);

@@ -1,5 +1,6 @@
 #import "host/ValuePanel.h"
 
+#include "host/EntryCheck.hpp"
 #import "host/Labels.h"
 #include "host/Mnemonic.hpp"
 #import "host/MnemonicControls.h"

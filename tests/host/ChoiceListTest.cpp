@@ -127,6 +127,22 @@ TEST_F(ListOption, ConflictsByOneOfItsChoicesWhichAloneIsTakenAway) {
   EXPECT_EQ(conflictsInWords(), "");
 }
 
+/// As after a start with options on the command line.
+TEST_F(ListOption, ResolvesWithoutALastChoice) {
+  job.set("Finishing", "Punch,Fold");
+  job.set("MediaType", "Heavy");
+  OptionConflicts conflicts(printer, job);
+  const auto proposal = conflicts.proposal();
+  ASSERT_TRUE(proposal);
+  EXPECT_THAT(proposal->sentence, HasSubstr("Change to \"Media Type: Plain Paper\"."));
+  EXPECT_TRUE(conflicts.take(*proposal));
+  EXPECT_EQ(finishing().chosen, "Punch,Fold") << "a list stays where something else ends it";
+  job.set("MediaType", "Heavy", true);
+  EXPECT_THAT(conflicts.proposal()->sentence, HasSubstr("Change to \"Finishing: Punch\"."));
+  job.set("Finishing", "Punch,Fold", true);
+  EXPECT_FALSE(conflicts.proposal());
+}
+
 TEST_F(ListOption, KeepsWhatWasTickedLast) {
   options.choose("MediaType", "Heavy");
   options.tick("Finishing", "Fold", true);

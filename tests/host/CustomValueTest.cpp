@@ -1,4 +1,4 @@
-#include "host/CustomValue.hpp"
+#include "host/EntryCheck.hpp"
 
 #include "tests/host/OptionsPpd.hpp"
 
@@ -100,6 +100,27 @@ TEST_F(CustomValue, IsWrittenAsCupsTakesItAndReadBack) {
   for (const char *value : {"A4", "Custom.", "Custom.100", "Custom.axb", "Custom.1x2parsecs", "{}"})
     EXPECT_FALSE(readCustomValue(option("PageSize"), value)) << value;
   EXPECT_FALSE(readCustomValue(option("Stamp"), "Draft"));
+  EXPECT_FALSE(readCustomValue(option("Trim"), "Custom.10,5mm")); // which CUPS reads as 10 points
+  EXPECT_FALSE(readCustomValue(option("Trim"), "Custom.10 mm"));
+  EXPECT_FALSE(readCustomValue(option("PageSize"), "Custom.100,5x200mm"));
+  EXPECT_FALSE(readCustomValue(option("Gloss"), R"({Amount="0,5" Light=0 Dark=1})"));
+}
+
+TEST_F(CustomValue, OfThePageIsNoneWhereThePrinterNamesNoSizes) {
+  std::string text = imageposition::test::kOptionsPpd;
+  for (const char *line : {"*MaxMediaWidth: \"700\"\n", "*MaxMediaHeight: \"1000\"\n",
+                           "*ParamCustomPageSize Width: 1 points 200 700\n",
+                           "*ParamCustomPageSize Height: 2 points 300 1000\n"})
+    text.erase(text.find(line), std::string(line).size());
+  EXPECT_FALSE(customOption(optionsPrinter(text).ppd(), "PageSize"));
+}
+
+TEST_F(CustomValue, OfARealNumberCanBeEachEndOfItsRange) {
+  CustomParameter parameter{"Amount", "Amount", Kind::Real, 0.1F, 0.9F, false};
+  for (const char *end : {"0.1", "0.9"})
+    EXPECT_EQ(checkEntry(parameter, end, LengthUnit::Point).entry, end);
+  EXPECT_THAT(checkEntry(parameter, "0.09999", LengthUnit::Point).problem, HasSubstr("0.1 to 0.9"));
+  EXPECT_EQ(checkEntry(parameter, "0.50001", LengthUnit::Point).entry, "0.50001");
 }
 
 /// What is written is what CUPS marks.
@@ -167,6 +188,10 @@ TEST_F(CustomValue, OfALengthIsTakenInAnyUnitInsideItsRange) {
   for (const char *beyond : {"3.3", "25.6", "-10"})
     EXPECT_EQ(check("Trim", beyond).problem, "Width: that is out of range. Enter 3.53 to 25.4 mm.");
   EXPECT_THAT(check("Trim", "10 miles").problem, HasSubstr("no number"));
+  const std::string digits(308, '9');
+  EXPECT_THAT(check("Trim", digits).problem, HasSubstr("out of range"));
+  EXPECT_THAT(check("Trim", "-" + digits + "mm").problem, HasSubstr("out of range"));
+  EXPECT_THAT(check("Trim", digits + "m").problem, HasSubstr("no number"));
 }
 
 TEST_F(CustomValue, OfATextHasAsManyBytesAsThePrinterTakes) {

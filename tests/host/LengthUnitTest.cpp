@@ -28,9 +28,11 @@ TEST(LengthUnit, ReadsWhatCupsReads) {
     ASSERT_TRUE(length) << row.text;
     EXPECT_NEAR(toPoints(*length).count, row.points, 1e-9) << row.text;
   }
-  for (const char *text : {"", "mm", "10 parsecs", "1in2", "1x2", "1.2.3mm", "- 5", "10mmm"})
+  for (const char *text : {"", "mm", "10 parsecs", "1in2", "1x2", "1.2.3mm", "- 5", "+-5", "++5", "10mmm"})
     EXPECT_FALSE(readLength(text)) << text;
   EXPECT_EQ(readLength("10", LengthUnit::Inch)->unit, LengthUnit::Inch);
+  EXPECT_FALSE(readLength(std::string(308, '9') + "m")) << "in millimetres it is no number";
+  EXPECT_FALSE(readLength(std::string(400, '9')));
 }
 
 TEST(LengthUnit, WritesRoundedNumbersThatAreReadBack) {
@@ -38,6 +40,8 @@ TEST(LengthUnit, WritesRoundedNumbersThatAreReadBack) {
   EXPECT_EQ(writeLength({100.126, LengthUnit::Millimetre}), "100.13mm");
   EXPECT_EQ(writeLength({4.12345, LengthUnit::Inch}), "4.123in");
   EXPECT_EQ(writeLength({0.005, LengthUnit::Point}), "0.01");
+  EXPECT_EQ(writeLength({1e300, LengthUnit::Point}).find_first_not_of("0123456789"),
+            std::string::npos);
   EXPECT_EQ(writeLength({-0.001, LengthUnit::Millimetre}), "0mm");
   EXPECT_EQ(plainNumber(1000, 0), "1000");
 }

@@ -7,6 +7,8 @@ namespace {
 
 using imageposition::MnemonicText;
 using imageposition::readMnemonic;
+using imageposition::withKey;
+using imageposition::withoutKey;
 
 struct Row {
   const char *marked, *text, *key;
@@ -53,6 +55,35 @@ TEST(Mnemonic, AnAmpersandIsWrittenTwiceOrWithNoLetterBehindIt) {
   };
   for (const Row &row : rows)
     expectRead(row);
+}
+
+TEST(Mnemonic, ATextOfSomebodyElsesGetsTheFirstLetterThatIsFree) {
+  std::string used = "U";
+  EXPECT_EQ(withKey("User:", used), "U&ser:");
+  EXPECT_EQ(withKey("Surname:", used), "Su&rname:") << "s and u are taken, small or not";
+  EXPECT_EQ(withKey("12 holes:", used), "&12 holes:");
+  EXPECT_EQ(withKey("Größe:", used), "&Größe:");
+  EXPECT_EQ(used, "Usr1G");
+}
+
+TEST(Mnemonic, ATextWithoutAFreeLetterGetsADigitBehindItWhileThereAreAny) {
+  std::string used = "1us";
+  EXPECT_EQ(withKey("文字:", used), "文字:(&2)");
+  EXPECT_EQ(withKey("Us", used), "Us(&3)");
+  for (char digit = '4'; digit <= '9'; digit++)
+    EXPECT_EQ(readMnemonic(withKey("ß", used)).key, std::string(1, digit));
+  EXPECT_EQ(withKey("ß", used), "ß");
+}
+
+TEST(Mnemonic, ATextOfSomebodyElsesIsShownAsItIs) {
+  for (const char *text : {"Cut & fold", "A&B", "&", "&&", "", "&Größe&"}) {
+    EXPECT_EQ(readMnemonic(withoutKey(text)).text, text);
+    EXPECT_EQ(readMnemonic(withoutKey(text)).key, "") << text;
+  }
+  std::string used;
+  const MnemonicText marked = readMnemonic(withKey("& fold & cut", used));
+  EXPECT_EQ(marked.text, "& fold & cut");
+  EXPECT_EQ(marked.key, "f");
 }
 
 TEST(Mnemonic, TheFirstOfSeveralMarkersCountsAndNoneIsShown) {

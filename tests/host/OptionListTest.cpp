@@ -36,6 +36,25 @@ TEST(OptionList, SaysWhereAValueCanBeGiven) {
             std::string::npos);
 }
 
+TEST(OptionList, HidesAPasswordThatTheJobHas) {
+  PrinterOption option;
+  option.keyword = "Secret";
+  option.text = "Private Printing";
+  CustomParameter code;
+  code.name = "Code";
+  code.text = "Code";
+  code.kind = CustomParameter::Kind::Passcode;
+  option.takesCustomValue = true;
+  option.custom = CustomOption{"Secret", false, {code}};
+  option.chosen = "Custom.0123";
+  option.choices = {{"None", "Off"}, {option.chosen, option.textOf(option.chosen)}};
+  EXPECT_EQ(writeOptionList({{"General", "General", {option}}}), "General\n"
+                                                                 "  Secret: Private Printing\n"
+                                                                 "    None: Off\n"
+                                                                 "  * ••••: Custom: ••••\n"
+                                                                 "    Custom.VALUE\n");
+}
+
 TEST(OptionList, KeepsATextWithLineBreaksOnItsLine) {
   PrinterOption option = mediaSize();
   option.text = "Media\nDuplex: None";

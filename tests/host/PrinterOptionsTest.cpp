@@ -76,6 +76,26 @@ TEST_F(PrinterOptionsTest, AChoiceThatIsEnteredIsListedOnlyWhileItHolds) {
   EXPECT_EQ(option("Watermark").choices.size(), 2U);
 }
 
+TEST_F(PrinterOptionsTest, AValueOfOnesOwnCanBeThePrintersDefault) {
+  std::string text = imageposition::test::kOptionsPpd;
+  const std::string before = "*DefaultWatermark: None";
+  ASSERT_NE(text.find(before), std::string::npos);
+  text.replace(text.find(before), before.size(), "*DefaultWatermark: Custom.Ours");
+  PrinterDescription other = optionsPrinter(text);
+  const auto watermark = PrinterOptions(other, job).find("Watermark").value_or(PrinterOption());
+  EXPECT_EQ(watermark.chosen, "Custom.Ours");
+  EXPECT_FALSE(watermark.differsFromDefault());
+  EXPECT_EQ(watermark.textOf(watermark.chosen), "Custom: Ours");
+}
+
+TEST_F(PrinterOptionsTest, AnEntryWithoutItsValueIsNoOtherChoice) {
+  job.set("Watermark", "Custom");
+  const PrinterOption watermark = option("Watermark");
+  EXPECT_EQ(watermark.chosen, "Custom");
+  EXPECT_EQ(watermark.choices.size(), 3U);
+  EXPECT_EQ(watermark.choices.back().keyword, "Custom");
+}
+
 TEST_F(PrinterOptionsTest, ChoosingStoresTheChoiceAndMarksIt) {
   EXPECT_FALSE(option("MediaType").differsFromDefault());
   EXPECT_TRUE(options.choose("mediatype", "labels"));

@@ -182,6 +182,18 @@ TEST(TicketFile, ReplacingKeepsTheRightsAndTheLink) {
   EXPECT_THAT(contentOf(folder.path("real.json")), HasSubstr("LeftRightMargin"));
 }
 
+TEST(TicketFile, ForItsOwnerAloneIsReadableForNobodyElseWhateverWasThere) {
+  TemporaryFolder folder;
+  const std::string path = folder.write("job.json", "{}");
+  chmod(path.c_str(), 0664);
+  writeTicket(sample(), path, imageposition::Readers::OwnerAlone);
+  for (const std::string &file : {path, folder.path("job.options")}) {
+    struct stat status {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600U) << file;
+  }
+}
+
 TEST(TicketFile, ADeviceIsNotReplaced) {
   EXPECT_THAT(failureOf([] { writeTicket(sample(), "/dev/null"); }), HasSubstr("ordinary"));
 }
