@@ -266,6 +266,18 @@ bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::strin
          ppdFindChoice(source, value.c_str()) == nullptr;
 }
 
+void makePlainNumber(ppd_file_t *ppd, const std::string &keyword, PrintSettingsStore &settings) {
+  const char *const value = settings.get(keyword);
+  if (value == nullptr || !hasPrefix(value))
+    return;
+  const auto option = customOption(ppd, keyword);
+  if (!option || option->parameters.size() != 1)
+    return;
+  const auto entries = readCustomValue(*option, value);
+  if (entries && readNumber(entries->front()))
+    settings.set(keyword, std::string(entries->front()));
+}
+
 std::vector<std::string> hiddenSettings(ppd_file_t *ppd, const PrintSettingsStore &settings) {
   std::vector<std::string> names;
   for (int i = 0; i < settings.optionCount(); i++)

@@ -75,6 +75,10 @@ std::string customValueText(const CustomOption &option, const std::string &value
 /// Whether the value is one that was entered, with a part that is nobody else's to read.
 bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::string &value);
 
+/// Makes "Custom.VALUE" of an option into the number alone, which filters take, too, and panels
+/// write and read. Settings with other values, and locked ones, stay.
+void makePlainNumber(ppd_file_t *ppd, const std::string &keyword, PrintSettingsStore &settings);
+
 /// Of the settings the names of those with such values.
 std::vector<std::string> hiddenSettings(ppd_file_t *ppd, const PrintSettingsStore &settings);
 

@@ -99,7 +99,6 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   if (![self savePanels])
     return;
   state->optionToEnter = keyword;
-  state->controlToEnter = sender;
   wakeModalLoop(views.window);
 }
 
@@ -116,7 +115,6 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   if (value && !printerOptions.choose(keyword, *value))
     [self say:messages::entryUnusable(option->text)];
   [self optionChanged:keyword];
-  [views.window makeFirstResponder:state->controlToEnter];
 }
 
 - (void)option:(const std::string &)keyword

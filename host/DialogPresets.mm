@@ -93,6 +93,7 @@ std::string joined(const std::vector<std::string> &sentences) {
 - (void)loadPreset:(const PresetName &)preset {
   const LoadedPreset loaded = Presets::load(preset, job->printer());
   job->settings() = loaded.settings;
+  job->panels().takePlainNumbers();
   job->printer().mark(job->settings());
   [self restorePanels];
   state->preset = preset.printer == printerOf(job->queue()) ? preset.name : "";

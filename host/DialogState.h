@@ -37,8 +37,7 @@ struct DialogState {
   std::vector<std::string> mediaChoices;
   std::string chosenLast; ///< The option that a person changed last.
   std::optional<ConflictProposal> proposal;
-  std::string optionToEnter;    ///< The option that the person is about to enter a value for.
-  NSView *controlToEnter = nil; ///< Its pop-up; the window's.
+  std::string optionToEnter; ///< The option that the person is about to enter a value for.
 
   std::vector<PresetName> presets;
   std::string preset; ///< The chosen one's name; may be empty.

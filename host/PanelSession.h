@@ -25,6 +25,11 @@ public:
   /// the troubles.
   void load(const std::vector<std::string> &plugins);
 
+  /// Makes entered values of the panels' options into plain numbers, as panels read them: where the
+  /// panels were missing, these options could be entered as the printer's own. For settings that
+  /// come from elsewhere, before the panels read them; `load` and `revert` see to theirs.
+  void takePlainNumbers();
+
   /// In the order of the plug-ins.
   const std::vector<std::unique_ptr<PanelDriver>> &panels() const noexcept { return panels_; }
   /// Messages of the plug-ins and panels that were left out.
@@ -37,6 +42,7 @@ public:
   void drop(const PanelDriver *panel, const std::string &trouble);
 
 private:
+  ppd_file_t *ppd_;
   PrintSettingsStore &settings_;
   const PrintSettingsStore before_;
   PrintSettingsHandle handle_;

@@ -1,5 +1,6 @@
 #import "host/PanelSession.h"
 
+#include "host/CustomValue.hpp"
 #include "host/ExitCode.hpp"
 
 #include <algorithm>
@@ -8,7 +9,7 @@
 namespace imageposition {
 
 PanelSession::PanelSession(PrinterDescription &printer, PrintSettingsStore &settings)
-    : settings_(settings), before_(settings), handle_(settings),
+    : ppd_(printer.ppd()), settings_(settings), before_(settings), handle_(settings),
       callback_([[HostCallback alloc] initWithPpd:printer.ppd() settings:handle_.get()]) {}
 
 PanelSession::~PanelSession() {
@@ -29,10 +30,18 @@ void PanelSession::load(const std::vector<std::string> &plugins) {
       troubles_.push_back(failure.what());
     }
   }
+  takePlainNumbers();
+}
+
+void PanelSession::takePlainNumbers() {
+  for (const auto &panel : panels_)
+    for (const std::string &keyword : panel->optionKeys())
+      makePlainNumber(ppd_, keyword, settings_);
 }
 
 void PanelSession::revert() {
   settings_ = before_;
+  takePlainNumbers();
   for (const auto &panel : panels_) {
     try {
       panel->restore();

@@ -21,6 +21,16 @@ TEST_F(Batch, WhatIsTypedArrivesInTheJobsSettings) {
   EXPECT_THAT(result.errors, IsEmpty());
 }
 
+/// As a person can, who has the printer and not yet the panel.
+TEST_F(Batch, WhatWasEnteredAsThePrintersOwnOptionReachesThePanel) {
+  const auto result = batch(
+      shift, {"-o", "LeftRightMargin=Custom.7", "-o", "TopBottomMargin=Custom.x", "--summary"});
+  ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_THAT(settingsIn(result.output), Contains(Pair("LeftRightMargin", "7")));
+  EXPECT_THAT(result.output, HasSubstr("Left-right offset (\xC3\x97 0.1 mm): 7\n"));
+  EXPECT_THAT(settingsIn(result.output), Contains(Pair("TopBottomMargin", "0")));
+}
+
 TEST_F(Batch, TheSummaryListsThePanelsValuesInItsOrder) {
   const auto result =
       batch(shift, {"--set", "FrontLRM=-3", "--set", "BackTBM=7", "--back", "on", "--summary"});

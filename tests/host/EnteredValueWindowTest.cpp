@@ -1,6 +1,9 @@
 // Options of several choices, and values of a person's own, from keys and clicks to the printer.
+#include "tests/host/OptionsPpd.hpp"
 #include "tests/host/Picture.hpp"
 #include "tests/host/WholeJob.hpp"
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -140,6 +143,10 @@ TEST_F(EnteredValue, OnTheCommandLineIsShownAndCanBeLeftAgain) {
   window.press("Escape");
   ASSERT_TRUE(asks(window, "Print"));
   EXPECT_TRUE(shows(window, "Media:", "Custom: 4 × 6 in"));
+  window.press("space"); // the pop-up has the focus again
+  EXPECT_TRUE(window.becomes([](const Screen &shown) { return shown.find("item", "A5"); }));
+  window.press("Escape");
+  EXPECT_TRUE(window.becomes([](const Screen &shown) { return !shown.find("item", "A5"); }));
   window.click("Print");
   EXPECT_THAT(printed(jobOf(window.ended())).options, Contains(Pair("PageSize", "Custom.4x6in")));
 }
@@ -158,6 +165,8 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
   window.write("abc");
   EXPECT_TRUE(window.says("Password: that has a length of 3. The printer takes 4 to 16"));
   window.write(" \\'d");
+  for (const char *key : {"ctrl+a", "ctrl+c", "alt+u", "End", "ctrl+v"})
+    window.press(key); // a hidden text is not copied, see `shown`
   window.press("alt+c"); // to the code
   window.write("12a4");
   EXPECT_TRUE(window.says("Code: enter digits only."));
@@ -182,6 +191,41 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
               Contains(Pair("Secret", R"({User="it's \"me\"" Password="abc \\'d" Code=0123})")))
       << job.optionText;
   EXPECT_THAT(window.ended().errors, Not(HasSubstr("0123")));
+}
+
+TEST_F(EnteredValue, OfAPasswordIsInATicketForItsOwnerAlone) {
+  const std::string ticket = folder.write("job.json", "{\"settings\": {}}");
+  chmod(ticket.c_str(), 0644);
+  PrintWindow window({"--ppd", IMAGEPOSITION_SAMPLES "/finisher.ppd", "--ticket", ticket, "-o",
+                      "Secret={User=me Password=abcd Code=0123}", document()});
+  window.click("Print");
+  EXPECT_EQ(window.ended().status, 0);
+  for (const std::string &file : {ticket, folder.path("job.options")}) {
+    EXPECT_THAT(contentOf(file), HasSubstr("0123"));
+    struct stat status {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600U) << file;
+  }
+}
+
+TEST_F(EnteredValue, OfAPanelsOptionIsAskedWithoutThePanelAndReachesIt) {
+  folder.write("printer.ppd", kOptionsPpd);
+  PrintWindow window(
+      {"--ppd", folder.path("printer.ppd"), "--ticket", folder.path("job.json"), document()});
+  window.choose("Shift:", "Custom…");
+  ASSERT_TRUE(asks(window, "Shift"));
+  window.write("-7");
+  window.press("Return");
+  ASSERT_TRUE(shows(window, "Shift:", "Custom: -7"));
+  window.click("Print");
+  EXPECT_EQ(window.ended().status, 0);
+  EXPECT_THAT(contentOf(folder.path("job.options")), HasSubstr("LeftRightMargin=Custom.-7"));
+
+  command({"lpoptions", "-p", "office/entered", "-o", "LeftRightMargin=Custom.-7"});
+  PrintWindow withPanel(onQueue("office"));
+  withPanel.choose("Preset:", "entered");
+  EXPECT_TRUE(
+      withPanel.becomes([&](const Screen &) { return withPanel.field(kLeftRight) == "-7"; }));
 }
 
 TEST_F(EnteredValue, OfAPasswordIsHiddenInADryRun) {

@@ -28,7 +28,8 @@ TEST(LengthUnit, ReadsWhatCupsReads) {
     ASSERT_TRUE(length) << row.text;
     EXPECT_NEAR(toPoints(*length).count, row.points, 1e-9) << row.text;
   }
-  for (const char *text : {"", "mm", "10 parsecs", "1in2", "1x2", "1.2.3mm", "- 5", "+-5", "++5", "10mmm"})
+  for (const char *text :
+       {"", "mm", "10 parsecs", "1in2", "1x2", "1.2.3mm", "- 5", "+-5", "++5", "10mmm"})
     EXPECT_FALSE(readLength(text)) << text;
   EXPECT_EQ(readLength("10", LengthUnit::Inch)->unit, LengthUnit::Inch);
   EXPECT_FALSE(readLength(std::string(308, '9') + "m")) << "in millimetres it is no number";
