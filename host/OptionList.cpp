@@ -19,6 +19,13 @@ std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {
   return isHidden ? kHiddenValue : choice.keyword;
 }
 
+/// Also of a value that no window can ask for, since the PPD does not say within which limits.
+std::string formFor(const PrinterOption &option) {
+  if (option.custom)
+    return customValueForm(*option.custom);
+  return option.keyword == "PageSize" ? "Custom.WIDTHxHEIGHT" : "Custom.VALUE";
+}
+
 } // namespace
 
 std::string writeOptionList(const std::vector<OptionGroup> &groups) {
@@ -32,7 +39,7 @@ std::string writeOptionList(const std::vector<OptionGroup> &groups) {
         list += wordFor(option, choice) + ": " + onOneLine(choice.text) + '\n';
       }
       if (option.takesCustomValue)
-        list += "    " + (option.custom ? customValueForm(*option.custom) : "Custom.VALUE") + '\n';
+        list += "    " + formFor(option) + '\n';
     }
   }
   return list;

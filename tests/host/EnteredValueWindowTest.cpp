@@ -166,7 +166,7 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
   EXPECT_TRUE(window.says("Password: that has a length of 3. The printer takes 4 to 16"));
   window.write(" \\'d");
   for (const char *key : {"ctrl+a", "ctrl+c", "alt+u", "End", "ctrl+v"})
-    window.press(key); // a hidden text is not copied, see `shown`
+    window.press(key);   // a hidden text is not copied, see `shown`
   window.press("alt+c"); // to the code
   window.write("12a4");
   EXPECT_TRUE(window.says("Code: enter digits only."));

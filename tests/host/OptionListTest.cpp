@@ -32,6 +32,9 @@ TEST(OptionList, HasNoStarWhereNothingIsChosen) {
 TEST(OptionList, SaysWhereAValueCanBeGiven) {
   PrinterOption option = mediaSize();
   option.takesCustomValue = true;
+  EXPECT_NE(writeOptionList({{"General", "General", {option}}}).find("\n    Custom.WIDTHxHEIGHT\n"),
+            std::string::npos);
+  option.keyword = "Watermark";
   EXPECT_NE(writeOptionList({{"General", "General", {option}}}).find("\n    Custom.VALUE\n"),
             std::string::npos);
 }
