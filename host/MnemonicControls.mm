@@ -35,10 +35,10 @@ void drawUnderline(const Underline &line, NSRect text, NSFont *font, NSColor *co
   if (line.width <= 0)
     return;
   const CGFloat baseline = NSMinY(text) + [font ascender];
-  const CGFloat thickness = std::max(1.0, std::round([font pointSize] / 14));
+  const CGFloat thickness = std::max<CGFloat>(1, std::round([font pointSize] / 14));
   [color set];
   NSRectFill(NSMakeRect(std::round(NSMinX(text) + line.left), std::round(baseline) + 1,
-                        std::max(3.0, std::round(line.width)), thickness));
+                        std::max<CGFloat>(3, std::round(line.width)), thickness));
 }
 
 } // namespace
