@@ -41,7 +41,7 @@ CGFloat titleColumn(const std::vector<SummarySection> &sections, CGFloat width) 
   for (const SummarySection &section : sections)
     for (const SummaryLine &line : section.lines)
       widest = std::max(widest, NSWidth([imageposition::makeLabel(titleOf(line)) frame]));
-  return std::min(widest, std::floor(width * 0.6));
+  return std::min<CGFloat>(widest, std::floor(width * 0.6));
 }
 
 /// Writes from the top; titles end where the values begin.
