@@ -34,6 +34,15 @@ std::string rangeInWords(const CustomParameter &parameter, LengthUnit unit) {
   return low == high ? low : messages::fromTo(low, high);
 }
 
+/// A person counts letters, the printer bytes: only where these differ anything is said of it.
+std::string lengthProblem(const CustomParameter &parameter, const std::string &typed) {
+  const std::string range = rangeInWords(parameter, LengthUnit::Point);
+  const bool isAscii = std::all_of(typed.begin(), typed.end(),
+                                   [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  const auto say = isAscii ? messages::entryLength : messages::entryLengthInBytes;
+  return say(parameter.text, std::to_string(typed.size()), range);
+}
+
 CheckedEntry checkText(const CustomParameter &parameter, const std::string &typed) {
   const bool isControl = std::any_of(typed.begin(), typed.end(), [](char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
@@ -46,8 +55,7 @@ CheckedEntry checkText(const CustomParameter &parameter, const std::string &type
     return {"", messages::entryHasBrackets(parameter.text)};
   const auto bytes = static_cast<double>(typed.size());
   if (bytes < parameter.minimum || bytes > parameter.maximum)
-    return {"", messages::entryLength(parameter.text, std::to_string(typed.size()),
-                                      rangeInWords(parameter, LengthUnit::Point))};
+    return {"", lengthProblem(parameter, typed)};
   return {typed, ""};
 }
 

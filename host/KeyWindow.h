@@ -44,6 +44,7 @@ void wakeModalLoop(NSWindow *window);
 /// with a letter reaches a control.
 @interface KeyWindow : NSWindow {
   std::vector<imageposition::ControlKey> *controlKeys; ///< Null: none.
+  NSView *focusShown; ///< What was last seen with the focus; owned, since it may go. May be null.
 }
 
 /// Has Alt with the letter that is marked in the text (see host/Mnemonic.hpp) press a button, and

@@ -114,6 +114,7 @@ bool canBeReached(NSView *control) {
 
 - (void)dealloc {
   delete controlKeys;
+  [focusShown release];
   [super dealloc];
 }
 
@@ -127,10 +128,15 @@ bool canBeReached(NSView *control) {
   controlKeys->push_back({imageposition::toText(lower), control});
 }
 
-// What has the focus is seen, also in something that scrolls.
+// What has the focus is seen, also in something that scrolls, and what had it shows it no longer: a
+// text field by itself redraws only its text.
 - (BOOL)makeFirstResponder:(NSResponder *)responder {
   const BOOL isTaken = [super makeFirstResponder:responder];
   NSView *const view = [self focusedView];
+  [focusShown setNeedsDisplay:YES];
+  [view setNeedsDisplay:YES];
+  [focusShown release];
+  focusShown = [view retain];
   if (isTaken && view != nil && [view window] == self)
     [view scrollRectToVisible:NSInsetRect([view bounds], 0, -kFocusMargin)];
   return isTaken;

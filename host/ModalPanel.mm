@@ -93,7 +93,6 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
                                       std::round(NSMidY(frame) - size.height / 2))];
   [window_ makeKeyAndOrderFront:nil];
   [window_ makeFirstResponder:first];
-  [first setNeedsDisplay:YES]; // it has been drawn without the focus
   const NSInteger answer = [NSApp runModalForWindow:window_];
   static_cast<ModalPanelController *>(controller_)->mayConfirm = nullptr;
   [window_ makeFirstResponder:nil];

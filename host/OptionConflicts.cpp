@@ -111,14 +111,14 @@ std::vector<OptionConflict> OptionConflicts::find() {
 }
 
 std::optional<ConflictProposal> OptionConflicts::proposal(const std::string &chosenLast) {
-  const auto cups = proposalOfCups(chosenLast);
+  auto cups = proposalOfCups(chosenLast);
   const bool isSimple = cups && std::none_of(cups->changes.begin(), cups->changes.end(),
                                              [&](const NamedChoice &change) {
                                                return isList(printer_.ppd(), change.keyword);
                                              });
   if (isSimple)
     return cups;
-  const auto lists = proposalOfLists(chosenLast);
+  auto lists = proposalOfLists(chosenLast);
   return lists ? lists : cups;
 }
 

@@ -50,10 +50,15 @@ std::string entryNotWhole(const std::string &name, const std::string &range) {
 std::string entryOutOfRange(const std::string &name, const std::string &range) {
   return text("{1}: that is out of range. Enter {2}.").with(name, range);
 }
-std::string entryLength(const std::string &name, const std::string &bytes,
+std::string entryLength(const std::string &name, const std::string &letters,
                         const std::string &range) {
   // Translators: {1} is the name of a field, such as "Password"; {2} a number, {3} one or "4 to
   // 16".
+  return text("{1}: that has a length of {2}. The printer takes {3}.").with(name, letters, range);
+}
+std::string entryLengthInBytes(const std::string &name, const std::string &bytes,
+                               const std::string &range) {
+  // Translators: as above, for a text with letters of which UTF-8 makes several bytes.
   return text("{1}: that has a length of {2}. The printer takes {3}; a letter such as é counts as "
               "two or more.")
       .with(name, bytes, range);

@@ -36,8 +36,11 @@ std::string letters(const std::string &count);
 std::string entryNoNumber(const std::string &name, const std::string &range);
 std::string entryNotWhole(const std::string &name, const std::string &range);
 std::string entryOutOfRange(const std::string &name, const std::string &range);
-std::string entryLength(const std::string &name, const std::string &bytes,
+std::string entryLength(const std::string &name, const std::string &letters,
                         const std::string &range);
+/// Of a text that has letters beyond ASCII.
+std::string entryLengthInBytes(const std::string &name, const std::string &bytes,
+                               const std::string &range);
 std::string entryNoDigits(const std::string &name);
 std::string entryHasBrackets(const std::string &name);
 std::string entryUnusable(const std::string &name);

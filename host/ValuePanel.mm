@@ -28,6 +28,7 @@ struct Row {
   NSTextField *title;
   NSTextField *field;
   NSTextField *range;
+  bool isTouched; // typed into: nobody is told of what is not yet there
 };
 
 } // namespace
@@ -107,15 +108,20 @@ struct Row {
   return true;
 }
 
-/// While it is typed; the field itself would end the typing if it were asked for its text.
+/// While it is typed; the field itself would end the typing if it were asked for its text. What is
+/// wrong in another field comes after what is wrong here.
 - (void)controlTextDidChange:(NSNotification *)notification {
-  for (const Row &row : *rows) {
-    if ([notification object] != row.field)
-      continue;
-    NSText *const editor = [row.field currentEditor];
+  std::string here, elsewhere;
+  for (Row &row : *rows) {
+    const bool isHere = [notification object] == row.field;
+    row.isTouched = row.isTouched || isHere;
+    NSText *const editor = isHere ? [row.field currentEditor] : nil;
     NSString *const typed = editor != nil ? [editor string] : [row.field stringValue];
-    [self say:checkEntry(*row.parameter, toText(typed), unit).problem];
+    std::string &said = isHere ? here : elsewhere;
+    if (row.isTouched && said.empty())
+      said = checkEntry(*row.parameter, toText(typed), unit).problem;
   }
+  [self say:here.empty() ? elsewhere : here];
 }
 
 /// What is there stays as long as it is, in other numbers.
@@ -198,7 +204,7 @@ NSTextField *makeProblem(const CustomOption &option, CGFloat width) {
     const std::string &name = parameter.text;
     const std::string range = rangeText(parameter, LengthUnit::Point);
     if (parameter.isText()) {
-      makeRoom(messages::entryLength(name, "100", range));
+      makeRoom(messages::entryLengthInBytes(name, "100", range));
       makeRoom(messages::entryHasBrackets(name));
       makeRoom(messages::entryUnusable(name));
     } else {
@@ -226,9 +232,9 @@ public:
   explicit Layout(ValueForm *form) : form_(form) {
     used_ = option().hasLength() ? readMnemonic(messages::kUnitRow).key : "";
     for (const CustomParameter &parameter : option().parameters) {
-      titles_.push_back(withKey(messages::asLabel(parameter.text), used_));
+      titles_.push_back(messages::asLabel(withKey(parameter.text, used_)));
       form->rows->push_back({&parameter, makeTitle(titles_.back()), makeField(parameter, form),
-                             makeRange(parameter)});
+                             makeRange(parameter), false});
     }
     if (option().hasLength()) {
       form->units = makeUnits(form);

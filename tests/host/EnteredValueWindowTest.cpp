@@ -41,6 +41,16 @@ protected:
     window.press("Return");
     ASSERT_TRUE(shows(window, "Preset:", name));
   }
+  /// Whether the field beside the label is drawn with the focus, as the light theme does.
+  static bool hasRing(const Screen &shown, const char *label) {
+    const Control *const field = shown.beside(label, "field");
+    if (field == nullptr)
+      return false;
+    const std::string place = std::to_string(field->width) + "x" + std::to_string(field->height) +
+                              "+" + std::to_string(field->x) + "+" + std::to_string(field->y);
+    const Words words{"import", "-window", "root", "-crop", place, "-depth", "8", "txt:-"};
+    return runProcess(words).output.find("#2F6FE0") != std::string::npos;
+  }
   static bool isTicked(const PrintWindow &window, const char *title) {
     const Screen shown = window.screen();
     const Control *const box = shown.find("button", title);
@@ -129,6 +139,28 @@ TEST_F(EnteredValue, OfThePageIsCheckedWhileItIsTypedShownAndPrinted) {
   again.choose("Media:", "A5");
   again.click("Print");
   EXPECT_THAT(printed(jobOf(again.ended())).options, Contains(Pair("PageSize", "A5")));
+}
+
+TEST_F(EnteredValue, IsAskedForWithTheFocusInOneFieldAndWhatIsWrongInAnyOfThem) {
+  PrintWindow window(onQueue("finisher"));
+  window.choose("Media:", "Custom");
+  ASSERT_TRUE(asks(window, "Media Size"));
+  EXPECT_TRUE(window.becomes([](const Screen &shown) { return hasRing(shown, "Width:"); }));
+  window.write("1");
+  window.press("Tab");
+  EXPECT_TRUE(window.becomes(
+      [](const Screen &shown) { return hasRing(shown, "Height:") && !hasRing(shown, "Width:"); }));
+  window.write("1");
+  EXPECT_TRUE(window.says("Height: that is out of range."));
+  window.write("50");
+  EXPECT_TRUE(window.says("Width: that is out of range.")) << "the height is 150";
+  window.press("Return");
+  EXPECT_TRUE(window.becomes([](const Screen &shown) { return hasRing(shown, "Width:"); }));
+  window.write("100");
+  EXPECT_TRUE(window.becomes([](const Screen &shown) { return !shown.says("out of range"); }));
+  window.press("Escape");
+  ASSERT_TRUE(asks(window, "Print"));
+  window.press("Escape");
 }
 
 TEST_F(EnteredValue, OnTheCommandLineIsShownAndCanBeLeftAgain) {
