@@ -110,6 +110,14 @@ SINCE(10.0) @interface NSMutableArray : NSArray
 - (void)setArray:(NSArray *)objects SINCE(10.0);
 @end
 
+SINCE(10.0) @interface NSSet : NSObject
+- (id)member:(id)object SINCE(10.0);
+@end
+
+SINCE(10.0) @interface NSMutableSet : NSSet
+- (void)addObject:(id)object SINCE(10.0);
+@end
+
 SINCE(10.0) @interface NSDictionary : NSObject
 + (id)dictionaryWithObjectsAndKeys:(id)first, ... __attribute__((sentinel))SINCE(10.0);
 - (id)initWithContentsOfFile:(NSString *)path SINCE(10.0);
