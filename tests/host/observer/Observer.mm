@@ -103,7 +103,10 @@ std::string listing() {
   std::ostringstream out;
   NSWindow *const key = [NSApp isActive] ? [NSApp keyWindow] : nil;
   out << oneLine([[NSRunLoop currentRunLoop] currentMode]);
-  writePlace(out, [key contentView], [[key contentView] bounds]);
+  if (key != nil) // nobody answers with a rectangle on 32-bit systems: the caller's stack is lost
+    writePlace(out, [key contentView], [[key contentView] bounds]);
+  else
+    out << "\t0\t0\t0\t0";
   out << '\t' << oneLine([key title]) << '\n';
   for (NSUInteger i = 0; i < [[NSApp windows] count]; i++) {
     NSWindow *const window = [[NSApp windows] objectAtIndex:i];
