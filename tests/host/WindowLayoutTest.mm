@@ -57,8 +57,9 @@ protected:
 TEST_P(WindowLayout, ClipsNoTitle) {
   for (NSUInteger i = 0; i < [placed() count]; i++) {
     NSView *const view = [placed() objectAtIndex:i];
+    // A stepper has no title, and measuring one destroys the stack of 32-bit systems.
     if (![view isKindOfClass:[NSControl class]] || [view isKindOfClass:[NSPopUpButton class]] ||
-        view == views_.hint)
+        [view isKindOfClass:[NSStepper class]] || view == views_.hint)
       continue;
     NSControl *const control = (NSControl *)view;
     EXPECT_LE([[control cell] cellSize].width, NSWidth([control frame]) + 0.5)
