@@ -112,7 +112,7 @@ void layOutGrid(PreviewLayout &layout, const Preview &preview, const PictureSize
 } // namespace
 
 PictureSize preferredPictureSize(double lineHeight) {
-  return {std::round(26 * lineHeight), std::round(28 * lineHeight), lineHeight};
+  return {std::round(28 * lineHeight), std::round(28 * lineHeight), lineHeight};
 }
 
 Pixel PreviewLayout::gridCentre() const noexcept {
