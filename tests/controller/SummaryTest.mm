@@ -1,20 +1,6 @@
 // What the print dialog's summary is given.
 #import "tests/controller/ControllerFixture.h"
-
-/// In place of the controller's bundle: has no texts.
-@interface SilentBundle : NSObject
-@end
-
-@implementation SilentBundle
-- (NSString *)localizedStringForKey:(NSString *)key
-                              value:(NSString *)value
-                              table:(NSString *)table {
-  (void)key;
-  (void)value;
-  (void)table;
-  return nil;
-}
-@end
+#import "tests/support/SilentBundle.h"
 
 using namespace imageposition::test;
 using testing::ElementsAre;

@@ -1,6 +1,7 @@
 // The small windows as they are laid out in the language of this process: no text clipped, nothing
 // overlapping.
 #import "host/HelpPanel.h"
+#import "host/KeyWindow.h"
 #import "host/Labels.h"
 #import "host/NamePanel.h"
 #import "host/PasswordPanel.h"
@@ -61,19 +62,9 @@ void expectLaidOut(NSWindow *window) {
   }
 }
 
-/// A modal loop looks whether it has been stopped only after an event.
 void answer(NSInteger code, NSWindow *window) {
   [NSApp stopModalWithCode:code];
-  [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
-                                      location:NSZeroPoint
-                                 modifierFlags:0
-                                     timestamp:0
-                                  windowNumber:[window windowNumber]
-                                       context:nil
-                                       subtype:0
-                                         data1:0
-                                         data2:0]
-           atStart:NO];
+  wakeModalLoop(window);
 }
 
 class PanelLayout : public testing::Test {

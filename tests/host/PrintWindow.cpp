@@ -119,10 +119,16 @@ Control PrintWindow::awaited(const std::string &what,
 
 void PrintWindow::clickAt(int x, int y, const std::function<void()> &before) {
   xdotool({"mousemove", std::to_string(x), std::to_string(y), "mousedown", "1"});
-  if (!becomes([](const Screen &shown) { return shown.isTracking; }))
-    giveUp("nothing to click on", screen());
-  if (before)
-    before();
+  // A button that stayed down would fail every test after this one.
+  try {
+    if (!becomes([](const Screen &shown) { return shown.isTracking; }))
+      giveUp("nothing to click on", screen());
+    if (before)
+      before();
+  } catch (...) {
+    xdotool({"mouseup", "1"});
+    throw;
+  }
   xdotool({"mouseup", "1"});
   if (!comesTrueInTime([&] { return process_.hasEnded() || !screen().isTracking; }))
     giveUp("the button is not let go", screen());

@@ -4,6 +4,7 @@
 #import "tests/support/LiveObjects.h"
 #import "tests/support/Pool.h"
 #import "tests/support/RefusingInit.h"
+#import "tests/support/SilentBundle.h"
 
 #import "plugin/MorvaADPPdePanelRV2.h"
 
@@ -42,21 +43,6 @@ using testing::IsEmpty;
 - (NSDictionary *)getSummaryInfo {
   [self record:"getSummaryInfo"];
   return summary;
-}
-@end
-
-/// In place of the panel's bundle: has not even the keys.
-@interface SilentStrings : NSObject
-@end
-
-@implementation SilentStrings
-- (NSString *)localizedStringForKey:(NSString *)key
-                              value:(NSString *)value
-                              table:(NSString *)table {
-  (void)key;
-  (void)value;
-  (void)table;
-  return nil;
 }
 @end
 
@@ -241,7 +227,7 @@ TEST_F(Panel, WithoutALocalizedNameIsCalledByTheKey) {
 // Until there is one.
 TEST_F(Panel, HasNoNameFromABundleThatGivesNone) {
   NSBundle *original = field<NSBundle *>(panel, "PDEBundle");
-  SilentStrings *strings = [[SilentStrings alloc] init];
+  SilentBundle *strings = [[SilentBundle alloc] init];
   field<id>(panel, "PDEBundle") = strings;
   EXPECT_EQ([panel panelName], nil);
   field<id>(panel, "PDEBundle") = original;
