@@ -23,25 +23,27 @@ NSString *IPWhatIsRaisedBy(void (*body)(void *context), void *context);
 
 namespace imageposition {
 
-/// The same for any callable, C++ exceptions included; none when nothing was raised.
+/// The same for any callable, C++ exceptions of any type included; none when nothing was raised.
 template <typename Body> std::optional<std::string> whatIsRaisedBy(Body &&body) {
   struct Call {
     Body &body;
     std::optional<std::string> exception;
   } call{body, std::nullopt};
-  NSString *const raised = IPWhatIsRaisedBy(
-      [](void *context) {
-        Call &inner = *static_cast<Call *>(context);
-        try {
-          inner.body();
-        } catch (const std::exception &exception) {
-          inner.exception = exception.what();
-        }
-      },
-      &call);
-  if (raised != nil)
-    return toText(raised);
-  return call.exception;
+  const auto callBody = [](void *context) {
+    Call &inner = *static_cast<Call *>(context);
+    try {
+      inner.body();
+    } catch (const std::exception &exception) {
+      inner.exception = exception.what();
+    }
+  };
+  // Catching everything there would catch what Objective-C raises, without a word of it.
+  try {
+    NSString *const raised = IPWhatIsRaisedBy(callBody, &call);
+    return raised != nil ? toText(raised) : call.exception;
+  } catch (...) {
+    return "an exception without description";
+  }
 }
 
 } // namespace imageposition

@@ -85,6 +85,7 @@ TEST_F(PluginLoading, WhateverIsRaisedLeavesThePluginOutWithItsOperationNamed) {
     expectLeftOut(raised, std::string("failed in \"") + operation + "\"");
     EXPECT_THAT(raised.errors, HasSubstr("FixtureException: raised on demand"));
     expectLeftOut(behave(std::string("throw ") + operation), "thrown on demand");
+    expectLeftOut(behave(std::string("throw-number ") + operation), "without description");
   }
 }
 
