@@ -2,6 +2,8 @@
 #ifndef IMAGEPOSITION_HOST_EXITCODE_HPP
 #define IMAGEPOSITION_HOST_EXITCODE_HPP
 
+#include <functional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 
@@ -19,6 +21,7 @@ enum class ExitCode : int {
   Display = 7,   ///< There is no display, and none could be started.
   Value = 8,     ///< Batch: a value cannot be set on the panel.
   Job = 9,       ///< CUPS did not take the job.
+  Fault = 10,    ///< Memory ran out, or there is a fault in the program.
 };
 
 /// Ends what was asked for; the message is a sentence for the person, with what to do.
@@ -30,6 +33,9 @@ public:
 private:
   ExitCode code_;
 };
+
+/// How `run` ends, with what it throws in a line on `errors`; `Fault` for all but a `Failure`.
+ExitCode exitCodeOf(const std::function<ExitCode()> &run, std::ostream &errors);
 
 } // namespace imageposition
 

@@ -104,6 +104,7 @@ const char *const kHelpFooter =
     "  7  no display, and none could be started\n"
     "  8  batch: a value cannot be set on the panel\n"
     "  9  CUPS did not take the job\n"
+    "  10 memory ran out, or there is a fault in print-dialog\n"
     "In batch, nothing is written unless the status is 0.";
 
 const Text kNothingToSummarize = text("Not available with the present settings.");

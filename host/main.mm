@@ -140,16 +140,14 @@ ExitCode runInPool(const std::vector<std::string> &words) {
 } // namespace
 
 int main(int argc, char **argv) {
-  leaveOutForeignVariables(argv);
-  const std::string catalogues = catalogueFolder();
-  // Before the platform, which cannot be asked for its own default while an argument is no text.
-  speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
-  try {
+  const auto program = [=] {
+    leaveOutForeignVariables(argv);
+    const std::string catalogues = catalogueFolder();
+    // Before the platform, which cannot be asked for its own default while an argument is no text.
+    speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
     const std::vector<std::string> words(argv + 1, argv + argc);
     refuseForeignArguments(words);
-    return static_cast<int>(runInPool(words));
-  } catch (const Failure &failure) {
-    std::cerr << messages::kProgram << failure.what() << '\n';
-    return static_cast<int>(failure.code());
-  }
+    return runInPool(words);
+  };
+  return static_cast<int>(exitCodeOf(program, std::cerr));
 }

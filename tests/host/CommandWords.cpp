@@ -30,7 +30,7 @@ std::set<std::string> optionsOfHelp() {
 }
 
 std::set<std::string> statusesOfHelp() {
-  return inLinesOfHelp(std::regex("^  [0-9]  "), std::regex("[0-9]"));
+  return inLinesOfHelp(std::regex("^  [0-9]+ +"), std::regex("[0-9]+"));
 }
 
 } // namespace imageposition::test
