@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstring>
 #include <strings.h>
+#include <system_error>
 #include <thread>
 
 namespace imageposition {
@@ -203,10 +204,14 @@ void Destinations::refresh(std::chrono::milliseconds patience) {
     return;
   answer_ = std::make_shared<Answer>();
   // Looking up a server's name can take longer than any patience; nobody waits for this thread.
-  std::thread([answer = answer_, patience] {
-    answer->list = readDestinations(patience);
-    answer->isThere = true;
-  }).detach();
+  try {
+    std::thread([answer = answer_, patience] {
+      answer->list = readDestinations(patience);
+      answer->isThere = true;
+    }).detach();
+  } catch (const std::system_error &) { // too many processes; there may be fewer at the next call
+    answer_.reset();
+  }
 }
 
 bool Destinations::takeAnswer() {

@@ -58,7 +58,7 @@ public:
   /// Empty without a reason before the first answer.
   const DestinationList &list() const noexcept { return list_; }
 
-  /// Asks anew; nothing happens while an earlier question is open.
+  /// Asks anew; nothing happens while an earlier question is open, or where no thread can be had.
   void refresh(std::chrono::milliseconds patience = std::chrono::seconds(5));
   bool isRefreshing() const noexcept { return answer_ != nullptr; }
 

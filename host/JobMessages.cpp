@@ -95,6 +95,11 @@ std::string jobNotTaken(const std::string &queue, const std::string &reason) {
               "printed.")
       .with(queue, because(reason));
 }
+std::string noRoomToSend(const std::string &reason) {
+  return text("This computer has no room to send the job{1}. Nothing was printed; close other "
+              "programs and print again.")
+      .with(because(reason));
+}
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job) {
   const std::string name = queue + "-" + std::to_string(job);
   return text("{1} The unfinished job {2} could not be removed; \"cancel {2}\" removes it.")

@@ -397,13 +397,17 @@ struct JobSubmission::Work {
 JobSubmission::JobSubmission(JobRequest request, JobDocuments documents)
     : work_(std::make_unique<Work>()) {
   Work *const work = work_.get(); // outlives the thread, whose end the destructor awaits
-  work->outcome = std::async(std::launch::async, [work, request = std::move(request),
-                                                  documents = std::move(documents)] {
-                    return submitJob(
-                        request, documents,
-                        [work](const JobProgress &progress) { return work->take(progress); },
-                        [work](const PasswordRequest &wanted) { return work->ask(wanted); });
-                  }).share();
+  try {
+    work->outcome = std::async(std::launch::async, [work, request = std::move(request),
+                                                    documents = std::move(documents)] {
+                      return submitJob(
+                          request, documents,
+                          [work](const JobProgress &progress) { return work->take(progress); },
+                          [work](const PasswordRequest &wanted) { return work->ask(wanted); });
+                    }).share();
+  } catch (const std::system_error &error) { // too many processes
+    fail(JobProblem::Other, messages::noRoomToSend(systemReason(error.code().value())));
+  }
 }
 
 JobSubmission::~JobSubmission() {

@@ -69,7 +69,7 @@ SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
 /// none waits but `result` and the destructor.
 class JobSubmission {
 public:
-  /// Starts at once.
+  /// Starts at once. Throws `SubmissionFailure` where no thread can be had.
   JobSubmission(JobRequest request, JobDocuments documents);
   /// Cancels what is under way and waits until that has happened.
   ~JobSubmission();

@@ -1,8 +1,10 @@
 #include "host/Destinations.hpp"
 
 #include "tests/host/JobFixture.hpp"
+#include "tests/host/ProcessLimits.hpp"
 
 #include <csignal>
+#include <cstdlib>
 
 namespace {
 
@@ -148,6 +150,18 @@ TEST_F(PrinterList, LetsGoOfAnOpenQuestion) {
     printers.refresh(std::chrono::milliseconds(500));
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
+}
+
+TEST_F(PrinterList, IsAskedForAgainOnceAThreadCanBeHad) {
+  const auto hasAnswered = [] {
+    Destinations printers;
+    forbidThreads();
+    printers.refresh();
+    allowThreads();
+    printers.refresh();
+    return comesTrue([&] { return printers.takeAnswer(); });
+  };
+  EXPECT_EXIT(std::_Exit(hasAnswered() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 TEST(StateReasons, AreWords) {

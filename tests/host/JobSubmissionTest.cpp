@@ -2,9 +2,11 @@
 
 #include "host/Destinations.hpp"
 #include "tests/host/JobFixture.hpp"
+#include "tests/host/ProcessLimits.hpp"
 #include "tests/host/RecordingRelay.hpp"
 
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sstream>
 #include <sys/resource.h>
@@ -477,6 +479,21 @@ TEST_F(Job, WhoseLaterDocumentFailsIsTakenBack) {
     EXPECT_EQ(failure.problem(), JobProblem::Document);
   }
   EXPECT_THAT(waitingJobs(), IsEmpty());
+}
+
+TEST_F(Job, ThatNoThreadCanBeHadForIsRefusedInWords) {
+  const JobRequest request = requestFor();
+  const JobDocuments documents = {document()};
+  const auto isRefused = [&] {
+    forbidThreads();
+    try {
+      JobSubmission(request, documents);
+    } catch (const SubmissionFailure &failure) {
+      return std::string(failure.what()).find("no room to send the job (") != std::string::npos;
+    }
+    return false;
+  };
+  EXPECT_EXIT(std::_Exit(isRefused() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(Job, ThatIsRawReachesThePrinterAsItIs) {
