@@ -13,13 +13,13 @@ namespace {
 void showTitles(NSPopUpButton *popUp, const std::vector<std::string> &titles) {
   bool isShown = static_cast<std::size_t>([popUp numberOfItems]) == titles.size();
   for (std::size_t i = 0; isShown && i < titles.size(); i++)
-    isShown = toText([popUp itemTitleAtIndex:i]) == titles[i];
+    isShown = toText([popUp itemTitleAtIndex:static_cast<NSInteger>(i)]) == titles[i];
   if (isShown)
     return;
   [popUp removeAllItems];
   // By hand: adding an item by its title would take away an earlier one of the same title.
   for (const std::string &title : titles)
-    [[popUp menu] addItemWithTitle:toString(title) action:NULL keyEquivalent:@""];
+    [[popUp menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
 }
 
 } // namespace

@@ -36,7 +36,7 @@ enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
   if ([views.pages numberOfItems] == 0)
     for (const Text &title :
          {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange})
-      [[views.pages menu] addItemWithTitle:toString(title) action:NULL keyEquivalent:@""];
+      [[views.pages menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
   const PageChoice choice = readPageChoice(job->settings());
   const PagesItem item = choice.set == PageSet::Odd    ? kOddItem
                          : choice.set == PageSet::Even ? kEvenItem

@@ -18,7 +18,7 @@ std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterO
   if (option)
     return showChoices(popUp, *option);
   [popUp removeAllItems];
-  [[popUp menu] addItemWithTitle:toString(messages::kNotOffered) action:NULL keyEquivalent:@""];
+  [[popUp menu] addItemWithTitle:toString(messages::kNotOffered) action:nullptr keyEquivalent:@""];
   [popUp selectItemAtIndex:0];
   [popUp setEnabled:NO];
   return {};

@@ -29,9 +29,9 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
   // By hand: adding an item by its title would take away an earlier one of the same title.
   NSMenu *const menu = [views.panes menu];
   for (const auto &panel : job->panels().panels())
-    [menu addItemWithTitle:toString(panel->name()) action:NULL keyEquivalent:@""];
-  [menu addItemWithTitle:toString(messages::kOptionsPane) action:NULL keyEquivalent:@""];
-  [menu addItemWithTitle:toString(messages::kSummaryTitle) action:NULL keyEquivalent:@""];
+    [menu addItemWithTitle:toString(panel->name()) action:nullptr keyEquivalent:@""];
+  [menu addItemWithTitle:toString(messages::kOptionsPane) action:nullptr keyEquivalent:@""];
+  [menu addItemWithTitle:toString(messages::kSummaryTitle) action:nullptr keyEquivalent:@""];
   [views.panes selectItemAtIndex:0];
 }
 

@@ -12,7 +12,7 @@ namespace {
 std::string printerOf(const std::string &queue) { return queue.substr(0, queue.find('/')); }
 
 void addItem(NSMenu *menu, const std::string &title, bool enabled = true) {
-  [[menu addItemWithTitle:toString(title) action:NULL keyEquivalent:@""] setEnabled:enabled];
+  [[menu addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""] setEnabled:enabled];
 }
 
 std::string joined(const std::vector<std::string> &sentences) {

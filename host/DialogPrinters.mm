@@ -74,10 +74,11 @@ std::string titleOf(const Destination &destination) {
   titles.push_back(messages::kSaveAsTicket);
   [views.printers removeAllItems];
   for (const std::string &title : titles)
-    [[views.printers menu] addItemWithTitle:toString(title) action:NULL keyEquivalent:@""];
+    [[views.printers menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
   const auto chosen = std::find(state->printers.begin(), state->printers.end(), job->queue());
-  [views.printers selectItemAtIndex:job->isSubmitted() ? chosen - state->printers.begin()
-                                                       : state->printers.size()];
+  // The ticket's item is the one after the printers.
+  const auto item = job->isSubmitted() ? chosen : state->printers.end();
+  [views.printers selectItemAtIndex:item - state->printers.begin()];
   [self sayState];
 }
 

@@ -91,7 +91,9 @@ using namespace imageposition;
   }
   const JobProgress progress = state->submission->progress();
   const auto total = progress.total.value_or(0);
-  [views.progress setDoubleValue:total == 0 ? 0 : static_cast<double>(progress.sent) / total];
+  [views.progress
+      setDoubleValue:total == 0 ? 0
+                                : static_cast<double>(progress.sent) / static_cast<double>(total)];
   [views.message
       setStringValue:toString(messages::sending(messages::byteCount(progress.sent),
                                                 total == 0 ? "" : messages::byteCount(total)))];

@@ -138,7 +138,7 @@ void Builder::makeControls() {
 
 void Builder::makeWindow() {
   NSSize picture = [PreviewView preferredSize];
-  const CGFloat rows = rows_.size() * (kRowHeight + kRowGap);
+  const CGFloat rows = static_cast<CGFloat>(rows_.size()) * (kRowHeight + kRowGap);
   const CGFloat rowsWidth = titleWidth_ + kGap + kPopUpWidth;
   const CGFloat foot = kHintHeight + messageHeight() + kRowHeight + 3 * kGap;
   const bool isNarrow = pane_.width + picture.width + 3 * kMargin > room_.width;

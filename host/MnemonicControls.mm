@@ -8,7 +8,6 @@
 #include <cmath>
 
 using imageposition::MnemonicText;
-using imageposition::readMnemonic;
 using imageposition::toString;
 
 namespace {

@@ -115,7 +115,7 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
   NSPopUpButton *const popUp = [[[NSPopUpButton alloc] initWithFrame:frame
                                                            pullsDown:NO] autorelease];
   [popUp setAutoenablesItems:NO];
-  [popUp setTag:rows->size()];
+  [popUp setTag:static_cast<NSInteger>(rows->size())];
   [popUp setTarget:self];
   [popUp setAction:@selector(choose:)];
   rows->push_back({option.keyword, {}, popUp, {}});
@@ -131,7 +131,7 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
       [button setToolTip:toString(choice.text)];
     [button setFrame:NSMakeRect(NSMinX(frame), NSMinY(frame),
                                 std::min(NSWidth([button frame]), NSWidth(frame)), kRowHeight)];
-    [button setTag:rows->size()];
+    [button setTag:static_cast<NSInteger>(rows->size())];
     [document addSubview:button];
     row.choices.push_back(choice.keyword);
     row.switches.push_back(button);

@@ -90,7 +90,10 @@ void hatch(const PixelRectangle &rectangle, const Colour &colour) {
   NSBezierPath *const lines = [NSBezierPath bezierPath];
   // From a grid that all parts share, so that the pattern goes on across their edges.
   const double first = std::floor((rectangle.x + rectangle.y) / kDistance) * kDistance;
-  for (double sum = first; sum <= rectangle.right() + rectangle.bottom(); sum += kDistance) {
+  const double last = rectangle.right() + rectangle.bottom();
+  const int count = static_cast<int>((last - first) / kDistance);
+  for (int i = 0; i <= count; i++) {
+    const double sum = first + i * kDistance;
     [lines moveToPoint:NSMakePoint(sum - rectangle.y, rectangle.y)];
     [lines lineToPoint:NSMakePoint(sum - rectangle.bottom(), rectangle.bottom())];
   }

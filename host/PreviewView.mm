@@ -23,7 +23,7 @@ struct imageposition::PreviewViewState {
 - (id)initWithFrame:(NSRect)frame {
   if ((self = [super initWithFrame:frame]) != nil) {
     state = new PreviewViewState;
-    state->toolTip = [self addToolTipRect:[self bounds] owner:self userData:NULL];
+    state->toolTip = [self addToolTipRect:[self bounds] owner:self userData:nullptr];
   }
   return self;
 }
@@ -43,7 +43,7 @@ struct imageposition::PreviewViewState {
   if (state == nullptr) // while the superclass initializes
     return;
   [self removeToolTip:state->toolTip];
-  state->toolTip = [self addToolTipRect:[self bounds] owner:self userData:NULL];
+  state->toolTip = [self addToolTipRect:[self bounds] owner:self userData:nullptr];
 }
 
 - (void)showPreview:(const Preview &)preview {

@@ -160,7 +160,9 @@ std::string unitName(LengthUnit unit) {
 }
 
 NSTextField *makeField(const CustomParameter &parameter, id delegate) {
-  const Class kind = parameter.isHidden() ? [NSSecureTextField class] : [NSTextField class];
+  Class kind = [NSTextField class];
+  if (parameter.isHidden())
+    kind = [NSSecureTextField class];
   NSTextField *const field = [[[kind alloc] initWithFrame:NSZeroRect] autorelease];
   [field setDelegate:delegate];
   [field setFrameSize:NSMakeSize(parameter.isText() ? kTextWidth : kFieldWidth,
@@ -185,7 +187,7 @@ NSPopUpButton *makeUnits(ValueForm *form) {
       [[[NSPopUpButton alloc] initWithFrame:NSMakeRect(0, 0, kUnitWidth, kButtonHeight)
                                   pullsDown:NO] autorelease];
   for (const LengthUnit unit : kUnits)
-    [[popUp menu] addItemWithTitle:toString(unitName(unit)) action:NULL keyEquivalent:@""];
+    [[popUp menu] addItemWithTitle:toString(unitName(unit)) action:nullptr keyEquivalent:@""];
   [popUp selectItemAtIndex:std::find(std::begin(kUnits), std::end(kUnits), form->unit) -
                            std::begin(kUnits)];
   [popUp setTarget:form];
@@ -247,7 +249,7 @@ public:
   CGFloat width() const { return width_; }
   CGFloat height() const {
     const std::size_t lines = form_->rows->size() + (unitTitle_ != nil ? 1 : 0);
-    return lines * line_ + kGap + NSHeight([form_->problem frame]);
+    return static_cast<CGFloat>(lines) * line_ + kGap + NSHeight([form_->problem frame]);
   }
 
   /// In the order of Tab.

@@ -5,7 +5,7 @@
 
 #import <Foundation/Foundation.h>
 
-#include <stdint.h>
+#include <cstdint>
 
 /// An item that can be made unusable.
 @protocol ViewAvailableInterface

@@ -4,7 +4,7 @@
 
 #import <Foundation/Foundation.h>
 
-#include <stdint.h>
+#include <cstdint>
 
 namespace imageposition {
 

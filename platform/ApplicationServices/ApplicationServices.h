@@ -9,18 +9,16 @@
 
 #import <AppKit/AppKit.h>
 
+#include <cstdint>
 #include <cups/ppd.h>
-#include <stdint.h>
 
-#ifdef __cplusplus
 extern "C" {
-#endif
 
 typedef int32_t OSStatus;
 typedef unsigned char Boolean;
 typedef const void *CFTypeRef;
 /// An `NSString *` in disguise, as on macOS.
-typedef const struct __CFString *CFStringRef;
+typedef const struct OpaqueCFString *CFStringRef;
 typedef struct OpaquePMPrintSettings *PMPrintSettings;
 
 /// Reads the value stored under `key` into `*value`, which stays the store's.
@@ -32,9 +30,7 @@ OSStatus PMPrintSettingsGetValue(PMPrintSettings settings, CFStringRef key, CFTy
 OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, CFStringRef key, CFTypeRef value,
                                  Boolean locked);
 
-#ifdef __cplusplus
-}
-#endif
+} // extern "C"
 
 /// What a print dialog asks of a plug-in bundle's principal class.
 @protocol PDEPlugIn

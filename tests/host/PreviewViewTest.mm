@@ -258,7 +258,7 @@ TEST_F(PreviewViewOnScreen, SaysWhatItShows) {
   const std::string text = toText([view_ accessibilityLabel]);
   EXPECT_EQ(text.rfind("Each side is moved 0.1 mm to the right as its reader sees it. Held", 0), 0u)
       << text;
-  EXPECT_EQ(toText([view_ view:view_ stringForToolTip:0 point:NSZeroPoint userData:NULL]), text);
+  EXPECT_EQ(toText([view_ view:view_ stringForToolTip:0 point:NSZeroPoint userData:nullptr]), text);
 }
 
 TEST_F(PreviewViewOnScreen, DrawsInAnySize) {

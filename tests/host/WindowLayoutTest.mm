@@ -46,7 +46,7 @@ protected:
 
   static void fill(NSPopUpButton *popUp, const std::vector<Text> &titles) {
     for (const Text &title : titles)
-      [[popUp menu] addItemWithTitle:toString(title) action:NULL keyEquivalent:@""];
+      [[popUp menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
   }
 
   NSArray *placed() const { return [[views_.window contentView] subviews]; }

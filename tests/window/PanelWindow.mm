@@ -31,7 +31,7 @@ void makeMenu() {
   NSMenu *menu = [[[NSMenu alloc] initWithTitle:@"Panel"] autorelease];
   NSMenu *edit = [[[NSMenu alloc] initWithTitle:@"Edit"] autorelease];
   [edit addItemWithTitle:@"Paste" action:@selector(paste:) keyEquivalent:@"v"];
-  id<NSMenuItem> item = [menu addItemWithTitle:@"Edit" action:NULL keyEquivalent:@""];
+  id<NSMenuItem> item = [menu addItemWithTitle:@"Edit" action:nullptr keyEquivalent:@""];
   [menu setSubmenu:edit forItem:item];
   [NSApp setMainMenu:menu];
 }
