@@ -137,17 +137,18 @@ ExitCode runInPool(const std::vector<std::string> &words) {
   return code;
 }
 
+ExitCode runProgram(int argc, char **argv) {
+  leaveOutForeignVariables(argv);
+  const std::string catalogues = catalogueFolder();
+  // Before the platform, which cannot be asked for its own default while an argument is no text.
+  speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  refuseForeignArguments(words);
+  return runInPool(words);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
-  const auto program = [=] {
-    leaveOutForeignVariables(argv);
-    const std::string catalogues = catalogueFolder();
-    // Before the platform, which cannot be asked for its own default while an argument is no text.
-    speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
-    const std::vector<std::string> words(argv + 1, argv + argc);
-    refuseForeignArguments(words);
-    return runInPool(words);
-  };
-  return static_cast<int>(exitCodeOf(program, std::cerr));
+  return static_cast<int>(exitCodeOf([=] { return runProgram(argc, argv); }, std::cerr));
 }
