@@ -4,7 +4,7 @@
 build_packages=(
   g++ gobjc++ cmake ninja-build pkg-config          # the toolchain
   libgnustep-gui-dev                                # AppKit and Foundation
-  libcups2-dev libfontconfig-dev                    # printers; which fonts there are
+  libcups2-dev libfontconfig-dev libx11-dev         # printers; which fonts there are; the display
   libcli11-dev nlohmann-json3-dev                   # command line, tickets
   gettext                                           # the dialog's words in other languages
 )
