@@ -59,7 +59,7 @@ void drawFocusRing(NSRect rect, CGFloat radius, Rgb color) {
 }
 
 void drawChevron(NSPoint centre, CGFloat halfWidth, bool up, bool flipped, Rgb color) {
-  const CGFloat rise = (up != flipped ? 1 : -1) * halfWidth / 2;
+  const CGFloat rise = (up != flipped ? halfWidth : -halfWidth) / 2;
   NSBezierPath *const path = [NSBezierPath bezierPath];
   [path moveToPoint:NSMakePoint(centre.x - halfWidth, centre.y - rise)];
   [path lineToPoint:NSMakePoint(centre.x, centre.y + rise)];
