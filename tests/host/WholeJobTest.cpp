@@ -4,6 +4,7 @@
 #include "tests/host/Picture.hpp"
 
 #include <cmath>
+#include <optional>
 #include <thread>
 
 namespace {
@@ -84,6 +85,17 @@ protected:
     EXPECT_NEAR(to.bottom - from.bottom, down * pixels, 1);
   }
 
+  /// Waits until the picture is painted: it may come later than the words beside it.
+  static Picture painted(const PrintWindow &window) {
+    std::optional<Picture> picture;
+    EXPECT_TRUE(window.becomes([&](const Screen &shown) {
+      picture.emplace(shown);
+      return picture->paper().bottom > 0 && picture->front().bottom > 0 &&
+             picture->back().bottom > 0;
+    }));
+    return *picture;
+  }
+
   /// Waits for the first picture in which the outline differs.
   template <typename Measure>
   static Outline next(const PrintWindow &window, const Outline &before, Measure &&measure) {
@@ -99,7 +111,7 @@ protected:
 TEST_F(ThePicture, MovesWhatIsPrintedByWhatIsTypedToScale) {
   PrintWindow window(onQueue("office"));
   window.tick(kSeparateOffsets, true);
-  Picture still(window.screen());
+  const Picture still = painted(window);
   const Outline paper = still.paper();
   const Outline front = still.front();
   const Outline back = still.back();
@@ -128,7 +140,7 @@ TEST_F(ThePicture, MovesWhatIsPrintedByWhatIsTypedToScale) {
 TEST_F(ThePicture, MovesBothSidesAlikeWithoutTheTick) {
   PrintWindow window(onQueue("office"));
   ASSERT_TRUE(window.says(kLeftRight));
-  Picture still(window.screen());
+  const Picture still = painted(window);
   window.enter(kLeftRight, "100");
   const Outline front =
       next(window, still.front(), [](const Picture &picture) { return picture.front(); });
