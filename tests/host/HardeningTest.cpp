@@ -67,7 +67,7 @@ TEST_P(Hardening, ItsFunctionsAreMarkedWhereTheyBegin) {
 #endif
 
 std::string nameOf(const testing::TestParamInfo<const char *> &info) {
-  static const char *const kNames[] = {"Program", "PrintCore", "Plugin", "StandIn"};
+  static const char *const kNames[] = {"Program", "PrintCore", "Plugin"};
   return kNames[info.index];
 }
 
@@ -75,9 +75,6 @@ const std::vector<const char *> kCode{
     PRINT_DIALOG,
     CODE_OF_PRINT_CORE,
     CODE_OF_PLUGIN,
-#ifdef CODE_OF_STAND_IN
-    CODE_OF_STAND_IN,
-#endif
 };
 
 INSTANTIATE_TEST_SUITE_P(Built, Hardening, testing::ValuesIn(kCode), nameOf);

@@ -54,11 +54,6 @@ TEST_F(Install, TheProgramRuns) {
   EXPECT_THAT(result.output, HasSubstr("print-dialog "));
 }
 
-TEST_F(Install, WhatStandsInForLibrariesIsFoundWithTheProgramAlone) {
-  const auto libraries = runProcess({"ldd", program()});
-  EXPECT_EQ(libraries.output.find("/print-dialog/delayed/") != std::string::npos, HAS_STAND_INS);
-}
-
 TEST_F(Install, ThePlugInIsFoundWithTheProgram) {
   const std::vector<std::string> line{
       program(), "--batch",     "--ppd",    IMAGEPOSITION_SAMPLES "/duplex-shift.ppd",

@@ -78,15 +78,6 @@ TEST_F(Start, NoOtherProgramIsStarted) {
   EXPECT_EQ(mine.output, "");
 }
 
-TEST_F(Start, LibrariesThatTheDialogHardlyEverNeedsAreNotMapped) {
-  open("duplex-shift.ppd");
-  const std::string maps = contentOf("/proc/" + std::to_string(dialogProcess->id()) + "/maps");
-  ASSERT_NE(maps.find("libgnustep-gui"), std::string::npos);
-  std::istringstream paths(DELAYED_LIBRARIES);
-  for (std::string path; std::getline(paths, path, '|');)
-    EXPECT_EQ(maps.find(path), std::string::npos) << path;
-}
-
 TEST_F(Start, ADocumentThatIsNamedBeforeAllElseIsTheDialogsToPrint) {
   start({sample("two-sided.pdf"), "--ppd", sample("duplex-shift.ppd"), "--ticket", ticket}, {});
 }
