@@ -1,5 +1,6 @@
 #include "host/Language.hpp"
 
+#include "host/PluginTrust.hpp"
 #include "host/ProgramFolder.hpp"
 
 #include <algorithm>
@@ -140,7 +141,9 @@ std::string catalogueFolder() {
   for (const char *name : {"locale", IMAGEPOSITION_LOCALES_FROM_PROGRAM}) {
     std::error_code ignored;
     std::string folder = besideProgram(name);
-    if (!folder.empty() && fs::is_directory(folder, ignored))
+    // gettext trusts what it reads, and the user what the dialog says.
+    if (!folder.empty() && fs::is_directory(folder, ignored) &&
+        !untrustedPlace(folder, TrustedPeople::here()))
       return folder;
   }
   return IMAGEPOSITION_LOCALE_FOLDER;

@@ -257,9 +257,8 @@ std::string pluginNotBundle(const std::string &path) {
 std::string pluginWritable(const std::string &path, const std::string &part) {
   return text(
              "The plug-in \"{1}\" was not loaded: other users may change \"{2}\", and with it what "
-             "the plug-in does. Take that right from them (chmod go-w), or use a copy of the "
-             "plug-in "
-             "in a folder of your own.")
+             "the plug-in does. Take that right from its group and from everybody (chmod go-w "
+             "\"{2}\"), or use a copy of the plug-in in a folder of your own.")
       .with(path, part);
 }
 std::string pluginOwnedByOthers(const std::string &path, const std::string &part) {
@@ -268,6 +267,27 @@ std::string pluginOwnedByOthers(const std::string &path, const std::string &part
               "copy "
               "of it in a folder of your own.")
       .with(path, part);
+}
+std::string pluginUnexamined(const std::string &path, const std::string &part,
+                             const std::string &reason) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" cannot be examined ({3}), so that other "
+              "users might have changed it. Correct its rights, or install the plug-in again.")
+      .with(path, part, reason);
+}
+std::string pluginLoadsCode(const std::string &path, const std::string &library,
+                            const std::string &place) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" loads code from \"{3}\", which other "
+              "users "
+              "may change. Ask the system's administrator to take that right from them, or the "
+              "plug-in's maker for another version.")
+      .with(path, library, place);
+}
+std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &library,
+                                    const std::string &place) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" loads code from \"{3}\", which is a "
+              "different place in each folder that the program is run in. Ask the plug-in's maker "
+              "for another version.")
+      .with(path, library, place);
 }
 const Text kCodeCutShort = text("its end is missing");
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {

@@ -106,6 +106,15 @@ std::string pluginNotBundle(const std::string &path);
 /// `part` is the bundle, something in it, or a folder on the way.
 std::string pluginWritable(const std::string &path, const std::string &part);
 std::string pluginOwnedByOthers(const std::string &path, const std::string &part);
+/// `part` is also a library's place that `pluginLoadsCode` is about.
+std::string pluginUnexamined(const std::string &path, const std::string &part,
+                             const std::string &reason);
+/// `library` is the file that has the loader look in `place`, which other users may change.
+std::string pluginLoadsCode(const std::string &path, const std::string &library,
+                            const std::string &place);
+/// As before; the place depends on the current folder.
+std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &library,
+                                    const std::string &place);
 extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);

@@ -4,7 +4,7 @@
 #import "host/Guard.h"
 #include "host/LibraryFile.hpp"
 #include "host/Messages.hpp"
-#include "host/PluginTrust.hpp"
+#include "host/PluginLibraries.hpp"
 
 #include <dlfcn.h>
 #include <filesystem>
@@ -18,29 +18,51 @@ NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Plugin, message); }
 
-/// What other people could have changed is no part of the plug-in that was installed.
-void checkPeople(const std::string &code, const std::string &plugin) {
-  const auto part = untrustedPart(code, TrustedPeople::here());
+/// Refuses a file or bundle that another user could have modified.
+void checkTrust(const std::string &path, const std::string &plugin) {
+  const auto part = untrustedPart(path, TrustedPeople::here());
   if (!part)
     return;
-  refuse(part->reason == UntrustedPart::Reason::OthersMayWrite
-             ? messages::pluginWritable(plugin, part->path)
-             : messages::pluginOwnedByOthers(plugin, part->path));
+  switch (part->reason) {
+  case UntrustedPart::Reason::OthersMayWrite:
+    refuse(messages::pluginWritable(plugin, part->path));
+  case UntrustedPart::Reason::OthersOwnIt:
+    refuse(messages::pluginOwnedByOthers(plugin, part->path));
+  case UntrustedPart::Reason::Unknown:
+    refuse(messages::pluginUnexamined(plugin, part->path, systemReason(part->error)));
+  }
+}
+
+/// Refuses code with which another user's could be loaded.
+void checkLibraries(const std::string &code, const std::string &plugin) {
+  const auto place = untrustedLibraryPlace(code, TrustedPeople::here());
+  if (!place)
+    return;
+  switch (place->reason) {
+  case UntrustedPlace::Reason::OthersMayChange:
+    refuse(messages::pluginLoadsCode(plugin, place->library, place->place));
+  case UntrustedPlace::Reason::Relative:
+    refuse(messages::pluginLoadsCodeAnywhere(plugin, place->library, place->place));
+  case UntrustedPlace::Reason::Unknown:
+    refuse(messages::pluginUnexamined(plugin, place->place, systemReason(place->error)));
+  }
 }
 
 NSBundle *bundleAt(const std::string &path) {
   std::error_code failed;
-  // Where a link leads now is what is looked at, and loaded.
+  if (!std::filesystem::exists(path, failed) && !failed)
+    refuse(messages::pluginMissing(path));
+  checkTrust(path, path);
+  // Nobody else can redirect the path any more.
   const std::string real = std::filesystem::canonical(path, failed).string();
   if (failed)
-    refuse(messages::pluginMissing(path));
-  checkPeople(real, path);
+    refuse(messages::pluginUnexamined(path, path, systemReason(failed.value())));
   const bool isFolder = std::filesystem::is_directory(real, failed);
   NSBundle *const bundle = isFolder ? [NSBundle bundleWithPath:toString(real)] : nil;
   NSString *const code = [bundle executablePath];
   if (code == nil || ![[NSFileManager defaultManager] isReadableFileAtPath:code])
     refuse(messages::pluginNotBundle(path));
-  checkPeople(toText(code), path); // which a bundle may say is elsewhere
+  checkTrust(toText(code), path); // which a bundle may say is elsewhere
   // For a second copy of a bundle the platform answers the first one.
   if (!std::filesystem::equivalent(real, toText([bundle bundlePath]), failed))
     refuse(messages::pluginClassTaken(
@@ -65,6 +87,7 @@ Class principalClassOf(NSBundle *bundle, const std::string &path) {
     refuse(messages::pluginClassTaken(path, *name));
   if (isCutShort(toText([bundle executablePath])))
     refuse(messages::pluginNotLoadable(path, messages::kCodeCutShort));
+  checkLibraries(toText([bundle executablePath]), path);
   BOOL loaded = NO;
   const auto raised = whatIsRaisedBy([&] { loaded = [bundle load]; });
   if (raised)
