@@ -1,4 +1,4 @@
-/// What a print dialog needs of libPrintCore: the handle through which plug-ins see its settings.
+/// What a print dialog needs of this: the handle through which plug-ins see its settings.
 #ifndef IMAGEPOSITION_PLATFORM_PRINTCORE_H
 #define IMAGEPOSITION_PLATFORM_PRINTCORE_H
 

@@ -1,9 +1,10 @@
 /// The part of macOS's ApplicationServices that the plug-in uses, for systems without it.
 ///
 /// Print settings are a store of values under string keys that travels with the job; the process
-/// that loads the plug-in provides the two functions (`libPrintCore.so` here). The two protocols
-/// are the print dialog's side of a plug-in: the dialog calls their operations on its main thread
-/// only. On macOS they are informal, so that a plug-in implements them without naming them.
+/// that loads the plug-in provides the two functions (`print-dialog` itself, or `libPrintCore.so`).
+/// The two protocols are the print dialog's side of a plug-in: the dialog calls their operations on
+/// its main thread only. On macOS they are informal, so that a plug-in implements them without
+/// naming them.
 #ifndef IMAGEPOSITION_APPLICATIONSERVICES_H
 #define IMAGEPOSITION_APPLICATIONSERVICES_H
 

@@ -4,8 +4,6 @@
 
 #include <gmock/gmock.h>
 
-#include <regex>
-
 namespace {
 
 using namespace imageposition::test;
@@ -43,15 +41,8 @@ TEST_P(Hardening, ItsFunctionsGuardTheirReturnAddresses) {
 }
 
 // Else whoever can write to a folder named there could put a library into it.
-TEST_P(Hardening, ItLooksForLibrariesBesideItselfOrWhereTheSystemDoes) {
-  const std::string entries = readelf("-d", GetParam());
-  const std::regex path("\\((?:RUNPATH|RPATH)\\).*\\[(.*)\\]");
-  for (std::sregex_iterator match(entries.begin(), entries.end(), path), end; match != end;
-       ++match) {
-    std::istringstream folders(match->str(1) + ":");
-    for (std::string folder; std::getline(folders, folder, ':');)
-      EXPECT_EQ(folder.substr(0, 7), "$ORIGIN") << "of " << match->str(1);
-  }
+TEST_P(Hardening, ItLooksForLibrariesOnlyWhereTheSystemDoes) {
+  EXPECT_THAT(readelf("-d", GetParam()), Not(ContainsRegex("RUNPATH|RPATH")));
 }
 
 #if defined(__x86_64__)

@@ -1,22 +1,32 @@
 // What is installed, and that it works from where it was put.
+#include "tests/host/OtherUsersFixture.hpp"
 #include "tests/host/ProcessRun.hpp"
 #include "tests/host/TemporaryFolder.hpp"
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 using namespace imageposition::test;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
+
+/// `before` is what runs the command.
+void install(const std::string &prefix, std::vector<std::string> before = {}) {
+  before.insert(before.end(), {CMAKE, "--install", IMAGEPOSITION_BINARY, "--prefix", prefix});
+  const auto result = runProcess(before);
+  ASSERT_EQ(result.status, 0) << testing::PrintToString(result);
+}
 
 class Install : public testing::Test {
 protected:
   static void SetUpTestSuite() {
     folder = std::make_unique<TemporaryFolder>();
-    const auto result =
-        runProcess({CMAKE, "--install", IMAGEPOSITION_BINARY, "--prefix", folder->path("first")});
-    ASSERT_EQ(result.status, 0) << testing::PrintToString(result);
+    install(folder->path("first"));
     // Nothing of it may know where it stood first.
     std::filesystem::rename(folder->path("first"), prefix());
   }
@@ -91,5 +101,68 @@ TEST_F(Install, ALinkToTheProgramServesAsWell) {
       {link, "--batch", "--ppd", IMAGEPOSITION_SAMPLES "/duplex-shift.ppd", "--set", "FrontLRM=1"});
   EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
 }
+
+/// The program in a folder where everybody may have files, as in /tmp.
+class InstallAmongOthers : public testing::Test {
+protected:
+  InstallAmongOthers() {
+    install(folder.path());
+    chmod(folder.path().c_str(), 0755);
+    chmod(place.c_str(), 01777);
+  }
+
+  /// Makes what another user could have made.
+  static void giveAway(const std::string &path) {
+    const int failed = geteuid() == 0 ? lchown(path.c_str(), kAnotherUser, kAnotherUser)
+                                      : chmod(path.c_str(), 0777);
+    ASSERT_EQ(failed, 0);
+  }
+
+  const TemporaryFolder folder;
+  const std::string place = folder.path("bin");
+  const std::string program = place + "/print-dialog";
+};
+
+TEST_F(InstallAmongOthers, TheProgramTakesNoLibraryFromBesideIt) {
+  const std::string journal = folder.path("journal");
+  for (const char *name : {"libGL.so.1", "libcups.so.2", "libPrintCore.so"}) {
+    buildLibrary(place + "/" + name, name, {std::string("-Wl,-soname,") + name});
+    giveAway(place + "/" + name);
+    const auto result = runProcess({program, "--version"}, {"FIXTURE_JOURNAL=" + journal});
+    EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
+    EXPECT_THAT(contentOf(journal), IsEmpty());
+    std::filesystem::remove(place + "/" + name);
+  }
+}
+
+TEST_F(InstallAmongOthers, TheProgramTakesNoWordsFromBesideIt) {
+  const std::string source = folder.write(
+      "de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+               "msgid \"--set, --back and --summary need --batch.\"\nmsgstr \"Gefälscht.\"\n");
+  std::filesystem::create_directories(place + "/locale/de/LC_MESSAGES");
+  const std::string catalogue = place + "/locale/de/LC_MESSAGES/print-dialog.mo";
+  ASSERT_EQ(runProcess({"msgfmt", "-o", catalogue, source}).status, 0);
+  giveAway(place + "/locale");
+  const auto result = runProcess({program, "--ppd", "a.ppd", "--summary"},
+                                 {"LC_ALL", "LANGUAGE=de", "LANG=C.UTF-8"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.errors, Not(HasSubstr("Gefälscht.")));
+}
+
+class InstallUnder : public testing::TestWithParam<const char *> {};
+
+TEST_P(InstallUnder, AnOpenMaskOnlyTheOwnerMayWriteToWhatIsInstalled) {
+  const TemporaryFolder folder;
+  const std::string prefix = folder.path("prefix");
+  install(prefix, {"sh", "-c", "umask \"$0\" && exec \"$@\"", GetParam()});
+  for (const auto &entry : std::filesystem::recursive_directory_iterator(prefix)) {
+    const bool runs = entry.is_directory() || entry.path().filename() == "print-dialog";
+    const auto mode = static_cast<unsigned>(entry.status().permissions());
+    const bool isCompletion = entry.path().parent_path().filename() == "completions";
+    EXPECT_EQ(mode, runs && !isCompletion ? 0755U : 0644U) << entry.path();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Masks, InstallUnder, testing::Values("000", "002"));
 
 } // namespace
