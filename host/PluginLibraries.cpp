@@ -65,7 +65,7 @@ public:
         lookAtFile(library, withOrigin(name, library), inherited);
       else
         for (const std::string &folder : needs->runPath ? own : inherited)
-          lookAtFile(library, folder + "/" + name, inherited);
+          lookAtFile(library, (fs::path(folder) / name).string(), inherited);
   }
 
   const std::optional<UntrustedPlace> &found() const { return found_; }

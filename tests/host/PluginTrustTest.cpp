@@ -2,13 +2,16 @@
 
 #include "tests/host/TemporaryFolder.hpp"
 
+#include <atomic>
 #include <cerrno>
 #include <cstdint>
+#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -151,6 +154,26 @@ TEST_F(PluginTrust, ALinkOfSomebodyElseIsNamedThoughItLeadsToTheOwnersFile) {
   EXPECT_FALSE(look());
   ASSERT_EQ(lchown(folder.path("open/link").c_str(), 65534, kSomeGroup), 0);
   expectFound(folder.path("open/link"), Reason::OthersOwnIt);
+}
+
+TEST_F(PluginTrust, AFolderThatIsSwappedForALinkMeanwhileIsNotTrusted) {
+  if (geteuid() != 0)
+    return; // nobody else can give a folder away
+  const std::string open = folder.path("open"), theirs = open + "/theirs", link = open + "/link";
+  std::filesystem::create_directories(theirs + "/A.plugin");
+  std::filesystem::create_symlink(folder.path("way"), link); // where all is well
+  chmod(open.c_str(), 01777);
+  for (const std::string &path : {theirs, link})
+    ASSERT_EQ(lchown(path.c_str(), 65534, kSomeGroup), 0);
+  std::atomic<bool> isDone = false;
+  std::thread swapping([&] {
+    while (!isDone)
+      renameat2(AT_FDCWD, theirs.c_str(), AT_FDCWD, link.c_str(), RENAME_EXCHANGE);
+  });
+  for (int i = 0; i < 2000 && !HasFailure(); i++)
+    EXPECT_TRUE(untrustedPart(theirs + "/A.plugin", people)) << "after " << i << " tries";
+  isDone = true;
+  swapping.join();
 }
 
 // Not even on a 32-bit processor, whose calls fail for such files unless told otherwise.
