@@ -269,6 +269,16 @@ std::string pluginOwnedByOthers(const std::string &path, const std::string &part
               "of it in a folder of your own.")
       .with(path, part);
 }
+std::string pluginUntrusted(const std::string &path, const UntrustedPart &part) {
+  return part.reason == UntrustedPart::Reason::OthersMayWrite
+             ? pluginWritable(path, part.path)
+             : pluginOwnedByOthers(path, part.path);
+}
+std::string configurationUntrusted(const std::string &part) {
+  return text("GNUSTEP_CONFIG_FILE was ignored: another user could change \"{1}\". Unset the "
+              "variable, or have it name a file that only you can change, in such a folder.")
+      .with(part);
+}
 const Text kCodeCutShort = text("its end is missing");
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
   return text("The code of the plug-in \"{1}\" could not be loaded{2}; it may be damaged or made "

@@ -5,6 +5,7 @@
 #ifndef IMAGEPOSITION_HOST_MESSAGES_HPP
 #define IMAGEPOSITION_HOST_MESSAGES_HPP
 
+#include "host/PluginTrust.hpp"
 #include "host/Text.hpp"
 
 #include <string>
@@ -106,6 +107,10 @@ std::string pluginNotBundle(const std::string &path);
 /// `part` is the bundle, something in it, or a folder on the way.
 std::string pluginWritable(const std::string &path, const std::string &part);
 std::string pluginOwnedByOthers(const std::string &path, const std::string &part);
+/// The right one of the two.
+std::string pluginUntrusted(const std::string &path, const UntrustedPart &part);
+/// GNUstep's configuration, as the environment names it, is not used because of `part`.
+std::string configurationUntrusted(const std::string &part);
 extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);

@@ -20,12 +20,8 @@ NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 /// What other people could have changed is no part of the plug-in that was installed.
 void checkPeople(const std::string &code, const std::string &plugin) {
-  const auto part = untrustedPart(code, TrustedPeople::here());
-  if (!part)
-    return;
-  refuse(part->reason == UntrustedPart::Reason::OthersMayWrite
-             ? messages::pluginWritable(plugin, part->path)
-             : messages::pluginOwnedByOthers(plugin, part->path));
+  if (const auto part = untrustedPart(code, TrustedPeople::here()))
+    refuse(messages::pluginUntrusted(plugin, *part));
 }
 
 NSBundle *bundleAt(const std::string &path) {

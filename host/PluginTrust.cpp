@@ -55,6 +55,14 @@ public:
     return found_;
   }
 
+  std::optional<UntrustedPart> lookAtFolderOf(const fs::path &path) {
+    std::error_code failed;
+    const fs::path folder = fs::canonical(path.parent_path(), failed);
+    if (!failed)
+      check(folder, Place::Inside);
+    return lookAt(path);
+  }
+
 private:
   enum class Place { OnTheWay, Inside };
 
@@ -114,6 +122,11 @@ TrustedPeople TrustedPeople::here() {
 
 std::optional<UntrustedPart> untrustedPart(const std::string &path, const TrustedPeople &people) {
   return Inspection(people).lookAt(path);
+}
+
+std::optional<UntrustedPart> untrustedPartOfFolder(const std::string &file,
+                                                   const TrustedPeople &people) {
+  return Inspection(people).lookAtFolderOf(file);
 }
 
 } // namespace imageposition

@@ -33,6 +33,11 @@ struct UntrustedPart {
 /// /tmp has it). None for what is not there.
 std::optional<UntrustedPart> untrustedPart(const std::string &path, const TrustedPeople &people);
 
+/// The same for a file that is read along with others of its folder: nobody else may add one there
+/// either, so that the sticky bit is not enough.
+std::optional<UntrustedPart> untrustedPartOfFolder(const std::string &file,
+                                                   const TrustedPeople &people);
+
 } // namespace imageposition
 
 #endif
