@@ -336,6 +336,24 @@ std::string panelRefusedJob(const std::string &panel) {
   return text("\"{1}\" does not allow the job to be printed. Look at its settings.").with(panel);
 }
 
+const Text kCopyAndPaste = text("Copy and paste");
+std::string pasteboardFolderOfOthers(const std::string &path) {
+  return text("Copy and paste do not work: the folder \"{1}\" belongs to another user. Ask the "
+              "system's administrator to remove it.")
+      .with(path);
+}
+std::string pasteboardFolderUnusable(const std::string &path) {
+  return text("Copy and paste do not work: \"{1}\" is not a folder that you may write to. Name "
+              "another folder in the variable TEMP.")
+      .with(path);
+}
+std::string pasteboardUnreachable(const std::string &reason) {
+  return text("Copy and paste do not work: GNUstep's pasteboard server (gpbs) cannot be "
+              "reached{1}. It is part of the package gnustep-gui-runtime; log in again once it is "
+              "installed.")
+      .with(because(reason));
+}
+
 std::string noSuchField(const std::string &name, const std::vector<std::string> &known) {
   if (known.empty())
     return text("No panel has an entry field \"{1}\".").with(name);

@@ -125,6 +125,12 @@ std::string panelWithoutView(const std::string &path);
 std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins);
 std::string panelRefusedJob(const std::string &panel);
 
+// Copy and paste.
+extern const Text kCopyAndPaste;
+std::string pasteboardFolderOfOthers(const std::string &path);
+std::string pasteboardFolderUnusable(const std::string &path);
+std::string pasteboardUnreachable(const std::string &reason);
+
 // Values.
 std::string noSuchField(const std::string &name, const std::vector<std::string> &known);
 std::string ambiguousField(const std::string &name, const std::vector<std::string> &matches);
