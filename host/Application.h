@@ -5,7 +5,8 @@
 namespace imageposition {
 
 /// Before anything else of the platform: its log lines go to the system's log, not between this
-/// program's messages ("-GSLogSyslog NO" on the command line brings them back to standard error).
+/// program's messages (the user default GSLogSyslog, set to NO, brings them back to standard
+/// error).
 void setPlatformDefaults();
 
 /// Connects to the display: no application icon, no menu, nothing loaded that a dialog does not

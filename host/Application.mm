@@ -31,17 +31,6 @@ void leaveOutImageLoaders() {
   [NSImageRep unregisterImageRepClass:magick];
 }
 
-/// The name the program was started with.
-NSArray *firstArgument(NSProcessInfo *process, SEL) {
-  return [NSArray arrayWithObject:[process processName]];
-}
-
-/// The platform would open a document that is named first, and say that this program opens none. It
-/// has read its own defaults among the arguments before.
-void hideDocuments() {
-  Replaced::objectOperation([NSProcessInfo class], @selector(arguments)).by(firstArgument);
-}
-
 /// The platform turns these signals into a wish to quit that a modal dialog never hears. Nothing
 /// needs saving: a ticket is written whole or not at all.
 void letSignalsEndTheProgram() {
@@ -63,7 +52,6 @@ void startApplication() {
   const Pool pool;
   const Surroundings surroundings = readSurroundings();
   setTextScale(chosenTextScale(surroundings));
-  hideDocuments();
   leaveOutImageLoaders();
   leaveOutNotificationDaemon();
   chooseFontsForLanguage();

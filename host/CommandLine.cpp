@@ -188,16 +188,4 @@ std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) 
   return raw.arguments;
 }
 
-std::vector<std::string> withoutPlatformDefaults(const std::vector<std::string> &words) {
-  std::vector<std::string> rest;
-  for (std::size_t i = 0; i < words.size(); i++) {
-    const std::string start = words[i].substr(0, 3);
-    if (start == "-NS" || start == "-GS")
-      i++; // and its value
-    else
-      rest.push_back(words[i]);
-  }
-  return rest;
-}
-
 } // namespace imageposition

@@ -42,10 +42,6 @@ struct Answer {
 /// Throws a `Failure` with `ExitCode::Usage`. `words` are the arguments without the program's name.
 std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words);
 
-/// Takes out "-NSName value" and "-GSName value": defaults of the platform, which reads them
-/// itself.
-std::vector<std::string> withoutPlatformDefaults(const std::vector<std::string> &words);
-
 } // namespace imageposition
 
 #endif

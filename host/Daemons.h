@@ -14,7 +14,8 @@ void leaveOutPasteboardDaemon();
 /// For the others: the pasteboard's daemon, and the one that announces it, are started by the first
 /// copy, cut or paste. The platform would start them for the text that a window selects at its
 /// beginning, and wait five seconds for an announcement that the notifications left out cannot
-/// bring. A selection alone is then not offered to other programs.
+/// bring. A selection alone is then not offered to other programs. Without the daemon, asking for a
+/// pasteboard raises NSPasteboardCommunicationException.
 void startPasteboardOnDemand();
 
 } // namespace imageposition

@@ -43,10 +43,10 @@ id namedPasteboardAtLast(id owner, SEL operation, NSString *name) {
   if (isSelection(name))
     return nil;
   letDaemonsIn();
-  operations().namedPasteboard.restore();
-  id const pasteboard = [owner pasteboardWithName:name];
-  operations().namedPasteboard.by(namedPasteboardAtLast);
-  (void)operation;
+  id const pasteboard =
+      operations().namedPasteboard.before<id(id, SEL, NSString *)>()(owner, operation, name);
+  if (pasteboard == nil) // where there is no server to start; cutting to it would lose the text
+    [NSException raise:NSPasteboardCommunicationException format:@"no pasteboard server"];
   return pasteboard;
 }
 

@@ -7,6 +7,7 @@
 #include "host/Messages.hpp"
 #import "host/NamePanel.h"
 #import "host/NotePanel.h"
+#include "host/PasteboardTrouble.hpp"
 #import "host/Pool.h"
 #include "host/TicketName.hpp"
 #include "host/WindowTexts.hpp"
@@ -157,6 +158,10 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
            because:messages::pluginRaised(shownPanel->pluginPath(), "event", toText(what))];
   else
     [self say:toText(what)];
+}
+
+- (void)pasteboardRaised:(NSString *)what {
+  [self say:pasteboardTrouble(toText(what))];
 }
 
 - (void)sayTroubles {

@@ -15,6 +15,8 @@
 - (void)dismiss;
 /// Something raised while the window handled an event; what is the exception in words.
 - (void)eventRaised:(NSString *)what;
+/// The pasteboard raised instead, which is nobody's fault in the window.
+- (void)pasteboardRaised:(NSString *)what;
 @optional
 /// F1.
 - (void)help;

@@ -181,8 +181,11 @@ bool canBeReached(NSView *control) {
   bool wasOurs = false;
   bool *const ours = &wasOurs;
   const auto raised = imageposition::whatIsRaisedBy([=] { *ours = [window handleEvent:event]; });
-  if (raised)
-    [person eventRaised:imageposition::toString(*raised)];
+  NSString *const what = raised ? imageposition::toString(*raised) : nil;
+  if ([what hasPrefix:NSPasteboardCommunicationException])
+    [person pasteboardRaised:what];
+  else if (raised)
+    [person eventRaised:what];
   else if (!wasOurs && view != nil && [person respondsToSelector:@selector(personActedOn:)])
     [person personActedOn:view];
 }

@@ -289,6 +289,21 @@ std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &
               "for another version.")
       .with(path, library, place);
 }
+std::string pluginUntrusted(const std::string &path, const UntrustedPart &part) {
+  switch (part.reason) {
+  case UntrustedPart::Reason::OthersMayWrite:
+    return pluginWritable(path, part.path);
+  case UntrustedPart::Reason::OthersOwnIt:
+    return pluginOwnedByOthers(path, part.path);
+  default:
+    return pluginUnexamined(path, part.path, systemReason(part.error));
+  }
+}
+std::string configurationUntrusted(const std::string &part) {
+  return text("GNUSTEP_CONFIG_FILE was ignored: another user could change \"{1}\". Unset the "
+              "variable, or have it name a file that only you can change, in such a folder.")
+      .with(part);
+}
 const Text kCodeCutShort = text("its end is missing");
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
   return text("The code of the plug-in \"{1}\" could not be loaded{2}; it may be damaged or made "
@@ -344,6 +359,24 @@ std::string noPanel(const std::string &printer, const std::vector<std::string> &
 }
 std::string panelRefusedJob(const std::string &panel) {
   return text("\"{1}\" does not allow the job to be printed. Look at its settings.").with(panel);
+}
+
+const Text kCopyAndPaste = text("Copy and paste");
+std::string pasteboardFolderOfOthers(const std::string &path) {
+  return text("Copy and paste do not work: the folder \"{1}\" belongs to another user. Ask the "
+              "system's administrator to remove it.")
+      .with(path);
+}
+std::string pasteboardFolderUnusable(const std::string &path) {
+  return text("Copy and paste do not work: \"{1}\" is not a folder that you may write to. Name "
+              "another folder in the variable TEMP.")
+      .with(path);
+}
+std::string pasteboardUnreachable(const std::string &reason) {
+  return text("Copy and paste do not work: GNUstep's pasteboard server (gpbs) cannot be "
+              "reached{1}. It is part of the package gnustep-gui-runtime; log in again once it is "
+              "installed.")
+      .with(because(reason));
 }
 
 std::string noSuchField(const std::string &name, const std::vector<std::string> &known) {

@@ -5,6 +5,7 @@
 #ifndef IMAGEPOSITION_HOST_MESSAGES_HPP
 #define IMAGEPOSITION_HOST_MESSAGES_HPP
 
+#include "host/PluginTrust.hpp"
 #include "host/Text.hpp"
 
 #include <string>
@@ -115,6 +116,10 @@ std::string pluginLoadsCode(const std::string &path, const std::string &library,
 /// As before; the place depends on the current folder.
 std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &library,
                                     const std::string &place);
+/// The one of these three that is about `part`.
+std::string pluginUntrusted(const std::string &path, const UntrustedPart &part);
+/// GNUstep's configuration, as the environment names it, is not used because of `part`.
+std::string configurationUntrusted(const std::string &part);
 extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);
@@ -128,6 +133,12 @@ std::string panelWithoutOperation(const std::string &path, const std::string &op
 std::string panelWithoutView(const std::string &path);
 std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins);
 std::string panelRefusedJob(const std::string &panel);
+
+// Copy and paste.
+extern const Text kCopyAndPaste;
+std::string pasteboardFolderOfOthers(const std::string &path);
+std::string pasteboardFolderUnusable(const std::string &path);
+std::string pasteboardUnreachable(const std::string &reason);
 
 // Values.
 std::string noSuchField(const std::string &name, const std::vector<std::string> &known);

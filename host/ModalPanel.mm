@@ -1,6 +1,9 @@
 #import "host/ModalPanel.h"
 
+#include "host/Messages.hpp"
 #import "host/MnemonicControls.h"
+#import "host/NotePanel.h"
+#include "host/PasteboardTrouble.hpp"
 #import "platform/TextBridge.h"
 
 #include <algorithm>
@@ -32,6 +35,11 @@
 
 - (void)eventRaised:(NSString *)what {
   (void)what; // nothing of a plug-in runs here
+}
+
+- (void)pasteboardRaised:(NSString *)what {
+  imageposition::showNote([NSApp modalWindow], imageposition::messages::kCopyAndPaste,
+                          imageposition::pasteboardTrouble(imageposition::toText(what)));
 }
 
 @end

@@ -4,8 +4,8 @@
 
 namespace imageposition {
 
-/// The person's default NSLanguages, from the command line or the defaults' file, decides for all;
-/// else the environment does, for bundles too. The platform by itself knows only a locale that is
+/// The person's default NSLanguages, from the file of defaults, decides for all; else
+/// the environment does, for bundles too. The platform by itself knows only a locale that is
 /// generated on the machine.
 void agreeOnLanguage();
 

@@ -21,7 +21,6 @@ NSString *const kPrimaryDomain = @"GSPrimaryDomain";
 /// locale.
 std::vector<std::string> languagesInDefaults(NSUserDefaults *defaults) {
   NSDictionary *const domains[] = {
-      [defaults volatileDomainForName:NSArgumentDomain],
       [defaults persistentDomainForName:[[NSProcessInfo processInfo] processName]],
       [defaults persistentDomainForName:NSGlobalDomain],
   };

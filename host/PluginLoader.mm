@@ -20,17 +20,8 @@ NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 /// Refuses a file or bundle that another user could have modified.
 void checkTrust(const std::string &path, const std::string &plugin) {
-  const auto part = untrustedPart(path, TrustedPeople::here());
-  if (!part)
-    return;
-  switch (part->reason) {
-  case UntrustedPart::Reason::OthersMayWrite:
-    refuse(messages::pluginWritable(plugin, part->path));
-  case UntrustedPart::Reason::OthersOwnIt:
-    refuse(messages::pluginOwnedByOthers(plugin, part->path));
-  case UntrustedPart::Reason::Unknown:
-    refuse(messages::pluginUnexamined(plugin, part->path, systemReason(part->error)));
-  }
+  if (const auto part = untrustedPart(path, TrustedPeople::here()))
+    refuse(messages::pluginUntrusted(plugin, *part));
 }
 
 /// Refuses code with which another user's could be loaded.

@@ -170,4 +170,14 @@ std::optional<UntrustedPart> untrustedPlace(const std::string &path, const Trust
   return inspection.found();
 }
 
+std::optional<UntrustedPart> untrustedPartOfFolder(const std::string &file,
+                                                   const TrustedPeople &people) {
+  Inspection inspection(people);
+  if (const auto real = inspection.follow(file, Inspection::Missing::Refused)) {
+    inspection.lookAt(real->parent_path());
+    inspection.lookInto(*real);
+  }
+  return inspection.found();
+}
+
 } // namespace imageposition

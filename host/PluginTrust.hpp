@@ -39,6 +39,10 @@ std::optional<UntrustedPart> untrustedPart(const std::string &path, const Truste
 /// The same for a file or folder by itself, without what is in it. If it does not exist, it is
 /// trusted unless another user could create it.
 std::optional<UntrustedPart> untrustedPlace(const std::string &path, const TrustedPeople &people);
+/// The same for a file that is read along with others of its folder: nobody else may add one there
+/// either, so that the sticky bit is not enough.
+std::optional<UntrustedPart> untrustedPartOfFolder(const std::string &file,
+                                                   const TrustedPeople &people);
 
 } // namespace imageposition
 

@@ -4,13 +4,27 @@
 #include "host/Messages.hpp"
 #include "platform/Utf.hpp"
 
+#include <cstdlib>
 #include <unistd.h>
 
 namespace imageposition {
 
 namespace {
 
+const char *const kConfiguration = "GNUSTEP_CONFIG_FILE";
+
 bool isUtf8(const std::string &text) { return utf8FromUtf16(utf16FromUtf8(text)) == text; }
+
+/// The names of the environment variables that begin so.
+std::vector<std::string> variablesNamed(const std::string &start) {
+  std::vector<std::string> names;
+  for (char **variable = environ; *variable != nullptr; variable++) {
+    const std::string entry = *variable;
+    if (entry.compare(0, start.size(), start) == 0)
+      names.push_back(entry.substr(0, entry.find('=')));
+  }
+  return names;
+}
 
 } // namespace
 
@@ -33,6 +47,21 @@ void leaveOutForeignVariables(char **arguments) {
   // Unsetting them is too late: the platform has copied them before `main`.
   if (!isComplete)
     execve("/proc/self/exe", arguments, rest.data());
+}
+
+std::optional<UntrustedPart> leaveOutPlatformVariables() {
+  for (const std::string &name : variablesNamed("GNUSTEP_"))
+    if (name != kConfiguration)
+      unsetenv(name.c_str());
+  const char *const configuration = std::getenv(kConfiguration);
+  if (configuration == nullptr)
+    return std::nullopt;
+  std::optional<UntrustedPart> untrusted;
+  if (*configuration == '/')
+    untrusted = untrustedPartOfFolder(configuration, TrustedPeople::here());
+  if (untrusted || *configuration != '/') // GNUstep would look in the current folder
+    unsetenv(kConfiguration);
+  return untrusted;
 }
 
 } // namespace imageposition

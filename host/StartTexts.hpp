@@ -5,6 +5,9 @@
 #ifndef IMAGEPOSITION_HOST_STARTTEXTS_HPP
 #define IMAGEPOSITION_HOST_STARTTEXTS_HPP
 
+#include "host/PluginTrust.hpp"
+
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +19,11 @@ void refuseForeignArguments(const std::vector<std::string> &words);
 /// Starts the program again without the environment variables that are not UTF-8, such as the
 /// name of a folder in another encoding that a shell remembers. Returns when there are none.
 void leaveOutForeignVariables(char **arguments);
+
+/// Removes the environment variables by which GNUstep is told where its files, programs and code
+/// are. `GNUSTEP_CONFIG_FILE` stays unless somebody else could have changed what it names: the part
+/// that they could have changed is then returned.
+std::optional<UntrustedPart> leaveOutPlatformVariables();
 
 } // namespace imageposition
 

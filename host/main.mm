@@ -12,6 +12,7 @@
 #include "host/OptionConflicts.hpp"
 #include "host/OptionList.hpp"
 #import "host/PlatformLanguage.h"
+#import "host/PlatformProcess.h"
 #import "host/Pool.h"
 #include "host/PrivateDisplay.hpp"
 #include "host/StartTexts.hpp"
@@ -111,7 +112,7 @@ ExitCode runInWindow(DialogJob &job) {
 }
 
 ExitCode run(const std::vector<std::string> &words) {
-  const auto request = readCommandLine(withoutPlatformDefaults(words));
+  const auto request = readCommandLine(words);
   if (const auto *answer = std::get_if<Answer>(&request)) {
     std::cout << answer->text;
     return ExitCode::Done;
@@ -144,6 +145,10 @@ ExitCode runProgram(int argc, char **argv) {
   speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
   const std::vector<std::string> words(argv + 1, argv + argc);
   refuseForeignArguments(words);
+  if (const auto part = leaveOutPlatformVariables())
+    std::cerr << messages::kProgram << messages::configurationUntrusted(part->path) << '\n';
+  hideArgumentsFromPlatform();
+  refuseUntrustedBundles();
   return runInPool(words);
 }
 

@@ -1,5 +1,6 @@
 // print-dialog without a window, on the sample printers, through the real panel.
 #include "tests/host/DialogFixture.hpp"
+#include "tests/host/PlatformDefaults.hpp"
 
 namespace {
 
@@ -288,7 +289,8 @@ TEST_F(Batch, WhereNoDisplayCanBeStartedItSaysWhatToDo) {
 }
 
 TEST_F(Batch, ThePanelSpeaksThePersonsLanguage) {
-  const auto result = batch(shift, {"-NSLanguages", "(de)", "--summary"});
+  const PlatformDefaults defaults("NSLanguages = (de);");
+  const auto result = batch(shift, {"--summary"});
   EXPECT_EQ(result.status, kDone);
   EXPECT_THAT(result.output, testing::Not(HasSubstr("Image Position")));
 }

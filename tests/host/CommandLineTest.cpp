@@ -206,10 +206,4 @@ TEST(CommandLine, VersionIsOneLine) {
   EXPECT_THAT(text, testing::MatchesRegex("print-dialog [0-9.]+\n"));
 }
 
-TEST(CommandLine, PlatformDefaultsAreLeftToThePlatform) {
-  EXPECT_THAT(imageposition::withoutPlatformDefaults(
-                  {"-NSLanguages", "(ja)", "--ppd", "a", "-GSLogSyslog", "NO"}),
-              ElementsAre("--ppd", "a"));
-}
-
 } // namespace

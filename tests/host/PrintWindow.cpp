@@ -41,7 +41,7 @@ void xdotool(std::vector<std::string> words) {
 }
 
 std::vector<std::string> commandFor(const std::vector<std::string> &words) {
-  std::vector<std::string> all{PRINT_DIALOG, "-GSAppKitUserBundles", "(\"" OBSERVER_BUNDLE "\")"};
+  std::vector<std::string> all{PRINT_DIALOG};
   all.insert(all.end(), words.begin(), words.end());
   return all;
 }
@@ -61,7 +61,8 @@ bool startsWith(const std::string &text, const std::string &start) {
 
 PrintWindow::PrintWindow(const std::vector<std::string> &words,
                          const std::vector<std::string> &environment)
-    : process_(commandFor(words), environmentFor(environment, file())) {
+    : defaults_("GSAppKitUserBundles = (\"" OBSERVER_BUNDLE "\");"),
+      process_(commandFor(words), environmentFor(environment, file())) {
   if (!comesTrueInTime([&] { return process_.hasEnded() || hasKeyboard("Print"); }))
     giveUp("no keyboard", screen());
   if (process_.hasEnded())

@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_TESTS_HOST_PRINTWINDOW_HPP
 #define IMAGEPOSITION_TESTS_HOST_PRINTWINDOW_HPP
 
+#include "tests/host/PlatformDefaults.hpp"
 #include "tests/host/ProcessRun.hpp"
 #include "tests/host/Screen.hpp"
 #include "tests/host/TemporaryFolder.hpp"
@@ -56,7 +57,8 @@ private:
   void clickAt(int x, int y, const std::function<void()> &before = {});
 
   TemporaryFolder folder_;
-  Process process_; // ends before the folder goes
+  PlatformDefaults defaults_; // has the observer loaded
+  Process process_;           // ends before the folder goes
 };
 
 } // namespace imageposition::test
