@@ -47,8 +47,9 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
     row.choices = showChoices(row.popUp, option);
     return;
   }
+  const ChoiceSet chosen = option.chosenSet();
   for (std::size_t i = 0; i < row.switches.size(); i++) {
-    [row.switches[i] setState:option.isChosen(row.choices[i]) ? NSOnState : NSOffState];
+    [row.switches[i] setState:chosen.count(row.choices[i]) != 0 ? NSOnState : NSOffState];
     [row.switches[i] setEnabled:!option.isLocked];
   }
 }
