@@ -121,7 +121,7 @@ void Builder::makeControls() {
   views_.panes = makePopUp(target, actions_.paneChosen);
   rows_.push_back({messages::kPrinterRow, {views_.printers}});
   rows_.push_back({"", {views_.printerState}});
-  documentName_ = makeLabel(document_);
+  documentName_ = makeLabel("");
   if (!document_.empty())
     rows_.push_back({messages::kDocumentRow, {documentName_}});
   rows_.push_back({messages::kPresetsRow, {views_.presets}});

@@ -88,6 +88,20 @@ std::string conflictProposal(const std::vector<std::string> &changes) {
   return text("Change to {1}.").with(inWords(changes));
 }
 
+std::string optionsNotShown(std::size_t count) {
+  return counted(static_cast<long>(count),
+                 "{1} more option has no room here. Set it with -o on the command line.",
+                 "{1} more options have no room here. Set them with -o on the command line.");
+}
+std::string linesNotShown(std::size_t count) {
+  // Translators: at the end of a long list.
+  return counted(static_cast<long>(count), "And {1} more.", "And {1} more.");
+}
+std::string presetsNotListed(std::size_t count) {
+  // Translators: the last, grey item of a menu of presets.
+  return counted(static_cast<long>(count), "{1} more preset", "{1} more presets");
+}
+
 const Text kNoPages = text("No pages are named. Write, for example, 1-3, 7.");
 std::string pagesNotUnderstood(const std::string &part) {
   return text("\"{1}\" is no page number. Write pages as, for example, 1-3, 7.").with(part);

@@ -53,6 +53,11 @@ std::string conflict(const std::vector<std::string> &sides);
 std::string moreConflicts(std::size_t others);
 std::string conflictProposal(const std::vector<std::string> &changes);
 
+// What a window has no room for.
+std::string optionsNotShown(std::size_t count);
+std::string linesNotShown(std::size_t count);
+std::string presetsNotListed(std::size_t count);
+
 // Pages.
 extern const Text kNoPages;
 std::string pagesNotUnderstood(const std::string &part);

@@ -14,7 +14,7 @@ namespace imageposition {
 
 namespace {
 
-/// Ten thousand options need fifty million, half a second.
+/// Ten thousand options need fifty million, which take half a second.
 constexpr long long kMostComparisons = 60'000'000;
 constexpr long long kMostStatements = 100'000;
 constexpr long long kMostBytes = 16'000'000;
@@ -52,8 +52,10 @@ public:
       addOption(line.substr(keyword.size()));
     std::string kind = kindOf(keyword);
     const long long before = counts_[kind]++;
-    // Choices are appended; a constraint behind another one is found where that was.
-    const bool isAppended = options_.count(kind) != 0 || (isConstraint(kind) && kind == last_);
+    // Ends are not kept, and choices appended; a constraint behind another one is found where that
+    // was.
+    const bool isAppended =
+        isEnd(kind) || options_.count(kind) != 0 || (isConstraint(kind) && kind == last_);
     comparisons_ += isAppended ? 0 : before;
     last_ = std::move(kind);
   }
@@ -63,6 +65,10 @@ public:
   }
 
 private:
+  static bool isEnd(const std::string &kind) {
+    return startsWith(kind, "Close") || kind == "JCLCloseUI" || kind == "End";
+  }
+
   static bool isConstraint(const std::string &kind) {
     return kind == "UIConstraints" || kind == "NonUIConstraints" || kind == "cupsUIConstraints";
   }
@@ -116,14 +122,13 @@ bool isReadSoon(const std::string &path) {
 }
 
 bool isMarkedSoon(const ppd_file_t &ppd) {
-  // Of each constraint two options, or of a longer one as many as have room on a line, are looked
-  // for among what is installable, and their choices among all of the option's.
+  // Each side of a constraint is looked for among the choices of its option, and its option among
+  // what can be installed.
   long long perConstraint = 0;
   for (int i = 0; i < ppd.num_groups; i++) {
     const ppd_group_t &group = ppd.groups[i];
-    const bool isInstallable = strcasecmp(group.name, "InstallableOptions") == 0;
     perConstraint = std::max<long long>(perConstraint, mostChoices(group));
-    if (isInstallable)
+    if (strcasecmp(group.name, "InstallableOptions") == 0)
       perConstraint = std::max<long long>(perConstraint, group.num_options);
   }
   return countConstraints(ppd) * perConstraint <= kMostComparisons;
