@@ -21,7 +21,7 @@ void FindConflicts(benchmark::State &state) {
 // Ten sizes, as below.
 BENCHMARK(FindConflicts)
     ->RangeMultiplier(2)
-    ->Range(100, 51200)
+    ->Range(128, 65536)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oNLogN);
 
@@ -40,7 +40,7 @@ void ChooseAndFindConflicts(benchmark::State &state) {
 }
 BENCHMARK(ChooseAndFindConflicts)
     ->RangeMultiplier(2)
-    ->Range(100, 51200)
+    ->Range(128, 65536)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oNLogN);
 

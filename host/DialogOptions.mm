@@ -73,6 +73,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   if (text.empty() && !job->panels().panels().empty())
     text = reasonText(availabilityOf(job->printer().ppd()));
   [views.hint setStringValue:toString(text)];
+  [views.hint setToolTip:toString(text)]; // long names have no room
   [views.resolve setHidden:!state->proposal];
 }
 
