@@ -1,6 +1,7 @@
 #include "host/ChoiceList.hpp"
 
 #include <algorithm>
+#include <iterator>
 #include <strings.h>
 
 namespace imageposition {
@@ -11,12 +12,20 @@ bool isSame(const std::string &left, const std::string &right) {
   return strcasecmp(left.c_str(), right.c_str()) == 0;
 }
 
-bool contains(const ChoiceList &choices, const std::string &choice) {
-  return std::any_of(choices.begin(), choices.end(),
-                     [&](const std::string &other) { return isSame(other, choice); });
+ChoiceSet setOf(const ChoiceList &choices) { return {choices.begin(), choices.end()}; }
+
+ChoiceSet choicesOf(const ppd_option_t &option) {
+  ChoiceSet choices;
+  for (int i = 0; i < option.num_choices; i++)
+    choices.insert(option.choices[i].choice);
+  return choices;
 }
 
 } // namespace
+
+bool IgnoringCase::operator()(const std::string &left, const std::string &right) const noexcept {
+  return strcasecmp(left.c_str(), right.c_str()) < 0;
+}
 
 ChoiceList splitChoices(const std::string &value) {
   ChoiceList choices;
@@ -42,24 +51,25 @@ bool isNone(const std::string &choice) {
 }
 
 ChoiceList inOrder(const ppd_option_t &option, const ChoiceList &choices) {
+  const ChoiceSet wanted = setOf(choices);
   ChoiceList result;
   for (int i = 0; i < option.num_choices; i++)
-    if (contains(choices, option.choices[i].choice))
+    if (wanted.count(option.choices[i].choice) != 0)
       result.emplace_back(option.choices[i].choice);
   return result;
 }
 
 bool areChoices(const ppd_option_t &option, const ChoiceList &choices) {
-  return std::all_of(choices.begin(), choices.end(), [&](const std::string &choice) {
-    return std::any_of(option.choices, option.choices + option.num_choices,
-                       [&](const ppd_choice_t &known) { return isSame(known.choice, choice); });
-  });
+  const ChoiceSet known = choicesOf(option);
+  return std::all_of(choices.begin(), choices.end(),
+                     [&](const std::string &choice) { return known.count(choice) != 0; });
 }
 
 bool markChoices(ppd_file_t *ppd, ppd_option_t &option, const ChoiceList &choices) {
   ppd_choice_t *const end = option.choices + option.num_choices;
+  const ChoiceSet wanted = setOf(choices);
   const auto isWanted = [&](const ppd_choice_t &choice) {
-    return contains(choices, choice.choice);
+    return wanted.count(choice.choice) != 0;
   };
   if (!choices.empty() && std::none_of(option.choices, end, isWanted))
     return false;
@@ -83,22 +93,39 @@ ChoiceList markedChoices(const ppd_option_t &option) {
   return choices;
 }
 
-ChoiceList withChoice(const ppd_option_t &option, const ChoiceList &choices,
-                      const std::string &choice, bool on) {
+std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option) {
+  if (option.ui == PPD_UI_PICKMANY)
+    return joinChoices(markedChoices(option));
+  const ppd_choice_t *const marked = ppdFindMarkedChoice(ppd, option.keyword);
+  return marked != nullptr ? marked->choice : "";
+}
+
+ChoiceList withoutChoices(const ppd_option_t &option, const ChoiceList &choices,
+                          const ChoiceSet &without) {
+  const ChoiceSet before = setOf(choices);
   ChoiceList result;
   std::string none;
   for (int i = 0; i < option.num_choices; i++) {
     const std::string known = option.choices[i].choice;
     if (none.empty() && isNone(known))
       none = known;
-    const bool isMeant = isSame(known, choice);
-    const bool isExcluded = on && (isNone(known) || isNone(choice));
-    if (isMeant ? on : contains(choices, known) && !isExcluded)
+    if (before.count(known) != 0 && without.count(known) == 0)
       result.push_back(known);
   }
   if (result.empty() && !none.empty())
     result.push_back(none);
   return result;
+}
+
+ChoiceList withChoice(const ppd_option_t &option, const ChoiceList &choices,
+                      const std::string &choice, bool on) {
+  if (!on)
+    return withoutChoices(option, choices, {choice});
+  ChoiceList wanted{choice};
+  if (!isNone(choice))
+    std::copy_if(choices.begin(), choices.end(), std::back_inserter(wanted),
+                 [](const std::string &other) { return !isNone(other); });
+  return withoutChoices(option, wanted, {});
 }
 
 } // namespace imageposition

@@ -7,12 +7,19 @@
 
 #include <cups/ppd.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
 namespace imageposition {
 
 using ChoiceList = std::vector<std::string>;
+
+/// The order of keywords of a PPD, whose case does not matter.
+struct IgnoringCase {
+  bool operator()(const std::string &left, const std::string &right) const noexcept;
+};
+using ChoiceSet = std::set<std::string, IgnoringCase>;
 
 /// At commas, without blanks around; no empty parts.
 ChoiceList splitChoices(const std::string &value);
@@ -34,10 +41,17 @@ bool markChoices(ppd_file_t *ppd, ppd_option_t &option, const ChoiceList &choice
 /// In the PPD's order.
 ChoiceList markedChoices(const ppd_option_t &option);
 
+/// The choice that is marked, of such an option a list of them; empty for none.
+std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option);
+
 /// The list with a choice more or less, in the PPD's order: "None" takes all others away, any other
 /// takes "None" away, and where the last one goes "None" comes, if the option has it.
 ChoiceList withChoice(const ppd_option_t &option, const ChoiceList &choices,
                       const std::string &choice, bool on);
+
+/// The list without all of these choices; "None" comes as above.
+ChoiceList withoutChoices(const ppd_option_t &option, const ChoiceList &choices,
+                          const ChoiceSet &without);
 
 } // namespace imageposition
 

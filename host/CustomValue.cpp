@@ -248,13 +248,11 @@ std::string customValueText(const CustomOption &option, const std::string &value
   }
   if (entries->size() == 1)
     return entryText(option.parameters.front(), entries->front());
-  std::string text;
-  for (std::size_t i = 0; i < entries->size(); i++) {
-    const std::string part =
-        messages::named(option.parameters[i].text, entryText(option.parameters[i], (*entries)[i]));
-    text = text.empty() ? part : messages::inOrder(text, part);
-  }
-  return text;
+  std::vector<std::string> parts;
+  for (std::size_t i = 0; i < entries->size(); i++)
+    parts.push_back(
+        messages::named(option.parameters[i].text, entryText(option.parameters[i], (*entries)[i])));
+  return messages::inOrder(parts);
 }
 
 bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::string &value) {

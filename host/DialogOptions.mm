@@ -13,6 +13,9 @@ using namespace imageposition;
 
 namespace {
 
+/// As many as have room in the window.
+constexpr std::size_t kMostConflicts = 2;
+
 /// Fills a pop-up with an option's choices; answers their keywords.
 std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterOption> &option) {
   if (option)
@@ -62,14 +65,15 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
 - (void)refreshHint {
   OptionConflicts conflicts(job->printer(), job->settings());
   std::string text;
-  for (const OptionConflict &conflict : conflicts.find())
-    text += (text.empty() ? "" : " ") + conflict.sentence;
+  for (const std::string &sentence : conflicts.sentences(kMostConflicts))
+    text += (text.empty() ? "" : " ") + sentence;
   state->proposal = text.empty() ? std::nullopt : conflicts.proposal(state->chosenLast);
   if (state->proposal)
     text += " " + state->proposal->sentence;
   if (text.empty() && !job->panels().panels().empty())
     text = reasonText(availabilityOf(job->printer().ppd()));
   [views.hint setStringValue:toString(text)];
+  [views.hint setToolTip:toString(text)]; // long names have no room
   [views.resolve setHidden:!state->proposal];
 }
 

@@ -2,8 +2,11 @@
 #import "host/DialogState.h"
 #include "host/ExitCode.hpp"
 #import "host/NamePanel.h"
+#include "host/OptionMessages.hpp"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
+
+#include <algorithm>
 
 using namespace imageposition;
 
@@ -53,6 +56,11 @@ std::string joined(const std::vector<std::string> &sentences) {
   } catch (const Failure &failure) {
     [self say:failure.what()];
   }
+  // The platform takes seconds for a menu of a hundred thousand items.
+  constexpr std::size_t kMostPresets = 1000;
+  const std::size_t unlisted =
+      state->presets.size() - std::min(state->presets.size(), kMostPresets);
+  state->presets.resize(state->presets.size() - unlisted);
   bool isChosen = false;
   for (const PresetName &preset : state->presets) {
     const bool isOwn = preset.printer == printer;
@@ -65,6 +73,8 @@ std::string joined(const std::vector<std::string> &sentences) {
   addItem(menu, messages::kSavePreset);
   addItem(menu, messages::kRenamePreset, isChosen);
   addItem(menu, messages::kDeletePreset, isChosen);
+  if (unlisted > 0)
+    addItem(menu, messages::presetsNotListed(unlisted), false);
 }
 
 - (void)presetChosen:(id)sender {

@@ -121,7 +121,7 @@ void Builder::makeControls() {
   views_.panes = makePopUp(target, actions_.paneChosen);
   rows_.push_back({messages::kPrinterRow, {views_.printers}});
   rows_.push_back({"", {views_.printerState}});
-  documentName_ = makeLabel(document_);
+  documentName_ = makeLabel("");
   if (!document_.empty())
     rows_.push_back({messages::kDocumentRow, {documentName_}});
   rows_.push_back({messages::kPresetsRow, {views_.presets}});
@@ -185,8 +185,9 @@ void Builder::addRows() {
       const CGFloat rest = rowsRight_ - left;
       if (control == documentName_)
         showCut(documentName_, document_, rest);
-      // One that is still to come takes what is left.
-      frame.size.width = control == views_.printerState ? rest : std::min(NSWidth(frame), rest);
+      // What may be long, now or later, takes what is left.
+      const bool isLong = control == views_.printerState || control == documentName_;
+      frame.size.width = isLong ? rest : std::min(NSWidth(frame), rest);
       frame.origin = NSMakePoint(left, std::round(middle - NSHeight(frame) / 2));
       [control setFrame:frame];
       add(control);

@@ -8,6 +8,8 @@ namespace imageposition {
 
 namespace {
 
+constexpr NSUInteger kLongestLine = 1000;
+constexpr NSUInteger kLongestParagraph = 4000;
 constexpr CGFloat kCellMargin = 2; // of a text field, to both sides of its text
 
 /// With that many of its units left, more of them at the end, where paths have the file's name.
@@ -50,15 +52,20 @@ CGFloat paragraphHeight(NSString *text, NSFont *font, CGFloat width) {
   return std::ceil(NSHeight(drawn));
 }
 
+NSString *cutTo(NSUInteger most, NSString *text) {
+  return [text length] <= most ? text : withoutMiddle(text, most);
+}
+
 NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold) {
-  NSTextField *const label = makeLabel(text, bold);
+  NSTextField *const label = makeLabel("", bold);
+  [label setStringValue:cutTo(kLongestParagraph, toString(text))];
   [[label cell] setWraps:YES];
   [label setFrameSize:NSMakeSize(width, paragraphHeight([label stringValue], [label font], width))];
   return label;
 }
 
 void showCut(NSTextField *label, const std::string &text, CGFloat width) {
-  NSString *const whole = toString(text);
+  NSString *const whole = cutTo(kLongestLine, toString(text));
   NSString *shown = whole;
   const CGFloat room = width - 2 * kCellMargin;
   for (NSUInteger kept = [whole length]; kept > 0 && [[label font] widthOfString:shown] > room;)

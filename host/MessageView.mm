@@ -27,7 +27,9 @@
   return self;
 }
 
-- (void)setStringValue:(NSString *)text {
+- (void)setStringValue:(NSString *)whole {
+  constexpr NSUInteger kLongest = 10000;
+  NSString *const text = imageposition::cutTo(kLongest, whole);
   // The scroller may come, and must not cut anything off.
   const CGFloat width = NSWidth([self frame]) - [NSScroller scrollerWidth] - 4;
   [label setStringValue:text];

@@ -179,6 +179,11 @@ std::string ppdUnreadable(const std::string &path, const std::string &reason) {
   return text("The printer description \"{1}\" cannot be read: {2}. Check the name and its rights.")
       .with(path, reason);
 }
+std::string ppdTooLarge(const std::string &path) {
+  return text("\"{1}\" is larger than any printer's description: reading it would take too long. "
+              "Use the one that comes with the printer's driver.")
+      .with(path);
+}
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason) {
   return text("\"{1}\" is not a usable printer description: line {2}: {3}. Name a PPD file; "
               "cupstestppd tells more about one.")

@@ -78,6 +78,7 @@ std::string documentUnreadable(const std::string &path, const std::string &reaso
 
 // Printers.
 std::string ppdUnreadable(const std::string &path, const std::string &reason);
+std::string ppdTooLarge(const std::string &path);
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason);
 std::string ppdOfQueue(const std::string &queue);
 extern const Text kNoDefaultPrinter;

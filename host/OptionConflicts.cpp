@@ -1,10 +1,10 @@
 #include "host/OptionConflicts.hpp"
 
-#include "host/OptionConstraints.hpp"
 #include "host/OptionMessages.hpp"
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <strings.h>
 
 namespace imageposition {
@@ -36,11 +36,17 @@ std::vector<std::string> inWords(const std::vector<NamedChoice> &choices) {
   return words;
 }
 
-OptionConflict described(const OptionConstraint &constraint, ppd_file_t *ppd) {
+/// A proposal that changes more is nothing that a user reads before taking it.
+constexpr std::size_t kMostChanges = 12;
+
+/// libcups, which looks for a way out, tests every constraint for each choice of each option in
+/// conflict, once for each change that it makes, and again for each resolver.
+constexpr long long kMostTests = 2'000'000;
+
+OptionConflict described(const OptionConstraint &violation) {
   OptionConflict conflict;
-  for (const ConstrainedOption &side : constraint)
-    conflict.sides.push_back(named(
-        *side.option, side.choice != nullptr ? side.choice : markedChoiceOf(side.option, ppd)));
+  for (const ConstrainedOption &side : violation)
+    conflict.sides.push_back(named(*side.option, side.choice));
   conflict.sentence = messages::conflict(inWords(conflict.sides));
   return conflict;
 }
@@ -51,23 +57,52 @@ bool isList(ppd_file_t *ppd, const std::string &keyword) {
 }
 
 /// Of several choices that which is in conflict: CUPS thinks of one only.
-const ppd_choice_t *choiceToKeep(ppd_file_t *ppd, const std::string &keyword) {
+const ppd_choice_t *choiceToKeep(ppd_file_t *ppd, const std::vector<OptionConstraint> &violations,
+                                 const std::string &keyword) {
   if (isList(ppd, keyword))
-    for (const OptionConstraint &constraint : constraintsOf(ppd))
-      for (const ConstrainedOption &side : constraint)
-        if (isSame(side.option->keyword, keyword) && side.choice != nullptr &&
-            isViolated(constraint, ppd))
+    for (const OptionConstraint &violation : violations)
+      for (const ConstrainedOption &side : violation)
+        if (isSame(side.option->keyword, keyword))
           return side.choice;
   return ppdFindMarkedChoice(ppd, keyword.c_str());
 }
 
-bool isSameSide(const NamedChoice &left, const NamedChoice &right) {
-  return isSame(left.keyword, right.keyword) && isSame(left.choice, right.choice);
+bool isBefore(const ConstrainedOption &left, const ConstrainedOption &right) {
+  const int order = strcasecmp(left.option->keyword, right.option->keyword);
+  return order != 0 ? order < 0 : strcasecmp(left.choice->choice, right.choice->choice) < 0;
 }
 
-bool areSameSides(const OptionConflict &left, const OptionConflict &right) {
-  return std::is_permutation(left.sides.begin(), left.sides.end(), right.sides.begin(),
-                             right.sides.end(), isSameSide);
+struct BySides {
+  bool operator()(const OptionConstraint &left, const OptionConstraint &right) const {
+    return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
+                                        isBefore);
+  }
+};
+
+/// The first of those that have the same sides, in whatever order.
+std::vector<OptionConstraint> withoutRepetition(const std::vector<OptionConstraint> &violations) {
+  std::set<OptionConstraint, BySides> known;
+  std::vector<OptionConstraint> result;
+  for (const OptionConstraint &violation : violations) {
+    OptionConstraint sides = violation;
+    std::sort(sides.begin(), sides.end(), isBefore);
+    if (known.insert(std::move(sides)).second)
+      result.push_back(violation);
+  }
+  return result;
+}
+
+/// Whether libcups finds a way out, or that there is none, within a second or so.
+bool isResolvedSoon(ppd_file_t *ppd, std::size_t constraints,
+                    const std::vector<OptionConstraint> &violations) {
+  long long tries = 0;
+  for (const OptionConstraint &violation : violations)
+    for (const ConstrainedOption &side : violation)
+      tries += side.option->num_choices;
+  for (const ppd_attr_t *resolver = ppdFindAttr(ppd, "cupsUIResolver", nullptr);
+       resolver != nullptr; resolver = ppdFindNextAttr(ppd, "cupsUIResolver", nullptr))
+    tries++;
+  return tries * static_cast<long long>(constraints) <= kMostTests;
 }
 
 /// CUPS's list of changes, freed.
@@ -97,49 +132,57 @@ OptionConflicts::OptionConflicts(PrinterDescription &printer, PrintSettingsStore
     : printer_(printer), job_(job) {}
 
 std::vector<OptionConflict> OptionConflicts::find() {
-  printer_.mark(job_);
   std::vector<OptionConflict> conflicts;
-  for (const OptionConstraint &constraint : constraintsOf(printer_.ppd())) {
-    if (!isViolated(constraint, printer_.ppd()))
-      continue;
-    OptionConflict conflict = described(constraint, printer_.ppd());
-    if (std::none_of(conflicts.begin(), conflicts.end(),
-                     [&](const OptionConflict &known) { return areSameSides(known, conflict); }))
-      conflicts.push_back(std::move(conflict));
-  }
+  for (const OptionConstraint &violation : withoutRepetition(violations()))
+    conflicts.push_back(described(violation));
   return conflicts;
 }
 
+std::vector<std::string> OptionConflicts::sentences(std::size_t most) {
+  const auto found = withoutRepetition(violations());
+  std::vector<std::string> sentences;
+  for (std::size_t i = 0; i < found.size() && i < most; i++)
+    sentences.push_back(described(found[i]).sentence);
+  if (found.size() > most)
+    sentences.push_back(messages::moreConflicts(found.size() - most));
+  return sentences;
+}
+
+std::vector<OptionConstraint> OptionConflicts::violations() {
+  printer_.mark(job_);
+  return violated(printer_.constraints(), printer_.ppd());
+}
+
 std::optional<ConflictProposal> OptionConflicts::proposal(const std::string &chosenLast) {
-  auto cups = proposalOfCups(chosenLast);
+  const auto found = violations();
+  auto cups = proposalOfCups(found, chosenLast);
   const bool isSimple = cups && std::none_of(cups->changes.begin(), cups->changes.end(),
                                              [&](const NamedChoice &change) {
                                                return isList(printer_.ppd(), change.keyword);
                                              });
   if (isSimple)
     return cups;
-  auto lists = proposalOfLists(chosenLast);
+  auto lists = proposalOfLists(found, chosenLast);
   return lists ? lists : cups;
 }
 
-std::optional<ConflictProposal> OptionConflicts::proposalOfLists(const std::string &chosenLast) {
-  ppd_file_t *const ppd = printer_.ppd();
-  std::map<std::string, ChoiceList> left; // by keyword
+std::optional<ConflictProposal>
+OptionConflicts::proposalOfLists(const std::vector<OptionConstraint> &violations,
+                                 const std::string &chosenLast) {
   printer_.mark(job_);
-  for (const OptionConstraint &constraint : constraintsOf(ppd)) {
-    if (!isViolated(constraint, ppd))
-      continue;
-    for (const ConstrainedOption &side : constraint) {
+  std::map<const ppd_option_t *, ChoiceSet> inConflict;
+  for (const OptionConstraint &violation : violations)
+    for (const ConstrainedOption &side : violation) {
       const ppd_option_t &option = *side.option;
-      const ppd_choice_t *const choice =
-          side.choice != nullptr ? side.choice : markedChoiceOf(&option, ppd);
-      if (option.ui != PPD_UI_PICKMANY || choice == nullptr || isSame(option.keyword, chosenLast) ||
-          job_.isLocked(option.keyword))
-        continue;
-      const auto before = left.try_emplace(option.keyword, markedChoices(option)).first;
-      before->second = withChoice(option, before->second, choice->choice, false);
+      if (option.ui == PPD_UI_PICKMANY && !isSame(option.keyword, chosenLast) &&
+          !job_.isLocked(option.keyword))
+        inConflict[&option].insert(side.choice->choice);
     }
-  }
+  if (inConflict.size() > kMostChanges)
+    return std::nullopt;
+  std::map<std::string, ChoiceList> left; // by keyword
+  for (const auto &[option, choices] : inConflict)
+    left.emplace(option->keyword, withoutChoices(*option, markedChoices(*option), choices));
   ConflictProposal proposal;
   PrinterOptions options(printer_, job_);
   for (const auto &[keyword, choices] : left)
@@ -152,12 +195,14 @@ std::optional<ConflictProposal> OptionConflicts::proposalOfLists(const std::stri
   return proposal;
 }
 
-std::optional<ConflictProposal> OptionConflicts::proposalOfCups(const std::string &chosenLast) {
-  printer_.mark(job_);
+std::optional<ConflictProposal>
+OptionConflicts::proposalOfCups(const std::vector<OptionConstraint> &violations,
+                                const std::string &chosenLast) {
   ppd_file_t *const ppd = printer_.ppd();
-  if (ppdConflicts(ppd) == 0)
+  if (violations.empty() || !isResolvedSoon(ppd, printer_.constraints().size(), violations))
     return std::nullopt;
-  const ppd_choice_t *const kept = chosenLast.empty() ? nullptr : choiceToKeep(ppd, chosenLast);
+  const ppd_choice_t *const kept =
+      chosenLast.empty() ? nullptr : choiceToKeep(ppd, violations, chosenLast);
   const Changes changes(ppd, kept != nullptr ? chosenLast : "",
                         kept != nullptr ? kept->choice : "");
   if (!changes.found())
@@ -173,7 +218,8 @@ std::optional<ConflictProposal> OptionConflicts::proposalOfCups(const std::strin
     if (choice != nullptr && !choice->marked)
       proposal.changes.push_back(named(*option, choice));
   }
-  if (proposal.changes.empty() || !endsAllConflicts(proposal))
+  if (proposal.changes.empty() || proposal.changes.size() > kMostChanges ||
+      !endsAllConflicts(proposal))
     return std::nullopt;
   proposal.sentence = messages::conflictProposal(inWords(proposal.changes));
   return proposal;
@@ -181,8 +227,8 @@ std::optional<ConflictProposal> OptionConflicts::proposalOfCups(const std::strin
 
 bool OptionConflicts::endsAllConflicts(const ConflictProposal &proposal) {
   PrintSettingsStore trial = job_;
-  const bool ends =
-      OptionConflicts(printer_, trial).take(proposal) && ppdConflicts(printer_.ppd()) == 0;
+  OptionConflicts tried(printer_, trial);
+  const bool ends = tried.take(proposal) && tried.violations().empty();
   printer_.mark(job_);
   return ends;
 }

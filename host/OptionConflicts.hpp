@@ -37,9 +37,14 @@ public:
   /// constraints of the same sides are named once.
   std::vector<OptionConflict> find();
 
+  /// The same as sentences for a user: those of the first `most`, and one that counts the others.
+  /// Empty when there is no conflict.
+  std::vector<std::string> sentences(std::size_t most);
+
   /// How to get rid of all conflicts. The option that was chosen last, when it is named, stays as
   /// it is. Of an option that takes several choices only those in conflict go, where that is
-  /// enough. None when there is no conflict, or no way out without a locked option.
+  /// enough. None when there is no conflict, no way out without a locked option, or none that is
+  /// found soon and short enough to be read.
   std::optional<ConflictProposal> proposal(const std::string &chosenLast = {});
 
   /// Chooses what was proposed. False when a change is locked or no longer possible; the job is
@@ -47,8 +52,12 @@ public:
   bool take(const ConflictProposal &proposal);
 
 private:
-  std::optional<ConflictProposal> proposalOfCups(const std::string &chosenLast);
-  std::optional<ConflictProposal> proposalOfLists(const std::string &chosenLast);
+  /// Of the PPD as it is marked for the job from then on.
+  std::vector<OptionConstraint> violations();
+  std::optional<ConflictProposal> proposalOfCups(const std::vector<OptionConstraint> &violations,
+                                                 const std::string &chosenLast);
+  std::optional<ConflictProposal> proposalOfLists(const std::vector<OptionConstraint> &violations,
+                                                  const std::string &chosenLast);
   /// Some that CUPS finds do not: marking one option may unmark another.
   bool endsAllConflicts(const ConflictProposal &proposal);
 

@@ -18,14 +18,13 @@ using OptionConstraint = std::vector<ConstrainedOption>;
 
 /// The constraints of "UIConstraints", "NonUIConstraints" and "cupsUIConstraints" that CUPS heeds:
 /// without those of unknown options, and with one for a pair that is written both ways in a row.
+/// Time grows with their number and that of the choices, times the logarithm.
 std::vector<OptionConstraint> constraintsOf(ppd_file_t *ppd);
 
-/// Whether the marked choices violate it.
-bool isViolated(const OptionConstraint &constraint, ppd_file_t *ppd);
-
-/// The choice that is marked, for constraints that name none; may be null. Of several the first
-/// that is not "None", "Off" or "False".
-const ppd_choice_t *markedChoiceOf(const ppd_option_t *option, ppd_file_t *ppd);
+/// Of the constraints those that the marked choices violate, in their order. A side that names no
+/// choice has the marked one; of several the first that is not "None", "Off" or "False".
+std::vector<OptionConstraint> violated(const std::vector<OptionConstraint> &constraints,
+                                       ppd_file_t *ppd);
 
 } // namespace imageposition
 

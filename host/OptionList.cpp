@@ -34,8 +34,9 @@ std::string writeOptionList(const std::vector<OptionGroup> &groups) {
     list += onOneLine(group.text) + '\n';
     for (const PrinterOption &option : group.options) {
       list += "  " + option.keyword + ": " + onOneLine(option.text) + '\n';
+      const ChoiceSet chosen = option.chosenSet();
       for (const OptionChoice &choice : option.choices) {
-        list += option.isChosen(choice.keyword) ? "  * " : "    ";
+        list += chosen.count(choice.keyword) != 0 ? "  * " : "    ";
         list += wordFor(option, choice) + ": " + onOneLine(choice.text) + '\n';
       }
       if (option.takesCustomValue)

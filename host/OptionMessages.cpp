@@ -3,20 +3,21 @@
 namespace imageposition::messages {
 
 std::string inWords(const std::vector<std::string> &parts) {
-  std::string list;
-  for (std::size_t i = 0; i < parts.size(); i++) {
-    if (i == 0)
-      list = parts[i];
-    else if (i + 1 == parts.size())
-      list = text("{1} and {2}").with(list, parts[i]);
-    else
-      list = inOrder(list, parts[i]);
-  }
-  return list;
+  if (parts.size() < 2)
+    return inOrder(parts);
+  return text("{1} and {2}").with(inOrder({parts.begin(), parts.end() - 1}), parts.back());
 }
 
 std::string inOrder(const std::string &first, const std::string &second) {
   return text("{1}, {2}").with(first, second);
+}
+
+std::string inOrder(const std::vector<std::string> &parts) {
+  if (parts.size() < 2)
+    return parts.empty() ? "" : parts.front();
+  // Half by half: one by one each would be copied as often as others follow.
+  const auto middle = parts.begin() + static_cast<std::ptrdiff_t>(parts.size() / 2);
+  return inOrder(inOrder({parts.begin(), middle}), inOrder({middle, parts.end()}));
 }
 
 std::string chosenOption(const std::string &option, const std::string &choice) {
@@ -78,8 +79,27 @@ std::string conflict(const std::vector<std::string> &sides) {
     return text("The printer cannot do {1}.").with(sides.front());
   return text("The printer cannot combine {1}.").with(inWords(sides));
 }
+std::string moreConflicts(std::size_t others) {
+  // Translators: follows sentences such as "The printer cannot combine ...".
+  return counted(static_cast<long>(others), "There is {1} more such conflict.",
+                 "There are {1} more such conflicts.");
+}
 std::string conflictProposal(const std::vector<std::string> &changes) {
   return text("Change to {1}.").with(inWords(changes));
+}
+
+std::string optionsNotShown(std::size_t count) {
+  return counted(static_cast<long>(count),
+                 "{1} more option has no room here. Set it with -o on the command line.",
+                 "{1} more options have no room here. Set them with -o on the command line.");
+}
+std::string linesNotShown(std::size_t count) {
+  // Translators: at the end of a long list.
+  return counted(static_cast<long>(count), "And {1} more.", "And {1} more.");
+}
+std::string presetsNotListed(std::size_t count) {
+  // Translators: the last, grey item of a menu of presets.
+  return counted(static_cast<long>(count), "{1} more preset", "{1} more presets");
 }
 
 const Text kNoPages = text("No pages are named. Write, for example, 1-3, 7.");

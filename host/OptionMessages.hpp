@@ -13,6 +13,8 @@ namespace imageposition::messages {
 std::string inWords(const std::vector<std::string> &parts);
 /// "a, b".
 std::string inOrder(const std::string &first, const std::string &second);
+/// "a, b, c"; empty for none.
+std::string inOrder(const std::vector<std::string> &parts);
 /// An option with a choice, by their texts.
 std::string chosenOption(const std::string &option, const std::string &choice);
 
@@ -47,7 +49,14 @@ std::string entryUnusable(const std::string &name);
 
 // Conflicts.
 std::string conflict(const std::vector<std::string> &sides);
+/// Follows the sentences of the first conflicts.
+std::string moreConflicts(std::size_t others);
 std::string conflictProposal(const std::vector<std::string> &changes);
+
+// What a window has no room for.
+std::string optionsNotShown(std::size_t count);
+std::string linesNotShown(std::size_t count);
+std::string presetsNotListed(std::size_t count);
 
 // Pages.
 extern const Text kNoPages;

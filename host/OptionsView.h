@@ -36,8 +36,9 @@ struct OptionsViewRow;
 }
 
 - (id)initWithFrame:(NSRect)frame owner:(id<OptionsViewOwner>)theOwner;
-/// Keeps the controls where they are for the options that are shown already.
-- (void)showGroups:(const std::vector<imageposition::OptionGroup> &)groups;
+/// Keeps the controls where they are for the options that are shown already. Of more than some
+/// hundreds the first are shown, and how many are left out.
+- (void)showGroups:(std::vector<imageposition::OptionGroup>)groups;
 
 @end
 

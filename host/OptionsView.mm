@@ -4,6 +4,8 @@
 #import "host/Labels.h"
 #include "host/Mnemonic.hpp"
 #import "host/MnemonicControls.h"
+#include "host/OptionMessages.hpp"
+#include "host/OptionRows.hpp"
 #include "host/WindowTexts.hpp"
 #import "platform/TextBridge.h"
 
@@ -21,6 +23,9 @@ struct OptionsViewRow {
 };
 
 namespace {
+
+/// Making a control takes the platform a fifth of a millisecond.
+constexpr std::size_t kMostRows = 500;
 
 constexpr CGFloat kMargin = 12;
 constexpr CGFloat kRowHeight = 24;
@@ -47,8 +52,9 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
     row.choices = showChoices(row.popUp, option);
     return;
   }
+  const ChoiceSet chosen = option.chosenSet();
   for (std::size_t i = 0; i < row.switches.size(); i++) {
-    [row.switches[i] setState:option.isChosen(row.choices[i]) ? NSOnState : NSOffState];
+    [row.switches[i] setState:chosen.count(row.choices[i]) != 0 ? NSOnState : NSOffState];
     [row.switches[i] setEnabled:!option.isLocked];
   }
 }
@@ -167,21 +173,29 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
   return top + kRowGap;
 }
 
-- (void)build:(const std::vector<OptionGroup> &)groups {
+- (void)build:(const std::vector<OptionGroup> &)groups leavingOut:(std::size_t)leftOut {
   rows->clear();
   NSView *const document = [[[OptionRows alloc] initWithFrame:NSZeroRect] autorelease];
   CGFloat top = kMargin;
   for (const OptionGroup &group : groups)
     top = [self add:group to:document below:top];
+  if (leftOut > 0) {
+    NSTextField *const note =
+        makeParagraph(messages::optionsNotShown(leftOut), [self contentSize].width - 2 * kMargin);
+    [note setFrameOrigin:NSMakePoint(kMargin, top)];
+    [document addSubview:note];
+    top = NSMaxY([note frame]) + kRowGap;
+  }
   const NSSize visible = [self contentSize];
   [document setFrameSize:NSMakeSize(visible.width, std::max(top, visible.height))];
   [self setDocumentView:document];
 }
 
-- (void)showGroups:(const std::vector<OptionGroup> &)groups {
-  const std::string wanted = shapeOf(groups);
+- (void)showGroups:(std::vector<OptionGroup>)groups {
+  const std::size_t leftOut = cutToRows(groups, kMostRows);
+  const std::string wanted = shapeOf(groups) + std::to_string(leftOut);
   if (wanted != *shape || [self documentView] == nil)
-    [self build:groups];
+    [self build:groups leavingOut:leftOut];
   *shape = wanted;
   std::size_t at = 0;
   for (const OptionGroup &group : groups)

@@ -1,5 +1,6 @@
 #include "host/Presets.hpp"
 
+#include "host/ChoiceList.hpp"
 #include "host/CustomValue.hpp"
 #include "host/DestinationFile.hpp"
 #include "host/ExitCode.hpp"
@@ -15,6 +16,7 @@
 #include <fcntl.h>
 #include <fstream>
 #include <pwd.h>
+#include <set>
 #include <sstream>
 #include <strings.h>
 #include <sys/file.h>
@@ -177,29 +179,22 @@ void readOptions(const std::string &text, PrintSettingsStore &settings) {
 Presets::Presets(const std::string &printer) : printer_(withoutInstance(printer)) {}
 
 std::vector<std::string> Presets::names() const {
-  std::vector<std::string> names;
+  std::set<std::string, IgnoringCase> names;
   for (const auto &entry : allEntries())
-    if (isSame(entry.printer, printer_) && !entry.instance.empty() &&
-        !contains(names, entry.instance))
-      names.push_back(entry.instance);
-  std::sort(names.begin(), names.end(), isLess);
-  return names;
+    if (isSame(entry.printer, printer_) && !entry.instance.empty())
+      names.insert(entry.instance);
+  return {names.begin(), names.end()};
 }
 
 std::vector<PresetName> Presets::ofOtherPrinters() const {
-  std::vector<PresetName> presets;
-  for (const auto &entry : allEntries()) {
-    const auto isKnown = [&](const PresetName &preset) {
-      return isSame(preset.printer, entry.printer) && isSame(preset.name, entry.instance);
-    };
-    if (!entry.instance.empty() && !isSame(entry.printer, printer_) &&
-        std::none_of(presets.begin(), presets.end(), isKnown))
-      presets.push_back({entry.printer, entry.instance});
-  }
-  std::sort(presets.begin(), presets.end(), [](const PresetName &a, const PresetName &b) {
+  const auto isBefore = [](const PresetName &a, const PresetName &b) {
     return isSame(a.printer, b.printer) ? isLess(a.name, b.name) : isLess(a.printer, b.printer);
-  });
-  return presets;
+  };
+  std::set<PresetName, decltype(isBefore)> presets(isBefore);
+  for (const auto &entry : allEntries())
+    if (!entry.instance.empty() && !isSame(entry.printer, printer_))
+      presets.insert({entry.printer, entry.instance});
+  return {presets.begin(), presets.end()};
 }
 
 std::vector<std::string> Presets::save(const std::string &name, const PrintSettingsStore &settings,

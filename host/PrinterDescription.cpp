@@ -3,6 +3,7 @@
 #include "host/ChoiceList.hpp"
 #include "host/ExitCode.hpp"
 #include "host/Messages.hpp"
+#include "host/PpdSize.hpp"
 
 #include <cerrno>
 #include <ctime>
@@ -26,9 +27,10 @@ private:
   std::string path_;
 };
 
-bool isFolder(const std::string &path) {
+/// Of the file's mode; 0 where there is none.
+mode_t kindOf(const std::string &path) {
   struct stat status {};
-  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+  return stat(path.c_str(), &status) == 0 ? status.st_mode & S_IFMT : 0;
 }
 
 std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
@@ -73,6 +75,15 @@ PrintSettingsStore defaultsOf(const QueueName &queue) {
   return defaults;
 }
 
+using Choices = std::map<std::string, std::string>;
+
+void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Choices &marked) {
+  for (int i = 0; i < group.num_options; i++)
+    marked[group.options[i].keyword] = markedChoice(ppd, group.options[i]);
+  for (int i = 0; i < group.num_subgroups; i++)
+    collectMarked(ppd, group.subgroups[i], marked);
+}
+
 } // namespace
 
 PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name)
@@ -86,13 +97,18 @@ PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, s
 
 std::unique_ptr<ppd_file_t, PrinterDescription::Close>
 PrinterDescription::open(const std::string &path, const std::string &shownPath) {
-  if (isFolder(path))
+  const mode_t kind = kindOf(path);
+  if (kind == S_IFDIR)
     throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, systemReason(EISDIR)));
+  if (kind == S_IFREG && !isReadSoon(path)) // a pipe can be read once only
+    throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));
   errno = 0;
   std::unique_ptr<ppd_file_t, Close> ppd(ppdOpenFile(path.c_str()));
+  const int reason = errno;
+  if (ppd && !isMarkedSoon(*ppd))
+    throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));
   if (ppd)
     return ppd;
-  const int reason = errno;
   int line = 0;
   const ppd_status_t status = ppdLastError(&line);
   if (status == PPD_FILE_OPEN_ERROR)
@@ -131,6 +147,27 @@ void PrinterDescription::mark(const PrintSettingsStore &job) {
     cupsMarkOptions(ppd(), settings->optionCount(),
                     const_cast<cups_option_t *>(settings->options())); // only read
   markLists(job);
+}
+
+const std::map<std::string, std::string> &PrinterDescription::defaultChoices() {
+  if (!defaultChoices_) {
+    mark(PrintSettingsStore());
+    defaultChoices_.emplace();
+    for (int i = 0; i < ppd()->num_groups; i++)
+      collectMarked(ppd(), ppd()->groups[i], *defaultChoices_);
+  }
+  return *defaultChoices_;
+}
+
+const std::vector<OptionConstraint> &PrinterDescription::constraints() {
+  if (!constraints_)
+    constraints_ = constraintsOf(ppd());
+  return *constraints_;
+}
+
+void PrinterDescription::localize() {
+  if (!std::exchange(isLocalized_, true))
+    ppdLocalize(ppd());
 }
 
 void PrinterDescription::markLists(const PrintSettingsStore &job) {

@@ -2,11 +2,14 @@
 #ifndef IMAGEPOSITION_HOST_PRINTERDESCRIPTION_HPP
 #define IMAGEPOSITION_HOST_PRINTERDESCRIPTION_HPP
 
+#include "host/OptionConstraints.hpp"
 #include "platform/PrintSettingsStore.hpp"
 
 #include <cups/ppd.h>
 
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +17,8 @@ namespace imageposition {
 
 class PrinterDescription {
 public:
-  /// Reads a PPD file, compressed or not. Throws a `Failure` that names file, line and reason.
+  /// Reads a PPD file, compressed or not. Throws a `Failure` that names file, line and reason; also
+  /// for one that libcups would take too long to read, see `PpdSize.hpp`.
   static PrinterDescription fromFile(const std::string &path);
 
   /// Asks CUPS for the PPD of a queue, or of "queue/instance", and for the options that the queue's
@@ -33,6 +37,16 @@ public:
 
   /// What the queue's users, or an administrator, chose for all jobs. Empty for a file.
   const PrintSettingsStore &queueDefaults() const noexcept { return queueDefaults_; }
+
+  /// What a job without settings has marked, by keyword; of an option that takes several choices a
+  /// list. Found at the first call, which marks the PPD.
+  const std::map<std::string, std::string> &defaultChoices();
+
+  /// Read at the first call.
+  const std::vector<OptionConstraint> &constraints();
+
+  /// Puts the options' texts into the locale's language, as far as the PPD has it. Done once.
+  void localize();
 
   /// The values of all attributes with that keyword, in the file's order; those without a value are
   /// left out.
@@ -54,6 +68,9 @@ private:
   std::string name_;
   PrintSettingsStore queueDefaults_;
   std::vector<ppd_option_t *> lists_; ///< The options that take several choices; the PPD's.
+  std::optional<std::map<std::string, std::string>> defaultChoices_;
+  std::optional<std::vector<OptionConstraint>> constraints_;
+  bool isLocalized_ = false;
 };
 
 } // namespace imageposition

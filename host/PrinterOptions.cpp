@@ -28,30 +28,6 @@ std::string textOr(const char *text, const char *keyword) {
 /// The choice that CUPS adds to an option that takes a value of the person's own.
 bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, "Custom"); }
 
-std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option) {
-  if (option.ui == PPD_UI_PICKMANY)
-    return joinChoices(markedChoices(option));
-  const ppd_choice_t *const marked = ppdFindMarkedChoice(ppd, option.keyword);
-  return marked != nullptr ? marked->choice : "";
-}
-
-/// By keyword.
-using Marked = std::map<std::string, std::string>;
-
-void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Marked &marked) {
-  for (int i = 0; i < group.num_options; i++)
-    marked[group.options[i].keyword] = markedChoice(ppd, group.options[i]);
-  for (int i = 0; i < group.num_subgroups; i++)
-    collectMarked(ppd, group.subgroups[i], marked);
-}
-
-Marked allMarked(ppd_file_t *ppd) {
-  Marked marked;
-  for (int i = 0; i < ppd->num_groups; i++)
-    collectMarked(ppd, ppd->groups[i], marked);
-  return marked;
-}
-
 /// A job's settings that say the same as an option, under names that are not the PPD's.
 constexpr std::pair<const char *, const char *> kAliases[] = {
     {"PageSize", "media"},       {"PageSize", "PageRegion"},
@@ -73,12 +49,14 @@ std::string enteredIn(const PrintSettingsStore &settings, const std::string &key
   return {};
 }
 
-/// Builds options from the PPD as it is marked for the job.
+/// Builds options from the PPD, which it marks for the job.
 class Builder {
 public:
-  Builder(ppd_file_t *ppd, const PrintSettingsStore &job, const PrintSettingsStore &queue,
-          Marked defaults)
-      : ppd_(ppd), job_(job), queue_(queue), defaults_(std::move(defaults)) {}
+  Builder(PrinterDescription &printer, const PrintSettingsStore &job)
+      : ppd_(printer.ppd()), job_(job), queue_(printer.queueDefaults()),
+        defaults_(printer.defaultChoices()) {
+    printer.mark(job);
+  }
 
   void addGroup(const ppd_group_t &source, std::vector<OptionGroup> &groups) const {
     OptionGroup group{textOr(source.name, source.text), textOr(source.text, source.name), {}};
@@ -145,20 +123,16 @@ private:
   ppd_file_t *ppd_;
   const PrintSettingsStore &job_;
   const PrintSettingsStore &queue_;
-  Marked defaults_;
+  const std::map<std::string, std::string> &defaults_; // by keyword
 };
-
-Builder builderFor(PrinterDescription &printer, const PrintSettingsStore &job) {
-  printer.mark(PrintSettingsStore());
-  Marked defaults = allMarked(printer.ppd());
-  printer.mark(job);
-  return Builder(printer.ppd(), job, printer.queueDefaults(), std::move(defaults));
-}
 
 } // namespace
 
-bool PrinterOption::isChosen(const std::string &choice) const {
-  return kind == Kind::Several ? contains(splitChoices(chosen), choice) : isSame(chosen, choice);
+ChoiceSet PrinterOption::chosenSet() const {
+  if (kind != Kind::Several)
+    return {chosen};
+  const ChoiceList list = splitChoices(chosen);
+  return {list.begin(), list.end()};
 }
 
 std::string PrinterOption::textOf(const std::string &choice) const {
@@ -170,24 +144,28 @@ std::string PrinterOption::textOf(const std::string &choice) const {
     return messages::enteredValue(customValueText(*custom, choice));
   if (kind != Kind::Several)
     return choice;
-  std::string texts;
-  for (const std::string &one : splitChoices(choice)) {
-    const auto known = std::find_if(choices.begin(), choices.end(), [&](const OptionChoice &other) {
-      return isSame(other.keyword, one);
-    });
-    const std::string &name = known != choices.end() ? known->text : one;
-    texts = texts.empty() ? name : messages::inOrder(texts, name);
+  return textOfSeveral(splitChoices(choice));
+}
+
+std::string PrinterOption::textOfSeveral(const ChoiceList &list) const {
+  std::map<std::string, const std::string *, IgnoringCase> texts; // by keyword
+  for (const OptionChoice &choice : choices)
+    texts.emplace(choice.keyword, &choice.text);
+  std::vector<std::string> names;
+  for (const std::string &one : list) {
+    const auto known = texts.find(one);
+    names.push_back(known != texts.end() ? *known->second : one);
   }
-  return texts.empty() ? messages::kNothingChosen.str() : texts;
+  return names.empty() ? messages::kNothingChosen.str() : messages::inOrder(names);
 }
 
 PrinterOptions::PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job)
     : printer_(printer), job_(job) {
-  ppdLocalize(printer_.ppd());
+  printer_.localize();
 }
 
 std::vector<OptionGroup> PrinterOptions::all() {
-  const Builder builder = builderFor(printer_, job_);
+  const Builder builder(printer_, job_);
   std::vector<OptionGroup> groups;
   for (int i = 0; i < printer_.ppd()->num_groups; i++)
     builder.addGroup(printer_.ppd()->groups[i], groups);
@@ -213,7 +191,7 @@ std::optional<PrinterOption> PrinterOptions::find(const std::string &keyword) {
   const ppd_option_t *const option = ppdFindOption(printer_.ppd(), keyword.c_str());
   if (option == nullptr)
     return std::nullopt;
-  return builderFor(printer_, job_).option(*option);
+  return Builder(printer_, job_).option(*option);
 }
 
 std::optional<PrinterOption> PrinterOptions::twoSided() {

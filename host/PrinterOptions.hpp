@@ -32,10 +32,13 @@ struct PrinterOption {
   std::optional<CustomOption> custom; ///< How such a value is entered; none where nobody knows.
 
   bool differsFromDefault() const { return chosen != defaultChoice; }
-  /// Whether the choice, of `Several` one of them, holds.
-  bool isChosen(const std::string &choice) const;
+  /// What holds: one choice's keyword, of `Several` those of the list.
+  ChoiceSet chosenSet() const;
   /// The choice's text, or those of a list; of a value that is entered what a person reads of it.
   std::string textOf(const std::string &choice) const;
+
+private:
+  std::string textOfSeveral(const ChoiceList &list) const;
 };
 
 struct OptionGroup {

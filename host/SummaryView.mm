@@ -2,6 +2,7 @@
 
 #import "host/Labels.h"
 #include "host/Messages.hpp"
+#include "host/OptionMessages.hpp"
 #include "host/WindowTexts.hpp"
 
 #include <algorithm>
@@ -24,6 +25,9 @@ using imageposition::SummarySection;
 
 namespace {
 
+/// Of each section; each is two views.
+constexpr std::size_t kMostLines = 500;
+
 constexpr CGFloat kMargin = 12;
 constexpr CGFloat kLineGap = 5;
 constexpr CGFloat kColumnGap = 12;
@@ -35,12 +39,17 @@ std::string titleOf(const SummaryLine &line) {
   return (line.differs ? kMark : "") + imageposition::messages::asLabel(line.title);
 }
 
+std::size_t shownLines(const SummarySection &section) {
+  return std::min(section.lines.size(), kMostLines);
+}
+
 /// As wide as the widest title, as long as there is room for the values.
 CGFloat titleColumn(const std::vector<SummarySection> &sections, CGFloat width) {
   CGFloat widest = 0;
   for (const SummarySection &section : sections)
-    for (const SummaryLine &line : section.lines)
-      widest = std::max(widest, NSWidth([imageposition::makeLabel(titleOf(line)) frame]));
+    for (std::size_t i = 0; i < shownLines(section); i++)
+      widest =
+          std::max(widest, NSWidth([imageposition::makeLabel(titleOf(section.lines[i])) frame]));
   return std::min<CGFloat>(widest, std::floor(width * 0.6));
 }
 
@@ -55,8 +64,12 @@ public:
 
   void addSection(const SummarySection &section) {
     addLine(imageposition::makeLabel(section.panelName, true));
-    for (const auto &line : section.lines)
-      addRow(line);
+    const std::size_t shown = shownLines(section);
+    for (std::size_t i = 0; i < shown; i++)
+      addRow(section.lines[i]);
+    if (section.lines.size() > shown)
+      addLine(imageposition::makeLabel(
+          imageposition::messages::linesNotShown(section.lines.size() - shown)));
     if (section.lines.empty())
       addLine(imageposition::makeLabel(imageposition::messages::kNothingToSummarize));
     top_ += kMargin - kLineGap;

@@ -91,8 +91,10 @@ ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
 
 ExitCode listOptions(DialogJob &job) {
   std::cout << writeOptionList(PrinterOptions(job.printer(), job.settings()).all());
-  for (const OptionConflict &conflict : OptionConflicts(job.printer(), job.settings()).find())
-    std::cerr << messages::kProgram << conflict.sentence << '\n';
+  constexpr std::size_t kMostConflicts = 20;
+  OptionConflicts conflicts(job.printer(), job.settings());
+  for (const std::string &sentence : conflicts.sentences(kMostConflicts))
+    std::cerr << messages::kProgram << sentence << '\n';
   return ExitCode::Done;
 }
 

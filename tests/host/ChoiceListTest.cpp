@@ -50,7 +50,7 @@ protected:
 TEST_F(ListOption, BeginsWithWhatThePpdsDefaultSays) {
   EXPECT_EQ(finishing().kind, PrinterOption::Kind::Several);
   EXPECT_EQ(finishing().chosen, "Punch");
-  EXPECT_TRUE(finishing().isChosen("punch"));
+  EXPECT_THAT(finishing().chosenSet(), testing::Contains("Punch"));
   EXPECT_FALSE(finishing().differsFromDefault());
 }
 
