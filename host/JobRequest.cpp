@@ -3,6 +3,7 @@
 #include "host/CustomValue.hpp"
 #include "host/ExitCode.hpp"
 #include "host/JobMessages.hpp"
+#include "host/VisibleText.hpp"
 
 #include <algorithm>
 #include <memory>
@@ -142,7 +143,8 @@ std::string valueText(ipp_attribute_t *attribute) {
 std::string attributeText(const JobRequest &request, ipp_attribute_t *attribute) {
   const std::string name = ippGetName(attribute);
   const ipp_tag_t type = ippGetValueTag(attribute);
-  const std::string value = isSecret(request, name.c_str()) ? kHiddenValue : valueText(attribute);
+  const std::string value =
+      isSecret(request, name.c_str()) ? kHiddenValue : visible(valueText(attribute));
   std::string text = groupName(ippGetGroupTag(attribute)) + " " + name + " (" + ippTagString(type) +
                      ") = " + value + "\n";
   if (type == IPP_TAG_BOOLEAN)
