@@ -3,6 +3,7 @@
 #include "host/CustomValue.hpp"
 #include "host/ExitCode.hpp"
 #include "host/JobMessages.hpp"
+#include "host/SecretOptions.hpp"
 #include "host/VisibleText.hpp"
 
 #include <algorithm>
@@ -176,7 +177,7 @@ PrintSettingsStore optionsToSend(const JobRequest &request) {
 }
 
 bool isSecret(const JobRequest &request, const char *name) {
-  return contains(request.secrets, name);
+  return isSecretName(name) || contains(request.secrets, name);
 }
 
 bool hasCompound(const JobRequest &request, const PrintSettingsStore &options) {
