@@ -11,6 +11,7 @@
 #include "host/Messages.hpp"
 #include "host/OptionConflicts.hpp"
 #include "host/OptionList.hpp"
+#include "host/PasswordQuestion.hpp"
 #import "host/PlatformLanguage.h"
 #import "host/Pool.h"
 #include "host/PrivateDisplay.hpp"
@@ -137,6 +138,7 @@ ExitCode run(const std::vector<std::string> &words) {
   }
   const Arguments &arguments = std::get<Arguments>(request);
   takeOverEnvironment(arguments);
+  const TerminalWarning warning(std::cerr);
   for (const std::string &path : arguments.documents)
     if (path != "-")
       checkDocument(path);
