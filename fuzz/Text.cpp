@@ -1,5 +1,6 @@
-// Texts with marks: values come in as they are, and nothing in them is looked at.
+// Texts with marks: values come in on one line, and no mark in them is looked at.
 #include "host/Text.hpp"
+#include "host/VisibleText.hpp"
 
 #include "fuzz/Check.hpp"
 
@@ -21,7 +22,7 @@ std::string expectedText(const std::string &pattern, const std::vector<std::stri
       result += pattern[at];
       continue;
     }
-    result += values[index];
+    result += imageposition::visible(values[index]);
     at += 2;
   }
   return result;

@@ -2,6 +2,7 @@
 
 #include "host/OptionMessages.hpp"
 #include "host/OptionText.hpp"
+#include "host/SecretOptions.hpp"
 
 #include <algorithm>
 #include <strings.h>
@@ -256,7 +257,9 @@ std::string customValueText(const CustomOption &option, const std::string &value
 }
 
 bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::string &value) {
-  const auto option = customOption(ppd, keyword);
+  if (isSecretName(keyword))
+    return true;
+  const auto option = ppd != nullptr ? customOption(ppd, keyword) : std::nullopt;
   if (!option || !option->hasHidden())
     return false;
   ppd_option_t *const source = ppdFindOption(ppd, keyword.c_str());

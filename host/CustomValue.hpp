@@ -72,7 +72,8 @@ std::string customValueForm(const CustomOption &option);
 /// value itself where it cannot be read, unless the option hides something.
 std::string customValueText(const CustomOption &option, const std::string &value);
 
-/// Whether the value is one that was entered, with a part that is nobody else's to read.
+/// Whether nobody else may read the value: the option is one of `isSecretName`, or the value was
+/// entered and has a part that the PPD calls a password. `ppd` may be null.
 bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::string &value);
 
 /// Makes "Custom.VALUE" of an option into the number alone, which filters take, too, and panels

@@ -54,9 +54,12 @@ public:
 
   /// What there is to say when CUPS has taken it: lp's line for `output`, what is special for
   /// `notes`; nothing in silence.
-  void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) const;
+  void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
+  /// What CUPS calls the job that it has taken, "office-12"; empty before `report`.
+  const std::string &sentName() const noexcept { return sentName_; }
 
-  /// Writes the ticket, or the settings to standard output. Throws a `Failure`.
+  /// Writes the ticket, or the settings to standard output: as they are for a program that reads
+  /// them there, `visible` on a terminal. Throws a `Failure`.
   void writeSettings() const;
   /// Writes a ticket of that path. Throws a `Failure`.
   void writeSettings(const std::string &path) const;
@@ -71,6 +74,7 @@ private:
   std::vector<std::string> plugins_;
   std::unique_ptr<PanelSession> panels_; // refers to the printer and the ticket
   bool isSubmitted_;
+  std::string sentName_;
 };
 
 } // namespace imageposition

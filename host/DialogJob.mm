@@ -15,6 +15,7 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <iostream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -98,6 +99,17 @@ bool isInputGiven() {
   return fstat(STDIN_FILENO, &status) == 0 && !S_ISCHR(status.st_mode);
 }
 
+void writeToOutput(const std::string &settings) {
+  if (isatty(STDOUT_FILENO) != 0) {
+    std::cout << settings;
+    return;
+  }
+  std::cout.flush(); // which shows what it is given
+  if (std::fwrite(settings.data(), 1, settings.size(), stdout) != settings.size() ||
+      std::fflush(stdout) != 0)
+    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
+}
+
 /// False for a choice or a value of another printer's, which this one does not take.
 bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) {
   if (ppdFindOption(before, setting.name) == nullptr)
@@ -165,7 +177,8 @@ JobRequest DialogJob::request() const {
   return request;
 }
 
-void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) const {
+void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
+  sentName_ = request().printer + "-" + std::to_string(sent.id);
   if (arguments_.isSilent || arguments_.isMailWanted)
     return;
   const auto &paths = arguments_.documents;
@@ -177,7 +190,7 @@ void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostr
 
 void DialogJob::writeSettings() const {
   if (arguments_.ticket.empty())
-    std::cout << writeOptionText(ticket_.settings);
+    writeToOutput(writeOptionText(ticket_.settings));
   else
     writeSettings(arguments_.ticket);
 }

@@ -1,6 +1,7 @@
 #include "host/DocumentNames.hpp"
 
 #include "host/JobMessages.hpp"
+#include "host/VisibleText.hpp"
 #include "host/WindowTexts.hpp"
 
 namespace imageposition {
@@ -13,7 +14,7 @@ std::string documentsInWords(const std::vector<std::string> &paths) {
   if (paths.empty())
     return {};
   const std::string first = paths.front() == "-" ? messages::kStandardInput : paths.front();
-  return paths.size() == 1 ? first : messages::andMore(first, paths.size() - 1);
+  return paths.size() == 1 ? visible(first) : messages::andMore(first, paths.size() - 1);
 }
 
 } // namespace imageposition

@@ -95,6 +95,11 @@ std::string jobNotTaken(const std::string &queue, const std::string &reason) {
               "printed.")
       .with(queue, because(reason));
 }
+std::string passwordExposed(const std::string &server) {
+  return text("The connection to CUPS at {1} is not encrypted: others on the network can read the "
+              "password on its way. To encrypt it, cancel and start print-dialog with -E.")
+      .with(server);
+}
 std::string noRoomToSend(const std::string &reason) {
   return text("This computer has no room to send the job{1}. Nothing was printed; close other "
               "programs and print again.")

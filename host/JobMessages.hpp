@@ -43,6 +43,8 @@ std::string spoolRefuses(const std::string &reason);
 extern const Text kDocumentBrokenOff;
 std::string connectionLost(const std::string &server, const std::string &reason);
 std::string jobNotTaken(const std::string &queue, const std::string &reason);
+/// Before a password is entered.
+std::string passwordExposed(const std::string &server);
 std::string noRoomToSend(const std::string &reason);
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job);
 extern const Text kSubmissionCancelled;

@@ -3,6 +3,8 @@
 #include "host/CustomValue.hpp"
 #include "host/ExitCode.hpp"
 #include "host/JobMessages.hpp"
+#include "host/SecretOptions.hpp"
+#include "host/VisibleText.hpp"
 
 #include <algorithm>
 #include <memory>
@@ -142,7 +144,8 @@ std::string valueText(ipp_attribute_t *attribute) {
 std::string attributeText(const JobRequest &request, ipp_attribute_t *attribute) {
   const std::string name = ippGetName(attribute);
   const ipp_tag_t type = ippGetValueTag(attribute);
-  const std::string value = isSecret(request, name.c_str()) ? kHiddenValue : valueText(attribute);
+  const std::string value =
+      isSecret(request, name.c_str()) ? kHiddenValue : visible(valueText(attribute));
   std::string text = groupName(ippGetGroupTag(attribute)) + " " + name + " (" + ippTagString(type) +
                      ") = " + value + "\n";
   if (type == IPP_TAG_BOOLEAN)
@@ -174,7 +177,7 @@ PrintSettingsStore optionsToSend(const JobRequest &request) {
 }
 
 bool isSecret(const JobRequest &request, const char *name) {
-  return contains(request.secrets, name);
+  return isSecretName(name) || contains(request.secrets, name);
 }
 
 bool hasCompound(const JobRequest &request, const PrintSettingsStore &options) {

@@ -26,7 +26,8 @@ struct JobRequest {
   std::optional<int> priority;          ///< 1 to 100; CUPS takes 50.
   std::optional<int> numberUp;          ///< Pages on one side: 1, 2, 4, 6, 9 or 16.
   std::string documentFormat;           ///< A MIME type; empty: CUPS finds out.
-  std::vector<std::string> secrets;     ///< Options whose values no text may show.
+  std::vector<std::string>
+      secrets; ///< Beside `isSecretName`, options whose values no text may show.
   /// Options of the PPD whose values can have parts, "{Width=3 Colour=red}". See `newJobRequest`.
   std::vector<std::string> compounds;
 };
@@ -47,11 +48,12 @@ ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &option
 /// Whether an option has such a value, so that cupsCreateDestJob would lose it.
 bool hasCompound(const JobRequest &request, const PrintSettingsStore &options);
 
+/// Whether no text may show the option's value.
 bool isSecret(const JobRequest &request, const char *name);
 
 /// The attributes of that request: a line "group name (type) = value" for each, in the order of
 /// sending. A boolean has a second line with the word that filters find among their options, its
-/// bare name or "no" and its name. The values of `secrets` are hidden, also from who gave them:
+/// bare name or "no" and its name. Secret values are hidden, also from who gave them:
 /// such texts are kept and passed on. Throws as `optionsToSend`.
 std::string writeRequestText(const JobRequest &request);
 

@@ -420,6 +420,10 @@ std::string ticketWritten(const std::string &path, const std::string &optionPath
 }
 const Text kOutputUnwritable = text("Standard output cannot be written. Send it elsewhere, or name "
                                     "a file with --ticket.");
+std::string jobSentUnsaid(const std::string &job) {
+  return text("CUPS has the job {1}, but standard output cannot be written; do not print it again.")
+      .with(job);
+}
 const Text kCancelled = text("Cancelled; nothing was written.");
 
 } // namespace imageposition::messages

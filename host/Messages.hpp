@@ -156,6 +156,7 @@ std::string valueAdjusted(const std::string &name, const std::string &typed,
 // What came out.
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
 extern const Text kOutputUnwritable;
+std::string jobSentUnsaid(const std::string &job);
 extern const Text kCancelled;
 
 } // namespace imageposition::messages

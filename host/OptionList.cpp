@@ -1,22 +1,16 @@
 #include "host/OptionList.hpp"
 
-#include <algorithm>
+#include "host/VisibleText.hpp"
 
 namespace imageposition {
 
 namespace {
 
-std::string onOneLine(std::string text) {
-  std::replace_if(
-      text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
-  return text;
-}
-
 /// What -o takes, but for what is nobody else's to read: lists are kept and passed on.
 std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {
   const bool isHidden =
       option.custom && option.custom->hasHidden() && isEnteredValue(choice.keyword);
-  return isHidden ? kHiddenValue : choice.keyword;
+  return isHidden ? kHiddenValue : visible(choice.keyword);
 }
 
 /// Also of a value that no window can ask for, since the PPD does not say within which limits.
@@ -31,13 +25,13 @@ std::string formFor(const PrinterOption &option) {
 std::string writeOptionList(const std::vector<OptionGroup> &groups) {
   std::string list;
   for (const OptionGroup &group : groups) {
-    list += onOneLine(group.text) + '\n';
+    list += visible(group.text) + '\n';
     for (const PrinterOption &option : group.options) {
-      list += "  " + option.keyword + ": " + onOneLine(option.text) + '\n';
+      list += "  " + option.keyword + ": " + visible(option.text) + '\n';
       const ChoiceSet chosen = option.chosenSet();
       for (const OptionChoice &choice : option.choices) {
         list += chosen.count(choice.keyword) != 0 ? "  * " : "    ";
-        list += wordFor(option, choice) + ": " + onOneLine(choice.text) + '\n';
+        list += wordFor(option, choice) + ": " + visible(choice.text) + '\n';
       }
       if (option.takesCustomValue)
         list += "    " + formFor(option) + '\n';

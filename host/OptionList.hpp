@@ -16,8 +16,8 @@ namespace imageposition {
 ///       * A4: A4
 ///         Letter: US Letter
 ///
-/// Keywords come first, as `-o` takes them, then the texts for people, of which line breaks are
-/// left out. "Custom.VALUE" stands for a value that can be given besides the choices. A star is
+/// Keywords come first, as `-o` takes them, then the texts for people; each is
+/// `visible`. "Custom.VALUE" stands for a value that can be given besides the choices. A star is
 /// before what is chosen.
 std::string writeOptionList(const std::vector<OptionGroup> &groups);
 

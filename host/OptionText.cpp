@@ -50,7 +50,7 @@ void readOptionArgument(const std::string &argument, PrintSettingsStore &setting
   if (outcome == PrintSettingsStore::Outcome::Locked)
     throw Failure(ExitCode::Usage, messages::optionLocked(name));
   if (outcome != PrintSettingsStore::Outcome::Stored)
-    throw Failure(ExitCode::Usage, messages::usage(messages::badOption(argument)));
+    throw Failure(ExitCode::Usage, messages::usage(messages::badOption(name)));
 }
 
 } // namespace imageposition

@@ -1,5 +1,6 @@
 #import "host/PasswordPanel.h"
 
+#include "host/JobMessages.hpp"
 #import "host/Labels.h"
 #import "host/MnemonicControls.h"
 #import "host/ModalPanel.h"
@@ -34,13 +35,20 @@ void addRow(ModalPanel &panel, NSTextField *title, CGFloat column, NSTextField *
   panel.add(field);
 }
 
+std::string questionFor(const std::string &printer, const PasswordRequest &request) {
+  const std::string question =
+      request.isAgain ? messages::wrongPassword(printer) : messages::passwordWanted(printer);
+  return request.exposedTo.empty()
+             ? question
+             : question + "\n\n" + messages::passwordExposed(request.exposedTo);
+}
+
 } // namespace
 
 std::optional<Credentials> askForPassword(NSWindow *parent, const std::string &printer,
                                           const PasswordRequest &request) {
-  NSTextField *const question = makeParagraph(request.isAgain ? messages::wrongPassword(printer)
-                                                              : messages::passwordWanted(printer),
-                                              kWidth - 2 * kPanelMargin);
+  NSTextField *const question =
+      makeParagraph(questionFor(printer, request), kWidth - 2 * kPanelMargin);
   NSTextField *const userTitle = makeTitle(messages::kUserRow);
   NSTextField *const passwordTitle = makeTitle(messages::kPasswordRow);
   NSTextField *const user = makeField<NSTextField>([NSTextField class], request.user);

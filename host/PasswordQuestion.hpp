@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <ostream>
 #include <string>
 
 namespace imageposition {
@@ -13,6 +14,8 @@ namespace imageposition {
 struct PasswordRequest {
   std::string user;     ///< Whom CUPS knows the person as.
   bool isAgain = false; ///< The last answer was wrong.
+  /// The server, where others could read the password on its way there; else empty.
+  std::string exposedTo = {};
 };
 
 struct Credentials {
@@ -40,6 +43,22 @@ private:
   PasswordCallback callback_;
   std::optional<Credentials> credentials_; ///< Of the last answer.
   http_t *connection_ = nullptr;           ///< Which had it.
+};
+
+/// While it lives, warns on `errors` before libcups asks on the terminal for a password that others
+/// could read on its way. For this thread, where no `PasswordQuestion` lives.
+class TerminalWarning {
+public:
+  explicit TerminalWarning(std::ostream &errors);
+  ~TerminalWarning();
+  TerminalWarning(const TerminalWarning &) = delete;
+  TerminalWarning &operator=(const TerminalWarning &) = delete;
+
+private:
+  static const char *ask(const char *prompt, http_t *, const char *, const char *, void *self);
+
+  std::ostream &errors_;
+  bool isSaid_ = false;
 };
 
 } // namespace imageposition

@@ -108,7 +108,10 @@ std::string misfitOf(ppd_file_t *ppd, const std::string &name, const std::string
                      bool isKept) {
   ppd_option_t *const option = ppdFindOption(ppd, name.c_str());
   if (option == nullptr)
-    return isKept || !hasCapital(name) ? "" : messages::misfitOption(name, value);
+    return isKept || !hasCapital(name)
+               ? ""
+               : messages::misfitOption(name,
+                                        isHiddenValue(ppd, name, value) ? kHiddenValue : value);
   if (isPlainChoice(*option, value))
     return {};
   const std::string text = *option->text != '\0' ? option->text : option->keyword;

@@ -206,7 +206,7 @@ std::vector<std::string> Presets::save(const std::string &name, const PrintSetti
     const cups_option_t &option = settings.options()[i];
     if (!isKept(option.name))
       continue;
-    if (ppd != nullptr && isHiddenValue(ppd, option.name, option.value))
+    if (isHiddenValue(ppd, option.name, option.value))
       lost.push_back(messages::presetKeepsNoPassword(option.name));
     else if (canBeHeld(option.value) && std::strchr(option.name, '#') == nullptr)
       held.set(option.name, option.value);

@@ -41,8 +41,8 @@ public:
   std::vector<PresetName> ofOtherPrinters() const;
 
   /// Adds the preset, or replaces it, under `usableName(name)`. Left out are settings that belong
-  /// to one document ("job-name", "page-ranges", ...), and passwords that were entered, which the
-  /// PPD tells; without one there are none. Answers a sentence for each setting that CUPS's file
+  /// to one document ("job-name", "page-ranges", ...), and what `isHiddenValue` says of `ppd`,
+  /// which may be null. Answers a sentence for each setting that CUPS's file
   /// cannot hold or should not, and that the preset therefore lacks.
   std::vector<std::string> save(const std::string &name, const PrintSettingsStore &settings,
                                 ppd_file_t *ppd = nullptr) const;

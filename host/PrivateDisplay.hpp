@@ -7,7 +7,8 @@ namespace imageposition {
 /// Whether DISPLAY names anything at all.
 bool isDisplayNamed();
 
-/// Starts an Xvfb of this process's own, waits until it answers, and names it in DISPLAY. It ends
+/// Starts an Xvfb of this process's own, waits until it answers, and names it in DISPLAY, and in
+/// XAUTHORITY what to say to it: other users' programs cannot connect. It ends
 /// when this process does and not before: the platform's connection to it is never closed, and
 /// losing it would end the process. Throws a `Failure` with `ExitCode::Display`.
 void startPrivateDisplay();

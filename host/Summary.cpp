@@ -1,13 +1,14 @@
 #include "host/Summary.hpp"
 
 #include "host/Messages.hpp"
+#include "host/VisibleText.hpp"
 
 namespace imageposition {
 
 std::string writeSummary(const std::vector<SummarySection> &sections) {
   std::string text;
   for (const SummarySection &section : sections) {
-    text += section.panelName + '\n';
+    text += visible(section.panelName) + '\n';
     for (const SummaryLine &line : section.lines)
       text += "  " + messages::summaryLine(line.title, line.value) + '\n';
     if (section.lines.empty())

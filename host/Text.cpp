@@ -1,6 +1,7 @@
 #include "host/Text.hpp"
 
 #include "host/Language.hpp"
+#include "host/VisibleText.hpp"
 
 #include <clocale>
 #include <cstring>
@@ -43,7 +44,7 @@ std::string fill(std::string_view pattern, const std::vector<std::string> &value
         mark.size() == 3 && mark[0] == '{' && mark[1] >= '1' && mark[1] <= '9' && mark[2] == '}';
     const auto index = isMark ? static_cast<std::size_t>(mark[1] - '1') : values.size();
     if (index < values.size()) {
-      filled += values[index];
+      filled += visible(values[index]);
       i += 2;
     } else {
       filled += pattern[i];

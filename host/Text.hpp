@@ -14,7 +14,8 @@
 namespace imageposition {
 
 /// `pattern` with each "{1}" as the first value, "{2}" as the second, and so on. A mark without a
-/// value stays as it is; marks in a value are not looked at.
+/// value stays as it is; marks in a value are not looked at. A value is
+/// written as `visible` does: names that others chose stay within their place and line.
 std::string fill(std::string_view pattern, const std::vector<std::string> &values);
 
 /// One text. It is looked up when it is used, and so can be a constant of a file.

@@ -22,11 +22,13 @@ using Json = nlohmann::ordered_json;
   throw Failure(ExitCode::Ticket, messages::ticketMalformed(source, reason));
 }
 
-/// What the library says without its own number for it.
+/// What the library says, without its own number for it and without what it last read, which may
+/// be a password.
 std::string reasonIn(const Json::exception &error) {
   const std::string text = error.what();
   const std::size_t end = text.find("] ");
-  return end == std::string::npos ? text : text.substr(end + 2);
+  const std::size_t start = end == std::string::npos ? 0 : end + 2;
+  return text.substr(start, text.find("; last read: ", start) - start);
 }
 
 std::string textMember(const Json &object, const char *name, const std::string &source) {

@@ -11,15 +11,19 @@
 #include "host/Messages.hpp"
 #include "host/OptionConflicts.hpp"
 #include "host/OptionList.hpp"
+#include "host/PasswordQuestion.hpp"
 #import "host/PlatformLanguage.h"
 #import "host/PlatformProcess.h"
 #import "host/Pool.h"
 #include "host/PrivateDisplay.hpp"
+#include "host/StandardDescriptors.hpp"
 #include "host/StartTexts.hpp"
 #include "host/Ticket.hpp"
+#include "host/VisibleText.hpp"
 #include "host/WindowTexts.hpp"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -89,12 +93,27 @@ ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
   return ExitCode::Done;
 }
 
+void requireOutput() {
+  if (!std::cout.flush())
+    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
+}
+
+/// A job that CUPS has is no failure, whatever becomes of the words about it: a script would print
+/// it again.
+void requireOutputUnlessSent(const DialogJob &job) {
+  if (job.sentName().empty())
+    requireOutput();
+  else if (!std::cout.flush())
+    std::cerr << messages::kProgram << messages::jobSentUnsaid(job.sentName()) << '\n';
+}
+
 ExitCode listOptions(DialogJob &job) {
   std::cout << writeOptionList(PrinterOptions(job.printer(), job.settings()).all());
   constexpr std::size_t kMostConflicts = 20;
   OptionConflicts conflicts(job.printer(), job.settings());
   for (const std::string &sentence : conflicts.sentences(kMostConflicts))
     std::cerr << messages::kProgram << sentence << '\n';
+  requireOutput();
   return ExitCode::Done;
 }
 
@@ -117,10 +136,12 @@ ExitCode run(const std::vector<std::string> &words) {
   const auto request = readCommandLine(words);
   if (const auto *answer = std::get_if<Answer>(&request)) {
     std::cout << answer->text;
+    requireOutput();
     return ExitCode::Done;
   }
   const Arguments &arguments = std::get<Arguments>(request);
   takeOverEnvironment(arguments);
+  const TerminalWarning warning(std::cerr);
   for (const std::string &path : arguments.documents)
     if (path != "-")
       checkDocument(path);
@@ -128,16 +149,16 @@ ExitCode run(const std::vector<std::string> &words) {
   if (arguments.isListingOptions)
     return listOptions(job);
   setPlatformDefaults();
-  return arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);
+  std::signal(SIGPIPE, SIG_IGN); // a reader that has gone must not end it amid a job
+  const ExitCode code = arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);
+  requireOutputUnlessSent(job);
+  return code;
 }
 
 ExitCode runInPool(const std::vector<std::string> &words) {
   const Pool pool;
   agreeOnLanguage();
-  const ExitCode code = run(words);
-  if (!std::cout.flush())
-    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
-  return code;
+  return run(words);
 }
 
 ExitCode runProgram(int argc, char **argv) {
@@ -157,5 +178,7 @@ ExitCode runProgram(int argc, char **argv) {
 } // namespace
 
 int main(int argc, char **argv) {
+  keepStandardDescriptors();
+  const VisibleStream output(std::cout), errors(std::cerr);
   return static_cast<int>(exitCodeOf([=] { return runProgram(argc, argv); }, std::cerr));
 }

@@ -20,4 +20,10 @@ TEST(DocumentNames, SeveralAreTheFirstAndACount) {
   EXPECT_EQ(documentsInWords({"-", "b.pdf"}), "standard input and 1 more");
 }
 
+TEST(DocumentNames, AreShownOnOneLineInTheDirectionTheyAreRead) {
+  EXPECT_EQ(documentsInWords({"a\n\xE2\x80\xAE"
+                              "fdp.exe"}),
+            "a\\n\\u202efdp.exe");
+}
+
 } // namespace

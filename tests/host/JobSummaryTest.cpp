@@ -52,6 +52,17 @@ TEST(JobSummary, ListsExactlyWhatADryRunSaysIsSent) {
   EXPECT_EQ(lineOf(section, "page-ranges").value, "1-3,7");
 }
 
+TEST(JobSummary, HidesPasswords) {
+  JobRequest request;
+  request.defaults.set("auth-info", "mary,hunter2");
+  request.settings.set("JOB-Password", "hunter2");
+  request.settings.set("job-authorization-uri", "urn:hunter2");
+  const SummarySection section = sentSection(request);
+  EXPECT_EQ(lineOf(section, "job-authorization-uri").value, "••••");
+  EXPECT_EQ(lineOf(section, "auth-info").value, "••••");
+  EXPECT_EQ(lineOf(section, "JOB-Password").value, "••••");
+}
+
 TEST(JobSummary, MarksOptionsThatDifferFromThePrintersDefaults) {
   auto printer = optionsPrinter();
   PrintSettingsStore job;

@@ -116,8 +116,9 @@ TEST_F(PanelLayout, TheQuestionForANameHasRoomForItsTexts) {
 
 TEST_F(PanelLayout, TheQuestionForAPasswordHasRoomForItsTexts) {
   askForPassword(parent_, "office", {"somebody", false});
+  askForPassword(parent_, "office", {"somebody", false, "print.example.com:631"});
   askForPassword(parent_, "the printer on the second floor beside the stairs", {"somebody", true});
-  EXPECT_EQ(visited(), 2);
+  EXPECT_EQ(visited(), 3);
 }
 
 TEST_F(PanelLayout, TheQuestionForAValueHasRoomForItsTexts) {

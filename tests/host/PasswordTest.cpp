@@ -1,56 +1,15 @@
-// A CUPS that wants a password. Whom it lets in is written in a file: its users would be the
-// machine's otherwise.
+// A CUPS that wants a password.
+#include "tests/host/AskingCups.hpp"
 #include "tests/host/WindowFixture.hpp"
-
-#include <arpa/inet.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace {
 
 using namespace imageposition::test;
 
-constexpr char kPolicies[] = "DefaultAuthType Basic\n<Policy asking>\n<Limit Create-Job>\nAuthType "
-                             "Basic\nRequire user somebody\n</Limit>\n"
-                             "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
-
-/// One that nobody listens on.
-std::string freePort() {
-  const int listener = socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  socklen_t size = sizeof address;
-  bind(listener, reinterpret_cast<sockaddr *>(&address), size);
-  getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
-  close(listener);
-  return std::to_string(ntohs(address.sin_port));
-}
-
-/// The names, passwords and services that the system knows, for programs that are started so.
-class KnownUsers {
-public:
-  KnownUsers() {
-    const std::string users = folder_.write("users", "somebody:open sesame:cups\n");
-    const std::string module = PAM_MATRIX " passdb=" + users + "\n";
-    folder_.write("services/cups", "auth required " + module + "account required " + module);
-  }
-  std::vector<std::string> environment() const {
-    return {"LD_PRELOAD=" PAM_WRAPPER, "PAM_WRAPPER=1",
-            "PAM_WRAPPER_SERVICE_DIR=" + folder_.path("services")};
-  }
-
-private:
-  TemporaryFolder folder_;
-};
-
 class PasswordWindow : public Window {
 protected:
   void SetUp() override {
-    addOfficeQueue(cups, {"-o", "printer-op-policy=asking"});
-    // On a socket the system tells CUPS who it is, and no password is wanted.
-    start({"-d", "office", sample("two-sided.pdf")},
-          {"CUPS_SERVER=" + address, "CUPS_SERVERROOT=" + cups.root()});
+    start({"-d", "office", sample("two-sided.pdf")}, cups.environment());
     press({"Return"});
   }
 
@@ -58,9 +17,7 @@ protected:
     return becomesTrue([] { return isFocused("Password"); });
   }
 
-  const std::string address = "127.0.0.1:" + freePort();
-  const KnownUsers users;
-  PrivateCups cups{"Listen " + address + "\n" + kPolicies, users.environment()};
+  const AskingCups cups{"127.0.0.1"};
 };
 
 TEST_F(PasswordWindow, CancelLeavesTheDialogOpenAndNothingPrinted) {
@@ -75,7 +32,7 @@ TEST_F(PasswordWindow, CancelLeavesTheDialogOpenAndNothingPrinted) {
   ASSERT_TRUE(says("ancelled; nothing was printed.\nCancelled"));
   press({"Escape"});
   EXPECT_EQ(ended().status, kCancelled) << testing::PrintToString(ended());
-  EXPECT_EQ(cups.run({"lpstat", "-W", "all", "-o"}).output, "");
+  EXPECT_EQ(cups.onSocket().run({"lpstat", "-W", "all", "-o"}).output, "");
 }
 
 TEST_F(PasswordWindow, TheRightNameAndPasswordPrint) {
@@ -87,7 +44,8 @@ TEST_F(PasswordWindow, TheRightNameAndPasswordPrint) {
   press({"Return"});
   EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
   EXPECT_THAT(ended().output, testing::HasSubstr("request id is office-"));
-  EXPECT_THAT(cups.run({"lpstat", "-W", "all", "-o"}).output, testing::HasSubstr("somebody"));
+  EXPECT_THAT(cups.onSocket().run({"lpstat", "-W", "all", "-o"}).output,
+              testing::HasSubstr("somebody"));
 }
 
 TEST_F(PasswordWindow, TheRightPasswordAfterAWrongOnePrints) {
@@ -101,7 +59,8 @@ TEST_F(PasswordWindow, TheRightPasswordAfterAWrongOnePrints) {
   type("open sesame"); // the name is still there
   press({"Return"});
   EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
-  EXPECT_THAT(cups.run({"lpstat", "-W", "all", "-o"}).output, testing::HasSubstr("office-"));
+  EXPECT_THAT(cups.onSocket().run({"lpstat", "-W", "all", "-o"}).output,
+              testing::HasSubstr("office-"));
 }
 
 TEST_F(PasswordWindow, AWrongPasswordIsAskedForAgain) {
@@ -114,6 +73,41 @@ TEST_F(PasswordWindow, AWrongPasswordIsAskedForAgain) {
   EXPECT_FALSE(dialogProcess->hasEnded());
   press({"Escape"});
   EXPECT_EQ(ended().status, kCancelled);
+}
+
+/// What print-dialog writes on a terminal where somebody types the password that libcups asks for
+/// there, since the printer's description is only for users that the CUPS at `host` knows.
+class PasswordOnATerminal : public DialogFixture {
+protected:
+  std::string terminal(const std::string &host) const {
+    const AskingCups cups(host, "Get-Printer-Attributes");
+    const std::string screen = folder.path("screen");
+    runProcess({"/bin/sh", "-c",
+                "{ until grep -q 'Password for' \"$0\"; do sleep 0.02; done; echo 'open sesame'; }"
+                " | script -qec '" PRINT_DIALOG " -d office -U somebody --list-options' /dev/null"
+                " >\"$0\"",
+                screen},
+               cups.environment());
+    return contentOf(screen);
+  }
+};
+
+TEST_F(PasswordOnATerminal, IsWarnedOfWhereItCanBeReadOnTheWay) {
+  const std::string said = terminal(networkAddress());
+  const std::size_t warning = said.find("not encrypted");
+  ASSERT_NE(warning, std::string::npos) << said;
+  EXPECT_LT(warning, said.find("Password for")) << said;
+  EXPECT_THAT(said, testing::HasSubstr(networkAddress()));
+  EXPECT_THAT(said, testing::HasSubstr("-E"));
+  EXPECT_EQ(said.find("not encrypted", warning + 1), std::string::npos) << said;
+  EXPECT_THAT(said, testing::HasSubstr("PageSize:")); // and the password is taken
+}
+
+TEST_F(PasswordOnATerminal, IsNotWarnedOfWhereItStaysOnTheMachine) {
+  const std::string said = terminal("127.0.0.1");
+  EXPECT_THAT(said, testing::HasSubstr("Password for"));
+  EXPECT_THAT(said, testing::Not(testing::HasSubstr("not encrypted")));
+  EXPECT_THAT(said, testing::HasSubstr("PageSize:"));
 }
 
 } // namespace

@@ -15,6 +15,7 @@ namespace {
 
 using namespace imageposition;
 using namespace imageposition::test;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -108,6 +109,26 @@ TEST_F(PresetsTest, WhatCupsCannotHoldIsNamed) {
   much.set("Fold", std::string(9000, 'Z'));
   EXPECT_THAT(failureOf([&] { presets.save("draft", much); }), HasSubstr("more settings"));
   EXPECT_EQ(file(), "Dest office/draft Fold=Z\n");
+}
+
+TEST_F(PresetsTest, PasswordsAreNotKeptAndNotRepeated) {
+  for (ppd_file_t *const ppd : {printer.ppd(), static_cast<ppd_file_t *>(nullptr)}) {
+    const auto lost = presets.save(
+        "draft",
+        settings({{"Auth-Info", "mary,hunter2"}, {"job-password", "hunter2#"}, {"Fold", "Z"}}),
+        ppd);
+    ASSERT_THAT(lost, SizeIs(2));
+    for (const std::string &sentence : lost)
+      EXPECT_THAT(sentence, AllOf(HasSubstr("password"), Not(HasSubstr("hunter2"))));
+    EXPECT_EQ(file(), "Dest office/draft Fold=Z\n");
+  }
+}
+
+TEST_F(PresetsTest, APasswordThatDoesNotFitIsNotRepeated) {
+  folder.write("home/.cups/lpoptions", "Dest attic/private Auth-Info=mary,hunter2\n");
+  const auto loaded = Presets::load(PresetName{"attic", "private"}, printer);
+  ASSERT_THAT(loaded.misfits, SizeIs(1));
+  EXPECT_THAT(loaded.misfits.front(), AllOf(HasSubstr("Auth-Info"), Not(HasSubstr("hunter2"))));
 }
 
 TEST_F(PresetsTest, NamesBecomeUsable) {

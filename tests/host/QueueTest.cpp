@@ -2,7 +2,12 @@
 #include "tests/host/DialogFixture.hpp"
 #include "tests/host/OfficeQueue.hpp"
 
+#include <chrono>
 #include <ctime>
+#include <filesystem>
+#include <set>
+#include <sstream>
+#include <thread>
 
 namespace {
 
@@ -146,6 +151,57 @@ TEST_F(Queue, AServerThatIsNamedServesTheWholeProgram) {
       {"CUPS_SERVER=/nonexistent/cups.sock"});
   EXPECT_NE(jobIn(result.output), 0) << testing::PrintToString(result);
   cups->run({"cancel", "-a", "-x"});
+}
+
+/// The sockets that a process has open, as the system numbers them.
+std::set<std::string> socketsOf(const std::string &process) {
+  std::set<std::string> numbers;
+  std::error_code gone;
+  for (const auto &entry : std::filesystem::directory_iterator("/proc/" + process + "/fd", gone)) {
+    const std::string target = std::filesystem::read_symlink(entry.path(), gone).string();
+    if (target.compare(0, 8, "socket:[") == 0)
+      numbers.insert(target.substr(8, target.size() - 9));
+  }
+  return numbers;
+}
+
+/// The display of the X server that the process has started; empty while there is none.
+std::string displayStartedBy(pid_t process) {
+  const std::string id = std::to_string(process), folder = ".X11-unix/X";
+  std::istringstream children(contentOf("/proc/" + id + "/task/" + id + "/children"));
+  for (std::string child; children >> child;) {
+    const auto sockets = socketsOf(child);
+    std::istringstream all(contentOf("/proc/net/unix"));
+    for (std::string line; std::getline(all, line);) {
+      std::istringstream words(line);
+      std::string number;
+      for (int column = 0; column < 7; column++)
+        words >> number;
+      const std::size_t at = line.find(folder);
+      if (at != std::string::npos && sockets.count(number) != 0)
+        return ":" + line.substr(at + folder.size());
+    }
+  }
+  return {};
+}
+
+TEST_F(Queue, ADisplayOfItsOwnIsNobodyElses) {
+  Words environment = cups->environment();
+  environment.emplace_back("DISPLAY");
+  // It waits for its document with the panel made.
+  Process waiting(
+      {"/bin/bash", "-c", "exec \"$0\" --batch -d office - < <(exec sleep 60)", PRINT_DIALOG},
+      environment);
+  std::string display;
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while ((display = displayStartedBy(waiting.id())).empty() && !waiting.hasEnded() &&
+         std::chrono::steady_clock::now() < deadline)
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  ASSERT_NE(display, "");
+  const auto other = runProcess({"xdotool", "getmouselocation"},
+                                {"DISPLAY=" + display, "XAUTHORITY", "HOME=" + folder.path()});
+  EXPECT_NE(other.status, 0) << testing::PrintToString(other);
+  EXPECT_FALSE(waiting.hasEnded()) << testing::PrintToString(waiting.wait());
 }
 
 } // namespace

@@ -30,6 +30,10 @@ TEST(Text, LeavesWhatIsNoMarkOfItsOwnAsItIs) {
 
 TEST(Text, DoesNotLookForMarksInValues) { EXPECT_EQ(fill("{1} {2}", {"{2}", "{1}"}), "{2} {1}"); }
 
+TEST(Text, KeepsAValueOnItsLineAndATerminalAsItIs) {
+  EXPECT_EQ(fill("the file \"{1}\"\n", {"a\n\x1b[2J"}), "the file \"a\\n\\x1b[2J\"\n");
+}
+
 struct SpokenText : testing::Test {
   ~SpokenText() override { speak("en", IMAGEPOSITION_CATALOGUES); }
 };
