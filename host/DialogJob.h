@@ -54,12 +54,15 @@ public:
 
   /// What there is to say when CUPS has taken it: lp's line for `output`, what is special for
   /// `notes`; nothing in silence.
-  void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) const;
+  void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
 
   /// Writes the ticket, or the settings to standard output. Throws a `Failure`.
-  void writeSettings() const;
+  void writeSettings();
   /// Writes a ticket of that path. Throws a `Failure`.
-  void writeSettings(const std::string &path) const;
+  void writeSettings(const std::string &path);
+
+  /// A sentence on what cannot be taken back, files written or a job sent; empty before.
+  const std::string &done() const noexcept { return done_; }
 
 private:
   void keepWhatFits(const PrinterDescription &before);
@@ -71,6 +74,7 @@ private:
   std::vector<std::string> plugins_;
   std::unique_ptr<PanelSession> panels_; // refers to the printer and the ticket
   bool isSubmitted_;
+  std::string done_;
 };
 
 } // namespace imageposition

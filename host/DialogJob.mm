@@ -165,28 +165,30 @@ JobRequest DialogJob::request() const {
   return request;
 }
 
-void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) const {
-  if (arguments_.isSilent || arguments_.isMailWanted)
-    return;
+void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
   const auto &paths = arguments_.documents;
   const auto inputs = std::count(paths.begin(), paths.end(), "-"); // lp counts files alone
-  output << messages::jobSent(request().printer, sent.id, paths.size() - inputs) << std::endl;
+  done_ = messages::jobSent(request().printer, sent.id, paths.size() - inputs);
+  if (arguments_.isSilent || arguments_.isMailWanted)
+    return;
+  output << done_ << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;
 }
 
-void DialogJob::writeSettings() const {
+void DialogJob::writeSettings() {
   if (arguments_.ticket.empty())
     std::cout << writeOptionText(ticket_.settings);
   else
     writeSettings(arguments_.ticket);
 }
 
-void DialogJob::writeSettings(const std::string &path) const {
+void DialogJob::writeSettings(const std::string &path) {
   const bool isSecret = !hiddenSettings(printer_->ppd(), ticket_.settings).empty();
   writeTicket(ticket_, path, isSecret ? Readers::OwnerAlone : Readers::Same);
+  done_ = messages::ticketWritten(path, optionTextPath(path));
   if (!arguments_.isSilent)
-    std::cerr << messages::ticketWritten(path, optionTextPath(path)) << '\n';
+    std::cerr << done_ << '\n';
 }
 
 } // namespace imageposition

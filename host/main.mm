@@ -19,6 +19,7 @@
 #include "host/WindowTexts.hpp"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -48,6 +49,12 @@ void takeOverEnvironment(const Arguments &arguments) {
   for (const auto &[name, value] : variables)
     if (!value.empty())
       setenv(name, value.c_str(), 1);
+}
+
+/// `done`: what the user has to know of when the output is lost.
+void flushOutput(const std::string &done) {
+  if (!std::cout.flush())
+    throw Failure(ExitCode::Ticket, messages::outputUnwritable(done));
 }
 
 /// What the window's Print does at its end.
@@ -125,15 +132,16 @@ ExitCode run(const std::vector<std::string> &words) {
   if (arguments.isListingOptions)
     return listOptions(job);
   setPlatformDefaults();
-  return arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);
+  const ExitCode code = arguments.isBatch ? runInBatch(arguments, job) : runInWindow(job);
+  flushOutput(job.done());
+  return code;
 }
 
 ExitCode runInPool(const std::vector<std::string> &words) {
   const Pool pool;
   agreeOnLanguage();
   const ExitCode code = run(words);
-  if (!std::cout.flush())
-    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
+  flushOutput("");
   return code;
 }
 
@@ -150,5 +158,8 @@ ExitCode runProgram(int argc, char **argv) {
 } // namespace
 
 int main(int argc, char **argv) {
+  // A write beyond the limit for files fails, then, instead of ending the program. Programs that it
+  // starts are ended as ever, since they do not inherit the handler.
+  std::signal(SIGXFSZ, [](int) {});
   return static_cast<int>(exitCodeOf([=] { return runProgram(argc, argv); }, std::cerr));
 }
