@@ -61,6 +61,7 @@ void checkAnyEntry(const std::string &text) {
     return check(store.optionCount() == 0, "a refused entry leaves nothing");
   checkSame(store.get(name), value, "what is stored is found");
   checkSameOptions(store, CupsOptions(imageposition::writeOptionText(store)));
+  check(imageposition::isOptionText(imageposition::writeOptionText(store)), "known again");
 }
 
 } // namespace

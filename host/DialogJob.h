@@ -60,9 +60,12 @@ public:
 
   /// Writes the ticket, or the settings to standard output: as they are for a program that reads
   /// them there, `visible` on a terminal. Throws a `Failure`.
-  void writeSettings() const;
+  void writeSettings();
   /// Writes a ticket of that path. Throws a `Failure`.
-  void writeSettings(const std::string &path) const;
+  void writeSettings(const std::string &path);
+
+  /// A sentence that names the files that `writeSettings` has written; empty before.
+  const std::string &done() const noexcept { return done_; }
 
 private:
   void keepWhatFits(const PrinterDescription &before);
@@ -75,6 +78,7 @@ private:
   std::unique_ptr<PanelSession> panels_; // refers to the printer and the ticket
   bool isSubmitted_;
   std::string sentName_;
+  std::string done_;
 };
 
 } // namespace imageposition

@@ -188,18 +188,19 @@ void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostr
     notes << sent.note << std::endl;
 }
 
-void DialogJob::writeSettings() const {
+void DialogJob::writeSettings() {
   if (arguments_.ticket.empty())
     writeToOutput(writeOptionText(ticket_.settings));
   else
     writeSettings(arguments_.ticket);
 }
 
-void DialogJob::writeSettings(const std::string &path) const {
+void DialogJob::writeSettings(const std::string &path) {
   const bool isSecret = !hiddenSettings(printer_->ppd(), ticket_.settings).empty();
   writeTicket(ticket_, path, isSecret ? Readers::OwnerAlone : Readers::Same);
+  done_ = messages::ticketWritten(path, optionTextPath(path));
   if (!arguments_.isSilent)
-    std::cerr << messages::ticketWritten(path, optionTextPath(path)) << '\n';
+    std::cerr << done_ << '\n';
 }
 
 } // namespace imageposition

@@ -1,5 +1,6 @@
 #include "host/DocumentStream.hpp"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
@@ -13,6 +14,15 @@ namespace {
 
 constexpr std::size_t kPiece = 65536;
 constexpr int kMillisecondsBetweenQuestions = 250;
+
+/// From where it stands to its end; 0 for a pipe.
+std::uint64_t bytesAhead(int descriptor) {
+  struct stat status {};
+  const off_t position = lseek(descriptor, 0, SEEK_CUR);
+  if (position < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
+    return 0;
+  return static_cast<std::uint64_t>(std::max<off_t>(status.st_size - position, 0));
+}
 
 [[noreturn]] void fail(int reason) { throw std::system_error(reason, std::generic_category()); }
 
@@ -37,6 +47,7 @@ DocumentStream::DocumentStream(const std::string &path)
     descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor_ < 0)
     fail(errno);
+  missing_ = bytesAhead(descriptor_);
 }
 
 DocumentStream::~DocumentStream() {
@@ -55,7 +66,9 @@ std::optional<std::string_view> DocumentStream::next(const std::function<bool()>
   while (count < 0 && errno == EINTR);
   if (count < 0)
     fail(errno);
-  return std::string_view(buffer_.data(), static_cast<std::size_t>(count));
+  const auto size = static_cast<std::size_t>(count);
+  missing_ -= std::min<std::uint64_t>(missing_, size);
+  return std::string_view(buffer_.data(), size);
 }
 
 } // namespace imageposition

@@ -28,10 +28,15 @@ public:
   /// not. Throws a `std::system_error`.
   std::optional<std::string_view> next(const std::function<bool()> &keepWaiting);
 
+  /// Bytes that a file had when it was opened and that have not come; at its end, those by which it
+  /// has shrunk. 0 for a pipe.
+  std::uint64_t missing() const noexcept { return missing_; }
+
 private:
   int descriptor_;
   bool isOwn_;
   std::vector<char> buffer_;
+  std::uint64_t missing_;
 };
 
 } // namespace imageposition

@@ -67,6 +67,12 @@ std::string optionRefused(const std::string &queue, const std::string &reason) {
 std::string documentEmpty(const std::string &name) {
   return text("The document \"{1}\" is empty. Choose one with pages in it.").with(name);
 }
+std::string documentShrank(const std::string &name) {
+  return text(
+             "The document \"{1}\" became shorter while it was sent. Nothing was printed; print it "
+             "again when it is complete.")
+      .with(name);
+}
 std::string documentNotRead(const std::string &name, const std::string &reason) {
   return text("The document \"{1}\" cannot be read{2}. Check the name and its rights; nothing was "
               "printed.")

@@ -37,6 +37,7 @@ std::string queueRefuses(const std::string &queue);
 std::string notAllowed(const std::string &queue, const std::string &reason);
 std::string optionRefused(const std::string &queue, const std::string &reason);
 std::string documentEmpty(const std::string &name);
+std::string documentShrank(const std::string &name);
 std::string documentNotRead(const std::string &name, const std::string &reason);
 std::string formatRefused(const std::string &name, const std::string &reason);
 std::string spoolRefuses(const std::string &reason);

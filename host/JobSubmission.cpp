@@ -276,6 +276,8 @@ void Submission::sendDocument(DocumentStream &document, std::string_view piece, 
     sendPiece(piece);
     piece = nextPiece(document);
   }
+  if (document.missing() > 0)
+    fail(JobProblem::Document, messages::documentShrank(nameOf(documentPath_)));
   if (!report())
     failCancelled();
   lastSign_ = Clock::now();

@@ -21,7 +21,7 @@ enum class JobProblem {
   RefusesJobs,    ///< The queue exists and takes none.
   Authentication, ///< A password is wanted, or this user may not print there.
   BadOption,      ///< CUPS does not take an option's value.
-  Document,       ///< The file cannot be read.
+  Document,       ///< The file cannot be read, or not all that it had.
   Format,         ///< CUPS cannot print this kind of file.
   Spool,          ///< The document is too large, the disk is full, or too many jobs wait.
   Cancelled,      ///< By the progress callback or `cancel`.

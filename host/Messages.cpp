@@ -224,21 +224,24 @@ std::string ticketValueNotText(const std::string &name) {
 std::string ticketEntryUnusable(const std::string &name) {
   return text("the setting \"{1}\" has a name or value that no print job can carry").with(name);
 }
-std::string ticketEntryRepeated(const std::string &name) {
-  return text("the setting \"{1}\" is locked and there twice").with(name);
+std::string ticketNameRepeated(const std::string &name) {
+  return text("\"{1}\" is there twice").with(name);
 }
 std::string ticketMemberNotList(const std::string &name) {
   return text("\"{1}\" is not a list of names").with(name);
 }
 const Text kTicketWithoutSettings = text("it has no object \"settings\"");
-std::string notAnOrdinaryFile(const std::string &path) {
-  return text("\"{1}\" is not an ordinary file, so that no ticket can stand there. Choose another "
-              "name.")
-      .with(path);
-}
 std::string fileUnwritable(const std::string &path, const std::string &reason) {
   return text("\"{1}\" cannot be written: {2}. Choose another place.").with(path, reason);
 }
+std::string fileWrittenAlready(const std::string &path) {
+  return text("\"{1}\" is written already.").with(path);
+}
+
+const Text kNotAnOrdinaryFile = text("it is not an ordinary file");
+const Text kLinkOfAnotherUser = text("it is a link that belongs to another user");
+const Text kNotWrittenByPrintDialog =
+    text("what is there was not written by print-dialog for this user");
 
 const Text kNoDisplay = text("There is no display, and no Xvfb could be started for the panel's "
                              "view. Set DISPLAY, or install "
@@ -418,11 +421,15 @@ std::string valueAdjusted(const std::string &name, const std::string &typed,
 std::string ticketWritten(const std::string &path, const std::string &optionPath) {
   return text("The job's settings are in {1} and {2}.").with(path, optionPath);
 }
-const Text kOutputUnwritable = text("Standard output cannot be written. Send it elsewhere, or name "
-                                    "a file with --ticket.");
 std::string jobSentUnsaid(const std::string &job) {
   return text("CUPS has the job {1}, but standard output cannot be written; do not print it again.")
       .with(job);
+}
+std::string outputUnwritable(const std::string &done) {
+  if (done.empty())
+    return text("Standard output cannot be written. Send it elsewhere, or name a file with "
+                "--ticket.");
+  return text("Standard output cannot be written. {1}").with(done);
 }
 const Text kCancelled = text("Cancelled; nothing was written.");
 

@@ -92,11 +92,16 @@ std::string ticketNotJson(const std::string &reason);
 std::string ticketMemberNotText(const std::string &name);
 std::string ticketValueNotText(const std::string &name);
 std::string ticketEntryUnusable(const std::string &name);
-std::string ticketEntryRepeated(const std::string &name);
+std::string ticketNameRepeated(const std::string &name);
 std::string ticketMemberNotList(const std::string &name);
 extern const Text kTicketWithoutSettings;
-std::string notAnOrdinaryFile(const std::string &path);
 std::string fileUnwritable(const std::string &path, const std::string &reason);
+std::string fileWrittenAlready(const std::string &path);
+
+// Why a file cannot be read or written, after its name.
+extern const Text kNotAnOrdinaryFile;
+extern const Text kLinkOfAnotherUser;
+extern const Text kNotWrittenByPrintDialog;
 
 // The display.
 extern const Text kNoDisplay;
@@ -155,8 +160,9 @@ std::string valueAdjusted(const std::string &name, const std::string &typed,
 
 // What came out.
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
-extern const Text kOutputUnwritable;
 std::string jobSentUnsaid(const std::string &job);
+/// `done`: in sentences, what cannot be taken back; may be empty.
+std::string outputUnwritable(const std::string &done);
 extern const Text kCancelled;
 
 } // namespace imageposition::messages

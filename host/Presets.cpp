@@ -12,12 +12,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
-#include <fstream>
 #include <pwd.h>
 #include <set>
-#include <sstream>
 #include <strings.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -66,18 +63,13 @@ std::string ownPath() {
 }
 
 std::string contentOf(const std::string &path) {
-  errno = 0;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) {
-    if (errno == ENOENT || errno == ENOTDIR)
+  try {
+    return contentOfFile(path).value_or("");
+  } catch (const FileTrouble &trouble) {
+    if (trouble.error() == ENOTDIR)
       return {};
-    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, systemReason(errno)));
+    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, trouble.what()));
   }
-  std::ostringstream content;
-  content << file.rdbuf();
-  if (file.bad() || errno == EISDIR)
-    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, systemReason(errno)));
-  return content.str();
 }
 
 /// Everybody's first: CUPS lays a person's own over them.
@@ -90,52 +82,57 @@ std::vector<DestinationFile::Entry> allEntries() {
   return entries;
 }
 
-[[noreturn]] void failToWrite(int reason) {
-  throw Failure(ExitCode::Printer,
-                messages::presetsUnwritable(ownPath(), systemReason(reason != 0 ? reason : EIO)));
+[[noreturn]] void failToWrite(const std::string &reason) {
+  throw Failure(ExitCode::Printer, messages::presetsUnwritable(ownPath(), reason));
 }
 
 /// Held by whoever changes the file, from reading it to having written it. A file of its own, since
 /// the one that it guards is replaced.
 class Lock {
 public:
-  Lock() {
-    const std::string folder = ownFolder();
-    if (!folder.empty())
-      mkdir(folder.c_str(), 0700); // what is wrong with it shows below
-    descriptor_ = open((ownPath() + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (descriptor_ < 0)
-      failToWrite(errno);
-    while (flock(descriptor_, LOCK_EX) != 0)
-      if (errno != EINTR) {
-        const int reason = errno;
-        close(descriptor_);
-        failToWrite(reason);
-      }
+  Lock() : file_(opened()) {
+    while (flock(file_.get(), LOCK_EX) != 0)
+      if (errno != EINTR)
+        failToWrite(systemReason(errno));
   }
-  ~Lock() { close(descriptor_); }
   Lock(const Lock &) = delete;
   Lock &operator=(const Lock &) = delete;
 
 private:
-  int descriptor_;
+  static Descriptor opened() {
+    const std::string folder = ownFolder();
+    if (!folder.empty())
+      mkdir(folder.c_str(), 0700); // what is wrong with it shows below
+    Descriptor file(open((ownPath() + ".lock").c_str(),
+                         O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
+    if (!file.isOpen())
+      failToWrite(systemReason(errno));
+    return file;
+  }
+
+  Descriptor file_;
 };
 
-/// Reads the file anew, changes it and writes it, with nobody between.
+/// Reads the file anew, changes it and writes it, with no print-dialog between. lpoptions(1) and
+/// CUPS's other programs do not know the lock: what they have written meanwhile is changed instead.
 template <typename Change> void changeFile(Change &&change) {
   const Lock lock;
-  const std::string before = contentOf(ownPath());
-  DestinationFile file(before);
-  change(file);
-  const std::string after = file.text();
-  if (after == before)
-    return;
-  errno = 0;
-  try {
-    FileReplacement replacement(ownPath(), after);
-    replacement.commit();
-  } catch (const Failure &) {
-    failToWrite(errno);
+  for (;;) {
+    const std::string before = contentOf(ownPath());
+    DestinationFile file(before);
+    change(file);
+    const std::string after = file.text();
+    if (after == before)
+      return;
+    try {
+      FileReplacement replacement(ownPath(), after);
+      if (contentOf(ownPath()) == before) {
+        replacement.commit();
+        return;
+      }
+    } catch (const FileTrouble &trouble) {
+      failToWrite(trouble.what());
+    }
   }
 }
 
@@ -208,7 +205,7 @@ std::vector<std::string> Presets::save(const std::string &name, const PrintSetti
       continue;
     if (isHiddenValue(ppd, option.name, option.value))
       lost.push_back(messages::presetKeepsNoPassword(option.name));
-    else if (canBeHeld(option.value) && std::strchr(option.name, '#') == nullptr)
+    else if (canBeHeld(option.value))
       held.set(option.name, option.value);
     else
       lost.push_back(messages::presetCannotHold(option.name, option.value));

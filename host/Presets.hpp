@@ -28,8 +28,10 @@ struct LoadedPreset {
 ///
 /// The file is changed here and not through `cupsSetDests2`, which empties it before it writes,
 /// drops the presets of printers that are away for the moment, and copies everybody's settings into
-/// it. No server is asked. Several programs may save at once. Operations throw a `Failure` with
-/// `ExitCode::Printer` when the file cannot be read or written, and the file is then as it was.
+/// it. No server is asked. Several print-dialogs may save at once;
+/// what lpoptions(1) writes meanwhile is kept but for a moment in which neither can know.
+/// Operations throw a `Failure` with `ExitCode::Printer` when the file cannot be read or written,
+/// and the file is then as it was.
 class Presets {
 public:
   /// The queue's name; an instance behind it ("queue/instance") is cut off.

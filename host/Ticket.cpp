@@ -6,17 +6,17 @@
 
 #include <nlohmann/json.hpp>
 
-#include <cerrno>
-#include <filesystem>
-#include <fstream>
+#include <algorithm>
 #include <set>
-#include <sstream>
+#include <strings.h>
+#include <utility>
 
 namespace imageposition {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+using Json = nlohmann::json;
+using OrderedJson = nlohmann::ordered_json; // looks through an object for each name
 
 [[noreturn]] void refuse(const std::string &source, const std::string &reason) {
   throw Failure(ExitCode::Ticket, messages::ticketMalformed(source, reason));
@@ -64,31 +64,93 @@ std::string valueText(const std::string &name, const Json &value, const std::str
   refuse(source, messages::ticketValueNotText(name));
 }
 
+using Member = std::pair<std::string, const Json *>;
+
+/// In the order of CUPS's list, in which each new entry is the last: CUPS moves all that follow
+/// one.
+std::vector<Member> inOrderOfCups(const Json &object) {
+  std::vector<Member> members;
+  for (const auto &[name, value] : object.items())
+    members.emplace_back(name, &value);
+  std::stable_sort(members.begin(), members.end(), [](const Member &left, const Member &right) {
+    return strcasecmp(left.first.c_str(), right.first.c_str()) < 0;
+  });
+  return members;
+}
+
 void readSettings(const Json &object, const std::string &source, PrintSettingsStore &settings) {
   const auto member = object.find("settings");
   if (member == object.end() || !member->is_object())
     refuse(source, messages::kTicketWithoutSettings);
   const std::vector<std::string> names = listMember(object, "locked", source);
   const std::set<std::string> locked(names.begin(), names.end());
-  for (const auto &[name, value] : member->items()) {
+  for (const auto &[name, value] : inOrderOfCups(*member)) {
+    const int before = settings.optionCount();
     const auto outcome =
-        settings.set(name, valueText(name, value, source), locked.count(name) != 0);
-    if (outcome == PrintSettingsStore::Outcome::Locked)
-      refuse(source, messages::ticketEntryRepeated(name));
-    if (outcome != PrintSettingsStore::Outcome::Stored)
+        settings.set(name, valueText(name, *value, source), locked.count(name) != 0);
+    const bool isStored = outcome == PrintSettingsStore::Outcome::Stored;
+    if (outcome == PrintSettingsStore::Outcome::Locked ||
+        (isStored && settings.optionCount() == before))
+      refuse(source, messages::ticketNameRepeated(name));
+    if (!isStored)
       refuse(source, messages::ticketEntryUnusable(name));
   }
+}
+
+/// Finds names that stand twice in an object, of which the library would silently take the last.
+class NameCheck {
+public:
+  explicit NameCheck(const std::string &source) : source_(source) {}
+
+  void look(Json::parse_event_t event, const Json &value) {
+    if (event == Json::parse_event_t::object_start)
+      objects_.emplace_back();
+    else if (event == Json::parse_event_t::object_end)
+      objects_.pop_back();
+    else if (event == Json::parse_event_t::key &&
+             !objects_.back().insert(value.get<std::string>()).second)
+      refuse(source_, messages::ticketNameRepeated(value.get<std::string>()));
+  }
+
+private:
+  const std::string &source_;
+  std::vector<std::set<std::string>> objects_; // the names of those that are open
+};
+
+Json parsed(const std::string &json, const std::string &source) try {
+  NameCheck check(source);
+  return Json::parse(json, [&](int, Json::parse_event_t event, Json &value) {
+    check.look(event, value);
+    return true;
+  });
+} catch (const Json::exception &error) {
+  refuse(source, messages::ticketNotJson(reasonIn(error)));
+}
+
+/// What `act` returns; what stands in the way of writing the file becomes a `Failure`.
+template <typename Act> auto writing(const std::string &path, Act &&act) {
+  try {
+    return act();
+  } catch (const FileTrouble &trouble) {
+    throw Failure(ExitCode::Ticket, messages::fileUnwritable(path, trouble.what()));
+  }
+}
+
+FileReplacement ticketFile(const std::string &path, const std::string &text, Readers readers) {
+  return writing(path, [&] { return FileReplacement(path, text, readers); });
+}
+
+/// Nobody has named it, so that nothing of the user's may be lost by it.
+FileReplacement optionFile(const std::string &ticketPath, const std::string &text,
+                           Readers readers) {
+  const std::string path = optionTextPath(ticketPath);
+  return writing(path, [&] { return FileReplacement(path, text, readers, isOptionText); });
 }
 
 } // namespace
 
 Ticket readTicketText(const std::string &json, const std::string &source) {
-  Json object;
-  try {
-    object = Json::parse(json);
-  } catch (const Json::exception &error) {
-    refuse(source, messages::ticketNotJson(reasonIn(error)));
-  }
+  const Json object = parsed(json, source);
   if (!object.is_object())
     refuse(source, messages::kTicketWithoutSettings);
   Ticket ticket;
@@ -102,58 +164,57 @@ Ticket readTicketText(const std::string &json, const std::string &source) {
 }
 
 std::string writeTicketText(const Ticket &ticket) {
-  Json object = Json::object();
+  OrderedJson object = OrderedJson::object();
   object["printer"] = ticket.printer;
   if (ticket.documents.size() == 1)
     object["document"] = ticket.documents.front();
   if (ticket.documents.size() > 1)
     object["documents"] = ticket.documents;
-  Json settings = Json::object();
-  Json locked = Json::array();
+  OrderedJson::object_t settings;
+  OrderedJson locked = OrderedJson::array();
   for (int i = 0; i < ticket.settings.optionCount(); i++) {
     const cups_option_t &option = ticket.settings.options()[i];
-    settings[option.name] = option.value;
+    settings.emplace_back(option.name, option.value);
     if (ticket.settings.isLocked(option.name))
       locked.push_back(option.name);
   }
   if (!locked.empty())
     object["locked"] = locked;
-  object["settings"] = settings;
+  object["settings"] = std::move(settings);
   // A printer's or file's name may be in any encoding; the settings are always UTF-8.
-  return object.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+  return object.dump(2, ' ', false, OrderedJson::error_handler_t::replace) + '\n';
 }
 
 std::optional<Ticket> readTicket(const std::string &path) {
-  std::error_code ignored;
-  const auto kind = std::filesystem::status(path, ignored).type();
-  using Type = std::filesystem::file_type;
-  if (kind == Type::fifo || kind == Type::socket || kind == Type::character || kind == Type::block)
-    throw Failure(ExitCode::Ticket, messages::notAnOrdinaryFile(path)); // reading may never end
-  errno = 0;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) {
-    if (errno == ENOENT)
-      return std::nullopt;
-    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, systemReason(errno)));
+  std::optional<std::string> content;
+  try {
+    content = contentOfFile(path);
+  } catch (const FileTrouble &trouble) {
+    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, trouble.what()));
   }
-  std::ostringstream content;
-  errno = 0;
-  content << file.rdbuf();
-  if (file.bad() || errno == EISDIR)
-    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, systemReason(errno)));
-  return readTicketText(content.str(), path);
+  if (!content)
+    return std::nullopt;
+  return readTicketText(*content, path);
 }
 
 void writeTicket(const Ticket &ticket, const std::string &path, Readers readers) {
-  FileReplacement json(path, writeTicketText(ticket), readers);
-  FileReplacement options(optionTextPath(path), writeOptionText(ticket.settings), readers);
-  options.commit();
-  json.commit(); // last: it is what is read again
+  FileReplacement json = ticketFile(path, writeTicketText(ticket), readers);
+  FileReplacement options = optionFile(path, writeOptionText(ticket.settings), readers);
+  options.keepFormer();
+  writing(optionTextPath(path), [&] { options.commit(); });
+  try {
+    json.commit(); // last: it is what is read again
+  } catch (const FileTrouble &trouble) {
+    std::string message = messages::fileUnwritable(path, trouble.what());
+    if (!options.revert())
+      message += " " + messages::fileWrittenAlready(optionTextPath(path));
+    throw Failure(ExitCode::Ticket, message);
+  }
 }
 
 void checkTicketPlace(const std::string &path) {
-  for (const std::string &name : {path, optionTextPath(path)})
-    FileReplacement(name, "");
+  ticketFile(path, "", Readers::Same);
+  optionFile(path, "", Readers::Same);
 }
 
 std::string optionTextPath(const std::string &ticketPath) {

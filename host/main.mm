@@ -55,6 +55,7 @@ void takeOverEnvironment(const Arguments &arguments) {
       setenv(name, value.c_str(), 1);
 }
 
+/// `done`: what the user has to know of when the output is lost.
 /// What the window's Print does at its end.
 void finish(DialogJob &job) {
   if (!job.isSubmitted()) {
@@ -93,16 +94,17 @@ ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
   return ExitCode::Done;
 }
 
-void requireOutput() {
+/// `done`: what has been written elsewhere, in a sentence; may be empty.
+void requireOutput(const std::string &done = {}) {
   if (!std::cout.flush())
-    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
+    throw Failure(ExitCode::Ticket, messages::outputUnwritable(done));
 }
 
 /// A job that CUPS has is no failure, whatever becomes of the words about it: a script would print
 /// it again.
 void requireOutputUnlessSent(const DialogJob &job) {
   if (job.sentName().empty())
-    requireOutput();
+    requireOutput(job.done());
   else if (!std::cout.flush())
     std::cerr << messages::kProgram << messages::jobSentUnsaid(job.sentName()) << '\n';
 }
@@ -180,5 +182,8 @@ ExitCode runProgram(int argc, char **argv) {
 int main(int argc, char **argv) {
   keepStandardDescriptors();
   const VisibleStream output(std::cout), errors(std::cerr);
+  // A write beyond the limit for files fails, then, instead of ending the program. Programs that it
+  // starts are ended as ever, since they do not inherit the handler.
+  std::signal(SIGXFSZ, [](int) {});
   return static_cast<int>(exitCodeOf([=] { return runProgram(argc, argv); }, std::cerr));
 }

@@ -70,16 +70,23 @@ PrintSettingsStore::PrintSettingsStore(const PrintSettingsStore &other) { copyFr
 // cppcheck-suppress operatorEqVarError ; an observer stays with its object
 PrintSettingsStore &PrintSettingsStore::operator=(const PrintSettingsStore &other) {
   if (this != &other) {
-    cupsFreeOptions(count_, options_);
-    options_ = nullptr;
-    count_ = 0;
+    clear();
     copyFrom(other);
     tell();
   }
   return *this;
 }
 
-PrintSettingsStore::~PrintSettingsStore() { cupsFreeOptions(count_, options_); }
+PrintSettingsStore::~PrintSettingsStore() { clear(); }
+
+// CUPS keeps every string in one sorted table and closes the gap that each leaves: from the last to
+// the first, there is little behind it to move.
+void PrintSettingsStore::clear() {
+  std::reverse(options_, options_ + count_);
+  cupsFreeOptions(count_, options_);
+  options_ = nullptr;
+  count_ = 0;
+}
 
 void PrintSettingsStore::copyFrom(const PrintSettingsStore &other) {
   for (int i = 0; i < other.count_; i++)
@@ -111,7 +118,9 @@ PrintSettingsStore::Outcome PrintSettingsStore::set(std::string_view name, std::
   if (isLocked(name) || isLocked(displacedName(name)))
     return Outcome::Locked;
   const std::string nameText(name);
-  take(std::string(displacedName(name)));
+  const std::string_view displaced = displacedName(name);
+  if (!displaced.empty()) // CUPS looks through the whole list
+    take(std::string(displaced));
   count_ = cupsAddOption(nameText.c_str(), std::string(value).c_str(), count_, &options_);
   if (locked)
     locked_.insert(nameText);
@@ -138,7 +147,7 @@ bool PrintSettingsStore::isLocked(std::string_view name) const {
 }
 
 bool PrintSettingsStore::isUsableName(std::string_view name) noexcept {
-  constexpr std::string_view kMeaningful = "=\"'{}\\,";
+  constexpr std::string_view kMeaningful = "=\"'{}\\,$`;&|<>()*?[]~#!^/";
   return !name.empty() && name.size() <= kLongestName &&
          std::all_of(name.begin(), name.end(), [=](char c) {
            return c > ' ' && c < '\x7F' && kMeaningful.find(c) == std::string_view::npos;

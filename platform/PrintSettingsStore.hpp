@@ -57,7 +57,8 @@ public:
   int optionCount() const noexcept { return count_; }
 
   /// Printable ASCII without what CUPS's text form of options gives a meaning ("=", quotes, braces,
-  /// backslash, comma), not empty, not too long.
+  /// backslash, comma) or a shell does, since the text form has no quotes for a name; not empty,
+  /// not too long. The names of IPP's attributes and of printer descriptions' options are usable.
   static bool isUsableName(std::string_view name) noexcept;
   /// Well-formed UTF-8 without NUL, at which CUPS would cut it, and not too long. Empty is usable.
   static bool isUsableValue(std::string_view value) noexcept;
@@ -67,6 +68,7 @@ private:
     bool operator()(const std::string &left, const std::string &right) const noexcept;
   };
 
+  void clear();
   void copyFrom(const PrintSettingsStore &other);
   void take(const std::string &name);
   void tell() const;

@@ -1,8 +1,11 @@
 // Programs that are killed, or whose disk fails, at each step of writing a file.
 #include "tests/host/DialogFixture.hpp"
 
+#include <chrono>
 #include <csignal>
+#include <functional>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -12,11 +15,19 @@ using testing::AnyOf;
 using testing::HasSubstr;
 
 /// What changes anything on the disk, one kind after the other: strace counts each kind for itself.
-constexpr const char *kCalls[] = {"write", "fsync",  "fchmod", "rename",
-                                  "flock", "unlink", "mkdir",  "ftruncate"};
+/// A slash begins a pattern: calls have variants.
+constexpr const char *kCalls[] = {"write",    "fsync", "fchmod",  "/^rename", "/^link",
+                                  "/^unlink", "flock", "/^mkdir", "ftruncate"};
 
 class DisturbedWrite : public DialogFixture {
 protected:
+  static bool becomesTrue(const std::function<bool()> &condition) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+    while (!condition() && std::chrono::steady_clock::now() < deadline)
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return condition();
+  }
+
   /// As it was, as it is to be.
   struct File {
     std::string path;
@@ -44,21 +55,30 @@ protected:
                const Words &environment, const std::vector<File> &files) {
     for (const File &file : files)
       writeFile(file.path, file.before);
-    // A leak checker, in a build that has one, cannot look at a program that is traced.
-    Words words{"strace", "-qq",
-                "-E",     "LSAN_OPTIONS=detect_leaks=0",
-                "-o",     folder.path("trace"),
-                "-e",     "trace=" + call,
-                "-e",     "inject=" + call + ":" + how + ":when=" + std::to_string(count)};
-    words.insert(words.end(), program.begin(), program.end());
-    const auto result = runProcess(words, environment);
+    const auto result =
+        runProcess(disturbed(call, how, std::to_string(count), program), environment);
     for (const File &file : files)
       EXPECT_THAT(contentOf(file.path), AnyOf(file.before, file.after))
           << call << " " << count << ": " << file.path;
-    const std::string trace = contentOf(folder.path("trace"));
     expectClear(result, count);
-    return trace.find("INJECTED") != std::string::npos ||
-           trace.find("killed by SIGKILL") != std::string::npos;
+    return traceHas("INJECTED") || traceHas("killed by SIGKILL");
+  }
+
+  /// `when`: the count of the call, and "+" behind it for all that follow, too.
+  Words disturbed(const std::string &call, const std::string &how, const std::string &when,
+                  const Words &program) const {
+    // A leak checker, in a build that has one, cannot look at a program that is traced.
+    Words words{"strace", "-qq",
+                "-E",     "LSAN_OPTIONS=detect_leaks=0",
+                "-o",     trace,
+                "-e",     "trace=" + call,
+                "-e",     "inject=" + call + ":" + how + ":when=" + when};
+    words.insert(words.end(), program.begin(), program.end());
+    return words;
+  }
+
+  bool traceHas(const std::string &words) const {
+    return contentOf(trace).find(words) != std::string::npos;
   }
 
   static void expectClear(const ProcessResult &result, int call) {
@@ -90,6 +110,7 @@ protected:
   }
   const Words presetWriter{PRESET_WRITER, "office", "other", "Duplex=DuplexNoTumble"};
   const std::string ticket = folder.path("job.json");
+  const std::string trace = folder.path("trace");
 };
 
 TEST_F(DisturbedWrite, KillingTheProgramAtAnyMomentLeavesTicketsWhole) {
@@ -122,6 +143,51 @@ TEST_F(DisturbedWrite, ADiskThatIsFullOrFailsAtAnyStepLosesNoPreset) {
                           presetFiles()),
               7);
   }
+}
+
+TEST_F(DisturbedWrite, WhenTheTicketCannotTakeItsPlaceItsOptionsStayAsTheyWere) {
+  for (const File &file : ticketFiles())
+    writeFile(file.path, file.before);
+  const auto result = runProcess(disturbed("/^rename", "error=EIO", "2", ticketWriter()));
+  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
+  for (const File &file : ticketFiles())
+    EXPECT_EQ(contentOf(file.path), file.before) << file.path;
+  EXPECT_EQ(folder.fileCount(), 3U) << "more than these and the trace";
+}
+
+TEST_F(DisturbedWrite, WhenANewTicketCannotTakeItsPlaceThereAreNoOptionsEither) {
+  const auto result = runProcess(disturbed("/^rename", "error=EIO", "2", ticketWriter()));
+  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
+  EXPECT_EQ(folder.fileCount(), 1U) << "more than the trace";
+}
+
+TEST_F(DisturbedWrite, OptionsThatCannotBeTakenBackAreNamed) {
+  for (const File &file : ticketFiles())
+    writeFile(file.path, file.before);
+  const auto result = runProcess(disturbed("/^rename", "error=EIO", "2+", ticketWriter()));
+  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, HasSubstr(ticket));
+  EXPECT_THAT(result.errors, HasSubstr(folder.path("job.options")));
+}
+
+/// The program that strace runs.
+pid_t programUnder(const Process &strace) {
+  const std::string id = std::to_string(strace.id());
+  return std::stoi(contentOf("/proc/" + id + "/task/" + id + "/children"));
+}
+
+// lpoptions(1) reads the file, and writes it anew, whenever it likes.
+TEST_F(DisturbedWrite, WhatAnotherProgramWritesWhileAPresetIsSavedIsKept) {
+  const File file = presetFiles().front();
+  writeFile(file.path, file.before);
+  Process saving(disturbed("fsync", "signal=SIGSTOP", "1", presetWriter), presetEnvironment());
+  ASSERT_TRUE(becomesTrue([&] { return traceHas("stopped by SIGSTOP") || saving.hasEnded(); }));
+  const std::string theirs = "Dest office/theirs Fold=Z\n";
+  writeFile(file.path, file.before + theirs);
+  kill(programUnder(saving), SIGCONT);
+  EXPECT_EQ(saving.wait().status, kDone) << testing::PrintToString(saving.wait());
+  EXPECT_EQ(contentOf(file.path),
+            file.before + theirs + "Dest office/other Duplex=DuplexNoTumble\n");
 }
 
 /// Without the rights over all files that root has.

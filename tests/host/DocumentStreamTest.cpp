@@ -69,6 +69,27 @@ TEST_P(LargeDocument, OnStandardInputIsCountedAndReadToItsEnd) {
   EXPECT_EQ(readFrom(stream), "");
 }
 
+TEST(DocumentStream, CountsWhatAFileLostSinceItWasOpened) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("a.txt", "text");
+  DocumentStream stream(path), whole(path);
+  EXPECT_EQ(readFrom(whole), "text");
+  EXPECT_EQ(whole.missing(), 0u);
+  std::filesystem::resize_file(path, 1);
+  EXPECT_EQ(readFrom(stream), "t");
+  EXPECT_EQ(readFrom(stream), "");
+  EXPECT_EQ(stream.missing(), 3u);
+}
+
+TEST(DocumentStream, OnStandardInputCountsFromWhereItStands) {
+  const TemporaryFolder folder;
+  const InputFrom input(folder.write("a.txt", "text"));
+  ASSERT_EQ(lseek(STDIN_FILENO, 3, SEEK_SET), 3);
+  DocumentStream stream("-");
+  EXPECT_EQ(readFrom(stream), "t");
+  EXPECT_EQ(stream.missing(), 0u);
+}
+
 // 2045, which 32 bits of seconds do not reach.
 TEST(DocumentStream, ADocumentThatIsLaterThanASystemsOwnTimesIsCountedAndRead) {
   const TemporaryFolder folder;

@@ -321,6 +321,32 @@ TEST_F(Job, CancelledHalfWayLeavesNothingThatPrints) {
   EXPECT_EQ(printedCount(), 1);
 }
 
+TEST_F(Job, WhoseDocumentShrinksWhileItIsSentIsRefusedAndNeverPrinted) {
+  const std::string path = document(8 << 20);
+  const SubmissionFailure failure = refusal(requestFor(), path, [&](const JobProgress &progress) {
+    if (progress.sent > 1 << 20)
+      std::filesystem::resize_file(path, 2 << 20);
+    return true;
+  });
+  EXPECT_EQ(failure.problem(), JobProblem::Document) << failure.what();
+  EXPECT_EQ(failure.code(), ExitCode::Usage);
+  EXPECT_THAT(failure.what(), AllOf(HasSubstr(path), HasSubstr("shorter")));
+  EXPECT_THAT(waitingJobs(), IsEmpty());
+  const SubmittedJob next = submitJob(requestFor(), {document()});
+  printed(next.id);
+  EXPECT_EQ(printedCount(), 1);
+}
+
+TEST_F(Job, WhoseDocumentGrowsWhileItIsSentPrintsAllOfIt) {
+  const std::string path = document(4 << 20);
+  const SubmittedJob job = submitJob(requestFor(), {path}, [&](const JobProgress &progress) {
+    if (progress.sent > 1 << 20)
+      std::filesystem::resize_file(path, 5 << 20);
+    return true;
+  });
+  EXPECT_EQ(printed(job.id).bytes, 5u << 20);
+}
+
 TEST_F(Job, CancelledBeforeTheFirstByteIsNotCreated) {
   const int before = submitJob(requestFor(), {document()}).id;
   refusal(requestFor(), document(), [](const JobProgress &) { return false; });

@@ -9,8 +9,10 @@ namespace {
 
 using imageposition::ExitCode;
 using imageposition::Failure;
+using imageposition::isOptionText;
 using imageposition::PrintSettingsStore;
 using imageposition::readOptionArgument;
+using imageposition::writeOptionArgument;
 using imageposition::writeOptionText;
 using testing::StrEq;
 
@@ -66,6 +68,32 @@ TEST(OptionText, IsReadBackByCupsWhateverTheValues) {
     all.set("key" + std::to_string(number++), value);
   }
   EXPECT_EQ(writeOptionText(parsedByCups(writeOptionText(all))), writeOptionText(all));
+}
+
+TEST(OptionText, WhatAShellWouldActOnStandsInQuotes) {
+  EXPECT_EQ(writeOptionArgument("A", "$(x)"), "A=\"\\$(x)\"");
+  EXPECT_EQ(writeOptionArgument("A", "`x`"), "A=\"\\`x\\`\"");
+  for (const char *value : {"a;b", "a&b", "a|b", "a>b", "~", "*", "a#b", "!"})
+    EXPECT_EQ(writeOptionArgument("A", value), "A=\"" + std::string(value) + "\"");
+  for (const char *value : {"-3", "Custom.10.5mm", "a_b", "12:30", "50%", "a=b", "\xE5\xB7\xA6"})
+    EXPECT_EQ(writeOptionArgument("A", value), "A=" + std::string(value));
+}
+
+TEST(OptionText, IsKnownAgain) {
+  PrintSettingsStore store;
+  EXPECT_TRUE(isOptionText(writeOptionText(store)));
+  int number = 0;
+  for (const char *value :
+       {"", "-3", "a b", "line\nbreak=\n", "\"", "\\", "\\\"", "$x", "`", "{a=b}"})
+    store.set("key" + std::to_string(number++), value);
+  EXPECT_TRUE(isOptionText(writeOptionText(store)));
+}
+
+TEST(OptionText, AnotherTextIsNotTakenForIt) {
+  for (const char *text :
+       {"\n", "a", "a\n", "a=1", "=1\n", "a=\n", "a=\"1\n", "a=\"1\"2\n", "a=1 b=2\n", "a=1\n\n",
+        "# a=1\n", "export a=1\n", "a=$x\n", "a=\"\\", "a=1\nb", "a;b=1\n"})
+    EXPECT_FALSE(isOptionText(text)) << text;
 }
 
 TEST(OptionText, AnArgumentIsReadAsLpReadsIt) {

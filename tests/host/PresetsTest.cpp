@@ -245,6 +245,20 @@ TEST_F(PresetsTest, AFileThatCannotBeWrittenIsNamedAndStays) {
               HasSubstr("cannot be changed"));
 }
 
+TEST_F(PresetsTest, ALinkThatLeadsToNoFileIsNamedWithItsReason) {
+  folder.write("home/.cups/.keep", "");
+  std::filesystem::create_symlink("/dev/null", folder.path("home/.cups/lpoptions"));
+  EXPECT_THAT(failureOf([&] { presets.save("draft", PrintSettingsStore()); }, ExitCode::Printer),
+              testing::AllOf(HasSubstr("home/.cups/lpoptions"), HasSubstr("not an ordinary file")));
+}
+
+TEST_F(PresetsTest, APipeInTheirPlaceIsNamedAndNotWaitedFor) {
+  folder.write("home/.cups/.keep", "");
+  ASSERT_EQ(mkfifo(folder.path("home/.cups/lpoptions").c_str(), 0600), 0);
+  EXPECT_THAT(failureOf([&] { presets.names(); }, ExitCode::Printer),
+              HasSubstr("home/.cups/lpoptions"));
+}
+
 TEST_F(PresetsTest, ManyWhoSaveAtOnceLoseNothing) {
   constexpr int kWriters = 6;
   constexpr int kEach = 15;

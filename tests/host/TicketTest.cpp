@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -91,6 +92,12 @@ TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
       {R"({"settings": {"a=b": "1"}})", "\"a=b\""},
       {R"({"settings": {"a": "\u0000"}})", "can carry"},
       {R"({"settings": {"a": "1", "A": "2"}, "locked": ["a"]})", "there twice"},
+      {R"({"settings": {"a": "1", "a": "2"}})", "\"a\" is there twice"},
+      {R"({"settings": {"a": "1", "A": "2"}})", "is there twice"},
+      {R"({"settings": {}, "settings": {"a": "1"}})", "\"settings\" is there twice"},
+      {R"({"settings": {}, "x": [{"b": 1, "b": 1}]})", "\"b\" is there twice"},
+      {R"({"settings": {"touch$IFS$HOME/x;A": "1"}})", "\"touch$IFS$HOME/x;A\""},
+      {R"({"settings": {"A\u0007": "1"}})", "can carry"},
       {R"({"settings": {}, "locked": "a"})", "list of names"},
       {R"({"settings": {}, "locked": [1]})", "list of names"},
       {R"({"settings": {}, "documents": "a"})", "\"documents\" is not a list"},
@@ -106,6 +113,25 @@ TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
 
 TEST(Ticket, DeeplyNestedTextIsRefusedAndNothingWorse) {
   failureOf([] { readTicketText(std::string(100000, '['), "t"); });
+}
+
+TEST(Ticket, DeeplyNestedPartsThatNobodyReadsDoNoHarm) {
+  const std::string deep = std::string(1000000, '[') + std::string(1000000, ']');
+  EXPECT_EQ(
+      readTicketText("{\"settings\": {\"a\": 1}, \"x\": " + deep + "}", "t").settings.optionCount(),
+      1);
+}
+
+TEST(Ticket, ManySettingsAreReadInWhateverOrderTheyStand) {
+  constexpr int kCount = 30000;
+  std::string json = "{\"settings\": {";
+  for (int i = kCount; i > 0; i--)
+    json += "\"Setting" + std::to_string(i * 7919 % 30011) + "\": " + std::to_string(i) +
+            (i > 1 ? "," : "}}");
+  const Ticket read = readTicketText(json, "t");
+  EXPECT_EQ(read.settings.optionCount(), kCount);
+  EXPECT_THAT(read.settings.get("Setting7919"), StrEq("1"));
+  EXPECT_EQ(writeTicketText(readTicketText(writeTicketText(read), "t")), writeTicketText(read));
 }
 
 TEST(TicketFile, NothingThereIsNoTicket) {
@@ -192,6 +218,48 @@ TEST(TicketFile, ForItsOwnerAloneIsReadableForNobodyElseWhateverWasThere) {
     ASSERT_EQ(stat(file.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0600U) << file;
   }
+}
+
+TEST(TicketFile, ProgramsThatWriteItAtOnceLeaveWholeFiles) {
+  TemporaryFolder folder;
+  const std::string path = folder.path("job.json");
+  writeTicket(sample(), path);
+  const pid_t other = fork();
+  ASSERT_GE(other, 0);
+  for (int i = 0; i < 50; i++) {
+    Ticket ticket = sample();
+    ticket.settings.set("Note", std::string(other == 0 ? 10000 : 1, 'x'));
+    writeTicket(ticket, path);
+    readTicket(path);
+  }
+  if (other == 0)
+    _exit(0);
+  int status = -1;
+  waitpid(other, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(folder.fileCount(), 2U);
+}
+
+TEST(TicketFile, ALinkOfTheUsersToNowhereMakesTheFileThere) {
+  TemporaryFolder folder;
+  ASSERT_EQ(symlink("real.json", folder.path("job.json").c_str()), 0);
+  writeTicket(sample(), folder.path("job.json"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.path("job.json")));
+  EXPECT_TRUE(readTicket(folder.path("real.json")));
+}
+
+TEST(TicketFile, ALinkToItselfIsNoPlace) {
+  TemporaryFolder folder;
+  ASSERT_EQ(symlink("job.json", folder.path("job.json").c_str()), 0);
+  EXPECT_THAT(failureOf([&] { writeTicket(sample(), folder.path("job.json")); }),
+              HasSubstr("job.json"));
+}
+
+TEST(TicketFile, OneThatIsLargerThanAnyIsRefused) {
+  TemporaryFolder folder;
+  const std::string path = folder.write("job.json", "{");
+  std::filesystem::resize_file(path, std::uintmax_t(1) << 40); // takes no room on the disk
+  EXPECT_THAT(failureOf([&] { readTicket(path); }), HasSubstr("too large"));
 }
 
 TEST(TicketFile, ADeviceIsNotReplaced) {

@@ -145,6 +145,17 @@ TEST(PrintSettingsStore, NamesThatNoJobCanCarryAreRefused) {
       {"with a brace", "{a"},
       {"with a backslash", "a\\b"},
       {"with a comma", "a,b"},
+      {"with a semicolon", "a;b"},
+      {"with a dollar sign", "a$b"},
+      {"with a grave accent", "a`b"},
+      {"with a parenthesis", "a(b"},
+      {"with a bar", "a|b"},
+      {"with an ampersand", "a&b"},
+      {"with a less-than sign", "a<b"},
+      {"with a greater-than sign", "a>b"},
+      {"with a slash", "a/b"},
+      {"with a number sign", "a#b"},
+      {"with an asterisk", "*a"},
       {"not ASCII", "\xC3\xA4"},
       {"with DEL", "a\x7F"},
       {"too long", std::string(PrintSettingsStore::kLongestName + 1, 'n')},
@@ -157,6 +168,16 @@ TEST(PrintSettingsStore, NamesThatNoJobCanCarryAreRefused) {
     EXPECT_THAT(store.get(row.text), IsNull());
     EXPECT_FALSE(store.remove(row.text));
     EXPECT_EQ(store.optionCount(), 1);
+  }
+}
+
+TEST(PrintSettingsStore, NamesOfCupsIppAndPrinterDescriptionsAreTaken) {
+  for (const char *name :
+       {"com.morva.printsettings.19AImagePositionEnable", "notify-recipient-uri", "N-up", "copies",
+        "HPOption_Duplexer", "com.apple.print.PrintSettings.PMColorSpaceModel..n.", "Foreign%n",
+        "A+B", "x:y@z"}) {
+    PrintSettingsStore store;
+    EXPECT_EQ(store.set(name, "1"), Outcome::Stored) << name;
   }
 }
 
