@@ -16,6 +16,12 @@ bool contains(const ChoiceList &choices, const std::string &choice) {
                      [&](const std::string &other) { return isSame(other, choice); });
 }
 
+/// A PPD can repeat a choice.
+void addOnce(ChoiceList &choices, const std::string &choice) {
+  if (!contains(choices, choice))
+    choices.push_back(choice);
+}
+
 } // namespace
 
 ChoiceList splitChoices(const std::string &value) {
@@ -45,7 +51,7 @@ ChoiceList inOrder(const ppd_option_t &option, const ChoiceList &choices) {
   ChoiceList result;
   for (int i = 0; i < option.num_choices; i++)
     if (contains(choices, option.choices[i].choice))
-      result.emplace_back(option.choices[i].choice);
+      addOnce(result, option.choices[i].choice);
   return result;
 }
 
@@ -79,7 +85,7 @@ ChoiceList markedChoices(const ppd_option_t &option) {
   ChoiceList choices;
   for (int i = 0; i < option.num_choices; i++)
     if (option.choices[i].marked)
-      choices.emplace_back(option.choices[i].choice);
+      addOnce(choices, option.choices[i].choice);
   return choices;
 }
 
@@ -94,7 +100,7 @@ ChoiceList withChoice(const ppd_option_t &option, const ChoiceList &choices,
     const bool isMeant = isSame(known, choice);
     const bool isExcluded = on && (isNone(known) || isNone(choice));
     if (isMeant ? on : contains(choices, known) && !isExcluded)
-      result.push_back(known);
+      addOnce(result, known);
   }
   if (result.empty() && !none.empty())
     result.push_back(none);

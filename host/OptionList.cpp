@@ -1,16 +1,10 @@
 #include "host/OptionList.hpp"
 
-#include <algorithm>
+#include "host/ForeignText.hpp"
 
 namespace imageposition {
 
 namespace {
-
-std::string onOneLine(std::string text) {
-  std::replace_if(
-      text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
-  return text;
-}
 
 /// What -o takes, but for what is nobody else's to read: lists are kept and passed on.
 std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {

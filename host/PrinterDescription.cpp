@@ -2,6 +2,7 @@
 
 #include "host/ChoiceList.hpp"
 #include "host/ExitCode.hpp"
+#include "host/ForeignText.hpp"
 #include "host/Messages.hpp"
 
 #include <cerrno>
@@ -34,7 +35,7 @@ bool isFolder(const std::string &path) {
 std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
   for (const char *name : {ppd.nickname, ppd.modelname})
     if (name != nullptr && *name != '\0')
-      return name;
+      return onOneLine(name);
   return otherwise;
 }
 

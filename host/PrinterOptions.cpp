@@ -1,6 +1,7 @@
 #include "host/PrinterOptions.hpp"
 
 #include "host/EntryCheck.hpp"
+#include "host/ForeignText.hpp"
 #include "host/OptionMessages.hpp"
 #include "host/WindowTexts.hpp"
 
@@ -21,10 +22,6 @@ bool contains(const std::vector<std::string> &keywords, const std::string &keywo
                      [&](const std::string &other) { return isSame(other, keyword); });
 }
 
-std::string textOr(const char *text, const char *keyword) {
-  return text != nullptr && *text != '\0' ? text : keyword;
-}
-
 /// The choice that CUPS adds to an option that takes a value of the person's own.
 bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, "Custom"); }
 
@@ -35,12 +32,23 @@ std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option) {
   return marked != nullptr ? marked->choice : "";
 }
 
+/// Of an option that the PPD has in several groups CUPS finds and marks one only.
+bool isHeeded(ppd_file_t *ppd, const ppd_option_t &option) {
+  return ppdFindOption(ppd, option.keyword) == &option;
+}
+
+bool hasChoice(const PrinterOption &option, const std::string &keyword) {
+  return std::any_of(option.choices.begin(), option.choices.end(),
+                     [&](const OptionChoice &known) { return isSame(known.keyword, keyword); });
+}
+
 /// By keyword.
 using Marked = std::map<std::string, std::string>;
 
 void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Marked &marked) {
   for (int i = 0; i < group.num_options; i++)
-    marked[group.options[i].keyword] = markedChoice(ppd, group.options[i]);
+    if (isHeeded(ppd, group.options[i]))
+      marked[group.options[i].keyword] = markedChoice(ppd, group.options[i]);
   for (int i = 0; i < group.num_subgroups; i++)
     collectMarked(ppd, group.subgroups[i], marked);
 }
@@ -81,11 +89,13 @@ public:
       : ppd_(ppd), job_(job), queue_(queue), defaults_(std::move(defaults)) {}
 
   void addGroup(const ppd_group_t &source, std::vector<OptionGroup> &groups) const {
-    OptionGroup group{textOr(source.name, source.text), textOr(source.text, source.name), {}};
+    OptionGroup group{
+        textOrKeyword(source.name, source.text), textOrKeyword(source.text, source.name), {}};
     if (group.text == "General")
       group.text = messages::kGeneralGroup;
     for (int i = 0; i < source.num_options; i++)
-      group.options.push_back(option(source.options[i]));
+      if (isHeeded(ppd_, source.options[i]))
+        group.options.push_back(option(source.options[i]));
     groups.push_back(std::move(group));
     for (int i = 0; i < source.num_subgroups; i++)
       addGroup(source.subgroups[i], groups);
@@ -94,7 +104,7 @@ public:
   PrinterOption option(const ppd_option_t &source) const {
     PrinterOption option;
     option.keyword = source.keyword;
-    option.text = textOr(source.text, source.keyword);
+    option.text = textOrKeyword(source.text, source.keyword);
     option.kind = source.ui == PPD_UI_BOOLEAN    ? PrinterOption::Kind::Switch
                   : source.ui == PPD_UI_PICKMANY ? PrinterOption::Kind::Several
                                                  : PrinterOption::Kind::List;
@@ -104,8 +114,8 @@ public:
       option.custom = customOption(ppd_, source.keyword);
     for (int i = 0; i < source.num_choices; i++) {
       const ppd_choice_t &choice = source.choices[i];
-      if (!(option.takesCustomValue && isCustom(choice)))
-        option.choices.push_back({choice.choice, textOr(choice.text, choice.choice)});
+      if (!(option.takesCustomValue && isCustom(choice)) && !hasChoice(option, choice.choice))
+        option.choices.push_back({choice.choice, textOrKeyword(choice.text, choice.choice)});
     }
     option.chosen = markedChoice(ppd_, source);
     const auto known = defaults_.find(source.keyword);
@@ -138,8 +148,7 @@ private:
   bool isNumber(const PrinterOption &option) const {
     const char *const value = job_.get(option.keyword);
     return value != nullptr && option.custom && readCustomValue(*option.custom, value) &&
-           std::none_of(option.choices.begin(), option.choices.end(),
-                        [=](const OptionChoice &known) { return isSame(known.keyword, value); });
+           !hasChoice(option, value);
   }
 
   ppd_file_t *ppd_;

@@ -8,15 +8,9 @@
 
 namespace imageposition {
 
-namespace {
-
-bool isUtf8(const std::string &text) { return utf8FromUtf16(utf16FromUtf8(text)) == text; }
-
-} // namespace
-
 void refuseForeignArguments(const std::vector<std::string> &words) {
   for (const std::string &word : words)
-    if (!isUtf8(word))
+    if (!isWellFormedUtf8(word))
       throw Failure(ExitCode::Usage, messages::argumentNotText(utf8FromUtf16(utf16FromUtf8(word))));
 }
 
@@ -24,7 +18,7 @@ void leaveOutForeignVariables(char **arguments) {
   std::vector<char *> rest;
   bool isComplete = true;
   for (char **variable = environ; *variable != nullptr; variable++) {
-    if (isUtf8(*variable))
+    if (isWellFormedUtf8(*variable))
       rest.push_back(*variable);
     else
       isComplete = false;
