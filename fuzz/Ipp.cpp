@@ -1,11 +1,11 @@
 // A hostile CUPS: its answers (see AnsweringServer.hpp) go through the list of printers, a queue's
 // description and a job's submission. Whatever it says, each ends in a result or a sentence.
-#include "fuzz/AnsweringServer.hpp"
 #include "fuzz/CheckText.hpp"
 #include "fuzz/MemoryFile.hpp"
 #include "host/Destinations.hpp"
 #include "host/JobSubmission.hpp"
 #include "host/PrinterDescription.hpp"
+#include "tests/host/AnsweringServer.hpp"
 
 #include <chrono>
 #include <cstdlib>
@@ -13,6 +13,8 @@
 
 using namespace imageposition;
 using namespace imageposition::fuzz;
+using imageposition::test::Answer;
+using imageposition::test::AnsweringServer;
 
 // libcups waits before it asks a busy server again, ten times and longer each time.
 extern "C" unsigned int sleep(unsigned int) { return 0; }
@@ -22,8 +24,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 AnsweringServer &server() {
-  static auto *const known = new AnsweringServer; // its thread never ends
-  return *known;
+  static AnsweringServer known;
+  return known;
 }
 
 void checkDestination(const Destination &printer, const DestinationList &list) {
@@ -94,7 +96,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
   const std::string lines(reinterpret_cast<const char *>(data), size);
-  const std::vector<Answer> answers = readAnswers(lines);
+  const std::vector<Answer> answers = imageposition::test::readAnswers(lines);
   const auto run = [&](void (*part)(bool), bool choice) {
     server().setAnswers(answers);
     std::thread(part, choice).join(); // libcups keeps a connection for each thread

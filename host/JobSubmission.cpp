@@ -143,7 +143,7 @@ bool Submission::keepWaiting() { return report() && Clock::now() - lastSign_ < k
 void Submission::failAsCups() {
   if (isCancelled_)
     failCancelled();
-  const std::string reason = cupsLastErrorString();
+  const std::string reason = cupsReason();
   const bool isLost = httpError(connection_->http()) != 0;
   const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(cupsLastError());
   fail(problem, messageFor(problem, reason));

@@ -118,7 +118,8 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
       unlink(file);
     if (!isCupsReachable())
       throw Failure(ExitCode::Printer, messages::cupsUnreachable(cupsServer(), queue));
-    throw Failure(ExitCode::Printer, messages::queueWithoutPpd(queue, cupsLastErrorString()));
+    throw Failure(ExitCode::Printer,
+                  messages::queueWithoutPpd(queue, onOneLine(cupsLastErrorString())));
   }
   const TemporaryFile owner(file);
   PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);

@@ -1,6 +1,8 @@
 /// A CUPS that answers whatever it is told to.
-#ifndef IMAGEPOSITION_FUZZ_ANSWERINGSERVER_HPP
-#define IMAGEPOSITION_FUZZ_ANSWERINGSERVER_HPP
+#ifndef IMAGEPOSITION_TESTS_HOST_ANSWERINGSERVER_HPP
+#define IMAGEPOSITION_TESTS_HOST_ANSWERINGSERVER_HPP
+
+#include "tests/host/TemporaryFolder.hpp"
 
 #include <map>
 #include <mutex>
@@ -8,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-namespace imageposition::fuzz {
+namespace imageposition::test {
 
 /// What is sent for one request. Given as lines:
 ///
@@ -33,10 +35,12 @@ struct Answer {
 
 std::vector<Answer> readAnswers(const std::string &lines);
 
-/// Listens on a Unix socket on a thread of its own, for as long as the process runs.
+/// Listens on a Unix socket, on a thread, while the object lives.
 class AnsweringServer {
 public:
+  /// Throws where the system lets it listen nowhere.
   AnsweringServer();
+  ~AnsweringServer();
   AnsweringServer(const AnsweringServer &) = delete;
   AnsweringServer &operator=(const AnsweringServer &) = delete;
 
@@ -59,14 +63,16 @@ private:
   bool respond(Connection &connection, unsigned operation);
   const Answer *nextAnswer(unsigned operation);
 
+  const TemporaryFolder folder_;
   std::string path_;
   int listener_;
   std::mutex mutex_; // of the following
   std::vector<Answer> answers_;
   std::map<unsigned, std::size_t> used_; // by operation
   int requests_ = 0;
+  std::thread thread_;
 };
 
-} // namespace imageposition::fuzz
+} // namespace imageposition::test
 
 #endif

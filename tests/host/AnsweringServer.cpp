@@ -1,8 +1,7 @@
-#include "fuzz/AnsweringServer.hpp"
-
-#include "fuzz/Check.hpp"
+#include "tests/host/AnsweringServer.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <cstdlib>
 #include <optional>
@@ -10,9 +9,10 @@
 #include <sstream>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <system_error>
 #include <unistd.h>
 
-namespace imageposition::fuzz {
+namespace imageposition::test {
 
 namespace {
 
@@ -206,7 +206,7 @@ std::vector<Answer> readAnswers(const std::string &lines) {
       if (writer)
         answers.push_back(writer->finished());
       writer.emplace(line.substr(7));
-    } else if (writer) {
+    } else if (writer && !line.empty()) {
       writer->add(line);
     }
   }
@@ -216,17 +216,21 @@ std::vector<Answer> readAnswers(const std::string &lines) {
 }
 
 AnsweringServer::AnsweringServer() {
-  std::string folder = "/tmp/answering-server.XXXXXX";
-  check(mkdtemp(folder.data()) != nullptr, "there is room for a folder");
-  path_ = folder + "/socket";
+  path_ = folder_.path("socket");
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
   path_.copy(address.sun_path, sizeof address.sun_path - 1);
   listener_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  check(bind(listener_, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0 &&
-            listen(listener_, 16) == 0,
-        "the server listens");
-  std::thread([this] { serve(); }).detach();
+  if (bind(listener_, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0 ||
+      listen(listener_, 16) != 0)
+    throw std::system_error(errno, std::generic_category());
+  thread_ = std::thread([this] { serve(); });
+}
+
+AnsweringServer::~AnsweringServer() {
+  shutdown(listener_, SHUT_RDWR); // which ends `accept4`
+  thread_.join();
+  close(listener_);
 }
 
 void AnsweringServer::setAnswers(std::vector<Answer> answers) {
@@ -300,9 +304,15 @@ void AnsweringServer::serve() {
         close(connections[i - 1].descriptor);
         connections.erase(connections.begin() + static_cast<std::ptrdiff_t>(i - 1));
       }
-    if (waiting[0].revents != 0)
-      connections.push_back({accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC), ""});
+    if (waiting[0].revents == 0)
+      continue;
+    const int client = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
+    if (client < 0)
+      break;
+    connections.push_back({client, ""});
   }
+  for (const Connection &connection : connections)
+    close(connection.descriptor);
 }
 
-} // namespace imageposition::fuzz
+} // namespace imageposition::test
