@@ -81,6 +81,14 @@ std::string valueIn(ipp_attribute_t *attribute) {
   return text != nullptr ? text : ippTagString(ippGetValueTag(attribute));
 }
 
+/// Of an option that is not the printer's, such as a panel's or an IPP printer's.
+bool isForeignCollection(const JobRequest &request, const cups_option_t &option) {
+  return option.value[0] == '{' && std::none_of(request.compounds.begin(), request.compounds.end(),
+                                                [&](const std::string &name) {
+                                                  return strcasecmp(name.c_str(), option.name) == 0;
+                                                });
+}
+
 void checkReceived(ipp_t *request, const cups_option_t &option) {
   ipp_attribute_t *attribute = ippFirstAttribute(request); // ippFindAttribute divides at "/"
   while (attribute != nullptr &&
@@ -133,7 +141,8 @@ void checkRequest(PrinterDescription &printer, const PrintSettingsStore &job) {
     const PrintSettingsStore options = optionsToSend(request);
     const Ipp known = sentAndReceived(request, options);
     for (int i = 0; i < options.optionCount(); ++i)
-      if (hasCapital(options.options()[i].name))
+      if (hasCapital(options.options()[i].name) &&
+          !isForeignCollection(request, options.options()[i]))
         checkReceived(known.get(), options.options()[i]);
     check(isWellFormed(writeRequestText(request)), "the request's text is UTF-8");
   } catch (const Failure &failure) {

@@ -32,9 +32,17 @@ std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option) {
   return marked != nullptr ? marked->choice : "";
 }
 
-/// Of an option that the PPD has in several groups CUPS finds and marks one only.
-bool isHeeded(ppd_file_t *ppd, const ppd_option_t &option) {
-  return ppdFindOption(ppd, option.keyword) == &option;
+/// Whether a job can name it and CUPS marks it: of an option that the PPD has in several groups
+/// CUPS finds one only.
+bool isUsable(ppd_file_t *ppd, const ppd_option_t &option) {
+  return PrintSettingsStore::isUsableName(option.keyword) &&
+         ppdFindOption(ppd, option.keyword) == &option;
+}
+
+/// In a list of choices a comma ends one.
+bool isUsable(const ppd_choice_t &choice, PrinterOption::Kind kind) {
+  return kind != PrinterOption::Kind::Several ||
+         splitChoices(choice.choice) == ChoiceList{choice.choice};
 }
 
 bool hasChoice(const PrinterOption &option, const std::string &keyword) {
@@ -47,7 +55,7 @@ using Marked = std::map<std::string, std::string>;
 
 void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Marked &marked) {
   for (int i = 0; i < group.num_options; i++)
-    if (isHeeded(ppd, group.options[i]))
+    if (isUsable(ppd, group.options[i]))
       marked[group.options[i].keyword] = markedChoice(ppd, group.options[i]);
   for (int i = 0; i < group.num_subgroups; i++)
     collectMarked(ppd, group.subgroups[i], marked);
@@ -94,7 +102,7 @@ public:
     if (group.text == "General")
       group.text = messages::kGeneralGroup;
     for (int i = 0; i < source.num_options; i++)
-      if (isHeeded(ppd_, source.options[i]))
+      if (isUsable(ppd_, source.options[i]))
         group.options.push_back(option(source.options[i]));
     groups.push_back(std::move(group));
     for (int i = 0; i < source.num_subgroups; i++)
@@ -114,7 +122,8 @@ public:
       option.custom = customOption(ppd_, source.keyword);
     for (int i = 0; i < source.num_choices; i++) {
       const ppd_choice_t &choice = source.choices[i];
-      if (!(option.takesCustomValue && isCustom(choice)) && !hasChoice(option, choice.choice))
+      if (!(option.takesCustomValue && isCustom(choice)) && isUsable(choice, option.kind) &&
+          !hasChoice(option, choice.choice))
         option.choices.push_back({choice.choice, textOrKeyword(choice.text, choice.choice)});
     }
     option.chosen = markedChoice(ppd_, source);

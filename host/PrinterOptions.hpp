@@ -53,7 +53,7 @@ class PrinterOptions {
 public:
   PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job);
 
-  /// Every group with every option that CUPS heeds, each once. A subgroup is a group of its own
+  /// Every group with every option that a job can name, each once. A subgroup is a group of its own
   /// behind that which holds it.
   std::vector<OptionGroup> all();
 

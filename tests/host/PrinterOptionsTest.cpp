@@ -246,4 +246,34 @@ TEST(PrinterOptions, AnOptionThatTheDescriptionRepeatsIsListedOnce) {
   EXPECT_EQ(count, 1);
 }
 
+TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenUI *Finishing/Finishing: PickMany
+*DefaultFinishing: None
+*Finishing None/None: ""
+*Finishing Fo,ld/Fold: ""
+*CloseUI: *Finishing
+*OpenUI *Fo=ld/Fold: PickOne
+*DefaultFo=ld: None
+*Fo=ld None/None: ""
+*Fo=ld Z/Z: ""
+*CloseUI: *Fo=ld
+*OpenUI *Tray/Tray: PickOne
+*DefaultTray: One
+*Tray One/One: ""
+*Tray Th,ree/Three: ""
+*CloseUI: *Tray
+)ppd");
+  PrintSettingsStore job;
+  PrinterOptions options(printer, job);
+  std::string listed;
+  for (const OptionGroup &group : options.listed({}))
+    for (const PrinterOption &option : group.options)
+      for (const OptionChoice &choice : option.choices) {
+        EXPECT_TRUE(options.choose(option.keyword, choice.keyword));
+        listed += option.keyword + "=" + choice.keyword + " ";
+      }
+  EXPECT_EQ(listed, "Finishing=None Tray=One Tray=Th,ree ");
+}
+
 } // namespace
