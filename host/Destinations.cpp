@@ -121,7 +121,7 @@ std::string stateInWords(const Destination &destination, const std::string &reas
 std::string reasonForNone(bool isTooLate) {
   if (isTooLate)
     return messages::noCups(cupsServerName(), messages::kNoAnswer);
-  const ipp_status_t status = cupsLastError();
+  const int status = cupsLastError(); // any number that CUPS sent
   if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND)
     return messages::kNoPrinters;
   if (status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE || status == IPP_STATUS_ERROR_INTERNAL)

@@ -111,7 +111,7 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   const QueueName name = splitQueueName(queue);
   char file[1024] = "";
   time_t changed = 0;
-  const http_status_t status =
+  const int status = // any number that CUPS sent
       cupsGetPPD3(CUPS_HTTP_DEFAULT, name.printer.c_str(), &changed, file, sizeof file);
   if (status != HTTP_STATUS_OK) {
     if (*file != '\0')

@@ -61,7 +61,7 @@ std::size_t sizeIn(const std::string &text) {
 class Writer {
 public:
   explicit Writer(std::string line) {
-    const std::size_t status = std::min<std::size_t>(sizeIn(takeWord(line)), 999);
+    const std::size_t status = sizeIn(takeWord(line));
     answer_.head = "HTTP/1.1 " + std::to_string(status) + " OK\r\n";
     answer_.operation = static_cast<unsigned>(std::strtoul(line.c_str(), nullptr, 16));
     answer_.isHonest = status >= 200; // after others one more would follow

@@ -121,4 +121,13 @@ TEST_F(HostileCups, AJobWithoutANumberIsNotTakenAndNotForSuccess) {
   EXPECT_THAT(reason, Not(HasSubstr("successful")));
 }
 
+/// With UndefinedBehaviorSanitizer the numbers must not pass for CUPS's own enumerations.
+TEST_F(HostileCups, AStatusThatNoStandardHasIsARefusal) {
+  EXPECT_THAT(printers("answer 200 0\nipp 7FFF\n01\n41 status-message Odd.\n").reason,
+              HasSubstr("CUPS does not say which printers it has (Odd)."));
+  EXPECT_THAT(refusal(printer() + "answer 200 0005\nipp 7FFF\n01\n41 status-message Odd.\n"),
+              HasSubstr("CUPS did not take the job for \"office\" (Odd)."));
+  EXPECT_THAT(printers("answer 131072 0\nbody odd\n").reason, HasSubstr("CUPS does not "));
+}
+
 } // namespace
