@@ -51,10 +51,10 @@ bool isNone(const std::string &choice) {
 }
 
 ChoiceList inOrder(const ppd_option_t &option, const ChoiceList &choices) {
-  const ChoiceSet wanted = setOf(choices);
+  ChoiceSet wanted = setOf(choices);
   ChoiceList result;
   for (int i = 0; i < option.num_choices; i++)
-    if (wanted.count(option.choices[i].choice) != 0)
+    if (wanted.erase(option.choices[i].choice) != 0) // once, also where the PPD repeats it
       result.emplace_back(option.choices[i].choice);
   return result;
 }
@@ -67,7 +67,7 @@ bool areChoices(const ppd_option_t &option, const ChoiceList &choices) {
 
 bool markChoices(ppd_file_t *ppd, ppd_option_t &option, const ChoiceList &choices) {
   ppd_choice_t *const end = option.choices + option.num_choices;
-  const ChoiceSet wanted = setOf(choices);
+  ChoiceSet wanted = setOf(choices);
   const auto isWanted = [&](const ppd_choice_t &choice) {
     return wanted.count(choice.choice) != 0;
   };
@@ -87,8 +87,9 @@ bool markChoices(ppd_file_t *ppd, ppd_option_t &option, const ChoiceList &choice
 
 ChoiceList markedChoices(const ppd_option_t &option) {
   ChoiceList choices;
+  ChoiceSet listed; // a PPD can repeat a choice
   for (int i = 0; i < option.num_choices; i++)
-    if (option.choices[i].marked)
+    if (option.choices[i].marked && listed.insert(option.choices[i].choice).second)
       choices.emplace_back(option.choices[i].choice);
   return choices;
 }
@@ -102,14 +103,14 @@ std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option) {
 
 ChoiceList withoutChoices(const ppd_option_t &option, const ChoiceList &choices,
                           const ChoiceSet &without) {
-  const ChoiceSet before = setOf(choices);
+  ChoiceSet before = setOf(choices);
   ChoiceList result;
   std::string none;
   for (int i = 0; i < option.num_choices; i++) {
     const std::string known = option.choices[i].choice;
     if (none.empty() && isNone(known))
       none = known;
-    if (before.count(known) != 0 && without.count(known) == 0)
+    if (without.count(known) == 0 && before.erase(known) != 0)
       result.push_back(known);
   }
   if (result.empty() && !none.empty())

@@ -1,5 +1,8 @@
 #include "host/CupsConnection.hpp"
 
+#include "host/ForeignText.hpp"
+
+#include <cstring>
 #include <sys/socket.h>
 #include <utility>
 
@@ -34,6 +37,13 @@ CupsConnection::~CupsConnection() { httpClose(http_); }
 std::string cupsServerName() {
   const std::string name = cupsServer();
   return name.empty() || name[0] == '/' ? name : name + ":" + std::to_string(ippPort());
+}
+
+std::string cupsReason() {
+  const std::string reason = cupsLastErrorString();
+  // What is said of an answer that is not whole.
+  const bool isNone = reason == ippErrorString(IPP_STATUS_OK) || reason == std::strerror(0);
+  return isNone ? "" : onOneLine(reason);
 }
 
 } // namespace imageposition

@@ -37,6 +37,10 @@ private:
 /// Where CUPS is looked for, for a person.
 std::string cupsServerName();
 
+/// Why CUPS did not do what this thread asked last, on one line of UTF-8; empty where it gives no
+/// reason, or the one that all went well.
+std::string cupsReason();
+
 } // namespace imageposition
 
 #endif

@@ -1,5 +1,6 @@
 #include "host/CustomValue.hpp"
 
+#include "host/ForeignText.hpp"
 #include "host/OptionMessages.hpp"
 #include "host/OptionText.hpp"
 #include "host/SecretOptions.hpp"
@@ -61,7 +62,7 @@ std::optional<CustomParameter> parameterOf(const ppd_cparam_t &source) {
     return std::nullopt;
   CustomParameter parameter;
   parameter.name = source.name;
-  parameter.text = *source.text != '\0' ? source.text : source.name;
+  parameter.text = textOrKeyword(source.text, source.name);
   parameter.kind = *kind;
   const double one = limit(source.minimum, source.type), other = limit(source.maximum, source.type);
   parameter.minimum = std::min(one, other);

@@ -1,6 +1,7 @@
 #include "host/Destinations.hpp"
 
 #include "host/CupsConnection.hpp"
+#include "host/ForeignText.hpp"
 #include "host/JobMessages.hpp"
 #include "host/OptionMessages.hpp"
 #include "host/PasswordQuestion.hpp"
@@ -12,6 +13,7 @@
 #include <strings.h>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 namespace imageposition {
 
@@ -119,13 +121,16 @@ std::string stateInWords(const Destination &destination, const std::string &reas
 std::string reasonForNone(bool isTooLate) {
   if (isTooLate)
     return messages::noCups(cupsServerName(), messages::kNoAnswer);
-  const ipp_status_t status = cupsLastError();
+  const int status = cupsLastError(); // any number that CUPS sent
   if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND)
     return messages::kNoPrinters;
   if (status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE || status == IPP_STATUS_ERROR_INTERNAL)
-    return messages::noCups(cupsServerName(), cupsLastErrorString());
-  return messages::printersNotListed(cupsLastErrorString());
+    return messages::noCups(cupsServerName(), cupsReason());
+  return messages::printersNotListed(cupsReason());
 }
+
+/// A name is shown and sent to CUPS, and so must be the same in both places.
+bool isShowable(const std::string &name) { return !name.empty() && onOneLine(name) == name; }
 
 bool hasSameOptions(const PrintSettingsStore &left, const PrintSettingsStore &right) {
   return std::equal(left.options(), left.options() + left.optionCount(), right.options(),
@@ -142,12 +147,13 @@ Destination toDestination(const cups_dest_t &dest) {
   Destination destination;
   destination.name = dest.name;
   destination.instance = dest.instance != nullptr ? dest.instance : "";
-  destination.description = optionOf(dest, "printer-info");
-  destination.location = optionOf(dest, "printer-location");
-  destination.uri = optionOf(dest, "printer-uri-supported");
+  destination.description = onOneLine(optionOf(dest, "printer-info"));
+  destination.location = onOneLine(optionOf(dest, "printer-location"));
+  destination.uri = onOneLine(optionOf(dest, "printer-uri-supported"));
   destination.state = stateOf(dest);
   destination.acceptsJobs = optionOf(dest, "printer-is-accepting-jobs") != "false";
-  destination.stateText = stateInWords(destination, optionOf(dest, "printer-state-reasons"));
+  destination.stateText =
+      stateInWords(destination, onOneLine(optionOf(dest, "printer-state-reasons")));
   destination.isDefault = dest.is_default != 0;
   for (int i = 0; i < dest.num_options; i++)
     if (!isAboutPrinter(dest.options[i].name))
@@ -184,8 +190,9 @@ DestinationList readDestinations(std::chrono::milliseconds patience) {
   cups_dest_t *dests = nullptr;
   const int count = cupsGetDests2(connection->http(), &dests);
   for (int i = 0; i < count; i++)
-    list.destinations.push_back(toDestination(dests[i]));
-  if (count == 0)
+    if (Destination destination = toDestination(dests[i]); isShowable(destination.fullName()))
+      list.destinations.push_back(std::move(destination));
+  if (list.destinations.empty())
     list.reason = reasonForNone(!isInTime());
   cupsFreeDests(count, dests);
   return list;

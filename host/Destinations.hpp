@@ -33,7 +33,9 @@ struct Destination {
 };
 
 struct DestinationList {
-  std::vector<Destination> destinations; ///< By name, a queue before its instances.
+  /// By name, a queue before its instances. Those whose names are not UTF-8 on one line are left
+  /// out.
+  std::vector<Destination> destinations;
   std::string reason; ///< Why CUPS was not asked or has none, with what to do; else empty.
 
   /// Null when there is none of that full name.

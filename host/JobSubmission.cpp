@@ -37,8 +37,8 @@ constexpr auto kPatience = std::chrono::seconds(30); // without a sign of life f
 
 [[noreturn]] void failCancelled() { fail(JobProblem::Cancelled, messages::kSubmissionCancelled); }
 
-/// What CUPS's status means for a job.
-JobProblem problemOf(ipp_status_t status) {
+/// What CUPS's status, which can be any number, means for a job.
+JobProblem problemOf(int status) {
   switch (status) {
   case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
   case IPP_STATUS_ERROR_TIMEOUT:
@@ -143,7 +143,7 @@ bool Submission::keepWaiting() { return report() && Clock::now() - lastSign_ < k
 void Submission::failAsCups() {
   if (isCancelled_)
     failCancelled();
-  const std::string reason = cupsLastErrorString();
+  const std::string reason = cupsReason();
   const bool isLost = httpError(connection_->http()) != 0;
   const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(cupsLastError());
   fail(problem, messageFor(problem, reason));
@@ -212,7 +212,7 @@ void Submission::createJob() {
     createJobWithCompounds();
     return;
   }
-  const ipp_status_t status = cupsCreateDestJob(
+  const int status = cupsCreateDestJob(
       connection_->http(), printer_.get(), info_.get(), &job_, request_.title.c_str(),
       options_.optionCount(), const_cast<cups_option_t *>(options_.options())); // only read
   if (status > IPP_STATUS_OK_EVENTS_COMPLETE || job_ == 0)

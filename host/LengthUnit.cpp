@@ -4,6 +4,7 @@
 #include "host/PreviewTexts.hpp"
 
 #include <cmath>
+#include <cstring>
 #include <locale>
 #include <sstream>
 #include <strings.h>
@@ -87,7 +88,8 @@ std::optional<Length> readLength(const std::string &text, LengthUnit otherwise) 
   if (name.empty())
     return Length{*number, otherwise};
   for (const NamedUnit &known : kUnits)
-    if (strcasecmp(known.name, name.c_str()) == 0 && std::isfinite(*number * known.count))
+    if (name.size() == std::strlen(known.name) && strcasecmp(known.name, name.c_str()) == 0 &&
+        std::isfinite(*number * known.count))
       return Length{*number * known.count, known.unit};
   return std::nullopt;
 }

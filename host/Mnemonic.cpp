@@ -1,5 +1,7 @@
 #include "host/Mnemonic.hpp"
 
+#include "platform/Utf.hpp"
+
 #include <algorithm>
 #include <cctype>
 
@@ -8,7 +10,7 @@ namespace imageposition {
 namespace {
 
 /// Bytes of the character that begins there; 0 where no key can be: at the end, at a blank, at
-/// another ampersand or other ASCII punctuation.
+/// another ampersand or other ASCII punctuation, and at bytes that are no UTF-8.
 std::size_t keyLength(std::string_view text) {
   if (text.empty())
     return 0;
@@ -18,8 +20,8 @@ std::size_t keyLength(std::string_view text) {
                        (lead >= 'a' && lead <= 'z');
     return isKey ? 1 : 0;
   }
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
-  return length <= text.size() ? length : 0;
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  return isWellFormedUtf8(text.substr(0, length)) ? length : 0;
 }
 
 } // namespace

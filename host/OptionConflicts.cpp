@@ -1,5 +1,6 @@
 #include "host/OptionConflicts.hpp"
 
+#include "host/ForeignText.hpp"
 #include "host/OptionMessages.hpp"
 
 #include <algorithm>
@@ -15,15 +16,13 @@ bool isSame(const std::string &left, const std::string &right) {
   return strcasecmp(left.c_str(), right.c_str()) == 0;
 }
 
-std::string textOr(const char *text, const char *keyword) { return *text != '\0' ? text : keyword; }
-
 NamedChoice named(const ppd_option_t &option, const ppd_choice_t *choice) {
   NamedChoice name;
   name.keyword = option.keyword;
-  name.text = textOr(option.text, option.keyword);
+  name.text = textOrKeyword(option.text, option.keyword);
   if (choice != nullptr) {
     name.choice = choice->choice;
-    name.choiceText = textOr(choice->text, choice->choice);
+    name.choiceText = textOrKeyword(choice->text, choice->choice);
   }
   return name;
 }

@@ -2,6 +2,7 @@
 
 #include "host/ChoiceList.hpp"
 #include "host/EntryCheck.hpp"
+#include "host/ForeignText.hpp"
 #include "host/OptionMessages.hpp"
 
 #include <algorithm>
@@ -114,7 +115,7 @@ std::string misfitOf(ppd_file_t *ppd, const std::string &name, const std::string
                                         isHiddenValue(ppd, name, value) ? kHiddenValue : value);
   if (isPlainChoice(*option, value))
     return {};
-  const std::string text = *option->text != '\0' ? option->text : option->keyword;
+  const std::string text = textOrKeyword(option->text, option->keyword);
   if (option->ui == PPD_UI_PICKMANY)
     return areChoices(*option, splitChoices(value)) ? "" : messages::misfitChoice(text, value);
   ppd_coption_t *const custom = ppdFindCustomOption(ppd, option->keyword);

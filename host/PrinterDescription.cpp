@@ -2,6 +2,7 @@
 
 #include "host/ChoiceList.hpp"
 #include "host/ExitCode.hpp"
+#include "host/ForeignText.hpp"
 #include "host/Messages.hpp"
 #include "host/PpdSize.hpp"
 
@@ -36,7 +37,7 @@ mode_t kindOf(const std::string &path) {
 std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
   for (const char *name : {ppd.nickname, ppd.modelname})
     if (name != nullptr && *name != '\0')
-      return name;
+      return onOneLine(name);
   return otherwise;
 }
 
@@ -126,14 +127,15 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   const QueueName name = splitQueueName(queue);
   char file[1024] = "";
   time_t changed = 0;
-  const http_status_t status =
+  const int status = // any number that CUPS sent
       cupsGetPPD3(CUPS_HTTP_DEFAULT, name.printer.c_str(), &changed, file, sizeof file);
   if (status != HTTP_STATUS_OK) {
     if (*file != '\0')
       unlink(file);
     if (!isCupsReachable())
       throw Failure(ExitCode::Printer, messages::cupsUnreachable(cupsServer(), queue));
-    throw Failure(ExitCode::Printer, messages::queueWithoutPpd(queue, cupsLastErrorString()));
+    throw Failure(ExitCode::Printer,
+                  messages::queueWithoutPpd(queue, onOneLine(cupsLastErrorString())));
   }
   const TemporaryFile owner(file);
   PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);

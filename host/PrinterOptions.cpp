@@ -1,6 +1,7 @@
 #include "host/PrinterOptions.hpp"
 
 #include "host/EntryCheck.hpp"
+#include "host/ForeignText.hpp"
 #include "host/OptionMessages.hpp"
 #include "host/WindowTexts.hpp"
 
@@ -21,12 +22,26 @@ bool contains(const std::vector<std::string> &keywords, const std::string &keywo
                      [&](const std::string &other) { return isSame(other, keyword); });
 }
 
-std::string textOr(const char *text, const char *keyword) {
-  return text != nullptr && *text != '\0' ? text : keyword;
-}
-
 /// The choice that CUPS adds to an option that takes a value of the person's own.
 bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, "Custom"); }
+
+/// Whether a job can name it and CUPS marks it: of an option that the PPD has in several groups
+/// CUPS finds one only.
+bool isUsable(ppd_file_t *ppd, const ppd_option_t &option) {
+  return PrintSettingsStore::isUsableName(option.keyword) &&
+         ppdFindOption(ppd, option.keyword) == &option;
+}
+
+/// In a list of choices a comma ends one.
+bool isUsable(const ppd_choice_t &choice, PrinterOption::Kind kind) {
+  return kind != PrinterOption::Kind::Several ||
+         splitChoices(choice.choice) == ChoiceList{choice.choice};
+}
+
+bool hasChoice(const PrinterOption &option, const std::string &keyword) {
+  return std::any_of(option.choices.begin(), option.choices.end(),
+                     [&](const OptionChoice &known) { return isSame(known.keyword, keyword); });
+}
 
 /// A job's settings that say the same as an option, under names that are not the PPD's.
 constexpr std::pair<const char *, const char *> kAliases[] = {
@@ -59,11 +74,13 @@ public:
   }
 
   void addGroup(const ppd_group_t &source, std::vector<OptionGroup> &groups) const {
-    OptionGroup group{textOr(source.name, source.text), textOr(source.text, source.name), {}};
+    OptionGroup group{
+        textOrKeyword(source.name, source.text), textOrKeyword(source.text, source.name), {}};
     if (group.text == "General")
       group.text = messages::kGeneralGroup;
     for (int i = 0; i < source.num_options; i++)
-      group.options.push_back(option(source.options[i]));
+      if (isUsable(ppd_, source.options[i]))
+        group.options.push_back(option(source.options[i]));
     groups.push_back(std::move(group));
     for (int i = 0; i < source.num_subgroups; i++)
       addGroup(source.subgroups[i], groups);
@@ -72,7 +89,7 @@ public:
   PrinterOption option(const ppd_option_t &source) const {
     PrinterOption option;
     option.keyword = source.keyword;
-    option.text = textOr(source.text, source.keyword);
+    option.text = textOrKeyword(source.text, source.keyword);
     option.kind = source.ui == PPD_UI_BOOLEAN    ? PrinterOption::Kind::Switch
                   : source.ui == PPD_UI_PICKMANY ? PrinterOption::Kind::Several
                                                  : PrinterOption::Kind::List;
@@ -80,10 +97,12 @@ public:
     option.takesCustomValue = ppdFindCustomOption(ppd_, source.keyword) != nullptr;
     if (option.kind != PrinterOption::Kind::Several)
       option.custom = customOption(ppd_, source.keyword);
+    ChoiceSet listed; // a PPD can repeat a choice
     for (int i = 0; i < source.num_choices; i++) {
       const ppd_choice_t &choice = source.choices[i];
-      if (!(option.takesCustomValue && isCustom(choice)))
-        option.choices.push_back({choice.choice, textOr(choice.text, choice.choice)});
+      if (!(option.takesCustomValue && isCustom(choice)) && isUsable(choice, option.kind) &&
+          listed.insert(choice.choice).second)
+        option.choices.push_back({choice.choice, textOrKeyword(choice.text, choice.choice)});
     }
     option.chosen = markedChoice(ppd_, source);
     const auto known = defaults_.find(source.keyword);
@@ -116,8 +135,7 @@ private:
   bool isNumber(const PrinterOption &option) const {
     const char *const value = job_.get(option.keyword);
     return value != nullptr && option.custom && readCustomValue(*option.custom, value) &&
-           std::none_of(option.choices.begin(), option.choices.end(),
-                        [=](const OptionChoice &known) { return isSame(known.keyword, value); });
+           !hasChoice(option, value);
   }
 
   ppd_file_t *ppd_;

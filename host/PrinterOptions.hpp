@@ -50,12 +50,14 @@ struct OptionGroup {
 /// Reads and changes the options of one printer for one job. Both are borrowed and outlive this.
 ///
 /// Each operation marks the PPD anew from the job, so that whoever changed the job's settings
-/// needs to tell nobody. Texts are in the locale's language where the PPD has it, in UTF-8.
+/// needs to tell nobody. Texts are in the locale's language where the PPD has it, on one line of
+/// UTF-8 each.
 class PrinterOptions {
 public:
   PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job);
 
-  /// Every group with every option. A subgroup is a group of its own behind that which holds it.
+  /// Every group with every option that a job can name, each once. A subgroup is a group of its own
+  /// behind that which holds it.
   std::vector<OptionGroup> all();
 
   /// What a pane of options shows: without these keywords (of options that have a place elsewhere

@@ -13,8 +13,6 @@ namespace {
 
 const char *const kConfiguration = "GNUSTEP_CONFIG_FILE";
 
-bool isUtf8(const std::string &text) { return utf8FromUtf16(utf16FromUtf8(text)) == text; }
-
 /// The names of the environment variables that begin so.
 std::vector<std::string> variablesNamed(const std::string &start) {
   std::vector<std::string> names;
@@ -30,7 +28,7 @@ std::vector<std::string> variablesNamed(const std::string &start) {
 
 void refuseForeignArguments(const std::vector<std::string> &words) {
   for (const std::string &word : words)
-    if (!isUtf8(word))
+    if (!isWellFormedUtf8(word))
       throw Failure(ExitCode::Usage, messages::argumentNotText(utf8FromUtf16(utf16FromUtf8(word))));
 }
 
@@ -38,7 +36,7 @@ void leaveOutForeignVariables(char **arguments) {
   std::vector<char *> rest;
   bool isComplete = true;
   for (char **variable = environ; *variable != nullptr; variable++) {
-    if (isUtf8(*variable))
+    if (isWellFormedUtf8(*variable))
       rest.push_back(*variable);
     else
       isComplete = false;

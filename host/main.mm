@@ -55,7 +55,6 @@ void takeOverEnvironment(const Arguments &arguments) {
       setenv(name, value.c_str(), 1);
 }
 
-/// `done`: what the user has to know of when the output is lost.
 /// What the window's Print does at its end.
 void finish(DialogJob &job) {
   if (!job.isSubmitted()) {

@@ -1,7 +1,8 @@
 #include "platform/PrintSettingsStore.hpp"
 
+#include "platform/Utf.hpp"
+
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
 #include <strings.h>
 
@@ -23,39 +24,6 @@ std::string_view displacedName(std::string_view name) noexcept {
   if (isSameName(name, kQualityNames[1]))
     return kQualityNames[0];
   return {};
-}
-
-std::size_t sequenceLength(unsigned char lead) noexcept {
-  if (lead < 0x80)
-    return 1;
-  if (lead >= 0xC2 && lead <= 0xDF)
-    return 2;
-  if (lead >= 0xE0 && lead <= 0xEF)
-    return 3;
-  return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
-}
-
-/// The second byte's bounds exclude overlong forms, surrogates and what lies beyond U+10FFFF.
-bool isSecondByteOf(unsigned char lead, unsigned char second) noexcept {
-  const unsigned char lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-  const unsigned char highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-  return second >= lowest && second <= highest;
-}
-
-bool isWellFormedUtf8(std::string_view text) noexcept {
-  for (std::size_t at = 0; at < text.size();) {
-    const auto lead = static_cast<unsigned char>(text[at]);
-    const std::size_t length = sequenceLength(lead);
-    if (length == 0 || text.size() - at < length)
-      return false;
-    if (length > 1 && !isSecondByteOf(lead, static_cast<unsigned char>(text[at + 1])))
-      return false;
-    for (std::size_t i = 2; i < length; i++)
-      if ((static_cast<unsigned char>(text[at + i]) & 0xC0) != 0x80)
-        return false;
-    at += length;
-  }
-  return true;
 }
 
 } // namespace

@@ -85,6 +85,16 @@ std::string utf8FromUtf16(std::u16string_view text) {
   return result;
 }
 
+bool isWellFormedUtf8(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const Sequence next = decodeAt(text, at);
+    if (next.code == kReplacement && next.length == 1) // U+FFFD itself has three bytes
+      return false;
+    at += next.length;
+  }
+  return true;
+}
+
 std::u16string utf16FromUtf8(std::string_view text) {
   std::u16string result;
   result.reserve(text.size());

@@ -13,6 +13,8 @@ std::string utf8FromUtf16(std::u16string_view text);
 /// Each byte that begins no well-formed sequence becomes U+FFFD; the result has no lone surrogate.
 std::u16string utf16FromUtf8(std::string_view text);
 
+bool isWellFormedUtf8(std::string_view text);
+
 } // namespace imageposition
 
 #endif

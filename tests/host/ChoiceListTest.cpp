@@ -4,6 +4,7 @@
 #include "host/OptionConflicts.hpp"
 #include "host/OptionList.hpp"
 #include "host/PresetFit.hpp"
+#include "tests/host/OptionsPpd.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 namespace {
 
 using namespace imageposition;
+using imageposition::test::optionsPrinter;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -82,6 +84,27 @@ TEST_F(ListOption, IsNoneWhenNothingIsLeftAndNothingElseWithNone) {
   EXPECT_THAT(job.get("Finishing"), StrEq("None"));
   options.tick("Finishing", "None", false);
   EXPECT_EQ(finishing().chosen, "None");
+}
+
+TEST(RepeatedChoices, AreListedAndSentOnce) {
+  auto repeating = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenUI *Finishing/Finishing: PickMany
+*DefaultFinishing: None
+*Finishing None/None: ""
+*Finishing Fold/Fold: ""
+*Finishing Staple/Staple: ""
+*Finishing Fold/Fold again: ""
+*CloseUI: *Finishing
+)ppd");
+  PrintSettingsStore settings;
+  PrinterOptions several(repeating, settings);
+  EXPECT_THAT(several.find("Finishing")->choices, SizeIs(3));
+  EXPECT_TRUE(several.choose("Finishing", "Fold"));
+  EXPECT_THAT(settings.get("Finishing"), StrEq("Fold"));
+  EXPECT_TRUE(several.tick("Finishing", "Staple", true));
+  EXPECT_THAT(settings.get("Finishing"), StrEq("Fold,Staple"));
+  EXPECT_TRUE(several.tick("Finishing", "Fold", false));
+  EXPECT_THAT(settings.get("Finishing"), StrEq("Staple"));
 }
 
 TEST_F(ListOption, IsEmptyWhereThereIsNoChoiceForNone) {

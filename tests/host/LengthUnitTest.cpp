@@ -34,6 +34,7 @@ TEST(LengthUnit, ReadsWhatCupsReads) {
   EXPECT_EQ(readLength("10", LengthUnit::Inch)->unit, LengthUnit::Inch);
   EXPECT_FALSE(readLength(std::string(308, '9') + "m")) << "in millimetres it is no number";
   EXPECT_FALSE(readLength(std::string(400, '9')));
+  EXPECT_FALSE(readLength(std::string("1.pt\0", 5))) << "nothing is cut off";
 }
 
 TEST(LengthUnit, WritesRoundedNumbersThatAreReadBack) {

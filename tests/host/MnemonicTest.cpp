@@ -52,6 +52,11 @@ TEST(Mnemonic, AnAmpersandIsWrittenTwiceOrWithNoLetterBehindIt) {
       {"&&&A", "&A", "A", 1},
       {"&:", "&:", "", 0},
       {"&\xC3", "&\xC3", "", 0},
+      {"&\xE3\x83&A",
+       "&\xE3\x83"
+       "A",
+       "A", 3},
+      {"&\xF5\x80\x80\x80", "&\xF5\x80\x80\x80", "", 0},
   };
   for (const Row &row : rows)
     expectRead(row);

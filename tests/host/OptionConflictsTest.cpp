@@ -101,4 +101,29 @@ TEST_F(OptionConflictsTest, AProposalThatCannotBeTakenWholeChangesNothing) {
   EXPECT_STREQ(ppdFindMarkedChoice(printer.ppd(), "Stapler")->choice, "False");
 }
 
+TEST(OptionConflicts, TextsOfADescriptionAreWellFormedInSentences) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*LanguageEncoding: UTF-8
+*UIConstraints: *Fold Z *Stapler True
+*OpenUI *Fold/Fold)ppd"
+                                "\xFF"
+                                R"ppd(: PickOne
+*DefaultFold: Z
+*Fold Z/Z)ppd"
+                                "\xC2\x9B"
+                                R"ppd(: ""
+*CloseUI: *Fold
+*OpenUI *Stapler/Staple: Boolean
+*DefaultStapler: True
+*Stapler True/Yes: ""
+*Stapler False/No: ""
+*CloseUI: *Stapler
+)ppd");
+  PrintSettingsStore job;
+  const auto found = OptionConflicts(printer, job).find();
+  ASSERT_THAT(found, SizeIs(1));
+  EXPECT_EQ(found[0].sentence,
+            "The printer cannot combine \"Fold\uFFFD: Z \" and \"Staple: Yes\".");
+}
+
 } // namespace

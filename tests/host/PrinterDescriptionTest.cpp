@@ -37,6 +37,14 @@ TEST(PrinterDescription, NamesThePrinterAsItsDescriptionDoes) {
   EXPECT_EQ(printer.name(), "Sample Duplex, two-sided");
 }
 
+TEST(PrinterDescription, NamesThePrinterOnOneLineOfUtf8) {
+  const TemporaryFolder folder;
+  const auto printer = PrinterDescription::fromFile(
+      folder.write("a.ppd", "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*NickName: \"Sample\n"
+                            "\xFF\x1B[2J\"\n"));
+  EXPECT_EQ(printer.name(), "Sample \uFFFD [2J");
+}
+
 TEST(PrinterDescription, ThePrintersDefaultsAreMarked) {
   const auto printer = PrinterDescription::fromFile(kSamples + "/duplex-shift.ppd");
   EXPECT_EQ(marked(printer, "Duplex"), "DuplexNoTumble");

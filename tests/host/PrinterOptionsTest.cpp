@@ -185,4 +185,95 @@ TEST(PrinterOptions, SpeakTheProgramsLanguageWhereTheDescriptionHasIt) {
   EXPECT_EXIT(exitWithWordsIn("nl", "Two-Sided"), testing::ExitedWithCode(0), "");
 }
 
+TEST(PrinterOptions, TextsOfADescriptionAreWellFormedAndOnOneLine) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*LanguageEncoding: UTF-8
+*OpenGroup: Paper/Paper)ppd"
+                                "\xFF\xC2\x85"
+                                R"ppd(
+*OpenUI *MediaType/Kind)ppd"
+                                "\xC2\x9B[31m\xE7\xB4"
+                                R"ppd(: PickOne
+*DefaultMediaType: Plain
+*MediaType Plain/Plain)ppd"
+                                "\xC2\x9B\xFE"
+                                R"ppd(: ""
+*CloseUI: *MediaType
+*CustomMediaType True: "pop"
+*ParamCustomMediaType Name/The)ppd"
+                                "\xC2\x80\xFDname"
+                                R"ppd(: 1 string 1 20
+*CloseGroup: Paper
+)ppd");
+  PrintSettingsStore job;
+  const auto groups = PrinterOptions(printer, job).all();
+  ASSERT_EQ(groups.size(), 1u);
+  EXPECT_EQ(groups[0].text, "Paper\uFFFD ");
+  ASSERT_EQ(groups[0].options.size(), 1u);
+  const PrinterOption &option = groups[0].options[0];
+  EXPECT_EQ(option.text, "Kind [31m\uFFFD\uFFFD");
+  ASSERT_EQ(option.choices.size(), 1u);
+  EXPECT_EQ(option.choices[0].text, "Plain \uFFFD");
+  ASSERT_TRUE(option.custom);
+  EXPECT_EQ(option.custom->parameters[0].text, "The \uFFFDname");
+}
+
+/// CUPS marks the first alone.
+TEST(PrinterOptions, AnOptionThatTheDescriptionRepeatsIsListedOnce) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenGroup: One/One
+*OpenUI *Fold/Fold: PickOne
+*DefaultFold: None
+*Fold None/None: ""
+*CloseUI: *Fold
+*CloseGroup: One
+*OpenGroup: Two/Two
+*OpenUI *Fold/Fold again: PickOne
+*Fold Z/Z: ""
+*Fold Half/Half: ""
+*CloseUI: *Fold
+*CloseGroup: Two
+)ppd");
+  PrintSettingsStore job;
+  PrinterOptions options(printer, job);
+  int count = 0;
+  for (const OptionGroup &group : options.listed({}))
+    for (const PrinterOption &option : group.options) {
+      count++;
+      for (const OptionChoice &choice : option.choices)
+        EXPECT_TRUE(options.choose(option.keyword, choice.keyword)) << choice.keyword;
+    }
+  EXPECT_EQ(count, 1);
+}
+
+TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenUI *Finishing/Finishing: PickMany
+*DefaultFinishing: None
+*Finishing None/None: ""
+*Finishing Fo,ld/Fold: ""
+*CloseUI: *Finishing
+*OpenUI *Fo=ld/Fold: PickOne
+*DefaultFo=ld: None
+*Fo=ld None/None: ""
+*Fo=ld Z/Z: ""
+*CloseUI: *Fo=ld
+*OpenUI *Tray/Tray: PickOne
+*DefaultTray: One
+*Tray One/One: ""
+*Tray Th,ree/Three: ""
+*CloseUI: *Tray
+)ppd");
+  PrintSettingsStore job;
+  PrinterOptions options(printer, job);
+  std::string listed;
+  for (const OptionGroup &group : options.listed({}))
+    for (const PrinterOption &option : group.options)
+      for (const OptionChoice &choice : option.choices) {
+        EXPECT_TRUE(options.choose(option.keyword, choice.keyword));
+        listed += option.keyword + "=" + choice.keyword + " ";
+      }
+  EXPECT_EQ(listed, "Finishing=None Tray=One Tray=Th,ree ");
+}
+
 } // namespace

@@ -1,0 +1,61 @@
+// Times until which a job is held: those that CUPS's documents name, and no others.
+#include "host/HoldTime.hpp"
+
+#include "fuzz/Check.hpp"
+#include "host/ExitCode.hpp"
+#include "host/OptionText.hpp"
+
+#include <map>
+#include <optional>
+#include <regex>
+
+using imageposition::PrintSettingsStore;
+using imageposition::fuzz::check;
+using imageposition::fuzz::checkSame;
+
+namespace {
+
+struct Hold {
+  std::string until;
+  std::string priority; // empty: the usual one
+};
+
+std::optional<Hold> expectedHold(const std::string &when) {
+  static const std::map<std::string, Hold> kWords = {
+      {"hold", {"indefinite", ""}},   {"resume", {"no-hold", ""}},
+      {"release", {"no-hold", ""}},   {"immediate", {"no-hold", "100"}},
+      {"no-hold", {"no-hold", ""}},   {"indefinite", {"indefinite", ""}},
+      {"day-time", {"day-time", ""}}, {"evening", {"evening", ""}},
+      {"night", {"night", ""}},       {"second-shift", {"second-shift", ""}},
+      {"weekend", {"weekend", ""}},   {"third-shift", {"third-shift", ""}}};
+  static const std::regex kTime("([01]?[0-9]|2[0-3])(:[0-5]?[0-9]){1,2}");
+  const auto known = kWords.find(when);
+  if (known != kWords.end())
+    return known->second;
+  return std::regex_match(when, kTime) ? std::optional(Hold{when, ""}) : std::nullopt;
+}
+
+std::string valueOf(const PrintSettingsStore &job, const char *name) {
+  const char *const value = job.get(name);
+  return value != nullptr ? value : "";
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
+  const std::string when(reinterpret_cast<const char *>(data), size);
+  const auto expected = expectedHold(when);
+  PrintSettingsStore job;
+  try {
+    for (const std::string &option : imageposition::optionsForHold(when))
+      imageposition::readOptionArgument(option, job);
+    check(expected.has_value(), "a time that CUPS does not know is refused");
+    checkSame(valueOf(job, "job-hold-until"), expected->until, "the job is held until then");
+    checkSame(valueOf(job, "job-priority"), expected->priority, "only \"immediate\" is urgent");
+  } catch (const imageposition::Failure &failure) {
+    check(!expected, "a time that CUPS knows is taken");
+    check(failure.code() == imageposition::ExitCode::Usage && *failure.what() != '\0',
+          "what is wrong with a time is said");
+  }
+  return 0;
+}

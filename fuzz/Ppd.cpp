@@ -1,0 +1,78 @@
+// Printer descriptions: all that the dialog does with one, for a job that stands in its comments:
+//
+//   *%job Duplex=DuplexTumble LeftRightMargin=-12
+//   *%locked MediaType=Plain
+#include "fuzz/PpdChecks.hpp"
+
+#include "fuzz/CheckText.hpp"
+#include "fuzz/MemoryFile.hpp"
+#include "host/ExitCode.hpp"
+#include "host/OptionText.hpp"
+
+#include <cstdlib>
+#include <optional>
+#include <sstream>
+
+using imageposition::Failure;
+using imageposition::PrinterDescription;
+using imageposition::PrintSettingsStore;
+using namespace imageposition::fuzz;
+
+namespace {
+
+void addSettings(const std::string &text, bool locked, PrintSettingsStore &job) {
+  PrintSettingsStore settings;
+  try {
+    imageposition::readOptionArgument(text, settings);
+  } catch (const Failure &) {
+    return; // which the fuzzer `options` is for
+  }
+  for (int i = 0; i < settings.optionCount(); ++i)
+    job.set(settings.options()[i].name, settings.options()[i].value, locked);
+}
+
+PrintSettingsStore jobIn(const std::string &ppd) {
+  PrintSettingsStore job;
+  std::istringstream lines(ppd);
+  for (std::string line; std::getline(lines, line);)
+    for (const std::string start : {"*%job ", "*%locked "})
+      if (line.compare(0, start.size(), start) == 0)
+        addSettings(line.substr(start.size()), start == "*%locked ", job);
+  return job;
+}
+
+std::optional<PrinterDescription> read(const std::string &ppd) {
+  try {
+    const MemoryFile file(ppd);
+    return PrinterDescription::fromFile(file.path());
+  } catch (const Failure &failure) {
+    check(failure.code() == imageposition::ExitCode::Printer, "it is the printer's fault");
+    checkWords(failure.what(), "what is wrong with a description");
+    return std::nullopt;
+  }
+}
+
+} // namespace
+
+// libcups forgets a text that a description gives twice, such as "JCLBegin".
+extern "C" const char *__lsan_default_suppressions() { return "leak:_ppdOpen\n"; }
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***) {
+  setenv("LANG", "de_DE.UTF-8", 1); // for descriptions with texts in several languages
+  return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
+  const std::string ppd(reinterpret_cast<const char *>(data), size);
+  auto printer = read(ppd);
+  if (!printer)
+    return 0;
+  checkWords(printer->name(), "a printer's name");
+  const PrintSettingsStore job = jobIn(ppd);
+  checkOptions(*printer, job);
+  checkConflicts(*printer, job);
+  checkEntries(*printer, job);
+  checkPicture(*printer, job);
+  checkRequest(*printer, job);
+  return 0;
+}

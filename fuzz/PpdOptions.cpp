@@ -1,0 +1,165 @@
+// Options of any description: texts for people, choices that can be chosen, conflicts that end.
+#include "fuzz/CheckText.hpp"
+#include "fuzz/PpdChecks.hpp"
+#include "host/EntryCheck.hpp"
+#include "host/OptionConflicts.hpp"
+#include "host/OptionList.hpp"
+#include "host/PresetFit.hpp"
+
+#include <strings.h>
+
+namespace imageposition::fuzz {
+
+namespace {
+
+bool isSame(const std::string &left, const std::string &right) {
+  return strcasecmp(left.c_str(), right.c_str()) == 0;
+}
+
+std::string stored(const PrintSettingsStore &job, const std::string &keyword) {
+  const char *const value = job.get(keyword);
+  return value != nullptr ? value : "";
+}
+
+std::string optionText(const PrintSettingsStore &job) {
+  std::string text;
+  for (int i = 0; i < job.optionCount(); ++i)
+    text += std::string(job.options()[i].name) + "=" + job.options()[i].value + "\n";
+  return text;
+}
+
+void checkChoice(PrinterDescription &printer, const PrintSettingsStore &job,
+                 const PrinterOption &option, const OptionChoice &choice) {
+  const std::string what = option.keyword + " " + choice.keyword;
+  PrintSettingsStore trial = job;
+  PrinterOptions options(printer, trial);
+  const bool isChosen = options.choose(option.keyword, choice.keyword);
+  check(isChosen == !option.isLocked, "a choice that is listed can be chosen: " + what);
+  if (!isChosen)
+    return checkSame(optionText(trial), optionText(job), "what is locked stays");
+  const auto after = options.find(option.keyword);
+  check(after && after->isChosen(choice.keyword), "what was chosen holds: " + what);
+  check(isSame(stored(trial, option.keyword), choice.keyword) ||
+            (stored(trial, option.keyword).empty() && isSame(after->defaultChoice, choice.keyword)),
+        "the job has what was chosen, or the default holds: " + what);
+  check(misfitOf(printer.ppd(), option.keyword, choice.keyword, false).empty(),
+        "what was chosen fits the printer: " + what);
+}
+
+void checkTicks(PrinterDescription &printer, const PrintSettingsStore &job,
+                const PrinterOption &option, const OptionChoice &choice) {
+  for (const bool on : {true, false}) {
+    PrintSettingsStore trial = job;
+    PrinterOptions options(printer, trial);
+    check(options.tick(option.keyword, choice.keyword, on) == !option.isLocked,
+          "a box can be ticked and emptied: " + choice.keyword);
+    const auto after = options.find(option.keyword);
+    check(option.isLocked || isNone(choice.keyword) || after->isChosen(choice.keyword) == on,
+          "a box is as it was left: " + choice.keyword);
+  }
+}
+
+/// Else the job's own value, for an option that takes some.
+bool isOfDescription(PrinterDescription &printer, const PrinterOption &option,
+                     const OptionChoice &choice) {
+  ppd_option_t *const source = ppdFindOption(printer.ppd(), option.keyword.c_str());
+  return !option.takesCustomValue ||
+         (!isEnteredValue(choice.keyword) && ppdFindChoice(source, choice.keyword.c_str()));
+}
+
+void checkOption(PrinterDescription &printer, const PrintSettingsStore &job,
+                 const PrinterOption &option) {
+  checkWords(option.text, "an option's text");
+  check(option.isLocked == job.isLocked(option.keyword), "what the job locks is locked");
+  checkLine(option.textOf(option.chosen), "the text of what is chosen");
+  checkLine(option.textOf(option.defaultChoice), "the text of the default");
+  for (const OptionChoice &choice : option.choices) {
+    checkWords(choice.text, "a choice's text");
+    if (!isOfDescription(printer, option, choice))
+      continue; // entered, whether or not the printer takes it
+    checkChoice(printer, job, option, choice);
+    if (option.kind == PrinterOption::Kind::Several)
+      checkTicks(printer, job, option, choice);
+  }
+}
+
+std::size_t linesFor(const std::vector<OptionGroup> &groups) {
+  std::size_t lines = groups.size();
+  for (const OptionGroup &group : groups)
+    for (const PrinterOption &option : group.options)
+      lines += 1 + option.choices.size() + (option.takesCustomValue ? 1 : 0);
+  return lines;
+}
+
+/// A list of lines, each of which can be shown.
+void checkList(const std::string &list, std::size_t lines) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < list.size(); ++count) {
+    const std::size_t end = list.find('\n', at);
+    check(end != std::string::npos, "every line ends");
+    checkLine(list.substr(at, end - at), "a line of the list");
+    at = end + 1;
+  }
+  check(count == lines, "a line for each group, option and choice");
+}
+
+std::size_t violationsKnownToCups(PrinterDescription &printer, const PrintSettingsStore &job) {
+  printer.mark(job);
+  return static_cast<std::size_t>(ppdConflicts(printer.ppd()));
+}
+
+void checkProposal(PrinterDescription &printer, const PrintSettingsStore &job,
+                   const std::string &chosenLast) {
+  PrintSettingsStore trial = job;
+  OptionConflicts conflicts(printer, trial);
+  const auto proposal = conflicts.proposal(chosenLast);
+  checkSame(optionText(trial), optionText(job), "a proposal changes nothing");
+  if (!proposal)
+    return;
+  check(!proposal->changes.empty(), "a proposal changes something");
+  checkWords(proposal->sentence, "a proposal's sentence");
+  const auto before = PrinterOptions(printer, trial).find(chosenLast);
+  check(conflicts.take(*proposal), "a proposal can be taken");
+  check(conflicts.find().empty(), "no conflict is left");
+  check(violationsKnownToCups(printer, trial) == 0, "none is left for CUPS either");
+  const auto after = PrinterOptions(printer, trial).find(chosenLast);
+  check(!before || before->kind == PrinterOption::Kind::Several || before->chosen == after->chosen,
+        "what was chosen last stays: " + chosenLast);
+  for (int i = 0; i < job.optionCount(); ++i)
+    if (job.isLocked(job.options()[i].name))
+      checkSame(stored(trial, job.options()[i].name), job.options()[i].value,
+                "what is locked stays");
+}
+
+} // namespace
+
+void checkOptions(PrinterDescription &printer, const PrintSettingsStore &job) {
+  PrintSettingsStore own = job;
+  PrinterOptions options(printer, own);
+  const auto groups = options.listed({});
+  for (const OptionGroup &group : groups) {
+    checkWords(group.text, "a group's text");
+    check(!group.options.empty(), "a group that is listed has options");
+    for (const PrinterOption &option : group.options)
+      checkOption(printer, job, option);
+  }
+  checkList(writeOptionList(groups), linesFor(groups));
+  checkSame(writeOptionList(options.listed({})), writeOptionList(groups),
+            "what was tried and undone leaves nothing");
+  checkSame(optionText(own), optionText(job), "listing changes nothing");
+}
+
+void checkConflicts(PrinterDescription &printer, const PrintSettingsStore &job) {
+  PrintSettingsStore own = job;
+  ppdLocalize(printer.ppd());
+  const auto found = OptionConflicts(printer, own).find();
+  check(found.empty() == (violationsKnownToCups(printer, job) == 0),
+        "there are conflicts where CUPS sees some");
+  for (const OptionConflict &conflict : found)
+    checkWords(conflict.sentence, "a conflict's sentence");
+  checkProposal(printer, job, "");
+  for (int i = 0; i < job.optionCount(); ++i)
+    checkProposal(printer, job, job.options()[i].name);
+}
+
+} // namespace imageposition::fuzz

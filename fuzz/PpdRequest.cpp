@@ -1,0 +1,153 @@
+// Values that are entered for the options of any description, and what CUPS is sent of a job.
+#include "fuzz/CheckText.hpp"
+#include "fuzz/MemoryFile.hpp"
+#include "fuzz/PpdChecks.hpp"
+#include "host/EntryCheck.hpp"
+#include "host/ExitCode.hpp"
+#include "host/JobRequest.hpp"
+#include "host/JobSummary.hpp"
+#include "host/PrinterOptions.hpp"
+
+#include <memory>
+#include <strings.h>
+
+namespace imageposition::fuzz {
+
+namespace {
+
+using Ipp = std::unique_ptr<ipp_t, decltype(&ippDelete)>;
+
+/// An entry that the parameter should take: its lower end, or a text of as many letters.
+std::string smallestEntry(const CustomParameter &parameter) {
+  if (!parameter.isText())
+    return initialEntry(parameter, LengthUnit::Point);
+  const double letters = std::min(std::max(parameter.minimum, 0.0), 1000.0);
+  return std::string(static_cast<std::size_t>(letters), '7');
+}
+
+void checkParameter(const CustomParameter &parameter) {
+  checkWords(parameter.text, "a parameter's text");
+  check(parameter.minimum <= parameter.maximum, "a parameter's range is not empty");
+  for (const LengthUnit unit : {LengthUnit::Millimetre, LengthUnit::Inch, LengthUnit::Point}) {
+    checkWords(rangeText(parameter, unit), "a range");
+    checkLine(initialEntry(parameter, unit), "where a field starts");
+  }
+  for (const std::string typed : {"", "x", "1e999", "-99999999999", "99999999999", "{"})
+    checkLine(checkEntry(parameter, typed, LengthUnit::Inch).problem, "what is wrong with it");
+}
+
+/// What a person gets who changes nothing in the fields.
+void checkEntered(PrinterDescription &printer, const PrintSettingsStore &job,
+                  const PrinterOption &option) {
+  CustomEntries entries;
+  for (const CustomParameter &parameter : option.custom->parameters) {
+    checkParameter(parameter);
+    const CheckedEntry checked = checkEntry(parameter, smallestEntry(parameter), LengthUnit::Point);
+    if (!checked.problem.empty())
+      return checkLine(checked.problem, "what is wrong with an entry");
+    entries.push_back(checked.entry);
+  }
+  const std::string value = writeCustomValue(*option.custom, entries);
+  checkSame(customValueProblem(*option.custom, value), "", "entries make a value that is taken");
+  PrintSettingsStore trial = job;
+  PrinterOptions options(printer, trial);
+  check(options.choose(option.keyword, value) == !option.isLocked,
+        "a value can be entered: " + option.keyword + " " + value);
+  const auto after = options.find(option.keyword);
+  check(option.isLocked || after->isChosen(value), "what was entered holds: " + value);
+  checkWords(after->textOf(after->chosen), "an entered value's text");
+}
+
+/// As CUPS receives it.
+Ipp sentAndReceived(const JobRequest &request, const PrintSettingsStore &options) {
+  const Ipp sent(newJobRequest(request, options), ippDelete);
+  const MemoryFile file("");
+  check(ippWriteFile(file.descriptor(), sent.get()) == IPP_STATE_DATA, "a request can be sent");
+  lseek(file.descriptor(), 0, SEEK_SET);
+  Ipp received(ippNew(), ippDelete);
+  check(ippReadFile(file.descriptor(), received.get()) == IPP_STATE_DATA, "and received");
+  return received;
+}
+
+/// Names without one are CUPS's, which may have a type and several values.
+bool hasCapital(const std::string &name) {
+  return std::any_of(name.begin(), name.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
+}
+
+std::string valueIn(ipp_attribute_t *attribute) {
+  if (ippGetValueTag(attribute) == IPP_TAG_BOOLEAN)
+    return ippGetBoolean(attribute, 0) ? "true" : "false";
+  const char *const text = ippGetString(attribute, 0, nullptr);
+  return text != nullptr ? text : ippTagString(ippGetValueTag(attribute));
+}
+
+/// Of an option that is not the printer's, such as a panel's or an IPP printer's.
+bool isForeignCollection(const JobRequest &request, const cups_option_t &option) {
+  return option.value[0] == '{' && std::none_of(request.compounds.begin(), request.compounds.end(),
+                                                [&](const std::string &name) {
+                                                  return strcasecmp(name.c_str(), option.name) == 0;
+                                                });
+}
+
+void checkReceived(ipp_t *request, const cups_option_t &option) {
+  ipp_attribute_t *attribute = ippFirstAttribute(request); // ippFindAttribute divides at "/"
+  while (attribute != nullptr &&
+         (ippGetName(attribute) == nullptr || strcasecmp(ippGetName(attribute), option.name) != 0))
+    attribute = ippNextAttribute(request);
+  check(attribute != nullptr, std::string("the request has the option ") + option.name);
+  check(ippGetCount(attribute) == 1, std::string("an option has one value: ") + option.name);
+  const std::string value = valueIn(attribute);
+  if (ippGetValueTag(attribute) == IPP_TAG_BOOLEAN)
+    check(strcasecmp(value.c_str(), option.value) == 0, "a truth value stays what it was");
+  else
+    checkSame(value, option.value, std::string("the option as it was, ") + option.name);
+}
+
+void checkSummary(const SummarySection &section) {
+  checkWords(section.panelName, "a heading");
+  for (const SummaryLine &line : section.lines) {
+    checkWords(line.title, "a title of the summary");
+    check(isWellFormed(line.value), "a value of the summary is UTF-8"); // the job's, as it is
+  }
+}
+
+JobRequest requestFor(PrinterDescription &printer, const PrintSettingsStore &job) {
+  JobRequest request;
+  request.printer = "office";
+  request.title = "A document";
+  request.settings = job;
+  request.secrets = hiddenSettings(printer.ppd(), job);
+  request.compounds = compoundOptions(printer.ppd());
+  return request;
+}
+
+} // namespace
+
+void checkEntries(PrinterDescription &printer, const PrintSettingsStore &job) {
+  PrintSettingsStore own = job;
+  for (const OptionGroup &group : PrinterOptions(printer, own).listed({}))
+    for (const PrinterOption &option : group.options)
+      if (option.custom)
+        checkEntered(printer, job, option);
+}
+
+void checkRequest(PrinterDescription &printer, const PrintSettingsStore &job) {
+  const JobRequest request = requestFor(printer, job);
+  PrintSettingsStore own = job;
+  checkSummary(jobSection(printer.name(), {"report.pdf"}, job));
+  checkSummary(optionSection(printer, own, {}));
+  checkSummary(sentSection(request));
+  try {
+    const PrintSettingsStore options = optionsToSend(request);
+    const Ipp known = sentAndReceived(request, options);
+    for (int i = 0; i < options.optionCount(); ++i)
+      if (hasCapital(options.options()[i].name) &&
+          !isForeignCollection(request, options.options()[i]))
+        checkReceived(known.get(), options.options()[i]);
+    check(isWellFormed(writeRequestText(request)), "the request's text is UTF-8");
+  } catch (const Failure &failure) {
+    checkWords(failure.what(), "why a job cannot be sent");
+  }
+}
+
+} // namespace imageposition::fuzz
