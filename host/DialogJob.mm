@@ -107,7 +107,7 @@ void writeToOutput(const std::string &settings) {
   std::cout.flush(); // which shows what it is given
   if (std::fwrite(settings.data(), 1, settings.size(), stdout) != settings.size() ||
       std::fflush(stdout) != 0)
-    throw Failure(ExitCode::Ticket, messages::kOutputUnwritable);
+    throw Failure(ExitCode::Ticket, messages::outputUnwritable({}));
 }
 
 /// False for a choice or a value of another printer's, which this one does not take.
