@@ -149,8 +149,8 @@ std::string pageSizeText(const CustomEntries &entries) {
 std::optional<CustomEntries> entriesOf(const CustomOption &option, const std::string &value) {
   if (hasPrefix(value)) {
     std::string entry = value.substr(kPrefixLength);
-    if (option.isPageSize)
-      return readPageSize(entry);
+    if (option.isPageSize) // which CUPS finds in this spelling alone
+      return value.compare(0, kPrefixLength, kPrefix) == 0 ? readPageSize(entry) : std::nullopt;
     CustomEntries entries(option.parameters.size());
     entries.front() = std::move(entry); // as CUPS reads it
     return entries;

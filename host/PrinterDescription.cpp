@@ -6,6 +6,7 @@
 #include "host/Messages.hpp"
 #include "host/PpdSize.hpp"
 
+#include <algorithm>
 #include <cerrno>
 #include <ctime>
 #include <sys/stat.h>
@@ -94,6 +95,12 @@ PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, s
        option = ppdNextOption(ppd_.get()))
     if (option->ui == PPD_UI_PICKMANY)
       lists_.push_back(option);
+  // Of an option that the PPD has in several groups CUPS marks that which it finds. (To find one
+  // ends the walk above.)
+  const auto isOther = [this](const ppd_option_t *option) {
+    return ppdFindOption(ppd_.get(), option->keyword) != option;
+  };
+  lists_.erase(std::remove_if(lists_.begin(), lists_.end(), isOther), lists_.end());
 }
 
 std::unique_ptr<ppd_file_t, PrinterDescription::Close>

@@ -107,6 +107,35 @@ TEST(RepeatedChoices, AreListedAndSentOnce) {
   EXPECT_THAT(settings.get("Finishing"), StrEq("Staple"));
 }
 
+TEST(RepeatedOption, IsNoListWhereOnlyTheOneThatCupsDoesNotFindIs) {
+  auto repeating = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenUI *MediaType/Kind of Paper: PickOne
+*MediaType Plain/Plain Paper: ""
+*CloseUI: *MediaType
+*OpenUI *Finishing/Finishing: PickOne
+*DefaultFinishing: None
+*Finishing None/None: ""
+*Finishing Fold/Fold: ""
+*CloseUI: *Finishing
+*OpenGroup: Finisher/Finisher
+*OpenUI *Finishing/Finishing: PickMany
+*DefaultFinishing: Punch
+*Finishing Punch/Punch: ""
+*CloseUI: *Finishing
+*OpenUI *Stapler/Staple: Boolean
+*Stapler True/Yes: ""
+*CloseUI: *Stapler
+*CloseGroup: Finisher
+)ppd");
+  PrintSettingsStore settings;
+  PrinterOptions options(repeating, settings);
+  ASSERT_EQ(options.find("Finishing")->kind, PrinterOption::Kind::List);
+  for (const char *choice : {"Fold", "None"}) {
+    EXPECT_TRUE(options.choose("Finishing", choice));
+    EXPECT_EQ(options.find("Finishing")->chosen, choice);
+  }
+}
+
 TEST_F(ListOption, IsEmptyWhereThereIsNoChoiceForNone) {
   ppd_option_t &option = *ppdFindOption(printer.ppd(), "Finishing");
   EXPECT_THAT(withChoice(option, {"Punch"}, "Punch", false), ElementsAre("None"));

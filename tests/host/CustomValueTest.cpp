@@ -124,6 +124,14 @@ TEST_F(CustomValue, OfARealNumberCanBeEachEndOfItsRange) {
 }
 
 /// What is written is what CUPS marks.
+TEST_F(CustomValue, OfThePageIsReadInCupsOwnSpellingAlone) {
+  const auto size = customOption(printer.ppd(), "PageSize");
+  ASSERT_TRUE(size);
+  EXPECT_TRUE(readCustomValue(*size, "Custom.100x200mm"));
+  EXPECT_EQ(ppdPageSize(printer.ppd(), "custom.100x200mm"), nullptr) << "CUPS finds no such size";
+  EXPECT_FALSE(readCustomValue(*size, "custom.100x200mm"));
+}
+
 TEST_F(CustomValue, IsUnderstoodByCups) {
   PrintSettingsStore job;
   job.set("PageSize", writeCustomValue(option("PageSize"), {"100mm", "200mm"}));
