@@ -1,6 +1,6 @@
 #include "host/CupsConnection.hpp"
 
-#include "host/ForeignText.hpp"
+#include "host/VisibleText.hpp"
 
 #include <cstring>
 #include <sys/socket.h>
@@ -43,7 +43,7 @@ std::string cupsReason() {
   const std::string reason = cupsLastErrorString();
   // What is said of an answer that is not whole.
   const bool isNone = reason == ippErrorString(IPP_STATUS_OK) || reason == std::strerror(0);
-  return isNone ? "" : onOneLine(reason);
+  return isNone ? "" : visible(reason);
 }
 
 } // namespace imageposition

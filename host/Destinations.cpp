@@ -1,10 +1,10 @@
 #include "host/Destinations.hpp"
 
 #include "host/CupsConnection.hpp"
-#include "host/ForeignText.hpp"
 #include "host/JobMessages.hpp"
 #include "host/OptionMessages.hpp"
 #include "host/PasswordQuestion.hpp"
+#include "host/VisibleText.hpp"
 
 #include <algorithm>
 #include <atomic>
@@ -130,7 +130,7 @@ std::string reasonForNone(bool isTooLate) {
 }
 
 /// A name is shown and sent to CUPS, and so must be the same in both places.
-bool isShowable(const std::string &name) { return !name.empty() && onOneLine(name) == name; }
+bool isShowable(const std::string &name) { return !name.empty() && visible(name) == name; }
 
 bool hasSameOptions(const PrintSettingsStore &left, const PrintSettingsStore &right) {
   return std::equal(left.options(), left.options() + left.optionCount(), right.options(),
@@ -147,13 +147,13 @@ Destination toDestination(const cups_dest_t &dest) {
   Destination destination;
   destination.name = dest.name;
   destination.instance = dest.instance != nullptr ? dest.instance : "";
-  destination.description = onOneLine(optionOf(dest, "printer-info"));
-  destination.location = onOneLine(optionOf(dest, "printer-location"));
-  destination.uri = onOneLine(optionOf(dest, "printer-uri-supported"));
+  destination.description = visible(optionOf(dest, "printer-info"));
+  destination.location = visible(optionOf(dest, "printer-location"));
+  destination.uri = visible(optionOf(dest, "printer-uri-supported"));
   destination.state = stateOf(dest);
   destination.acceptsJobs = optionOf(dest, "printer-is-accepting-jobs") != "false";
   destination.stateText =
-      stateInWords(destination, onOneLine(optionOf(dest, "printer-state-reasons")));
+      stateInWords(destination, visible(optionOf(dest, "printer-state-reasons")));
   destination.isDefault = dest.is_default != 0;
   for (int i = 0; i < dest.num_options; i++)
     if (!isAboutPrinter(dest.options[i].name))

@@ -2,9 +2,9 @@
 
 #include "host/ChoiceList.hpp"
 #include "host/ExitCode.hpp"
-#include "host/ForeignText.hpp"
 #include "host/Messages.hpp"
 #include "host/PpdSize.hpp"
+#include "host/VisibleText.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -38,7 +38,7 @@ mode_t kindOf(const std::string &path) {
 std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
   for (const char *name : {ppd.nickname, ppd.modelname})
     if (name != nullptr && *name != '\0')
-      return onOneLine(name);
+      return visible(name);
   return otherwise;
 }
 
@@ -142,7 +142,7 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
     if (!isCupsReachable())
       throw Failure(ExitCode::Printer, messages::cupsUnreachable(cupsServer(), queue));
     throw Failure(ExitCode::Printer,
-                  messages::queueWithoutPpd(queue, onOneLine(cupsLastErrorString())));
+                  messages::queueWithoutPpd(queue, visible(cupsLastErrorString())));
   }
   const TemporaryFile owner(file);
   PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);

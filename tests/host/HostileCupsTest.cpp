@@ -86,9 +86,9 @@ TEST_F(HostileCups, CanSayNothingOfAPrinterThatATerminalObeys) {
       printers(printer("41 printer-info Big \xFF\x1B[31m\n41 printer-location \xC2\x9B"
                        "5n\n44 printer-state-reasons odd\x07\xFE\n"));
   ASSERT_THAT(list.destinations, SizeIs(1));
-  EXPECT_EQ(list.destinations[0].description, "Big \uFFFD [31m");
-  EXPECT_EQ(list.destinations[0].location, " 5n");
-  EXPECT_EQ(list.destinations[0].stateText, "Ready: odd \uFFFD");
+  EXPECT_EQ(list.destinations[0].description, "Big \uFFFD\\x1b[31m");
+  EXPECT_EQ(list.destinations[0].location, "\\x9b5n");
+  EXPECT_EQ(list.destinations[0].stateText, "Ready: odd\\x07\uFFFD");
 }
 
 TEST_F(HostileCups, APrinterWhoseNameCannotBeShownIsLeftOut) {
@@ -102,7 +102,7 @@ TEST_F(HostileCups, APrinterWhoseNameCannotBeShownIsLeftOut) {
 TEST_F(HostileCups, ARefusalIsOneLineOfUtf8) {
   EXPECT_THAT(
       refusal(printer() + "answer 200 0005\nipp 0500\n01\n41 status-message Broken\x1B[2J \xFF.\n"),
-      HasSubstr("(Broken [2J \uFFFD)"));
+      HasSubstr("(Broken\\x1b[2J \uFFFD)"));
   EXPECT_THAT(with("answer 200 0\nipp 0406\n01\n41 status-message Broken\x1B[2J \xFF.\n",
                    [] {
                      try {
@@ -112,7 +112,7 @@ TEST_F(HostileCups, ARefusalIsOneLineOfUtf8) {
                      }
                      return std::string();
                    }),
-              HasSubstr("\"office\": Broken [2J \uFFFD."));
+              HasSubstr("\"office\": Broken\\x1b[2J \uFFFD."));
 }
 
 TEST_F(HostileCups, AJobWithoutANumberIsNotTakenAndNotForSuccess) {

@@ -73,12 +73,12 @@ TEST_F(Output, ShowsControlCharactersOfNamesAsEscapes) {
 TEST_F(Output, OfSettingsIsExactForAProgramAndHarmlessOnATerminal) {
   const std::string note = "Note=a\x1b[2Jb";
   const auto exact = batch(shift, {"-o", note});
-  EXPECT_THAT(exact.output, HasSubstr(note + "\n"));
+  EXPECT_THAT(exact.output, HasSubstr("Note=\"a\x1b[2Jb\"\n"));
   const auto shown = runProcess(
       {"script", "-qec", PRINT_DIALOG " --batch --ppd " + shift + " -o \"$NOTE\"", "/dev/null"},
       {"NOTE=" + note});
   EXPECT_EQ(shown.status, kDone) << testing::PrintToString(shown);
-  EXPECT_THAT(shown.output, HasSubstr("Note=a\\x1b[2Jb"));
+  EXPECT_THAT(shown.output, HasSubstr("Note=\"a\\x1b[2Jb\""));
   EXPECT_THAT(shown.output, Not(HasSubstr("\x1b[2J")));
 }
 

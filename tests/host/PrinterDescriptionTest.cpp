@@ -42,7 +42,7 @@ TEST(PrinterDescription, NamesThePrinterOnOneLineOfUtf8) {
   const auto printer = PrinterDescription::fromFile(
       folder.write("a.ppd", "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*NickName: \"Sample\n"
                             "\xFF\x1B[2J\"\n"));
-  EXPECT_EQ(printer.name(), "Sample \uFFFD [2J");
+  EXPECT_EQ(printer.name(), "Sample\\n\uFFFD\\x1b[2J");
 }
 
 TEST(PrinterDescription, ThePrintersDefaultsAreMarked) {
