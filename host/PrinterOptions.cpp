@@ -185,15 +185,15 @@ std::string PrinterOption::textOf(const std::string &choice) const {
         (!isEnteredValue(choice) && isSame(candidate.keyword, choice)))
       return candidate.text;
   if (custom && readCustomValue(*custom, choice))
-    return messages::enteredValue(customValueText(*custom, choice));
+    return messages::enteredValue(onOneLine(customValueText(*custom, choice)));
   if (kind != Kind::Several)
-    return choice;
+    return onOneLine(choice);
   std::string texts;
   for (const std::string &one : splitChoices(choice)) {
     const auto known = std::find_if(choices.begin(), choices.end(), [&](const OptionChoice &other) {
       return isSame(other.keyword, one);
     });
-    const std::string &name = known != choices.end() ? known->text : one;
+    const std::string name = known != choices.end() ? known->text : onOneLine(one);
     texts = texts.empty() ? name : messages::inOrder(texts, name);
   }
   return texts.empty() ? messages::kNothingChosen.str() : texts;

@@ -88,6 +88,12 @@ TEST_F(PrinterOptionsTest, AValueOfOnesOwnCanBeThePrintersDefault) {
   EXPECT_EQ(watermark.textOf(watermark.chosen), "Custom: Ours");
 }
 
+TEST_F(PrinterOptionsTest, AnEnteredValueIsReadOnOneLine) {
+  job.set("Watermark", "Custom.a\x1B[2Jb");
+  EXPECT_EQ(option("Watermark").textOf(option("Watermark").chosen), "Custom: a [2Jb");
+  EXPECT_EQ(option("Duplex").textOf("un\nknown"), "un known");
+}
+
 TEST_F(PrinterOptionsTest, AnEntryWithoutItsValueIsNoOtherChoice) {
   job.set("Watermark", "Custom");
   const PrinterOption watermark = option("Watermark");
