@@ -10,7 +10,7 @@ namespace {
 std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {
   const bool isHidden =
       option.custom && option.custom->hasHidden() && isEnteredValue(choice.keyword);
-  return isHidden ? kHiddenValue : choice.keyword;
+  return isHidden ? kHiddenValue : onOneLine(choice.keyword);
 }
 
 /// Also of a value that no window can ask for, since the PPD does not say within which limits.
