@@ -39,10 +39,10 @@ bool isUsable(ppd_file_t *ppd, const ppd_option_t &option) {
          ppdFindOption(ppd, option.keyword) == &option;
 }
 
-/// In a list of choices a comma ends one.
+/// Whether a job can say it: in a list of choices a comma ends one.
 bool isUsable(const ppd_choice_t &choice, PrinterOption::Kind kind) {
-  return kind != PrinterOption::Kind::Several ||
-         splitChoices(choice.choice) == ChoiceList{choice.choice};
+  return *choice.choice != '\0' && (kind != PrinterOption::Kind::Several ||
+                                    splitChoices(choice.choice) == ChoiceList{choice.choice});
 }
 
 bool hasChoice(const PrinterOption &option, const std::string &keyword) {

@@ -268,6 +268,7 @@ TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
 *DefaultTray: One
 *Tray One/One: ""
 *Tray Th,ree/Three: ""
+*Tray :Nameless: ""
 *CloseUI: *Tray
 )ppd");
   PrintSettingsStore job;
