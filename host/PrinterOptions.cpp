@@ -99,7 +99,7 @@ public:
   void addGroup(const ppd_group_t &source, std::vector<OptionGroup> &groups) const {
     OptionGroup group{
         textOrKeyword(source.name, source.text), textOrKeyword(source.text, source.name), {}};
-    if (group.text == "General")
+    if (group.text.empty() || group.text == "General")
       group.text = messages::kGeneralGroup;
     for (int i = 0; i < source.num_options; i++)
       if (isUsable(ppd_, source.options[i]))

@@ -283,4 +283,17 @@ TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
   EXPECT_EQ(listed, "Finishing=None Tray=One Tray=Th,ree ");
 }
 
+TEST(PrinterOptions, AGroupWithoutANameIsGeneral) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenGroup: /
+*OpenUI *Tray/Tray: PickOne
+*Tray One/One: ""
+*CloseUI: *Tray
+)ppd");
+  PrintSettingsStore job;
+  const auto groups = PrinterOptions(printer, job).all();
+  ASSERT_EQ(groups.size(), 1u);
+  EXPECT_EQ(groups[0].text, "General");
+}
+
 } // namespace
