@@ -82,7 +82,7 @@ constexpr const char kPpd[] = R"ppd(*PPD-Adobe: "4.3"
 *ParamCustomSecret Password: 4 password 2 16
 )ppd";
 
-constexpr double kTolerance = 0.01; // points; libcups calculates with float
+constexpr double kTolerance = 0.04; // points: half of a thousandth of an inch, and float
 
 double numberOf(const std::string &entry) {
   return imageposition::readNumber(entry).value_or(std::nan(""));

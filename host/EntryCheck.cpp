@@ -79,12 +79,19 @@ bool isWithin(const CustomParameter &parameter, double number) {
          rounded <= static_cast<float>(parameter.maximum);
 }
 
+/// Of a number's text: as CUPS reads it digit by digit, however it would be rounded.
+bool isWhole(const std::string &number) {
+  const std::size_t point = number.find_first_of(".,");
+  return point == std::string::npos ||
+         number.find_first_not_of("0 \t", point + 1) == std::string::npos;
+}
+
 CheckedEntry checkNumber(const CustomParameter &parameter, const std::string &typed) {
   const auto number = readNumber(typed);
   const std::string range = rangeText(parameter, LengthUnit::Point);
   if (!number)
     return {"", messages::entryNoNumber(parameter.text, range)};
-  if (parameter.kind == Kind::Integer && *number != std::floor(*number))
+  if (parameter.kind == Kind::Integer && !isWhole(typed))
     return {"", messages::entryNotWhole(parameter.text, range)};
   if (!isWithin(parameter, *number))
     return {"", messages::entryOutOfRange(parameter.text, range)};

@@ -3,6 +3,7 @@
 #include "host/EntryCheck.hpp"
 #include "host/ForeignText.hpp"
 #include "host/OptionMessages.hpp"
+#include "host/VisibleText.hpp"
 #include "host/WindowTexts.hpp"
 
 #include <algorithm>
@@ -32,10 +33,10 @@ bool isUsable(ppd_file_t *ppd, const ppd_option_t &option) {
          ppdFindOption(ppd, option.keyword) == &option;
 }
 
-/// In a list of choices a comma ends one.
+/// Whether a job can say it: in a list of choices a comma ends one.
 bool isUsable(const ppd_choice_t &choice, PrinterOption::Kind kind) {
-  return kind != PrinterOption::Kind::Several ||
-         splitChoices(choice.choice) == ChoiceList{choice.choice};
+  return *choice.choice != '\0' && (kind != PrinterOption::Kind::Several ||
+                                    splitChoices(choice.choice) == ChoiceList{choice.choice});
 }
 
 bool hasChoice(const PrinterOption &option, const std::string &keyword) {
@@ -76,7 +77,7 @@ public:
   void addGroup(const ppd_group_t &source, std::vector<OptionGroup> &groups) const {
     OptionGroup group{
         textOrKeyword(source.name, source.text), textOrKeyword(source.text, source.name), {}};
-    if (group.text == "General")
+    if (group.text.empty() || group.text == "General")
       group.text = messages::kGeneralGroup;
     for (int i = 0; i < source.num_options; i++)
       if (isUsable(ppd_, source.options[i]))
@@ -159,9 +160,9 @@ std::string PrinterOption::textOf(const std::string &choice) const {
         (!isEnteredValue(choice) && isSame(candidate.keyword, choice)))
       return candidate.text;
   if (custom && readCustomValue(*custom, choice))
-    return messages::enteredValue(customValueText(*custom, choice));
+    return messages::enteredValue(visible(customValueText(*custom, choice)));
   if (kind != Kind::Several)
-    return choice;
+    return visible(choice);
   return textOfSeveral(splitChoices(choice));
 }
 
@@ -172,7 +173,7 @@ std::string PrinterOption::textOfSeveral(const ChoiceList &list) const {
   std::vector<std::string> names;
   for (const std::string &one : list) {
     const auto known = texts.find(one);
-    names.push_back(known != texts.end() ? *known->second : one);
+    names.push_back(known != texts.end() ? *known->second : visible(one));
   }
   return names.empty() ? messages::kNothingChosen.str() : messages::inOrder(names);
 }

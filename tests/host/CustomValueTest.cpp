@@ -132,6 +132,14 @@ TEST_F(CustomValue, OfThePageIsReadInCupsOwnSpellingAlone) {
   EXPECT_FALSE(readCustomValue(*size, "custom.100x200mm"));
 }
 
+/// As a floating-point number it would be 9, and CUPS takes 8.
+TEST_F(CustomValue, OfAWholeNumberIsNoneThatOnlyRoundsToOne) {
+  const CustomOption holes = option("Holes");
+  EXPECT_EQ(customValueProblem(holes, "Custom.9.00"), "");
+  EXPECT_NE(customValueProblem(holes, "Custom.8.99999999999999999999"), "");
+  EXPECT_NE(check("Holes", "8,99999999999999999999").problem, "");
+}
+
 TEST_F(CustomValue, IsUnderstoodByCups) {
   PrintSettingsStore job;
   job.set("PageSize", writeCustomValue(option("PageSize"), {"100mm", "200mm"}));

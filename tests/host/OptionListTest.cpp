@@ -61,8 +61,10 @@ TEST(OptionList, HidesAPasswordThatTheJobHas) {
 TEST(OptionList, KeepsATextWithLineBreaksOnItsLine) {
   PrinterOption option = mediaSize();
   option.text = "Media\nDuplex: None";
-  EXPECT_EQ(writeOptionList({{"General", "General", {option}}}).find("\nDuplex"),
-            std::string::npos);
+  option.choices.push_back({"Custom.1\n\x1B[2J", "Custom: 1"});
+  const std::string list = writeOptionList({{"General", "General", {option}}});
+  EXPECT_EQ(list.find("\nDuplex"), std::string::npos);
+  EXPECT_NE(list.find("Custom.1  [2J: Custom: 1\n"), std::string::npos) << list;
 }
 
 } // namespace

@@ -88,6 +88,12 @@ TEST_F(PrinterOptionsTest, AValueOfOnesOwnCanBeThePrintersDefault) {
   EXPECT_EQ(watermark.textOf(watermark.chosen), "Custom: Ours");
 }
 
+TEST_F(PrinterOptionsTest, AnEnteredValueIsReadOnOneLine) {
+  job.set("Watermark", "Custom.a\x1B[2Jb");
+  EXPECT_EQ(option("Watermark").textOf(option("Watermark").chosen), "Custom: a [2Jb");
+  EXPECT_EQ(option("Duplex").textOf("un\nknown"), "un known");
+}
+
 TEST_F(PrinterOptionsTest, AnEntryWithoutItsValueIsNoOtherChoice) {
   job.set("Watermark", "Custom");
   const PrinterOption watermark = option("Watermark");
@@ -262,6 +268,7 @@ TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
 *DefaultTray: One
 *Tray One/One: ""
 *Tray Th,ree/Three: ""
+*Tray :Nameless: ""
 *CloseUI: *Tray
 )ppd");
   PrintSettingsStore job;
@@ -274,6 +281,19 @@ TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
         listed += option.keyword + "=" + choice.keyword + " ";
       }
   EXPECT_EQ(listed, "Finishing=None Tray=One Tray=Th,ree ");
+}
+
+TEST(PrinterOptions, AGroupWithoutANameIsGeneral) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenGroup: /
+*OpenUI *Tray/Tray: PickOne
+*Tray One/One: ""
+*CloseUI: *Tray
+)ppd");
+  PrintSettingsStore job;
+  const auto groups = PrinterOptions(printer, job).all();
+  ASSERT_EQ(groups.size(), 1u);
+  EXPECT_EQ(groups[0].text, "General");
 }
 
 } // namespace
