@@ -194,6 +194,8 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
     if (!parameter)
       return std::nullopt;
     parameter->isOneOfSeveral = parameters.size() > 1;
+    if (parameter->isOneOfSeveral && !PrintSettingsStore::isUsableName(parameter->name))
+      return std::nullopt; // "{name=value}" cannot say it
     option.parameters.push_back(std::move(*parameter));
   }
   return option.parameters.empty() ? std::nullopt : std::optional(option);

@@ -43,8 +43,8 @@ struct CustomOption {
 };
 
 /// None for an option that has no value to enter, or one that nobody knows how to: without a
-/// parameter, or with one of a type that libcups does not know. `ppdLocalize` decides on the texts'
-/// language.
+/// parameter, with one of a type that libcups does not know, or with several that have no names.
+/// `ppdLocalize` decides on the texts' language.
 std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &keyword);
 
 /// A text for each parameter, as CUPS takes it: "7", "0.5", "100mm" or "30" (points), "words".

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <map>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <strings.h>
 
@@ -79,30 +78,26 @@ void addPairs(ppd_file_t *ppd, Finder &finder, std::vector<OptionConstraint> &co
   }
 }
 
-/// "*Option Choice *Option ...", of any number of options. Empty when a part is unknown.
+/// "*Option Choice *Option ...", of any number of options; CUPS passes over other words. Empty when
+/// a part is unknown.
 OptionConstraint combination(Finder &finder, const std::string &text) {
+  constexpr const char *kBlanks = " \t\n\r\f\v";
   OptionConstraint constraint;
-  std::istringstream words(text);
-  std::string keyword;
-  for (std::string word; words >> word;) {
-    if (keyword.empty()) {
-      if (word.front() == '*')
-        keyword = word.substr(1);
-      continue;
-    }
-    const bool hasChoice = word.front() != '*';
-    const auto known = finder.side(keyword, hasChoice ? word : "");
+  const auto wordAt = [&](std::size_t start) {
+    const std::size_t end = std::min(text.find_first_of(kBlanks, start), text.size());
+    return text.substr(start, end - start);
+  };
+  for (std::size_t star = text.find('*'); star != std::string::npos;) {
+    const std::string keyword = wordAt(star + 1);
+    const std::size_t after = star + 1 + keyword.size();
+    const std::size_t next = std::min(text.find_first_not_of(kBlanks, after), text.size());
+    const std::string choice = next < text.size() && text[next] != '*' ? wordAt(next) : "";
+    const auto known = finder.side(keyword, choice);
     if (!known)
       return {};
     constraint.push_back(*known);
-    keyword = hasChoice ? "" : word.substr(1);
+    star = text.find('*', next + choice.size());
   }
-  if (keyword.empty())
-    return constraint;
-  const auto known = finder.side(keyword, "");
-  if (!known)
-    return {};
-  constraint.push_back(*known);
   return constraint;
 }
 

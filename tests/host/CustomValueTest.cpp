@@ -132,6 +132,22 @@ TEST_F(CustomValue, OfThePageIsReadInCupsOwnSpellingAlone) {
   EXPECT_FALSE(readCustomValue(*size, "custom.100x200mm"));
 }
 
+/// "{Amount=1 =2}" says nothing of the second.
+TEST(CustomValueOfADescription, IsNoneWhereOneOfSeveralParametersHasNoName) {
+  const auto ppd = [](const std::string &further) {
+    return optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenUI *Gloss/Gloss: PickOne
+*DefaultGloss: Normal
+*Gloss Normal/Normal: ""
+*CloseUI: *Gloss
+*CustomGloss True: "pop"
+*ParamCustomGloss /Amount: 1 real 0.5 2.5
+)ppd" + further);
+  };
+  EXPECT_TRUE(customOption(ppd("").ppd(), "Gloss")) << "\"Custom.1\" needs no name";
+  EXPECT_FALSE(customOption(ppd("*ParamCustomGloss Light/Light: 2 curve 0 1\n").ppd(), "Gloss"));
+}
+
 /// As a floating-point number it would be 9, and CUPS takes 8.
 TEST_F(CustomValue, OfAWholeNumberIsNoneThatOnlyRoundsToOne) {
   const CustomOption holes = option("Holes");

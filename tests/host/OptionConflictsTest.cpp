@@ -101,6 +101,33 @@ TEST_F(OptionConflictsTest, AProposalThatCannotBeTakenWholeChangesNothing) {
   EXPECT_STREQ(ppdFindMarkedChoice(printer.ppd(), "Stapler")->choice, "False");
 }
 
+TEST(OptionConflicts, ACombinationIsReadFromStarToStarAsCupsReadsIt) {
+  auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*cupsUIConstraints Three: "*Fold Z and *Stapler True (and)*Tray Two"
+*OpenUI *Fold/Fold: PickOne
+*DefaultFold: Z
+*Fold Z/Z: ""
+*CloseUI: *Fold
+*OpenUI *Stapler/Staple: Boolean
+*DefaultStapler: True
+*Stapler True/Yes: ""
+*CloseUI: *Stapler
+*OpenUI *Tray/Tray: PickOne
+*DefaultTray: One
+*Tray One/One: ""
+*Tray Two/Two: ""
+*CloseUI: *Tray
+)ppd");
+  PrintSettingsStore job;
+  OptionConflicts conflicts(printer, job);
+  EXPECT_THAT(conflicts.find(), IsEmpty());
+  EXPECT_EQ(ppdConflicts(printer.ppd()), 0);
+  job.set("Tray", "Two");
+  ASSERT_THAT(conflicts.find(), SizeIs(1));
+  EXPECT_THAT(conflicts.find()[0].sides, SizeIs(3));
+  EXPECT_NE(ppdConflicts(printer.ppd()), 0);
+}
+
 TEST(OptionConflicts, TextsOfADescriptionAreWellFormedInSentences) {
   auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *LanguageEncoding: UTF-8
