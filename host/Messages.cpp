@@ -149,6 +149,11 @@ std::string argumentNotText(const std::string &argument) {
               "link.")
       .with(argument);
 }
+std::string fileLikeOption(const std::string &argument) {
+  return text("\"{1}\" could be an option, and it is also the name of a file here. Write \"--\" "
+              "before the documents.")
+      .with(argument);
+}
 std::string emptyText(const std::string &option) {
   return text("{1} was given an empty text.").with(option);
 }

@@ -68,6 +68,7 @@ std::string badHoldTime(const std::string &when);
 std::string badAppearance(const std::string &appearance);
 std::string badTextScale(const std::string &scale);
 std::string argumentNotText(const std::string &argument);
+std::string fileLikeOption(const std::string &argument);
 std::string emptyText(const std::string &option);
 std::string badEntry(const std::string &argument);
 std::string badSwitch(const std::string &argument);
