@@ -105,7 +105,8 @@ extern const Text kLinkOfAnotherUser;
 extern const Text kNotWrittenByPrintDialog;
 
 // The display.
-extern const Text kNoDisplay;
+/// `reason`: what Xvfb said; may be empty.
+std::string noDisplay(const std::string &reason);
 std::string displayUnreachable(const std::string &name);
 
 // Plug-ins.
