@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <sys/stat.h>
 
 namespace imageposition {
 
@@ -119,6 +120,17 @@ bool endsWith(const std::string &text, const std::string &end) {
   return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
+/// A shell's * makes arguments of a folder's files, whose names somebody else may have chosen.
+void refuseFilesLikeOptions(const std::vector<std::string> &words) {
+  for (const std::string &word : words) {
+    if (word == "--")
+      return;
+    struct stat status {};
+    if (word.size() > 1 && word.front() == '-' && lstat(word.c_str(), &status) == 0)
+      refuse(messages::fileLikeOption(word));
+  }
+}
+
 /// An empty text comes from a variable that was never set; what it was meant for would be skipped.
 void refuseEmptyTexts(const CLI::App &app) {
   for (const char *name : {"--ticket", "--back", "--ppd", "-d", "-h", "-U", "DOCUMENT"}) {
@@ -162,6 +174,7 @@ void checkCombination(const Arguments &arguments) {
 } // namespace
 
 std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) {
+  refuseFilesLikeOptions(words);
   CLI::App app(messages::kHelpIntroduction, "print-dialog");
   app.set_version_flag("--version", messages::kVersion, messages::kHelpVersion);
   app.set_help_flag("--help", messages::kHelpHelp);

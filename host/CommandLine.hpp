@@ -39,7 +39,8 @@ struct Answer {
   std::string text;
 };
 
-/// Throws a `Failure` with `ExitCode::Usage`. `words` are the arguments without the program's name.
+/// Throws a `Failure` with `ExitCode::Usage`; also for an option, before "--", that is at the same
+/// time the name of an existing file. `words` are the arguments without the program's name.
 std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words);
 
 } // namespace imageposition

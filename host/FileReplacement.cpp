@@ -5,12 +5,15 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <deque>
 #include <fcntl.h>
 #include <optional>
 #include <random>
 #include <sys/stat.h>
 
 namespace imageposition {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -29,6 +32,30 @@ std::optional<struct stat> statusOf(int folder, const std::string &name) {
 
 bool isUsers(const struct stat &status) { return status.st_uid == geteuid(); }
 
+/// Never through a link.
+Descriptor openFolder(int start, const std::string &name) {
+  Descriptor folder(openat(start, name.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (!folder.isOpen())
+    throw FileTrouble(errno);
+  return folder;
+}
+
+/// None for anything but a link. Another user's link, in a folder where others may write, may lead
+/// to any file of the user's.
+std::optional<fs::path> targetOfLink(const Descriptor &folder, const std::string &name) {
+  const Descriptor link(openat(folder.get(), name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+  struct stat status {};
+  if (!link.isOpen() || fstat(link.get(), &status) != 0 || !S_ISLNK(status.st_mode))
+    return std::nullopt;
+  if (!isUsers(status) && status.st_uid != 0)
+    throw FileTrouble(messages::kLinkOfAnotherUser);
+  char target[PATH_MAX];
+  const ssize_t length = readlinkat(link.get(), "", target, sizeof target);
+  if (length < 0)
+    throw FileTrouble(errno);
+  return fs::path(std::string(target, static_cast<std::size_t>(length)));
+}
+
 void writeAll(const Descriptor &file, std::string_view content) {
   while (!content.empty()) {
     const ssize_t written = write(file.get(), content.data(), content.size());
@@ -42,41 +69,35 @@ void writeAll(const Descriptor &file, std::string_view content) {
 
 } // namespace
 
-FileReplacement::Place FileReplacement::placeOf(const std::string &path, const Descriptor *start) {
-  const std::size_t slash = path.rfind('/');
-  const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
-  if (name.empty() || name == "." || name == "..")
-    throw FileTrouble(EISDIR);
-  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-  Descriptor opened(openat(start != nullptr ? start->get() : AT_FDCWD, folder.c_str(),
-                           O_PATH | O_DIRECTORY | O_CLOEXEC));
-  if (!opened.isOpen())
-    throw FileTrouble(errno);
-  return {std::move(opened), name};
-}
-
-/// Another user's link, in a folder where others may write, may lead to any file of the user's.
-FileReplacement::Place FileReplacement::behindLinks(Place place) {
-  for (int links = 0; links < kMostLinks; links++) {
-    const Descriptor link(
-        openat(place.folder.get(), place.name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
-    struct stat status {};
-    if (!link.isOpen() || fstat(link.get(), &status) != 0 || !S_ISLNK(status.st_mode))
-      return place;
-    if (!isUsers(status) && status.st_uid != 0)
-      throw FileTrouble(messages::kLinkOfAnotherUser);
-    char target[PATH_MAX];
-    const ssize_t length = readlinkat(link.get(), "", target, sizeof target);
-    if (length < 0)
-      throw FileTrouble(errno);
-    place = placeOf(std::string(target, static_cast<std::size_t>(length)), &place.folder);
+/// Each link on the way is seen before it is followed.
+FileReplacement::Place FileReplacement::placeOf(const fs::path &path, LastLink lastLink) {
+  std::deque<fs::path> names(path.begin(), path.end());
+  Descriptor folder = openFolder(AT_FDCWD, ".");
+  for (int links = 0; !names.empty();) {
+    const std::string name = names.front();
+    names.pop_front();
+    const bool isLast = names.empty();
+    if (isLast && (name.empty() || name == "." || name == ".." || name == "/"))
+      break;
+    if (!isLast || lastLink == LastLink::Followed) {
+      if (const auto target = targetOfLink(folder, name)) {
+        if (++links > kMostLinks)
+          throw FileTrouble(ELOOP);
+        names.insert(names.begin(), target->begin(), target->end());
+        continue;
+      }
+    }
+    if (isLast)
+      return {std::move(folder), name};
+    if (!name.empty()) // as between two slashes
+      folder = openFolder(folder.get(), name);
   }
-  throw FileTrouble(ELOOP);
+  throw FileTrouble(EISDIR);
 }
 
 FileReplacement::FileReplacement(const std::string &path, std::string_view content, Readers readers,
                                  ContentCheck isOurs)
-    : FileReplacement(isOurs != nullptr ? placeOf(path) : behindLinks(placeOf(path))) {
+    : FileReplacement(placeOf(path, isOurs != nullptr ? LastLink::Kept : LastLink::Followed)) {
   writeContent(content, readers, isOurs);
 }
 

@@ -4,6 +4,7 @@
 
 #include "host/FileContent.hpp"
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <sys/types.h>
@@ -26,10 +27,12 @@ using ContentCheck = bool (*)(std::string_view content);
 class FileReplacement {
 public:
   /// Writes the content. Symbolic links that belong to the user or to root are followed, and others
-  /// refused; so is anything but an ordinary file that the user may write.
+  /// refused, whether the file or a folder on the way; so is anything but an ordinary file that the
+  /// user may write.
   ///
-  /// With `isOurs`, for a file that the user did not name, a link is never followed, and a file
-  /// is replaced only when it belongs to the user and has a content that this program has written.
+  /// With `isOurs`, for a file that the user did not name, a link in its place is never followed,
+  /// and a file is replaced only when it belongs to the user and has a content that this program
+  /// has written.
   FileReplacement(const std::string &path, std::string_view content,
                   Readers readers = Readers::Same, ContentCheck isOurs = nullptr);
   /// Leaves nothing behind unless `commit` has succeeded.
@@ -46,14 +49,14 @@ public:
   bool revert();
 
 private:
+  enum class LastLink { Followed, Kept };
   struct Place {
     Descriptor folder;
     std::string name;
   };
 
   explicit FileReplacement(Place place) : place_(std::move(place)) {}
-  static Place placeOf(const std::string &path, const Descriptor *start = nullptr);
-  static Place behindLinks(Place place);
+  static Place placeOf(const std::filesystem::path &path, LastLink lastLink);
   bool hasOwnContent(ContentCheck isOurs) const;
   void writeContent(std::string_view content, Readers readers, ContentCheck isOurs);
   Descriptor createTemporary(mode_t rights);

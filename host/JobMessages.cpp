@@ -96,6 +96,9 @@ std::string connectionLost(const std::string &server, const std::string &reason)
               "start CUPS (systemctl start cups) and print again.")
       .with(server, because(reason));
 }
+std::string noAnswerToJob(const std::string &server) {
+  return text("CUPS at {1} did not answer in time.").with(server);
+}
 std::string jobNotTaken(const std::string &queue, const std::string &reason) {
   return text("CUPS did not take the job for \"{1}\"{2}. Its error log tells more; nothing was "
               "printed.")
@@ -115,6 +118,16 @@ std::string jobLeftBehind(const std::string &message, const std::string &queue, 
   const std::string name = queue + "-" + std::to_string(job);
   return text("{1} The unfinished job {2} could not be removed; \"cancel {2}\" removes it.")
       .with(message, name);
+}
+std::string jobTakenBack(const std::string &message, const std::string &queue, int job) {
+  const std::string name = queue + "-" + std::to_string(job);
+  return text("{1} The job {2} was cancelled; print again.").with(message, name);
+}
+std::string jobCancelled(const std::string &queue, int job) {
+  const std::string name = queue + "-" + std::to_string(job);
+  return text("The job {1} was cancelled after CUPS had all of it; look at the printer for pages "
+              "that came out.")
+      .with(name);
 }
 const Text kSubmissionCancelled = text("Cancelled; nothing was printed.");
 const Text kStandardInput = text("standard input");

@@ -43,11 +43,16 @@ std::string formatRefused(const std::string &name, const std::string &reason);
 std::string spoolRefuses(const std::string &reason);
 extern const Text kDocumentBrokenOff;
 std::string connectionLost(const std::string &server, const std::string &reason);
+/// Follows with what became of the job: `jobTakenBack` or `jobLeftBehind`.
+std::string noAnswerToJob(const std::string &server);
 std::string jobNotTaken(const std::string &queue, const std::string &reason);
 /// Before a password is entered.
 std::string passwordExposed(const std::string &server);
 std::string noRoomToSend(const std::string &reason);
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job);
+std::string jobTakenBack(const std::string &message, const std::string &queue, int job);
+/// When CUPS had all of the job, and may have begun to print it.
+std::string jobCancelled(const std::string &queue, int job);
 extern const Text kSubmissionCancelled;
 extern const Text kStandardInput;
 std::string waitsForPrinter(const std::string &queue, const std::string &state);

@@ -111,6 +111,7 @@ private:
   void clearUp(const SubmissionFailure &failure);
   void sendDocument(DocumentStream &document, std::string_view piece, bool isLast);
   void startDocument(bool isLast);
+  void finishDocument();
   const char *format() const;
   void sendPiece(std::string_view piece);
   std::string_view nextPiece(DocumentStream &document);
@@ -126,6 +127,8 @@ private:
   JobProgress state_;
   Clock::time_point lastSign_ = Clock::now();
   bool isCancelled_ = false;
+  bool hasTimedOut_ = false;
+  bool isAllSent_ = false; // every document, though CUPS may not have confirmed the last one
   std::unique_ptr<CupsConnection> connection_;
   std::unique_ptr<cups_dest_t, FreeDestination> printer_;
   std::unique_ptr<cups_dinfo_t, FreeInfo> info_;
@@ -137,12 +140,17 @@ bool Submission::report() {
   return !isCancelled_;
 }
 
-bool Submission::keepWaiting() { return report() && Clock::now() - lastSign_ < kPatience; }
+bool Submission::keepWaiting() {
+  hasTimedOut_ = Clock::now() - lastSign_ >= kPatience;
+  return report() && !hasTimedOut_;
+}
 
 /// In the words of what CUPS said last.
 void Submission::failAsCups() {
   if (isCancelled_)
     failCancelled();
+  if (hasTimedOut_ && job_ != 0)
+    fail(JobProblem::NoAnswer, messages::noAnswerToJob(cupsServerName()));
   const std::string reason = cupsReason();
   const bool isLost = httpError(connection_->http()) != 0;
   const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(cupsLastError());
@@ -268,6 +276,14 @@ void Submission::sendPiece(std::string_view piece) {
   state_.sent += piece.size();
 }
 
+void Submission::finishDocument() {
+  const int status = cupsFinishDestDocument(connection_->http(), printer_.get(), info_.get());
+  // Where there is no answer, libcups returns the status of the request before.
+  if (status > IPP_STATUS_OK_EVENTS_COMPLETE ||
+      httpGetStatus(connection_->http()) != HTTP_STATUS_OK)
+    failAsCups();
+}
+
 void Submission::sendDocument(DocumentStream &document, std::string_view piece, bool isLast) {
   startDocument(isLast);
   while (!piece.empty()) {
@@ -281,9 +297,8 @@ void Submission::sendDocument(DocumentStream &document, std::string_view piece, 
   if (!report())
     failCancelled();
   lastSign_ = Clock::now();
-  if (cupsFinishDestDocument(connection_->http(), printer_.get(), info_.get()) >
-      IPP_STATUS_OK_EVENTS_COMPLETE)
-    failAsCups();
+  isAllSent_ = isLast;
+  finishDocument();
 }
 
 /// The first document is there before there is a job.
@@ -331,6 +346,10 @@ void Submission::clearUp(const SubmissionFailure &failure) {
   if (!removeJob())
     throw SubmissionFailure(failure.problem(), failure.code(),
                             messages::jobLeftBehind(failure.what(), request_.printer, job_));
+  if (failure.problem() == JobProblem::NoAnswer)
+    fail(JobProblem::NoAnswer, messages::jobTakenBack(failure.what(), request_.printer, job_));
+  if (failure.problem() == JobProblem::Cancelled && isAllSent_)
+    fail(JobProblem::Cancelled, messages::jobCancelled(request_.printer, job_));
   if (failure.problem() == JobProblem::NoCups) // it is there, and broke off
     fail(JobProblem::Spool, messages::kDocumentBrokenOff);
 }

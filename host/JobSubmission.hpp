@@ -17,6 +17,7 @@ namespace imageposition {
 
 enum class JobProblem {
   NoCups,         ///< None answers, or it went away.
+  NoAnswer,       ///< CUPS has a job, and did not answer in time.
   QueueGone,      ///< No queue of that name.
   RefusesJobs,    ///< The queue exists and takes none.
   Authentication, ///< A password is wanted, or this user may not print there.

@@ -149,6 +149,11 @@ std::string argumentNotText(const std::string &argument) {
               "link.")
       .with(argument);
 }
+std::string fileLikeOption(const std::string &argument) {
+  return text("\"{1}\" could be an option, and it is also the name of a file here. Write \"--\" "
+              "before the documents.")
+      .with(argument);
+}
 std::string emptyText(const std::string &option) {
   return text("{1} was given an empty text.").with(option);
 }
@@ -243,9 +248,11 @@ const Text kLinkOfAnotherUser = text("it is a link that belongs to another user"
 const Text kNotWrittenByPrintDialog =
     text("what is there was not written by print-dialog for this user");
 
-const Text kNoDisplay = text("There is no display, and no Xvfb could be started for the panel's "
-                             "view. Set DISPLAY, or install "
-                             "Xvfb (Debian: xvfb).");
+std::string noDisplay(const std::string &reason) {
+  return text("There is no display, and no Xvfb could be started for the panel's view{1}. Set "
+              "DISPLAY, or install Xvfb (Debian: xvfb).")
+      .with(because(reason));
+}
 std::string displayUnreachable(const std::string &name) {
   return name.empty()
              ? text("There is no display to show the window on. Set DISPLAY, or use --batch.").str()

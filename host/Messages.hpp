@@ -68,6 +68,7 @@ std::string badHoldTime(const std::string &when);
 std::string badAppearance(const std::string &appearance);
 std::string badTextScale(const std::string &scale);
 std::string argumentNotText(const std::string &argument);
+std::string fileLikeOption(const std::string &argument);
 std::string emptyText(const std::string &option);
 std::string badEntry(const std::string &argument);
 std::string badSwitch(const std::string &argument);
@@ -104,7 +105,8 @@ extern const Text kLinkOfAnotherUser;
 extern const Text kNotWrittenByPrintDialog;
 
 // The display.
-extern const Text kNoDisplay;
+/// `reason`: what Xvfb said; may be empty.
+std::string noDisplay(const std::string &reason);
 std::string displayUnreachable(const std::string &name);
 
 // Plug-ins.

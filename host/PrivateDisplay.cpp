@@ -1,13 +1,17 @@
 #include "host/PrivateDisplay.hpp"
 
 #include "host/ExitCode.hpp"
+#include "host/FileContent.hpp"
 #include "host/Messages.hpp"
+#include "host/PluginTrust.hpp"
+#include "host/VisibleText.hpp"
 
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
+#include <sstream>
 #include <string>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -21,6 +25,21 @@ namespace imageposition {
 namespace {
 
 constexpr int kPatienceInMilliseconds = 20000;
+constexpr std::size_t kLongestReason = 1000;
+
+/// The first Xvfb on PATH that nobody else could change or replace; empty when there is none. A
+/// part of PATH that depends on the current folder does not count: that may be anybody's.
+std::string findServer() {
+  const char *const path = std::getenv("PATH");
+  std::istringstream folders(path != nullptr ? path : "/usr/bin:/bin");
+  for (std::string folder; std::getline(folders, folder, ':');) {
+    const std::string server = folder + "/Xvfb";
+    if (server.front() == '/' && !folder.empty() && access(server.c_str(), X_OK) == 0 &&
+        !untrustedPart(server, TrustedPeople::here()))
+      return server;
+  }
+  return {};
+}
 
 /// Where the server and this program read what a client has to say; empty when that fails. Without
 /// it every user of the computer could connect, look at the panel and type into it. It is in memory
@@ -40,20 +59,21 @@ std::string makeAuthority() {
 }
 
 /// In the child: becomes the server, or ends. Only calls that are safe after fork.
-[[noreturn]] void becomeServer(int announcement, pid_t parent, const char *authority) {
+[[noreturn]] void becomeServer(const char *program, int announcement, int errors, pid_t parent,
+                               const char *authority) {
   prctl(PR_SET_PDEATHSIG, SIGTERM);
   if (getppid() != parent)
     _exit(127);
   const int nowhere = open("/dev/null", O_RDWR);
+  dup2(errors, STDERR_FILENO); // before 3, which may be `errors`
   if (announcement == 3)
     fcntl(announcement, F_SETFD, 0);
   else
     dup2(announcement, 3);
   dup2(nowhere, STDIN_FILENO);
   dup2(nowhere, STDOUT_FILENO);
-  dup2(nowhere, STDERR_FILENO);
-  execlp("Xvfb", "Xvfb", "-displayfd", "3", "-screen", "0", "1024x768x24", "-nolisten", "tcp",
-         "-noreset", "-auth", authority, static_cast<char *>(nullptr));
+  execl(program, "Xvfb", "-displayfd", "3", "-screen", "0", "1024x768x24", "-nolisten", "tcp",
+        "-noreset", "-auth", authority, static_cast<char *>(nullptr));
   _exit(127);
 }
 
@@ -75,6 +95,22 @@ std::string awaitNumber(int announcement) {
   return {};
 }
 
+/// What the server has written, as one line.
+std::string reasonIn(const Descriptor &errors) {
+  std::string written(kLongestReason, '\0');
+  const ssize_t length = pread(errors.get(), written.data(), written.size(), 0);
+  written.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+  std::istringstream words(written);
+  std::string line;
+  for (std::string word; words >> word;)
+    line += (line.empty() ? "" : " ") + word;
+  return visible(line);
+}
+
+[[noreturn]] void failWithoutDisplay(const std::string &reason = {}) {
+  throw Failure(ExitCode::Display, messages::noDisplay(reason));
+}
+
 } // namespace
 
 bool isDisplayNamed() {
@@ -83,14 +119,16 @@ bool isDisplayNamed() {
 }
 
 void startPrivateDisplay() {
+  const std::string program = findServer();
   const std::string authority = makeAuthority();
+  const Descriptor errors(memfd_create("Xvfb", MFD_CLOEXEC));
   int ends[2];
-  if (authority.empty() || pipe2(ends, O_CLOEXEC) != 0)
-    throw Failure(ExitCode::Display, messages::kNoDisplay);
+  if (program.empty() || authority.empty() || !errors.isOpen() || pipe2(ends, O_CLOEXEC) != 0)
+    failWithoutDisplay();
   const pid_t parent = getpid();
   const pid_t server = fork();
   if (server == 0)
-    becomeServer(ends[1], parent, authority.c_str());
+    becomeServer(program.c_str(), ends[1], errors.get(), parent, authority.c_str());
   close(ends[1]);
   const std::string number = server > 0 ? awaitNumber(ends[0]) : std::string();
   close(ends[0]);
@@ -99,7 +137,7 @@ void startPrivateDisplay() {
       kill(server, SIGTERM);
       waitpid(server, nullptr, 0);
     }
-    throw Failure(ExitCode::Display, messages::kNoDisplay);
+    failWithoutDisplay(reasonIn(errors));
   }
   setenv("XAUTHORITY", authority.c_str(), 1);
   setenv("DISPLAY", (':' + number).c_str(), 1);

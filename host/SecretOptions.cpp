@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 #include <strings.h>
 
 namespace imageposition {
@@ -24,10 +25,34 @@ constexpr SecretOption kSecretOptions[] = {
     {"job-password-encryption", "PWG 5100.11: how \"job-password\" is hashed"},
 };
 
+bool endsWith(const std::string &name, std::string_view end) {
+  return name.size() >= end.size() &&
+         strncasecmp(name.c_str() + name.size() - end.size(), end.data(), end.size()) == 0;
+}
+
+/// "pin" as a word: not that of "StapleSpin".
+bool endsWithPin(const std::string &name) {
+  constexpr std::string_view kPin = "pin";
+  if (!endsWith(name, kPin))
+    return false;
+  const std::size_t start = name.size() - kPin.size();
+  if (start == 0)
+    return true;
+  const char before = name[start - 1];
+  const bool isAfterLowerCase = before >= 'a' && before <= 'z';
+  return before == '-' || before == '_' || (isAfterLowerCase && name[start] == 'P');
+}
+
+/// As printer makers name them.
+bool soundsSecret(const std::string &name) {
+  return endsWith(name, "password") || endsWith(name, "passcode") || endsWithPin(name);
+}
+
 } // namespace
 
 bool isSecretName(const std::string &name) {
-  return std::any_of(std::begin(kSecretOptions), std::end(kSecretOptions),
+  return soundsSecret(name) ||
+         std::any_of(std::begin(kSecretOptions), std::end(kSecretOptions),
                      [&](const SecretOption &option) {
                        return strcasecmp(option.name, name.c_str()) == 0; // as CUPS matches
                      });

@@ -6,7 +6,8 @@
 
 namespace imageposition {
 
-/// Whether IPP or CUPS has a password, or something as good as one, under this name.
+/// Whether IPP or CUPS has a password, or something as good as one, under this name; or the name
+/// ends in "password", "passcode" or the word "pin". Its case does not count.
 bool isSecretName(const std::string &name);
 
 } // namespace imageposition

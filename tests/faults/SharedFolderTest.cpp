@@ -131,6 +131,42 @@ TEST_F(SharedFolder, AnotherUsersLinkIsNotFollowedForTheTicketEither) {
   EXPECT_EQ(contentOf(folder.path("home/job.json")), R"({"settings": {}})");
 }
 
+TEST_F(SharedFolder, AnotherUsersLinkIsNotFollowedAsAFolderOnTheWayEither) {
+  if (geteuid() != 0)
+    GTEST_SKIP() << "only root can give a link away";
+  const std::string real = folder.write("home/job.json", R"({"settings": {}})");
+  layLink("dl", "../home");
+  for (const std::string name : {"dl/job.json", "dl/new.json", "dl/../home/job.json"}) {
+    const auto result =
+        batch(sample("duplex-shift.ppd"), {"--ticket", folder.path("drop/" + name)});
+    EXPECT_EQ(result.status, kTicket) << name << testing::PrintToString(result);
+    EXPECT_THAT(result.errors, HasSubstr("a link that belongs to another user")) << name;
+  }
+  EXPECT_EQ(contentOf(real), R"({"settings": {}})");
+  EXPECT_FALSE(fs::exists(folder.path("home/new.json")));
+  EXPECT_FALSE(fs::exists(folder.path("home/job.options")));
+}
+
+TEST_F(SharedFolder, TheUsersOwnLinkIsFollowedAsAFolderOnTheWay) {
+  fs::create_directory(folder.path("drop/sub"));
+  fs::create_directory_symlink("..//drop/./sub/", folder.path("home/one"));
+  fs::create_directory_symlink(folder.path("home/one"), folder.path("home/two"));
+  const auto result =
+      batch(sample("duplex-shift.ppd"), {"--ticket", folder.path("home") + "/two/job.json"});
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_TRUE(fs::exists(folder.path("drop/sub/job.json")));
+  EXPECT_TRUE(fs::exists(folder.path("drop/sub/job.options")));
+}
+
+TEST_F(SharedFolder, LinksInACircleAreNamed) {
+  fs::create_directory_symlink("b", folder.path("drop/a"));
+  fs::create_directory_symlink("a", folder.path("drop/b"));
+  const auto result =
+      batch(sample("duplex-shift.ppd"), {"--ticket", folder.path("drop/a/job.json")});
+  EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, HasSubstr("drop/a/job.json\""));
+}
+
 TEST_F(SharedFolder, ALinkToNowhereIsNoPlaceForOptions) {
   layLink("job.options", "../home/.pam_environment");
   expectRefused(writeTicket(), options);

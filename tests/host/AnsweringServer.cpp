@@ -85,12 +85,18 @@ public:
       length_ = line;
     else if (word == "chunks")
       chunk_ = sizeIn(line);
+    else if (word == "silent")
+      isSilent_ = true;
     else
       addAttribute(word, line);
   }
 
   Answer finished() const {
     Answer answer = answer_;
+    if (isSilent_) {
+      answer.head.clear();
+      return answer;
+    }
     std::string body = body_;
     if (body.empty())
       body = std::string("\2\0", 2) + bytes(status_, 2) + bytes(1, 4) + groups_ + attribute_ + '\3';
@@ -151,6 +157,7 @@ private:
   std::string start_, value_, attribute_; // of the last one
   std::string body_, length_;
   std::size_t cut_ = 0, chunk_ = 0;
+  bool isSilent_ = false;
 };
 
 bool sendAll(int descriptor, const std::string &text) {
@@ -238,6 +245,11 @@ void AnsweringServer::setAnswers(std::vector<Answer> answers) {
   answers_ = std::move(answers);
   used_.clear();
   requests_ = 0;
+}
+
+std::size_t AnsweringServer::requestCount(unsigned operation) {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  return used_[operation];
 }
 
 const Answer *AnsweringServer::nextAnswer(unsigned operation) {

@@ -26,6 +26,7 @@ namespace imageposition::test {
 ///     cut 20                 leaves out so many bytes at the end
 ///     length 5               claims that length
 ///     chunks 7               sends pieces of that length
+///     silent                 sends nothing, and keeps the connection
 struct Answer {
   std::string head; ///< With the headers that stand in the lines.
   std::string body;
@@ -51,6 +52,9 @@ public:
   /// and those for any operation where there is none. A connection ends with an answer that is not
   /// honest, and without one after as many requests as no client has.
   void setAnswers(std::vector<Answer> answers);
+
+  /// How many requests of an operation that has answers have come since.
+  std::size_t requestCount(unsigned operation);
 
 private:
   struct Connection {

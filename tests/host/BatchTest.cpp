@@ -2,6 +2,8 @@
 #include "tests/host/DialogFixture.hpp"
 #include "tests/host/PlatformDefaults.hpp"
 
+#include <sys/stat.h>
+
 namespace {
 
 using namespace imageposition::test;
@@ -260,6 +262,45 @@ TEST_F(Batch, WithoutADisplayAPrivateOneIsStartedAndEnded) {
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_THAT(settingsIn(result.output), Contains(Pair("LeftRightMargin", "-3")));
   EXPECT_THAT(result.errors, IsEmpty());
+}
+
+/// An Xvfb that leaves a trace, and never a display.
+class FalseXvfb : public Batch {
+protected:
+  FalseXvfb() {
+    const std::string file =
+        folder.write("Xvfb", "#!/bin/sh\ntouch \"${0%/*}/trace\"\necho '(EE) no keymap' >&2\n");
+    chmod(file.c_str(), 0755);
+  }
+
+  ProcessResult batchWithPath(const std::string &path) const {
+    return runProcess(
+        {"/usr/bin/env", "-C", folder.path(), PRINT_DIALOG, "--batch", "--ppd", shift},
+        {"DISPLAY", "PATH=" + path});
+  }
+  bool hasRun() const { return std::filesystem::exists(folder.path("trace")); }
+};
+
+TEST_F(FalseXvfb, OfTheCurrentFolderIsNotRun) {
+  for (const char *path : {".:/usr/bin:/bin", ":/usr/bin:/bin", "../tmp/.:./.:/usr/bin"}) {
+    const auto result = batchWithPath(path);
+    EXPECT_EQ(result.status, kDone) << path << testing::PrintToString(result);
+    EXPECT_FALSE(hasRun()) << path;
+  }
+}
+
+TEST_F(FalseXvfb, OfAFolderThatOthersMayWriteToIsNotRun) {
+  chmod(folder.path().c_str(), 0777);
+  const auto result = batchWithPath(folder.path() + ":/usr/bin:/bin");
+  EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
+  EXPECT_FALSE(hasRun());
+}
+
+TEST_F(FalseXvfb, SaysItselfWhyItFails) {
+  const auto result = batchWithPath(folder.path() + ":/usr/bin:/bin");
+  EXPECT_EQ(result.status, kDisplay) << testing::PrintToString(result);
+  EXPECT_TRUE(hasRun());
+  EXPECT_THAT(result.errors, HasSubstr("(EE) no keymap"));
 }
 
 TEST_F(Batch, NoDaemonIsStartedThatOutlivesIt) {

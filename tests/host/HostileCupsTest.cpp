@@ -15,6 +15,7 @@ namespace {
 
 using namespace imageposition;
 using namespace imageposition::test;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 using testing::SizeIs;
@@ -60,20 +61,28 @@ protected:
     return with(answers, [] { return readDestinations(); });
   }
   /// Why a job is not sent; empty when it is.
-  std::string refusal(const std::string &answers) {
+  std::string refusal(const std::string &answers, const ProgressCallback &progress = {}) {
     const std::string document = folder_.write("a.ps", "%!PS\n");
     return with(answers, [=] {
       JobRequest request;
       request.printer = "office";
       request.title = "A document";
       try {
-        submitJob(request, {document});
+        submitJob(request, {document}, progress);
       } catch (const SubmissionFailure &failure) {
         return std::string(failure.what());
       }
       return std::string();
     });
   }
+
+  /// Once CUPS has all of the document, which it keeps to itself.
+  std::string refusalOfCancelled(const std::string &answers) {
+    return refusal(answers, [this](const JobProgress &) {
+      return server_.requestCount(IPP_OP_SEND_DOCUMENT) == 0;
+    });
+  }
+  std::size_t cancelCount() { return server_.requestCount(IPP_OP_CANCEL_JOB); }
 
 private:
   const TemporaryFolder folder_;
@@ -119,6 +128,33 @@ TEST_F(HostileCups, AJobWithoutANumberIsNotTakenAndNotForSuccess) {
   const std::string reason = refusal(printer() + "answer 200 0005\n02\n41 job-id 7\n");
   EXPECT_THAT(reason, HasSubstr("CUPS did not take the job for \"office\". "));
   EXPECT_THAT(reason, Not(HasSubstr("successful")));
+}
+
+/// Takes a job and all of its document, and says nothing more of it.
+std::string silence() {
+  return printer() + "answer 200 0005\n02\n21 job-id 7\nanswer 200 0006\nsilent\n";
+}
+
+TEST_F(HostileCups, AJobThatIsCancelledWhileItsDocumentIsNotConfirmedIsCancelledThereToo) {
+  EXPECT_THAT(
+      refusalOfCancelled(silence() + "answer 200 0008\n"),
+      AllOf(HasSubstr("job office-7 was cancelled"), Not(HasSubstr("nothing was printed"))));
+  EXPECT_EQ(cancelCount(), 1U);
+}
+
+TEST_F(HostileCups, AJobThatCannotBeCancelledIsNamedWithWhatRemovesIt) {
+  for (const char *answer : {"ipp 0404\n", "silent\n"}) {
+    EXPECT_THAT(refusalOfCancelled(silence() + "answer 200 0008\n" + answer),
+                HasSubstr("\"cancel office-7\""))
+        << answer;
+    EXPECT_GE(cancelCount(), 1U) << answer;
+  }
+}
+
+TEST_F(HostileCups, AJobWhoseDocumentIsNeverConfirmedIsNoSuccess) {
+  EXPECT_THAT(refusal(silence() + "answer 200 0008\n"),
+              AllOf(HasSubstr("did not answer in time"), HasSubstr("job office-7 was cancelled")));
+  EXPECT_EQ(cancelCount(), 1U);
 }
 
 /// With UndefinedBehaviorSanitizer the numbers must not pass for CUPS's own enumerations.

@@ -27,10 +27,22 @@ protected:
   ProcessResult print(const Words &words, const Words &environment = {}) const {
     Words all{"env", "-C", folder.path(), PRINT_DIALOG, "--batch", "-d", "office"};
     all.insert(all.end(), words.begin(), words.end());
+    return runProcess(all, variablesWith(environment));
+  }
+
+  /// As a user who names all files of the folder with a star.
+  ProcessResult printAll(const std::string &wordsBefore) const {
+    return runProcess({"env", "-C", folder.path(), "sh", "-c",
+                       "exec \"$0\" --batch -d office --dry-run " + wordsBefore + " *",
+                       PRINT_DIALOG},
+                      variablesWith({}));
+  }
+
+  Words variablesWith(const Words &environment) const {
     Words variables = cups->environment();
     variables.push_back("INTRUDER_FILE=" + trace());
     variables.insert(variables.end(), environment.begin(), environment.end());
-    return runProcess(all, variables);
+    return variables;
   }
 
   void expectNoTrace(const ProcessResult &result) const {
@@ -78,7 +90,7 @@ TEST_F(Intruder, DocumentsAndTitlesThatAreNamedLikeDefaultsReachCupsAsWithLp) {
   for (const char *name : {"-NSDraft", "-GSPlan", "--GNU-Debug=dflt", "a.pdf"})
     folder.write(name, pdf);
   const Words line{
-      "-H", "hold", "-t", "-NSDraft", "--", "-NSDraft", "-GSPlan", "--GNU-Debug=dflt", "a.pdf"};
+      "-H", "hold", "-t", "-NSTitle", "--", "-NSDraft", "-GSPlan", "--GNU-Debug=dflt", "a.pdf"};
   Words lp{"env", "-C", folder.path(), "lp", "-d", "office"};
   lp.insert(lp.end(), line.begin(), line.end());
   const int theirs = jobIn(cups->run(lp).output);
@@ -89,6 +101,34 @@ TEST_F(Intruder, DocumentsAndTitlesThatAreNamedLikeDefaultsReachCupsAsWithLp) {
   for (const char *name : {"job-name", "number-of-documents"})
     EXPECT_EQ(cups->jobAttribute(ours, name), cups->jobAttribute(theirs, name)) << name;
   cups->run({"cancel", "-a", "-x"});
+}
+
+TEST_F(Intruder, AFileThatIsNamedLikeAnOptionIsNotTakenForOne) {
+  putBundle(".x.plugin");
+  folder.write("a.pdf", pdf);
+  for (const char *name : {"--plugin=.x.plugin", "--ticket=a.json", "-hevil.example:631", "-s"}) {
+    const std::string path = folder.write(name, "");
+    const auto result = printAll("");
+    EXPECT_EQ(result.status, kUsage) << name << testing::PrintToString(result);
+    EXPECT_THAT(result.errors, HasSubstr("\"" + std::string(name) + "\""));
+    EXPECT_THAT(result.errors, HasSubstr("\"--\""));
+    EXPECT_FALSE(fs::exists(trace())) << name;
+    fs::remove(path);
+  }
+}
+
+TEST_F(Intruder, ALinkToNowhereThatIsNamedLikeAnOptionIsNotTakenForOne) {
+  folder.write("a.pdf", pdf);
+  fs::create_symlink("nowhere", folder.path("-hevil.example:631"));
+  EXPECT_EQ(printAll("").status, kUsage);
+}
+
+TEST_F(Intruder, AFileThatIsNamedLikeAnOptionIsADocumentBehindTwoDashes) {
+  folder.write("--plugin=.x.plugin", pdf);
+  folder.write("a.pdf", pdf);
+  const auto result = printAll("--");
+  expectNoTrace(result);
+  EXPECT_THAT(result.errors, testing::IsEmpty());
 }
 
 TEST_F(Intruder, ADefaultBeforeTheDocumentsIsAnUnknownOption) {

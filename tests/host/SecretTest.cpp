@@ -37,6 +37,18 @@ TEST_F(Secret, IsHiddenInADryRun) {
   EXPECT_THAT(dryRun("office", {"-o", "job-account-id=hunter2"}).output, HasSubstr("= hunter2"));
 }
 
+TEST_F(Secret, IsWhatsNameEndsAsASecretsDoes) {
+  for (const char *name : {"MVPassword", "printer-password", "PASSWORD", "ReleasePasscode",
+                           "JobPIN", "jobPin", "release-pin", "JOB_PIN", "pin"})
+    EXPECT_THAT(dryRun("office", {"-o", std::string(name) + "=hunter2"}).output,
+                Not(HasSubstr("hunter2")))
+        << name;
+  for (const char *name : {"Spin", "StapleSpin", "UPIN", "PasswordLength", "PinPlace"})
+    EXPECT_THAT(dryRun("office", {"-o", std::string(name) + "=hunter2"}).output,
+                HasSubstr("= hunter2"))
+        << name;
+}
+
 TEST_F(Secret, OfTheQueuesOwnDefaultsOrOfAnInstanceIsHiddenInADryRun) {
   cups->run({"lpoptions", "-p", "office", "-o", "job-password=hunter2"});
   cups->run({"lpoptions", "-p", "office/private", "-o", "auth-info=mary,hunter2"});
