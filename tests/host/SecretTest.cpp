@@ -37,7 +37,7 @@ TEST_F(Secret, IsHiddenInADryRun) {
   EXPECT_THAT(dryRun("office", {"-o", "job-account-id=hunter2"}).output, HasSubstr("= hunter2"));
 }
 
-TEST_F(Secret, IsWhatsNameEndsAsASecretsDoes) {
+TEST_F(Secret, IsHiddenUnderNamesThatPrinterMakersUse) {
   for (const char *name : {"MVPassword", "printer-password", "PASSWORD", "ReleasePasscode",
                            "JobPIN", "jobPin", "release-pin", "JOB_PIN", "pin"})
     EXPECT_THAT(dryRun("office", {"-o", std::string(name) + "=hunter2"}).output,
