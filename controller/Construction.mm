@@ -1,9 +1,10 @@
 #import "controller/MorvaADPSettingsCollectorRV2.h"
 
 #import "platform/ResourceLoading.h"
-#import "settings/ConstraintDictionary.h"
 #import "settings/Keys.h"
 #import "settings/PropertyValues.h"
+
+#include <initializer_list>
 
 using imageposition::integerString;
 using imageposition::textEntry;
@@ -74,8 +75,7 @@ template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
   }
   PDECallback = [callback retain];
   Bundle = [bundle retain];
-  ConstraintInfoDictionary = [[MorvaADPConstraintTable
-      tableWithDictionary:definitions(bundle, kResourceConstraintInfo)] retain];
+  ConstraintInfoDictionary = [definitions(bundle, kResourceConstraintInfo) retain];
   SettingInfoDictionary = [definitions(bundle, kResourceSettingInfo) retain];
   ppd = [PDECallback ppdFile];
 
