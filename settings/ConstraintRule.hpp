@@ -14,13 +14,12 @@
 
 namespace imageposition {
 
-/// The strings of a rule as its dictionary gives them, in UTF-8. An entry that is not a string is
-/// absent.
+/// The strings of a rule but the names of settings, as its dictionary gives them, in UTF-8. An
+/// entry that is not a string is absent.
 struct RuleTexts {
   std::optional<std::string> conditionType;
   std::optional<std::string> conditionPattern;
   std::optional<std::string> conditionValue;
-  std::optional<std::string> actionObj;
   std::optional<std::string> actionPattern;
   std::optional<std::string> actionValue;
 };

@@ -12,14 +12,15 @@
 
 namespace imageposition {
 
-/// One rule of a table. The objects are the dictionary's; null when it has no such string.
+/// A rule in typed form, for as long as its dictionary lives.
 struct SettingRule {
   NSDictionary *dictionary;
-  NSString *conditionObj;
+  NSString *conditionObj; ///< The dictionary's; null when it has no such string.
   Condition condition;
   Action action;
 };
 
+/// Entries that are not strings count as absent. A null rule is one that never holds.
 SettingRule typedRule(NSDictionary *rule);
 
 /// Does not change after construction, whatever becomes of the table.
@@ -38,7 +39,7 @@ public:
   const SettingRule *find(NSDictionary *dictionary) const;
 
 private:
-  NSDictionary *table_;
+  NSDictionary *table_; // a copy, which keeps the rules' dictionaries
   std::unordered_map<NSDictionary *, SettingRule> rules_;
   std::unordered_map<std::string, std::vector<const SettingRule *>> byActionObj_;
 };
