@@ -10,8 +10,10 @@ if(APPLE)
   return()
 endif()
 
+set(exported "${PROJECT_SOURCE_DIR}/plugin/exported.linux.map")
+target_link_options(MorvaADPImagePosition PRIVATE "LINKER:--version-script=${exported}")
 set_target_properties(MorvaADPImagePosition PROPERTIES
-  PREFIX "" SUFFIX "" LIBRARY_OUTPUT_DIRECTORY "${IMAGEPOSITION_BUNDLE}")
+  PREFIX "" SUFFIX "" LIBRARY_OUTPUT_DIRECTORY "${IMAGEPOSITION_BUNDLE}" LINK_DEPENDS "${exported}")
 
 # Copied one by one, so that a changed resource is renewed by the next build.
 set(bundle_resources)

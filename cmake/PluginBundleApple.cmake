@@ -17,14 +17,17 @@ endforeach()
 find_program(IBTOOL ibtool REQUIRED)
 set(interface_file "${PROJECT_BINARY_DIR}/ImagePositionAdjustPrint.nib")
 add_custom_command(OUTPUT "${interface_file}"
-  COMMAND "${IBTOOL}" --compile "${interface_file}" --minimum-deployment-target 10.7
+  COMMAND "${IBTOOL}" --compile "${interface_file}" --minimum-deployment-target "${CMAKE_OSX_DEPLOYMENT_TARGET}"
     "${PROJECT_SOURCE_DIR}/resources/ImagePositionAdjustPrint.xib"
   DEPENDS "${PROJECT_SOURCE_DIR}/resources/ImagePositionAdjustPrint.xib" VERBATIM)
 target_sources(MorvaADPImagePosition PRIVATE "${interface_file}")
 set_source_files_properties("${interface_file}" PROPERTIES
   GENERATED TRUE MACOSX_PACKAGE_LOCATION Resources)
 
+set(exported "${PROJECT_SOURCE_DIR}/plugin/exported.macos.txt")
+target_link_options(MorvaADPImagePosition PRIVATE "LINKER:-exported_symbols_list,${exported}")
 set_target_properties(MorvaADPImagePosition PROPERTIES
+  LINK_DEPENDS "${exported}"
   BUNDLE TRUE
   BUNDLE_EXTENSION plugin
   LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}"

@@ -32,7 +32,7 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
 
 @implementation MorvaADPSettingsCollectorRV2 (Availability)
 
-- (void)UIItemActionListener:(id)sender {
+- (IBAction)UIItemActionListener:(id)sender {
   if ([sender conformsToProtocol:@protocol(ActionInterface)])
     [sender catchEventCall];
   [self notifyUI];
@@ -79,7 +79,7 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
   return valid;
 }
 
-- (void)clickRestore2Default:(id)sender {
+- (IBAction)clickRestore2Default:(id)sender {
   (void)sender;
 }
 
@@ -126,7 +126,7 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
   setUsable(usable, BackTBMText, BackTBMStepper, BackTBMLabel, BackTBMRangeLabel);
 }
 
-- (void)clickEnableImgPositionAdjust:(id)sender {
+- (IBAction)clickEnableImgPositionAdjust:(id)sender {
   (void)sender;
   [self grayUI];
 }
@@ -149,7 +149,7 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
   [self grayUI];
 }
 
-- (void)clickbtnReasto2Default:(id)sender {
+- (IBAction)clickbtnReasto2Default:(id)sender {
   (void)sender;
   [self restoreDefaults];
 }

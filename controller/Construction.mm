@@ -1,9 +1,10 @@
 #import "controller/MorvaADPSettingsCollectorRV2.h"
 
 #import "platform/ResourceLoading.h"
-#import "settings/ConstraintDictionary.h"
 #import "settings/Keys.h"
 #import "settings/PropertyValues.h"
+
+#include <initializer_list>
 
 using imageposition::integerString;
 using imageposition::textEntry;
@@ -45,15 +46,6 @@ NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) 
   return items;
 }
 
-// A reference to the view that the interface file connected; null when that is no view. A file's
-// top-level objects are left to whoever loads it, but a view inside another one is that one's.
-NSView *ownedView(NSView *connected, bool loaded) {
-  if (![connected isKindOfClass:[NSView class]])
-    return nil;
-  const bool isTopLevel = loaded && [connected superview] == nil;
-  return isTopLevel ? connected : [connected retain];
-}
-
 // A damaged interface file may connect anything. What is no such control counts as not connected,
 // once and for all: every refresh would raise otherwise, or would have to ask.
 template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
@@ -74,8 +66,7 @@ template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
   }
   PDECallback = [callback retain];
   Bundle = [bundle retain];
-  ConstraintInfoDictionary = [[MorvaADPConstraintTable
-      tableWithDictionary:definitions(bundle, kResourceConstraintInfo)] retain];
+  ConstraintInfoDictionary = [definitions(bundle, kResourceConstraintInfo) retain];
   SettingInfoDictionary = [definitions(bundle, kResourceSettingInfo) retain];
   ppd = [PDECallback ppdFile];
 
@@ -134,13 +125,16 @@ template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
   if (ImagePositionPrintView != nil)
     return ImagePositionPrintView;
   const bool loaded = imageposition::loadInterfaceFile(kResourceInterfaceFile, self);
-  LoadedView = ownedView(ImagePositionPrintView, loaded);
+  forgetUnless([NSView class], ImagePositionPrintView);
   forgetUnless([NSButton class], chkEnableImagePositionAdjust, btnRestore2Defalut);
   forgetUnless([NSTextField class], FrontLRMText, FrontTBMText, BackLRMText, BackTBMText);
   forgetUnless([NSControl class], FrontLRMStepper, FrontTBMStepper, BackLRMStepper, BackTBMStepper);
   forgetUnless([NSTextField class], FrontLRMLabel, FrontTBMLabel, BackLRMLabel, BackTBMLabel);
   forgetUnless([NSTextField class], FrontLRMRangeLabel, FrontTBMRangeLabel, BackLRMRangeLabel,
                BackTBMRangeLabel);
+  // A file's top-level objects are left to whoever loads it; a view inside another is that one's.
+  const bool isTopLevel = loaded && [ImagePositionPrintView superview] == nil;
+  LoadedView = isTopLevel ? ImagePositionPrintView : [ImagePositionPrintView retain];
   [self CBSCInitializeView];
   return ImagePositionPrintView;
 }

@@ -17,34 +17,33 @@ extern NSString *const CBSCKeySettingName;
 /// binds the view, moves values between print settings, settings and view, decides which controls
 /// are usable, answers the person's actions and makes the summary. Main thread only.
 ///
-/// The fields from `FrontLRMText` to `BackTBMRangeLabel`, `ImagePositionPrintView`,
-/// `chkEnableImagePositionAdjust` and `btnRestore2Defalut` are outlets: null until `prepareView`
-/// has loaded the interface file, which connects them by these names (misspelt as they are).
+/// The outlets are null until `prepareView` has loaded the interface file, which connects them by
+/// these names (misspelt as they are).
 @interface MorvaADPSettingsCollectorRV2 : NSObject {
   id<MorvaADPPdeCallbackRV2> PDECallback; ///< Retained.
-  MorvaADPIntegerTextFieldItemRV2 *FrontLRMText;
-  MorvaADPIntegerTextFieldItemRV2 *FrontTBMText;
-  MorvaADPIntegerTextFieldItemRV2 *BackLRMText;
-  MorvaADPIntegerTextFieldItemRV2 *BackTBMText;
-  MorvaADPStepperItemRV2 *FrontLRMStepper;
-  MorvaADPStepperItemRV2 *FrontTBMStepper;
-  MorvaADPStepperItemRV2 *BackLRMStepper;
-  MorvaADPStepperItemRV2 *BackTBMStepper;
-  MorvaADPLabelItemRV2 *FrontLRMLabel;
-  MorvaADPLabelItemRV2 *FrontLRMRangeLabel;
-  MorvaADPLabelItemRV2 *FrontTBMLabel;
-  MorvaADPLabelItemRV2 *FrontTBMRangeLabel;
-  MorvaADPLabelItemRV2 *BackLRMLabel;
-  MorvaADPLabelItemRV2 *BackLRMRangeLabel;
-  MorvaADPLabelItemRV2 *BackTBMLabel;
-  MorvaADPLabelItemRV2 *BackTBMRangeLabel;
+  IBOutlet MorvaADPIntegerTextFieldItemRV2 *FrontLRMText;
+  IBOutlet MorvaADPIntegerTextFieldItemRV2 *FrontTBMText;
+  IBOutlet MorvaADPIntegerTextFieldItemRV2 *BackLRMText;
+  IBOutlet MorvaADPIntegerTextFieldItemRV2 *BackTBMText;
+  IBOutlet MorvaADPStepperItemRV2 *FrontLRMStepper;
+  IBOutlet MorvaADPStepperItemRV2 *FrontTBMStepper;
+  IBOutlet MorvaADPStepperItemRV2 *BackLRMStepper;
+  IBOutlet MorvaADPStepperItemRV2 *BackTBMStepper;
+  IBOutlet MorvaADPLabelItemRV2 *FrontLRMLabel;
+  IBOutlet MorvaADPLabelItemRV2 *FrontLRMRangeLabel;
+  IBOutlet MorvaADPLabelItemRV2 *FrontTBMLabel;
+  IBOutlet MorvaADPLabelItemRV2 *FrontTBMRangeLabel;
+  IBOutlet MorvaADPLabelItemRV2 *BackLRMLabel;
+  IBOutlet MorvaADPLabelItemRV2 *BackLRMRangeLabel;
+  IBOutlet MorvaADPLabelItemRV2 *BackTBMLabel;
+  IBOutlet MorvaADPLabelItemRV2 *BackTBMRangeLabel;
   MorvaADPIntegerSettingRV2 *FrontLRMSettings; ///< Owned, as the next three.
   MorvaADPIntegerSettingRV2 *FrontTBMSettings;
   MorvaADPIntegerSettingRV2 *BackLRMSettings;
   MorvaADPIntegerSettingRV2 *BackTBMSettings;
-  NSView *ImagePositionPrintView;
-  NSButton *chkEnableImagePositionAdjust;
-  NSButton *btnRestore2Defalut;
+  IBOutlet NSView *ImagePositionPrintView;
+  IBOutlet NSButton *chkEnableImagePositionAdjust;
+  IBOutlet NSButton *btnRestore2Defalut;
   NSArray
       *SettingsList; ///< The settings in the order of their fields, cut at the first missing one.
   NSDictionary *ConstraintInfoDictionary; ///< Owned.
@@ -92,7 +91,7 @@ extern NSString *const CBSCKeySettingName;
 @interface MorvaADPSettingsCollectorRV2 (Availability)
 
 /// Action of every entry field and stepper; the sender may be null. Refreshes the whole panel.
-- (void)UIItemActionListener:(id)sender;
+- (IBAction)UIItemActionListener:(id)sender;
 
 /// Lets the settings take what the view shows and write it, applies all rules, recomputes which
 /// controls are usable. Without print settings only titles and usability are refreshed.
@@ -104,7 +103,7 @@ extern NSString *const CBSCKeySettingName;
 /// banner pages are not on. What the printer does not have forbids nothing.
 - (BOOL)checkImagePositionAdjustValid;
 /// Empty; part of the plug-in's interface.
-- (void)clickRestore2Default:(id)sender;
+- (IBAction)clickRestore2Default:(id)sender;
 /// Makes the controls usable or not, after the printer's choices and the checkbox.
 - (void)grayUI;
 /// Names the two front offsets as such, or plainly while the back side has none of its own.
@@ -114,12 +113,12 @@ extern NSString *const CBSCKeySettingName;
 - (void)setBackLRMState:(BOOL)usable;
 - (void)setBackTBMState:(BOOL)usable;
 /// Action of the checkbox. The print settings learn of it at the next save.
-- (void)clickEnableImgPositionAdjust:(id)sender;
+- (IBAction)clickEnableImgPositionAdjust:(id)sender;
 /// Checkbox off and all offsets zero, whatever the definitions' defaults; print settings
 /// untouched.
 - (void)restoreDefaults;
 /// Action of the restore-defaults button.
-- (void)clickbtnReasto2Default:(id)sender;
+- (IBAction)clickbtnReasto2Default:(id)sender;
 
 @end
 

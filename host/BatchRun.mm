@@ -115,8 +115,11 @@ void typeEntry(const UnseenPanels &panels, ppd_file_t *ppd, const Entry &entry,
 std::vector<SummarySection> runBatch(const PanelSession &session, ppd_file_t *ppd,
                                      const BatchRequest &request, std::ostream &notes) {
   UnseenPanels panels;
-  for (const auto &panel : session.panels())
+  for (const auto &panel : session.panels()) {
+    if (!panel->hasView())
+      throw Failure(ExitCode::Plugin, messages::panelWithoutView(panel->pluginPath()));
     panels.push_back(std::make_unique<UnseenPanel>(*panel));
+  }
   for (const auto &panel : panels)
     panel->panel.willShow();
   if (request.back)

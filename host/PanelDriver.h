@@ -14,13 +14,15 @@ namespace imageposition {
 
 /// Whether a panel wants to be hidden is not asked: this dialog offers every panel that it gets.
 ///
+/// A panel without a view is asked for nothing else: it may keep values in its controls, and would
+/// store those of controls that do not exist.
+///
 /// Every operation throws a `Failure` with `ExitCode::Plugin` when the panel raises; the panel is
 /// then not asked again by its owner. Main thread only.
 class PanelDriver {
 public:
   /// Asks for kind, name, option keys and view, in this order. The view comes before everything
-  /// that touches values: a panel may keep values in its controls, and would store those of
-  /// controls that do not exist yet. `pluginPath` is named in messages.
+  /// that touches values, as above. `pluginPath` is named in messages.
   PanelDriver(id panel, std::string pluginPath);
   ~PanelDriver();
   PanelDriver(const PanelDriver &) = delete;
@@ -31,8 +33,9 @@ public:
   const std::string &name() const noexcept { return name_; }
   /// PPD options that the panel handles.
   const std::vector<std::string> &optionKeys() const noexcept { return optionKeys_; }
-  /// Never null; the panel's.
+  /// Never null; the panel's, or in place of one a text that says so and what to do.
   NSView *view() const noexcept { return view_; }
+  bool hasView() const noexcept { return hasView_; }
   const std::string &pluginPath() const noexcept { return pluginPath_; }
 
   void willShow();
@@ -51,6 +54,7 @@ private:
   std::string name_;
   std::vector<std::string> optionKeys_;
   NSView *view_ = nil; // retained
+  bool hasView_ = true;
 };
 
 } // namespace imageposition

@@ -2,11 +2,14 @@
 
 #include "host/ExitCode.hpp"
 #import "host/Guard.h"
+#import "host/Labels.h"
 #include "host/Messages.hpp"
 
 namespace imageposition {
 
 namespace {
+
+constexpr CGFloat kMessageWidth = 400; // as wide as a panel
 
 NSString *const kDisplayOrder = @"Summary Display Order";
 
@@ -77,12 +80,14 @@ PanelDriver::PanelDriver(id panel, std::string pluginPath)
     guarded("supportedPPDOptionKeys",
             [this] { optionKeys_ = textsOf([panel_ supportedPPDOptionKeys]); });
     guarded("panelView", [this] { view_ = [[panel_ panelView] retain]; });
-    if (![view_ isKindOfClass:[NSView class]])
-      throw Failure(ExitCode::Plugin, messages::panelWithoutView(pluginPath_));
   } catch (const Failure &) {
-    [view_ release];
     [(id)panel_ release];
     throw;
+  }
+  hasView_ = [view_ isKindOfClass:[NSView class]];
+  if (!hasView_) {
+    [view_ release];
+    view_ = [makeParagraph(messages::panelWithoutView(pluginPath_), kMessageWidth) retain];
   }
   if (name_.empty())
     name_ = kind_;
@@ -98,6 +103,8 @@ PanelDriver::~PanelDriver() {
 }
 
 void PanelDriver::guarded(const char *operation, const std::function<void()> &body) {
+  if (!hasView_)
+    return;
   if (const auto raised = whatIsRaisedBy(body))
     throw Failure(ExitCode::Plugin, messages::pluginRaised(pluginPath_, operation, *raised));
 }

@@ -20,7 +20,7 @@
 /// Null without a callback or bundle, or when the controller cannot be built.
 - (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle;
 
-/// The panel's view, or, when the interface file gives none, a text that says so.
+/// The panel's view; null when the interface file gives none.
 - (NSView *)panelView;
 - (NSString *)panelName;
 - (NSString *)panelKind;

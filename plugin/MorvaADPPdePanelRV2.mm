@@ -1,6 +1,5 @@
 #import "plugin/MorvaADPPdePanelRV2.h"
 
-#import "plugin/MissingInterfaceView.h"
 #import "settings/Keys.h"
 
 namespace {
@@ -51,10 +50,7 @@ NSString *lasting(NSString *text) {
 }
 
 - (NSView *)panelView {
-  NSView *view = [SettingItems prepareView];
-  // A damaged interface file may have connected something else.
-  const bool isView = [view isKindOfClass:[NSView class]];
-  return isView ? view : imageposition::missingInterfaceView(PDEBundle);
+  return [SettingItems prepareView];
 }
 
 - (NSString *)panelName {

@@ -16,51 +16,39 @@ std::optional<ValueRange> readRuleInterval(const std::optional<std::string> &tex
 
 Condition Condition::fromTexts(const RuleTexts &texts) {
   Condition condition;
+  condition.expected_ = texts.conditionValue;
   if (texts.conditionType == "PPD" && texts.conditionPattern && texts.conditionValue) {
-    condition.kind_ = Kind::Attribute;
-    condition.subject_ = *texts.conditionPattern;
-    condition.expected_ = *texts.conditionValue;
-  } else if (texts.conditionType == "Setting" && texts.conditionObj) {
-    condition.subject_ = *texts.conditionObj;
-    if (texts.conditionPattern == "Value" && texts.conditionValue) {
-      condition.kind_ = Kind::SettingText;
-      condition.expected_ = *texts.conditionValue;
-      const std::int32_t number = readInteger(condition.expected_);
-      if (writeInteger(number) == condition.expected_)
+    condition.subject_ = Subject::Attribute;
+    condition.keyword_ = *texts.conditionPattern;
+  } else if (texts.conditionType == "Setting") {
+    condition.subject_ = Subject::Setting;
+    if (texts.conditionPattern == "Value") {
+      condition.pattern_ = Pattern::Value;
+      const std::int32_t number = readInteger(texts.conditionValue.value_or(""));
+      if (writeInteger(number) == texts.conditionValue)
         condition.expectedNumber_ = number;
     } else if (texts.conditionPattern == "Range") {
-      if (const std::optional<ValueRange> interval = readRuleInterval(texts.conditionValue)) {
-        condition.kind_ = Kind::SettingRange;
-        condition.interval_ = *interval;
-      }
+      condition.pattern_ = Pattern::Range;
+      condition.interval_ = readRuleInterval(texts.conditionValue);
     }
   }
   return condition;
 }
 
-bool Condition::holds(ConditionSource &source) const {
-  if (kind_ == Kind::Never)
-    return false;
-  if (kind_ == Kind::Attribute) {
-    const char *value = source.attributeValue(subject_);
-    return value != nullptr && std::strcmp(expected_.c_str(), value) == 0;
-  }
-  bool satisfied = false;
-  // Every setting is visited, also after the answer is known: asking may have effects of its own.
-  for (std::size_t index = 0; index < source.settingCount(); ++index) {
-    if (source.isSettingNamed(index, subject_) && isSatisfiedBy(source, index))
-      satisfied = true;
-  }
-  return satisfied;
+bool Condition::isSatisfiedByAttribute(const char *value) const {
+  return value != nullptr && expected_ && std::strcmp(expected_->c_str(), value) == 0;
 }
 
-bool Condition::isSatisfiedBy(ConditionSource &source, std::size_t index) const {
-  if (const std::optional<std::int32_t> value = source.settingValue(index))
-    return kind_ == Kind::SettingText ? expectedNumber_ == value : interval_.contains(*value);
-  const std::optional<std::string> text = source.settingText(index);
-  if (kind_ == Kind::SettingText)
-    return text == expected_;
-  return interval_.contains(readInteger(text ? *text : std::string{}));
+bool Condition::isSatisfiedBy(const std::optional<std::string> &text) const {
+  if (pattern_ == Pattern::Value)
+    return text && text == expected_;
+  return interval_ && interval_->contains(readInteger(text.value_or("")));
+}
+
+bool Condition::isSatisfiedBy(std::int32_t value) const {
+  if (pattern_ == Pattern::Value)
+    return expectedNumber_ == value;
+  return interval_ && interval_->contains(value);
 }
 
 Action Action::fromTexts(const RuleTexts &texts) {
@@ -82,10 +70,6 @@ Action Action::fromTexts(const RuleTexts &texts) {
     action.number = readInteger(*value);
   }
   return action;
-}
-
-ConstraintRule ConstraintRule::fromTexts(const RuleTexts &texts) {
-  return {Condition::fromTexts(texts), Action::fromTexts(texts)};
 }
 
 } // namespace imageposition

@@ -1,8 +1,7 @@
 /// One constraint rule in typed form.
 ///
-/// A rule table is a dictionary of dictionaries of texts; reading those on every keystroke would
-/// cost more than everything else that a refresh does, so that each rule is read once into this
-/// form.
+/// A rule is a dictionary of strings. Reading those on every keystroke would cost more than
+/// everything else that a refresh does, so each rule is read once into this form.
 #ifndef IMAGEPOSITION_SETTINGS_CONSTRAINTRULE_HPP
 #define IMAGEPOSITION_SETTINGS_CONSTRAINTRULE_HPP
 
@@ -12,57 +11,51 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace imageposition {
 
-/// The texts of a rule as its dictionary gives them, in UTF-8. What is not a text there is absent.
+/// The strings of a rule but the names of settings, as its dictionary gives them, in UTF-8. An
+/// entry that is not a string is absent.
 struct RuleTexts {
-  std::optional<std::string> conditionObj;
   std::optional<std::string> conditionType;
   std::optional<std::string> conditionPattern;
   std::optional<std::string> conditionValue;
-  std::optional<std::string> actionObj;
   std::optional<std::string> actionPattern;
   std::optional<std::string> actionValue;
 };
 
-/// What a condition asks about: the printer, and the settings of the panel in their order.
-class ConditionSource {
-public:
-  virtual ~ConditionSource() = default;
-  /// The value of the printer description's first attribute with that keyword, valid until the next
-  /// call; null when there is no such attribute or it has no value.
-  virtual const char *attributeValue(const std::string &keyword) = 0;
-  /// Asked again before every setting that is looked at.
-  virtual std::size_t settingCount() = 0;
-  virtual bool isSettingNamed(std::size_t index, const std::string &name) = 0;
-  /// The setting's value, when it is known to show it as "%d" does; otherwise its text counts.
-  virtual std::optional<std::int32_t> settingValue(std::size_t index) = 0;
-  /// None when the setting has no text.
-  virtual std::optional<std::string> settingText(std::size_t index) = 0;
-};
-
-/// When a rule applies.
+/// When a rule applies: what to ask, and which answers satisfy it.
 class Condition {
 public:
-  /// Unknown or missing types and patterns, a "PPD" condition without keyword or value, and an
-  /// interval without ":" make a condition that never holds.
+  enum class Subject : std::uint8_t { Nothing, Attribute, Setting };
+
+  /// On `Nothing`, which never holds, when the type is unknown or a "PPD" condition lacks its
+  /// keyword or its value. A "Setting" condition that cannot hold is on settings all the same.
   static Condition fromTexts(const RuleTexts &texts);
 
-  /// Whether it holds now. A setting condition holds when any setting of that name satisfies it.
-  bool holds(ConditionSource &source) const;
+  Subject subject() const noexcept { return subject_; }
+
+  /// The keyword of the printer description's attribute; empty for other subjects.
+  const std::string &keyword() const noexcept { return keyword_; }
+  /// Whether the attribute's value satisfies it; null when the attribute has none.
+  bool isSatisfiedByAttribute(const char *value) const;
+
+  /// Whether it depends on a setting's value; false when the pattern is unknown.
+  bool readsValue() const noexcept { return pattern_ != Pattern::Unknown; }
+  /// Whether a setting with that text satisfies it.
+  bool isSatisfiedBy(const std::optional<std::string> &text) const;
+  /// The same for a setting whose text is what "%d" makes of the value.
+  bool isSatisfiedBy(std::int32_t value) const;
 
 private:
-  enum class Kind : std::uint8_t { Never, Attribute, SettingText, SettingRange };
+  enum class Pattern : std::uint8_t { Unknown, Value, Range };
 
-  bool isSatisfiedBy(ConditionSource &source, std::size_t index) const;
-
-  Kind kind_ = Kind::Never;
-  std::string subject_;                        // the attribute's keyword, or the setting's name
-  std::string expected_;                       // the attribute's value, or the setting's text
+  Subject subject_ = Subject::Nothing;
+  Pattern pattern_ = Pattern::Unknown; // of a setting's value
+  std::string keyword_;
+  std::optional<std::string> expected_;        // the attribute's value, or a setting's text
   std::optional<std::int32_t> expectedNumber_; // of a text that "%d" could have made
-  ValueRange interval_;
+  std::optional<ValueRange> interval_;         // none for one without ":"
 };
 
 /// What a rule does. The value's meaning goes by the kind; `Nothing` also stands for a known kind
@@ -77,13 +70,6 @@ struct Action {
   bool available = false;  ///< SetAvailable.
   ValueRange range;        ///< SetRange; stored as given, inverted bounds included.
   std::int32_t number = 0; ///< SetDefault.
-};
-
-struct ConstraintRule {
-  static ConstraintRule fromTexts(const RuleTexts &texts);
-
-  Condition condition;
-  Action action;
 };
 
 } // namespace imageposition

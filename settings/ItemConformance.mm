@@ -1,21 +1,23 @@
 #import "settings/ItemConformance.h"
 
+#include <map>
 #include <objc/runtime.h>
+#include <utility>
 
 namespace imageposition {
 
-bool ItemConformance::conforms(id item, Protocol *protocol) {
+bool conforms(id item, Protocol *protocol) {
   static const SEL kAsk = @selector(conformsToProtocol:);
   static const IMP kInherited = class_getMethodImplementation([NSObject class], kAsk);
+  static std::map<std::pair<Class, Protocol *>, bool> answers;
   const Class type = object_getClass(item);
+  // A class that decides for itself may change its mind.
   if (class_getMethodImplementation(type, kAsk) != kInherited)
     return [item conformsToProtocol:protocol];
-  for (const Answer &answer : answers_) {
-    if (answer.type == type && answer.protocol == protocol)
-      return answer.conforms;
-  }
-  answers_.push_back({type, protocol, static_cast<bool>([item conformsToProtocol:protocol])});
-  return answers_.back().conforms;
+  const auto found = answers.find({type, protocol});
+  if (found != answers.end())
+    return found->second;
+  return answers[{type, protocol}] = [item conformsToProtocol:protocol];
 }
 
 } // namespace imageposition

@@ -38,7 +38,6 @@ static NSString *const kTextEnable = @"EnableImgPstAdj";
 static NSString *const kTextRestoreDefaults = @"RestoreDefaults";
 static NSString *const kTextLRM = @"LRM";
 static NSString *const kTextTBM = @"TBM";
-static NSString *const kTextInterfaceFileMissing = @"InterfaceFileMissing";
 
 // The enable flag in the print settings.
 static NSString *const kTicketEnable = @"com.morva.printsettings.19AImagePositionEnable";

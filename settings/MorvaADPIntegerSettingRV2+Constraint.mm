@@ -1,108 +1,48 @@
 #import "settings/MorvaADPIntegerSettingRV2.h"
 
 #import "platform/TextBridge.h"
-#import "settings/MorvaADPIntegerSettingRV2+Private.h"
+#import "settings/SettingRules.h"
 
 #include <objc/runtime.h>
 
 using imageposition::Action;
 using imageposition::Condition;
-using imageposition::ConditionSource;
-using imageposition::ConstraintRule;
-using imageposition::ConstraintRules;
-using imageposition::ConstraintTable;
-using imageposition::IntegerSettingParts;
-using imageposition::KnownSetting;
-using imageposition::SettingRules;
+using imageposition::SettingRule;
 using imageposition::toOptionalText;
 using imageposition::toString;
+using imageposition::typedRule;
 
 namespace {
 
-/// The printer, and the related settings asked through their operations.
-class AskedSettings : public ConditionSource {
-public:
-  AskedSettings(ppd_file_t *ppd, NSArray *settings) : ppd_(ppd), settings_(settings) {}
+bool isSatisfiedBy(const Condition &condition, id setting) {
+  static const Class kPlain = [MorvaADPIntegerSettingRV2 class];
+  if (!condition.readsValue())
+    return false;
+  // A setting of just this class has the text of its value. Making that text and reading it would
+  // cost more than the rest of a rule.
+  if (object_getClass(setting) == kPlain)
+    return condition.isSatisfiedBy([setting getValue]);
+  return condition.isSatisfiedBy(toOptionalText([setting getValueString]));
+}
 
-  const char *attributeValue(const std::string &keyword) override {
-    const ppd_attr_t *attribute = ppdFindAttr(ppd_, keyword.c_str(), nullptr);
-    return attribute == nullptr ? nullptr : attribute->value;
+bool holds(const SettingRule &rule, ppd_file_t *ppd, NSArray *settings) {
+  const Condition &condition = rule.condition;
+  if (condition.subject() == Condition::Subject::Attribute) {
+    const ppd_attr_t *attribute = ppdFindAttr(ppd, condition.keyword().c_str(), nullptr);
+    return attribute != nullptr && condition.isSatisfiedByAttribute(attribute->value);
   }
-
-  std::size_t settingCount() override { return [settings_ count]; }
-
-  bool isSettingNamed(std::size_t index, const std::string &name) override {
-    return toOptionalText([[settings_ objectAtIndex:index] getSettingName]) == name;
+  if (condition.subject() == Condition::Subject::Nothing)
+    return false;
+  bool isSatisfied = false;
+  // All settings are asked, also when the answer is known already: asking one may have effects.
+  for (NSUInteger index = 0; index < [settings count]; ++index) {
+    id setting = [settings objectAtIndex:index];
+    if ([[setting getSettingName] isEqualToString:rule.conditionObj] &&
+        isSatisfiedBy(condition, setting))
+      isSatisfied = true;
   }
-
-  std::optional<std::int32_t> settingValue(std::size_t) override { return std::nullopt; }
-
-  std::optional<std::string> settingText(std::size_t index) override {
-    return toOptionalText([[settings_ objectAtIndex:index] getValueString]);
-  }
-
-private:
-  ppd_file_t *ppd_;
-  NSArray *settings_;
-};
-
-/// The same for settings that override nothing: their fields are their answers.
-class KnownSettings : public AskedSettings {
-public:
-  KnownSettings(ppd_file_t *ppd, const std::vector<KnownSetting> &known)
-      : AskedSettings(ppd, nil), known_(known) {}
-
-  std::size_t settingCount() override { return known_.size(); }
-
-  bool isSettingNamed(std::size_t index, const std::string &name) override {
-    return *known_[index].name == name;
-  }
-
-  std::optional<std::int32_t> settingValue(std::size_t index) override {
-    return *known_[index].value;
-  }
-
-private:
-  const std::vector<KnownSetting> &known_;
-};
-
-/// While one stands, what is known about the related settings is kept from rule to rule.
-class Walk {
-public:
-  explicit Walk(SettingRules &rules) : rules_(rules), wasWalking_(rules.walking) {
-    rules_.walking = true;
-    rules_.knownIsCurrent = false;
-  }
-  ~Walk() { rules_.walking = wasWalking_; }
-  Walk(const Walk &) = delete;
-  Walk &operator=(const Walk &) = delete;
-
-private:
-  SettingRules &rules_;
-  bool wasWalking_;
-};
-
-/// Around an action that reaches the view items: they may change which settings are related, and
-/// ask for conditions of their own.
-class Interruption {
-public:
-  explicit Interruption(SettingRules &rules) : rules_(rules), wasWalking_(rules.walking) {
-    rules_.walking = false;
-  }
-  ~Interruption() {
-    rules_.walking = wasWalking_;
-    rules_.knownIsCurrent = false;
-  }
-  Interruption(const Interruption &) = delete;
-  Interruption &operator=(const Interruption &) = delete;
-
-private:
-  SettingRules &rules_;
-  bool wasWalking_;
-};
-
-// What a subclass overrides has to be asked every time.
-bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSettingRV2 class]; }
+  return isSatisfied;
+}
 
 } // namespace
 
@@ -110,61 +50,34 @@ bool isPlain(id setting) { return object_getClass(setting) == [MorvaADPIntegerSe
 
 - (void)applyUIConstraint:(PMPrintSettings)printSettings {
   (void)printSettings;
-  const auto name = toOptionalText([self getSettingName]);
-  if (!name)
-    return;
-  SettingRules &own = static_cast<IntegerSettingParts *>(Parts)->rules;
-  const std::shared_ptr<const ConstraintRules> rules = own.rules;
-  const Walk walk(own);
-  for (const ConstraintTable::Position position : rules->table().rulesActingOn(*name)) {
-    if (![self checkUIConstraintCondition:rules->dictionary(position)])
+  for (const SettingRule *rule : Rules->actingOn([self getSettingName])) {
+    if (![self checkUIConstraintCondition:rule->dictionary])
       continue;
-    const Action &action = rules->table()[position].action;
-    switch (action.kind) {
+    switch (rule->action.kind) {
     case Action::Kind::Nothing:
       break;
-    case Action::Kind::SetValue: {
-      const Interruption interruption(own);
-      [self setStringValue:toString(action.text)];
+    case Action::Kind::SetValue:
+      [self setStringValue:toString(rule->action.text)];
       break;
-    }
-    case Action::Kind::SetAvailable: {
-      const Interruption interruption(own);
-      [self setViewState:action.available];
+    case Action::Kind::SetAvailable:
+      [self setViewState:rule->action.available];
       break;
-    }
     case Action::Kind::SetRange:
       // The value is clamped, and the label renewed, when the setting is next checked or shown.
-      Min = action.range.min;
-      Max = action.range.max;
+      Min = rule->action.range.min;
+      Max = rule->action.range.max;
       break;
     case Action::Kind::SetDefault:
-      [self setDefault:action.number];
+      [self setDefault:rule->action.number];
       break;
     }
   }
 }
 
 - (BOOL)checkUIConstraintCondition:(NSDictionary *)rule {
-  SettingRules &own = static_cast<IntegerSettingParts *>(Parts)->rules;
-  if (!own.walking || !own.knownIsCurrent) {
-    own.known.clear();
-    own.allAreKnown = isPlain(self);
-    for (NSUInteger index = 0; own.allAreKnown && index < [RelatedSettings count]; ++index) {
-      MorvaADPIntegerSettingRV2 *setting = [RelatedSettings objectAtIndex:index];
-      own.allAreKnown = isPlain(setting);
-      if (own.allAreKnown)
-        own.known.push_back(
-            {&static_cast<IntegerSettingParts *>(setting->Parts)->rules.name, &setting->Value});
-    }
-    own.knownIsCurrent = true;
-  }
-  AskedSettings asked(PPD, RelatedSettings);
-  KnownSettings known(PPD, own.known);
-  ConditionSource &source = own.allAreKnown ? static_cast<ConditionSource &>(known) : asked;
-  if (const ConstraintRule *typed = imageposition::typedRule(rule))
-    return typed->condition.holds(source);
-  return Condition::fromTexts(imageposition::ruleTexts(rule)).holds(source);
+  const SettingRule *known = Rules->find(rule);
+  return known != nullptr ? holds(*known, PPD, RelatedSettings)
+                          : holds(typedRule(rule), PPD, RelatedSettings);
 }
 
 @end

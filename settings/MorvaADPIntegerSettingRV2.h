@@ -4,6 +4,10 @@
 
 #import "settings/MorvaADPSettingRV2.h"
 
+namespace imageposition {
+class SettingRules;
+}
+
 /// A 32-bit signed value with a range and a default, typed into an entry field, moved by a stepper,
 /// described by a name label and a range label. As text it is always what "%d" makes of it.
 @interface MorvaADPIntegerSettingRV2 : MorvaADPSettingRV2 {
@@ -11,8 +15,8 @@
   int32_t Max; ///< May be below `Min`; `checkValue` says what happens then.
   int32_t Min;
   int32_t Default;
-  NSArray *RangeLabelInfoList; ///< Owned; the three label keys of the base are its elements.
-  void *Parts;                 ///< The setting in C++; owned. See the private header.
+  NSArray *RangeLabelInfoList;        ///< Owned; the three label keys of the base are its elements.
+  imageposition::SettingRules *Rules; ///< Owned.
 }
 
 /// As the base, and null without a record. "Range" is "minimum:maximum" (absent: 0 to 0),

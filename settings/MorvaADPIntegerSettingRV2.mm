@@ -2,21 +2,22 @@
 
 #import "platform/TextBridge.h"
 #include "settings/IntegerText.hpp"
+#import "settings/ItemConformance.h"
 #import "settings/Keys.h"
-#import "settings/MorvaADPIntegerSettingRV2+Private.h"
 #import "settings/MorvaADPItemProtocols.h"
 #import "settings/PropertyValues.h"
 #include "settings/RangeText.hpp"
+#import "settings/SettingRules.h"
 #include "settings/ValueRange.hpp"
 
 #import <AppKit/AppKit.h>
 
 using imageposition::composeRangeText;
+using imageposition::conforms;
 using imageposition::integerOf;
 using imageposition::integerString;
 using imageposition::readInterval;
-using imageposition::IntegerSettingParts;
-using imageposition::ItemConformance;
+using imageposition::SettingRules;
 using imageposition::textEntry;
 using imageposition::toOptionalText;
 using imageposition::toString;
@@ -48,10 +49,10 @@ NSArray *rangeLabelWordingOf(NSDictionary *record, NSString *settingName) {
   return nil;
 }
 
-void show(int32_t value, NSArray *items, ItemConformance &conformance) {
+void show(int32_t value, NSArray *items) {
   for (NSUInteger index = 0; index < [items count]; ++index) {
     id item = [items objectAtIndex:index];
-    if (conformance.conforms(item, @protocol(TextFieldInterface)))
+    if (conforms(item, @protocol(TextFieldInterface)))
       [item setStringValue:integerString(value)];
   }
 }
@@ -81,12 +82,12 @@ void show(int32_t value, NSArray *items, ItemConformance &conformance) {
   ValueRangeLabelLocalizeKey = [wording objectAtIndex:2];
   Default = integerOf([record objectForKey:kRecordDefaultValue]);
   Value = Default;
-  Parts = new IntegerSettingParts(rules, SettingName);
+  Rules = new SettingRules(rules);
   return self;
 }
 
 - (void)dealloc {
-  delete static_cast<IntegerSettingParts *>(Parts);
+  delete Rules;
   [RangeLabelInfoList release];
   [super dealloc];
 }
@@ -102,16 +103,15 @@ void show(int32_t value, NSArray *items, ItemConformance &conformance) {
 }
 
 - (void)checkUI:(PMPrintSettings)printSettings {
-  ItemConformance &conformance = static_cast<IntegerSettingParts *>(Parts)->conformance;
   const int32_t before = Value;
   for (NSUInteger index = 0; index < [HandlingTarget count]; ++index) {
     id item = [HandlingTarget objectAtIndex:index];
-    if (conformance.conforms(item, @protocol(TextFieldInterface)) && [item getInt] != before)
+    if (conforms(item, @protocol(TextFieldInterface)) && [item getInt] != before)
       Value = [item getInt];
-    if (conformance.conforms(item, @protocol(StepperInterface)))
+    if (conforms(item, @protocol(StepperInterface)))
       Value = static_cast<int32_t>(static_cast<uint32_t>(Value) +
                                    static_cast<uint32_t>([item getSteps]));
-    if (conformance.conforms(item, @protocol(LocalizableInterface))) {
+    if (conforms(item, @protocol(LocalizableInterface))) {
       const NSInteger tag = [item tag];
       if (tag == MorvaADPViewTagName)
         [item applyLocalizableStrings:SettingName BundleInfo:BundleInfo];
@@ -149,13 +149,12 @@ void show(int32_t value, NSArray *items, ItemConformance &conformance) {
 }
 
 - (void)getTicket:(PMPrintSettings)printSettings {
-  ItemConformance &conformance = static_cast<IntegerSettingParts *>(Parts)->conformance;
   CFTypeRef stored = nullptr;
   const OSStatus status =
       PMPrintSettingsGetValue(printSettings, reinterpret_cast<CFStringRef>(TicketKey), &stored);
   Value = status == 0 ? integerOf(static_cast<id>(const_cast<void *>(stored))) : Default;
   for (NSUInteger index = 0; index < [HandlingTarget count]; ++index) {
-    if (conformance.conforms([HandlingTarget objectAtIndex:index], @protocol(TextFieldInterface)))
+    if (conforms([HandlingTarget objectAtIndex:index], @protocol(TextFieldInterface)))
       [self setStringValue:integerString(Value)];
   }
 }
@@ -167,13 +166,13 @@ void show(int32_t value, NSArray *items, ItemConformance &conformance) {
 - (void)setStringValue:(NSString *)text {
   Value = integerOf(text);
   [self checkValue];
-  show(Value, HandlingTarget, static_cast<IntegerSettingParts *>(Parts)->conformance);
+  show(Value, HandlingTarget);
 }
 
 - (void)setIntValue:(int32_t)value {
   Value = value;
   [self checkValue];
-  show(Value, HandlingTarget, static_cast<IntegerSettingParts *>(Parts)->conformance);
+  show(Value, HandlingTarget);
 }
 
 - (void)checkValue {

@@ -3,6 +3,7 @@ file(REMOVE_RECURSE "${BINARY}")
 execute_process(
   COMMAND "${CMAKE_COMMAND}" -S "${SOURCE}" -B "${BINARY}" -G Ninja
     -DCMAKE_SYSTEM_NAME=Darwin -DCMAKE_OSX_SYSROOT=/ -DIBTOOL=/bin/true
+    -DCMAKE_OSX_DEPLOYMENT_TARGET=10.9
     "-DCMAKE_C_COMPILER=${C_COMPILER}" -DCMAKE_C_COMPILER_WORKS=ON
     "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" -DCMAKE_CXX_COMPILER_WORKS=ON
     "-DCMAKE_OBJCXX_COMPILER=${CXX_COMPILER}" -DCMAKE_OBJCXX_COMPILER_WORKS=ON
@@ -26,6 +27,13 @@ endforeach()
 expect("the bundle contains the code" "${contents}/MacOS/MorvaADPImagePosition: ")
 expect("the code is linked with libc++, also where clang would take libstdc++"
   "LINK_FLAGS = [^\n]*-stdlib=libc\\+\\+")
+expect("only what is listed is exported" "-exported_symbols_list")
+expect("the interface file is compiled for the oldest system that the code is for"
+  "--minimum-deployment-target 10[.]9 ")
+file(READ "${BINARY}/MorvaADPImagePosition.plugin/Contents/Info.plist" description)
+if(NOT description MATCHES "<key>LSMinimumSystemVersion</key>[^<]*<string>10[.]9</string>")
+  message(SEND_ERROR "macOS: the bundle asks for the oldest system that the code is for")
+endif()
 string(REGEX MATCH "${contents}/MacOS/[^\n|]*" inputs "${build}")
 if(inputs MATCHES "[.]nib")
   message(SEND_ERROR "macOS: the interface file is no input of the linker")

@@ -204,4 +204,17 @@ TEST_F(Failing, WhileADocumentIsSentNothingButCancelCanBeUsedAndThenEverythingAs
   EXPECT_TRUE(window.becomes([&](const Screen &) { return window.field("Copies:") == "3"; }));
 }
 
+TEST_F(Failing, APanelWithoutAViewSaysSoInItsPaneAndIsAskedForNothingElse) {
+  const std::string journal = folder.path("journal");
+  PrintWindow window({"--plugin", FIXTURE_PLUGIN, "-d", "office", document()},
+                     {"FIXTURE_BEHAVIOUR=no view", "FIXTURE_JOURNAL=" + journal});
+  EXPECT_TRUE(window.becomes([](const Screen &shown) {
+    return shown.find("popup", "Fixture Panel") != nullptr &&
+           shown.says("Fixture.plugin\" has no view. Install it again.");
+  }));
+  window.click("Print");
+  printed(jobOf(window.ended()));
+  EXPECT_THAT(contentOf(journal), testing::EndsWith("supportedPPDOptionKeys\npanelView\n"));
+}
+
 } // namespace

@@ -59,7 +59,7 @@ protected:
         [this] { [panel panelKind]; },
         [this] { [panel panelName]; },
         [this] { [panel supportedPPDOptionKeys]; },
-        [this] { EXPECT_NE([panel panelView], nil); },
+        [this] { [panel panelView]; },
         [this] { [panel summaryInfo]; },
         [this] { [panel willShow]; },
         [this] { edit("FrontLRM", @"12"); },
@@ -213,6 +213,7 @@ TEST_F(PanelFaults, AnOutletThatLeadsToAnythingElseCountsAsNotConnected) {
     writeInterfaceFile(damaged);
     newJob();
     makePanel();
+    EXPECT_EQ([panel panelView] == nil, outlet == "ImagePositionPrintView");
     useFrom(0, 100);
     [panel release];
     panel = nil;

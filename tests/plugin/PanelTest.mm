@@ -340,12 +340,6 @@ TEST_F(Panel, ForwardsTheRequestForItsViewShownOrNot) {
   EXPECT_THAT(journal.take(), ElementsAre("items.prepareView"));
 }
 
-TEST_F(Panel, ShowsATextInPlaceOfSomethingThatIsNoView) {
-  recordCalls();
-  collector->view = (id)[[[NSTextFieldCell alloc] init] autorelease];
-  EXPECT_TRUE([[panel panelView] isKindOfClass:[NSTextField class]]);
-}
-
 TEST_F(Panel, AnswersTheControllersSummaryUnchanged) {
   recordCalls();
   NSDictionary *summary = [NSDictionary dictionaryWithObject:@"b" forKey:@"a"];
@@ -486,28 +480,12 @@ TEST_F(Panel, ItsViewIsLoadedOnce) {
   EXPECT_EQ([panel panelView], view);
 }
 
-/// All texts that a view and its subviews show.
-Lines textsIn(NSView *view) {
-  Lines texts;
-  if ([view isKindOfClass:[NSTextField class]])
-    texts.push_back(cxxString([static_cast<NSTextField *>(view) stringValue]));
-  for (NSUInteger i = 0; i < [[view subviews] count]; ++i)
-    texts = texts + textsIn([[view subviews] objectAtIndex:i]);
-  return texts;
-}
-
 class PanelWithoutInterfaceFile : public Panel, public testing::WithParamInterface<const char *> {};
 
-TEST_P(PanelWithoutInterfaceFile, ShowsATextThatSaysSo) {
+TEST_P(PanelWithoutInterfaceFile, HasNoView) {
   if (GetParam() != nullptr)
     writeInterfaceFile(GetParam());
-  NSView *view = [panel panelView];
-  ASSERT_NE(view, nil);
-  EXPECT_GT(NSWidth([view frame]), 100);
-  EXPECT_GT(NSHeight([view frame]), 20);
-  const Lines texts = textsIn(view);
-  ASSERT_EQ(texts.size(), 1U);
-  EXPECT_EQ(texts[0], "InterfaceFileMissing") << "the key, in a bundle without a text for it";
+  EXPECT_EQ([panel panelView], nil);
   [panel willShow];
   EXPECT_EQ([panel shouldPrint], 1);
 }
@@ -515,15 +493,5 @@ TEST_P(PanelWithoutInterfaceFile, ShowsATextThatSaysSo) {
 INSTANTIATE_TEST_SUITE_P(Files, PanelWithoutInterfaceFile,
                          testing::Values(static_cast<const char *>(nullptr), "",
                                          "no interface file", "<document>"));
-
-TEST_F(Panel, TheTextInPlaceOfItsViewIsTheBundles) {
-  TestBundle other;
-  other.writePropertyList("SettingInfo", fourDefinitions());
-  other.writePropertyList("ConstraintInfo", [NSDictionary dictionary]);
-  other.writeStrings({{"InterfaceFileMissing", "A file is missing."}});
-  MorvaADPPdePanelRV2 *without =
-      [[[MorvaADPPdePanelRV2 alloc] initWithCallback:host Bundle:other.bundle()] autorelease];
-  EXPECT_THAT(textsIn([without panelView]), ElementsAre("A file is missing."));
-}
 
 } // namespace

@@ -1,8 +1,8 @@
 // The shipped rules, against the settings that they act on.
 #import "tests/resources/ResourceFiles.h"
 
-#import "settings/ConstraintDictionary.h"
 #import "settings/Keys.h"
+#import "settings/SettingRules.h"
 #import "tests/support/Text.h"
 
 #include "settings/IntegerText.hpp"
@@ -66,14 +66,15 @@ TEST(ConstraintInfo, EveryRuleHasTheKeysOfAPrinterRuleAndNoOther) {
 
 // A rule that the code reads as one that does nothing is a slip of the pen.
 TEST(ConstraintInfo, EveryRuleDoesSomethingToAnExistingSetting) {
-  const ConstraintRules read(propertyList("ConstraintInfo.plist"));
-  ASSERT_EQ(read.table().size(), rules().size());
+  const SettingRules read(propertyList("ConstraintInfo.plist"));
   std::size_t found = 0;
-  for (const std::string &setting : kSettings)
-    found += read.table().rulesActingOn(setting).size();
+  for (const std::string &setting : kSettings) {
+    for (const SettingRule *rule : read.actingOn(nsString(setting))) {
+      EXPECT_NE(rule->action.kind, Action::Kind::Nothing) << cxxString(rule->dictionary);
+      ++found;
+    }
+  }
   EXPECT_EQ(found, rules().size());
-  for (std::size_t i = 0; i < read.table().size(); ++i)
-    EXPECT_NE(read.table()[i].action.kind, Action::Kind::Nothing) << "rule " << i;
 }
 
 // Whether an offset is usable is decided after the rules, so such a rule would be undone.

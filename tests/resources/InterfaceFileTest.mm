@@ -8,6 +8,7 @@
 
 #include <objc/runtime.h>
 
+#include <regex>
 #include <set>
 
 using namespace imageposition::test;
@@ -107,6 +108,16 @@ TEST_F(InterfaceFile, IsOwnedByTheControllerAndConnectsItsNineteenOutlets) {
     EXPECT_NE(class_getInstanceVariable([MorvaADPSettingsCollectorRV2 class], outlet.c_str()),
               nullptr)
         << outlet;
+}
+
+// Interface Builder reads them from the header.
+TEST_F(InterfaceFile, OutletsAndActionsAreMarkedAsSuchInTheControllersHeader) {
+  const std::string header = fileBytes(IMAGEPOSITION_CONTROLLER_HEADER);
+  for (const std::string &outlet : values("//customObject[@id='-2']/connections/outlet/@property"))
+    EXPECT_TRUE(std::regex_search(header, std::regex("IBOutlet \\w+ \\*" + outlet + ";")))
+        << outlet;
+  for (const std::string &action : values("//action/@selector"))
+    EXPECT_THAT(header, testing::HasSubstr("- (IBAction)" + action + "(id)sender;"));
 }
 
 TEST_F(InterfaceFile, HasOneViewAtTheTopWhichIsThePanels) {

@@ -38,8 +38,7 @@ std::vector<Wording> wordings() {
 
 std::set<std::string> keysInUse() {
   std::set<std::string> keys;
-  for (NSString *key : {kTextPluginName, kTextEnable, kTextRestoreDefaults, kTextLRM, kTextTBM,
-                        kTextInterfaceFileMissing})
+  for (NSString *key : {kTextPluginName, kTextEnable, kTextRestoreDefaults, kTextLRM, kTextTBM})
     keys.insert(cxxString(key));
   for (const Record &definition : indexedRecords("SettingInfo.plist")) {
     keys.insert(definition.at("SettingName"));

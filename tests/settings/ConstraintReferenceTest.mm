@@ -1,4 +1,3 @@
-#import "settings/ConstraintDictionary.h"
 #import "tests/settings/LiteralRules.h"
 #import "tests/settings/SettingFixture.h"
 #import "tests/support/Pool.h"
@@ -173,8 +172,7 @@ TEST_F(ConstraintReference, RandomTablesDoWhatALiteralWalkDoes) {
   for (int round = 0; round < 3000 && !HasFailure(); ++round) {
     Pool pool;
     NSDictionary *rules = random.next();
-    // Every second table is one that the four settings share in typed form.
-    play(random, round % 2 ? rules : [MorvaADPConstraintTable tableWithDictionary:rules]);
+    play(random, rules);
     if (HasFailure())
       ADD_FAILURE() << "round " << round << " with " << cxxString(rules);
   }

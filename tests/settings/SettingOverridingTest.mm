@@ -279,6 +279,32 @@ TEST_F(SettingOverriding, ConditionAsksEveryRelatedSettingItsNameAndThoseNamedTh
   }
 }
 
+TEST_F(SettingOverriding, ConditionThatCannotHoldAsksTheRelatedSettingsAllTheSame) {
+  ObservedSetting *a = observed(record({{"SettingName", "A"}}));
+  ObservedSetting *b = observed(record({{"SettingName", "B"}}));
+  MorvaADPIntegerSettingRV2 *plain = make(record({{"SettingName", "C"}}));
+  relate({a, b, plain});
+  for (ObservedSetting *setting : {a, b})
+    observe(setting).recordsQuestions = true;
+  const Lines names = {"A.getSettingName", "B.getSettingName"};
+  const Lines namesAndValue = {"A.getSettingName", "A.getValueString", "B.getSettingName"};
+  const std::vector<std::pair<Texts, Lines>> table = {
+      {{{"ConditionObj", "A"}, {"ConditionPattern", "Other"}, {"ConditionValue", "3"}}, names},
+      {{{"ConditionObj", "A"}, {"ConditionValue", "3"}}, names},
+      {{{"ConditionPattern", "Value"}, {"ConditionValue", "3"}}, names},
+      {{{"ConditionObj", "A"}, {"ConditionPattern", "Value"}}, namesAndValue},
+      {{{"ConditionObj", "A"}, {"ConditionPattern", "Range"}, {"ConditionValue", "3"}},
+       namesAndValue}};
+  for (const auto &[condition, expected] : table) {
+    Texts rule = condition;
+    rule["ConditionType"] = "Setting";
+    SCOPED_TRACE(cxxString(dictionary(rule)));
+    journal.clear();
+    EXPECT_FALSE([plain checkUIConstraintCondition:dictionary(rule)]);
+    EXPECT_EQ(journal.take(), expected);
+  }
+}
+
 TEST_F(SettingOverriding, AttributeConditionAsksNoSetting) {
   ObservedSetting *setting = observed();
   observe(setting).recordsQuestions = true;

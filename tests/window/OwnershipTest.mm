@@ -11,10 +11,13 @@ namespace {
 
 using Counts = std::map<std::string, int>;
 
-constexpr const char *kOwn[] = {"MorvaADPPdePluginRV2",         "MorvaADPPdePanelRV2",
-                                "MorvaADPSettingsCollectorRV2", "MorvaADPIntegerSettingRV2",
-                                "MorvaADPConstraintTable",      "MorvaADPIntegerTextFieldItemRV2",
-                                "MorvaADPStepperItemRV2",       "MorvaADPLabelItemRV2"};
+constexpr const char *kOwn[] = {"MorvaADPPdePluginRV2",
+                                "MorvaADPPdePanelRV2",
+                                "MorvaADPSettingsCollectorRV2",
+                                "MorvaADPIntegerSettingRV2",
+                                "MorvaADPIntegerTextFieldItemRV2",
+                                "MorvaADPStepperItemRV2",
+                                "MorvaADPLabelItemRV2"};
 // The other objects of the interface file.
 constexpr const char *kPlatform[] = {"NSView", "NSButton", "NSButtonCell", "NSStepperCell",
                                      "NSTextFieldCell"};

@@ -14,18 +14,12 @@ SINCE(10.0) @interface NSResponder : NSObject
 @end
 
 SINCE(10.0) @interface NSView : NSResponder
-- (id)initWithFrame:(NSRect)frame SINCE(10.0);
 - (NSView *)superview SINCE(10.0);
 - (NSArray *)subviews SINCE(10.0);
 - (void)setHidden:(BOOL)hidden SINCE(10.3);
 @end
 
-SINCE(10.0) @interface NSCell : NSObject
-- (void)setWraps:(BOOL)wraps SINCE(10.0);
-@end
-
 SINCE(10.0) @interface NSControl : NSView
-- (id)cell SINCE(10.0);
 - (id)target SINCE(10.0);
 - (void)setTarget:(id)target SINCE(10.0);
 - (NSInteger)tag SINCE(10.0);
@@ -44,10 +38,6 @@ SINCE(10.0) @interface NSText : NSView
 
 SINCE(10.0) @interface NSTextField : NSControl
 - (void)setTextColor:(NSColor *)colour SINCE(10.0);
-- (void)setEditable:(BOOL)editable SINCE(10.0);
-- (void)setBordered:(BOOL)bordered SINCE(10.0);
-- (void)setBezeled:(BOOL)bezeled SINCE(10.0);
-- (void)setDrawsBackground:(BOOL)draws SINCE(10.0);
 - (NSText *)currentEditor SINCE(10.0);
 - (void)textDidChange:(NSNotification *)notification SINCE(10.0);
 @end

@@ -123,7 +123,6 @@ SINCE(10.0) @interface NSDictionary : NSObject
 - (id)initWithContentsOfFile:(NSString *)path SINCE(10.0);
 - (NSUInteger)count SINCE(10.0);
 - (id)objectForKey:(id)key SINCE(10.0);
-- (NSEnumerator *)keyEnumerator SINCE(10.0);
 @end
 
 SINCE(10.0) @interface NSMutableDictionary : NSDictionary

@@ -1,5 +1,4 @@
 // Rule tables as property lists, applied by real settings and by a literal walk over the same list.
-#import "settings/ConstraintDictionary.h"
 #include "fuzz/Check.hpp"
 #import "fuzz/PropertyList.h"
 #import "settings/MorvaADPIntegerSettingRV2.h"
@@ -82,11 +81,11 @@ std::string stateOf(const LiteralRules &rules) {
   return state;
 }
 
-void play(Choices &choices, NSDictionary *rules, NSDictionary *table) {
+void play(Choices &choices, NSDictionary *rules) {
   // To the end of the program and beyond: the platform is no longer there when statics go.
   static TestBundle &bundle = *new TestBundle;
   static const TestPpd kPpd({"*ShiftA: \"on\"", "*ShiftB: \"-4\"", "*ShiftEmpty: \"\""});
-  Panel panel(table, bundle.bundle(), kPpd);
+  Panel panel(rules, bundle.bundle(), kPpd);
   LiteralRules literal(rules, kPpd);
   for (int edits = 0; edits < 4; ++edits) {
     const unsigned which = choices.below(4);
@@ -110,7 +109,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   id list = imageposition::fuzz::drawPropertyList(choices, kVocabulary);
   if (![list isKindOfClass:[NSDictionary class]])
     return 0;
-  play(edits, list, list);
-  play(edits, list, [MorvaADPConstraintTable tableWithDictionary:list]);
+  play(edits, list);
   return 0;
 }

@@ -1,0 +1,114 @@
+// Rules in typed form, on attributes and settings that are made up: their conditions and actions
+// are those of the texts, read once more one after the other.
+#include "settings/ConstraintRule.hpp"
+
+#include "fuzz/Check.hpp"
+#include "settings/IntegerText.hpp"
+
+#include <fuzzer/FuzzedDataProvider.h>
+
+using imageposition::Action;
+using imageposition::Condition;
+using imageposition::RuleTexts;
+using imageposition::fuzz::check;
+using imageposition::fuzz::checkSame;
+
+namespace {
+
+using Part = std::optional<std::string>;
+
+Part drawPart(FuzzedDataProvider &input, std::initializer_list<const char *> usual) {
+  const auto which = input.ConsumeIntegralInRange<std::size_t>(0, usual.size() + 1);
+  if (which == usual.size())
+    return std::nullopt;
+  return which > usual.size() ? input.ConsumeRandomLengthString(12) : *(usual.begin() + which);
+}
+
+RuleTexts drawRule(FuzzedDataProvider &input) {
+  RuleTexts rule;
+  rule.conditionType = drawPart(input, {"PPD", "Setting"});
+  rule.conditionPattern = drawPart(input, {"Attribute", "Value", "Range"});
+  rule.conditionValue = drawPart(input, {"true", "5", "-3", "05", "-10:10", "5:-5", "0"});
+  rule.actionPattern = drawPart(input, {"Value", "View", "Range", "Default"});
+  rule.actionValue = drawPart(input, {"ON", "OFF", "5", "-10:10", "9:-9"});
+  return rule;
+}
+
+std::vector<std::int32_t> bounds(const Part &text) {
+  if (!text)
+    return {0, 0};
+  const std::size_t colon = text->find(':');
+  if (colon == std::string::npos)
+    return {};
+  return {imageposition::readInteger(text->substr(0, colon)),
+          imageposition::readInteger(text->substr(colon + 1))};
+}
+
+bool shouldHold(const RuleTexts &rule, const std::string &attribute) {
+  return rule.conditionType == "PPD" && rule.conditionPattern && rule.conditionValue &&
+         std::string(rule.conditionValue->c_str()) == attribute;
+}
+
+bool shouldHold(const RuleTexts &rule, std::int32_t value) {
+  if (rule.conditionType != "Setting")
+    return false;
+  if (rule.conditionPattern == "Value")
+    return rule.conditionValue == std::to_string(value);
+  const auto allowed = bounds(rule.conditionValue);
+  return rule.conditionPattern == "Range" && !allowed.empty() && allowed[0] <= value &&
+         allowed[1] >= value;
+}
+
+std::string shouldDo(const RuleTexts &rule) {
+  const auto range = bounds(rule.actionValue);
+  if (rule.actionPattern == "Range" && !range.empty())
+    return "range " + std::to_string(range[0]) + " " + std::to_string(range[1]);
+  if (rule.actionPattern == "Value" && rule.actionValue)
+    return "value " + *rule.actionValue;
+  if (rule.actionPattern == "Default" && rule.actionValue)
+    return "default " + std::to_string(imageposition::readInteger(*rule.actionValue));
+  if (rule.actionPattern == "View" && (rule.actionValue == "ON" || rule.actionValue == "OFF"))
+    return "view " + *rule.actionValue;
+  return "nothing";
+}
+
+std::string does(const Action &action) {
+  switch (action.kind) {
+  case Action::Kind::SetRange:
+    return "range " + std::to_string(action.range.min) + " " + std::to_string(action.range.max);
+  case Action::Kind::SetValue:
+    return "value " + action.text;
+  case Action::Kind::SetDefault:
+    return "default " + std::to_string(action.number);
+  case Action::Kind::SetAvailable:
+    return action.available ? "view ON" : "view OFF";
+  case Action::Kind::Nothing:
+    break;
+  }
+  return "nothing";
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
+  FuzzedDataProvider input(data, size);
+  // Without NUL, as the printer's.
+  const std::string attribute = input.ConsumeRandomLengthString(6).c_str();
+  const auto value = input.ConsumeIntegralInRange<std::int32_t>(-12, 12);
+  while (input.remaining_bytes() > 0) {
+    const RuleTexts rule = drawRule(input);
+    const Condition condition = Condition::fromTexts(rule);
+    const bool isOnAttribute = condition.subject() == Condition::Subject::Attribute;
+    const bool readsValue =
+        condition.subject() == Condition::Subject::Setting && condition.readsValue();
+    check((isOnAttribute && condition.isSatisfiedByAttribute(attribute.c_str())) ==
+              shouldHold(rule, attribute),
+          "a condition on an attribute holds when its texts say so");
+    check((readsValue && condition.isSatisfiedBy(value)) == shouldHold(rule, value),
+          "a condition on a setting holds when its texts say so");
+    check(condition.isSatisfiedBy(value) == condition.isSatisfiedBy(std::to_string(value)),
+          "a number satisfies what its text does");
+    checkSame(does(Action::fromTexts(rule)), shouldDo(rule), "an action is that of its texts");
+  }
+  return 0;
+}

@@ -1,0 +1,44 @@
+#import "settings/SettingRules.h"
+
+#import "platform/TextBridge.h"
+#import "settings/Keys.h"
+#import "settings/PropertyValues.h"
+
+namespace imageposition {
+
+SettingRule typedRule(NSDictionary *rule) {
+  RuleTexts texts;
+  texts.conditionType = toOptionalText([rule objectForKey:kRuleConditionType]);
+  texts.conditionPattern = toOptionalText([rule objectForKey:kRuleConditionPattern]);
+  texts.conditionValue = toOptionalText([rule objectForKey:kRuleConditionValue]);
+  texts.actionPattern = toOptionalText([rule objectForKey:kRuleActionPattern]);
+  texts.actionValue = toOptionalText([rule objectForKey:kRuleActionValue]);
+  return {rule, textEntry(rule, kRuleConditionObj), Condition::fromTexts(texts),
+          Action::fromTexts(texts)};
+}
+
+SettingRules::SettingRules(NSDictionary *table) : table_([table copy]) {
+  for (NSUInteger index = 0; index < [table_ count]; ++index) {
+    NSDictionary *dictionary = [table_ objectForKey:integerString(static_cast<int32_t>(index))];
+    const auto actionObj = toOptionalText(textEntry(dictionary, kRuleActionObj));
+    if (!actionObj)
+      continue;
+    const SettingRule &rule = rules_.try_emplace(dictionary, typedRule(dictionary)).first->second;
+    byActionObj_[*actionObj].push_back(&rule);
+  }
+}
+
+SettingRules::~SettingRules() { [table_ release]; }
+
+std::vector<const SettingRule *> SettingRules::actingOn(NSString *settingName) const {
+  const auto found = byActionObj_.find(toText(settingName));
+  return settingName != nil && found != byActionObj_.end() ? found->second
+                                                           : std::vector<const SettingRule *>{};
+}
+
+const SettingRule *SettingRules::find(NSDictionary *dictionary) const {
+  const auto found = rules_.find(dictionary);
+  return found != rules_.end() ? &found->second : nullptr;
+}
+
+} // namespace imageposition
