@@ -150,7 +150,7 @@ TEST(OptionConflicts, TextsOfADescriptionAreWellFormedInSentences) {
   const auto found = OptionConflicts(printer, job).find();
   ASSERT_THAT(found, SizeIs(1));
   EXPECT_EQ(found[0].sentence,
-            "The printer cannot combine \"Fold\uFFFD: Z \" and \"Staple: Yes\".");
+            "The printer cannot combine \"Fold\uFFFD: Z\\x9b\" and \"Staple: Yes\".");
 }
 
 } // namespace

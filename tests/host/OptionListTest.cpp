@@ -64,7 +64,7 @@ TEST(OptionList, KeepsATextWithLineBreaksOnItsLine) {
   option.choices.push_back({"Custom.1\n\x1B[2J", "Custom: 1"});
   const std::string list = writeOptionList({{"General", "General", {option}}});
   EXPECT_EQ(list.find("\nDuplex"), std::string::npos);
-  EXPECT_NE(list.find("Custom.1  [2J: Custom: 1\n"), std::string::npos) << list;
+  EXPECT_NE(list.find("Custom.1\\n\\x1b[2J: Custom: 1\n"), std::string::npos) << list;
 }
 
 } // namespace

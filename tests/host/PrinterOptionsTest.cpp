@@ -90,8 +90,8 @@ TEST_F(PrinterOptionsTest, AValueOfOnesOwnCanBeThePrintersDefault) {
 
 TEST_F(PrinterOptionsTest, AnEnteredValueIsReadOnOneLine) {
   job.set("Watermark", "Custom.a\x1B[2Jb");
-  EXPECT_EQ(option("Watermark").textOf(option("Watermark").chosen), "Custom: a [2Jb");
-  EXPECT_EQ(option("Duplex").textOf("un\nknown"), "un known");
+  EXPECT_EQ(option("Watermark").textOf(option("Watermark").chosen), "Custom: a\\x1b[2Jb");
+  EXPECT_EQ(option("Duplex").textOf("un\nknown"), "un\\nknown");
 }
 
 TEST_F(PrinterOptionsTest, AnEntryWithoutItsValueIsNoOtherChoice) {
@@ -214,14 +214,14 @@ TEST(PrinterOptions, TextsOfADescriptionAreWellFormedAndOnOneLine) {
   PrintSettingsStore job;
   const auto groups = PrinterOptions(printer, job).all();
   ASSERT_EQ(groups.size(), 1u);
-  EXPECT_EQ(groups[0].text, "Paper\uFFFD ");
+  EXPECT_EQ(groups[0].text, "Paper\uFFFD\\x85");
   ASSERT_EQ(groups[0].options.size(), 1u);
   const PrinterOption &option = groups[0].options[0];
-  EXPECT_EQ(option.text, "Kind [31m\uFFFD\uFFFD");
+  EXPECT_EQ(option.text, "Kind\\x9b[31m\uFFFD\uFFFD");
   ASSERT_EQ(option.choices.size(), 1u);
-  EXPECT_EQ(option.choices[0].text, "Plain \uFFFD");
+  EXPECT_EQ(option.choices[0].text, "Plain\\x9b\uFFFD");
   ASSERT_TRUE(option.custom);
-  EXPECT_EQ(option.custom->parameters[0].text, "The \uFFFDname");
+  EXPECT_EQ(option.custom->parameters[0].text, "The\\x80\uFFFDname");
 }
 
 /// CUPS marks the first alone.
