@@ -2,9 +2,9 @@
 #ifndef IMAGEPOSITION_BENCH_BENCHHOST_H
 #define IMAGEPOSITION_BENCH_BENCHHOST_H
 
-#import "controller/MorvaADPPdeCallbackRV2.h"
-#import "platform/PrintCore.h"
-#include "tests/support/TestPpd.h"
+#import "MorvaADPPdeCallbackRV2.h"
+#import "PrintCore.h"
+#include "TestPpd.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
-#import "bench/BenchHost.h"
+#import "BenchHost.h"
 
-#import "tests/support/Pool.h"
+#import "TestPool.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -1,5 +1,5 @@
 // The same kind of work in libcups: marking a choice and checking the printer's constraints.
-#include "tests/support/TestPpd.h"
+#include "TestPpd.h"
 
 #include <benchmark/benchmark.h>
 

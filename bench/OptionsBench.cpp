@@ -1,7 +1,7 @@
 // What the window does with a printer's options and constraints, from a few to more than any
 // printer has: time is to grow with their number, times its logarithm.
-#include "host/OptionConflicts.hpp"
-#include "tests/host/LargePpd.hpp"
+#include "LargePpd.hpp"
+#include "OptionConflicts.hpp"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 // Making a panel, loading its view and getting it ready to be shown, in a host that runs already.
-#import "bench/BenchHost.h"
+#import "BenchHost.h"
 
-#import "tests/support/Pool.h"
+#import "TestPool.h"
 
 #include <benchmark/benchmark.h>
 

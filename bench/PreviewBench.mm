@@ -1,9 +1,9 @@
 // The picture beside the panel: from a click on a stepper to the pixels in the window.
-#import "bench/BenchHost.h"
+#import "BenchHost.h"
 
-#import "controller/MorvaADPSettingsCollectorRV2.h"
-#import "host/PreviewView.h"
-#import "tests/support/Pool.h"
+#import "MorvaADPSettingsCollectorRV2.h"
+#import "PreviewView.h"
+#import "TestPool.h"
 
 #include <benchmark/benchmark.h>
 

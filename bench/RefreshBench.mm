@@ -1,9 +1,9 @@
 // One action of a person, with rule tables of several sizes.
-#import "bench/BenchHost.h"
+#import "BenchHost.h"
 
-#import "controller/MorvaADPSettingsCollectorRV2.h"
-#import "tests/support/Pool.h"
-#import "tests/support/TestBundle.h"
+#import "MorvaADPSettingsCollectorRV2.h"
+#import "TestBundle.h"
+#import "TestPool.h"
 
 #include <benchmark/benchmark.h>
 

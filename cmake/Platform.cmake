@@ -3,6 +3,8 @@
 add_library(imageposition_platform INTERFACE)
 add_library(imageposition_cups INTERFACE)
 target_link_libraries(imageposition_platform INTERFACE imageposition_options)
+# The callback's protocol, which plug-in and host share.
+target_include_directories(imageposition_platform INTERFACE "${PROJECT_SOURCE_DIR}/platform")
 
 if(APPLE)
   target_link_libraries(imageposition_platform INTERFACE
@@ -18,13 +20,13 @@ find_package(Cups REQUIRED)
 
 # System headers: they produce warnings that are not ours.
 target_include_directories(imageposition_platform INTERFACE
-  "${PROJECT_SOURCE_DIR}/platform")
+  "${PROJECT_SOURCE_DIR}/platform/stand-in")
 target_include_directories(imageposition_platform SYSTEM INTERFACE "${GNUSTEP_INCLUDE_DIR}")
 target_compile_definitions(imageposition_platform INTERFACE
   GNUSTEP GNUSTEP_BASE_LIBRARY=1 GNU_GUI_LIBRARY=1 GNU_RUNTIME=1 _NATIVE_OBJC_EXCEPTIONS)
 target_compile_options(imageposition_platform INTERFACE
   -fexceptions -fno-strict-aliasing
-  "$<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-exceptions;-fconstant-string-class=NSConstantString;-Wno-import>")
+  "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:-fobjc-exceptions;-fconstant-string-class=NSConstantString;-Wno-import>")
 target_link_libraries(imageposition_platform INTERFACE
   "${GNUSTEP_GUI_LIBRARY}" "${GNUSTEP_BASE_LIBRARY}" objc)
 target_link_libraries(imageposition_cups INTERFACE Cups::Cups)

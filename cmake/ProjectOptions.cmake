@@ -11,7 +11,6 @@ if(NOT CMAKE_BUILD_TYPE)
 endif()
 
 add_library(imageposition_options INTERFACE)
-target_include_directories(imageposition_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(imageposition_options INTERFACE -Wall -Wextra -Wshadow
   "$<$<COMPILE_LANGUAGE:CXX,OBJCXX>:-Wnon-virtual-dtor>")
 # Also on a 32-bit processor a file may be larger than 2 GiB, and later than 2038: the calls that tell

@@ -1,7 +1,7 @@
-#import "controller/MorvaADPSettingsCollectorRV2.h"
+#import "MorvaADPSettingsCollectorRV2.h"
 
-#import "settings/Keys.h"
-#import "view/LocalizedText.h"
+#import "Keys.h"
+#import "LocalizedText.h"
 
 #include <cstring>
 

@@ -1,8 +1,8 @@
-#import "controller/MorvaADPSettingsCollectorRV2.h"
+#import "MorvaADPSettingsCollectorRV2.h"
 
-#import "platform/ResourceLoading.h"
-#import "settings/Keys.h"
-#import "settings/PropertyValues.h"
+#import "Keys.h"
+#import "PropertyValues.h"
+#import "ResourceLoading.h"
 
 #include <initializer_list>
 

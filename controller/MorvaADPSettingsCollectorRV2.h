@@ -2,11 +2,11 @@
 #ifndef IMAGEPOSITION_CONTROLLER_MORVAADPSETTINGSCOLLECTORRV2_H
 #define IMAGEPOSITION_CONTROLLER_MORVAADPSETTINGSCOLLECTORRV2_H
 
-#import "controller/MorvaADPPdeCallbackRV2.h"
-#import "settings/MorvaADPIntegerSettingRV2.h"
-#import "view/MorvaADPIntegerTextFieldItemRV2.h"
-#import "view/MorvaADPLabelItemRV2.h"
-#import "view/MorvaADPStepperItemRV2.h"
+#import "MorvaADPIntegerSettingRV2.h"
+#import "MorvaADPIntegerTextFieldItemRV2.h"
+#import "MorvaADPLabelItemRV2.h"
+#import "MorvaADPPdeCallbackRV2.h"
+#import "MorvaADPStepperItemRV2.h"
 
 /// Keys of an entry of the setting registry: the name of a setting, and the location of the field
 /// that receives the setting of that name.

@@ -1,8 +1,8 @@
-#import "controller/MorvaADPSettingsCollectorRV2.h"
+#import "MorvaADPSettingsCollectorRV2.h"
 
-#import "settings/Keys.h"
-#import "settings/PropertyValues.h"
-#import "view/LocalizedText.h"
+#import "Keys.h"
+#import "LocalizedText.h"
+#import "PropertyValues.h"
 
 using imageposition::integerString;
 using imageposition::localizedText;

@@ -2,8 +2,8 @@
 #ifndef IMAGEPOSITION_FUZZ_CHECKTEXT_HPP
 #define IMAGEPOSITION_FUZZ_CHECKTEXT_HPP
 
-#include "fuzz/Check.hpp"
-#include "platform/Utf.hpp"
+#include "Check.hpp"
+#include "Utf.hpp"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // Command lines: words in any number and of any bytes end in a request, an answer or a sentence.
-#include "host/CommandLine.hpp"
+#include "CommandLine.hpp"
 
-#include "fuzz/Check.hpp"
-#include "host/ExitCode.hpp"
+#include "Check.hpp"
+#include "ExitCode.hpp"
 
 #include <algorithm>
 

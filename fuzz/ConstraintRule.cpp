@@ -1,9 +1,9 @@
 // Rules in typed form, on attributes and settings that are made up: their conditions and actions
 // are those of the texts, read once more one after the other.
-#include "settings/ConstraintRule.hpp"
+#include "ConstraintRule.hpp"
 
-#include "fuzz/Check.hpp"
-#include "settings/IntegerText.hpp"
+#include "Check.hpp"
+#include "IntegerText.hpp"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

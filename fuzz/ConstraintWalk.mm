@@ -1,14 +1,14 @@
 // Rule tables as property lists, applied by real settings and by a literal walk over the same list.
-#include "fuzz/Check.hpp"
-#import "fuzz/PropertyList.h"
-#import "settings/MorvaADPIntegerSettingRV2.h"
-#import "tests/settings/LiteralRules.h"
-#import "tests/support/Fields.h"
-#import "tests/support/Pool.h"
-#import "tests/support/RecordingItems.h"
-#import "tests/support/TestBundle.h"
-#import "tests/support/TestPpd.h"
-#import "tests/support/Text.h"
+#include "Check.hpp"
+#import "Fields.h"
+#import "LiteralRules.h"
+#import "MorvaADPIntegerSettingRV2.h"
+#import "PropertyList.h"
+#import "RecordingItems.h"
+#import "TestBundle.h"
+#import "TestPool.h"
+#import "TestPpd.h"
+#import "Text.h"
 
 #include <array>
 

@@ -1,10 +1,10 @@
 // Values that are entered for options: what is accepted means the same to CUPS.
-#include "host/CustomValue.hpp"
+#include "CustomValue.hpp"
 
-#include "fuzz/Check.hpp"
-#include "fuzz/MemoryFile.hpp"
-#include "host/EntryCheck.hpp"
-#include "host/PrinterDescription.hpp"
+#include "Check.hpp"
+#include "EntryCheck.hpp"
+#include "MemoryFile.hpp"
+#include "PrinterDescription.hpp"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // Files of destinations: what is not changed stays byte for byte, and other destinations stay.
-#include "host/DestinationFile.hpp"
+#include "DestinationFile.hpp"
 
-#include "fuzz/Check.hpp"
+#include "Check.hpp"
 
 #include <algorithm>
 #include <fuzzer/FuzzedDataProvider.h>

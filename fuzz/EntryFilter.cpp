@@ -1,8 +1,8 @@
 // The entry field's filter: any UTF-16, any range, inverted ones included, any insertion point.
-#include "view/EntryFilter.hpp"
+#include "EntryFilter.hpp"
 
-#include "fuzz/Check.hpp"
-#include "settings/IntegerText.hpp"
+#include "Check.hpp"
+#include "IntegerText.hpp"
 
 #include <cstring>
 #include <fuzzer/FuzzedDataProvider.h>

@@ -1,9 +1,9 @@
 // Times until which a job is held: those that CUPS's documents name, and no others.
-#include "host/HoldTime.hpp"
+#include "HoldTime.hpp"
 
-#include "fuzz/Check.hpp"
-#include "host/ExitCode.hpp"
-#include "host/OptionText.hpp"
+#include "Check.hpp"
+#include "ExitCode.hpp"
+#include "OptionText.hpp"
 
 #include <map>
 #include <optional>

@@ -1,8 +1,8 @@
 // Integers in any UTF-16 and any bytes, compared with a second reading that is plain and slow.
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
-#include "fuzz/Check.hpp"
-#include "platform/Utf.hpp"
+#include "Check.hpp"
+#include "Utf.hpp"
 
 #include <cstring>
 #include <string>

@@ -1,11 +1,11 @@
 // A hostile CUPS: its answers (see AnsweringServer.hpp) go through the list of printers, a queue's
 // description and a job's submission. Whatever it says, each ends in a result or a sentence.
-#include "fuzz/CheckText.hpp"
-#include "fuzz/MemoryFile.hpp"
-#include "host/Destinations.hpp"
-#include "host/JobSubmission.hpp"
-#include "host/PrinterDescription.hpp"
-#include "tests/host/AnsweringServer.hpp"
+#include "AnsweringServer.hpp"
+#include "CheckText.hpp"
+#include "Destinations.hpp"
+#include "JobSubmission.hpp"
+#include "MemoryFile.hpp"
+#include "PrinterDescription.hpp"
 
 #include <chrono>
 #include <cstdlib>

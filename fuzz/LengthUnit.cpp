@@ -1,7 +1,7 @@
 // Lengths: a number, then a unit, compared with a pattern; written and read again.
-#include "host/LengthUnit.hpp"
+#include "LengthUnit.hpp"
 
-#include "fuzz/Check.hpp"
+#include "Check.hpp"
 
 #include <algorithm>
 #include <cctype>

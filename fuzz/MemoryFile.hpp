@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_FUZZ_MEMORYFILE_HPP
 #define IMAGEPOSITION_FUZZ_MEMORYFILE_HPP
 
-#include "fuzz/Check.hpp"
+#include "Check.hpp"
 
 #include <string>
 #include <sys/mman.h>

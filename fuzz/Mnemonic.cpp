@@ -1,8 +1,8 @@
 // Markers in texts of controls, compared with a reading of whole characters instead of bytes.
-#include "host/Mnemonic.hpp"
+#include "Mnemonic.hpp"
 
-#include "fuzz/Check.hpp"
-#include "platform/Utf.hpp"
+#include "Check.hpp"
+#include "Utf.hpp"
 
 #include <vector>
 

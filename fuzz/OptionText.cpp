@@ -1,8 +1,8 @@
 // Job options as text: read as CUPS reads them, written so that CUPS reads them back.
-#include "host/OptionText.hpp"
+#include "OptionText.hpp"
 
-#include "fuzz/Check.hpp"
-#include "host/ExitCode.hpp"
+#include "Check.hpp"
+#include "ExitCode.hpp"
 
 #include <vector>
 

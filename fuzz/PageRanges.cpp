@@ -1,8 +1,8 @@
 // Page ranges: ascending without overlaps, and the same after they were written and read again.
-#include "host/PageRanges.hpp"
+#include "PageRanges.hpp"
 
-#include "fuzz/Check.hpp"
-#include "host/ExitCode.hpp"
+#include "Check.hpp"
+#include "ExitCode.hpp"
 
 using imageposition::PageRange;
 using imageposition::PageRanges;

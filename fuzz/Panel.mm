@@ -1,7 +1,7 @@
 // The whole plug-in: each input is one use of it, compared with the model after every step.
-#include "fuzz/Check.hpp"
-#import "tests/support/Pool.h"
-#import "tests/use/PanelUse.h"
+#include "Check.hpp"
+#import "PanelUse.h"
+#import "TestPool.h"
 
 #import <AppKit/AppKit.h>
 

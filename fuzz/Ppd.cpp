@@ -2,12 +2,12 @@
 //
 //   *%job Duplex=DuplexTumble LeftRightMargin=-12
 //   *%locked MediaType=Plain
-#include "fuzz/PpdChecks.hpp"
+#include "PpdChecks.hpp"
 
-#include "fuzz/CheckText.hpp"
-#include "fuzz/MemoryFile.hpp"
-#include "host/ExitCode.hpp"
-#include "host/OptionText.hpp"
+#include "CheckText.hpp"
+#include "ExitCode.hpp"
+#include "MemoryFile.hpp"
+#include "OptionText.hpp"
 
 #include <cstdlib>
 #include <optional>

@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_FUZZ_PPDCHECKS_HPP
 #define IMAGEPOSITION_FUZZ_PPDCHECKS_HPP
 
-#include "host/PrinterDescription.hpp"
+#include "PrinterDescription.hpp"
 
 namespace imageposition::fuzz {
 

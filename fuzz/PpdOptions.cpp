@@ -1,10 +1,10 @@
 // Options of any description: texts for people, choices that can be chosen, conflicts that end.
-#include "fuzz/CheckText.hpp"
-#include "fuzz/PpdChecks.hpp"
-#include "host/EntryCheck.hpp"
-#include "host/OptionConflicts.hpp"
-#include "host/OptionList.hpp"
-#include "host/PresetFit.hpp"
+#include "CheckText.hpp"
+#include "EntryCheck.hpp"
+#include "OptionConflicts.hpp"
+#include "OptionList.hpp"
+#include "PpdChecks.hpp"
+#include "PresetFit.hpp"
 
 #include <strings.h>
 

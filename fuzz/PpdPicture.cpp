@@ -1,7 +1,7 @@
 // The picture for any description: pages of a size that can be drawn, and everything in its place.
-#include "fuzz/CheckText.hpp"
-#include "fuzz/PpdChecks.hpp"
-#include "host/PreviewLayout.hpp"
+#include "CheckText.hpp"
+#include "PpdChecks.hpp"
+#include "PreviewLayout.hpp"
 
 #include <cmath>
 

@@ -1,12 +1,12 @@
 // Values that are entered for the options of any description, and what CUPS is sent of a job.
-#include "fuzz/CheckText.hpp"
-#include "fuzz/MemoryFile.hpp"
-#include "fuzz/PpdChecks.hpp"
-#include "host/EntryCheck.hpp"
-#include "host/ExitCode.hpp"
-#include "host/JobRequest.hpp"
-#include "host/JobSummary.hpp"
-#include "host/PrinterOptions.hpp"
+#include "CheckText.hpp"
+#include "EntryCheck.hpp"
+#include "ExitCode.hpp"
+#include "JobRequest.hpp"
+#include "JobSummary.hpp"
+#include "MemoryFile.hpp"
+#include "PpdChecks.hpp"
+#include "PrinterOptions.hpp"
 
 #include <memory>
 #include <strings.h>

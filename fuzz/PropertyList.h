@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_FUZZ_PROPERTYLIST_H
 #define IMAGEPOSITION_FUZZ_PROPERTYLIST_H
 
-#include "tests/use/Choices.hpp"
+#include "Choices.hpp"
 
 #import <Foundation/Foundation.h>
 

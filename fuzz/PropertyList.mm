@@ -1,6 +1,6 @@
-#import "fuzz/PropertyList.h"
+#import "PropertyList.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 namespace imageposition::fuzz {
 namespace {

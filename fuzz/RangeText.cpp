@@ -1,8 +1,8 @@
 // Interval texts and range labels.
-#include "settings/RangeText.hpp"
+#include "RangeText.hpp"
 
-#include "fuzz/Check.hpp"
-#include "settings/IntegerText.hpp"
+#include "Check.hpp"
+#include "IntegerText.hpp"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

@@ -1,18 +1,18 @@
 // Setting definitions: any property list in the bundle makes the settings that it describes, or no
 // controller and a line in the log.
-#import "controller/MorvaADPSettingsCollectorRV2.h"
-#include "fuzz/Check.hpp"
-#import "fuzz/PropertyList.h"
-#import "tests/controller/RecordingHost.h"
-#import "tests/settings/LiteralRules.h"
-#import "tests/support/Fields.h"
-#import "tests/support/LiveObjects.h"
-#import "tests/support/LogCapture.h"
-#import "tests/support/Pool.h"
-#import "tests/support/TestBundle.h"
-#import "tests/support/TestPpd.h"
-#import "tests/support/TestPrintSettings.h"
-#import "tests/support/Text.h"
+#include "Check.hpp"
+#import "Fields.h"
+#import "LiteralRules.h"
+#import "LiveObjects.h"
+#import "LogCapture.h"
+#import "MorvaADPSettingsCollectorRV2.h"
+#import "PropertyList.h"
+#import "RecordingHost.h"
+#import "TestBundle.h"
+#import "TestPool.h"
+#import "TestPpd.h"
+#import "TestPrintSettings.h"
+#import "Text.h"
 
 #include <cmath>
 #include <map>

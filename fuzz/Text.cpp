@@ -1,8 +1,8 @@
 // Texts with marks: values come in on one line, and no mark in them is looked at.
-#include "host/Text.hpp"
-#include "host/VisibleText.hpp"
+#include "Text.hpp"
+#include "VisibleText.hpp"
 
-#include "fuzz/Check.hpp"
+#include "Check.hpp"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

@@ -1,8 +1,8 @@
 // Tickets: whatever is read can be written and read again, and is then the same.
-#include "host/Ticket.hpp"
+#include "Ticket.hpp"
 
-#include "fuzz/Check.hpp"
-#include "host/ExitCode.hpp"
+#include "Check.hpp"
+#include "ExitCode.hpp"
 
 using imageposition::PrintSettingsStore;
 using imageposition::readTicketText;

@@ -4,7 +4,7 @@
 
 #import <ApplicationServices/ApplicationServices.h>
 
-#include "platform/PrintSettingsStore.hpp"
+#include "PrintSettingsStore.hpp"
 
 namespace imageposition {
 

@@ -1,6 +1,6 @@
-#import "platform/PrintCore.h"
+#import "PrintCore.h"
 
-#import "platform/TextBridge.h"
+#import "TextBridge.h"
 
 using imageposition::PrintSettingsStore;
 

@@ -1,6 +1,6 @@
-#include "platform/PrintSettingsStore.hpp"
+#include "PrintSettingsStore.hpp"
 
-#include "platform/Utf.hpp"
+#include "Utf.hpp"
 
 #include <algorithm>
 #include <cstdlib>

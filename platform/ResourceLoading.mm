@@ -1,4 +1,4 @@
-#import "platform/ResourceLoading.h"
+#import "ResourceLoading.h"
 
 namespace imageposition {
 

@@ -1,6 +1,6 @@
-#import "platform/TextBridge.h"
+#import "TextBridge.h"
 
-#include "platform/Utf.hpp"
+#include "Utf.hpp"
 
 namespace imageposition {
 

@@ -1,4 +1,4 @@
-#include "platform/Utf.hpp"
+#include "Utf.hpp"
 
 #include <cstdint>
 

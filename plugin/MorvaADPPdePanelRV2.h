@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_PLUGIN_MORVAADPPDEPANELRV2_H
 #define IMAGEPOSITION_PLUGIN_MORVAADPPDEPANELRV2_H
 
-#import "controller/MorvaADPSettingsCollectorRV2.h"
+#import "MorvaADPSettingsCollectorRV2.h"
 
 /// Forwards the dialog's requests to its controller, in fixed orders. Until the pane is first shown
 /// the view's values are not trusted: saving and restoring do nothing, printing reads first.

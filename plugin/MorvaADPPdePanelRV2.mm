@@ -1,6 +1,7 @@
-#import "plugin/MorvaADPPdePanelRV2.h"
+#import "MorvaADPPdePanelRV2.h"
 
-#import "settings/Keys.h"
+#import "Keys.h"
+#include "SharedKeys.h"
 
 namespace {
 
@@ -66,10 +67,10 @@ NSString *lasting(NSString *text) {
 - (NSArray *)supportedPPDOptionKeys {
   if (supportedOptions == nil) {
     supportedOptions = [[NSMutableArray alloc] initWithCapacity:5];
-    [supportedOptions addObject:@"LeftRightMargin"];
-    [supportedOptions addObject:@"TopBottomMargin"];
-    [supportedOptions addObject:@"BackLeftRightMargin"];
-    [supportedOptions addObject:@"BackTopBottomMargin"];
+    [supportedOptions addObject:@IPA_KEY_FRONT_LEFT_RIGHT];
+    [supportedOptions addObject:@IPA_KEY_FRONT_TOP_BOTTOM];
+    [supportedOptions addObject:@IPA_KEY_BACK_LEFT_RIGHT];
+    [supportedOptions addObject:@IPA_KEY_BACK_TOP_BOTTOM];
     [supportedOptions addObject:@"MVAdjustDuplexPosition"];
   }
   NSLog(@"supportedPPDOptionKeys:=NSArray(%@)", supportedOptions);

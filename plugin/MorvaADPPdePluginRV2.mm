@@ -1,10 +1,11 @@
-#import "plugin/MorvaADPPdePluginRV2.h"
+#import "MorvaADPPdePluginRV2.h"
 
-#import "plugin/MorvaADPPdePanelRV2.h"
+#import "MorvaADPPdePanelRV2.h"
+#include "SharedKeys.h"
 
 #include <cstring>
 
-NSString *const IPA_PPD_AdjustDuplexPositionSupport = @"AdjustDuplexPositionSupport";
+NSString *const IPA_PPD_AdjustDuplexPositionSupport = @IPA_ATTRIBUTE_SUPPORT;
 NSString *const IPAPPDAdjustDuplexPositionSupportTrue = @"true";
 
 // The type of dialog that asks for the panels of print dialogs.

@@ -1,6 +1,6 @@
-#include "settings/ConstraintRule.hpp"
+#include "ConstraintRule.hpp"
 
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
 #include <cstring>
 

@@ -5,7 +5,7 @@
 #ifndef IMAGEPOSITION_SETTINGS_CONSTRAINTRULE_HPP
 #define IMAGEPOSITION_SETTINGS_CONSTRAINTRULE_HPP
 
-#include "settings/ValueRange.hpp"
+#include "ValueRange.hpp"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
-#include "platform/Utf.hpp"
+#include "Utf.hpp"
 
 #include <cstdio>
 #include <limits>

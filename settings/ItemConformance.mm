@@ -1,4 +1,4 @@
-#import "settings/ItemConformance.h"
+#import "ItemConformance.h"
 
 #include <map>
 #include <objc/runtime.h>

@@ -4,6 +4,8 @@
 
 #import <Foundation/Foundation.h>
 
+#include "SharedKeys.h"
+
 // The four settings; each name is also the localization key of the setting's name label.
 static NSString *const kSettingFrontLRM = @"FrontLRM";
 static NSString *const kSettingFrontTBM = @"FrontTBM";
@@ -40,11 +42,11 @@ static NSString *const kTextLRM = @"LRM";
 static NSString *const kTextTBM = @"TBM";
 
 // The enable flag in the print settings.
-static NSString *const kTicketEnable = @"com.morva.printsettings.19AImagePositionEnable";
-static NSString *const kTicketTrue = @"True";
-static NSString *const kTicketFalse = @"False";
+static NSString *const kTicketEnable = @IPA_KEY_ENABLE;
+static NSString *const kTicketTrue = @IPA_VALUE_TRUE;
+static NSString *const kTicketFalse = @IPA_VALUE_FALSE;
 
 /// The print dialog's key for the order of the other entries of a summary.
-static NSString *const kSummaryDisplayOrder = @"Summary Display Order";
+static NSString *const kSummaryDisplayOrder = @IPA_SUMMARY_ORDER;
 
 #endif

@@ -1,7 +1,7 @@
-#import "settings/MorvaADPIntegerSettingRV2.h"
+#import "MorvaADPIntegerSettingRV2.h"
 
-#import "platform/TextBridge.h"
-#import "settings/SettingRules.h"
+#import "SettingRules.h"
+#import "TextBridge.h"
 
 #include <objc/runtime.h>
 

@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_SETTINGS_MORVAADPINTEGERSETTINGRV2_H
 #define IMAGEPOSITION_SETTINGS_MORVAADPINTEGERSETTINGRV2_H
 
-#import "settings/MorvaADPSettingRV2.h"
+#import "MorvaADPSettingRV2.h"
 
 namespace imageposition {
 class SettingRules;

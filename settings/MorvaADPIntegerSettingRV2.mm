@@ -1,14 +1,14 @@
-#import "settings/MorvaADPIntegerSettingRV2.h"
+#import "MorvaADPIntegerSettingRV2.h"
 
-#import "platform/TextBridge.h"
-#include "settings/IntegerText.hpp"
-#import "settings/ItemConformance.h"
-#import "settings/Keys.h"
-#import "settings/MorvaADPItemProtocols.h"
-#import "settings/PropertyValues.h"
-#include "settings/RangeText.hpp"
-#import "settings/SettingRules.h"
-#include "settings/ValueRange.hpp"
+#include "IntegerText.hpp"
+#import "ItemConformance.h"
+#import "Keys.h"
+#import "MorvaADPItemProtocols.h"
+#import "PropertyValues.h"
+#include "RangeText.hpp"
+#import "SettingRules.h"
+#import "TextBridge.h"
+#include "ValueRange.hpp"
 
 #import <AppKit/AppKit.h>
 

@@ -1,8 +1,8 @@
-#import "settings/MorvaADPSettingRV2.h"
+#import "MorvaADPSettingRV2.h"
 
-#import "settings/Keys.h"
-#import "settings/MorvaADPItemProtocols.h"
-#import "settings/PropertyValues.h"
+#import "Keys.h"
+#import "MorvaADPItemProtocols.h"
+#import "PropertyValues.h"
 
 #import <AppKit/AppKit.h>
 

@@ -1,7 +1,7 @@
-#import "settings/PropertyValues.h"
+#import "PropertyValues.h"
 
-#import "platform/TextBridge.h"
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
+#import "TextBridge.h"
 
 #include <algorithm>
 #include <cmath>

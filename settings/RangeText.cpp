@@ -1,6 +1,6 @@
-#include "settings/RangeText.hpp"
+#include "RangeText.hpp"
 
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
 namespace imageposition {
 namespace {

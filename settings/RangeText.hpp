@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_SETTINGS_RANGETEXT_HPP
 #define IMAGEPOSITION_SETTINGS_RANGETEXT_HPP
 
-#include "settings/ValueRange.hpp"
+#include "ValueRange.hpp"
 
 #include <string>
 #include <string_view>

@@ -4,7 +4,7 @@
 
 #import <Foundation/Foundation.h>
 
-#include "settings/ConstraintRule.hpp"
+#include "ConstraintRule.hpp"
 
 #include <string>
 #include <unordered_map>

@@ -1,8 +1,8 @@
-#import "settings/SettingRules.h"
+#import "SettingRules.h"
 
-#import "platform/TextBridge.h"
-#import "settings/Keys.h"
-#import "settings/PropertyValues.h"
+#import "Keys.h"
+#import "PropertyValues.h"
+#import "TextBridge.h"
 
 namespace imageposition {
 

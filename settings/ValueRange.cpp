@@ -1,6 +1,6 @@
-#include "settings/ValueRange.hpp"
+#include "ValueRange.hpp"
 
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
 namespace imageposition {
 

@@ -1,6 +1,6 @@
-#include "view/EntryFilter.hpp"
+#include "EntryFilter.hpp"
 
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
 #include <algorithm>
 

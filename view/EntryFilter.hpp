@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_VIEW_ENTRYFILTER_HPP
 #define IMAGEPOSITION_VIEW_ENTRYFILTER_HPP
 
-#include "settings/ValueRange.hpp"
+#include "ValueRange.hpp"
 
 #include <cstddef>
 #include <string>

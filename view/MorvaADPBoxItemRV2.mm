@@ -1,6 +1,6 @@
-#import "view/MorvaADPBoxItemRV2.h"
+#import "MorvaADPBoxItemRV2.h"
 
-#import "view/LocalizedText.h"
+#import "LocalizedText.h"
 
 @implementation MorvaADPBoxItemRV2
 

@@ -1,4 +1,4 @@
-#import "view/MorvaADPButtonRV2.h"
+#import "MorvaADPButtonRV2.h"
 
 #import <AppKit/AppKit.h>
 

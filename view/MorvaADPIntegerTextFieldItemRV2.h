@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_VIEW_MORVAADPINTEGERTEXTFIELDITEMRV2_H
 #define IMAGEPOSITION_VIEW_MORVAADPINTEGERTEXTFIELDITEMRV2_H
 
-#import "settings/MorvaADPItemProtocols.h"
+#import "MorvaADPItemProtocols.h"
 
 #import <AppKit/AppKit.h>
 

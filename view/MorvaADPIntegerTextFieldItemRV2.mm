@@ -1,8 +1,8 @@
-#import "view/MorvaADPIntegerTextFieldItemRV2.h"
+#import "MorvaADPIntegerTextFieldItemRV2.h"
 
-#import "platform/TextBridge.h"
-#include "settings/IntegerText.hpp"
-#include "view/EntryFilter.hpp"
+#include "EntryFilter.hpp"
+#include "IntegerText.hpp"
+#import "TextBridge.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_VIEW_MORVAADPLABELITEMRV2_H
 #define IMAGEPOSITION_VIEW_MORVAADPLABELITEMRV2_H
 
-#import "settings/MorvaADPItemProtocols.h"
+#import "MorvaADPItemProtocols.h"
 
 #import <AppKit/AppKit.h>
 

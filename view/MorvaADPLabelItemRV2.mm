@@ -1,6 +1,6 @@
-#import "view/MorvaADPLabelItemRV2.h"
+#import "MorvaADPLabelItemRV2.h"
 
-#import "view/LocalizedText.h"
+#import "LocalizedText.h"
 
 @implementation MorvaADPLabelItemRV2
 

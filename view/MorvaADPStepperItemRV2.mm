@@ -1,4 +1,4 @@
-#import "view/MorvaADPStepperItemRV2.h"
+#import "MorvaADPStepperItemRV2.h"
 
 @implementation MorvaADPStepperItemRV2
 

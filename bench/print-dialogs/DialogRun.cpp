@@ -1,4 +1,4 @@
-#include "bench/print-dialogs/DialogRun.hpp"
+#include "DialogRun.hpp"
 
 #include <algorithm>
 #include <csignal>

@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_BENCH_DIALOGRUN_HPP
 #define IMAGEPOSITION_BENCH_DIALOGRUN_HPP
 
-#include "bench/print-dialogs/WatchedScreen.hpp"
+#include "WatchedScreen.hpp"
 
 #include <string>
 

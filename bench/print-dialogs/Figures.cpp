@@ -1,4 +1,4 @@
-#include "bench/print-dialogs/Figures.hpp"
+#include "Figures.hpp"
 
 #include <algorithm>
 #include <cstdio>

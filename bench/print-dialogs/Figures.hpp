@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_BENCH_FIGURES_HPP
 #define IMAGEPOSITION_BENCH_FIGURES_HPP
 
-#include "bench/print-dialogs/DialogRun.hpp"
+#include "DialogRun.hpp"
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "bench/print-dialogs/WatchedScreen.hpp"
+#include "WatchedScreen.hpp"
 
 #include <algorithm>
 #include <poll.h>

@@ -1,6 +1,6 @@
 // compare-dialogs [--runs N] [--trace] NAME=COMMAND...: starts the dialogs by turns on the display
 // that DISPLAY names, and prints what each costs. The first one is compared with the others.
-#include "bench/print-dialogs/Figures.hpp"
+#include "Figures.hpp"
 
 #include <cstdio>
 #include <cstdlib>

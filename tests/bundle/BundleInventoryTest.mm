@@ -1,5 +1,5 @@
-#import "tests/support/Pool.h"
-#import "tests/support/Text.h"
+#import "TestPool.h"
+#import "Text.h"
 
 #import <Foundation/Foundation.h>
 #import <objc/runtime.h>

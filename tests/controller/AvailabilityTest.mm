@@ -1,5 +1,5 @@
 // Which controls are usable, how the front offsets are named, and the trace that says why.
-#import "tests/controller/ControllerFixture.h"
+#import "ControllerFixture.h"
 
 using namespace imageposition::test;
 using testing::ElementsAre;

@@ -1,8 +1,8 @@
 // How a controller comes to be from a bundle, and how it goes.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/LiveObjects.h"
-#import "tests/support/Pool.h"
-#import "tests/support/RefusingInit.h"
+#import "ControllerFixture.h"
+#import "LiveObjects.h"
+#import "RefusingInit.h"
+#import "TestPool.h"
 
 #include <algorithm>
 

@@ -2,14 +2,14 @@
 #ifndef IMAGEPOSITION_TESTS_CONTROLLER_CONTROLLERFIXTURE_H
 #define IMAGEPOSITION_TESTS_CONTROLLER_CONTROLLERFIXTURE_H
 
-#import "tests/controller/Recorders.h"
-#import "tests/controller/RecordingHost.h"
-#import "tests/support/Fields.h"
-#import "tests/support/LogCapture.h"
-#import "tests/support/TestBundle.h"
-#import "tests/support/TestPpd.h"
-#import "tests/support/TestPrintSettings.h"
-#import "tests/support/Text.h"
+#import "Fields.h"
+#import "LogCapture.h"
+#import "Recorders.h"
+#import "RecordingHost.h"
+#import "TestBundle.h"
+#import "TestPpd.h"
+#import "TestPrintSettings.h"
+#import "Text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

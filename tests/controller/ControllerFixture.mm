@@ -1,4 +1,4 @@
-#import "tests/controller/ControllerFixture.h"
+#import "ControllerFixture.h"
 
 #import <AppKit/AppKit.h>
 

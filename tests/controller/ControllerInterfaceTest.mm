@@ -1,6 +1,6 @@
 // The controller as the runtime describes it.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/ClassTable.h"
+#import "ClassTable.h"
+#import "ControllerFixture.h"
 
 using namespace imageposition::test;
 

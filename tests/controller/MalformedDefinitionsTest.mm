@@ -1,5 +1,5 @@
 // Property lists that are well-formed and wrong: none of them may take the print dialog down.
-#import "tests/controller/ControllerFixture.h"
+#import "ControllerFixture.h"
 
 using namespace imageposition::test;
 using testing::AllOf;

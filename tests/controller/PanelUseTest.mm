@@ -1,8 +1,8 @@
 // Controllers with the real view, real settings and real rules, in sequence: print settings that
 // fail, and hosts that answer nothing.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/Pool.h"
-#include "tests/use/PanelModel.hpp"
+#import "ControllerFixture.h"
+#include "PanelModel.hpp"
+#import "TestPool.h"
 
 using namespace imageposition::test;
 using testing::ElementsAre;

@@ -1,6 +1,6 @@
 // How values and the enable flag travel between the job's print settings, the settings and the
 // checkbox: which call follows which, and what the log is told.
-#import "tests/controller/ControllerFixture.h"
+#import "ControllerFixture.h"
 
 using namespace imageposition::test;
 using testing::ElementsAre;

@@ -3,9 +3,9 @@
 #ifndef IMAGEPOSITION_TESTS_CONTROLLER_RECORDERS_H
 #define IMAGEPOSITION_TESTS_CONTROLLER_RECORDERS_H
 
-#import "controller/MorvaADPSettingsCollectorRV2.h"
+#import "MorvaADPSettingsCollectorRV2.h"
 
-#include "tests/support/Journal.hpp"
+#include "Journal.hpp"
 
 #include <string>
 

@@ -1,6 +1,6 @@
-#import "tests/controller/Recorders.h"
+#import "Recorders.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 using imageposition::test::cxxString;
 using imageposition::test::Journal;

@@ -2,9 +2,9 @@
 #ifndef IMAGEPOSITION_TESTS_CONTROLLER_RECORDINGHOST_H
 #define IMAGEPOSITION_TESTS_CONTROLLER_RECORDINGHOST_H
 
-#import "controller/MorvaADPPdeCallbackRV2.h"
+#import "MorvaADPPdeCallbackRV2.h"
 
-#include "tests/support/Journal.hpp"
+#include "Journal.hpp"
 
 /// Writes "host.ppdFile" and "host.printSettings" into its journal, when it has one.
 @interface RecordingHost : NSObject <MorvaADPPdeCallbackRV2> {

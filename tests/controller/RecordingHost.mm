@@ -1,4 +1,4 @@
-#import "tests/controller/RecordingHost.h"
+#import "RecordingHost.h"
 
 @implementation RecordingHost
 

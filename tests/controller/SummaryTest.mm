@@ -1,6 +1,6 @@
 // What the print dialog's summary is given.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/SilentBundle.h"
+#import "ControllerFixture.h"
+#import "SilentBundle.h"
 
 using namespace imageposition::test;
 using testing::ElementsAre;

@@ -1,5 +1,5 @@
 // What a person's actions and the dialog's refreshes set off.
-#import "tests/controller/ControllerFixture.h"
+#import "ControllerFixture.h"
 
 using namespace imageposition::test;
 using testing::ElementsAre;

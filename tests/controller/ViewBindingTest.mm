@@ -1,7 +1,7 @@
 // Loading the interface file and binding what it connects.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/LiveObjects.h"
-#import "tests/support/Pool.h"
+#import "ControllerFixture.h"
+#import "LiveObjects.h"
+#import "TestPool.h"
 
 #include <fstream>
 #include <regex>

@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_TESTS_FAULTS_BROKENBUNDLE_HPP
 #define IMAGEPOSITION_TESTS_FAULTS_BROKENBUNDLE_HPP
 
-#include "tests/host/WindowFixture.hpp"
+#include "WindowFixture.hpp"
 
 #include <utility>
 

@@ -1,5 +1,5 @@
 // The real program with a bundle of which one resource is damaged.
-#include "tests/faults/BrokenBundle.hpp"
+#include "BrokenBundle.hpp"
 
 #include <iostream>
 #include <map>

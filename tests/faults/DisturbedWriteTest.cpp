@@ -1,5 +1,5 @@
 // Programs that are killed, or whose disk fails, at each step of writing a file.
-#include "tests/host/DialogFixture.hpp"
+#include "DialogFixture.hpp"
 
 #include <chrono>
 #include <csignal>

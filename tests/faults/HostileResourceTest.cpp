@@ -1,5 +1,5 @@
 // The real program with a bundle whose resources are well-formed and made to do harm.
-#include "tests/faults/BrokenBundle.hpp"
+#include "BrokenBundle.hpp"
 
 #include <regex>
 

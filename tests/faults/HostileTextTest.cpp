@@ -1,5 +1,5 @@
 // Names that others choose, given to the real program: they are texts, and nothing else.
-#include "tests/host/WindowFixture.hpp"
+#include "WindowFixture.hpp"
 
 #include <unistd.h>
 

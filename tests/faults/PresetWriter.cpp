@@ -1,8 +1,8 @@
 // preset_writer PRINTER NAME KEYWORD=VALUE: saves a preset as the dialog does, to be disturbed
 // meanwhile.
-#include "host/ExitCode.hpp"
-#include "host/OptionText.hpp"
-#include "host/Presets.hpp"
+#include "ExitCode.hpp"
+#include "OptionText.hpp"
+#include "Presets.hpp"
 
 #include <iostream>
 

@@ -1,5 +1,5 @@
 // Another's panel that raises, in the window; without one see PluginLoadingTest.
-#include "tests/host/WindowFixture.hpp"
+#include "WindowFixture.hpp"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Files that others have laid, in a folder where they may write, in the way of what is written.
-#include "tests/host/DialogFixture.hpp"
+#include "DialogFixture.hpp"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,8 +1,8 @@
 // The whole panel with its real view, used as a print dialog does, while what it depends on fails.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/Pool.h"
+#import "ControllerFixture.h"
+#import "TestPool.h"
 
-#import "plugin/MorvaADPPdePanelRV2.h"
+#import "MorvaADPPdePanelRV2.h"
 
 #include <fstream>
 #include <functional>

@@ -1,12 +1,12 @@
 // The panel: what it answers, and in which order it forwards the dialog's requests.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/ClassTable.h"
-#import "tests/support/LiveObjects.h"
-#import "tests/support/Pool.h"
-#import "tests/support/RefusingInit.h"
-#import "tests/support/SilentBundle.h"
+#import "ClassTable.h"
+#import "ControllerFixture.h"
+#import "LiveObjects.h"
+#import "RefusingInit.h"
+#import "SilentBundle.h"
+#import "TestPool.h"
 
-#import "plugin/MorvaADPPdePanelRV2.h"
+#import "MorvaADPPdePanelRV2.h"
 
 using namespace imageposition::test;
 using testing::ElementsAre;

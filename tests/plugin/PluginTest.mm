@@ -1,11 +1,11 @@
 // The principal class: which panels it offers, for which dialog and printer.
-#import "tests/controller/ControllerFixture.h"
-#import "tests/support/ClassTable.h"
-#import "tests/support/LiveObjects.h"
-#import "tests/support/Pool.h"
+#import "ClassTable.h"
+#import "ControllerFixture.h"
+#import "LiveObjects.h"
+#import "TestPool.h"
 
-#import "plugin/MorvaADPPdePanelRV2.h"
-#import "plugin/MorvaADPPdePluginRV2.h"
+#import "MorvaADPPdePanelRV2.h"
+#import "MorvaADPPdePluginRV2.h"
 
 using namespace imageposition::test;
 

@@ -1,11 +1,11 @@
 // The shipped rules, against the settings that they act on.
-#import "tests/resources/ResourceFiles.h"
+#import "ResourceFiles.h"
 
-#import "settings/Keys.h"
-#import "settings/SettingRules.h"
-#import "tests/support/Text.h"
+#import "Keys.h"
+#import "SettingRules.h"
+#import "Text.h"
 
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
 #include <gmock/gmock.h>
 

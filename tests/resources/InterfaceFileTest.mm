@@ -1,8 +1,8 @@
 // The interface file as Xcode's document, against the classes that it instantiates and connects.
-#import "tests/resources/ResourceFiles.h"
+#import "ResourceFiles.h"
 
-#import "controller/MorvaADPSettingsCollectorRV2.h"
-#import "tests/support/Text.h"
+#import "MorvaADPSettingsCollectorRV2.h"
+#import "Text.h"
 
 #include <gmock/gmock.h>
 

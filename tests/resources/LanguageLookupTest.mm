@@ -1,8 +1,8 @@
 // Which of the bundle's languages a person gets, by the name that their system gives the language.
-#import "tests/resources/ResourceFiles.h"
+#import "ResourceFiles.h"
 
-#import "tests/support/TestBundle.h"
-#import "tests/support/Text.h"
+#import "TestBundle.h"
+#import "Text.h"
 
 #include <gtest/gtest.h>
 

@@ -4,10 +4,10 @@
 
 #import <AppKit/AppKit.h>
 
-#import "controller/MorvaADPPdeCallbackRV2.h"
-#import "tests/support/LogCapture.h"
-#import "tests/support/TestPpd.h"
-#import "tests/support/TestPrintSettings.h"
+#import "LogCapture.h"
+#import "MorvaADPPdeCallbackRV2.h"
+#import "TestPpd.h"
+#import "TestPrintSettings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#import "tests/resources/PanelFixture.h"
+#import "PanelFixture.h"
 
-#import "tests/support/Fields.h"
-#import "tests/support/Text.h"
+#import "Fields.h"
+#import "Text.h"
 
 #include <stdexcept>
 

@@ -1,10 +1,10 @@
 // The panel as it is laid out and labelled in the language of this process: nothing clipped,
 // nothing overlapping, everything in line. It is measured with the font that the panel is drawn
 // with.
-#import "tests/resources/PanelFixture.h"
-#import "tests/resources/ResourceFiles.h"
+#import "PanelFixture.h"
+#import "ResourceFiles.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // What the shipped definitions and rules make of a printer's description, as the person sees it.
-#import "tests/resources/PanelFixture.h"
+#import "PanelFixture.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
-#import "tests/resources/PropertyListForm.h"
+#import "PropertyListForm.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <regex>
 #include <set>

@@ -1,7 +1,7 @@
-#import "tests/resources/ResourceFiles.h"
+#import "ResourceFiles.h"
 
-#include "tests/resources/TextEntries.hpp"
-#import "tests/support/Text.h"
+#import "Text.h"
+#include "TextEntries.hpp"
 
 #include <fstream>
 #include <iterator>

@@ -1,11 +1,11 @@
 // The definitions of the four settings, against what the code and the print dialog know of them.
-#import "tests/resources/ResourceFiles.h"
+#import "ResourceFiles.h"
 
-#import "settings/Keys.h"
-#import "tests/support/Text.h"
+#import "Keys.h"
+#import "Text.h"
 
-#include "settings/IntegerText.hpp"
-#include "settings/ValueRange.hpp"
+#include "IntegerText.hpp"
+#include "ValueRange.hpp"
 
 #include <gmock/gmock.h>
 

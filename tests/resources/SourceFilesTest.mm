@@ -1,9 +1,9 @@
 // The bundle's files of data as they are written, for what a platform's reader passes over.
-#import "tests/resources/PropertyListForm.h"
-#import "tests/resources/ResourceFiles.h"
-#include "tests/resources/TextEntries.hpp"
+#import "PropertyListForm.h"
+#import "ResourceFiles.h"
+#include "TextEntries.hpp"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>

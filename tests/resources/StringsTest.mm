@@ -1,10 +1,10 @@
 // The panel's texts in every language, against the keys that the code and the definitions use.
-#import "tests/resources/ResourceFiles.h"
+#import "ResourceFiles.h"
 
-#import "settings/Keys.h"
-#import "tests/support/Text.h"
+#import "Keys.h"
+#import "Text.h"
 
-#include "settings/RangeText.hpp"
+#include "RangeText.hpp"
 
 #include <gmock/gmock.h>
 

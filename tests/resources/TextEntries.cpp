@@ -1,4 +1,4 @@
-#include "tests/resources/TextEntries.hpp"
+#include "TextEntries.hpp"
 
 #include <algorithm>
 #include <cctype>

@@ -1,5 +1,5 @@
-#import "tests/settings/SettingFixture.h"
-#import "tests/support/RefusingInit.h"
+#import "RefusingInit.h"
+#import "SettingFixture.h"
 
 /// An item that decides anew each time what it conforms to.
 @interface ChangingItem : RecordingItem {

@@ -1,6 +1,6 @@
-#import "tests/settings/LiteralRules.h"
-#import "tests/settings/SettingFixture.h"
-#import "tests/support/Pool.h"
+#import "LiteralRules.h"
+#import "SettingFixture.h"
+#import "TestPool.h"
 
 #include <algorithm>
 #include <array>

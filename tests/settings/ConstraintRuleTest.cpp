@@ -1,4 +1,4 @@
-#include "settings/ConstraintRule.hpp"
+#include "ConstraintRule.hpp"
 
 #include <gtest/gtest.h>
 

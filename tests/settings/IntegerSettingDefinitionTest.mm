@@ -1,4 +1,4 @@
-#import "tests/settings/SettingFixture.h"
+#import "SettingFixture.h"
 
 namespace imageposition::test {
 namespace {

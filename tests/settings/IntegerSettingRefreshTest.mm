@@ -1,4 +1,4 @@
-#import "tests/settings/SettingFixture.h"
+#import "SettingFixture.h"
 
 /// An item that conforms to something else each time.
 @interface FickleItem : RecordingItem {

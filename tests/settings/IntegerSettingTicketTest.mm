@@ -1,4 +1,4 @@
-#import "tests/settings/SettingFixture.h"
+#import "SettingFixture.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
-#import "tests/settings/SettingFixture.h"
-#import "tests/support/UncheckedString.h"
+#import "SettingFixture.h"
+#import "UncheckedString.h"
 
 namespace imageposition::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "settings/IntegerText.hpp"
+#include "IntegerText.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#import "tests/settings/LiteralRules.h"
+#import "LiteralRules.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <algorithm>
 #include <cstring>

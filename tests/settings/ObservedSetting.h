@@ -2,9 +2,9 @@
 #ifndef IMAGEPOSITION_TESTS_SETTINGS_OBSERVEDSETTING_H
 #define IMAGEPOSITION_TESTS_SETTINGS_OBSERVEDSETTING_H
 
-#import "settings/MorvaADPIntegerSettingRV2.h"
+#import "MorvaADPIntegerSettingRV2.h"
 
-#include "tests/support/Journal.hpp"
+#include "Journal.hpp"
 
 #include <functional>
 #include <optional>

@@ -1,7 +1,7 @@
-#import "tests/settings/ObservedSetting.h"
+#import "ObservedSetting.h"
 
-#import "tests/support/Fields.h"
-#import "tests/support/Text.h"
+#import "Fields.h"
+#import "Text.h"
 
 using imageposition::test::cxxString;
 using imageposition::test::nsString;

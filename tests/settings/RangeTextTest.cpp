@@ -1,4 +1,4 @@
-#include "settings/RangeText.hpp"
+#include "RangeText.hpp"
 
 #include <gtest/gtest.h>
 

@@ -2,15 +2,15 @@
 #ifndef IMAGEPOSITION_TESTS_SETTINGS_SETTINGFIXTURE_H
 #define IMAGEPOSITION_TESTS_SETTINGS_SETTINGFIXTURE_H
 
-#import "settings/MorvaADPIntegerSettingRV2.h"
-#import "tests/support/Fields.h"
-#import "tests/support/LogCapture.h"
-#import "tests/support/RecordingItems.h"
-#import "tests/support/TestBundle.h"
-#import "tests/support/TestPrintSettings.h"
-#import "tests/support/Text.h"
+#import "Fields.h"
+#import "LogCapture.h"
+#import "MorvaADPIntegerSettingRV2.h"
+#import "RecordingItems.h"
+#import "TestBundle.h"
+#import "TestPrintSettings.h"
+#import "Text.h"
 
-#include "tests/support/TestPpd.h"
+#include "TestPpd.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

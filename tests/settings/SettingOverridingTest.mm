@@ -1,5 +1,5 @@
-#import "tests/settings/ObservedSetting.h"
-#import "tests/settings/SettingFixture.h"
+#import "ObservedSetting.h"
+#import "SettingFixture.h"
 
 /// Keeps the rules that it is asked about, and may ask its base about another value.
 @interface RuleReadingSetting : MorvaADPIntegerSettingRV2 {

@@ -1,6 +1,6 @@
-#import "tests/settings/ObservedSetting.h"
-#import "tests/settings/SettingFixture.h"
-#import "tests/support/Pool.h"
+#import "ObservedSetting.h"
+#import "SettingFixture.h"
+#import "TestPool.h"
 
 #import <Foundation/NSDebug.h>
 

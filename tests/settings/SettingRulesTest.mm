@@ -1,5 +1,5 @@
-#import "settings/SettingRules.h"
-#import "tests/settings/SettingFixture.h"
+#import "SettingRules.h"
+#import "SettingFixture.h"
 
 namespace imageposition::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "settings/ValueRange.hpp"
+#include "ValueRange.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#import "tests/support/LogCapture.h"
+#import "LogCapture.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 namespace imageposition::test {
 

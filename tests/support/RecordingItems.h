@@ -2,9 +2,9 @@
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_RECORDINGITEMS_H
 #define IMAGEPOSITION_TESTS_SUPPORT_RECORDINGITEMS_H
 
-#import "settings/MorvaADPItemProtocols.h"
+#import "MorvaADPItemProtocols.h"
 
-#include "tests/support/Journal.hpp"
+#include "Journal.hpp"
 
 #include <functional>
 #include <string>

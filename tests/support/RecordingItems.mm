@@ -1,6 +1,6 @@
-#import "tests/support/RecordingItems.h"
+#import "RecordingItems.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <objc/runtime.h>
 

@@ -1,4 +1,4 @@
-#import "tests/support/SilentBundle.h"
+#import "SilentBundle.h"
 
 @implementation SilentBundle
 

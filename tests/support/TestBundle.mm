@@ -1,6 +1,6 @@
-#import "tests/support/TestBundle.h"
+#import "TestBundle.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <cstdlib>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "tests/support/TestPpd.h"
+#include "TestPpd.h"
 
 #include <cstdio>
 #include <stdexcept>

@@ -4,7 +4,7 @@
 
 #import <ApplicationServices/ApplicationServices.h>
 
-#include "tests/support/Journal.hpp"
+#include "Journal.hpp"
 
 #include <optional>
 #include <set>

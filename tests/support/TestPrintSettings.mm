@@ -1,6 +1,6 @@
-#import "tests/support/TestPrintSettings.h"
+#import "TestPrintSettings.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#import "tests/support/UncheckedString.h"
+#import "UncheckedString.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -2,7 +2,7 @@
 // test that an exception of the platform ends says which.
 #import <Foundation/Foundation.h>
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

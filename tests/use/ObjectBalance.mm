@@ -1,6 +1,6 @@
-#import "tests/use/ObjectBalance.h"
+#import "ObjectBalance.h"
 
-#import "tests/support/LiveObjects.h"
+#import "LiveObjects.h"
 
 namespace imageposition::test {
 

@@ -2,9 +2,9 @@
 #ifndef IMAGEPOSITION_TESTS_USE_PANELCOMPARISON_H
 #define IMAGEPOSITION_TESTS_USE_PANELCOMPARISON_H
 
-#import "plugin/MorvaADPPdePanelRV2.h"
-#import "tests/support/TestPrintSettings.h"
-#include "tests/use/PanelModel.hpp"
+#import "MorvaADPPdePanelRV2.h"
+#include "PanelModel.hpp"
+#import "TestPrintSettings.h"
 
 #import <AppKit/AppKit.h>
 

@@ -1,7 +1,7 @@
-#import "tests/use/PanelComparison.h"
+#import "PanelComparison.h"
 
-#import "tests/support/Fields.h"
-#import "tests/support/Text.h"
+#import "Fields.h"
+#import "Text.h"
 
 namespace imageposition::test {
 namespace {

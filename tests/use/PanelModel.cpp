@@ -1,4 +1,4 @@
-#include "tests/use/PanelModel.hpp"
+#include "PanelModel.hpp"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,16 +1,16 @@
-#import "tests/use/PanelUse.h"
+#import "PanelUse.h"
 
-#import "plugin/MorvaADPPdePluginRV2.h"
-#import "tests/controller/RecordingHost.h"
-#import "tests/support/Fields.h"
-#import "tests/support/LiveObjects.h"
-#import "tests/support/LogCapture.h"
-#import "tests/support/Pool.h"
-#import "tests/support/Text.h"
-#import "tests/support/UncheckedString.h"
-#import "tests/use/ObjectBalance.h"
-#import "tests/use/PanelComparison.h"
-#import "tests/use/PanelWorld.h"
+#import "Fields.h"
+#import "LiveObjects.h"
+#import "LogCapture.h"
+#import "MorvaADPPdePluginRV2.h"
+#import "ObjectBalance.h"
+#import "PanelComparison.h"
+#import "PanelWorld.h"
+#import "RecordingHost.h"
+#import "TestPool.h"
+#import "Text.h"
+#import "UncheckedString.h"
 
 #include <iterator>
 #include <stdexcept>

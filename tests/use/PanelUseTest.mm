@@ -1,7 +1,7 @@
 // Random uses of the plug-in, each compared with the model after every step: as many as the
 // variable IMAGEPOSITION_PANEL_USES says, or some hundreds. The fuzzer `panel` runs the same uses
 // without end.
-#import "tests/use/PanelUse.h"
+#import "PanelUse.h"
 
 #include <gtest/gtest.h>
 

@@ -2,10 +2,10 @@
 #ifndef IMAGEPOSITION_TESTS_USE_PANELWORLD_H
 #define IMAGEPOSITION_TESTS_USE_PANELWORLD_H
 
-#import "tests/support/TestBundle.h"
-#import "tests/support/TestPpd.h"
-#include "tests/use/Choices.hpp"
-#include "tests/use/PanelModel.hpp"
+#include "Choices.hpp"
+#include "PanelModel.hpp"
+#import "TestBundle.h"
+#import "TestPpd.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
-#import "tests/use/PanelWorld.h"
+#import "PanelWorld.h"
 
-#import "tests/support/Text.h"
+#import "Text.h"
 
 #include <algorithm>
 

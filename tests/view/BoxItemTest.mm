@@ -1,6 +1,6 @@
-#import "tests/view/ItemFixture.h"
+#import "ItemFixture.h"
 
-#import "view/MorvaADPBoxItemRV2.h"
+#import "MorvaADPBoxItemRV2.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#import "view/MorvaADPButtonRV2.h"
+#import "MorvaADPButtonRV2.h"
 
-#import "tests/support/ClassTable.h"
+#import "ClassTable.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The entry field with the platform's own editor in it, as while a person types.
-#import "tests/view/ItemFixture.h"
+#import "ItemFixture.h"
 
-#import "view/MorvaADPIntegerTextFieldItemRV2.h"
+#import "MorvaADPIntegerTextFieldItemRV2.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "view/EntryFilter.hpp"
+#include "EntryFilter.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#import "tests/view/ItemFixture.h"
+#import "ItemFixture.h"
 
-#import "view/MorvaADPIntegerTextFieldItemRV2.h"
+#import "MorvaADPIntegerTextFieldItemRV2.h"
 
 #include <cstdint>
 #include <limits>

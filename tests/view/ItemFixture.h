@@ -5,8 +5,8 @@
 
 #import <AppKit/AppKit.h>
 
-#import "tests/support/Fields.h"
-#import "tests/support/Text.h"
+#import "Fields.h"
+#import "Text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 // What each view item is to the code that meets it through the runtime: its base, its protocols,
 // its fields and its operations.
-#import "view/MorvaADPBoxItemRV2.h"
-#import "view/MorvaADPButtonRV2.h"
-#import "view/MorvaADPIntegerTextFieldItemRV2.h"
-#import "view/MorvaADPLabelItemRV2.h"
-#import "view/MorvaADPStepperItemRV2.h"
+#import "MorvaADPBoxItemRV2.h"
+#import "MorvaADPButtonRV2.h"
+#import "MorvaADPIntegerTextFieldItemRV2.h"
+#import "MorvaADPLabelItemRV2.h"
+#import "MorvaADPStepperItemRV2.h"
 
-#import "tests/support/ClassTable.h"
+#import "ClassTable.h"
 
 #include <gtest/gtest.h>
 

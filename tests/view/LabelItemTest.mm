@@ -1,6 +1,6 @@
-#import "tests/view/ItemFixture.h"
+#import "ItemFixture.h"
 
-#import "view/MorvaADPLabelItemRV2.h"
+#import "MorvaADPLabelItemRV2.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#import "tests/view/ItemFixture.h"
+#import "ItemFixture.h"
 
-#import "view/MorvaADPStepperItemRV2.h"
+#import "MorvaADPStepperItemRV2.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 // After the dialog let go, nothing that the plug-in made is left.
-#import "tests/support/LiveObjects.h"
-#import "tests/support/Pool.h"
-#import "tests/window/PanelWindow.h"
+#import "LiveObjects.h"
+#import "PanelWindow.h"
+#import "TestPool.h"
 
 #include <map>
 

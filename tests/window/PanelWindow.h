@@ -2,13 +2,13 @@
 #ifndef IMAGEPOSITION_TESTS_WINDOW_PANELWINDOW_H
 #define IMAGEPOSITION_TESTS_WINDOW_PANELWINDOW_H
 
-#import "tests/controller/RecordingHost.h"
-#import "tests/support/Fields.h"
-#import "tests/support/LogCapture.h"
-#import "tests/support/TestPpd.h"
-#import "tests/support/TestPrintSettings.h"
-#import "tests/support/Text.h"
-#import "tests/window/Person.h"
+#import "Fields.h"
+#import "LogCapture.h"
+#import "Person.h"
+#import "RecordingHost.h"
+#import "TestPpd.h"
+#import "TestPrintSettings.h"
+#import "Text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#import "tests/window/PanelWindow.h"
+#import "PanelWindow.h"
 
 #include <unistd.h>
 

@@ -1,5 +1,5 @@
 // The panel as a person uses it.
-#import "tests/window/PanelWindow.h"
+#import "PanelWindow.h"
 
 #include <algorithm>
 

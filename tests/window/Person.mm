@@ -1,6 +1,6 @@
-#import "tests/window/Person.h"
+#import "Person.h"
 
-#import "tests/support/Pool.h"
+#import "TestPool.h"
 
 #import <GNUstepGUI/GSDisplayServer.h>
 

@@ -1,4 +1,4 @@
-#include "platform/PrintSettingsStore.hpp"
+#include "PrintSettingsStore.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#import "platform/PrintCore.h"
+#import "PrintCore.h"
 
-#import "platform/TextBridge.h"
+#import "TextBridge.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#import "platform/TextBridge.h"
+#import "TextBridge.h"
 
-#import "tests/support/UncheckedString.h"
+#import "UncheckedString.h"
 
 #include <gtest/gtest.h>
 

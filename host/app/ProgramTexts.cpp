@@ -1,0 +1,40 @@
+#include "ProgramTexts.hpp"
+
+#include "Phrases.hpp"
+
+namespace imageposition::messages {
+
+namespace {
+
+std::string join(const std::vector<std::string> &words) {
+  std::string list;
+  for (const std::string &word : words)
+    list = list.empty() ? word : inOrder(list, word);
+  return list;
+}
+
+} // namespace
+
+std::string documentUnreadable(const std::string &path, const std::string &reason) {
+  return text("The document \"{1}\" cannot be read: {2}. Check the name and its rights.")
+      .with(path, reason);
+}
+std::string configurationUntrusted(const std::string &part) {
+  return text("GNUSTEP_CONFIG_FILE was ignored: another user could change \"{1}\". Unset the "
+              "variable, or have it name a file that only you can change, in such a folder.")
+      .with(part);
+}
+std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins) {
+  if (plugins.empty())
+    return text("No plug-in was found for \"{1}\". Name one with --plugin BUNDLE.").with(printer);
+  return text("No plug-in has a panel for \"{1}\" (asked: {2}). Choose a printer that supports "
+              "one, or name another plug-in with --plugin BUNDLE.")
+      .with(printer, join(plugins));
+}
+std::string jobSentUnsaid(const std::string &job) {
+  return text("CUPS has the job {1}, but standard output cannot be written; do not print it again.")
+      .with(job);
+}
+const Text kCancelled = text("Cancelled; nothing was written.");
+
+} // namespace imageposition::messages

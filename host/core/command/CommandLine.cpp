@@ -1,0 +1,205 @@
+#include "CommandLine.hpp"
+
+#include "Appearance.hpp"
+#include "CommandTexts.hpp"
+#include "ExitCode.hpp"
+#include "HoldTime.hpp"
+#include "OptionText.hpp"
+#include "PrinterTexts.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <functional>
+#include <sys/stat.h>
+
+namespace imageposition {
+
+namespace {
+
+struct RawArguments {
+  Arguments arguments;
+  std::vector<std::string> entries;
+  std::string back;
+};
+
+[[noreturn]] void refuse(const std::string &message) {
+  throw Failure(ExitCode::Usage, messages::usage(message));
+}
+
+/// An option that may be repeated, and whose occurrences `take` gets in their order.
+template <typename Value>
+CLI::Option *addRepeated(CLI::App &app, const char *names, const std::function<void(Value)> &take,
+                         const char *help) {
+  return app.add_option_function<Value>(names, take, help)->trigger_on_parse();
+}
+
+/// An option that may be repeated, and of which the last one counts.
+CLI::Option *addText(CLI::App &app, const char *names, std::string &value, const char *help,
+                     const char *type) {
+  return app.add_option(names, value, help)->take_last()->type_name(type);
+}
+
+/// Without words of its own in the help.
+CLI::Validator between(int first, int last) { return CLI::Range(first, last).description(""); }
+
+/// What lp calls restarting and changing is about jobs that CUPS has already.
+void addRefused(CLI::App &app) {
+  addRepeated<std::string>(
+      app, "-i", [](const std::string &job) { refuse(messages::jobsAreNotChanged(job)); }, "")
+      ->group("");
+}
+
+void addPrinterOptions(CLI::App &app, Arguments &arguments) {
+  addText(app, "--ppd", arguments.ppd, messages::kHelpPpd, "FILE");
+  addText(app, "-d,--queue", arguments.queue, messages::kHelpQueue, "QUEUE");
+  addText(app, "-h", arguments.server, messages::kHelpServer, "SERVER");
+  app.add_flag("-E", arguments.isEncrypted, messages::kHelpEncryption);
+  addText(app, "-U", arguments.user, messages::kHelpUser, "USER");
+}
+
+/// Those that lp makes job options of. Later ones of a name displace earlier ones.
+void addJobOptions(CLI::App &app, Arguments &arguments) {
+  const auto add = [&arguments](const char *name, const std::string &value) {
+    arguments.options.push_back(writeOptionArgument(name, value));
+  };
+  addRepeated<std::string>(
+      app, "-o,--option",
+      [&arguments](const std::string &text) { arguments.options.push_back(text); },
+      messages::kHelpOption)
+      ->type_name("NAME=VALUE");
+  addRepeated<int>(
+      app, "-n", [add](int copies) { add("copies", std::to_string(copies)); },
+      messages::kHelpCopies)
+      ->type_name("COPIES")
+      ->check(between(1, 9999));
+  addRepeated<std::string>(
+      app, "-P", [add](const std::string &pages) { add("page-ranges", pages); },
+      messages::kHelpPages)
+      ->type_name("PAGES");
+  addRepeated<int>(
+      app, "-q", [add](int priority) { add("job-priority", std::to_string(priority)); },
+      messages::kHelpPriority)
+      ->type_name("PRIORITY")
+      ->check(between(1, 100));
+  addRepeated<std::string>(
+      app, "-H",
+      [&arguments](const std::string &when) {
+        for (const std::string &option : optionsForHold(when))
+          arguments.options.push_back(option);
+      },
+      messages::kHelpHold)
+      ->type_name("WHEN");
+}
+
+void addOtherOptions(CLI::App &app, RawArguments &raw) {
+  Arguments &arguments = raw.arguments;
+  addText(app, "-t", arguments.title, messages::kHelpTitle, "TITLE");
+  app.add_flag("-m", arguments.isMailWanted, messages::kHelpMail);
+  app.add_flag("-s", arguments.isSilent, messages::kHelpSilent);
+  app.add_flag("-c", messages::kHelpCopy);
+  app.add_flag("--list-options", arguments.isListingOptions, messages::kHelpListOptions);
+  app.add_flag("--dry-run", arguments.isDryRun, messages::kHelpDryRun);
+  addRepeated<std::string>(
+      app, "--plugin", [&arguments](const std::string &path) { arguments.plugins.push_back(path); },
+      messages::kHelpPlugin)
+      ->type_name("BUNDLE");
+  addText(app, "--ticket", arguments.ticket, messages::kHelpTicket, "FILE");
+  app.add_option("DOCUMENT", arguments.documents, messages::kHelpDocument)->type_name("");
+  addText(app, "--appearance", arguments.appearance, messages::kHelpAppearance, "light|dark");
+  addText(app, "--text-scale", arguments.textScale, messages::kHelpTextScale, "NUMBER");
+  app.add_flag("--batch", arguments.isBatch, messages::kHelpBatch);
+  addRepeated<std::string>(
+      app, "--set", [&raw](const std::string &entry) { raw.entries.push_back(entry); },
+      messages::kHelpSet)
+      ->type_name("NAME=TEXT");
+  addText(app, "--back", raw.back, messages::kHelpBack, "on|off");
+  app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
+}
+
+bool endsWith(const std::string &text, const std::string &end) {
+  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+/// A shell's * makes arguments of a folder's files, whose names somebody else may have chosen.
+void refuseFilesLikeOptions(const std::vector<std::string> &words) {
+  for (const std::string &word : words) {
+    if (word == "--")
+      return;
+    struct stat status {};
+    if (word.size() > 1 && word.front() == '-' && lstat(word.c_str(), &status) == 0)
+      refuse(messages::fileLikeOption(word));
+  }
+}
+
+/// An empty text comes from a variable that was never set; what it was meant for would be skipped.
+void refuseEmptyTexts(const CLI::App &app) {
+  for (const char *name : {"--ticket", "--back", "--ppd", "-d", "-h", "-U", "DOCUMENT"}) {
+    const auto &texts = app.get_option(name)->results();
+    if (std::find(texts.begin(), texts.end(), "") != texts.end())
+      refuse(messages::emptyText(name));
+  }
+}
+
+void fillBatchRequest(RawArguments &raw) {
+  BatchRequest &batch = raw.arguments.batch;
+  for (const std::string &word : raw.entries) {
+    const auto entry = readEntry(word);
+    if (!entry)
+      refuse(messages::badEntry(word));
+    batch.entries.push_back(*entry);
+  }
+  if (!raw.back.empty()) {
+    batch.back = readSwitch(raw.back);
+    if (!batch.back)
+      refuse(messages::badSwitch(raw.back));
+  }
+  const bool asksForMore = !batch.entries.empty() || batch.back || batch.summary;
+  if (asksForMore && !raw.arguments.isBatch)
+    refuse(messages::kOnlyInBatch);
+}
+
+void checkCombination(const Arguments &arguments) {
+  if (!arguments.ppd.empty() && !arguments.queue.empty())
+    refuse(messages::kTwoPrintersNamed);
+  if (endsWith(arguments.ticket, ".options"))
+    refuse(messages::ticketNamesOptions(arguments.ticket));
+  if (std::count(arguments.documents.begin(), arguments.documents.end(), "-") > 1)
+    refuse(messages::kInputNamedTwice);
+  if (!arguments.appearance.empty() && !readAppearance(arguments.appearance))
+    refuse(messages::badAppearance(arguments.appearance));
+  if (!arguments.textScale.empty() && !readTextScale(arguments.textScale))
+    refuse(messages::badTextScale(arguments.textScale));
+}
+
+} // namespace
+
+std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) {
+  refuseFilesLikeOptions(words);
+  CLI::App app(messages::kHelpIntroduction, "print-dialog");
+  app.set_version_flag("--version", messages::kVersion, messages::kHelpVersion);
+  app.set_help_flag("--help", messages::kHelpHelp);
+  app.footer(messages::kHelpFooter);
+  app.get_formatter()->column_width(26);
+  RawArguments raw;
+  addPrinterOptions(app, raw.arguments);
+  addJobOptions(app, raw.arguments);
+  addOtherOptions(app, raw);
+  addRefused(app);
+  try {
+    std::reverse(words.begin(), words.end()); // CLI11 takes them from the back
+    app.parse(words);
+  } catch (const CLI::CallForHelp &) {
+    return Answer{app.help()};
+  } catch (const CLI::CallForVersion &) {
+    return Answer{std::string(messages::kVersion) + "\n"};
+  } catch (const CLI::ParseError &error) {
+    refuse(error.what());
+  }
+  refuseEmptyTexts(app);
+  fillBatchRequest(raw);
+  checkCombination(raw.arguments);
+  return raw.arguments;
+}
+
+} // namespace imageposition

@@ -1,0 +1,18 @@
+/// The exit status that a failure ends the program with.
+#ifndef IMAGEPOSITION_HOST_EXITSTATUS_HPP
+#define IMAGEPOSITION_HOST_EXITSTATUS_HPP
+
+#include "ExitCode.hpp"
+
+#include <functional>
+#include <ostream>
+
+namespace imageposition {
+
+/// Returns what `run` returns. If it throws, writes the message as one line to `errors` and returns
+/// the `Failure`'s code, or `Fault` for any other exception.
+ExitCode exitCodeOf(const std::function<ExitCode()> &run, std::ostream &errors);
+
+} // namespace imageposition
+
+#endif

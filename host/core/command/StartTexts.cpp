@@ -1,0 +1,65 @@
+#include "StartTexts.hpp"
+
+#include "CommandTexts.hpp"
+#include "ExitCode.hpp"
+#include "Utf.hpp"
+
+#include <cstdlib>
+#include <unistd.h>
+
+namespace imageposition {
+
+namespace {
+
+const char *const kConfiguration = "GNUSTEP_CONFIG_FILE";
+
+/// The names of the environment variables that begin so.
+std::vector<std::string> variablesNamed(const std::string &start) {
+  std::vector<std::string> names;
+  for (char **variable = environ; *variable != nullptr; variable++) {
+    const std::string entry = *variable;
+    if (entry.compare(0, start.size(), start) == 0)
+      names.push_back(entry.substr(0, entry.find('=')));
+  }
+  return names;
+}
+
+} // namespace
+
+void refuseForeignArguments(const std::vector<std::string> &words) {
+  for (const std::string &word : words)
+    if (!isWellFormedUtf8(word))
+      throw Failure(ExitCode::Usage, messages::argumentNotText(utf8FromUtf16(utf16FromUtf8(word))));
+}
+
+void leaveOutForeignVariables(char **arguments) {
+  std::vector<char *> rest;
+  bool isComplete = true;
+  for (char **variable = environ; *variable != nullptr; variable++) {
+    if (isWellFormedUtf8(*variable))
+      rest.push_back(*variable);
+    else
+      isComplete = false;
+  }
+  rest.push_back(nullptr);
+  // Unsetting them is too late: the platform has copied them before `main`.
+  if (!isComplete)
+    execve("/proc/self/exe", arguments, rest.data());
+}
+
+std::optional<UntrustedPart> leaveOutPlatformVariables() {
+  for (const std::string &name : variablesNamed("GNUSTEP_"))
+    if (name != kConfiguration)
+      unsetenv(name.c_str());
+  const char *const configuration = std::getenv(kConfiguration);
+  if (configuration == nullptr)
+    return std::nullopt;
+  std::optional<UntrustedPart> untrusted;
+  if (*configuration == '/')
+    untrusted = untrustedPartOfFolder(configuration, TrustedPeople::here());
+  if (untrusted || *configuration != '/') // GNUstep would look in the current folder
+    unsetenv(kConfiguration);
+  return untrusted;
+}
+
+} // namespace imageposition

@@ -1,0 +1,49 @@
+#include "CupsConnection.hpp"
+
+#include "VisibleText.hpp"
+
+#include <cstring>
+#include <sys/socket.h>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+constexpr double kSecondsBetweenQuestions = 0.25;
+
+int askWhetherToWait(http_t *, void *keepWaiting) {
+  return (*static_cast<CupsConnection::KeepWaiting *>(keepWaiting))() ? 1 : 0;
+}
+
+} // namespace
+
+std::unique_ptr<CupsConnection> CupsConnection::open(std::chrono::milliseconds patience,
+                                                     KeepWaiting keepWaiting) {
+  http_t *const http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
+                                    1, static_cast<int>(patience.count()), nullptr);
+  if (http == nullptr)
+    return nullptr;
+  return std::unique_ptr<CupsConnection>(new CupsConnection(http, std::move(keepWaiting)));
+}
+
+CupsConnection::CupsConnection(http_t *http, KeepWaiting keepWaiting)
+    : http_(http), keepWaiting_(std::move(keepWaiting)) {
+  httpSetTimeout(http_, kSecondsBetweenQuestions, askWhetherToWait, &keepWaiting_);
+}
+
+CupsConnection::~CupsConnection() { httpClose(http_); }
+
+std::string cupsServerName() {
+  const std::string name = cupsServer();
+  return name.empty() || name[0] == '/' ? name : name + ":" + std::to_string(ippPort());
+}
+
+std::string cupsReason() {
+  const std::string reason = cupsLastErrorString();
+  // What is said of an answer that is not whole.
+  const bool isNone = reason == ippErrorString(IPP_STATUS_OK) || reason == std::strerror(0);
+  return isNone ? "" : visible(reason);
+}
+
+} // namespace imageposition

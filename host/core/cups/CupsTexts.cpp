@@ -1,0 +1,34 @@
+#include "CupsTexts.hpp"
+
+#include "Phrases.hpp"
+
+namespace imageposition::messages {
+
+const Text kPrinterIdle = text("Ready");
+const Text kPrinterPrinting = text("Printing");
+const Text kPrinterStopped = text("Stopped");
+std::string stateBecause(const std::string &state, const std::string &reasons) {
+  return text("{1}: {2}").with(state, reasons);
+}
+std::string refusesJobs(const std::string &state) { return text("{1}; takes no jobs").with(state); }
+const Text kNoPrinters = text(
+    "CUPS has no printers. Add one in the system's settings or with lpadmin, or save the job's "
+    "settings as a ticket.");
+std::string noCups(const std::string &server, const std::string &reason) {
+  return text("CUPS does not answer at {1}{2}. Start it (systemctl start cups) and try again, or "
+              "save the job's settings as a ticket.")
+      .with(server, because(reason));
+}
+const Text kNoAnswer = text("no answer in time");
+std::string printersNotListed(const std::string &reason) {
+  return text("CUPS does not say which printers it has{1}. Ask its administrator, or save the "
+              "job's settings as a ticket.")
+      .with(because(reason));
+}
+std::string passwordExposed(const std::string &server) {
+  return text("The connection to CUPS at {1} is not encrypted: others on the network can read the "
+              "password on its way. To encrypt it, cancel and start print-dialog with -E.")
+      .with(server);
+}
+
+} // namespace imageposition::messages

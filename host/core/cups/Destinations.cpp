@@ -1,0 +1,257 @@
+#include "Destinations.hpp"
+
+#include "CupsConnection.hpp"
+#include "CupsTexts.hpp"
+#include "PasswordQuestion.hpp"
+#include "Phrases.hpp"
+#include "VisibleText.hpp"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstring>
+#include <strings.h>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct ReasonWords {
+  const char *reason; // without the severity at its end
+  Text words;
+};
+
+/// These tell a person nothing.
+constexpr const char *kSilentReasons[] = {"none", "other", "com.apple.print.recoverable"};
+
+/// The keywords of RFC 8011, 5.4.12, and those of CUPS's own.
+constexpr ReasonWords kReasonWords[] = {
+    // Translators: what is the matter with a printer; it follows its state, "Stopped: ".
+    {"paused", text("paused")},
+    {"moving-to-paused", text("being paused")},
+    {"media-empty", text("out of paper")},
+    {"media-low", text("little paper left")},
+    {"media-needed", text("needs paper")},
+    {"media-jam", text("paper jam")},
+    {"input-tray-missing", text("a paper tray is missing")},
+    {"output-area-full", text("output tray full")},
+    {"output-area-almost-full", text("output tray nearly full")},
+    {"output-tray-missing", text("the output tray is missing")},
+    {"toner-low", text("little toner left")},
+    {"toner-empty", text("out of toner")},
+    {"marker-supply-low", text("little ink or toner left")},
+    {"marker-supply-empty", text("out of ink or toner")},
+    {"marker-waste-full", text("waste container full")},
+    {"marker-waste-almost-full", text("waste container nearly full")},
+    {"cover-open", text("a cover is open")},
+    {"door-open", text("a door is open")},
+    {"interlock-open", text("a cover is open")},
+    {"offline", text("not connected")},
+    {"connecting-to-device", text("connecting")},
+    {"timed-out", text("not responding")},
+    {"shutdown", text("switched off")},
+    {"stopping", text("stopping")},
+    {"stopped-partly", text("partly stopped")},
+    {"spool-area-full", text("its memory is full")},
+    {"cups-missing-filter", text("a part of its driver is missing")},
+    {"cups-insecure-filter", text("a part of its driver has unsafe rights")},
+};
+
+std::string withoutSeverity(const std::string &reason) {
+  for (const std::string severity : {"-error", "-warning", "-report"})
+    if (reason.size() > severity.size() &&
+        reason.compare(reason.size() - severity.size(), severity.size(), severity) == 0)
+      return reason.substr(0, reason.size() - severity.size());
+  return reason;
+}
+
+std::string wordsFor(const std::string &reason) {
+  std::string bare = withoutSeverity(reason);
+  for (const char *silent : kSilentReasons)
+    if (bare == silent)
+      return {};
+  for (const ReasonWords &known : kReasonWords)
+    if (bare == known.reason)
+      return known.words;
+  return bare;
+}
+
+bool startsWith(const std::string &text, const char *start) {
+  return text.compare(0, std::strlen(start), start) == 0;
+}
+
+/// CUPS puts what it knows of the printer among its options.
+bool isAboutPrinter(const std::string &option) {
+  if (option == "printer-resolution")
+    return false; // also a job's option
+  return startsWith(option, "printer-") || startsWith(option, "marker-") ||
+         option == "device-uri" || option == "auth-info-required";
+}
+
+std::string optionOf(const cups_dest_t &dest, const char *name) {
+  const char *const value = cupsGetOption(name, dest.num_options, dest.options);
+  return value != nullptr ? value : "";
+}
+
+DestinationState stateOf(const cups_dest_t &dest) {
+  const std::string state = optionOf(dest, "printer-state");
+  if (state == std::to_string(IPP_PSTATE_STOPPED))
+    return DestinationState::Stopped;
+  return state == std::to_string(IPP_PSTATE_PROCESSING) ? DestinationState::Printing
+                                                        : DestinationState::Idle;
+}
+
+std::string stateInWords(const Destination &destination, const std::string &reasons) {
+  std::string state = messages::kPrinterIdle;
+  if (destination.state == DestinationState::Printing)
+    state = messages::kPrinterPrinting;
+  if (destination.state == DestinationState::Stopped)
+    state = messages::kPrinterStopped;
+  if (const std::string words = stateReasonsInWords(reasons); !words.empty())
+    state = messages::stateBecause(state, words);
+  return destination.acceptsJobs ? state : messages::refusesJobs(state);
+}
+
+/// Why there is not one destination; empty where CUPS answered well.
+std::string reasonForNone(bool isTooLate) {
+  if (isTooLate)
+    return messages::noCups(cupsServerName(), messages::kNoAnswer);
+  const int status = cupsLastError(); // any number that CUPS sent
+  if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND)
+    return messages::kNoPrinters;
+  if (status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE || status == IPP_STATUS_ERROR_INTERNAL)
+    return messages::noCups(cupsServerName(), cupsReason());
+  return messages::printersNotListed(cupsReason());
+}
+
+/// A name is shown and sent to CUPS, and so must be the same in both places.
+bool isShowable(const std::string &name) { return !name.empty() && visible(name) == name; }
+
+bool hasSameOptions(const PrintSettingsStore &left, const PrintSettingsStore &right) {
+  return std::equal(left.options(), left.options() + left.optionCount(), right.options(),
+                    right.options() + right.optionCount(),
+                    [](const cups_option_t &one, const cups_option_t &other) {
+                      return std::strcmp(one.name, other.name) == 0 &&
+                             std::strcmp(one.value, other.value) == 0;
+                    });
+}
+
+} // namespace
+
+Destination toDestination(const cups_dest_t &dest) {
+  Destination destination;
+  destination.name = dest.name;
+  destination.instance = dest.instance != nullptr ? dest.instance : "";
+  destination.description = visible(optionOf(dest, "printer-info"));
+  destination.location = visible(optionOf(dest, "printer-location"));
+  destination.uri = visible(optionOf(dest, "printer-uri-supported"));
+  destination.state = stateOf(dest);
+  destination.acceptsJobs = optionOf(dest, "printer-is-accepting-jobs") != "false";
+  destination.stateText =
+      stateInWords(destination, visible(optionOf(dest, "printer-state-reasons")));
+  destination.isDefault = dest.is_default != 0;
+  for (int i = 0; i < dest.num_options; i++)
+    if (!isAboutPrinter(dest.options[i].name))
+      destination.defaults.set(dest.options[i].name, dest.options[i].value);
+  return destination;
+}
+
+std::string Destination::fullName() const {
+  return instance.empty() ? name : name + "/" + instance;
+}
+
+const Destination *DestinationList::find(const std::string &fullName) const {
+  for (const Destination &destination : destinations)
+    if (strcasecmp(destination.fullName().c_str(), fullName.c_str()) == 0) // as CUPS matches
+      return &destination;
+  return nullptr;
+}
+
+const Destination *DestinationList::defaultDestination() const {
+  for (const Destination &destination : destinations)
+    if (destination.isDefault)
+      return &destination;
+  return nullptr;
+}
+
+DestinationList readDestinations(std::chrono::milliseconds patience) {
+  const Clock::time_point deadline = Clock::now() + patience;
+  const auto isInTime = [=] { return Clock::now() < deadline; };
+  const PasswordQuestion nobodyAnswers;
+  const auto connection = CupsConnection::open(patience, isInTime);
+  if (!connection)
+    return {{}, messages::noCups(cupsServerName(), systemReason(errno))};
+  DestinationList list;
+  cups_dest_t *dests = nullptr;
+  const int count = cupsGetDests2(connection->http(), &dests);
+  for (int i = 0; i < count; i++)
+    if (Destination destination = toDestination(dests[i]); isShowable(destination.fullName()))
+      list.destinations.push_back(std::move(destination));
+  if (list.destinations.empty())
+    list.reason = reasonForNone(!isInTime());
+  cupsFreeDests(count, dests);
+  return list;
+}
+
+struct Destinations::Answer {
+  std::atomic<bool> isThere{false};
+  DestinationList list; // the asking thread's until `isThere`
+};
+
+Destinations::Destinations() = default;
+Destinations::~Destinations() = default;
+
+void Destinations::refresh(std::chrono::milliseconds patience) {
+  if (answer_)
+    return;
+  answer_ = std::make_shared<Answer>();
+  // Looking up a server's name can take longer than any patience; nobody waits for this thread.
+  try {
+    std::thread([answer = answer_, patience] {
+      answer->list = readDestinations(patience);
+      answer->isThere = true;
+    }).detach();
+  } catch (const std::system_error &) { // too many processes; there may be fewer at the next call
+    answer_.reset();
+  }
+}
+
+bool Destinations::takeAnswer() {
+  if (!answer_ || !answer_->isThere)
+    return false;
+  const bool differs = !(answer_->list == list_);
+  list_ = std::move(answer_->list);
+  answer_.reset();
+  return differs;
+}
+
+bool operator==(const Destination &left, const Destination &right) {
+  return left.name == right.name && left.instance == right.instance &&
+         left.description == right.description && left.location == right.location &&
+         left.uri == right.uri && left.state == right.state && left.stateText == right.stateText &&
+         left.acceptsJobs == right.acceptsJobs && left.isDefault == right.isDefault &&
+         hasSameOptions(left.defaults, right.defaults);
+}
+
+bool operator==(const DestinationList &left, const DestinationList &right) {
+  return left.reason == right.reason && left.destinations == right.destinations;
+}
+
+std::string stateReasonsInWords(const std::string &reasons) {
+  std::string list;
+  for (std::size_t start = 0; start < reasons.size();) {
+    const std::size_t comma = std::min(reasons.find(',', start), reasons.size());
+    const std::string words = wordsFor(reasons.substr(start, comma - start));
+    if (!words.empty() && list.find(words) == std::string::npos)
+      list = list.empty() ? words : messages::inOrder(list, words);
+    start = comma + 1;
+  }
+  return list;
+}
+
+} // namespace imageposition

@@ -1,0 +1,57 @@
+#include "FileContent.hpp"
+
+#include "FileTexts.hpp"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace imageposition {
+
+namespace {
+
+constexpr std::size_t kPiece = 65536;
+
+void checkOrdinary(const Descriptor &file) {
+  struct stat status {};
+  if (fstat(file.get(), &status) != 0)
+    throw FileTrouble(errno);
+  if (S_ISDIR(status.st_mode))
+    throw FileTrouble(EISDIR);
+  if (!S_ISREG(status.st_mode))
+    throw FileTrouble(messages::kNotAnOrdinaryFile);
+}
+
+} // namespace
+
+FileTrouble::FileTrouble(int error) : std::runtime_error(systemReason(error)), error_(error) {}
+
+std::string contentOfFile(const Descriptor &file) {
+  checkOrdinary(file);
+  std::string content;
+  for (;;) {
+    const std::size_t before = content.size();
+    if (before > kLargestContent)
+      throw FileTrouble(EFBIG);
+    content.resize(before + kPiece);
+    const ssize_t count = read(file.get(), &content[before], kPiece);
+    if (count < 0 && errno != EINTR)
+      throw FileTrouble(errno);
+    content.resize(before + (count < 0 ? 0 : static_cast<std::size_t>(count)));
+    if (count == 0)
+      return content;
+  }
+}
+
+std::optional<std::string> contentOfFile(const std::string &path) {
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (file.isOpen())
+    return contentOfFile(file);
+  if (errno == ENOENT)
+    return std::nullopt;
+  if (errno == ENXIO) // a socket
+    throw FileTrouble(messages::kNotAnOrdinaryFile);
+  throw FileTrouble(errno);
+}
+
+} // namespace imageposition

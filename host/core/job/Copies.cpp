@@ -1,0 +1,21 @@
+#include "Copies.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace imageposition {
+
+std::optional<int> readCopies(const std::string &text) {
+  char *end = nullptr;
+  const long number = std::strtol(text.c_str(), &end, 10);
+  if (text.empty() || *end != '\0' || number < 1 || number > kMostCopies)
+    return std::nullopt;
+  return static_cast<int>(number);
+}
+
+int nearestCopies(const std::string &text) {
+  // Before it becomes an int, which would take something else out of a large number.
+  return static_cast<int>(std::clamp<long>(std::strtol(text.c_str(), nullptr, 10), 1, kMostCopies));
+}
+
+} // namespace imageposition

@@ -1,0 +1,19 @@
+#include "DocumentNames.hpp"
+
+#include "JobTexts.hpp"
+#include "VisibleText.hpp"
+
+namespace imageposition {
+
+std::string documentName(const std::string &path) {
+  return path == "-" ? "(stdin)" : path.substr(path.rfind('/') + 1); // npos + 1 is 0
+}
+
+std::string documentsInWords(const std::vector<std::string> &paths) {
+  if (paths.empty())
+    return {};
+  const std::string first = paths.front() == "-" ? messages::kStandardInput : paths.front();
+  return paths.size() == 1 ? visible(first) : messages::andMore(first, paths.size() - 1);
+}
+
+} // namespace imageposition

@@ -1,0 +1,469 @@
+#include "JobSubmission.hpp"
+
+#include "CupsConnection.hpp"
+#include "CupsTexts.hpp"
+#include "Destinations.hpp"
+#include "DocumentNames.hpp"
+#include "DocumentStream.hpp"
+#include "JobTexts.hpp"
+
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <condition_variable>
+#include <cstring>
+#include <future>
+#include <memory>
+#include <mutex>
+#include <string_view>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr auto kPatience = std::chrono::seconds(30); // without a sign of life from CUPS
+
+[[noreturn]] void fail(JobProblem problem, const std::string &message) {
+  ExitCode code = ExitCode::Job;
+  if (problem == JobProblem::Document)
+    code = ExitCode::Usage;
+  if (problem == JobProblem::Cancelled)
+    code = ExitCode::Cancelled;
+  throw SubmissionFailure(problem, code, message);
+}
+
+[[noreturn]] void failCancelled() { fail(JobProblem::Cancelled, messages::kSubmissionCancelled); }
+
+/// What CUPS's status, which can be any number, means for a job.
+JobProblem problemOf(int status) {
+  switch (status) {
+  case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
+  case IPP_STATUS_ERROR_TIMEOUT:
+    return JobProblem::NoCups;
+  case IPP_STATUS_ERROR_NOT_FOUND:
+  case IPP_STATUS_ERROR_GONE:
+    return JobProblem::QueueGone;
+  case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+    return JobProblem::RefusesJobs;
+  case IPP_STATUS_ERROR_FORBIDDEN:
+  case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+  case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+  case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
+    return JobProblem::Authentication;
+  case IPP_STATUS_ERROR_BAD_REQUEST:
+  case IPP_STATUS_ERROR_ATTRIBUTES_OR_VALUES:
+  case IPP_STATUS_ERROR_CONFLICTING:
+  case IPP_STATUS_ERROR_REQUEST_VALUE:
+    return JobProblem::BadOption;
+  case IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED:
+  case IPP_STATUS_ERROR_DOCUMENT_FORMAT_ERROR:
+  case IPP_STATUS_ERROR_DOCUMENT_UNPRINTABLE:
+    return JobProblem::Format;
+  case IPP_STATUS_ERROR_REQUEST_ENTITY:
+  case IPP_STATUS_ERROR_NOT_POSSIBLE:
+  case IPP_STATUS_ERROR_TOO_MANY_JOBS:
+  case IPP_STATUS_ERROR_TOO_MANY_DOCUMENTS:
+  case IPP_STATUS_ERROR_ACCOUNT_LIMIT_REACHED:
+    return JobProblem::Spool;
+  default:
+    return JobProblem::Other;
+  }
+}
+
+std::string nameOf(const std::string &path) {
+  return path == "-" ? messages::kStandardInput : path;
+}
+
+struct FreeDestination {
+  void operator()(cups_dest_t *dest) const noexcept { cupsFreeDests(1, dest); }
+};
+struct FreeInfo {
+  void operator()(cups_dinfo_t *info) const noexcept { cupsFreeDestInfo(info); }
+};
+
+/// One job on its way.
+class Submission {
+public:
+  Submission(const JobRequest &request, const ProgressCallback &progress)
+      : request_(request), options_(optionsToSend(request)), progress_(progress) {}
+
+  SubmittedJob run(const JobDocuments &documents);
+  /// The time that a person took is not CUPS's.
+  void noticeAnswer() {
+    lastSign_ = Clock::now();
+    report();
+  }
+
+private:
+  bool report();
+  bool keepWaiting();
+  void connect();
+  void findPrinter();
+  void createJob();
+  void createJobWithCompounds();
+  void lookAt(const JobDocuments &documents);
+  std::string_view firstPiece(DocumentStream &document);
+  void sendDocuments(const JobDocuments &documents);
+  void sendAll(const JobDocuments &documents);
+  void clearUp(const SubmissionFailure &failure);
+  void sendDocument(DocumentStream &document, std::string_view piece, bool isLast);
+  void startDocument(bool isLast);
+  void finishDocument();
+  const char *format() const;
+  void sendPiece(std::string_view piece);
+  std::string_view nextPiece(DocumentStream &document);
+  bool removeJob();
+  std::string note() const;
+  [[noreturn]] void failAsCups();
+  std::string messageFor(JobProblem problem, const std::string &reason) const;
+
+  const JobRequest &request_;
+  const PrintSettingsStore options_;
+  const ProgressCallback &progress_;
+  std::string documentPath_; // of the one that is read
+  JobProgress state_;
+  Clock::time_point lastSign_ = Clock::now();
+  bool isCancelled_ = false;
+  bool hasTimedOut_ = false;
+  bool isAllSent_ = false; // every document, though CUPS may not have confirmed the last one
+  std::unique_ptr<CupsConnection> connection_;
+  std::unique_ptr<cups_dest_t, FreeDestination> printer_;
+  std::unique_ptr<cups_dinfo_t, FreeInfo> info_;
+  int job_ = 0;
+};
+
+bool Submission::report() {
+  isCancelled_ = isCancelled_ || (progress_ && !progress_(state_));
+  return !isCancelled_;
+}
+
+bool Submission::keepWaiting() {
+  hasTimedOut_ = Clock::now() - lastSign_ >= kPatience;
+  return report() && !hasTimedOut_;
+}
+
+/// In the words of what CUPS said last.
+void Submission::failAsCups() {
+  if (isCancelled_)
+    failCancelled();
+  if (hasTimedOut_ && job_ != 0)
+    fail(JobProblem::NoAnswer, messages::noAnswerToJob(cupsServerName()));
+  const std::string reason = cupsReason();
+  const bool isLost = httpError(connection_->http()) != 0;
+  const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(cupsLastError());
+  fail(problem, messageFor(problem, reason));
+}
+
+std::string Submission::messageFor(JobProblem problem, const std::string &reason) const {
+  const std::string &queue = request_.printer;
+  switch (problem) {
+  case JobProblem::NoCups:
+    return job_ != 0 ? messages::connectionLost(cupsServerName(), reason)
+                     : messages::noCups(cupsServerName(), reason);
+  case JobProblem::QueueGone:
+    return messages::queueGone(queue);
+  case JobProblem::RefusesJobs:
+    return messages::queueRefuses(queue);
+  case JobProblem::Authentication:
+    return messages::notAllowed(queue, reason);
+  case JobProblem::BadOption:
+    return messages::optionRefused(queue, reason);
+  case JobProblem::Format:
+    return messages::formatRefused(nameOf(documentPath_), reason);
+  case JobProblem::Spool:
+    return messages::spoolRefuses(reason);
+  default:
+    return messages::jobNotTaken(queue, reason);
+  }
+}
+
+void Submission::connect() {
+  connection_ = CupsConnection::open(kPatience, [this] { return keepWaiting(); });
+  if (!connection_)
+    fail(JobProblem::NoCups, messages::noCups(cupsServerName(), systemReason(errno)));
+}
+
+void Submission::findPrinter() {
+  printer_.reset(cupsGetNamedDest(connection_->http(), request_.printer.c_str(), nullptr));
+  if (!printer_)
+    failAsCups();
+  info_.reset(cupsCopyDestInfo(connection_->http(), printer_.get()));
+  if (!info_)
+    failAsCups();
+}
+
+/// As cupsCreateDestJob does, whose request would lose a value.
+void Submission::createJobWithCompounds() {
+  const char *const uri =
+      cupsGetOption("printer-uri-supported", printer_->num_options, printer_->options);
+  char scheme[32], user[256], host[256], resource[1024];
+  int port = 0;
+  if (uri == nullptr ||
+      httpSeparateURI(HTTP_URI_CODING_ALL, uri, scheme, sizeof scheme, user, sizeof user, host,
+                      sizeof host, &port, resource, sizeof resource) < HTTP_URI_STATUS_OK)
+    failAsCups();
+  JobRequest request = request_;
+  request.printerUri = uri;
+  const std::unique_ptr<ipp_t, decltype(&ippDelete)> response(
+      cupsDoRequest(connection_->http(), newJobRequest(request, options_), resource), ippDelete);
+  ipp_attribute_t *const id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
+  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE || id == nullptr)
+    failAsCups();
+  job_ = ippGetInteger(id, 0);
+}
+
+void Submission::createJob() {
+  if (hasCompound(request_, options_)) {
+    createJobWithCompounds();
+    return;
+  }
+  const int status = cupsCreateDestJob(
+      connection_->http(), printer_.get(), info_.get(), &job_, request_.title.c_str(),
+      options_.optionCount(), const_cast<cups_option_t *>(options_.options())); // only read
+  if (status > IPP_STATUS_OK_EVENTS_COMPLETE || job_ == 0)
+    failAsCups();
+}
+
+/// Finds out how much there is to send, and what cannot be, while nothing has been.
+void Submission::lookAt(const JobDocuments &documents) {
+  state_.total = 0;
+  for (const std::string &path : documents) {
+    documentPath_ = path;
+    const auto size = documentSize(path);
+    if (size == 0u)
+      fail(JobProblem::Document, messages::documentEmpty(nameOf(path)));
+    state_.total = size && state_.total ? std::optional(*state_.total + *size) : std::nullopt;
+  }
+}
+
+std::string_view Submission::nextPiece(DocumentStream &document) {
+  const auto piece = document.next([this] { return report(); });
+  if (!piece)
+    failCancelled();
+  return *piece;
+}
+
+std::string_view Submission::firstPiece(DocumentStream &document) {
+  const std::string_view piece = nextPiece(document);
+  if (piece.empty())
+    fail(JobProblem::Document, messages::documentEmpty(nameOf(documentPath_)));
+  return piece;
+}
+
+const char *Submission::format() const {
+  if (!request_.documentFormat.empty())
+    return request_.documentFormat.c_str();
+  if (options_.get("raw") != nullptr)
+    return CUPS_FORMAT_RAW;
+  const char *const chosen = options_.get("document-format");
+  return chosen != nullptr ? chosen : CUPS_FORMAT_AUTO;
+}
+
+void Submission::startDocument(bool isLast) {
+  if (cupsStartDestDocument(connection_->http(), printer_.get(), info_.get(), job_,
+                            documentName(documentPath_).c_str(), format(), 0, nullptr,
+                            isLast ? 1 : 0) != HTTP_STATUS_CONTINUE)
+    failAsCups();
+}
+
+void Submission::sendPiece(std::string_view piece) {
+  if (cupsWriteRequestData(connection_->http(), piece.data(), piece.size()) != HTTP_STATUS_CONTINUE)
+    failAsCups();
+  lastSign_ = Clock::now();
+  state_.sent += piece.size();
+}
+
+void Submission::finishDocument() {
+  const int status = cupsFinishDestDocument(connection_->http(), printer_.get(), info_.get());
+  // Where there is no answer, libcups returns the status of the request before.
+  if (status > IPP_STATUS_OK_EVENTS_COMPLETE ||
+      httpGetStatus(connection_->http()) != HTTP_STATUS_OK)
+    failAsCups();
+}
+
+void Submission::sendDocument(DocumentStream &document, std::string_view piece, bool isLast) {
+  startDocument(isLast);
+  while (!piece.empty()) {
+    if (!report())
+      failCancelled();
+    sendPiece(piece);
+    piece = nextPiece(document);
+  }
+  if (document.missing() > 0)
+    fail(JobProblem::Document, messages::documentShrank(nameOf(documentPath_)));
+  if (!report())
+    failCancelled();
+  lastSign_ = Clock::now();
+  isAllSent_ = isLast;
+  finishDocument();
+}
+
+/// The first document is there before there is a job.
+void Submission::sendDocuments(const JobDocuments &documents) {
+  for (const std::string &path : documents) {
+    documentPath_ = path;
+    DocumentStream document(path);
+    const std::string_view piece = firstPiece(document);
+    if (job_ == 0) {
+      if (!report())
+        failCancelled();
+      connect();
+      findPrinter();
+      createJob();
+    }
+    sendDocument(document, piece, &path == &documents.back());
+  }
+}
+
+/// A connection with half a document on it says nothing else: CUPS drops that half with it.
+bool Submission::removeJob() {
+  connection_.reset();
+  isCancelled_ = false;
+  const Clock::time_point deadline = Clock::now() + std::chrono::seconds(5);
+  connection_ =
+      CupsConnection::open(std::chrono::seconds(5), [=] { return Clock::now() < deadline; });
+  return connection_ != nullptr && cupsCancelDestJob(connection_->http(), printer_.get(), job_) <=
+                                       IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
+std::string Submission::note() const {
+  const char *const hold = options_.get("job-hold-until");
+  if (hold != nullptr && std::strcmp(hold, "no-hold") != 0)
+    return messages::waitsForRelease(request_.printer, job_, hold);
+  const Destination printer = toDestination(*printer_);
+  return printer.state == DestinationState::Stopped
+             ? messages::waitsForPrinter(request_.printer, printer.stateText)
+             : "";
+}
+
+/// Takes a job that failed back, and says what is left of it.
+void Submission::clearUp(const SubmissionFailure &failure) {
+  if (job_ == 0)
+    return;
+  if (!removeJob())
+    throw SubmissionFailure(failure.problem(), failure.code(),
+                            messages::jobLeftBehind(failure.what(), request_.printer, job_));
+  if (failure.problem() == JobProblem::NoAnswer)
+    fail(JobProblem::NoAnswer, messages::jobTakenBack(failure.what(), request_.printer, job_));
+  if (failure.problem() == JobProblem::Cancelled && isAllSent_)
+    fail(JobProblem::Cancelled, messages::jobCancelled(request_.printer, job_));
+  if (failure.problem() == JobProblem::NoCups) // it is there, and broke off
+    fail(JobProblem::Spool, messages::kDocumentBrokenOff);
+}
+
+void Submission::sendAll(const JobDocuments &documents) try {
+  lookAt(documents);
+  sendDocuments(documents);
+} catch (const std::system_error &error) {
+  fail(JobProblem::Document,
+       messages::documentNotRead(nameOf(documentPath_), error.code().message()));
+}
+
+SubmittedJob Submission::run(const JobDocuments &documents) {
+  try {
+    sendAll(documents);
+  } catch (const SubmissionFailure &failure) {
+    clearUp(failure);
+    throw;
+  }
+  return {job_, note()};
+}
+
+} // namespace
+
+SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
+                       const ProgressCallback &progress, const PasswordCallback &password) {
+  Submission submission(request, progress);
+  PasswordCallback asking;
+  if (password)
+    asking = [&](const PasswordRequest &wanted) {
+      auto answer = password(wanted);
+      submission.noticeAnswer();
+      return answer;
+    };
+  const PasswordQuestion question(asking);
+  return submission.run(documents);
+}
+
+struct JobSubmission::Work {
+  std::atomic<std::uint64_t> sent{0};
+  std::atomic<std::int64_t> total{-1}; // -1: unknown
+  std::atomic<bool> isCancelled{false};
+  std::shared_future<SubmittedJob> outcome;
+
+  std::mutex mutex; // of the following
+  std::condition_variable answered;
+  std::optional<PasswordRequest> question;
+  std::optional<Credentials> credentials;
+
+  /// On the submission's thread: waits for the other one.
+  std::optional<Credentials> ask(const PasswordRequest &wanted) {
+    std::unique_lock<std::mutex> lock(mutex);
+    question = wanted;
+    answered.wait(lock, [this] { return !question || isCancelled; });
+    question.reset();
+    return std::exchange(credentials, std::nullopt);
+  }
+
+  bool take(const JobProgress &progress) {
+    sent = progress.sent;
+    total = progress.total ? static_cast<std::int64_t>(*progress.total) : -1;
+    return !isCancelled;
+  }
+};
+
+JobSubmission::JobSubmission(JobRequest request, JobDocuments documents)
+    : work_(std::make_unique<Work>()) {
+  Work *const work = work_.get(); // outlives the thread, whose end the destructor awaits
+  try {
+    work->outcome = std::async(std::launch::async, [work, request = std::move(request),
+                                                    documents = std::move(documents)] {
+                      return submitJob(
+                          request, documents,
+                          [work](const JobProgress &progress) { return work->take(progress); },
+                          [work](const PasswordRequest &wanted) { return work->ask(wanted); });
+                    }).share();
+  } catch (const std::system_error &error) { // too many processes
+    fail(JobProblem::Other, messages::noRoomToSend(systemReason(error.code().value())));
+  }
+}
+
+JobSubmission::~JobSubmission() {
+  cancel();
+  work_->outcome.wait();
+}
+
+JobProgress JobSubmission::progress() const {
+  const std::int64_t total = work_->total;
+  return {work_->sent, total < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(total))};
+}
+
+void JobSubmission::cancel() {
+  const std::lock_guard<std::mutex> lock(work_->mutex);
+  work_->isCancelled = true;
+  work_->answered.notify_one();
+}
+
+std::optional<PasswordRequest> JobSubmission::question() const {
+  const std::lock_guard<std::mutex> lock(work_->mutex);
+  return work_->question;
+}
+
+void JobSubmission::answer(std::optional<Credentials> credentials) {
+  const std::lock_guard<std::mutex> lock(work_->mutex);
+  work_->credentials = std::move(credentials);
+  work_->question.reset();
+  work_->answered.notify_one();
+}
+
+bool JobSubmission::isDone() const {
+  return work_->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
+
+SubmittedJob JobSubmission::result() { return work_->outcome.get(); }
+
+} // namespace imageposition

@@ -1,0 +1,206 @@
+#include "PageRanges.hpp"
+
+#include "ExitCode.hpp"
+#include "JobTexts.hpp"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+namespace imageposition {
+
+namespace {
+
+[[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Usage, message); }
+
+/// What keyboards of other scripts, and programs that improve typing, put in place of ASCII.
+struct Substitute {
+  const char *written;
+  char meant;
+};
+constexpr Substitute kSubstitutes[] = {
+    {"\xE2\x80\x90", '-'}, {"\xE2\x80\x91", '-'}, {"\xE2\x80\x92", '-'}, {"\xE2\x80\x93", '-'},
+    {"\xE2\x80\x94", '-'}, {"\xE2\x88\x92", '-'}, {"\xEF\xBC\x8D", '-'}, {"\xE3\x83\xBC", '-'},
+    {"\xEF\xBC\x8C", ','}, {"\xE3\x80\x81", ','}, {"\xE3\x80\x80", ' '}, {"\xC2\xA0", ' '},
+    {"\xEF\xBC\x90", '0'}, {"\xEF\xBC\x91", '1'}, {"\xEF\xBC\x92", '2'}, {"\xEF\xBC\x93", '3'},
+    {"\xEF\xBC\x94", '4'}, {"\xEF\xBC\x95", '5'}, {"\xEF\xBC\x96", '6'}, {"\xEF\xBC\x97", '7'},
+    {"\xEF\xBC\x98", '8'}, {"\xEF\xBC\x99", '9'}};
+
+std::string plainText(std::string_view text) {
+  std::string plain;
+  while (!text.empty()) {
+    const auto substitute =
+        std::find_if(std::begin(kSubstitutes), std::end(kSubstitutes), [&](const Substitute &s) {
+          return text.substr(0, std::strlen(s.written)) == s.written;
+        });
+    if (substitute != std::end(kSubstitutes)) {
+      plain += substitute->meant;
+      text.remove_prefix(std::strlen(substitute->written));
+      continue;
+    }
+    plain += text.front() == ';' ? ',' : text.front();
+    text.remove_prefix(1);
+  }
+  return plain;
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+class Reader {
+public:
+  explicit Reader(std::string_view text) : rest_(text) {}
+
+  std::vector<PageRange> ranges() {
+    std::vector<PageRange> ranges;
+    for (skip(true); !rest_.empty(); skip(true))
+      ranges.push_back(range());
+    if (ranges.empty())
+      refuse(messages::kNoPages);
+    return ranges;
+  }
+
+private:
+  PageRange range() {
+    if (!isDigit(rest_.front()) && rest_.front() != '-')
+      refuse(messages::pagesNotUnderstood(word()));
+    const bool hasFirst = isDigit(rest_.front());
+    PageRange range;
+    if (hasFirst)
+      range.first = range.last = number();
+    if (!takeHyphen())
+      return range;
+    const bool hasLast = !rest_.empty() && isDigit(rest_.front());
+    if (!hasFirst && !hasLast)
+      refuse(messages::kPagesWithoutNumber);
+    range.last = hasLast ? number() : PageRange::kToTheEnd;
+    if (range.last < range.first)
+      refuse(messages::pagesBackwards(range.first, range.last));
+    if (!rest_.empty() && rest_.front() == '-')
+      refuse(messages::pagesNotUnderstood(word()));
+    return range;
+  }
+
+  int number() {
+    const auto end = std::find_if_not(rest_.begin(), rest_.end(), isDigit);
+    const std::string digits(rest_.begin(), end);
+    if (end != rest_.end() && !isBlank(*end) && *end != ',' && *end != '-')
+      refuse(messages::pagesNotUnderstood(word()));
+    std::int64_t value = 0;
+    for (const char digit : digits)
+      value = std::min<std::int64_t>(value * 10 + (digit - '0'), PageRange::kToTheEnd);
+    if (value == 0)
+      refuse(messages::kPageZero);
+    if (value == PageRange::kToTheEnd)
+      refuse(messages::pageTooLarge(digits));
+    rest_.remove_prefix(digits.size());
+    return static_cast<int>(value);
+  }
+
+  bool takeHyphen() {
+    const std::string_view before = rest_;
+    skip(false);
+    if (rest_.empty() || rest_.front() != '-') {
+      rest_ = before;
+      return false;
+    }
+    rest_.remove_prefix(1);
+    skip(false);
+    return true;
+  }
+
+  void skip(bool commasToo) {
+    while (!rest_.empty() && (isBlank(rest_.front()) || (commasToo && rest_.front() == ',')))
+      rest_.remove_prefix(1);
+  }
+
+  std::string word() const {
+    const auto end =
+        std::find_if(rest_.begin(), rest_.end(), [](char c) { return isBlank(c) || c == ','; });
+    return std::string(rest_.begin(), end);
+  }
+
+  std::string_view rest_;
+};
+
+std::vector<PageRange> normalized(std::vector<PageRange> ranges) {
+  std::sort(ranges.begin(), ranges.end(),
+            [](const PageRange &a, const PageRange &b) { return a.first < b.first; });
+  std::vector<PageRange> merged;
+  for (const PageRange &range : ranges) {
+    // The sum of a last page and one fits: only the end itself is the largest integer.
+    if (!merged.empty() &&
+        (merged.back().last == PageRange::kToTheEnd || range.first <= merged.back().last + 1))
+      merged.back().last = std::max(merged.back().last, range.last);
+    else
+      merged.push_back(range);
+  }
+  return merged;
+}
+
+std::string written(const std::vector<PageRange> &ranges, const char *separator) {
+  std::string text;
+  for (const PageRange &range : ranges) {
+    text += (text.empty() ? "" : separator) + std::to_string(range.first);
+    if (range.last == PageRange::kToTheEnd)
+      text += "-";
+    else if (range.last != range.first)
+      text += "-" + std::to_string(range.last);
+  }
+  return text;
+}
+
+constexpr const char *kRangesName = "page-ranges";
+constexpr const char *kSetName = "page-set";
+
+/// CUPS's filters write the end as the largest integer.
+std::string withOpenEnds(std::string value) {
+  static const std::string kEnd = std::to_string(PageRange::kToTheEnd);
+  const std::size_t at = value.find("-" + kEnd);
+  if (at != std::string::npos)
+    value.erase(at + 1, kEnd.size());
+  return value;
+}
+
+} // namespace
+
+PageRanges PageRanges::parse(std::string_view text) {
+  const std::string plain = plainText(text);
+  PageRanges pages;
+  pages.ranges_ = normalized(Reader(plain).ranges());
+  return pages;
+}
+
+std::string PageRanges::text() const { return written(ranges_, ", "); }
+
+std::string PageRanges::optionValue() const { return written(ranges_, ","); }
+
+PageChoice readPageChoice(const PrintSettingsStore &job) {
+  PageChoice choice;
+  if (const char *const ranges = job.get(kRangesName)) {
+    try {
+      choice.ranges = PageRanges::parse(withOpenEnds(ranges));
+    } catch (const Failure &) {
+      choice.ranges.reset(); // CUPS, too, prints all pages then
+    }
+  }
+  const char *const set = job.get(kSetName);
+  if (set != nullptr && std::strcmp(set, "odd") == 0)
+    choice.set = PageSet::Odd;
+  if (set != nullptr && std::strcmp(set, "even") == 0)
+    choice.set = PageSet::Even;
+  return choice;
+}
+
+void storePageChoice(const PageChoice &choice, PrintSettingsStore &job) {
+  if (choice.ranges)
+    job.set(kRangesName, choice.ranges->optionValue());
+  else
+    job.remove(kRangesName);
+  if (choice.set == PageSet::All)
+    job.remove(kSetName);
+  else
+    job.set(kSetName, choice.set == PageSet::Odd ? "odd" : "even");
+}
+
+} // namespace imageposition

@@ -1,0 +1,297 @@
+#include "Presets.hpp"
+
+#include "ChoiceList.hpp"
+#include "CustomValue.hpp"
+#include "DestinationFile.hpp"
+#include "ExitCode.hpp"
+#include "FileReplacement.hpp"
+#include "OptionText.hpp"
+#include "PresetFit.hpp"
+#include "PresetTexts.hpp"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <pwd.h>
+#include <set>
+#include <strings.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace imageposition {
+
+namespace {
+
+constexpr std::size_t kLongestName = 127;
+
+/// What belongs to one document, or to one moment.
+constexpr const char *kNotKept[] = {"document-format", "document-name", "job-name",
+                                    "page-ranges",     "page-set",      "preset-name"};
+
+/// CUPS forgets a destination without options; this one, which IPP has for the purpose, keeps a
+/// preset that is all the printer's defaults.
+constexpr const char *kPlaceholder = "preset-name";
+
+bool isSame(const std::string &left, const std::string &right) {
+  return strcasecmp(left.c_str(), right.c_str()) == 0;
+}
+
+bool isLess(const std::string &left, const std::string &right) {
+  return strcasecmp(left.c_str(), right.c_str()) < 0;
+}
+
+std::string everybodysPath() {
+  const char *const root = std::getenv("CUPS_SERVERROOT");
+  return std::string(root != nullptr && *root != '\0' ? root : "/etc/cups") + "/lpoptions";
+}
+
+/// Empty for a person without a home; their presets are everybody's.
+std::string ownFolder() {
+  const char *home = std::getenv("HOME");
+  if (home == nullptr) {
+    const passwd *const person = getpwuid(getuid());
+    home = person != nullptr ? person->pw_dir : nullptr;
+  }
+  return home != nullptr ? std::string(home) + "/.cups" : "";
+}
+
+std::string ownPath() {
+  const std::string folder = ownFolder();
+  return folder.empty() ? everybodysPath() : folder + "/lpoptions";
+}
+
+std::string contentOf(const std::string &path) {
+  try {
+    return contentOfFile(path).value_or("");
+  } catch (const FileTrouble &trouble) {
+    if (trouble.error() == ENOTDIR)
+      return {};
+    throw Failure(ExitCode::Printer, messages::presetsUnreadable(path, trouble.what()));
+  }
+}
+
+/// Everybody's first: CUPS lays a person's own over them.
+std::vector<DestinationFile::Entry> allEntries() {
+  std::vector<DestinationFile::Entry> entries =
+      DestinationFile(contentOf(everybodysPath())).entries();
+  if (ownPath() != everybodysPath())
+    for (auto &entry : DestinationFile(contentOf(ownPath())).entries())
+      entries.push_back(std::move(entry));
+  return entries;
+}
+
+[[noreturn]] void failToWrite(const std::string &reason) {
+  throw Failure(ExitCode::Printer, messages::presetsUnwritable(ownPath(), reason));
+}
+
+/// Held by whoever changes the file, from reading it to having written it. A file of its own, since
+/// the one that it guards is replaced.
+class Lock {
+public:
+  Lock() : file_(opened()) {
+    while (flock(file_.get(), LOCK_EX) != 0)
+      if (errno != EINTR)
+        failToWrite(systemReason(errno));
+  }
+  Lock(const Lock &) = delete;
+  Lock &operator=(const Lock &) = delete;
+
+private:
+  static Descriptor opened() {
+    const std::string folder = ownFolder();
+    if (!folder.empty())
+      mkdir(folder.c_str(), 0700); // what is wrong with it shows below
+    Descriptor file(open((ownPath() + ".lock").c_str(),
+                         O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
+    if (!file.isOpen())
+      failToWrite(systemReason(errno));
+    return file;
+  }
+
+  Descriptor file_;
+};
+
+/// Reads the file anew, changes it and writes it, with no print-dialog between. lpoptions(1) and
+/// CUPS's other programs do not know the lock: what they have written meanwhile is changed instead.
+template <typename Change> void changeFile(Change &&change) {
+  const Lock lock;
+  for (;;) {
+    const std::string before = contentOf(ownPath());
+    DestinationFile file(before);
+    change(file);
+    const std::string after = file.text();
+    if (after == before)
+      return;
+    try {
+      FileReplacement replacement(ownPath(), after);
+      if (contentOf(ownPath()) == before) {
+        replacement.commit();
+        return;
+      }
+    } catch (const FileTrouble &trouble) {
+      failToWrite(trouble.what());
+    }
+  }
+}
+
+bool isKept(const std::string &name) {
+  return std::none_of(std::begin(kNotKept), std::end(kNotKept),
+                      [&](const char *other) { return isSame(name, other); });
+}
+
+/// CUPS's file has lines and comments, and its programs write an empty value as none.
+bool canBeHeld(const std::string &value) {
+  return !value.empty() && std::none_of(value.begin(), value.end(), [](char c) {
+    return c == '#' || static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+  });
+}
+
+std::string oneLine(std::string text) {
+  std::replace(text.begin(), text.end(), '\n', ' ');
+  while (!text.empty() && text.back() == ' ')
+    text.pop_back();
+  return text;
+}
+
+bool contains(const std::vector<std::string> &names, const std::string &name) {
+  return std::any_of(names.begin(), names.end(),
+                     [&](const std::string &other) { return isSame(other, name); });
+}
+
+std::string withoutInstance(const std::string &queue) { return queue.substr(0, queue.find('/')); }
+
+/// "name" and "noname" become what they mean.
+void readOptions(const std::string &text, PrintSettingsStore &settings) {
+  cups_option_t *options = nullptr;
+  const int count = cupsParseOptions(text.c_str(), 0, &options);
+  for (int i = 0; i < count; i++)
+    settings.set(options[i].name, options[i].value); // what no job can carry stays out
+  cupsFreeOptions(count, options);
+}
+
+} // namespace
+
+Presets::Presets(const std::string &printer) : printer_(withoutInstance(printer)) {}
+
+std::vector<std::string> Presets::names() const {
+  std::set<std::string, IgnoringCase> names;
+  for (const auto &entry : allEntries())
+    if (isSame(entry.printer, printer_) && !entry.instance.empty())
+      names.insert(entry.instance);
+  return {names.begin(), names.end()};
+}
+
+std::vector<PresetName> Presets::ofOtherPrinters() const {
+  const auto isBefore = [](const PresetName &a, const PresetName &b) {
+    return isSame(a.printer, b.printer) ? isLess(a.name, b.name) : isLess(a.printer, b.printer);
+  };
+  std::set<PresetName, decltype(isBefore)> presets(isBefore);
+  for (const auto &entry : allEntries())
+    if (!entry.instance.empty() && !isSame(entry.printer, printer_))
+      presets.insert({entry.printer, entry.instance});
+  return {presets.begin(), presets.end()};
+}
+
+std::vector<std::string> Presets::save(const std::string &name, const PrintSettingsStore &settings,
+                                       ppd_file_t *ppd) const {
+  const std::string usable = usableName(name);
+  std::vector<std::string> lost;
+  PrintSettingsStore held;
+  for (int i = 0; i < settings.optionCount(); i++) {
+    const cups_option_t &option = settings.options()[i];
+    if (!isKept(option.name))
+      continue;
+    if (isHiddenValue(ppd, option.name, option.value))
+      lost.push_back(messages::presetKeepsNoPassword(option.name));
+    else if (canBeHeld(option.value))
+      held.set(option.name, option.value);
+    else
+      lost.push_back(messages::presetCannotHold(option.name, option.value));
+  }
+  if (held.optionCount() == 0)
+    held.set(kPlaceholder, usable);
+  const std::string options = oneLine(writeOptionText(held));
+  changeFile([&](DestinationFile &file) {
+    if (!file.set(printer_, usable, options))
+      throw Failure(ExitCode::Usage, messages::presetTooLarge(usable));
+  });
+  return lost;
+}
+
+void Presets::rename(const std::string &name, const std::string &newName) const {
+  const std::string usable = usableName(newName);
+  changeFile([&](DestinationFile &file) {
+    const bool isEverybodys = contains(names(), name);
+    if (!file.has(printer_, name))
+      throw Failure(ExitCode::Usage, isEverybodys
+                                         ? messages::presetOfEverybody(name, everybodysPath())
+                                         : messages::presetMissing(printer_, name));
+    if (!isSame(name, usable) && contains(names(), usable))
+      throw Failure(ExitCode::Usage, messages::presetExists(printer_, usable));
+    file.rename(printer_, name, usable);
+  });
+}
+
+void Presets::remove(const std::string &name) const {
+  changeFile([&](DestinationFile &file) { file.remove(printer_, name); });
+  if (contains(names(), name))
+    throw Failure(ExitCode::Usage, messages::presetOfEverybody(name, everybodysPath()));
+}
+
+LoadedPreset Presets::load(const std::string &name, const PrinterDescription &printer,
+                           const std::vector<std::string> &panelKeywords) const {
+  return load(PresetName{printer_, name}, printer, panelKeywords);
+}
+
+LoadedPreset Presets::load(const PresetName &preset, const PrinterDescription &printer,
+                           const std::vector<std::string> &panelKeywords) {
+  bool isFound = false;
+  PrintSettingsStore stored;
+  for (const auto &entry : allEntries()) {
+    if (!isSame(entry.printer, preset.printer) || !isSame(entry.instance, preset.name))
+      continue;
+    isFound = true;
+    readOptions(entry.options, stored);
+  }
+  if (!isFound)
+    throw Failure(ExitCode::Usage, messages::presetMissing(preset.printer, preset.name));
+  const bool isOwn = isSame(preset.printer, withoutInstance(printer.name()));
+  LoadedPreset loaded;
+  for (int i = 0; i < stored.optionCount(); i++) {
+    const cups_option_t &option = stored.options()[i];
+    if (isSame(option.name, kPlaceholder))
+      continue;
+    const std::string misfit = misfitOf(printer.ppd(), option.name, option.value,
+                                        isOwn || contains(panelKeywords, option.name));
+    if (misfit.empty())
+      loaded.settings.set(option.name, option.value);
+    else
+      loaded.misfits.push_back(misfit);
+  }
+  return loaded;
+}
+
+std::string Presets::usableName(const std::string &typed) {
+  constexpr std::string_view kMeaningful = "/#\"'\\";
+  if (!PrintSettingsStore::isUsableValue(typed))
+    throw Failure(ExitCode::Usage, messages::presetNameUnusable(""));
+  std::string name;
+  for (const char c : typed) {
+    const bool isMeaningful = kMeaningful.find(c) != std::string_view::npos;
+    if (static_cast<unsigned char>(c) > ' ' && c != '\x7F' && !isMeaningful)
+      name += c;
+    else if (!name.empty() && name.back() != '-')
+      name += '-';
+  }
+  while (!name.empty() && name.back() == '-' && typed.back() != '-')
+    name.pop_back();
+  if (name.empty())
+    throw Failure(ExitCode::Usage, messages::presetNameUnusable(typed));
+  if (name.size() > kLongestName)
+    throw Failure(ExitCode::Usage, messages::presetNameTooLong(kLongestName));
+  return name;
+}
+
+} // namespace imageposition

@@ -1,0 +1,48 @@
+#include "Collation.hpp"
+
+#include "PrinterOptions.hpp"
+
+#include <algorithm>
+#include <strings.h>
+
+namespace imageposition {
+
+namespace {
+
+constexpr const char *kOption = "Collate";
+constexpr const char *kHandling = "multiple-document-handling";
+constexpr const char *kCollatedCopies = "separate-documents-collated-copies";
+
+bool isTrue(const std::string &value) {
+  constexpr const char *kWords[] = {"true", "on", "yes"};
+  return std::any_of(std::begin(kWords), std::end(kWords),
+                     [&](const char *yes) { return strcasecmp(value.c_str(), yes) == 0; });
+}
+
+} // namespace
+
+bool isCollated(PrinterDescription &printer, PrintSettingsStore &job) {
+  if (const char *const handling = job.get(kHandling))
+    return strcasecmp(handling, kCollatedCopies) == 0;
+  if (const auto option = PrinterOptions(printer, job).find(kOption))
+    return isTrue(option->chosen);
+  const char *const stored = job.get(kOption);
+  return stored != nullptr && isTrue(stored);
+}
+
+void setCollated(bool collated, PrinterDescription &printer, PrintSettingsStore &job) {
+  job.remove(kHandling);
+  PrinterOptions options(printer, job);
+  if (const auto option = options.find(kOption)) {
+    for (const OptionChoice &choice : option->choices)
+      if (isTrue(choice.keyword) == collated) {
+        options.choose(kOption, choice.keyword);
+        return;
+      }
+  }
+  job.remove(kOption);
+  if (collated)
+    job.set(kHandling, kCollatedCopies);
+}
+
+} // namespace imageposition

@@ -1,0 +1,136 @@
+#include "EntryCheck.hpp"
+
+#include "PrinterTexts.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace imageposition {
+
+namespace {
+
+using Kind = CustomParameter::Kind;
+
+constexpr double kRounding = 0.5; // points
+constexpr int kRangeDecimals = 4;
+constexpr int kRealDecimals = 6;
+
+/// An end of a range, rounded into it.
+std::string endText(const CustomParameter &parameter, double end, bool isLower, LengthUnit unit) {
+  if (parameter.kind != Kind::Length)
+    return plainNumber(end, kRangeDecimals);
+  const int decimals = decimalsOf(unit);
+  const double scale = std::pow(10, decimals);
+  constexpr double kFloatingPoint = 1e-6;
+  const double scaled = convert({end, LengthUnit::Point}, unit).number * scale;
+  return plainNumber(
+      (isLower ? std::ceil(scaled - kFloatingPoint) : std::floor(scaled + kFloatingPoint)) / scale,
+      decimals);
+}
+
+std::string rangeInWords(const CustomParameter &parameter, LengthUnit unit) {
+  const std::string low = numberInWords(endText(parameter, parameter.minimum, true, unit));
+  const std::string high = numberInWords(endText(parameter, parameter.maximum, false, unit));
+  return low == high ? low : messages::fromTo(low, high);
+}
+
+/// A person counts letters, the printer bytes: only where these differ anything is said of it.
+std::string lengthProblem(const CustomParameter &parameter, const std::string &typed) {
+  const std::string range = rangeInWords(parameter, LengthUnit::Point);
+  const bool isAscii = std::all_of(typed.begin(), typed.end(),
+                                   [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  const auto say = isAscii ? messages::entryLength : messages::entryLengthInBytes;
+  return say(parameter.text, std::to_string(typed.size()), range);
+}
+
+CheckedEntry checkText(const CustomParameter &parameter, const std::string &typed) {
+  const bool isControl = std::any_of(typed.begin(), typed.end(), [](char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+  });
+  if (isControl || !PrintSettingsStore::isUsableValue(typed))
+    return {"", messages::entryUnusable(parameter.text)};
+  if (parameter.kind == Kind::Passcode && typed.find_first_not_of("0123456789") != typed.npos)
+    return {"", messages::entryNoDigits(parameter.text)};
+  if (parameter.isOneOfSeveral && typed.find_first_of("{}") != std::string::npos)
+    return {"", messages::entryHasBrackets(parameter.text)};
+  const auto bytes = static_cast<double>(typed.size());
+  if (bytes < parameter.minimum || bytes > parameter.maximum)
+    return {"", lengthProblem(parameter, typed)};
+  return {typed, ""};
+}
+
+CheckedEntry checkLength(const CustomParameter &parameter, const std::string &typed,
+                         LengthUnit unit) {
+  const auto length = readLength(typed, unit);
+  if (!length)
+    return {"", messages::entryNoNumber(parameter.text, rangeText(parameter, unit))};
+  const double points = toPoints(*length).count;
+  if (points < parameter.minimum - kRounding || points > parameter.maximum + kRounding)
+    return {"", messages::entryOutOfRange(parameter.text, rangeText(parameter, unit))};
+  return {writeLength(*length), ""};
+}
+
+/// libcups keeps the ends of a real number's range as such numbers: 0.1 is not below 0.1f.
+bool isWithin(const CustomParameter &parameter, double number) {
+  if (parameter.kind == Kind::Integer)
+    return number >= parameter.minimum && number <= parameter.maximum;
+  const auto rounded = static_cast<float>(number);
+  return rounded >= static_cast<float>(parameter.minimum) &&
+         rounded <= static_cast<float>(parameter.maximum);
+}
+
+/// Of a number's text: as CUPS reads it digit by digit, however it would be rounded.
+bool isWhole(const std::string &number) {
+  const std::size_t point = number.find_first_of(".,");
+  return point == std::string::npos ||
+         number.find_first_not_of("0 \t", point + 1) == std::string::npos;
+}
+
+CheckedEntry checkNumber(const CustomParameter &parameter, const std::string &typed) {
+  const auto number = readNumber(typed);
+  const std::string range = rangeText(parameter, LengthUnit::Point);
+  if (!number)
+    return {"", messages::entryNoNumber(parameter.text, range)};
+  if (parameter.kind == Kind::Integer && !isWhole(typed))
+    return {"", messages::entryNotWhole(parameter.text, range)};
+  if (!isWithin(parameter, *number))
+    return {"", messages::entryOutOfRange(parameter.text, range)};
+  return {plainNumber(*number, parameter.kind == Kind::Integer ? 0 : kRealDecimals), ""};
+}
+
+} // namespace
+
+CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typed,
+                        LengthUnit unit) {
+  if (parameter.isText())
+    return checkText(parameter, typed);
+  return parameter.kind == Kind::Length ? checkLength(parameter, typed, unit)
+                                        : checkNumber(parameter, typed);
+}
+
+std::string customValueProblem(const CustomOption &option, const std::string &value) {
+  const auto entries = readCustomValue(option, value);
+  if (!entries)
+    return messages::entryUnusable(option.keyword);
+  for (std::size_t i = 0; i < entries->size(); i++) {
+    const CheckedEntry checked = checkEntry(option.parameters[i], (*entries)[i], LengthUnit::Point);
+    if (!checked.problem.empty())
+      return checked.problem;
+  }
+  return {};
+}
+
+std::string rangeText(const CustomParameter &parameter, LengthUnit unit) {
+  const std::string range = rangeInWords(parameter, unit);
+  if (parameter.kind == Kind::Length)
+    return inUnit(range, unit);
+  if (parameter.kind == Kind::Passcode)
+    return messages::digits(range);
+  return parameter.isText() ? messages::letters(range) : range;
+}
+
+std::string initialEntry(const CustomParameter &parameter, LengthUnit unit) {
+  return parameter.isText() ? "" : numberInWords(endText(parameter, parameter.minimum, true, unit));
+}
+
+} // namespace imageposition

@@ -1,0 +1,43 @@
+#include "OptionList.hpp"
+
+#include "VisibleText.hpp"
+
+namespace imageposition {
+
+namespace {
+
+/// What -o takes, but for what is nobody else's to read: lists are kept and passed on.
+std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {
+  const bool isHidden =
+      option.custom && option.custom->hasHidden() && isEnteredValue(choice.keyword);
+  return isHidden ? kHiddenValue : visible(choice.keyword);
+}
+
+/// Also of a value that no window can ask for, since the PPD does not say within which limits.
+std::string formFor(const PrinterOption &option) {
+  if (option.custom)
+    return customValueForm(*option.custom);
+  return option.keyword == "PageSize" ? "Custom.WIDTHxHEIGHT" : "Custom.VALUE";
+}
+
+} // namespace
+
+std::string writeOptionList(const std::vector<OptionGroup> &groups) {
+  std::string list;
+  for (const OptionGroup &group : groups) {
+    list += visible(group.text) + '\n';
+    for (const PrinterOption &option : group.options) {
+      list += "  " + option.keyword + ": " + visible(option.text) + '\n';
+      const ChoiceSet chosen = option.chosenSet();
+      for (const OptionChoice &choice : option.choices) {
+        list += chosen.count(choice.keyword) != 0 ? "  * " : "    ";
+        list += wordFor(option, choice) + ": " + visible(choice.text) + '\n';
+      }
+      if (option.takesCustomValue)
+        list += "    " + formFor(option) + '\n';
+    }
+  }
+  return list;
+}
+
+} // namespace imageposition

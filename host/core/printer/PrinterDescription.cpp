@@ -1,0 +1,202 @@
+#include "PrinterDescription.hpp"
+
+#include "ChoiceList.hpp"
+#include "ExitCode.hpp"
+#include "PpdSize.hpp"
+#include "PrinterTexts.hpp"
+#include "VisibleText.hpp"
+
+#include <algorithm>
+#include <cerrno>
+#include <ctime>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+/// A file of CUPS's making that goes when it has been read.
+class TemporaryFile {
+public:
+  explicit TemporaryFile(std::string path) : path_(std::move(path)) {}
+  ~TemporaryFile() { unlink(path_.c_str()); }
+  TemporaryFile(const TemporaryFile &) = delete;
+  TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+private:
+  std::string path_;
+};
+
+/// Of the file's mode; 0 where there is none.
+mode_t kindOf(const std::string &path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 ? status.st_mode & S_IFMT : 0;
+}
+
+std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
+  for (const char *name : {ppd.nickname, ppd.modelname})
+    if (name != nullptr && *name != '\0')
+      return visible(name);
+  return otherwise;
+}
+
+bool isCupsReachable() {
+  constexpr int kPatienceInMilliseconds = 5000;
+  http_t *const connection = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                          cupsEncryption(), 1, kPatienceInMilliseconds, nullptr);
+  httpClose(connection);
+  return connection != nullptr;
+}
+
+struct QueueName {
+  std::string printer;
+  std::string instance; // may be empty
+};
+
+QueueName splitQueueName(const std::string &queue) {
+  const std::size_t slash = queue.find('/');
+  if (slash == std::string::npos)
+    return {queue, {}};
+  return {queue.substr(0, slash), queue.substr(slash + 1)};
+}
+
+/// What users chose with lpoptions, or an administrator for everybody. The list also has the
+/// queue's state and location; no PPD has options of those names, so that marking passes over them.
+PrintSettingsStore defaultsOf(const QueueName &queue) {
+  PrintSettingsStore defaults;
+  cups_dest_t *const destination =
+      cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.printer.c_str(),
+                       queue.instance.empty() ? nullptr : queue.instance.c_str());
+  if (destination == nullptr)
+    return defaults;
+  for (int i = 0; i < destination->num_options; i++)
+    defaults.set(destination->options[i].name, destination->options[i].value);
+  cupsFreeDests(1, destination);
+  return defaults;
+}
+
+using Choices = std::map<std::string, std::string>;
+
+void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Choices &marked) {
+  for (int i = 0; i < group.num_options; i++)
+    marked[group.options[i].keyword] = markedChoice(ppd, group.options[i]);
+  for (int i = 0; i < group.num_subgroups; i++)
+    collectMarked(ppd, group.subgroups[i], marked);
+}
+
+} // namespace
+
+PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name)
+    : ppd_(std::move(ppd)), name_(std::move(name)) {
+  ppdMarkDefaults(ppd_.get());
+  for (ppd_option_t *option = ppdFirstOption(ppd_.get()); option != nullptr;
+       option = ppdNextOption(ppd_.get()))
+    if (option->ui == PPD_UI_PICKMANY)
+      lists_.push_back(option);
+  // Of an option that the PPD has in several groups CUPS marks that which it finds. (To find one
+  // ends the walk above.)
+  const auto isOther = [this](const ppd_option_t *option) {
+    return ppdFindOption(ppd_.get(), option->keyword) != option;
+  };
+  lists_.erase(std::remove_if(lists_.begin(), lists_.end(), isOther), lists_.end());
+}
+
+std::unique_ptr<ppd_file_t, PrinterDescription::Close>
+PrinterDescription::open(const std::string &path, const std::string &shownPath) {
+  const mode_t kind = kindOf(path);
+  if (kind == S_IFDIR)
+    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, systemReason(EISDIR)));
+  if (kind == S_IFREG && !isReadSoon(path)) // a pipe can be read once only
+    throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));
+  errno = 0;
+  std::unique_ptr<ppd_file_t, Close> ppd(ppdOpenFile(path.c_str()));
+  const int reason = errno;
+  if (ppd && !isMarkedSoon(*ppd))
+    throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));
+  if (ppd)
+    return ppd;
+  int line = 0;
+  const ppd_status_t status = ppdLastError(&line);
+  if (status == PPD_FILE_OPEN_ERROR)
+    throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, systemReason(reason)));
+  throw Failure(ExitCode::Printer, messages::ppdMalformed(shownPath, line, ppdErrorString(status)));
+}
+
+PrinterDescription PrinterDescription::fromFile(const std::string &path) {
+  auto ppd = open(path, path);
+  const std::string name = nameFromPpd(*ppd, path);
+  return PrinterDescription(std::move(ppd), name);
+}
+
+PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
+  const QueueName name = splitQueueName(queue);
+  char file[1024] = "";
+  time_t changed = 0;
+  const int status = // any number that CUPS sent
+      cupsGetPPD3(CUPS_HTTP_DEFAULT, name.printer.c_str(), &changed, file, sizeof file);
+  if (status != HTTP_STATUS_OK) {
+    if (*file != '\0')
+      unlink(file);
+    if (!isCupsReachable())
+      throw Failure(ExitCode::Printer, messages::cupsUnreachable(cupsServer(), queue));
+    throw Failure(ExitCode::Printer,
+                  messages::queueWithoutPpd(queue, visible(cupsLastErrorString())));
+  }
+  const TemporaryFile owner(file);
+  PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);
+  printer.queueDefaults_ = defaultsOf(name);
+  return printer;
+}
+
+void PrinterDescription::mark(const PrintSettingsStore &job) {
+  ppdMarkDefaults(ppd());
+  for (const PrintSettingsStore *settings : {&std::as_const(queueDefaults_), &job})
+    cupsMarkOptions(ppd(), settings->optionCount(),
+                    const_cast<cups_option_t *>(settings->options())); // only read
+  markLists(job);
+}
+
+const std::map<std::string, std::string> &PrinterDescription::defaultChoices() {
+  if (!defaultChoices_) {
+    mark(PrintSettingsStore());
+    defaultChoices_.emplace();
+    for (int i = 0; i < ppd()->num_groups; i++)
+      collectMarked(ppd(), ppd()->groups[i], *defaultChoices_);
+  }
+  return *defaultChoices_;
+}
+
+const std::vector<OptionConstraint> &PrinterDescription::constraints() {
+  if (!constraints_)
+    constraints_ = constraintsOf(ppd());
+  return *constraints_;
+}
+
+void PrinterDescription::localize() {
+  if (!std::exchange(isLocalized_, true))
+    ppdLocalize(ppd());
+}
+
+void PrinterDescription::markLists(const PrintSettingsStore &job) {
+  for (ppd_option_t *const option : lists_) {
+    bool isMarked = false;
+    for (const PrintSettingsStore *settings : {&job, &std::as_const(queueDefaults_)})
+      if (const char *const value = settings->get(option->keyword); value != nullptr && !isMarked)
+        isMarked = markChoices(ppd(), *option, splitChoices(value));
+    if (!isMarked)
+      markChoices(ppd(), *option, splitChoices(option->defchoice));
+  }
+}
+
+std::vector<std::string> PrinterDescription::attributeValues(const std::string &keyword) const {
+  std::vector<std::string> values;
+  for (ppd_attr_t *attribute = ppdFindAttr(ppd(), keyword.c_str(), nullptr); attribute != nullptr;
+       attribute = ppdFindNextAttr(ppd(), keyword.c_str(), nullptr))
+    if (attribute->value != nullptr && *attribute->value != '\0')
+      values.emplace_back(attribute->value);
+  return values;
+}
+
+} // namespace imageposition

@@ -1,0 +1,131 @@
+#include "PrinterTexts.hpp"
+
+#include "Phrases.hpp"
+
+namespace imageposition::messages {
+
+namespace {
+
+/// Reasons of libraries come with and without a full stop.
+std::string withoutStop(std::string reason) {
+  while (!reason.empty() && reason.back() == '.')
+    reason.pop_back();
+  return reason;
+}
+
+} // namespace
+
+std::string usage(const std::string &mistake) {
+  const std::string sentence =
+      mistake.empty() || mistake.back() == '.' ? mistake : text("{1}.").with(mistake);
+  return text("{1} See print-dialog --help.").with(sentence);
+}
+std::string badOption(const std::string &argument) {
+  return text("\"{1}\" is no job option; write it as NAME=VALUE.").with(argument);
+}
+std::string optionLocked(const std::string &name) {
+  return text("The ticket locks \"{1}\". Leave out -o {1}, or use another ticket.").with(name);
+}
+std::string ppdUnreadable(const std::string &path, const std::string &reason) {
+  return text("The printer description \"{1}\" cannot be read: {2}. Check the name and its rights.")
+      .with(path, reason);
+}
+std::string ppdTooLarge(const std::string &path) {
+  return text("\"{1}\" is larger than any printer's description: reading it would take too long. "
+              "Use the one that comes with the printer's driver.")
+      .with(path);
+}
+std::string ppdMalformed(const std::string &path, int line, const std::string &reason) {
+  return text("\"{1}\" is not a usable printer description: line {2}: {3}. Name a PPD file; "
+              "cupstestppd tells more about one.")
+      .with(path, line, reason);
+}
+std::string ppdOfQueue(const std::string &queue) { return text("PPD of queue {1}").with(queue); }
+std::string cupsUnreachable(const std::string &server, const std::string &queue) {
+  return text("CUPS, which knows the queue \"{1}\", cannot be reached at \"{2}\". Start it, or set "
+              "CUPS_SERVER; --ppd names a description file instead.")
+      .with(queue, server);
+}
+std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
+  return text("CUPS has no printer description for the queue \"{1}\": {2}. lpstat -e lists the "
+              "queues; --ppd names a description file instead.")
+      .with(queue, withoutStop(reason));
+}
+std::string chosenOption(const std::string &option, const std::string &choice) {
+  return text("\"{1}: {2}\"").with(option, choice);
+}
+const Text kNothingChosen = textIn("choices", "None");
+const Text kPageWidth = text("Width");
+const Text kPageHeight = text("Height");
+std::string enteredValue(const std::string &value) { return text("Custom: {1}").with(value); }
+std::string widthByHeight(const std::string &width, const std::string &height) {
+  return text("{1} × {2}").with(width, height);
+}
+std::string fromTo(const std::string &low, const std::string &high) {
+  return text("{1} to {2}").with(low, high);
+}
+std::string digits(const std::string &count) { return text("Digits: {1}").with(count); }
+std::string letters(const std::string &count) { return text("Letters: {1}").with(count); }
+std::string entryNoNumber(const std::string &name, const std::string &range) {
+  return text("{1}: that is no number. Enter {2}.").with(name, range);
+}
+std::string entryNotWhole(const std::string &name, const std::string &range) {
+  return text("{1}: that is no whole number. Enter {2}.").with(name, range);
+}
+std::string entryOutOfRange(const std::string &name, const std::string &range) {
+  return text("{1}: that is out of range. Enter {2}.").with(name, range);
+}
+std::string entryLength(const std::string &name, const std::string &letters,
+                        const std::string &range) {
+  // Translators: {1} is the name of a field, such as "Password"; {2} a number, {3} one or "4 to
+  // 16".
+  return text("{1}: that has a length of {2}. The printer takes {3}.").with(name, letters, range);
+}
+std::string entryLengthInBytes(const std::string &name, const std::string &bytes,
+                               const std::string &range) {
+  // Translators: as above, for a text with letters of which UTF-8 makes several bytes.
+  return text("{1}: that has a length of {2}. The printer takes {3}; a letter such as é counts as "
+              "two or more.")
+      .with(name, bytes, range);
+}
+std::string entryNoDigits(const std::string &name) {
+  return text("{1}: enter digits only.").with(name);
+}
+std::string entryHasBrackets(const std::string &name) {
+  return text("{1}: leave out curly brackets, which CUPS cannot carry there.").with(name);
+}
+std::string entryUnusable(const std::string &name) {
+  return text("{1}: no job can carry that. Enter something else.").with(name);
+}
+std::string conflict(const std::vector<std::string> &sides) {
+  if (sides.size() == 1)
+    return text("The printer cannot do {1}.").with(sides.front());
+  return text("The printer cannot combine {1}.").with(inWords(sides));
+}
+std::string moreConflicts(std::size_t others) {
+  // Translators: follows sentences such as "The printer cannot combine ...".
+  return counted(static_cast<long>(others), "There is {1} more such conflict.",
+                 "There are {1} more such conflicts.");
+}
+std::string conflictProposal(const std::vector<std::string> &changes) {
+  return text("Change to {1}.").with(inWords(changes));
+}
+std::string misfitOption(const std::string &option, const std::string &value) {
+  return text("\"{1}\" ({2}) was left out: this printer has no such option.").with(option, value);
+}
+std::string misfitChoice(const std::string &option, const std::string &value) {
+  return text("\"{1}\" was left as it is: this printer does not offer \"{2}\".")
+      .with(option, value);
+}
+std::string misfitEntered(const std::string &option, const std::string &problem) {
+  return text("\"{1}\" was left as it is: {2}").with(option, problem);
+}
+std::string misfitRange(const std::string &option, const std::string &value,
+                        const std::string &lowest, const std::string &highest) {
+  return text("\"{1}\" was left as it is: {2} is not between {3} and {4}, which this printer "
+              "allows.")
+      .with(option, value, lowest, highest);
+}
+const Text kGeneralGroup = text("General");
+
+} // namespace imageposition::messages

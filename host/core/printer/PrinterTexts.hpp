@@ -1,0 +1,71 @@
+/// What is said about a printer's description, its options and their conflicts.
+#ifndef IMAGEPOSITION_HOST_PRINTERTEXTS_HPP
+#define IMAGEPOSITION_HOST_PRINTERTEXTS_HPP
+
+#include "Text.hpp"
+
+#include <string>
+#include <vector>
+
+namespace imageposition::messages {
+
+// Mistakes on the command line.
+std::string usage(const std::string &mistake);
+std::string badOption(const std::string &argument);
+std::string optionLocked(const std::string &name);
+
+// Printers.
+std::string ppdUnreadable(const std::string &path, const std::string &reason);
+std::string ppdTooLarge(const std::string &path);
+std::string ppdMalformed(const std::string &path, int line, const std::string &reason);
+std::string ppdOfQueue(const std::string &queue);
+std::string cupsUnreachable(const std::string &server, const std::string &queue);
+std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
+
+/// An option with a choice, by their texts.
+std::string chosenOption(const std::string &option, const std::string &choice);
+/// Of an option that takes several choices.
+extern const Text kNothingChosen;
+
+// Values of a person's own. `name` is the parameter's, `range` what may be entered.
+extern const Text kPageWidth;
+extern const Text kPageHeight;
+/// "Custom: 100 × 200 mm".
+std::string enteredValue(const std::string &value);
+std::string widthByHeight(const std::string &width, const std::string &height);
+/// "10 to 20".
+std::string fromTo(const std::string &low, const std::string &high);
+std::string digits(const std::string &count);
+std::string letters(const std::string &count);
+std::string entryNoNumber(const std::string &name, const std::string &range);
+std::string entryNotWhole(const std::string &name, const std::string &range);
+std::string entryOutOfRange(const std::string &name, const std::string &range);
+std::string entryLength(const std::string &name, const std::string &letters,
+                        const std::string &range);
+/// Of a text that has letters beyond ASCII.
+std::string entryLengthInBytes(const std::string &name, const std::string &bytes,
+                               const std::string &range);
+std::string entryNoDigits(const std::string &name);
+std::string entryHasBrackets(const std::string &name);
+std::string entryUnusable(const std::string &name);
+
+// Conflicts.
+std::string conflict(const std::vector<std::string> &sides);
+/// Follows the sentences of the first conflicts.
+std::string moreConflicts(std::size_t others);
+std::string conflictProposal(const std::vector<std::string> &changes);
+
+// Presets.
+std::string misfitOption(const std::string &option, const std::string &value);
+std::string misfitChoice(const std::string &option, const std::string &value);
+std::string misfitEntered(const std::string &option, const std::string &problem);
+std::string misfitRange(const std::string &option, const std::string &value,
+                        const std::string &lowest, const std::string &highest);
+
+// The same in the summary.
+/// CUPS's own name for the options that stand in no group.
+extern const Text kGeneralGroup;
+
+} // namespace imageposition::messages
+
+#endif

@@ -1,0 +1,45 @@
+#include "ShiftTexts.hpp"
+
+namespace imageposition::messages {
+
+const Text kChooseTwoSided = text("Choose it, such as with -o Duplex=DuplexNoTumble.");
+const Text kSwitchBannerPagesOff = text("Switch them off with -o MVBannerPagePrint=False.");
+const Text kTwoSidedOff = text("Two-sided printing is off.");
+const Text kBannerPagesOn = text("Banner pages are on.");
+const Text kPreviewSizeUnknown =
+    text("The printer does not say how large the page is; A4 is shown.");
+const Text kPreviewImageableUnknown =
+    text("The printer does not say where on the page it can print; the whole page is assumed.");
+const Text kPreviewNothingMoved = text("Neither side is moved.");
+std::string previewFrontMoved(const std::string &directions) {
+  return text("The front is moved {1}.").with(directions);
+}
+std::string previewBackMoved(const std::string &directions) {
+  return text("The back is moved {1} as its reader sees it.").with(directions);
+}
+std::string previewBothMoved(const std::string &directions) {
+  return text("Each side is moved {1} as its reader sees it.").with(directions);
+}
+std::string previewBackAgainstFront(const std::string &directions) {
+  return text("Held against the light, the back is moved {1} against the front.").with(directions);
+}
+const Text kPreviewSidesCoincide =
+    text("Held against the light, the back lies exactly behind the front.");
+std::string previewFrontLoses(const std::string &edges) {
+  return text("A front that fills its printable area loses {1}.").with(edges);
+}
+std::string previewBackLoses(const std::string &edges) {
+  return text("A back that fills its printable area loses {1}.").with(edges);
+}
+std::string toTheRight(const std::string &length) { return text("{1} to the right").with(length); }
+std::string toTheLeft(const std::string &length) { return text("{1} to the left").with(length); }
+std::string downwards(const std::string &length) { return text("{1} down").with(length); }
+std::string upwards(const std::string &length) { return text("{1} up").with(length); }
+std::string atTheRight(const std::string &length) { return text("{1} at the right").with(length); }
+std::string atTheLeft(const std::string &length) { return text("{1} at the left").with(length); }
+std::string atTheBottom(const std::string &length) {
+  return text("{1} at the bottom").with(length);
+}
+std::string atTheTop(const std::string &length) { return text("{1} at the top").with(length); }
+
+} // namespace imageposition::messages

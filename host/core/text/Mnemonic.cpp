@@ -1,0 +1,79 @@
+#include "Mnemonic.hpp"
+
+#include "Utf.hpp"
+
+#include <algorithm>
+#include <cctype>
+
+namespace imageposition {
+
+namespace {
+
+/// Bytes of the character that begins there; 0 where no key can be: at the end, at a blank, at
+/// another ampersand or other ASCII punctuation, and at bytes that are no UTF-8.
+std::size_t keyLength(std::string_view text) {
+  if (text.empty())
+    return 0;
+  const auto lead = static_cast<unsigned char>(text.front());
+  if (lead < 0x80) {
+    const bool isKey = (lead >= '0' && lead <= '9') || (lead >= 'A' && lead <= 'Z') ||
+                       (lead >= 'a' && lead <= 'z');
+    return isKey ? 1 : 0;
+  }
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  return isWellFormedUtf8(text.substr(0, length)) ? length : 0;
+}
+
+} // namespace
+
+MnemonicText readMnemonic(std::string_view marked) {
+  MnemonicText mnemonic;
+  while (!marked.empty()) {
+    if (marked.front() != '&') {
+      mnemonic.text += marked.front();
+      marked.remove_prefix(1);
+      continue;
+    }
+    marked.remove_prefix(1);
+    const std::size_t length = keyLength(marked);
+    if (length == 0) { // of two ampersands the second is passed over
+      mnemonic.text += '&';
+      marked.remove_prefix(!marked.empty() && marked.front() == '&' ? 1 : 0);
+    } else if (mnemonic.key.empty()) {
+      mnemonic.key = marked.substr(0, length);
+      mnemonic.keyAt = mnemonic.text.size();
+    }
+  }
+  return mnemonic;
+}
+
+std::string withKey(std::string_view text, std::string &used) {
+  const auto isFree = [&](char c) {
+    return std::isalnum(static_cast<unsigned char>(c)) != 0 && static_cast<signed char>(c) > 0 &&
+           std::none_of(used.begin(), used.end(), [=](char other) {
+             return std::tolower(static_cast<unsigned char>(other)) ==
+                    std::tolower(static_cast<unsigned char>(c));
+           });
+  };
+  const auto key = std::find_if(text.begin(), text.end(), isFree);
+  if (key != text.end()) {
+    used += *key;
+    const auto at = static_cast<std::size_t>(key - text.begin());
+    return withoutKey(text.substr(0, at)) + '&' + withoutKey(text.substr(at));
+  }
+  for (const char digit : std::string_view("123456789"))
+    if (isFree(digit)) {
+      used += digit;
+      return withoutKey(text) + "(&" + digit + ')';
+    }
+  return withoutKey(text);
+}
+
+std::string withoutKey(std::string_view text) {
+  std::string result;
+  for (const char c : text)
+    result += c == '&' ? std::string("&&") : std::string(1, c);
+  return result;
+}
+
+} // namespace imageposition

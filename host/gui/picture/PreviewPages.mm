@@ -1,0 +1,190 @@
+#import "PreviewDrawing.h"
+
+#include "PictureTexts.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace imageposition {
+namespace {
+
+/// A side as it is drawn on one of the pages.
+struct DrawnSide {
+  const SidePreview *side;
+  Colour colour;
+  bool isBack;
+  bool flipsLeftRight = false;
+  bool flipsTopBottom = false;
+};
+
+PixelRectangle rounded(const PixelRectangle &rectangle) {
+  const double left = std::round(rectangle.x);
+  const double top = std::round(rectangle.y);
+  return {left, top, std::round(rectangle.right()) - left, std::round(rectangle.bottom()) - top};
+}
+
+void fill(const PixelRectangle &rectangle, const Colour &colour, double opacity) {
+  if (rectangle.width <= 0 || rectangle.height <= 0)
+    return;
+  setColour(colour, opacity);
+  NSRectFillUsingOperation(toRect(rectangle), NSCompositeSourceOver);
+}
+
+/// A part of a page's text or picture, in fractions of the content.
+struct Block {
+  double left;
+  double top;
+  double right;
+  double bottom;
+};
+
+/// A heading, two paragraphs that end short, and a picture: nothing of it looks the same mirrored.
+constexpr Block kBlocks[] = {
+    {0.08, 0.06, 0.55, 0.10}, {0.08, 0.17, 0.92, 0.19}, {0.08, 0.23, 0.92, 0.25},
+    {0.08, 0.29, 0.92, 0.31}, {0.08, 0.35, 0.48, 0.37}, {0.08, 0.45, 0.92, 0.47},
+    {0.08, 0.51, 0.92, 0.53}, {0.08, 0.57, 0.66, 0.59}, {0.08, 0.66, 0.42, 0.92},
+};
+
+void drawBlocks(const DrawnSide &drawn, const PixelRectangle &content) {
+  for (Block block : kBlocks) {
+    if (drawn.flipsLeftRight)
+      block = {1 - block.right, block.top, 1 - block.left, block.bottom};
+    if (drawn.flipsTopBottom)
+      block = {block.left, 1 - block.bottom, block.right, 1 - block.top};
+    PixelRectangle place = rounded(
+        {content.x + block.left * content.width, content.y + block.top * content.height,
+         (block.right - block.left) * content.width, (block.bottom - block.top) * content.height});
+    place.height = std::max(place.height, 1.0);
+    fill(place, drawn.colour, 0.45);
+  }
+}
+
+/// However narrow, it must be seen: it grows away from the imageable area.
+PixelRectangle visibleLoss(PixelRectangle loss, const PixelRectangle &imageable) {
+  constexpr double kNarrowest = 4;
+  const double width = std::max(kNarrowest, loss.width);
+  const double height = std::max(kNarrowest, loss.height);
+  if (loss.right() <= imageable.x)
+    loss = {loss.right() - width, loss.y, width, loss.height};
+  else if (loss.x >= imageable.right())
+    loss.width = width;
+  if (loss.bottom() <= imageable.y)
+    loss = {loss.x, loss.bottom() - height, loss.width, height};
+  else if (loss.y >= imageable.bottom())
+    loss.height = height;
+  return loss;
+}
+
+void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const DrawnSide &drawn) {
+  const PixelRectangle imageable = rounded(layout.onPage(place, drawn.side->imageable));
+  const PixelRectangle content = rounded(layout.onPage(place, drawn.side->content));
+  [NSGraphicsContext saveGraphicsState];
+  NSRectClip(toRect(imageable));
+  fill(content, drawn.colour, 0.10);
+  drawBlocks(drawn, content);
+  [NSGraphicsContext restoreGraphicsState];
+  for (const PageRectangle &part : drawn.side->lost)
+    hatch(visibleLoss(rounded(layout.onPage(place, part)), imageable), previewColours().lost);
+  strokeRectangle(imageable, previewColours().printable, true);
+  strokeRectangle(content, drawn.colour, drawn.isBack);
+}
+
+/// The edge about which the sheet is turned.
+void drawTurningEdge(const PixelRectangle &page, bool isVertical) {
+  constexpr double kThickness = 3;
+  const PixelRectangle edge = isVertical
+                                  ? PixelRectangle{page.x - 1, page.y, kThickness, page.height}
+                                  : PixelRectangle{page.x, page.y - 1, page.width, kThickness};
+  fill(edge, previewColours().text, 1);
+}
+
+void drawPaper(const PixelRectangle &page) {
+  fill(page, previewColours().paper, 1);
+  strokeRectangle(page, previewColours().outline, false);
+}
+
+void drawTexts(const PagePlace &place, const std::string &title, const std::string &caption,
+               const Colour &colour) {
+  drawLine(title, place.title, previewBoldFont(), colour, Alignment::Centre);
+  drawLine(caption, place.caption, previewFont(), previewColours().text, Alignment::Centre);
+}
+
+std::string shiftCaption(const Offset &offset) {
+  const std::string arrows = arrowText(offset);
+  return arrows.empty() ? messages::kPreviewNotShifted.str() : arrows;
+}
+
+/// Content that is moved beyond the page is shown as far as the next page allows.
+void clipAround(const PixelRectangle &page) {
+  NSRectClip(NSInsetRect(toRect(page), -previewLineHeight() / 2, -previewLineHeight() / 4));
+}
+
+void drawBackBehindFront(const Preview &preview, const PreviewLayout &layout) {
+  const PreviewColours &colours = previewColours();
+  const PagePlace &place = layout.pages[PreviewLayout::AgainstLight];
+  const bool vertical = turnsAboutVerticalAxis(preview.page, preview.turning);
+  drawPaper(place.page);
+  [NSGraphicsContext saveGraphicsState];
+  clipAround(place.page);
+  drawSide(layout, PreviewLayout::AgainstLight,
+           {&*preview.backSeenThrough, colours.back, true, vertical, !vertical});
+  strokeRectangle(rounded(layout.onPage(PreviewLayout::AgainstLight, preview.front.content)),
+                  colours.front, false);
+  [NSGraphicsContext restoreGraphicsState];
+  drawTurningEdge(place.page, vertical);
+  drawTexts(place, messages::kPreviewAgainstLight,
+            preview.turning == Turning::LongEdge ? messages::kPreviewLongEdge
+                                                 : messages::kPreviewShortEdge,
+            colours.text);
+}
+
+void drawPage(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,
+              const std::string &title) {
+  const PagePlace &place = layout.pages[at];
+  drawPaper(place.page);
+  [NSGraphicsContext saveGraphicsState];
+  clipAround(place.page);
+  drawSide(layout, at, drawn);
+  [NSGraphicsContext restoreGraphicsState];
+  drawTexts(place, title, shiftCaption(drawn.side->offset), drawn.colour);
+}
+
+/// A sample of a pattern and what it means; answers where the next one begins.
+double drawLegendEntry(double left, const PixelRectangle &line, const std::string &meaning,
+                       bool isLoss) {
+  const double height = std::round(line.height * 0.6);
+  const PixelRectangle sample = {std::round(left), std::round(line.y + (line.height - height) / 2),
+                                 std::round(line.height), height};
+  if (isLoss)
+    hatch(sample, previewColours().lost);
+  else
+    strokeRectangle(sample, previewColours().printable, true);
+  const PixelRectangle text = {sample.right() + 4, line.y, 0, line.height};
+  drawLine(meaning, text, previewFont(), previewColours().secondaryText, Alignment::Left);
+  return text.x + widthOf(meaning, previewFont()) + line.height;
+}
+
+bool losesSomething(const Preview &preview) {
+  return !preview.front.lost.empty() || (preview.back && !preview.back->lost.empty());
+}
+
+} // namespace
+
+void drawPreviewPages(const Preview &preview, const PreviewLayout &layout) {
+  const PreviewColours &colours = previewColours();
+  drawPage(layout, PreviewLayout::Front, {&preview.front, colours.front, false},
+           messages::kPreviewFront);
+  if (preview.back) {
+    drawPage(layout, PreviewLayout::Back, {&*preview.back, colours.back, true},
+             messages::kPreviewBack);
+    drawBackBehindFront(preview, layout);
+  }
+  const double next =
+      drawLegendEntry(layout.legend.x, layout.legend, messages::kPreviewPrintable, false);
+  if (losesSomething(preview))
+    drawLegendEntry(next, layout.legend, messages::kPreviewLost, true);
+  drawLine(messages::kPreviewToScale, layout.legend, previewFont(), colours.secondaryText,
+           Alignment::Right);
+}
+
+} // namespace imageposition

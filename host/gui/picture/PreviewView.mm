@@ -1,0 +1,83 @@
+#import "PreviewView.h"
+
+#import "PreviewDrawing.h"
+#import "TextBridge.h"
+
+#include <optional>
+#include <string>
+
+using namespace imageposition;
+
+struct imageposition::PreviewViewState {
+  std::optional<Preview> preview;
+  NSToolTipTag toolTip = 0;
+};
+
+@implementation PreviewView
+
++ (NSSize)preferredSize {
+  const PictureSize size = preferredPictureSize(previewLineHeight());
+  return NSMakeSize(size.width, size.height);
+}
+
+- (id)initWithFrame:(NSRect)frame {
+  if ((self = [super initWithFrame:frame]) != nil) {
+    state = new PreviewViewState;
+    state->toolTip = [self addToolTipRect:[self bounds] owner:self userData:nullptr];
+  }
+  return self;
+}
+
+- (void)dealloc {
+  delete state;
+  state = nullptr;
+  [super dealloc];
+}
+
+- (BOOL)isFlipped {
+  return YES;
+}
+
+- (void)setFrameSize:(NSSize)size {
+  [super setFrameSize:size];
+  if (state == nullptr) // while the superclass initializes
+    return;
+  [self removeToolTip:state->toolTip];
+  state->toolTip = [self addToolTipRect:[self bounds] owner:self userData:nullptr];
+}
+
+- (void)showPreview:(const Preview &)preview {
+  if (state->preview == preview)
+    return;
+  state->preview = preview;
+  [self setNeedsDisplay:YES];
+}
+
+- (void)drawRect:(NSRect)dirty {
+  (void)dirty;
+  if (!state->preview)
+    return;
+  const NSSize size = [self bounds].size;
+  const PreviewLayout layout =
+      layOutPreview(*state->preview, {size.width, size.height, previewLineHeight()});
+  drawPreviewPages(*state->preview, layout);
+  drawPreviewMarks(*state->preview, layout);
+}
+
+- (NSString *)accessibilityLabel {
+  std::string text;
+  if (state->preview)
+    for (const std::string &sentence : describePreview(*state->preview))
+      text += (text.empty() ? "" : " ") + sentence;
+  return toString(text);
+}
+
+- (NSString *)view:(NSView *)view
+    stringForToolTip:(NSToolTipTag)tag
+               point:(NSPoint)point
+            userData:(void *)data {
+  (void)view, (void)tag, (void)point, (void)data;
+  return [self accessibilityLabel];
+}
+
+@end

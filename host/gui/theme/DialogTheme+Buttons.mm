@@ -1,0 +1,81 @@
+#import "DialogTheme.h"
+
+using namespace imageposition;
+
+namespace {
+
+bool hasFocus(GSThemeControlState state) {
+  return state == GSThemeFirstResponderState || state == GSThemeHighlightedFirstResponderState ||
+         state == GSThemeSelectedFirstResponderState;
+}
+
+bool isPressed(GSThemeControlState state) {
+  return state == GSThemeHighlightedState || state == GSThemeHighlightedFirstResponderState ||
+         state == GSThemeSelectedState || state == GSThemeSelectedFirstResponderState;
+}
+
+bool isDefault(NSCell *cell, NSView *view) {
+  return cell != nil && [[view window] defaultButtonCell] == cell;
+}
+
+/// A checkbox or a radio button: it shows its state by another image.
+bool isSwitch(NSButtonCell *cell) { return ([cell showsStateBy] & NSContentsCellMask) != 0; }
+
+/// Interface files give a rounded button more room than it fills, by this platform's rule for them.
+NSRect bezelRect(NSRect frame, int style) {
+  if (style == NSRoundedBezelStyle && NSHeight(frame) >= 30)
+    return NSIntegralRect(NSInsetRect(frame, 6, 3));
+  return frame;
+}
+
+} // namespace
+
+@implementation DialogTheme (Buttons)
+
+- (void)drawButton:(NSRect)frame
+                in:(NSCell *)cell
+              view:(NSView *)view
+             style:(int)style
+             state:(GSThemeControlState)state {
+  const NSRect rect = bezelRect(frame, style);
+  const bool isEnabled = [cell isEnabled];
+  const bool isAccent = isEnabled && isDefault(cell, view);
+  Rgb fill = isAccent ? palette.accent : palette.button;
+  if (!isEnabled)
+    fill = palette.disabledControl;
+  else if (isPressed(state))
+    fill = isAccent ? palette.pressedAccent : palette.pressedButton;
+  const Rgb edge = isEnabled ? (isAccent ? fill : palette.outline) : palette.disabledOutline;
+  drawRoundRect(rect, kCornerRadius, fill, edge);
+  if (!isEnabled || !hasFocus(state))
+    return;
+  drawFocusRing(rect, kCornerRadius, palette.focusRing);
+  if (isAccent) // the ring has nearly the button's colour
+    drawRoundRect(NSInsetRect(rect, 2, 2), kCornerRadius - 2, fill, palette.onAccent);
+}
+
+/// Room for a title; the platform adds a margin to it.
+- (GSThemeMargins)buttonMarginsForCell:(NSCell *)cell
+                                 style:(int)style
+                                 state:(GSThemeControlState)state {
+  (void)cell;
+  (void)style;
+  (void)state;
+  return {4, 4, 3, 3};
+}
+
+/// A bezel and the box of a checkbox show the focus themselves.
+- (void)drawFocusFrame:(NSRect)frame view:(NSView *)view {
+  const bool isButton = [view isKindOfClass:[NSButton class]];
+  if (!isButton || (![(NSButton *)view isBordered] && !isSwitch([(NSButton *)view cell])))
+    drawFocusRing(NSIntersectionRect(NSInsetRect(frame, -2, -2), [view bounds]), kCornerRadius,
+                  palette.focusRing);
+}
+
+/// The default button is known by its colour; it needs no picture of a key.
+- (void)setKeyEquivalent:(NSString *)key forButtonCell:(NSButtonCell *)cell {
+  (void)key;
+  (void)cell;
+}
+
+@end

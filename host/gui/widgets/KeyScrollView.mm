@@ -1,0 +1,102 @@
+#import "KeyScrollView.h"
+
+#import "Theme.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr CGFloat kLine = 20;
+
+/// How far a key moves the content, downwards; 0 for other keys.
+CGFloat movementOf(NSEvent *event, CGFloat page) {
+  NSString *const characters = [event characters];
+  switch ([characters length] == 1 ? [characters characterAtIndex:0] : 0) {
+  case NSUpArrowFunctionKey:
+    return -kLine;
+  case NSDownArrowFunctionKey:
+    return kLine;
+  case NSPageUpFunctionKey:
+    return -page;
+  case NSPageDownFunctionKey:
+    return page;
+  case NSHomeFunctionKey:
+    return -1e6;
+  case NSEndFunctionKey:
+    return 1e6;
+  default:
+    return 0;
+  }
+}
+
+} // namespace
+
+@implementation KeyScrollView
+
+- (id)initWithFrame:(NSRect)frame {
+  if ((self = [super initWithFrame:frame]) != nil) {
+    [self setHasVerticalScroller:YES];
+    [self setAutohidesScrollers:YES];
+    [self setDrawsBackground:NO];
+  }
+  return self;
+}
+
+- (void)setHasVerticalScroller:(BOOL)has {
+  [super setHasVerticalScroller:has];
+  [[self verticalScroller] setArrowsPosition:NSScrollerArrowsNone]; // the theme draws none
+}
+
+/// The platform brings it along with hiding scrollers.
+- (void)setHasHorizontalScroller:(BOOL)has {
+  (void)has;
+}
+
+- (BOOL)hasMore {
+  return NSHeight([[self documentView] frame]) > [self contentSize].height + 0.5;
+}
+
+- (void)showRows:(NSView *)rows {
+  NSRect frame = [rows frame];
+  frame.size.height = std::max(NSHeight(frame), [self contentSize].height);
+  [rows setFrame:frame];
+  [self setDocumentView:rows];
+}
+
+- (BOOL)acceptsFirstResponder {
+  return [self hasMore];
+}
+
+- (BOOL)becomeFirstResponder {
+  [self setNeedsDisplay:YES];
+  return YES;
+}
+
+- (BOOL)resignFirstResponder {
+  [self setNeedsDisplay:YES];
+  return YES;
+}
+
+- (void)keyDown:(NSEvent *)event {
+  const CGFloat page = std::max(kLine, [self contentSize].height - kLine);
+  const CGFloat movement = movementOf(event, page);
+  if (movement == 0) {
+    [super keyDown:event];
+    return;
+  }
+  NSClipView *const clip = [self contentView];
+  NSPoint origin = [clip bounds].origin;
+  origin.y += movement;
+  [clip scrollToPoint:[clip constrainScrollPoint:origin]];
+  [self reflectScrolledClipView:clip];
+}
+
+- (void)drawRect:(NSRect)dirty {
+  [super drawRect:dirty];
+  if ([[self window] firstResponder] != self)
+    return;
+  [imageposition::accentColor() set];
+  NSFrameRectWithWidth([self bounds], 2);
+}
+
+@end

@@ -1,0 +1,78 @@
+#import "Labels.h"
+
+#import "TextBridge.h"
+
+#include <cmath>
+
+namespace imageposition {
+
+namespace {
+
+constexpr NSUInteger kLongestLine = 1000;
+constexpr NSUInteger kLongestParagraph = 4000;
+constexpr CGFloat kCellMargin = 2; // of a text field, to both sides of its text
+
+/// With that many of its units left, more of them at the end, where paths have the file's name.
+NSString *withoutMiddle(NSString *text, NSUInteger kept) {
+  const NSUInteger head = kept / 3;
+  const NSUInteger tail = [text length] - (kept - head);
+  NSString *const before =
+      [text substringToIndex:[text rangeOfComposedCharacterSequenceAtIndex:head].location];
+  NSString *const after =
+      [text substringFromIndex:NSMaxRange([text rangeOfComposedCharacterSequenceAtIndex:tail])];
+  return [NSString stringWithFormat:@"%@%@%@", before, toString("…"), after];
+}
+
+} // namespace
+
+NSTextField *makeLabel(const std::string &text, bool bold) {
+  NSTextField *const label = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
+  makeIntoLabel(label, text, bold);
+  return label;
+}
+
+void makeIntoLabel(NSTextField *field, const std::string &text, bool bold) {
+  [field setEditable:NO];
+  [field setSelectable:NO];
+  [field setBezeled:NO];
+  [field setBordered:NO];
+  [field setDrawsBackground:NO];
+  const CGFloat size = [NSFont systemFontSize];
+  [field setFont:bold ? [NSFont boldSystemFontOfSize:size] : [NSFont systemFontOfSize:size]];
+  [field setStringValue:toString(text)];
+  [field sizeToFit];
+}
+
+CGFloat paragraphHeight(NSString *text, NSFont *font, CGFloat width) {
+  NSDictionary *const attributes = [NSDictionary dictionaryWithObject:font
+                                                               forKey:NSFontAttributeName];
+  const NSRect drawn = [text boundingRectWithSize:NSMakeSize(width - 2 * kCellMargin, 10000)
+                                          options:NSStringDrawingUsesLineFragmentOrigin
+                                       attributes:attributes];
+  return std::ceil(NSHeight(drawn));
+}
+
+NSString *cutTo(NSUInteger most, NSString *text) {
+  return [text length] <= most ? text : withoutMiddle(text, most);
+}
+
+NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold) {
+  NSTextField *const label = makeLabel("", bold);
+  [label setStringValue:cutTo(kLongestParagraph, toString(text))];
+  [[label cell] setWraps:YES];
+  [label setFrameSize:NSMakeSize(width, paragraphHeight([label stringValue], [label font], width))];
+  return label;
+}
+
+void showCut(NSTextField *label, const std::string &text, CGFloat width) {
+  NSString *const whole = cutTo(kLongestLine, toString(text));
+  NSString *shown = whole;
+  const CGFloat room = width - 2 * kCellMargin;
+  for (NSUInteger kept = [whole length]; kept > 0 && [[label font] widthOfString:shown] > room;)
+    shown = withoutMiddle(whole, --kept);
+  [label setStringValue:shown];
+  [label setToolTip:shown == whole ? nil : whole];
+  [label setFrameSize:NSMakeSize(width, NSHeight([label frame]))];
+}
+
+} // namespace imageposition

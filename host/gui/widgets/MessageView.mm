@@ -1,0 +1,44 @@
+#import "MessageView.h"
+
+#import "Labels.h"
+
+/// Begins at the top.
+@interface MessageLabel : NSTextField
+@end
+
+@implementation MessageLabel
+
+- (BOOL)isFlipped {
+  return YES;
+}
+
+@end
+
+@implementation MessageView
+
+- (id)initWithFrame:(NSRect)frame {
+  if ((self = [super initWithFrame:frame]) == nil)
+    return nil;
+  [self setBorderType:NSNoBorder];
+  label = [[[MessageLabel alloc] initWithFrame:NSZeroRect] autorelease];
+  imageposition::makeIntoLabel(label, "", false);
+  [[label cell] setWraps:YES];
+  [self setStringValue:@""];
+  return self;
+}
+
+- (void)setStringValue:(NSString *)whole {
+  constexpr NSUInteger kLongest = 10000;
+  NSString *const text = imageposition::cutTo(kLongest, whole);
+  // The scroller may come, and must not cut anything off.
+  const CGFloat width = NSWidth([self frame]) - [NSScroller scrollerWidth] - 4;
+  [label setStringValue:text];
+  [label
+      setFrame:NSMakeRect(0, 0, width, imageposition::paragraphHeight(text, [label font], width))];
+  [self showRows:label];
+  [[self contentView] scrollToPoint:NSZeroPoint];
+  [self reflectScrolledClipView:[self contentView]];
+  [self setNeedsDisplay:YES];
+}
+
+@end

@@ -1,0 +1,142 @@
+#import "MnemonicControls.h"
+
+#import "Labels.h"
+#include "Mnemonic.hpp"
+#import "TextBridge.h"
+
+#include <algorithm>
+#include <cmath>
+
+using imageposition::MnemonicText;
+using imageposition::toString;
+
+namespace {
+
+/// Where a line goes below one letter of a text.
+struct Underline {
+  CGFloat left;
+  CGFloat width; ///< 0: there is none.
+};
+
+Underline underlineOf(const MnemonicText &mnemonic, NSFont *font) {
+  if (mnemonic.key.empty())
+    return {0, 0};
+  const auto width = [=](const std::string &text) {
+    return text.empty() ? 0 : [font widthOfString:toString(text)];
+  };
+  // With the key: a blank at the end of a text is not measured.
+  const std::string upToKey = mnemonic.text.substr(0, mnemonic.keyAt) + mnemonic.key;
+  return {width(upToKey) - width(mnemonic.key), width(mnemonic.key)};
+}
+
+/// On whole pixels, one below the baseline of a text that fills `text` in a flipped view.
+void drawUnderline(const Underline &line, NSRect text, NSFont *font, NSColor *color) {
+  if (line.width <= 0)
+    return;
+  const CGFloat baseline = NSMinY(text) + [font ascender];
+  const CGFloat thickness = std::max<CGFloat>(1, std::round([font pointSize] / 14));
+  [color set];
+  NSRectFill(NSMakeRect(std::round(NSMinX(text) + line.left), std::round(baseline) + 1,
+                        std::max<CGFloat>(3, std::round(line.width)), thickness));
+}
+
+} // namespace
+
+@interface MnemonicTitle : NSTextField {
+  Underline underline;
+}
+- (void)setUnderline:(Underline)theUnderline;
+@end
+
+@implementation MnemonicTitle
+
+- (void)setUnderline:(Underline)theUnderline {
+  underline = theUnderline;
+}
+
+- (void)drawRect:(NSRect)dirty {
+  [super drawRect:dirty];
+  NSTextFieldCell *const cell = [self cell];
+  drawUnderline(underline, [cell titleRectForBounds:[self bounds]], [cell font], [cell textColor]);
+}
+
+@end
+
+@interface MnemonicButtonCell : NSButtonCell {
+  Underline underline;
+}
+- (void)setUnderline:(Underline)theUnderline;
+@end
+
+@implementation MnemonicButtonCell
+
+- (void)setUnderline:(Underline)theUnderline {
+  underline = theUnderline;
+}
+
+- (NSRect)drawTitle:(NSAttributedString *)title withFrame:(NSRect)frame inView:(NSView *)view {
+  const NSRect drawn = [super drawTitle:title withFrame:frame inView:view];
+  const NSSize size = [title size];
+  const bool isSwitch = ([self showsStateBy] & NSContentsCellMask) != 0;
+  NSRect text = frame;
+  text.origin.x += isSwitch ? 3 : (NSWidth(frame) - size.width) / 2; // as the theme moves it
+  text.origin.y = NSMidY(frame) - size.height / 2;
+  drawUnderline(underline, text, [self font], [self textColor]);
+  return drawn;
+}
+
+@end
+
+@interface MnemonicButton : NSButton
+@end
+
+@implementation MnemonicButton
+
++ (Class)cellClass {
+  return [MnemonicButtonCell class];
+}
+
+@end
+
+namespace imageposition {
+
+namespace {
+
+NSButton *newButton(const std::string &marked, id target, SEL action) {
+  const MnemonicText mnemonic = readMnemonic(marked);
+  NSButton *const button = [[[MnemonicButton alloc] initWithFrame:NSZeroRect] autorelease];
+  [button setTitle:toString(mnemonic.text)];
+  [button setTarget:target];
+  [button setAction:action];
+  [(MnemonicButtonCell *)[button cell] setUnderline:underlineOf(mnemonic, [button font])];
+  return button;
+}
+
+} // namespace
+
+NSTextField *makeTitle(const std::string &marked) {
+  const MnemonicText mnemonic = readMnemonic(marked);
+  MnemonicTitle *const title = [[[MnemonicTitle alloc] initWithFrame:NSZeroRect] autorelease];
+  makeIntoLabel(title, mnemonic.text, false);
+  [title setUnderline:underlineOf(mnemonic, [title font])];
+  return title;
+}
+
+NSButton *makeButton(const std::string &marked, id target, SEL action) {
+  NSButton *const button = newButton(marked, target, action);
+  [button setBezelStyle:NSRoundedBezelStyle];
+  [button sizeToFit];
+  const CGFloat width = std::max(kButtonWidth, NSWidth([button frame]) + 16);
+  [button setFrameSize:NSMakeSize(width, kButtonHeight)];
+  return button;
+}
+
+NSButton *makeSwitch(const std::string &marked, id target, SEL action) {
+  NSButton *const button = newButton(marked, target, action);
+  [button setButtonType:NSSwitchButton];
+  [button sizeToFit];
+  [button setFrameSize:NSMakeSize(NSWidth([button frame]) + 12, kButtonHeight)];
+  return button;
+}
+
+} // namespace imageposition

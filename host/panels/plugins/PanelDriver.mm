@@ -1,0 +1,143 @@
+#import "PanelDriver.h"
+
+#include "ExitCode.hpp"
+#import "Guard.h"
+#include "PluginTexts.hpp"
+#include "SharedKeys.h"
+
+namespace imageposition {
+
+namespace {
+
+NSString *const kDisplayOrder = @IPA_SUMMARY_ORDER;
+
+const char *const kRequiredOperations[] = {"panelView",
+                                           "panelName",
+                                           "panelKind",
+                                           "supportedPPDOptionKeys",
+                                           "shouldPrint",
+                                           "willShow",
+                                           "restoreValuesAndReturnError:",
+                                           "saveValuesAndReturnError:",
+                                           "summaryInfo"};
+
+void checkOperations(id panel, const std::string &pluginPath) {
+  for (const char *operation : kRequiredOperations)
+    if (![panel respondsToSelector:sel_registerName(operation)])
+      throw Failure(ExitCode::Plugin, messages::panelWithoutOperation(pluginPath, operation));
+}
+
+/// Of an array, or of whatever a panel gave in its place.
+std::vector<std::string> textsOf(id array) {
+  std::vector<std::string> texts;
+  if (![array isKindOfClass:[NSArray class]])
+    return texts;
+  for (NSUInteger i = 0; i < [array count]; i++)
+    if (const auto text = toOptionalText([array objectAtIndex:i]))
+      texts.push_back(*text);
+  return texts;
+}
+
+void appendLine(NSDictionary *info, NSString *title, std::vector<SummaryLine> &lines) {
+  id const value = [info objectForKey:title];
+  if (value != nil)
+    lines.push_back({toText(title), toText([value description])});
+}
+
+/// The ordered titles first, then those that the order forgot, by name.
+std::vector<SummaryLine> linesOf(id info) {
+  std::vector<SummaryLine> lines;
+  if (![info isKindOfClass:[NSDictionary class]])
+    return lines;
+  NSMutableDictionary *const rest = [NSMutableDictionary dictionaryWithDictionary:info];
+  id const order = [rest objectForKey:kDisplayOrder];
+  NSArray *const titles = [order isKindOfClass:[NSArray class]] ? order : [NSArray array];
+  [rest removeObjectForKey:kDisplayOrder];
+  for (NSUInteger i = 0; i < [titles count]; i++) {
+    id const title = [titles objectAtIndex:i];
+    if (![title isKindOfClass:[NSString class]])
+      continue;
+    appendLine(rest, title, lines);
+    [rest removeObjectForKey:title];
+  }
+  NSArray *const others = [[rest allKeys] sortedArrayUsingSelector:@selector(compare:)];
+  for (NSUInteger i = 0; i < [others count]; i++)
+    appendLine(rest, [others objectAtIndex:i], lines);
+  return lines;
+}
+
+} // namespace
+
+PanelDriver::PanelDriver(id panel, std::string pluginPath)
+    : panel_(nil), pluginPath_(std::move(pluginPath)) {
+  checkOperations(panel, pluginPath_);
+  panel_ = [panel retain];
+  try {
+    guarded("panelKind", [this] { kind_ = toOptionalText([panel_ panelKind]).value_or(""); });
+    guarded("panelName", [this] { name_ = toOptionalText([panel_ panelName]).value_or(""); });
+    guarded("supportedPPDOptionKeys",
+            [this] { optionKeys_ = textsOf([panel_ supportedPPDOptionKeys]); });
+    guarded("panelView", [this] { view_ = [[panel_ panelView] retain]; });
+  } catch (const Failure &) {
+    [(id)panel_ release];
+    throw;
+  }
+  hasView_ = [view_ isKindOfClass:[NSView class]];
+  if (!hasView_)
+    setPlaceholder(nil);
+  if (name_.empty())
+    name_ = kind_;
+}
+
+PanelDriver::~PanelDriver() {
+  // A panel that raises while it goes has no one left to tell.
+  whatIsRaisedBy([this] {
+    [view_ removeFromSuperview];
+    [view_ release];
+    [(id)panel_ release];
+  });
+}
+
+void PanelDriver::setPlaceholder(NSView *view) {
+  [view_ autorelease];
+  view_ = [view retain];
+}
+
+void PanelDriver::guarded(const char *operation, const std::function<void()> &body) {
+  if (!hasView_)
+    return;
+  if (const auto raised = whatIsRaisedBy(body))
+    throw Failure(ExitCode::Plugin, messages::pluginRaised(pluginPath_, operation, *raised));
+}
+
+void PanelDriver::willShow() {
+  guarded("willShow", [this] { [panel_ willShow]; });
+}
+
+void PanelDriver::save() {
+  guarded("saveValuesAndReturnError:", [this] {
+    NSError *error = nil;
+    [panel_ saveValuesAndReturnError:&error];
+  });
+}
+
+void PanelDriver::restore() {
+  guarded("restoreValuesAndReturnError:", [this] {
+    NSError *error = nil;
+    [panel_ restoreValuesAndReturnError:&error];
+  });
+}
+
+bool PanelDriver::mayPrint() {
+  bool allowed = true;
+  guarded("shouldPrint", [&] { allowed = [panel_ shouldPrint]; });
+  return allowed;
+}
+
+SummarySection PanelDriver::summary() {
+  SummarySection section{name_, {}};
+  guarded("summaryInfo", [&] { section.lines = linesOf([panel_ summaryInfo]); });
+  return section;
+}
+
+} // namespace imageposition

@@ -1,0 +1,139 @@
+#import "PluginLoader.h"
+
+#include "ExitCode.hpp"
+#import "Guard.h"
+#include "LibraryFile.hpp"
+#include "PluginLibraries.hpp"
+#include "PluginTexts.hpp"
+
+#include <dlfcn.h>
+#include <filesystem>
+
+namespace imageposition {
+
+namespace {
+
+/// The type under which print dialogs ask for panels.
+NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
+
+[[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Plugin, message); }
+
+/// Refuses a file or bundle that another user could have modified.
+void checkTrust(const std::string &path, const std::string &plugin) {
+  if (const auto part = untrustedPart(path, TrustedPeople::here()))
+    refuse(messages::pluginUntrusted(plugin, *part));
+}
+
+/// Refuses code with which another user's could be loaded.
+void checkLibraries(const std::string &code, const std::string &plugin) {
+  const auto place = untrustedLibraryPlace(code, TrustedPeople::here());
+  if (!place)
+    return;
+  switch (place->reason) {
+  case UntrustedPlace::Reason::OthersMayChange:
+    refuse(messages::pluginLoadsCode(plugin, place->library, place->place));
+  case UntrustedPlace::Reason::Relative:
+    refuse(messages::pluginLoadsCodeAnywhere(plugin, place->library, place->place));
+  case UntrustedPlace::Reason::Unknown:
+    refuse(messages::pluginUnexamined(plugin, place->place, systemReason(place->error)));
+  }
+}
+
+NSBundle *bundleAt(const std::string &path) {
+  std::error_code failed;
+  if (!std::filesystem::exists(path, failed) && !failed)
+    refuse(messages::pluginMissing(path));
+  checkTrust(path, path);
+  // Nobody else can redirect the path any more.
+  const std::string real = std::filesystem::canonical(path, failed).string();
+  if (failed)
+    refuse(messages::pluginUnexamined(path, path, systemReason(failed.value())));
+  const bool isFolder = std::filesystem::is_directory(real, failed);
+  NSBundle *const bundle = isFolder ? [NSBundle bundleWithPath:toString(real)] : nil;
+  NSString *const code = [bundle executablePath];
+  if (code == nil || ![[NSFileManager defaultManager] isReadableFileAtPath:code])
+    refuse(messages::pluginNotBundle(path));
+  checkTrust(toText(code), path); // which a bundle may say is elsewhere
+  // For a second copy of a bundle the platform answers the first one.
+  if (!std::filesystem::equivalent(real, toText([bundle bundlePath]), failed))
+    refuse(messages::pluginClassTaken(
+        path,
+        toOptionalText([[bundle infoDictionary] objectForKey:@"NSPrincipalClass"]).value_or("")));
+  return bundle;
+}
+
+/// The platform says why only in its log; the loader says it again when asked.
+std::string loadingTrouble(NSBundle *bundle) {
+  const char *reason = nullptr;
+  if (dlopen(toText([bundle executablePath]).c_str(), RTLD_NOW | RTLD_LOCAL) == nullptr)
+    reason = dlerror();
+  return reason != nullptr ? reason : "";
+}
+
+Class principalClassOf(NSBundle *bundle, const std::string &path) {
+  const auto name = toOptionalText([[bundle infoDictionary] objectForKey:@"NSPrincipalClass"]);
+  if (!name || name->empty())
+    refuse(messages::pluginWithoutClass(path, ""));
+  if (![bundle isLoaded] && NSClassFromString(toString(*name)) != Nil)
+    refuse(messages::pluginClassTaken(path, *name));
+  if (isCutShort(toText([bundle executablePath])))
+    refuse(messages::pluginNotLoadable(path, messages::kCodeCutShort));
+  checkLibraries(toText([bundle executablePath]), path);
+  BOOL loaded = NO;
+  const auto raised = whatIsRaisedBy([&] { loaded = [bundle load]; });
+  if (raised)
+    refuse(messages::pluginRaised(path, "load", *raised));
+  if (!loaded)
+    refuse(messages::pluginNotLoadable(path, loadingTrouble(bundle)));
+  const Class principal = NSClassFromString(toString(*name));
+  if (principal == Nil)
+    refuse(messages::pluginWithoutClass(path, *name));
+  return principal;
+}
+
+void checkOperations(Class principal, const std::string &path) {
+  for (const char *operation : {"initWithBundle:", "PDEPanelsForType:withHostInfo:"})
+    if (!class_respondsToSelector(principal, sel_registerName(operation)))
+      refuse(messages::pluginWithoutOperation(path, operation));
+}
+
+} // namespace
+
+Plugin::Plugin(const std::string &path) : path_(path) {
+  NSBundle *const bundle = bundleAt(path);
+  const Class principal = principalClassOf(bundle, path);
+  checkOperations(principal, path);
+  BOOL started = NO;
+  const auto raised = whatIsRaisedBy([&] {
+    plugin_ = [principal alloc];
+    // A one-byte boolean and not the object.
+    started = [plugin_ initWithBundle:bundle];
+  });
+  if (raised)
+    refuse(messages::pluginRaised(path, "initWithBundle:", *raised));
+  if (!started) {
+    [(id)plugin_ release];
+    refuse(messages::pluginRefused(path));
+  }
+}
+
+Plugin::~Plugin() {
+  whatIsRaisedBy([this] { [(id)plugin_ release]; });
+}
+
+std::vector<std::unique_ptr<PanelDriver>> Plugin::panels(id hostInfo) {
+  id answer = nil;
+  const auto raised = whatIsRaisedBy(
+      [&] { answer = [[plugin_ PDEPanelsForType:kPrintDialogType withHostInfo:hostInfo] retain]; });
+  if (raised)
+    refuse(messages::pluginRaised(path_, "PDEPanelsForType:withHostInfo:", *raised));
+  [answer autorelease];
+  if (![answer isKindOfClass:[NSArray class]])
+    refuse(messages::panelNotBuilt(path_));
+  std::vector<std::unique_ptr<PanelDriver>> panels;
+  for (NSUInteger i = 0; i < [answer count]; i++)
+    panels.push_back(std::make_unique<PanelDriver>([answer objectAtIndex:i], path_));
+  return panels;
+}
+
+} // namespace imageposition

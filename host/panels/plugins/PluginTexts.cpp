@@ -1,0 +1,110 @@
+#include "PluginTexts.hpp"
+
+#include "Phrases.hpp"
+
+namespace imageposition::messages {
+
+std::string pluginMissing(const std::string &path) {
+  return text("The plug-in \"{1}\" does not exist. Check the path.").with(path);
+}
+std::string pluginNotBundle(const std::string &path) {
+  return text("\"{1}\" is not a plug-in: it is no bundle with code in it. Check the path, or "
+              "install it again.")
+      .with(path);
+}
+std::string pluginWritable(const std::string &path, const std::string &part) {
+  return text(
+             "The plug-in \"{1}\" was not loaded: other users may change \"{2}\", and with it what "
+             "the plug-in does. Take that right from its group and from everybody (chmod go-w "
+             "\"{2}\"), or use a copy of the plug-in in a folder of your own.")
+      .with(path, part);
+}
+std::string pluginOwnedByOthers(const std::string &path, const std::string &part) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" belongs to another user, who may change "
+              "what the plug-in does. Have it installed by the system's administrator, or use a "
+              "copy "
+              "of it in a folder of your own.")
+      .with(path, part);
+}
+std::string pluginUnexamined(const std::string &path, const std::string &part,
+                             const std::string &reason) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" cannot be examined ({3}), so that other "
+              "users might have changed it. Correct its rights, or install the plug-in again.")
+      .with(path, part, reason);
+}
+std::string pluginLoadsCode(const std::string &path, const std::string &library,
+                            const std::string &place) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" loads code from \"{3}\", which other "
+              "users "
+              "may change. Ask the system's administrator to take that right from them, or the "
+              "plug-in's maker for another version.")
+      .with(path, library, place);
+}
+std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &library,
+                                    const std::string &place) {
+  return text("The plug-in \"{1}\" was not loaded: \"{2}\" loads code from \"{3}\", which is a "
+              "different place in each folder that the program is run in. Ask the plug-in's maker "
+              "for another version.")
+      .with(path, library, place);
+}
+std::string pluginUntrusted(const std::string &path, const UntrustedPart &part) {
+  switch (part.reason) {
+  case UntrustedPart::Reason::OthersMayWrite:
+    return pluginWritable(path, part.path);
+  case UntrustedPart::Reason::OthersOwnIt:
+    return pluginOwnedByOthers(path, part.path);
+  default:
+    return pluginUnexamined(path, part.path, systemReason(part.error));
+  }
+}
+const Text kCodeCutShort = text("its end is missing");
+std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
+  return text("The code of the plug-in \"{1}\" could not be loaded{2}; it may be damaged or made "
+              "for another system. Install it again.")
+      .with(path, because(reason));
+}
+std::string pluginWithoutClass(const std::string &path, const std::string &className) {
+  if (className.empty())
+    return text("The plug-in \"{1}\" lacks its principal class. Install it again.").with(path);
+  return text("The plug-in \"{1}\" lacks its principal class \"{2}\". Install it again.")
+      .with(path, className);
+}
+std::string pluginClassTaken(const std::string &path, const std::string &className) {
+  return text("The plug-in \"{1}\" was not loaded: its class \"{2}\" is in use already, perhaps by "
+              "another copy. Remove one of them.")
+      .with(path, className);
+}
+std::string pluginWithoutOperation(const std::string &path, const std::string &operation) {
+  return text("The plug-in \"{1}\" is no print-dialog extension: its principal class lacks "
+              "\"{2}\". Ask its maker for another version.")
+      .with(path, operation);
+}
+std::string pluginRefused(const std::string &path) {
+  return text("The plug-in \"{1}\" could not be loaded: it reports that it cannot start. Install "
+              "it again.")
+      .with(path);
+}
+std::string pluginRaised(const std::string &path, const std::string &operation,
+                         const std::string &what) {
+  return text("The plug-in \"{1}\" failed in \"{2}\" ({3}) and is left out. Ask its maker for "
+              "another version.")
+      .with(path, operation, what);
+}
+std::string panelNotBuilt(const std::string &path) {
+  return text("The panel of the plug-in \"{1}\" could not be loaded; a file of it is missing or "
+              "damaged. Install it again.")
+      .with(path);
+}
+std::string panelWithoutOperation(const std::string &path, const std::string &operation) {
+  return text("A panel of the plug-in \"{1}\" cannot be used: it lacks \"{2}\". Ask its maker for "
+              "another version.")
+      .with(path, operation);
+}
+std::string panelWithoutView(const std::string &path) {
+  return text("A panel of the plug-in \"{1}\" has no view. Install it again.").with(path);
+}
+std::string panelRefusedJob(const std::string &panel) {
+  return text("\"{1}\" does not allow the job to be printed. Look at its settings.").with(panel);
+}
+
+} // namespace imageposition::messages

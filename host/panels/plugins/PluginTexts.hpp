@@ -1,0 +1,44 @@
+/// What is said about plug-ins that cannot be used.
+#ifndef IMAGEPOSITION_HOST_PLUGINTEXTS_HPP
+#define IMAGEPOSITION_HOST_PLUGINTEXTS_HPP
+
+#include "PluginTrust.hpp"
+#include "Text.hpp"
+
+#include <string>
+
+namespace imageposition::messages {
+
+// Plug-ins.
+std::string pluginMissing(const std::string &path);
+std::string pluginNotBundle(const std::string &path);
+/// `part` is the bundle, something in it, or a folder on the way.
+std::string pluginWritable(const std::string &path, const std::string &part);
+std::string pluginOwnedByOthers(const std::string &path, const std::string &part);
+/// `part` is also a library's place that `pluginLoadsCode` is about.
+std::string pluginUnexamined(const std::string &path, const std::string &part,
+                             const std::string &reason);
+/// `library` is the file that has the loader look in `place`, which other users may change.
+std::string pluginLoadsCode(const std::string &path, const std::string &library,
+                            const std::string &place);
+/// As before; the place depends on the current folder.
+std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &library,
+                                    const std::string &place);
+/// The one of these three that is about `part`.
+std::string pluginUntrusted(const std::string &path, const UntrustedPart &part);
+extern const Text kCodeCutShort;
+std::string pluginNotLoadable(const std::string &path, const std::string &reason);
+std::string pluginWithoutClass(const std::string &path, const std::string &className);
+std::string pluginClassTaken(const std::string &path, const std::string &className);
+std::string pluginWithoutOperation(const std::string &path, const std::string &operation);
+std::string pluginRefused(const std::string &path);
+std::string pluginRaised(const std::string &path, const std::string &operation,
+                         const std::string &what);
+std::string panelNotBuilt(const std::string &path);
+std::string panelWithoutOperation(const std::string &path, const std::string &operation);
+std::string panelWithoutView(const std::string &path);
+std::string panelRefusedJob(const std::string &panel);
+
+} // namespace imageposition::messages
+
+#endif

@@ -1,0 +1,205 @@
+#import "DialogJob.h"
+
+#include "CustomValue.hpp"
+#include "DocumentNames.hpp"
+#include "ExitCode.hpp"
+#include "JobSubmission.hpp"
+#include "OptionText.hpp"
+#include "PluginFolders.hpp"
+#import "Pool.h"
+#include "PresetFit.hpp"
+#include "Presets.hpp"
+#include "SessionTexts.hpp"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <iostream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace imageposition {
+
+namespace {
+
+/// The user's default, or else the server's.
+std::string defaultQueue() {
+  cups_dest_t *const destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+  if (destination == nullptr)
+    throw Failure(ExitCode::Printer, messages::kNoDefaultPrinter);
+  std::string name = destination->name;
+  if (destination->instance != nullptr)
+    name += std::string("/") + destination->instance;
+  cupsFreeDests(1, destination);
+  return name;
+}
+
+std::string queueFor(const Arguments &arguments) {
+  if (!arguments.ppd.empty())
+    return {};
+  return arguments.queue.empty() ? defaultQueue() : arguments.queue;
+}
+
+std::unique_ptr<PrinterDescription> openPrinter(const Arguments &arguments,
+                                                const std::string &queue) {
+  return std::make_unique<PrinterDescription>(queue.empty()
+                                                  ? PrinterDescription::fromFile(arguments.ppd)
+                                                  : PrinterDescription::ofQueue(queue));
+}
+
+/// Where lp has CUPS send what happened to a job.
+std::string mailAddress() {
+  char host[HTTP_MAX_HOST];
+  return std::string(cupsUser()) + "@" + httpGetHostname(nullptr, host, sizeof host);
+}
+
+void takeLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
+  for (const std::string &option : arguments.options)
+    readOptionArgument(option, settings);
+  if (arguments.isMailWanted)
+    readOptionArgument("notify-recipient-uri=mailto:" + mailAddress(), settings);
+}
+
+/// A preset is an instance of the queue; panels see what it holds only among the job's settings.
+PrintSettingsStore settingsOfInstance(const std::string &queue, const PrinterDescription &printer) {
+  const std::size_t slash = queue.find('/');
+  if (slash == std::string::npos)
+    return {};
+  const LoadedPreset preset =
+      Presets(queue.substr(0, slash)).load(queue.substr(slash + 1), printer);
+  for (const std::string &misfit : preset.misfits)
+    std::cerr << misfit << '\n';
+  return preset.settings;
+}
+
+/// The queue's preset, or the ticket that is there already, with the command line's options on top.
+Ticket openTicket(const Arguments &arguments, const std::string &queue,
+                  const PrinterDescription &printer) {
+  Ticket ticket;
+  ticket.settings = settingsOfInstance(queue, printer);
+  if (!arguments.ticket.empty())
+    if (auto stored = readTicket(arguments.ticket))
+      ticket = *stored;
+  if (!arguments.documents.empty())
+    ticket.documents = arguments.documents;
+  takeLpOptions(arguments, ticket.settings);
+  return ticket;
+}
+
+std::vector<std::string> pluginsFor(const Arguments &arguments, const PrinterDescription &printer) {
+  return findPlugins({arguments.plugins, printer.attributeValues("APDialogExtension")},
+                     pluginFolders());
+}
+
+/// A pipe or a file, and no terminal or the nothing that desktops start programs with.
+bool isInputGiven() {
+  struct stat status {};
+  return fstat(STDIN_FILENO, &status) == 0 && !S_ISCHR(status.st_mode);
+}
+
+void writeToOutput(const std::string &settings) {
+  if (isatty(STDOUT_FILENO) != 0) {
+    std::cout << settings;
+    return;
+  }
+  std::cout.flush(); // which shows what it is given
+  if (std::fwrite(settings.data(), 1, settings.size(), stdout) != settings.size() ||
+      std::fflush(stdout) != 0)
+    throw Failure(ExitCode::Ticket, messages::outputUnwritable({}));
+}
+
+/// False for a choice or a value of another printer's, which this one does not take.
+bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) {
+  if (ppdFindOption(before, setting.name) == nullptr)
+    return true;
+  return ppdFindOption(ppd, setting.name) != nullptr &&
+         misfitOf(ppd, setting.name, setting.value, true).empty();
+}
+
+} // namespace
+
+DialogJob::DialogJob(const Arguments &arguments)
+    : arguments_(arguments), queue_(queueFor(arguments)), printer_(openPrinter(arguments, queue_)),
+      ticket_(openTicket(arguments, queue_, *printer_)),
+      isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
+  ticket_.printer = printer_->name();
+  printer_->mark(ticket_.settings);
+}
+
+void DialogJob::loadPanels() {
+  const Pool pool;
+  plugins_ = pluginsFor(arguments_, *printer_);
+  panels_ = std::make_unique<PanelSession>(*printer_, ticket_.settings);
+  panels_->load(plugins_);
+}
+
+void DialogJob::keepWhatFits(const PrinterDescription &before) {
+  std::vector<std::string> strange;
+  for (int i = 0; i < settings().optionCount(); i++)
+    if (!canHave(printer_->ppd(), before.ppd(), settings().options()[i]))
+      strange.push_back(settings().options()[i].name);
+  for (const std::string &name : strange)
+    settings().remove(name);
+}
+
+void DialogJob::chooseQueue(const std::string &queue) {
+  auto printer = openPrinter(arguments_, queue);
+  panels_.reset();
+  printer_.swap(printer);
+  queue_ = queue;
+  ticket_.printer = printer_->name();
+  keepWhatFits(*printer);
+  printer_->mark(ticket_.settings);
+  loadPanels();
+}
+
+bool DialogJob::hasDocument() const {
+  return !arguments_.documents.empty() || (!arguments_.isBatch && isInputGiven());
+}
+
+std::vector<std::string> DialogJob::documentsToSend() const {
+  return arguments_.documents.empty() ? std::vector<std::string>{"-"} : arguments_.documents;
+}
+
+JobRequest DialogJob::request() const {
+  JobRequest request;
+  request.printer = queue_.substr(0, queue_.find('/'));
+  request.title = arguments_.title;
+  if (request.title.empty())
+    request.title = documentName(documentsToSend().front());
+  request.settings = ticket_.settings;
+  request.compounds = compoundOptions(printer_->ppd());
+  for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &ticket_.settings})
+    for (std::string &name : hiddenSettings(printer_->ppd(), *settings))
+      request.secrets.push_back(std::move(name));
+  return request;
+}
+
+void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
+  sentName_ = request().printer + "-" + std::to_string(sent.id);
+  if (arguments_.isSilent || arguments_.isMailWanted)
+    return;
+  const auto &paths = arguments_.documents;
+  const auto inputs = std::count(paths.begin(), paths.end(), "-"); // lp counts files alone
+  output << messages::jobSent(request().printer, sent.id, paths.size() - inputs) << std::endl;
+  if (!sent.note.empty())
+    notes << sent.note << std::endl;
+}
+
+void DialogJob::writeSettings() {
+  if (arguments_.ticket.empty())
+    writeToOutput(writeOptionText(ticket_.settings));
+  else
+    writeSettings(arguments_.ticket);
+}
+
+void DialogJob::writeSettings(const std::string &path) {
+  const bool isSecret = !hiddenSettings(printer_->ppd(), ticket_.settings).empty();
+  writeTicket(ticket_, path, isSecret ? Readers::OwnerAlone : Readers::Same);
+  done_ = messages::ticketWritten(path, optionTextPath(path));
+  if (!arguments_.isSilent)
+    std::cerr << done_ << '\n';
+}
+
+} // namespace imageposition

@@ -1,0 +1,105 @@
+// What the dialog leaves out or puts off at its start, and nobody misses.
+#include "WindowFixture.hpp"
+
+namespace {
+
+using namespace imageposition::test;
+
+class Start : public Window {
+protected:
+  static std::string windowId() {
+    const std::string id = runProcess({"xdotool", "search", "--name", "^Print$"}).output;
+    return id.substr(0, id.find('\n'));
+  }
+
+  /// The line that is a whole number and nothing else, among a server's remarks.
+  static std::string numberLine(const std::string &text) {
+    std::istringstream lines(text.substr(0, text.rfind('\n') + 1));
+    for (std::string line; std::getline(lines, line);)
+      if (!line.empty() && line.find_first_not_of("0123456789") == std::string::npos)
+        return line;
+    return {};
+  }
+
+  /// A property's numbers, as xprop writes them after the sign.
+  static std::vector<int> numbersOf(const Words &window, const std::string &property) {
+    Words words{"xprop"};
+    words.insert(words.end(), window.begin(), window.end());
+    words.push_back(property);
+    const std::string text = runProcess(words).output;
+    std::vector<int> numbers;
+    std::istringstream values(text.substr(std::min(text.find('='), text.size() - 1) + 1));
+    for (int number; values >> number; values.ignore(1, ','))
+      numbers.push_back(number);
+    return numbers;
+  }
+};
+
+/// With a keyboard that has keys for accents.
+class AccentKeys : public Start {
+protected:
+  void SetUp() override {
+    ASSERT_EQ(runProcess({"setxkbmap", "us", "-variant", "intl"}).status, 0);
+  }
+  void TearDown() override { runProcess({"setxkbmap", "us"}); }
+  const Words utf8{"LC_ALL=C.UTF-8"};
+};
+
+TEST_F(AccentKeys, TheVeryFirstKeyIsComposedWithTheSecond) {
+  open("duplex-shift.ppd", {}, utf8);
+  press(
+      {"dead_acute", "1", "2", "Return"}); // there is no accent for a digit, which is lost with it
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_EQ(printed(), offsets("2", "0", "0", "0", "False"));
+}
+
+TEST_F(AccentKeys, AnAccentAndALetterAreOneCharacter) {
+  open("duplex-shift.ppd", {}, utf8);
+  press({"alt+c", "ctrl+a", "dead_acute", "e", "Return"});
+  EXPECT_TRUE(says("\"é\"")) << dialogProcess->errorsSoFar();
+}
+
+TEST_F(Start, TheFirstProgramOnADisplayKnowsTheFramesThatWindowsGet) {
+  runProcess({"xprop", "-root", "-remove", "_GNUSTEP_FRAME_OFFSETS"});
+  open("duplex-shift.ppd");
+  const auto frame = numbersOf({"-id", windowId()}, "_NET_FRAME_EXTENTS");
+  const auto known = numbersOf({"-root"}, "_GNUSTEP_FRAME_OFFSETS");
+  ASSERT_EQ(frame.size(), 4U);
+  ASSERT_EQ(known.size(), 60U);
+  EXPECT_GT(frame[2], 0); // a title bar
+  constexpr int kTitledAndClosable = 3;
+  const auto first = known.begin() + 4 * (kTitledAndClosable - 1);
+  EXPECT_EQ(std::vector<int>(first, first + 4), frame);
+}
+
+TEST_F(Start, NoOtherProgramIsStarted) {
+  open("duplex-shift.ppd");
+  const auto mine = runProcess({"pgrep", "-P", std::to_string(dialogProcess->id())});
+  EXPECT_EQ(mine.output, "");
+}
+
+TEST_F(Start, ADocumentThatIsNamedBeforeAllElseIsTheDialogsToPrint) {
+  start({sample("two-sided.pdf"), "--ppd", sample("duplex-shift.ppd"), "--ticket", ticket}, {});
+}
+
+TEST_F(Start, WithoutAWindowManagerTheWindowStandsInTheMiddle) {
+  Process server({"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+  std::string display;
+  ASSERT_TRUE(becomesTrue([&] {
+    display = "DISPLAY=:" + numberLine(server.errorsSoFar());
+    return display.back() != ':';
+  }));
+  Process shown({PRINT_DIALOG, "--ppd", sample("duplex-shift.ppd"), "--ticket", ticket}, {display});
+  std::string window;
+  ASSERT_TRUE(becomesTrue([&] {
+    window = runProcess({"xwininfo", "-name", "Print"}, {display}).output;
+    return window.find("IsViewable") != std::string::npos;
+  }));
+  const auto numberAfter = [&](const std::string &words) {
+    return std::stoi(window.substr(window.find(words) + words.size()));
+  };
+  EXPECT_EQ(numberAfter("upper-left X:"), (1280 - numberAfter("Width:")) / 2);
+  EXPECT_EQ(numberAfter("upper-left Y:"), (1024 - numberAfter("Height:")) / 2);
+}
+
+} // namespace

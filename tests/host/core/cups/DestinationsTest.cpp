@@ -1,0 +1,182 @@
+#include "Destinations.hpp"
+
+#include "JobFixture.hpp"
+#include "ProcessLimits.hpp"
+
+#include <csignal>
+#include <cstdlib>
+
+namespace {
+
+using namespace imageposition;
+using namespace imageposition::test;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class PrinterList : public JobFixture {
+protected:
+  void SetUp() override {
+    JobFixture::SetUp();
+    command({"lpadmin", "-p", "office", "-D", "Big one", "-L", "First floor"});
+  }
+  void TearDown() override {
+    cups().send(SIGCONT);
+    JobFixture::TearDown();
+  }
+  static Destination office() {
+    const DestinationList list = readDestinations();
+    EXPECT_EQ(list.reason, "");
+    const Destination *const found = list.find("office");
+    EXPECT_NE(found, nullptr);
+    return found != nullptr ? *found : Destination{};
+  }
+};
+
+TEST_F(PrinterList, TellsWhereAPrinterStandsAndHowItIs) {
+  const Destination printer = office();
+  EXPECT_EQ(printer.fullName(), "office");
+  EXPECT_EQ(printer.description, "Big one");
+  EXPECT_EQ(printer.location, "First floor");
+  EXPECT_THAT(printer.uri, HasSubstr("/printers/office"));
+  EXPECT_EQ(printer.state, DestinationState::Idle);
+  EXPECT_EQ(printer.stateText, "Ready");
+  EXPECT_TRUE(printer.acceptsJobs);
+}
+
+TEST_F(PrinterList, HasJobOptionsAmongTheDefaultsAndNothingAboutThePrinter) {
+  command({"lpadmin", "-p", "office", "-o", "number-up-default=2"});
+  const Destination printer = office();
+  EXPECT_STREQ(printer.defaults.get("number-up"), "2");
+  for (int i = 0; i < printer.defaults.optionCount(); i++)
+    EXPECT_THAT(
+        printer.defaults.options()[i].name,
+        AllOf(Not(StartsWith("printer-")), Not(StartsWith("marker-")), Not(StartsWith("device-"))));
+}
+
+TEST_F(PrinterList, SaysInWordsThatAPrinterIsStoppedAndTakesNoJobs) {
+  command({"cupsdisable", "office"});
+  EXPECT_EQ(office().state, DestinationState::Stopped);
+  EXPECT_EQ(office().stateText, "Stopped: paused");
+  command({"cupsreject", "office"});
+  EXPECT_FALSE(office().acceptsJobs);
+  EXPECT_EQ(office().stateText, "Stopped: paused; takes no jobs");
+}
+
+TEST_F(PrinterList, HasInstancesAfterTheirQueueWithDefaultsOfTheirOwn) {
+  command({"lpoptions", "-p", "office/single", "-o", "Duplex=None"});
+  const DestinationList list = readDestinations();
+  command({"lpoptions", "-x", "office/single"});
+  ASSERT_EQ(list.destinations.size(), 2u);
+  EXPECT_EQ(list.destinations[0].fullName(), "office");
+  EXPECT_EQ(list.destinations[0].defaults.get("Duplex"), nullptr);
+  EXPECT_EQ(list.destinations[1].fullName(), "office/single");
+  EXPECT_STREQ(list.destinations[1].defaults.get("Duplex"), "None");
+  EXPECT_EQ(list.destinations[1].location, "First floor");
+  EXPECT_NE(list.find("OFFICE/Single"), nullptr);
+}
+
+TEST_F(PrinterList, KnowsTheDefault) {
+  addQueue("attic");
+  command({"lpadmin", "-d", "office"});
+  const DestinationList list = readDestinations();
+  command({"lpadmin", "-x", "attic"});
+  ASSERT_EQ(list.destinations.size(), 2u);
+  ASSERT_NE(list.defaultDestination(), nullptr);
+  EXPECT_EQ(list.defaultDestination()->name, "office");
+}
+
+TEST_F(PrinterList, WithoutPrintersSaysWhatToDo) {
+  command({"lpadmin", "-x", "office"});
+  const DestinationList list = readDestinations();
+  EXPECT_TRUE(list.destinations.empty());
+  EXPECT_THAT(list.reason, HasSubstr("CUPS has no printers"));
+}
+
+TEST_F(PrinterList, WithoutCupsIsEmptyAndSaysWhatToDo) {
+  cups().stop();
+  const DestinationList list = readDestinations();
+  EXPECT_TRUE(list.destinations.empty());
+  EXPECT_THAT(list.reason, AllOf(HasSubstr(cups().socket()), HasSubstr("systemctl start cups"),
+                                 HasSubstr("ticket")));
+}
+
+TEST_F(PrinterList, GivesUpOnACupsThatStandsStill) {
+  cups().send(SIGSTOP);
+  const auto start = std::chrono::steady_clock::now();
+  const DestinationList list = readDestinations(std::chrono::milliseconds(300));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
+  EXPECT_TRUE(list.destinations.empty());
+  EXPECT_THAT(list.reason, HasSubstr("does not answer"));
+}
+
+TEST_F(PrinterList, RefreshesWithoutWaiting) {
+  Destinations printers;
+  cups().send(SIGSTOP);
+  const auto start = std::chrono::steady_clock::now();
+  printers.refresh();
+  EXPECT_FALSE(printers.takeAnswer());
+  EXPECT_TRUE(printers.isRefreshing());
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
+  cups().send(SIGCONT);
+  ASSERT_TRUE(comesTrue([&] { return printers.takeAnswer(); }));
+  EXPECT_NE(printers.list().find("office"), nullptr);
+  EXPECT_FALSE(printers.isRefreshing());
+}
+
+TEST_F(PrinterList, TellsWhetherSomethingIsNew) {
+  Destinations printers;
+  printers.refresh();
+  ASSERT_TRUE(comesTrue([&] { return printers.takeAnswer(); }));
+  printers.refresh();
+  bool isNew = false;
+  ASSERT_TRUE(comesTrue([&] {
+    isNew = printers.takeAnswer() || isNew;
+    return !printers.isRefreshing();
+  }));
+  EXPECT_FALSE(isNew);
+  command({"cupsdisable", "office"});
+  printers.refresh();
+  ASSERT_TRUE(comesTrue([&] { return printers.takeAnswer(); }));
+  EXPECT_EQ(printers.list().find("office")->stateText, "Stopped: paused");
+}
+
+TEST_F(PrinterList, LetsGoOfAnOpenQuestion) {
+  cups().send(SIGSTOP);
+  const auto start = std::chrono::steady_clock::now();
+  {
+    Destinations printers;
+    printers.refresh(std::chrono::milliseconds(500));
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
+}
+
+TEST_F(PrinterList, IsAskedForAgainOnceAThreadCanBeHad) {
+  const auto hasAnswered = [] {
+    Destinations printers;
+    forbidThreads();
+    printers.refresh();
+    allowThreads();
+    printers.refresh();
+    return comesTrue([&] { return printers.takeAnswer(); });
+  };
+  EXPECT_EXIT(std::_Exit(hasAnswered() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST(StateReasons, AreWords) {
+  const struct {
+    const char *reasons;
+    const char *words;
+  } kRows[] = {{"none", ""},
+               {"", ""},
+               {"media-empty-error", "out of paper"},
+               {"media-empty,toner-low-warning", "out of paper, little toner left"},
+               {"door-open-report,other", "a door is open"},
+               {"cover-open,interlock-open", "a cover is open"},
+               {"maker-special-warning", "maker-special"}};
+  for (const auto &row : kRows)
+    EXPECT_EQ(stateReasonsInWords(row.reasons), row.words) << row.reasons;
+}
+
+} // namespace

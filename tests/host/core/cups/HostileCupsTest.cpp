@@ -1,0 +1,169 @@
+// A CUPS whose answers are not what they should be.
+#include "AnsweringServer.hpp"
+#include "Destinations.hpp"
+#include "JobSubmission.hpp"
+#include "PrinterDescription.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <future>
+#include <optional>
+
+namespace {
+
+using namespace imageposition;
+using namespace imageposition::test;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::SizeIs;
+
+constexpr const char kPrinter[] = R"(
+01
+47 attributes-charset utf-8
+48 attributes-natural-language en
+04
+42 printer-name office
+45 printer-uri-supported ipp://localhost/printers/office
+23 printer-type 4
+23 printer-state 3
+22 printer-is-accepting-jobs true
+)";
+
+/// Lists one printer and describes it.
+std::string printer(const std::string &further = "") {
+  return std::string("answer 200 4002") + kPrinter + further + "\nanswer 200 000b" + kPrinter +
+         "23 operations-supported 2\n23 - 5\n23 - 6\n";
+}
+
+class HostileCups : public testing::Test {
+protected:
+  void SetUp() override {
+    if (const char *const before = std::getenv("CUPS_SERVER"))
+      before_ = before;
+    setenv("CUPS_SERVER", server_.socket().c_str(), 1);
+  }
+  void TearDown() override {
+    if (before_)
+      setenv("CUPS_SERVER", before_->c_str(), 1);
+    else
+      unsetenv("CUPS_SERVER");
+  }
+
+  /// On a thread that has talked to no other CUPS.
+  template <typename Work> auto with(const std::string &answers, Work work) {
+    server_.setAnswers(readAnswers(answers));
+    return std::async(std::launch::async, work).get();
+  }
+  DestinationList printers(const std::string &answers) {
+    return with(answers, [] { return readDestinations(); });
+  }
+  /// Why a job is not sent; empty when it is.
+  std::string refusal(const std::string &answers, const ProgressCallback &progress = {}) {
+    const std::string document = folder_.write("a.ps", "%!PS\n");
+    return with(answers, [=] {
+      JobRequest request;
+      request.printer = "office";
+      request.title = "A document";
+      try {
+        submitJob(request, {document}, progress);
+      } catch (const SubmissionFailure &failure) {
+        return std::string(failure.what());
+      }
+      return std::string();
+    });
+  }
+
+  /// Once CUPS has all of the document, which it keeps to itself.
+  std::string refusalOfCancelled(const std::string &answers) {
+    return refusal(answers, [this](const JobProgress &) {
+      return server_.requestCount(IPP_OP_SEND_DOCUMENT) == 0;
+    });
+  }
+  std::size_t cancelCount() { return server_.requestCount(IPP_OP_CANCEL_JOB); }
+
+private:
+  const TemporaryFolder folder_;
+  AnsweringServer server_;
+  std::optional<std::string> before_;
+};
+
+TEST_F(HostileCups, CanSayNothingOfAPrinterThatATerminalObeys) {
+  const DestinationList list =
+      printers(printer("41 printer-info Big \xFF\x1B[31m\n41 printer-location \xC2\x9B"
+                       "5n\n44 printer-state-reasons odd\x07\xFE\n"));
+  ASSERT_THAT(list.destinations, SizeIs(1));
+  EXPECT_EQ(list.destinations[0].description, "Big \uFFFD\\x1b[31m");
+  EXPECT_EQ(list.destinations[0].location, "\\x9b5n");
+  EXPECT_EQ(list.destinations[0].stateText, "Ready: odd\\x07\uFFFD");
+}
+
+TEST_F(HostileCups, APrinterWhoseNameCannotBeShownIsLeftOut) {
+  const DestinationList list =
+      printers(printer("04\n42 printer-name lab\xFF\x1B[2J\n45 printer-uri-supported "
+                       "ipp://localhost/printers/lab\n23 printer-type 4\n"));
+  ASSERT_THAT(list.destinations, SizeIs(1));
+  EXPECT_EQ(list.destinations[0].name, "office");
+}
+
+TEST_F(HostileCups, ARefusalIsOneLineOfUtf8) {
+  EXPECT_THAT(
+      refusal(printer() + "answer 200 0005\nipp 0500\n01\n41 status-message Broken\x1B[2J \xFF.\n"),
+      HasSubstr("(Broken\\x1b[2J \uFFFD)"));
+  EXPECT_THAT(with("answer 200 0\nipp 0406\n01\n41 status-message Broken\x1B[2J \xFF.\n",
+                   [] {
+                     try {
+                       PrinterDescription::ofQueue("office");
+                     } catch (const Failure &failure) {
+                       return std::string(failure.what());
+                     }
+                     return std::string();
+                   }),
+              HasSubstr("\"office\": Broken\\x1b[2J \uFFFD."));
+}
+
+TEST_F(HostileCups, AJobWithoutANumberIsNotTakenAndNotForSuccess) {
+  const std::string reason = refusal(printer() + "answer 200 0005\n02\n41 job-id 7\n");
+  EXPECT_THAT(reason, HasSubstr("CUPS did not take the job for \"office\". "));
+  EXPECT_THAT(reason, Not(HasSubstr("successful")));
+}
+
+/// Takes a job and all of its document, and says nothing more of it.
+std::string silence() {
+  return printer() + "answer 200 0005\n02\n21 job-id 7\nanswer 200 0006\nsilent\n";
+}
+
+TEST_F(HostileCups, AJobThatIsCancelledWhileItsDocumentIsNotConfirmedIsCancelledThereToo) {
+  EXPECT_THAT(
+      refusalOfCancelled(silence() + "answer 200 0008\n"),
+      AllOf(HasSubstr("job office-7 was cancelled"), Not(HasSubstr("nothing was printed"))));
+  EXPECT_EQ(cancelCount(), 1U);
+}
+
+TEST_F(HostileCups, AJobThatCannotBeCancelledIsNamedWithWhatRemovesIt) {
+  for (const char *answer : {"ipp 0404\n", "silent\n"}) {
+    EXPECT_THAT(refusalOfCancelled(silence() + "answer 200 0008\n" + answer),
+                HasSubstr("\"cancel office-7\""))
+        << answer;
+    EXPECT_GE(cancelCount(), 1U) << answer;
+  }
+}
+
+TEST_F(HostileCups, AJobWhoseDocumentIsNeverConfirmedIsNoSuccess) {
+  EXPECT_THAT(refusal(silence() + "answer 200 0008\n"),
+              AllOf(HasSubstr("did not answer in time"), HasSubstr("job office-7 was cancelled")));
+  EXPECT_EQ(cancelCount(), 1U);
+}
+
+/// With UndefinedBehaviorSanitizer the numbers must not pass for CUPS's own enumerations.
+TEST_F(HostileCups, AStatusThatNoStandardHasIsARefusal) {
+  EXPECT_THAT(printers("answer 200 0\nipp 7FFF\n01\n41 status-message Odd.\n").reason,
+              HasSubstr("CUPS does not say which printers it has (Odd)."));
+  EXPECT_THAT(refusal(printer() + "answer 200 0005\nipp 7FFF\n01\n41 status-message Odd.\n"),
+              HasSubstr("CUPS did not take the job for \"office\" (Odd)."));
+  EXPECT_THAT(printers("answer 131072 0\nbody odd\n").reason, HasSubstr("CUPS does not "));
+}
+
+} // namespace

@@ -1,0 +1,156 @@
+#include "JobRequest.hpp"
+
+#include "ExitCode.hpp"
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+namespace {
+
+using namespace imageposition;
+using testing::AllOf;
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Key;
+using testing::Not;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+
+std::map<std::string, std::string> sentBy(const JobRequest &request) {
+  const PrintSettingsStore options = optionsToSend(request);
+  std::map<std::string, std::string> sent;
+  for (int i = 0; i < options.optionCount(); i++)
+    sent[options.options()[i].name] = options.options()[i].value;
+  return sent;
+}
+
+JobRequest requestWith(const std::map<std::string, std::string> &settings) {
+  JobRequest request;
+  request.printer = "office";
+  request.title = "letter";
+  for (const auto &[name, value] : settings)
+    request.settings.set(name, value);
+  return request;
+}
+
+TEST(JobRequest, SettingsStandOverTheDestinationsDefaults) {
+  JobRequest request = requestWith({{"MediaType", "Heavy"}});
+  request.defaults.set("MediaType", "Plain");
+  request.defaults.set("job-sheets", "none,none");
+  EXPECT_THAT(sentBy(request),
+              UnorderedElementsAre(Pair("MediaType", "Heavy"), Pair("job-sheets", "none,none")));
+}
+
+TEST(JobRequest, ASettingDisplacesTheDefaultOfTheSameThingUnderAnotherName) {
+  const struct {
+    const char *standard;
+    const char *setting;
+  } kRows[] = {{"sides", "Duplex"},         {"Duplex", "sides"},
+               {"media", "PageSize"},       {"PageRegion", "media"},
+               {"OutputBin", "output-bin"}, {"print-color-mode", "ColorModel"}};
+  for (const auto &row : kRows) {
+    JobRequest request = requestWith({{row.setting, "chosen"}});
+    request.defaults.set(row.standard, "before");
+    EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair(row.setting, "chosen"))) << row.standard;
+  }
+}
+
+TEST(JobRequest, ADefaultStaysWhereNothingElseIsChosen) {
+  JobRequest request = requestWith({});
+  request.defaults.set("sides", "two-sided-long-edge");
+  EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair("sides", "two-sided-long-edge")));
+}
+
+TEST(JobRequest, FieldsStandOverSettings) {
+  JobRequest request = requestWith({{"copies", "9"}, {"job-priority", "1"}, {"number-up", "4"}});
+  request.copies = 2;
+  request.priority = 100;
+  request.numberUp = 2;
+  request.holdUntil = "18:30";
+  EXPECT_THAT(sentBy(request),
+              UnorderedElementsAre(Pair("copies", "2"), Pair("job-priority", "100"),
+                                   Pair("number-up", "2"), Pair("job-hold-until", "18:30")));
+}
+
+TEST(JobRequest, ALockedSettingIsSentAsItIs) {
+  JobRequest request;
+  request.settings.set("LeftRightMargin", "-3", true);
+  EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair("LeftRightMargin", "-3")));
+}
+
+TEST(JobRequest, CollationIsSaidToCupsAndToTheDriver) {
+  JobRequest request;
+  request.collate = true;
+  EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair("Collate", "True"),
+                                                    Pair("multiple-document-handling",
+                                                         "separate-documents-collated-copies")));
+  request.collate = false;
+  EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair("Collate", "False"),
+                                                    Pair("multiple-document-handling",
+                                                         "separate-documents-uncollated-copies")));
+}
+
+TEST(JobRequest, PagesAreSentAscending) {
+  JobRequest request;
+  request.pageRanges = "7, 1-3";
+  request.pageSet = PageSet::Even;
+  EXPECT_THAT(sentBy(request),
+              UnorderedElementsAre(Pair("page-ranges", "1-3,7"), Pair("page-set", "even")));
+  EXPECT_THAT(sentBy(requestWith({{"page-ranges", "7,1-3"}})),
+              UnorderedElementsAre(Pair("page-ranges", "1-3,7")));
+}
+
+TEST(JobRequest, AllPagesTakesBackWhatTheSettingsSay) {
+  JobRequest request = requestWith({{"page-ranges", "1-3"}, {"page-set", "odd"}});
+  request.pageRanges = "";
+  request.pageSet = PageSet::All;
+  EXPECT_THAT(sentBy(request), UnorderedElementsAre());
+}
+
+TEST(JobRequest, FieldsThatNoJobCanHaveAreRefusedInASentence) {
+  const auto refused = [](auto change) {
+    JobRequest request;
+    change(request);
+    try {
+      optionsToSend(request);
+    } catch (const Failure &failure) {
+      EXPECT_EQ(failure.code(), ExitCode::Usage);
+      return std::string(failure.what());
+    }
+    return std::string("nothing");
+  };
+  EXPECT_THAT(refused([](JobRequest &r) { r.copies = 0; }), HasSubstr("1 or more"));
+  EXPECT_THAT(refused([](JobRequest &r) { r.priority = 0; }), HasSubstr("1 to 100"));
+  EXPECT_THAT(refused([](JobRequest &r) { r.priority = 101; }), HasSubstr("1 to 100"));
+  EXPECT_THAT(refused([](JobRequest &r) { r.numberUp = 3; }), HasSubstr("1, 2, 4"));
+  EXPECT_THAT(refused([](JobRequest &r) { r.holdUntil = ""; }), HasSubstr("18:30"));
+  EXPECT_THAT(refused([](JobRequest &r) { r.pageRanges = "x"; }), HasSubstr("x"));
+}
+
+TEST(JobRequestText, NamesEachAttributeWithItsGroupTypeAndValue) {
+  JobRequest request = requestWith({{"LeftRightMargin", "-3"}, {"Duplex", "DuplexNoTumble"}});
+  request.printerUri = "ipp://localhost/printers/office";
+  request.copies = 2;
+  request.pageRanges = "1-3, 7";
+  const std::string text = writeRequestText(request);
+  for (const char *line :
+       {"operation printer-uri (uri) = ipp://localhost/printers/office\n",
+        "operation job-name (nameWithoutLanguage) = letter\n", "job copies (integer) = 2\n",
+        "job Duplex (nameWithoutLanguage) = DuplexNoTumble\n",
+        "job LeftRightMargin (nameWithoutLanguage) = -3\n"})
+    EXPECT_THAT(text, HasSubstr(line));
+  EXPECT_THAT(text, HasSubstr("job page-ranges (rangeOfInteger) = 1-3,7-7\n"));
+}
+
+TEST(JobRequestText, SaysWhatFiltersReadOfABoolean) {
+  const char *const kFlag = "com.morva.printsettings.19AImagePositionEnable";
+  EXPECT_THAT(writeRequestText(requestWith({{kFlag, "True"}})),
+              HasSubstr("job com.morva.printsettings.19AImagePositionEnable (boolean) = true\n"
+                        "    filters read: com.morva.printsettings.19AImagePositionEnable\n"));
+  EXPECT_THAT(writeRequestText(requestWith({{kFlag, "False"}})),
+              HasSubstr("job com.morva.printsettings.19AImagePositionEnable (boolean) = false\n"
+                        "    filters read: nocom.morva.printsettings.19AImagePositionEnable\n"));
+}
+
+} // namespace

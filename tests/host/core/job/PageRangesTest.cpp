@@ -1,0 +1,130 @@
+#include "PageRanges.hpp"
+
+#include "ExitCode.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace imageposition;
+using testing::HasSubstr;
+using testing::StrEq;
+
+std::string failureOf(const std::string &text) {
+  try {
+    PageRanges::parse(text);
+  } catch (const Failure &failure) {
+    EXPECT_EQ(failure.code(), ExitCode::Usage);
+    return failure.what();
+  }
+  ADD_FAILURE() << "was understood: " << text;
+  return {};
+}
+
+TEST(PageRanges, AreReadAsPeopleWriteThem) {
+  const struct {
+    const char *written;
+    const char *shown;
+    const char *value;
+  } rows[] = {
+      {"1", "1", "1"},
+      {"1-3, 7", "1-3, 7", "1-3,7"},
+      {" 1 - 3 ,7 ", "1-3, 7", "1-3,7"},
+      {"7,1-3", "1-3, 7", "1-3,7"},
+      {"5-", "5-", "5-"},
+      {"5 -", "5-", "5-"},
+      {"-4", "1-4", "1-4"},
+      {"1,1,1", "1", "1"},
+      {"1-5,3-8", "1-8", "1-8"},
+      {"1-9,3", "1-9", "1-9"},
+      {"1,2,3", "1-3", "1-3"},
+      {"1-2,3-4,6", "1-4, 6", "1-4,6"},
+      {"5-,7,9-12", "5-", "5-"},
+      {"9-,2", "2, 9-", "2,9-"},
+      {"1 3", "1, 3", "1,3"},
+      {"1;3,,5,", "1, 3, 5", "1,3,5"},
+      {"007", "7", "7"},
+      {"4-4", "4", "4"},
+      {"2147483646", "2147483646", "2147483646"},
+      {"1\xE2\x80\x93"
+       "3",
+       "1-3", "1-3"},
+      {"\xEF\xBC\x91\xEF\xBC\x8D\xEF\xBC\x93\xE3\x80\x81\xEF\xBC\x97", "1-3, 7", "1-3,7"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.written);
+    const PageRanges pages = PageRanges::parse(row.written);
+    EXPECT_EQ(pages.text(), row.shown);
+    EXPECT_EQ(pages.optionValue(), row.value);
+    EXPECT_EQ(PageRanges::parse(pages.text()).ranges(), pages.ranges());
+  }
+}
+
+TEST(PageRanges, WhatIsWrongIsSaidWithAnExample) {
+  const struct {
+    const char *written;
+    const char *reason;
+    const char *example;
+  } rows[] = {
+      {"", "No pages", "1-3, 7"},
+      {" , ", "No pages", "1-3, 7"},
+      {"all", "\"all\"", "1-3, 7"},
+      {"1-3, x7", "\"x7\"", "1-3, 7"},
+      {"3a", "\"3a\"", "1-3, 7"},
+      {"1.5", "\"1.5\"", "1-3, 7"},
+      {"+1", "\"+1\"", "1-3, 7"},
+      {"-", "hyphen", "5-"},
+      {"1, -, 2", "hyphen", "5-"},
+      {"1-2-3", "\"-3\"", "1-3, 7"},
+      {"0", "counted from 1", "1-3"},
+      {"0-3", "counted from 1", "1-3"},
+      {"7-3", "7-3 runs backwards", "Write 3-7"},
+      {"2147483647", "more than a document", "5-"},
+      {"99999999999999999999", "99999999999999999999", "5-"},
+  };
+  for (const auto &row : rows) {
+    SCOPED_TRACE(row.written);
+    const std::string failure = failureOf(row.written);
+    EXPECT_THAT(failure, HasSubstr(row.reason));
+    EXPECT_THAT(failure, HasSubstr(row.example));
+  }
+}
+
+TEST(PageChoice, IsStoredAsCupsTakesItAndReadBack) {
+  PrintSettingsStore job;
+  storePageChoice({PageRanges::parse("9-, 1-3"), PageSet::Even}, job);
+  EXPECT_THAT(job.get("page-ranges"), StrEq("1-3,9-"));
+  EXPECT_THAT(job.get("page-set"), StrEq("even"));
+  const PageChoice read = readPageChoice(job);
+  ASSERT_TRUE(read.ranges);
+  EXPECT_EQ(read.ranges->text(), "1-3, 9-");
+  EXPECT_EQ(read.set, PageSet::Even);
+}
+
+TEST(PageChoice, AllPagesLeaveNothingInTheJob) {
+  PrintSettingsStore job;
+  job.set("page-ranges", "1");
+  job.set("page-set", "odd");
+  EXPECT_EQ(readPageChoice(job).set, PageSet::Odd);
+  storePageChoice({}, job);
+  EXPECT_EQ(job.optionCount(), 0);
+  EXPECT_FALSE(readPageChoice(job).ranges);
+}
+
+TEST(PageChoice, TheEndAsAFilterWritesItIsTheEnd) {
+  PrintSettingsStore job;
+  job.set("page-ranges", "5-2147483647");
+  ASSERT_TRUE(readPageChoice(job).ranges);
+  EXPECT_EQ(readPageChoice(job).ranges->text(), "5-");
+}
+
+TEST(PageChoice, WhatCannotBeUnderstoodCountsAsAllPages) {
+  PrintSettingsStore job;
+  job.set("page-ranges", "x");
+  job.set("page-set", "x");
+  EXPECT_FALSE(readPageChoice(job).ranges);
+  EXPECT_EQ(readPageChoice(job).set, PageSet::All);
+}
+
+} // namespace

@@ -1,0 +1,94 @@
+#include "PreviewColours.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using namespace imageposition;
+
+double linear(int component) {
+  const double value = component / 255.0;
+  return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+/// As WCAG 2 defines it.
+double luminance(const Colour &colour) {
+  return 0.2126 * linear(colour.red) + 0.7152 * linear(colour.green) + 0.0722 * linear(colour.blue);
+}
+
+double contrast(const Colour &a, const Colour &b) {
+  const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+TEST(PreviewColours, WhatIsWrittenStandsOutFromThePaper) {
+  for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
+    for (const Colour &colour :
+         {colours->text, colours->secondaryText, colours->front, colours->back})
+      EXPECT_GE(contrast(colour, colours->paper), 4.5)
+          << colour.red << " " << colour.green << " " << colour.blue;
+}
+
+TEST(PreviewColours, WhatIsDrawnStandsOutFromThePaper) {
+  for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
+    for (const Colour &colour : {colours->lost, colours->outline, colours->printable})
+      EXPECT_GE(contrast(colour, colours->paper), 3)
+          << colour.red << " " << colour.green << " " << colour.blue;
+}
+
+struct Blindness {
+  const char *name;
+  double matrix[3][3];
+};
+
+// The whole loss of one kind of cone, in linear light (Machado, Oliveira and Fernandes 2009).
+constexpr Blindness kBlindnesses[] = {
+    {"protanopia",
+     {{0.152286, 1.052583, -0.204868},
+      {0.114503, 0.786281, 0.099216},
+      {-0.003882, -0.048116, 1.051998}}},
+    {"deuteranopia",
+     {{0.367322, 0.860646, -0.227968},
+      {0.280085, 0.672501, 0.047413},
+      {-0.011820, 0.042940, 0.968881}}},
+    {"tritanopia",
+     {{1.255528, -0.076749, -0.178779},
+      {-0.078411, 0.930809, 0.147602},
+      {0.004733, 0.691367, 0.303900}}},
+};
+
+double encoded(double value) {
+  value = std::clamp(value, 0.0, 1.0);
+  return 255 * (value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1 / 2.4) - 0.055);
+}
+
+/// Between two colours as they are seen, in components from 0 to 255.
+double distance(const Colour &a, const Colour &b, const Blindness &blindness) {
+  double sum = 0;
+  for (const auto &row : blindness.matrix) {
+    const auto seen = [&row](const Colour &colour) {
+      return encoded(row[0] * linear(colour.red) + row[1] * linear(colour.green) +
+                     row[2] * linear(colour.blue));
+    };
+    sum += std::pow(seen(a) - seen(b), 2);
+  }
+  return std::sqrt(sum);
+}
+
+TEST(PreviewColours, ColourBlindPeopleTellSidesAndLossApart) {
+  constexpr double kClearlyDifferent = 60;
+  for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
+    for (const Blindness &blindness : kBlindnesses) {
+      EXPECT_GE(distance(colours->front, colours->back, blindness), kClearlyDifferent)
+          << blindness.name;
+      EXPECT_GE(distance(colours->front, colours->lost, blindness), kClearlyDifferent)
+          << blindness.name;
+      EXPECT_GE(distance(colours->back, colours->lost, blindness), kClearlyDifferent)
+          << blindness.name;
+    }
+}
+
+} // namespace

@@ -1,0 +1,278 @@
+#import "PreviewView.h"
+
+#import "PreviewDrawing.h"
+#import "TextBridge.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <set>
+
+namespace {
+
+using namespace imageposition;
+
+Preview previewOf(Offset front, Offset back, Turning turning = Turning::LongEdge,
+                  bool bannerPages = false) {
+  PreviewRequest request;
+  request.page = {{595}, {842}, {{12}, {12}, {583}, {830}}, true, true};
+  request.front = front;
+  request.back = back;
+  request.turning = turning;
+  request.availability = {turning == Turning::OneSided, bannerPages};
+  return makePreview(request);
+}
+
+/// The view in a window, and what a person sees of it.
+class PreviewViewOnScreen : public testing::Test {
+protected:
+  void SetUp() override {
+    const NSSize size = [PreviewView preferredSize];
+    const NSRect frame = NSMakeRect(0, 0, size.width, size.height);
+    window_ = [[NSWindow alloc] initWithContentRect:frame
+                                          styleMask:NSBorderlessWindowMask
+                                            backing:NSBackingStoreBuffered
+                                              defer:NO];
+    [window_ setReleasedWhenClosed:NO];
+    view_ = [[PreviewView alloc] initWithFrame:frame];
+    [[window_ contentView] addSubview:view_];
+    [window_ orderFront:nil];
+  }
+
+  void TearDown() override {
+    [window_ close];
+    [bitmap_ release];
+    [view_ release];
+    [window_ release];
+  }
+
+  void show(const Preview &preview) {
+    [view_ showPreview:preview];
+    [window_ display];
+    // Of the content view, which is not flipped, so that the first row is the uppermost.
+    NSView *const content = [window_ contentView];
+    [content lockFocus];
+    [bitmap_ release];
+    bitmap_ = [[NSBitmapImageRep alloc] initWithFocusedViewRect:[content bounds]];
+    [content unlockFocus];
+    const NSSize size = [view_ bounds].size;
+    layout_ = layOutPreview(preview, {size.width, size.height, previewLineHeight()});
+  }
+
+  Colour at(int x, int y) const {
+    NSUInteger pixel[5] = {};
+    [bitmap_ getPixel:pixel atX:x y:y];
+    return {static_cast<int>(pixel[0]), static_cast<int>(pixel[1]), static_cast<int>(pixel[2])};
+  }
+
+  bool isNear(int x, int y, const Colour &colour) const {
+    constexpr int kTolerance = 40;
+    const Colour found = at(x, y);
+    return std::abs(found.red - colour.red) + std::abs(found.green - colour.green) +
+               std::abs(found.blue - colour.blue) <
+           kTolerance;
+  }
+
+  /// Within a pixel of there.
+  bool isAround(const Pixel &pixel, const Colour &colour) const {
+    for (int y = -1; y <= 1; y++)
+      for (int x = -1; x <= 1; x++)
+        if (isNear(static_cast<int>(pixel.x) + x, static_cast<int>(pixel.y) + y, colour))
+          return true;
+    return false;
+  }
+
+  int count(const PixelRectangle &area, const Colour &colour) const {
+    int found = 0;
+    for (int y = static_cast<int>(area.y); y < area.bottom(); y++)
+      for (int x = static_cast<int>(area.x); x < area.right(); x++)
+        found += isNear(x, y, colour);
+    return found;
+  }
+
+  /// Where the outline of the content crosses a line, from left to right.
+  std::vector<int> crossings(const PixelRectangle &page, double y, const Colour &colour) const {
+    std::vector<int> found;
+    for (int x = static_cast<int>(page.x); x < page.right() + 4; x++)
+      if (isNear(x, static_cast<int>(y), colour))
+        found.push_back(x);
+    return found;
+  }
+
+  /// How much of the area is drawn over, in the sum of what all pixels lack of white.
+  double ink(const PixelRectangle &area) const {
+    double sum = 0;
+    for (int y = static_cast<int>(area.y); y < area.bottom(); y++)
+      for (int x = static_cast<int>(area.x); x < area.right(); x++)
+        sum += 255 - at(x, y).red;
+    return sum;
+  }
+
+  PixelRectangle whole() const {
+    return {0, 0, [view_ bounds].size.width, [view_ bounds].size.height};
+  }
+
+  NSWindow *window_ = nil;
+  PreviewView *view_ = nil;
+  NSBitmapImageRep *bitmap_ = nil;
+  PreviewLayout layout_;
+  const PreviewColours &colours_ = kLightPreview;
+};
+
+TEST_F(PreviewViewOnScreen, TheFrontsContentIsWhereItsOffsetPutsIt) {
+  for (const int offset : {-200, -100, -60, 0, 50, 100}) {
+    SCOPED_TRACE(offset);
+    const Preview preview = previewOf({{offset}, {0}}, {});
+    show(preview);
+    const PixelRectangle content = layout_.onPage(PreviewLayout::Front, preview.front.content);
+    // Between the heading and the first paragraph there is nothing but the outline.
+    const double line = content.y + 0.135 * content.height;
+    const std::vector<int> found =
+        crossings(layout_.pages[PreviewLayout::Front].page, line, colours_.front);
+    std::vector<double> expected;
+    for (const double edge : {std::round(content.x), std::round(content.right()) - 1})
+      if (edge >= layout_.pages[PreviewLayout::Front].page.x)
+        expected.push_back(edge);
+    ASSERT_EQ(found.size(), expected.size());
+    for (std::size_t i = 0; i < found.size(); i++)
+      EXPECT_NEAR(found[i], expected[i], 1);
+  }
+}
+
+TEST_F(PreviewViewOnScreen, DownIsDown) {
+  const Preview preview = previewOf({{0}, {150}}, {});
+  show(preview);
+  const PixelRectangle content = layout_.onPage(PreviewLayout::Front, preview.front.content);
+  const double middle = content.x + 0.7 * content.width;
+  EXPECT_TRUE(isAround({middle, std::round(content.y)}, colours_.front));
+  const PixelRectangle imageable = layout_.onPage(PreviewLayout::Front, preview.front.imageable);
+  EXPECT_EQ(count({imageable.x, imageable.y + 1, imageable.width, 4}, colours_.front), 0);
+}
+
+TEST_F(PreviewViewOnScreen, WhatIsLostIsInTheWarningColourAndOnlyThere) {
+  show(previewOf({}, {}));
+  EXPECT_EQ(count(whole(), colours_.lost), 0);
+  const Preview preview = previewOf({{100}, {0}}, {});
+  show(preview);
+  const PixelRectangle page = layout_.pages[PreviewLayout::Front].page;
+  const PixelRectangle lost = layout_.onPage(PreviewLayout::Front, preview.front.lost.at(0));
+  EXPECT_GT(count(lost, colours_.lost), lost.width * lost.height / 8);
+  EXPECT_EQ(count({page.x, page.y, lost.x - 1 - page.x, page.height}, colours_.lost), 0);
+  EXPECT_EQ(count(layout_.pages[PreviewLayout::Back].page, colours_.lost), 0);
+}
+
+TEST_F(PreviewViewOnScreen, ALossOfATenthOfAMillimetreIsSeen) {
+  for (const Offset &offset :
+       {Offset{{1}, {0}}, Offset{{-1}, {0}}, Offset{{0}, {1}}, Offset{{0}, {-1}}}) {
+    show(previewOf(offset, {}));
+    PixelRectangle around = layout_.pages[PreviewLayout::Front].page;
+    around = {around.x - 4, around.y - 4, around.width + 8, around.height + 8};
+    EXPECT_GT(count(around, colours_.lost), 50);
+  }
+}
+
+TEST_F(PreviewViewOnScreen, AgainstTheLightTheBackIsMirrored) {
+  // The page's picture is at the lower left.
+  const struct {
+    Turning turning;
+    bool isRight;
+    bool isLow;
+  } rows[] = {{Turning::LongEdge, true, true}, {Turning::ShortEdge, false, false}};
+  for (const auto &row : rows) {
+    show(previewOf({}, {}, row.turning));
+    const auto inkAt = [this](PreviewLayout::Place place, bool right, bool low) {
+      PixelRectangle area = layout_.pages[place].page;
+      area.x += area.width * (right ? 0.6 : 0.1);
+      area.y += area.height * (low ? 0.7 : 0.1);
+      return ink({area.x, area.y, area.width * 0.3, area.height * 0.2});
+    };
+    const double most = inkAt(PreviewLayout::AgainstLight, row.isRight, row.isLow);
+    EXPECT_NEAR(most, inkAt(PreviewLayout::Back, false, true), most / 10);
+    for (const bool right : {false, true})
+      for (const bool low : {false, true})
+        if (right != row.isRight || low != row.isLow) {
+          EXPECT_LT(inkAt(PreviewLayout::AgainstLight, right, low), most * 0.8)
+              << right << " " << low;
+        }
+  }
+}
+
+TEST_F(PreviewViewOnScreen, TheMarksStandWhereTheOffsetsPutThem) {
+  const struct {
+    Offset front;
+    Offset back;
+    Turning turning;
+  } rows[] = {{{{5}, {-8}}, {{9}, {9}}, Turning::LongEdge},
+              {{{5}, {-8}}, {{9}, {9}}, Turning::ShortEdge},
+              {{{-200}, {100}}, {{150}, {-100}}, Turning::LongEdge},
+              {{{10}, {0}}, {{0}, {0}}, Turning::LongEdge}};
+  for (const auto &row : rows) {
+    const Preview preview = previewOf(row.front, row.back, row.turning);
+    show(preview);
+    const Pixel front = layout_.mark(preview.front.offset);
+    EXPECT_TRUE(isAround(front, colours_.front)) << front.x << " " << front.y;
+    EXPECT_TRUE(isAround({front.x + 11, front.y}, colours_.front)) << front.x << " " << front.y;
+    const Pixel back = layout_.mark(preview.backSeenThrough->offset);
+    for (const int side : {-1, 1}) {
+      EXPECT_TRUE(isAround({back.x + side * 4, back.y - 4}, colours_.back)) << back.x;
+      EXPECT_TRUE(isAround({back.x + side * 4, back.y + 4}, colours_.back)) << back.x;
+    }
+  }
+}
+
+TEST_F(PreviewViewOnScreen, EachTenthOfAMillimetreMovesAMarkUpToOneMillimetre) {
+  std::set<int> places;
+  for (int offset = 0; offset <= 10; offset++) {
+    show(previewOf({{offset}, {0}}, {{0}, {10}}));
+    const Pixel mark = layout_.mark({{offset}, {0}});
+    EXPECT_TRUE(isAround({mark.x, mark.y - 11}, colours_.front));
+    places.insert(static_cast<int>(mark.x));
+  }
+  EXPECT_EQ(places.size(), 11u);
+}
+
+TEST_F(PreviewViewOnScreen, WithoutASecondSideThereIsNoBackAndNoGrid) {
+  show(previewOf({{10}, {10}}, {}, Turning::OneSided));
+  EXPECT_EQ(count(whole(), colours_.back), 0);
+  EXPECT_EQ(count(layout_.grid, colours_.front), 0);
+  EXPECT_EQ(count(layout_.grid, colours_.gridLine), 0);
+  EXPECT_GT(count(layout_.grid, colours_.text), 20) << "does not say why";
+}
+
+TEST_F(PreviewViewOnScreen, IsDrawnAnewOnlyWhenItDiffers) {
+  show(previewOf({{1}, {0}}, {}));
+  EXPECT_FALSE([view_ needsDisplay]);
+  [view_ showPreview:previewOf({{1}, {0}}, {})];
+  EXPECT_FALSE([view_ needsDisplay]);
+  [view_ showPreview:previewOf({{2}, {0}}, {})];
+  EXPECT_TRUE([view_ needsDisplay]);
+}
+
+TEST_F(PreviewViewOnScreen, IsEmptyUntilThereIsSomethingToShow) {
+  [window_ display];
+  EXPECT_EQ(toText([view_ accessibilityLabel]), "");
+}
+
+TEST_F(PreviewViewOnScreen, SaysWhatItShows) {
+  show(previewOf({{1}, {0}}, {{1}, {0}}, Turning::ShortEdge));
+  const std::string text = toText([view_ accessibilityLabel]);
+  EXPECT_EQ(text.rfind("Each side is moved 0.1 mm to the right as its reader sees it. Held", 0), 0u)
+      << text;
+  EXPECT_EQ(toText([view_ view:view_ stringForToolTip:0 point:NSZeroPoint userData:nullptr]), text);
+}
+
+TEST_F(PreviewViewOnScreen, DrawsInAnySize) {
+  for (const double side : {0.0, 1.0, 30.0, 90.0, 700.0}) {
+    [view_ setFrameSize:NSMakeSize(side, side / 2)];
+    show(previewOf({{100}, {-100}}, {{3}, {4}}));
+  }
+}
+
+TEST(PreviewArrows, PointWhereTheOffsetGoes) {
+  EXPECT_EQ(arrowText({}), "");
+  EXPECT_EQ(arrowText({{25}, {0}}), "→ 2.5 mm");
+  EXPECT_EQ(arrowText({{-25}, {1}}), "← 2.5  ↓ 0.1 mm");
+  EXPECT_EQ(arrowText({{0}, {-10}}), "↑ 1 mm");
+}
+
+} // namespace

@@ -1,0 +1,160 @@
+// The small windows as they are laid out in the language of this process: no text clipped, nothing
+// overlapping.
+#import "HelpPanel.h"
+#import "KeyWindow.h"
+#import "Labels.h"
+#import "NamePanel.h"
+#import "PasswordPanel.h"
+#import "Theme.h"
+#import "ValuePanel.h"
+
+#include "Language.hpp"
+#include "PrinterTexts.hpp"
+#include "TemporaryFolder.hpp"
+#import "TextBridge.h"
+#include "WindowTexts.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using namespace imageposition;
+
+/// Answers every modal window after a look at it, the one after the `confirmed` first ones with no.
+@interface ModalVisitor : NSObject {
+@public
+  int confirmed;
+  int visited;
+  NSInteger last; ///< The number of the window that was looked at.
+}
+- (void)visit:(NSTimer *)timer;
+@end
+
+namespace {
+
+constexpr NSTimeInterval kInterval = 0.01;
+
+bool isEditable(NSView *view) {
+  return [view isKindOfClass:[NSTextField class]] && [(NSTextField *)view isEditable];
+}
+
+/// In one line, or in as many as the field is high enough for.
+void expectWholeText(NSControl *control) {
+  const NSSize size = [control frame].size;
+  if ([[control cell] cellSize].width <= size.width + 0.5)
+    return;
+  EXPECT_TRUE([control isKindOfClass:[NSTextField class]]) << toText([control stringValue]);
+  EXPECT_LE(paragraphHeight([control stringValue], [control font], size.width), size.height + 0.5)
+      << toText([control stringValue]);
+}
+
+void expectLaidOut(NSWindow *window) {
+  NSView *const content = [window contentView];
+  NSArray *const placed = [content subviews];
+  for (NSUInteger i = 0; i < [placed count]; i++) {
+    NSView *const one = [placed objectAtIndex:i];
+    EXPECT_TRUE(NSContainsRect([content bounds], [one frame])) << toText([one description]);
+    if ([one isKindOfClass:[NSControl class]] && !isEditable(one))
+      expectWholeText((NSControl *)one);
+    for (NSUInteger j = i + 1; j < [placed count]; j++)
+      EXPECT_FALSE(NSIntersectsRect([one frame], [[placed objectAtIndex:j] frame]))
+          << toText([one description]) << " " << toText([[placed objectAtIndex:j] description]);
+  }
+}
+
+void answer(NSInteger code, NSWindow *window) {
+  [NSApp stopModalWithCode:code];
+  wakeModalLoop(window);
+}
+
+class PanelLayout : public testing::Test {
+protected:
+  static void SetUpTestSuite() { installTheme(Appearance::Light); }
+
+  void SetUp() override {
+    const auto wanted = wantedLanguages(std::getenv);
+    speak(chosenLanguage(wanted, IMAGEPOSITION_CATALOGUES), IMAGEPOSITION_CATALOGUES);
+    parent_ = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, 800, 600)
+                                          styleMask:NSTitledWindowMask
+                                            backing:NSBackingStoreBuffered
+                                              defer:NO];
+    [parent_ setReleasedWhenClosed:NO];
+    [parent_ orderFront:nil];
+    visitor_ = [[ModalVisitor alloc] init];
+    timer_ = [NSTimer timerWithTimeInterval:kInterval
+                                     target:visitor_
+                                   selector:@selector(visit:)
+                                   userInfo:nil
+                                    repeats:YES];
+    [[NSRunLoop currentRunLoop] addTimer:timer_ forMode:NSModalPanelRunLoopMode];
+  }
+
+  void TearDown() override {
+    [timer_ invalidate];
+    [visitor_ release];
+    [parent_ close];
+    [parent_ release];
+  }
+
+  void confirmFirst() { visitor_->confirmed = 1; }
+  int visited() const { return visitor_->visited; }
+
+  NSWindow *parent_ = nil;
+  ModalVisitor *visitor_ = nil;
+  NSTimer *timer_ = nil; // the run loop's
+};
+
+TEST_F(PanelLayout, TheHelpHasRoomForItsTexts) {
+  showHelp(parent_);
+  EXPECT_EQ(visited(), 1);
+}
+
+TEST_F(PanelLayout, TheQuestionForANameHasRoomForItsTexts) {
+  askForName(parent_, messages::kPresetNameQuestion, "draft");
+  EXPECT_EQ(visited(), 1);
+}
+
+TEST_F(PanelLayout, TheQuestionForAPasswordHasRoomForItsTexts) {
+  askForPassword(parent_, "office", {"somebody", false});
+  askForPassword(parent_, "office", {"somebody", false, "print.example.com:631"});
+  askForPassword(parent_, "the printer on the second floor beside the stairs", {"somebody", true});
+  EXPECT_EQ(visited(), 3);
+}
+
+TEST_F(PanelLayout, TheQuestionForAValueHasRoomForItsTexts) {
+  CustomParameter side{"Width", messages::kPageWidth, CustomParameter::Kind::Length, 200, 40000,
+                       false};
+  CustomParameter text{"Words", "Words of the Watermark", CustomParameter::Kind::Text, 1, 100,
+                       true};
+  CustomParameter secret = text;
+  secret.kind = CustomParameter::Kind::Password;
+  for (const CustomOption &option : {CustomOption{"PageSize", true, {side, side}},
+                                     CustomOption{"Watermark", false, {side, text, secret}},
+                                     CustomOption{"Secret", false, {text}}})
+    askForValue(parent_, "Watermark", option, "", LengthUnit::Inch);
+  EXPECT_EQ(visited(), 3);
+}
+
+TEST_F(PanelLayout, TheQuestionsForATicketsFileHaveRoomForTheirTexts) {
+  test::TemporaryFolder folder;
+  folder.write("report.json", "mine");
+  confirmFirst();
+  askForTicket(parent_, folder.path("report.json"));
+  EXPECT_EQ(visited(), 2); // the second asks whether to replace it
+}
+
+} // namespace
+
+@implementation ModalVisitor
+
+- (void)visit:(NSTimer *)timer {
+  (void)timer;
+  NSWindow *const window = [NSApp modalWindow];
+  if (window == nil || [window windowNumber] == last)
+    return; // it has been answered, and is about to go
+  last = [window windowNumber];
+  expectLaidOut(window);
+  answer(visited++ < confirmed ? NSOKButton : NSCancelButton, window);
+}
+
+@end

@@ -1,0 +1,137 @@
+// Presets, as a person keeps them with the window.
+#include "WholeJob.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+
+namespace {
+
+using namespace imageposition::test;
+using testing::HasSubstr;
+using testing::Not;
+
+class PresetWindow : public WholeJob {
+protected:
+  void SetUp() override {
+    WholeJob::SetUp();
+    std::filesystem::remove(lpoptions());
+    std::filesystem::remove(cups().root() + "/lpoptions");
+  }
+
+  static std::string lpoptions() { return std::string(getenv("HOME")) + "/.cups/lpoptions"; }
+
+  static bool showsPreset(const PrintWindow &window, const std::string &name) {
+    return window.becomes([&](const Screen &shown) {
+      const Control *const preset = shown.beside("Preset:", "popup");
+      return preset != nullptr && preset->text == name;
+    });
+  }
+
+  static void answerName(PrintWindow &window, const std::string &name) {
+    if (!window.becomes([&](const Screen &) { return window.hasKeyboard("Name of the preset:"); }))
+      throw std::runtime_error("no question for a name");
+    window.press("ctrl+a");
+    window.write(name);
+    window.click("OK");
+    EXPECT_TRUE(showsPreset(window, name));
+  }
+
+  static void save(PrintWindow &window, const std::string &name) {
+    window.choose("Preset:", "Save as preset");
+    answerName(window, name);
+  }
+
+  static void cancel(PrintWindow &window) {
+    window.click("Cancel");
+    EXPECT_EQ(window.ended().status, 1);
+  }
+};
+
+TEST_F(PresetWindow, TwoDialogsSaveForTheSamePrinterAndLoseNothing) {
+  PrintWindow first(onQueue("office"));
+  first.moveTo(0, 20);
+  PrintWindow second(onQueue("office"));
+  second.moveTo(1120, 20);
+  first.enter(kLeftRight, "-3");
+  second.enter(kLeftRight, "7");
+  save(first, "mine");
+  save(second, "yours");
+  cancel(first);
+  cancel(second);
+  const std::string file = contentOf(lpoptions());
+  EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 2) << file;
+  EXPECT_THAT(file, HasSubstr("Dest office/mine "));
+  EXPECT_THAT(file, HasSubstr("LeftRightMargin=-3"));
+  EXPECT_THAT(file, HasSubstr("Dest office/yours "));
+  EXPECT_THAT(file, HasSubstr("LeftRightMargin=7"));
+}
+
+TEST_F(PresetWindow, APresetIsRenamedAndDeleted) {
+  PrintWindow window(onQueue("office"));
+  window.enter(kTopBottom, "-7");
+  save(window, "draft");
+  window.choose("Preset:", "Rename this preset");
+  answerName(window, "final");
+  EXPECT_THAT(contentOf(lpoptions()), HasSubstr("Dest office/final "));
+  EXPECT_THAT(contentOf(lpoptions()), HasSubstr("TopBottomMargin=-7"));
+  EXPECT_THAT(contentOf(lpoptions()), Not(HasSubstr("draft")));
+  window.choose("Preset:", "Delete this preset");
+  EXPECT_TRUE(showsPreset(window, "None"));
+  EXPECT_THAT(contentOf(lpoptions()), Not(HasSubstr("final")));
+  EXPECT_EQ(window.field(kTopBottom), "-7"); // what it had set stays in the job
+  cancel(window);
+}
+
+TEST_F(PresetWindow, OneOfAnotherPrinterLoadsWhatFitsAndSaysWhatDoesNot) {
+  addQueue("small", "duplex-shift-narrow.ppd");
+  {
+    PrintWindow window(onQueue("office"));
+    window.enter(kLeftRight, "80");
+    window.enter(kTopBottom, "-7");
+    save(window, "far");
+    cancel(window);
+  }
+  PrintWindow window(onQueue("small"));
+  window.choose("Preset:", "office/far");
+  EXPECT_TRUE(window.says("80 is not between -50 and 50"));
+  EXPECT_TRUE(window.becomes([&](const Screen &) { return window.field(kTopBottom) == "-7"; }));
+  EXPECT_EQ(window.field(kLeftRight), "0");
+  window.click("Print");
+  expectValues(printed(jobOf(window.ended())), {false, {0, -7, 0, 0}});
+  command({"lpadmin", "-x", "small"});
+}
+
+/// Its panel writes down what it is asked.
+class PresetOfAPanel : public PresetWindow {
+protected:
+  /// How often the panel was asked for an operation.
+  long asked(const std::string &operation) const {
+    const std::string text = "\n" + contentOf(journal);
+    long count = 0;
+    for (std::size_t at = 0; (at = text.find("\n" + operation + "\n", at)) != std::string::npos;)
+      count++, at++;
+    return count;
+  }
+
+  const std::string journal = folder.path("journal");
+  const Words words{"-d", "office", "--plugin", FIXTURE_PLUGIN, document()};
+  const Words environment{"FIXTURE_JOURNAL=" + journal};
+};
+
+TEST_F(PresetOfAPanel, ItIsSavedWithTheJobsPresetAndRestoredFromIt) {
+  PrintWindow window(words, environment);
+  const long saved = asked("saveValuesAndReturnError:");
+  EXPECT_EQ(asked("restoreValuesAndReturnError:"), 0);
+  save(window, "draft");
+  EXPECT_GT(asked("saveValuesAndReturnError:"), saved);
+  window.choose("Preset:", "None");
+  EXPECT_TRUE(showsPreset(window, "None"));
+  EXPECT_EQ(asked("restoreValuesAndReturnError:"), 0);
+  window.choose("Preset:", "draft");
+  EXPECT_TRUE(showsPreset(window, "draft"));
+  EXPECT_TRUE(comesTrue([&] { return asked("restoreValuesAndReturnError:") == 1; }));
+  cancel(window);
+}
+
+} // namespace

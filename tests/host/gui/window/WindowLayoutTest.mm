@@ -1,0 +1,160 @@
+// The window as it is laid out in the language of this process: no text clipped, nothing
+// overlapping.
+#import "DialogViews.h"
+
+#include "JobTexts.hpp"
+#include "Language.hpp"
+#include "PictureTexts.hpp"
+#import "PreviewDrawing.h"
+#import "TextBridge.h"
+#include "WindowTexts.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <numeric>
+
+using namespace imageposition;
+
+namespace {
+
+constexpr CGFloat kArrowsOfPopUp = 30;
+
+const NSSize kWide = {2000, 1200};
+const NSSize kLargeTextOnSmallScreen = {848, 656}; // points, of 1280 by 1024 pixels at 1.5
+const NSSize kSmallScreen = {1016, 728};
+
+class WindowLayout : public testing::TestWithParam<NSSize> {
+protected:
+  void SetUp() override {
+    const auto wanted = wantedLanguages(std::getenv);
+    speak(chosenLanguage(wanted, IMAGEPOSITION_CATALOGUES), IMAGEPOSITION_CATALOGUES);
+    views_ = buildDialog(NSMakeSize(560, 247), GetParam(), "report.pdf", DialogActions{});
+    fill(views_.printers, {messages::kSaveAsTicket});
+    fill(views_.presets, {messages::kNoPresetChosen, messages::kSavePreset, messages::kRenamePreset,
+                          messages::kDeletePreset});
+    fill(views_.pages,
+         {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange});
+    fill(views_.twoSided, {messages::kNotOffered});
+    fill(views_.panes, {messages::kOptionsPane, messages::kSummaryTitle});
+    [views_.resolve setHidden:NO];
+  }
+
+  void TearDown() override {
+    [views_.window close];
+    [views_.window release];
+  }
+
+  static void fill(NSPopUpButton *popUp, const std::vector<Text> &titles) {
+    for (const Text &title : titles)
+      [[popUp menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
+  }
+
+  NSArray *placed() const { return [[views_.window contentView] subviews]; }
+
+  DialogViews views_{};
+};
+
+TEST_P(WindowLayout, ClipsNoTitle) {
+  for (NSUInteger i = 0; i < [placed() count]; i++) {
+    NSView *const view = [placed() objectAtIndex:i];
+    // A stepper has no title, and measuring one destroys the stack of 32-bit systems.
+    if (![view isKindOfClass:[NSControl class]] || [view isKindOfClass:[NSPopUpButton class]] ||
+        [view isKindOfClass:[NSStepper class]] || view == views_.hint)
+      continue;
+    NSControl *const control = (NSControl *)view;
+    EXPECT_LE([[control cell] cellSize].width, NSWidth([control frame]) + 0.5)
+        << toText([control stringValue]);
+  }
+}
+
+TEST_P(WindowLayout, ClipsNoChoiceOfItsPopUps) {
+  NSFont *const font = [views_.pages font];
+  for (NSPopUpButton *const popUp :
+       {views_.printers, views_.presets, views_.pages, views_.twoSided, views_.panes})
+    for (NSInteger i = 0; i < [popUp numberOfItems]; i++) {
+      const std::string title = toText([popUp itemTitleAtIndex:i]);
+      EXPECT_LE(widthOf(title, font) + kArrowsOfPopUp, NSWidth([popUp frame])) << title;
+    }
+}
+
+TEST_P(WindowLayout, PutsNothingOnTopOfAnother) {
+  for (NSUInteger i = 0; i < [placed() count]; i++) {
+    NSView *const one = [placed() objectAtIndex:i];
+    EXPECT_TRUE(NSContainsRect([[views_.window contentView] bounds], [one frame]))
+        << toText([one description]);
+    for (NSUInteger j = i + 1; j < [placed() count]; j++) {
+      NSView *const other = [placed() objectAtIndex:j];
+      EXPECT_FALSE(NSIntersectsRect([one frame], [other frame]))
+          << toText([one description]) << " " << toText([other description]);
+    }
+  }
+}
+
+TEST_P(WindowLayout, HasRoomForTheWordsOfThePicture) {
+  const NSSize size = [PreviewView preferredSize];
+  PreviewRequest request;
+  request.page = {{595}, {842}, {{12}, {12}, {583}, {830}}, true, true};
+  request.turning = Turning::LongEdge;
+  const PreviewLayout layout =
+      layOutPreview(makePreview(request), {size.width, size.height, previewLineHeight()});
+  const PagePlace &place = layout.pages[0];
+  for (const Text &title :
+       {messages::kPreviewFront, messages::kPreviewBack, messages::kPreviewAgainstLight})
+    EXPECT_LE(widthOf(title, previewBoldFont()), place.title.width) << title.str();
+  for (const std::string &caption :
+       {messages::kPreviewNotShifted.str(), messages::kPreviewLongEdge.str(),
+        messages::kPreviewShortEdge.str(), arrowText({{-77}, {-77}})})
+    EXPECT_LE(widthOf(caption, previewFont()), place.caption.width) << caption;
+
+  const double gap = layout.legend.height;
+  const auto together = [gap](std::initializer_list<double> widths) {
+    return std::accumulate(widths.begin(), widths.end(), gap / 2);
+  };
+  EXPECT_LE(together({gap + 4, widthOf(messages::kPreviewPrintable, previewFont()), gap, gap + 4,
+                      widthOf(messages::kPreviewLost, previewFont()),
+                      widthOf(messages::kPreviewToScale, previewFont())}),
+            layout.legend.width);
+  EXPECT_LE(together({widthOf(messages::kPreviewEnlarged, previewBoldFont()),
+                      widthOf(messages::previewSquare("0.2 mm"), previewFont())}),
+            layout.enlargedTitle.width);
+  for (const std::string &words : {messages::kPreviewMarksCoincide.str(),
+                                   messages::previewMarksApart(arrowText({{-99}, {-99}}))})
+    EXPECT_LE(widthOf(words, previewFont()), layout.relation.width) << words;
+}
+
+TEST_P(WindowLayout, IsNoLargerThanItsRoom) {
+  const NSSize size = [[views_.window contentView] frame].size;
+  EXPECT_LE(size.width, GetParam().width);
+  EXPECT_LE(size.height, GetParam().height);
+}
+
+TEST_P(WindowLayout, LeavesMuchOfAPanelInSight) {
+  EXPECT_GE(NSHeight([views_.paneArea frame]), 160);
+}
+
+TEST_P(WindowLayout, ScrollsAPaneThatIsHigherThanItsAreaToTheControlWithTheFocus) {
+  NSView *const pane = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, 500, 800)] autorelease];
+  NSTextField *const lowest =
+      [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 10, 80, 22)] autorelease];
+  NSTextField *const highest =
+      [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 768, 80, 22)] autorelease];
+  [pane addSubview:lowest];
+  [pane addSubview:highest];
+  showInPaneArea(views_, pane);
+  for (int twice = 0; twice < 2; twice++, showInPaneArea(views_, pane)) {
+    EXPECT_EQ([[views_.paneArea subviews] count], 1u);
+    [views_.window makeFirstResponder:highest];
+    EXPECT_TRUE(NSContainsRect([pane visibleRect], [highest frame]));
+    EXPECT_FALSE(NSIntersectsRect([pane visibleRect], [lowest frame]));
+    [views_.window makeFirstResponder:lowest];
+    EXPECT_TRUE(NSContainsRect([pane visibleRect], [lowest frame]));
+  }
+  EXPECT_EQ([views_.panes nextKeyView], highest);
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Wide, WindowLayout, testing::Values(kWide));
+INSTANTIATE_TEST_SUITE_P(LargeText, WindowLayout, testing::Values(kLargeTextOnSmallScreen));
+INSTANTIATE_TEST_SUITE_P(SmallScreen, WindowLayout, testing::Values(kSmallScreen));

@@ -1,0 +1,168 @@
+// What is installed, and that it works from where it was put.
+#include "OtherUsersFixture.hpp"
+#include "ProcessRun.hpp"
+#include "TemporaryFolder.hpp"
+
+#include <gmock/gmock.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace imageposition::test;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+/// `before` is what runs the command.
+void install(const std::string &prefix, std::vector<std::string> before = {}) {
+  before.insert(before.end(), {CMAKE, "--install", IMAGEPOSITION_BINARY, "--prefix", prefix});
+  const auto result = runProcess(before);
+  ASSERT_EQ(result.status, 0) << testing::PrintToString(result);
+}
+
+class Install : public testing::Test {
+protected:
+  static void SetUpTestSuite() {
+    folder = std::make_unique<TemporaryFolder>();
+    install(folder->path("first"));
+    // Nothing of it may know where it stood first.
+    std::filesystem::rename(folder->path("first"), prefix());
+  }
+  static void TearDownTestSuite() { folder.reset(); }
+
+  static std::string prefix() { return folder->path("moved"); }
+  static std::string program() { return prefix() + "/bin/print-dialog"; }
+  /// The only folder of that name, wherever this system has its libraries.
+  static std::string find(const std::string &name) {
+    for (const auto &entry : std::filesystem::recursive_directory_iterator(prefix()))
+      if (entry.path().filename() == name)
+        return entry.path().string();
+    return {};
+  }
+
+  static std::unique_ptr<TemporaryFolder> folder;
+};
+
+std::unique_ptr<TemporaryFolder> Install::folder;
+
+TEST_F(Install, PutsEverythingWhereOthersLookForIt) {
+  for (const char *name :
+       {"bin/print-dialog", "share/man/man1/print-dialog.1",
+        "share/applications/print-dialog.desktop",
+        "share/icons/hicolor/scalable/apps/print-dialog.svg",
+        "share/bash-completion/completions/print-dialog", "share/zsh/site-functions/_print-dialog",
+        "share/locale/de/LC_MESSAGES/print-dialog.mo"})
+    EXPECT_TRUE(std::filesystem::is_regular_file(prefix() + "/" + name)) << name;
+  EXPECT_THAT(find("MorvaADPImagePosition.plugin"), HasSubstr("/print-dialog/plugins/"));
+}
+
+TEST_F(Install, TheProgramRuns) {
+  const auto result = runProcess({program(), "--version"});
+  EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
+  EXPECT_THAT(result.output, HasSubstr("print-dialog "));
+}
+
+TEST_F(Install, ThePlugInIsFoundWithTheProgram) {
+  const std::vector<std::string> line{
+      program(), "--batch",     "--ppd",    IMAGEPOSITION_SAMPLES "/duplex-shift.ppd",
+      "--set",   "FrontLRM=-3", "--summary"};
+  const auto result = runProcess(line);
+  EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
+  EXPECT_THAT(result.output, HasSubstr("LeftRightMargin=-3\n"));
+  EXPECT_THAT(result.output, HasSubstr("Left-right offset (\xC3\x97 0.1 mm): -3\n"));
+  // It is the installed one, and no other that this machine may have.
+  const std::string plugin = find("MorvaADPImagePosition.plugin");
+  std::filesystem::rename(plugin, plugin + ".away");
+  std::filesystem::create_directory(plugin);
+  const auto emptied = runProcess(line);
+  std::filesystem::remove(plugin);
+  std::filesystem::rename(plugin + ".away", plugin);
+  EXPECT_THAT(emptied.errors, HasSubstr(std::filesystem::canonical(plugin).string()));
+}
+
+TEST_F(Install, TheCataloguesAreFoundWithTheProgram) {
+  const std::string source = folder->write(
+      "de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+               "msgid \"--set, --back and --summary need --batch.\"\nmsgstr \"Nur so.\"\n");
+  const std::string catalogue = prefix() + "/share/locale/de/LC_MESSAGES/print-dialog.mo";
+  ASSERT_EQ(runProcess({"msgfmt", "-o", catalogue, source}).status, 0);
+  const auto result = runProcess({program(), "--ppd", "a.ppd", "--summary"},
+                                 {"LC_ALL", "LANGUAGE=de", "LANG=C.UTF-8"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.errors, HasSubstr("Nur so."));
+}
+
+TEST_F(Install, ALinkToTheProgramServesAsWell) {
+  const std::string link = folder->path("link");
+  std::filesystem::create_symlink(program(), link);
+  const auto result = runProcess(
+      {link, "--batch", "--ppd", IMAGEPOSITION_SAMPLES "/duplex-shift.ppd", "--set", "FrontLRM=1"});
+  EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
+}
+
+/// The program in a folder where everybody may have files, as in /tmp.
+class InstallAmongOthers : public testing::Test {
+protected:
+  InstallAmongOthers() {
+    install(folder.path());
+    chmod(folder.path().c_str(), 0755);
+    chmod(place.c_str(), 01777);
+  }
+
+  /// Makes what another user could have made.
+  static void giveAway(const std::string &path) {
+    const int failed = geteuid() == 0 ? lchown(path.c_str(), kAnotherUser, kAnotherUser)
+                                      : chmod(path.c_str(), 0777);
+    ASSERT_EQ(failed, 0);
+  }
+
+  const TemporaryFolder folder;
+  const std::string place = folder.path("bin");
+  const std::string program = place + "/print-dialog";
+};
+
+TEST_F(InstallAmongOthers, TheProgramTakesNoLibraryFromBesideIt) {
+  const std::string journal = folder.path("journal");
+  for (const char *name : {"libGL.so.1", "libcups.so.2", "libPrintCore.so"}) {
+    buildLibrary(place + "/" + name, name, {std::string("-Wl,-soname,") + name});
+    giveAway(place + "/" + name);
+    const auto result = runProcess({program, "--version"}, {"FIXTURE_JOURNAL=" + journal});
+    EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
+    EXPECT_THAT(contentOf(journal), IsEmpty());
+    std::filesystem::remove(place + "/" + name);
+  }
+}
+
+TEST_F(InstallAmongOthers, TheProgramTakesNoWordsFromBesideIt) {
+  const std::string source = folder.write(
+      "de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+               "msgid \"--set, --back and --summary need --batch.\"\nmsgstr \"Gefälscht.\"\n");
+  std::filesystem::create_directories(place + "/locale/de/LC_MESSAGES");
+  const std::string catalogue = place + "/locale/de/LC_MESSAGES/print-dialog.mo";
+  ASSERT_EQ(runProcess({"msgfmt", "-o", catalogue, source}).status, 0);
+  giveAway(place + "/locale");
+  const auto result = runProcess({program, "--ppd", "a.ppd", "--summary"},
+                                 {"LC_ALL", "LANGUAGE=de", "LANG=C.UTF-8"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.errors, Not(HasSubstr("Gefälscht.")));
+}
+
+class InstallUnder : public testing::TestWithParam<const char *> {};
+
+TEST_P(InstallUnder, AnOpenMaskOnlyTheOwnerMayWriteToWhatIsInstalled) {
+  const TemporaryFolder folder;
+  const std::string prefix = folder.path("prefix");
+  install(prefix, {"sh", "-c", "umask \"$0\" && exec \"$@\"", GetParam()});
+  for (const auto &entry : std::filesystem::recursive_directory_iterator(prefix)) {
+    const bool runs = entry.is_directory() || entry.path().filename() == "print-dialog";
+    const auto mode = static_cast<unsigned>(entry.status().permissions());
+    const bool isCompletion = entry.path().parent_path().filename() == "completions";
+    EXPECT_EQ(mode, runs && !isCompletion ? 0755U : 0644U) << entry.path();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Masks, InstallUnder, testing::Values("000", "002"));
+
+} // namespace

@@ -1,0 +1,199 @@
+#include "PrintWindow.hpp"
+
+#include "FocusedWindow.hpp"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+namespace imageposition::test {
+
+namespace {
+
+constexpr std::chrono::seconds kPatience{30};
+
+bool comesTrueInTime(const std::function<bool()> &condition) {
+  const auto deadline = std::chrono::steady_clock::now() + kPatience;
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > deadline)
+      return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return true;
+}
+
+/// What a person does next makes no sense then.
+[[noreturn]] void giveUp(const std::string &missing, const Screen &shown) {
+  std::string text = missing + ", in \"" + shown.keyWindow + "\" at " + std::to_string(shown.x) +
+                     ", " + std::to_string(shown.y) + ":";
+  for (const Control &control : shown.controls)
+    text += "\n" + control.kind + (control.isEnabled ? " " : " (off) ") + control.text;
+  throw std::runtime_error(text);
+}
+
+void xdotool(std::vector<std::string> words) {
+  words.insert(words.begin(), "xdotool");
+  const ProcessResult result = runProcess(words);
+  if (result.status != 0)
+    throw std::runtime_error(result.errors);
+}
+
+std::vector<std::string> commandFor(const std::vector<std::string> &words) {
+  std::vector<std::string> all{PRINT_DIALOG};
+  all.insert(all.end(), words.begin(), words.end());
+  return all;
+}
+
+std::vector<std::string> environmentFor(std::vector<std::string> environment,
+                                        const std::string &file) {
+  environment.push_back("OBSERVER_FILE=" + file);
+  environment.push_back("PRINT_DIALOG_APPEARANCE=light");
+  return environment;
+}
+
+bool startsWith(const std::string &text, const std::string &start) {
+  return text.compare(0, start.size(), start) == 0;
+}
+
+} // namespace
+
+PrintWindow::PrintWindow(const std::vector<std::string> &words,
+                         const std::vector<std::string> &environment)
+    : defaults_("GSAppKitUserBundles = (\"" OBSERVER_BUNDLE "\");"),
+      process_(commandFor(words), environmentFor(environment, file())) {
+  if (!comesTrueInTime([&] { return process_.hasEnded() || hasKeyboard("Print"); }))
+    giveUp("no keyboard", screen());
+  if (process_.hasEnded())
+    throw std::runtime_error(testing::PrintToString(process_.wait()));
+}
+
+bool PrintWindow::becomes(const std::function<bool(const Screen &)> &condition) const {
+  return comesTrueInTime([&] { return condition(screen()); });
+}
+
+bool PrintWindow::says(const std::string &text) const {
+  return becomes([&](const Screen &shown) { return shown.says(text); });
+}
+
+std::string PrintWindow::field(const std::string &label) const {
+  const Screen shown = screen();
+  const Control *const found = shown.beside(label, "field");
+  return found != nullptr ? found->text : "?";
+}
+
+bool PrintWindow::hasKeyboard(const std::string &title) const {
+  const Screen shown = screen();
+  const FocusedWindow focused = FocusedWindow::find();
+  return shown.keyWindow == title && focused.title == title && focused.x == shown.x &&
+         focused.y == shown.y;
+}
+
+void PrintWindow::moveTo(int x, int y) {
+  const auto leftEdge = [](const Screen &shown) {
+    const Control *const picture = shown.find("picture", "");
+    return picture != nullptr ? picture->x : 0;
+  };
+  const int before = leftEdge(screen());
+  xdotool({"getactivewindow", "windowmove", std::to_string(x), std::to_string(y)});
+  if (!becomes([&](const Screen &shown) { return leftEdge(shown) != before; }))
+    giveUp("the window stays where it is", screen());
+}
+
+void PrintWindow::press(const std::string &key) { xdotool({"key", key}); }
+
+void PrintWindow::write(const std::string &text) { xdotool({"type", "--", text}); }
+
+Control PrintWindow::awaited(const std::string &what,
+                             const std::function<const Control *(const Screen &)> &find) const {
+  Control result;
+  if (!becomes([&](const Screen &shown) {
+        const Control *const found = find(shown);
+        if (found != nullptr)
+          result = *found;
+        return found != nullptr && found->isEnabled;
+      }))
+    giveUp("no " + what, screen());
+  return result;
+}
+
+void PrintWindow::clickAt(int x, int y, const std::function<void()> &before) {
+  xdotool({"mousemove", std::to_string(x), std::to_string(y), "mousedown", "1"});
+  // A button that stayed down would fail every test after this one.
+  try {
+    if (!becomes([](const Screen &shown) { return shown.isTracking; }))
+      giveUp("nothing to click on", screen());
+    if (before)
+      before();
+  } catch (...) {
+    xdotool({"mouseup", "1"});
+    throw;
+  }
+  xdotool({"mouseup", "1"});
+  if (!comesTrueInTime([&] { return process_.hasEnded() || !screen().isTracking; }))
+    giveUp("the button is not let go", screen());
+}
+
+void PrintWindow::click(const std::string &button) {
+  const Control found =
+      awaited(button, [&](const Screen &shown) { return shown.find("button", button); });
+  clickAt(found.middleX(), found.middleY());
+}
+
+void PrintWindow::choose(const std::string &label, const std::string &item) {
+  const Control popUp =
+      awaited(label, [&](const Screen &shown) { return shown.beside(label, "popup"); });
+  const auto find = [&](const Screen &shown) -> const Control * {
+    for (const Control &control : shown.controls)
+      if (control.kind == "item" && startsWith(control.text, item))
+        return &control;
+    return nullptr;
+  };
+  clickAt(popUp.middleX(), popUp.middleY(), [&] {
+    const Control chosen = awaited(item, find);
+    xdotool({"mousemove", std::to_string(chosen.middleX()), std::to_string(chosen.middleY())});
+    awaited(item + " under the pointer", [&](const Screen &shown) {
+      const Control *const found = find(shown);
+      return found != nullptr && found->isOn ? found : nullptr;
+    });
+  });
+}
+
+void PrintWindow::enter(const std::string &label, const std::string &text) {
+  const Control found =
+      awaited(label, [&](const Screen &shown) { return shown.beside(label, "field"); });
+  clickAt(found.middleX(), found.middleY());
+  press("ctrl+a");
+  write(text);
+  if (!becomes([&](const Screen &) { return field(label) == text; }))
+    giveUp(text + " is not in " + label, screen());
+  press("Tab");
+}
+
+void PrintWindow::step(const std::string &label, bool up) {
+  const Control found =
+      awaited(label, [&](const Screen &shown) { return shown.beside(label, "stepper"); });
+  clickAt(found.middleX(), found.y + found.height * (up ? 1 : 3) / 4);
+}
+
+void PrintWindow::tick(const std::string &title, bool on) {
+  const Control found =
+      awaited(title, [&](const Screen &shown) { return shown.find("button", title); });
+  if (found.isOn == on)
+    return;
+  clickAt(found.middleX(), found.middleY());
+  if (!becomes([&](const Screen &shown) {
+        const Control *const now = shown.find("button", title);
+        return now != nullptr && now->isOn == on;
+      }))
+    giveUp("the tick stays", screen());
+}
+
+const ProcessResult &PrintWindow::ended() {
+  if (!comesTrueInTime([&] { return process_.hasEnded(); }))
+    giveUp("it does not end", screen());
+  return process_.wait();
+}
+
+} // namespace imageposition::test

@@ -1,0 +1,80 @@
+#include "PrivateCups.hpp"
+
+#include <cups/cups.h>
+
+#include <chrono>
+#include <thread>
+#include <unistd.h>
+
+namespace imageposition::test {
+
+PrivateCups::PrivateCups(const std::string &policies, std::vector<std::string> environment)
+    : environment_(std::move(environment)) {
+  writeConfiguration(policies);
+  start();
+}
+
+void PrivateCups::stop() {
+  server_.reset();
+  isRunning_ = false;
+}
+
+void PrivateCups::start() {
+  constexpr int kLongestTests = 3000; // seconds
+  const std::vector<std::string> command{
+      "/usr/sbin/cupsd",          "-f", "-c",
+      folder_.path("cupsd.conf"), "-s", folder_.path("cups-files.conf")};
+  server_ = std::make_unique<Process>(command, environment_, kLongestTests);
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (!isRunning_ && !server_->hasEnded() && std::chrono::steady_clock::now() < deadline) {
+    isRunning_ = run({"lpstat", "-r"}).output.find("is running") != std::string::npos;
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+}
+
+ProcessResult PrivateCups::run(const std::vector<std::string> &words) const {
+  return runProcess(words, environment());
+}
+
+std::string PrivateCups::jobAttribute(int job, const char *name) const {
+  http_t *const http = httpConnect2(socket().c_str(), 0, nullptr, AF_UNSPEC,
+                                    HTTP_ENCRYPTION_IF_REQUESTED, 1, 30000, nullptr);
+  ipp_t *const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  const std::string uri = "ipp://localhost/jobs/" + std::to_string(job);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+  ipp_t *const answer = cupsDoRequest(http, request, "/jobs");
+  char text[1024] = "";
+  if (ipp_attribute_t *const attribute = ippFindAttribute(answer, name, IPP_TAG_ZERO))
+    ippAttributeString(attribute, text, sizeof text);
+  ippDelete(answer);
+  httpClose(http);
+  return text;
+}
+
+std::string PrivateCups::log() const {
+  return contentOf(folder_.path("error_log")) + (server_ ? server_->errorsSoFar() : "");
+}
+
+void PrivateCups::writeConfiguration(const std::string &policies) const {
+  const std::string folder = folder_.path();
+  folder_.write("cupsd.conf", "Listen " + socket() +
+                                  "\n"
+                                  "Browsing No\n"
+                                  "DefaultAuthType None\n"
+                                  "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+                                  "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n"
+                                  "</Limit>\n</Policy>\n" +
+                                  policies);
+  // As root it insists on another user for what it runs.
+  const std::string user = getuid() == 0 ? "User lp\nGroup lp\n" : "";
+  folder_.write("cups-files.conf", "ServerRoot " + folder + "\nRequestRoot " + folder +
+                                       "/spool\nCacheDir " + folder + "/cache\nStateDir " + folder +
+                                       "/state\nServerKeychain " + folder + "/ssl\nAccessLog " +
+                                       folder + "/access_log\nErrorLog " + folder +
+                                       "/error_log\nPageLog " + folder +
+                                       "/page_log\nFileDevice Yes\nSystemGroup root\n" + user);
+  for (const char *name : {"spool/tmp/x", "cache/x", "state/x", "ssl/x", "ppd/x", "home/x"})
+    folder_.write(name, "");
+}
+
+} // namespace imageposition::test
