@@ -4,17 +4,6 @@
 
 namespace imageposition::messages {
 
-namespace {
-
-std::string join(const std::vector<std::string> &words) {
-  std::string list;
-  for (const std::string &word : words)
-    list = list.empty() ? word : inOrder(list, word);
-  return list;
-}
-
-} // namespace
-
 std::string documentUnreadable(const std::string &path, const std::string &reason) {
   return text("The document \"{1}\" cannot be read: {2}. Check the name and its rights.")
       .with(path, reason);
@@ -29,7 +18,7 @@ std::string noPanel(const std::string &printer, const std::vector<std::string> &
     return text("No plug-in was found for \"{1}\". Name one with --plugin BUNDLE.").with(printer);
   return text("No plug-in has a panel for \"{1}\" (asked: {2}). Choose a printer that supports "
               "one, or name another plug-in with --plugin BUNDLE.")
-      .with(printer, join(plugins));
+      .with(printer, inOrder(plugins));
 }
 std::string jobSentUnsaid(const std::string &job) {
   return text("CUPS has the job {1}, but standard output cannot be written; do not print it again.")

@@ -4,17 +4,6 @@
 
 namespace imageposition::messages {
 
-namespace {
-
-std::string join(const std::vector<std::string> &words) {
-  std::string list;
-  for (const std::string &word : words)
-    list = list.empty() ? word : inOrder(list, word);
-  return list;
-}
-
-} // namespace
-
 std::string noDisplay(const std::string &reason) {
   return text("There is no display, and no Xvfb could be started for the panel's view{1}. Set "
               "DISPLAY, or install Xvfb (Debian: xvfb).")
@@ -23,11 +12,11 @@ std::string noDisplay(const std::string &reason) {
 std::string noSuchField(const std::string &name, const std::vector<std::string> &known) {
   if (known.empty())
     return text("No panel has an entry field \"{1}\".").with(name);
-  return text("No panel has an entry field \"{1}\"; there are: {2}.").with(name, join(known));
+  return text("No panel has an entry field \"{1}\"; there are: {2}.").with(name, inOrder(known));
 }
 std::string ambiguousField(const std::string &name, const std::vector<std::string> &matches) {
   return text("\"{1}\" may mean several entry fields: {2}. Write more of the name.")
-      .with(name, join(matches));
+      .with(name, inOrder(matches));
 }
 std::string fieldUnavailable(const std::string &name, const std::string &reason) {
   const std::string offByPanel = text("\"{1}\" cannot be changed with the present settings of the "
