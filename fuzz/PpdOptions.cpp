@@ -5,16 +5,11 @@
 #include "OptionList.hpp"
 #include "PpdChecks.hpp"
 #include "PresetFit.hpp"
-
-#include <strings.h>
+#include "Strings.hpp"
 
 namespace imageposition::fuzz {
 
 namespace {
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
 
 std::string stored(const PrintSettingsStore &job, const std::string &keyword) {
   const char *const value = job.get(keyword);

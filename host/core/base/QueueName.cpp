@@ -1,6 +1,6 @@
 #include "QueueName.hpp"
 
-#include <strings.h>
+#include "Strings.hpp"
 
 namespace imageposition {
 
@@ -16,8 +16,9 @@ std::string QueueName::text() const {
 }
 
 bool operator==(const QueueName &left, const QueueName &right) noexcept {
-  return strcasecmp(left.printer.c_str(), right.printer.c_str()) == 0 &&
-         strcasecmp(left.instance.c_str(), right.instance.c_str()) == 0;
+  return isSame(left.printer, right.printer) && isSame(left.instance, right.instance);
 }
+
+bool operator!=(const QueueName &left, const QueueName &right) noexcept { return !(left == right); }
 
 } // namespace imageposition

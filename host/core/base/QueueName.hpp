@@ -21,6 +21,7 @@ struct QueueName {
 
 /// Without regard to the case of ASCII letters, as CUPS matches names.
 bool operator==(const QueueName &left, const QueueName &right) noexcept;
+bool operator!=(const QueueName &left, const QueueName &right) noexcept;
 
 } // namespace imageposition
 

@@ -6,6 +6,7 @@
 #include "HoldTime.hpp"
 #include "OptionText.hpp"
 #include "PrinterTexts.hpp"
+#include "Strings.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -115,10 +116,6 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
       ->type_name("NAME=TEXT");
   addText(app, "--back", raw.back, messages::kHelpBack, "on|off");
   app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
-}
-
-bool endsWith(const std::string &text, const std::string &end) {
-  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
 /// A shell's * makes arguments of a folder's files, whose names somebody else may have chosen.

@@ -4,11 +4,11 @@
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
 #include "SecretOptions.hpp"
+#include "Strings.hpp"
 #include "VisibleText.hpp"
 
 #include <algorithm>
 #include <memory>
-#include <strings.h>
 #include <vector>
 
 namespace imageposition {
@@ -28,7 +28,7 @@ const std::vector<std::vector<const char *>> kSynonyms = {
 
 bool isDisplaced(const char *name, const PrintSettingsStore &settings) {
   for (const auto &synonyms : kSynonyms) {
-    const auto isName = [=](const char *synonym) { return strcasecmp(synonym, name) == 0; };
+    const auto isName = [=](const char *synonym) { return isSame(synonym, name); };
     if (std::none_of(synonyms.begin(), synonyms.end(), isName))
       continue;
     return std::any_of(synonyms.begin(), synonyms.end(),
@@ -91,12 +91,6 @@ void addNumberUp(const JobRequest &request, PrintSettingsStore &options) {
   if (std::find(std::begin(kLayouts), std::end(kLayouts), *request.numberUp) == std::end(kLayouts))
     refuse(messages::badNumberUp(*request.numberUp));
   add(options, "number-up", std::to_string(*request.numberUp));
-}
-
-bool contains(const std::vector<std::string> &names, const char *name) {
-  return std::any_of(names.begin(), names.end(), [=](const std::string &other) {
-    return strcasecmp(other.c_str(), name) == 0;
-  });
 }
 
 bool isCompound(const JobRequest &request, const cups_option_t &option) {

@@ -5,6 +5,7 @@
 #include "Phrases.hpp"
 #include "PrinterTexts.hpp"
 #include "SecretOptions.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
 #include <strings.h>
@@ -181,7 +182,7 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
   ppd_coption_t *const source = ppdFindCustomOption(ppd, keyword.c_str());
   if (source == nullptr)
     return std::nullopt;
-  if (strcasecmp(keyword.c_str(), "PageSize") == 0)
+  if (isSame(keyword, "PageSize"))
     return hasPageSizes(*ppd) ? std::optional(pageSizeOption(*ppd)) : std::nullopt;
   CustomOption option{source->keyword, false, {}};
   std::vector<const ppd_cparam_t *> parameters;

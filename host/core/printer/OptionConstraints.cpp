@@ -2,6 +2,7 @@
 
 #include "ChoiceList.hpp"
 #include "CustomValue.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
 #include <map>
@@ -14,10 +15,6 @@ namespace imageposition {
 namespace {
 
 constexpr const char *kCustom = "Custom";
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
 
 bool isPageSize(const ppd_option_t *option) {
   return isSame(option->keyword, "PageSize") || isSame(option->keyword, "PageRegion");

@@ -4,6 +4,7 @@
 #include "EntryCheck.hpp"
 #include "ForeignText.hpp"
 #include "PrinterTexts.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -27,7 +28,7 @@ bool startsWithCustom(const std::string &value) {
 
 bool isPlainChoice(const ppd_option_t &option, const std::string &value) {
   for (int i = 0; i < option.num_choices; i++)
-    if (strcasecmp(option.choices[i].choice, value.c_str()) == 0)
+    if (isSame(option.choices[i].choice, value))
       return true;
   return false;
 }
@@ -84,7 +85,7 @@ std::string misfitOfEntries(ppd_file_t *ppd, const char *keyword, const std::str
 /// For an option that takes a value of the person's own.
 std::string misfitOfEntered(ppd_file_t *ppd, ppd_coption_t &custom, const std::string &text,
                             const std::string &value) {
-  if (strcasecmp(custom.keyword, "PageSize") == 0)
+  if (isSame(custom.keyword, "PageSize"))
     return startsWithCustom(value) && isPageSizeAllowed(ppd, value)
                ? ""
                : messages::misfitChoice(text, value);

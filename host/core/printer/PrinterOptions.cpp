@@ -4,24 +4,15 @@
 #include "ForeignText.hpp"
 #include "Phrases.hpp"
 #include "PrinterTexts.hpp"
+#include "Strings.hpp"
 #include "VisibleText.hpp"
 
 #include <algorithm>
 #include <map>
-#include <strings.h>
 
 namespace imageposition {
 
 namespace {
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
-
-bool contains(const std::vector<std::string> &keywords, const std::string &keyword) {
-  return std::any_of(keywords.begin(), keywords.end(),
-                     [&](const std::string &other) { return isSame(other, keyword); });
-}
 
 /// The choice that CUPS adds to an option that takes a value of the person's own.
 bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, "Custom"); }

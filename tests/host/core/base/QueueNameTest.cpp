@@ -32,7 +32,8 @@ TEST(QueueName, HasASlashOnlyBeforeAnInstance) {
 TEST(QueueName, MatchesWithoutRegardToCaseInBothParts) {
   const QueueName name{"office", "draft"};
   EXPECT_TRUE(name == (QueueName{"OFFICE", "Draft"}));
-  EXPECT_FALSE(name == (QueueName{"attic", "draft"}));
+  EXPECT_FALSE(name != (QueueName{"OFFICE", "Draft"}));
+  EXPECT_TRUE(name != (QueueName{"attic", "draft"}));
   EXPECT_FALSE(name == (QueueName{"office", "fine"}));
   EXPECT_FALSE(name == (QueueName{"office", ""}));
 }
