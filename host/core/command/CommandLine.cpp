@@ -2,6 +2,7 @@
 
 #include "Appearance.hpp"
 #include "CommandTexts.hpp"
+#include "Copies.hpp"
 #include "ExitCode.hpp"
 #include "HoldTime.hpp"
 #include "OptionText.hpp"
@@ -73,7 +74,7 @@ void addJobOptions(CLI::App &app, Arguments &arguments) {
       app, "-n", [add](int copies) { add("copies", std::to_string(copies)); },
       messages::kHelpCopies)
       ->type_name("COPIES")
-      ->check(between(1, 9999));
+      ->check(between(1, kMostCopies));
   addRepeated<std::string>(
       app, "-P", [add](const std::string &pages) { add("page-ranges", pages); },
       messages::kHelpPages)

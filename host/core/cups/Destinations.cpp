@@ -166,13 +166,6 @@ const Destination *DestinationList::find(const std::string &fullName) const {
   return nullptr;
 }
 
-const Destination *DestinationList::defaultDestination() const {
-  for (const Destination &destination : destinations)
-    if (destination.isDefault)
-      return &destination;
-  return nullptr;
-}
-
 DestinationList readDestinations(std::chrono::milliseconds patience) {
   const Clock::time_point deadline = Clock::now() + patience;
   const auto isInTime = [=] { return Clock::now() < deadline; };
