@@ -1,6 +1,5 @@
 // Values that are entered for the options of any description, and what CUPS is sent of a job.
 #include "CheckText.hpp"
-#include "EntryCheck.hpp"
 #include "ExitCode.hpp"
 #include "JobRequest.hpp"
 #include "JobSummary.hpp"
@@ -8,6 +7,7 @@
 #include "PpdChecks.hpp"
 #include "PrinterOptions.hpp"
 #include "Strings.hpp"
+#include "ValueCheck.hpp"
 
 #include <memory>
 

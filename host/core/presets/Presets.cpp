@@ -4,14 +4,17 @@
 #include "DestinationFile.hpp"
 #include "ExitCode.hpp"
 #include "FileReplacement.hpp"
+#include "ForeignText.hpp"
 #include "OptionText.hpp"
-#include "PresetFit.hpp"
+#include "Phrases.hpp"
 #include "PresetTexts.hpp"
 #include "Strings.hpp"
+#include "ValueCheck.hpp"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <pwd.h>
 #include <set>
@@ -248,14 +251,30 @@ LoadedPreset Presets::load(const PresetName &preset, const PrinterDescription &p
     const cups_option_t &option = stored.options()[i];
     if (isSame(option.name, kPlaceholder))
       continue;
-    const std::string misfit = misfitOf(printer.ppd(), option.name, option.value,
-                                        isOwn || contains(panelKeywords, option.name));
-    if (misfit.empty())
-      loaded.settings.set(option.name, option.value);
-    else
-      loaded.misfits.push_back(misfit);
+    const FittedSetting fitted = fitSetting(printer.ppd(), option.name, option.value,
+                                            isOwn || contains(panelKeywords, option.name));
+    if (fitted.value)
+      loaded.settings.set(option.name, *fitted.value);
+    if (!fitted.change.empty())
+      loaded.misfits.push_back(fitted.change);
   }
   return loaded;
+}
+
+std::vector<std::string> adjustments(ppd_file_t *ppd, const std::vector<std::string> &keywords,
+                                     const PrintSettingsStore &before,
+                                     const PrintSettingsStore &after) {
+  std::vector<std::string> sentences;
+  for (const std::string &keyword : keywords) {
+    const char *const given = before.get(keyword);
+    const char *const made = after.get(keyword);
+    if (given == nullptr || made == nullptr || std::strcmp(given, made) == 0)
+      continue;
+    const ppd_option_t *const option = ppdFindOption(ppd, keyword.c_str());
+    sentences.push_back(messages::valueAdjusted(
+        option != nullptr ? textOrKeyword(option->text, option->keyword) : keyword, given, made));
+  }
+  return sentences;
 }
 
 std::string Presets::usableName(const std::string &typed) {

@@ -100,15 +100,22 @@ std::string joined(const std::vector<std::string> &sentences) {
 
 /// The panels' values are among the settings; they read them anew.
 - (void)loadPreset:(const PresetName &)preset {
-  const LoadedPreset loaded = Presets::load(preset, job->printer());
+  const std::vector<std::string> announced = [self announcedOptions];
+  const LoadedPreset loaded = Presets::load(preset, job->printer(), announced);
   job->settings() = loaded.settings;
   job->panels().takePlainNumbers();
+  const PrintSettingsStore given = job->settings();
   job->printer().mark(job->settings());
   [self restorePanels];
   state->preset = preset.printer == printerOf(job->queue()) ? preset.name : "";
   [self refresh];
   [self showChosenPane];
-  [self say:joined(loaded.misfits)];
+  if (![self savePanels])
+    return;
+  std::vector<std::string> changes = loaded.misfits;
+  for (std::string &sentence : adjustments(job->printer().ppd(), announced, given, job->settings()))
+    changes.push_back(std::move(sentence));
+  [self say:joined(changes)];
 }
 
 - (void)savePreset {

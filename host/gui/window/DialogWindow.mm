@@ -7,6 +7,7 @@
 #import "NamePanel.h"
 #import "NotePanel.h"
 #include "PasteboardTrouble.hpp"
+#include "Phrases.hpp"
 #include "PluginTexts.hpp"
 #import "Pool.h"
 #import "TextBridge.h"
@@ -174,6 +175,9 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
     troubles = messages::kNoPanelHere;
   if (!troubles.empty())
     [self say:troubles];
+  if (!job->misfits().empty())
+    [views.message setStringValue:toString(messages::sentences(
+                                      {troubles, messages::sentences(job->misfits())}))];
 }
 
 - (void)show {

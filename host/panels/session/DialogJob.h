@@ -4,6 +4,7 @@
 
 #include "CommandLine.hpp"
 #import "PanelSession.h"
+#include "Presets.hpp"
 #include "PrinterDescription.hpp"
 #include "Ticket.hpp"
 
@@ -43,6 +44,10 @@ public:
   void loadPanels();
   const std::vector<std::string> &plugins() const noexcept { return plugins_; }
 
+  /// Sentences about settings of the queue's preset that the printer does not take as they are.
+  /// Standard error has them already.
+  const std::vector<std::string> &misfits() const noexcept { return preset_.misfits; }
+
   /// As they were named, here or in the ticket; none for standard input that nobody named.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
   /// Paths; "-" for standard input.
@@ -73,6 +78,7 @@ private:
   const Arguments &arguments_;
   std::string queue_;
   std::unique_ptr<PrinterDescription> printer_;
+  LoadedPreset preset_; // of the queue that was named first
   Ticket ticket_;
   std::vector<std::string> plugins_;
   std::unique_ptr<PanelSession> panels_; // refers to the printer and the ticket
