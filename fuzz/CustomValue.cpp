@@ -2,9 +2,9 @@
 #include "CustomValue.hpp"
 
 #include "Check.hpp"
-#include "EntryCheck.hpp"
 #include "MemoryFile.hpp"
 #include "PrinterDescription.hpp"
+#include "ValueCheck.hpp"
 
 #include <cmath>
 

@@ -5,9 +5,9 @@
 
 #include <algorithm>
 #include <fuzzer/FuzzedDataProvider.h>
-#include <strings.h>
 
 using imageposition::DestinationFile;
+using imageposition::QueueName;
 using imageposition::fuzz::check;
 using imageposition::fuzz::checkSame;
 
@@ -15,21 +15,14 @@ namespace {
 
 using Entries = std::vector<DestinationFile::Entry>;
 
-bool isOf(const DestinationFile::Entry &entry, const std::string &printer,
-          const std::string &instance) {
-  return strcasecmp(entry.printer.c_str(), printer.c_str()) == 0 &&
-         strcasecmp(entry.instance.c_str(), instance.c_str()) == 0;
-}
-
 std::string described(const DestinationFile::Entry &entry) {
-  return entry.printer + "/" + entry.instance + (entry.isDefault ? " (default) " : " ") +
-         entry.options;
+  return entry.queue.text() + (entry.isDefault ? " (default) " : " ") + entry.options;
 }
 
-Entries without(const Entries &entries, const std::string &printer, const std::string &instance) {
+Entries without(const Entries &entries, const QueueName &queue) {
   Entries rest;
   for (const DestinationFile::Entry &entry : entries)
-    if (!isOf(entry, printer, instance))
+    if (entry.queue != queue)
       rest.push_back(entry);
   return rest;
 }
@@ -41,14 +34,13 @@ void checkSameEntries(const Entries &actual, const Entries &expected) {
 }
 
 // Every line that stands for no such destination, in its order.
-std::string otherLines(const std::string &text, const std::string &printer,
-                       const std::string &instance) {
+std::string otherLines(const std::string &text, const QueueName &queue) {
   std::string result;
   for (std::size_t at = 0; at < text.size();) {
     const std::size_t end = std::min(text.find('\n', at), text.size());
     const std::string line = text.substr(at, end - at);
     const Entries entries = DestinationFile(line).entries();
-    if (entries.empty() || !isOf(entries[0], printer, instance))
+    if (entries.empty() || entries[0].queue != queue)
       result += line + '\n';
     at = end + 1;
   }
@@ -60,37 +52,35 @@ std::string drawName(FuzzedDataProvider &input) {
   return input.PickValueInArray(kNames);
 }
 
-void checkSet(DestinationFile file, const std::string &printer, const std::string &instance,
-              const std::string &options) {
+void checkSet(DestinationFile file, const QueueName &queue, const std::string &options) {
   const std::string before = file.text();
   const Entries entries = file.entries();
-  if (!file.set(printer, instance, options))
+  if (!file.set(queue, options))
     return checkSame(file.text(), before, "what is too long changes nothing");
-  check(file.has(printer, instance), "what was set is there");
-  checkSame(otherLines(file.text(), printer, instance), otherLines(before, printer, instance),
+  check(file.has(queue), "what was set is there");
+  checkSame(otherLines(file.text(), queue), otherLines(before, queue),
             "other lines stay as they are");
-  checkSameEntries(without(file.entries(), printer, instance), without(entries, printer, instance));
+  checkSameEntries(without(file.entries(), queue), without(entries, queue));
   checkSame(DestinationFile(file.text()).text(), file.text(), "the text reads as it was written");
 }
 
-void checkRemoved(DestinationFile file, const std::string &printer, const std::string &instance) {
+void checkRemoved(DestinationFile file, const QueueName &queue) {
   const std::string before = file.text();
-  file.remove(printer, instance);
-  check(instance.empty() || !file.has(printer, instance), "what was removed is gone");
-  if (!DestinationFile(before).has(printer, instance))
+  file.remove(queue);
+  check(queue.instance.empty() || !file.has(queue), "what was removed is gone");
+  if (!DestinationFile(before).has(queue))
     checkSame(file.text(), before, "removing what is not there changes nothing");
 }
 
-void checkRenamed(DestinationFile file, const std::string &printer, const std::string &instance,
-                  const std::string &newInstance) {
+void checkRenamed(DestinationFile file, const QueueName &queue, const std::string &newInstance) {
   const Entries before = file.entries();
-  file.rename(printer, instance, newInstance);
+  file.rename(queue, newInstance);
   const Entries after = file.entries();
   check(after.size() == before.size(), "as many destinations after renaming");
   for (std::size_t i = 0; i < before.size(); ++i) {
     DestinationFile::Entry expected = before[i];
-    if (isOf(before[i], printer, instance))
-      expected.instance = newInstance;
+    if (before[i].queue == queue)
+      expected.queue.instance = newInstance;
     checkSame(described(after[i]), described(expected), "only the name is another");
   }
 }
@@ -99,8 +89,9 @@ void checkRenamed(DestinationFile file, const std::string &printer, const std::s
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
   FuzzedDataProvider input(data, size);
-  const std::string printer = drawName(input).substr(0, 6);
-  const std::string instance = drawName(input);
+  QueueName queue;
+  queue.printer = drawName(input).substr(0, 6);
+  queue.instance = drawName(input);
   const std::string newInstance = "new";
   static const char *const kOptions[] = {"", "a=1", "a=1 b=\"x y\" noc", "media=A4"};
   const std::string options = input.PickValueInArray(kOptions);
@@ -109,11 +100,11 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   const DestinationFile file(text);
   const std::string ended = text.empty() || text.back() == '\n' ? text : text + '\n';
   checkSame(file.text(), ended, "an unchanged file is the same, byte for byte");
-  if (printer.empty())
+  if (queue.printer.empty())
     return 0;
-  checkSet(file, printer, instance, options);
-  checkRemoved(file, printer, instance);
-  if (!instance.empty())
-    checkRenamed(file, printer, instance, newInstance);
+  checkSet(file, queue, options);
+  checkRemoved(file, queue);
+  if (!queue.instance.empty())
+    checkRenamed(file, queue, newInstance);
   return 0;
 }

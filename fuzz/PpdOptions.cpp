@@ -1,20 +1,14 @@
 // Options of any description: texts for people, choices that can be chosen, conflicts that end.
 #include "CheckText.hpp"
-#include "EntryCheck.hpp"
 #include "OptionConflicts.hpp"
 #include "OptionList.hpp"
 #include "PpdChecks.hpp"
-#include "PresetFit.hpp"
-
-#include <strings.h>
+#include "Strings.hpp"
+#include "ValueCheck.hpp"
 
 namespace imageposition::fuzz {
 
 namespace {
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
 
 std::string stored(const PrintSettingsStore &job, const std::string &keyword) {
   const char *const value = job.get(keyword);
@@ -42,7 +36,7 @@ void checkChoice(PrinterDescription &printer, const PrintSettingsStore &job,
   check(isSame(stored(trial, option.keyword), choice.keyword) ||
             (stored(trial, option.keyword).empty() && isSame(after->defaultChoice, choice.keyword)),
         "the job has what was chosen, or the default holds: " + what);
-  check(misfitOf(printer.ppd(), option.keyword, choice.keyword, false).empty(),
+  check(fitSetting(printer.ppd(), option.keyword, choice.keyword, false).change.empty(),
         "what was chosen fits the printer: " + what);
 }
 

@@ -1,15 +1,15 @@
 // Values that are entered for the options of any description, and what CUPS is sent of a job.
 #include "CheckText.hpp"
-#include "EntryCheck.hpp"
 #include "ExitCode.hpp"
 #include "JobRequest.hpp"
 #include "JobSummary.hpp"
 #include "MemoryFile.hpp"
 #include "PpdChecks.hpp"
 #include "PrinterOptions.hpp"
+#include "Strings.hpp"
+#include "ValueCheck.hpp"
 
 #include <memory>
-#include <strings.h>
 
 namespace imageposition::fuzz {
 
@@ -84,22 +84,21 @@ std::string valueIn(ipp_attribute_t *attribute) {
 
 /// Of an option that is not the printer's, such as a panel's or an IPP printer's.
 bool isForeignCollection(const JobRequest &request, const cups_option_t &option) {
-  return option.value[0] == '{' && std::none_of(request.compounds.begin(), request.compounds.end(),
-                                                [&](const std::string &name) {
-                                                  return strcasecmp(name.c_str(), option.name) == 0;
-                                                });
+  return option.value[0] == '{' &&
+         std::none_of(request.compounds.begin(), request.compounds.end(),
+                      [&](const std::string &name) { return isSame(name, option.name); });
 }
 
 void checkReceived(ipp_t *request, const cups_option_t &option) {
   ipp_attribute_t *attribute = ippFirstAttribute(request); // ippFindAttribute divides at "/"
   while (attribute != nullptr &&
-         (ippGetName(attribute) == nullptr || strcasecmp(ippGetName(attribute), option.name) != 0))
+         (ippGetName(attribute) == nullptr || !isSame(ippGetName(attribute), option.name)))
     attribute = ippNextAttribute(request);
   check(attribute != nullptr, std::string("the request has the option ") + option.name);
   check(ippGetCount(attribute) == 1, std::string("an option has one value: ") + option.name);
   const std::string value = valueIn(attribute);
   if (ippGetValueTag(attribute) == IPP_TAG_BOOLEAN)
-    check(strcasecmp(value.c_str(), option.value) == 0, "a truth value stays what it was");
+    check(isSame(value, option.value), "a truth value stays what it was");
   else
     checkSame(value, option.value, std::string("the option as it was, ") + option.name);
 }

@@ -1,5 +1,7 @@
 #include "Appearance.hpp"
 
+#include "Strings.hpp"
+
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
@@ -55,14 +57,10 @@ std::string settingOf(const std::string &file, const std::string &key) {
   return {};
 }
 
-bool endsIn(const std::string &text, const std::string &end) {
-  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
-}
-
 /// "Adwaita:dark" and "Adwaita-dark" alike.
 bool namesDarkTheme(const std::string &theme) {
   const std::string name = lowerCase(theme);
-  return endsIn(name, ":dark") || endsIn(name, "-dark");
+  return endsWith(name, ":dark") || endsWith(name, "-dark");
 }
 
 bool isTrue(const std::string &text) { return text == "1" || text == "true"; }
@@ -73,7 +71,7 @@ bool gtkPrefersDark(const std::string &settings) {
 }
 
 bool kdePrefersDark(const std::string &globals) {
-  return endsIn(settingOf(globals, "ColorScheme"), "dark");
+  return endsWith(settingOf(globals, "ColorScheme"), "dark");
 }
 
 } // namespace

@@ -2,10 +2,12 @@
 
 #include "Appearance.hpp"
 #include "CommandTexts.hpp"
+#include "Copies.hpp"
 #include "ExitCode.hpp"
 #include "HoldTime.hpp"
 #include "OptionText.hpp"
 #include "PrinterTexts.hpp"
+#include "Strings.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -72,7 +74,7 @@ void addJobOptions(CLI::App &app, Arguments &arguments) {
       app, "-n", [add](int copies) { add("copies", std::to_string(copies)); },
       messages::kHelpCopies)
       ->type_name("COPIES")
-      ->check(between(1, 9999));
+      ->check(between(1, kMostCopies));
   addRepeated<std::string>(
       app, "-P", [add](const std::string &pages) { add("page-ranges", pages); },
       messages::kHelpPages)
@@ -115,10 +117,6 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
       ->type_name("NAME=TEXT");
   addText(app, "--back", raw.back, messages::kHelpBack, "on|off");
   app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
-}
-
-bool endsWith(const std::string &text, const std::string &end) {
-  return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
 /// A shell's * makes arguments of a folder's files, whose names somebody else may have chosen.

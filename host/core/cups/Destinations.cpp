@@ -4,13 +4,14 @@
 #include "CupsTexts.hpp"
 #include "PasswordQuestion.hpp"
 #include "Phrases.hpp"
+#include "QueueName.hpp"
+#include "Strings.hpp"
 #include "VisibleText.hpp"
 
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstring>
-#include <strings.h>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -64,8 +65,7 @@ constexpr ReasonWords kReasonWords[] = {
 
 std::string withoutSeverity(const std::string &reason) {
   for (const std::string severity : {"-error", "-warning", "-report"})
-    if (reason.size() > severity.size() &&
-        reason.compare(reason.size() - severity.size(), severity.size(), severity) == 0)
+    if (reason.size() > severity.size() && endsWith(reason, severity))
       return reason.substr(0, reason.size() - severity.size());
   return reason;
 }
@@ -79,10 +79,6 @@ std::string wordsFor(const std::string &reason) {
     if (bare == known.reason)
       return known.words;
   return bare;
-}
-
-bool startsWith(const std::string &text, const char *start) {
-  return text.compare(0, std::strlen(start), start) == 0;
 }
 
 /// CUPS puts what it knows of the printer among its options.
@@ -161,20 +157,11 @@ Destination toDestination(const cups_dest_t &dest) {
   return destination;
 }
 
-std::string Destination::fullName() const {
-  return instance.empty() ? name : name + "/" + instance;
-}
+std::string Destination::fullName() const { return QueueName{name, instance}.text(); }
 
 const Destination *DestinationList::find(const std::string &fullName) const {
   for (const Destination &destination : destinations)
-    if (strcasecmp(destination.fullName().c_str(), fullName.c_str()) == 0) // as CUPS matches
-      return &destination;
-  return nullptr;
-}
-
-const Destination *DestinationList::defaultDestination() const {
-  for (const Destination &destination : destinations)
-    if (destination.isDefault)
+    if (isSame(destination.fullName(), fullName))
       return &destination;
   return nullptr;
 }

@@ -40,8 +40,6 @@ struct DestinationList {
 
   /// Null when there is none of that full name.
   const Destination *find(const std::string &fullName) const;
-  /// Null when none is the default.
-  const Destination *defaultDestination() const;
 };
 
 /// Asks CUPS and waits for its answer, at most about that long. Never throws: whatever goes wrong

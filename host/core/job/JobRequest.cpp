@@ -3,12 +3,13 @@
 #include "CustomValue.hpp"
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
+#include "PageRanges.hpp"
 #include "SecretOptions.hpp"
+#include "Strings.hpp"
 #include "VisibleText.hpp"
 
 #include <algorithm>
 #include <memory>
-#include <strings.h>
 #include <vector>
 
 namespace imageposition {
@@ -28,7 +29,7 @@ const std::vector<std::vector<const char *>> kSynonyms = {
 
 bool isDisplaced(const char *name, const PrintSettingsStore &settings) {
   for (const auto &synonyms : kSynonyms) {
-    const auto isName = [=](const char *synonym) { return strcasecmp(synonym, name) == 0; };
+    const auto isName = [=](const char *synonym) { return isSame(synonym, name); };
     if (std::none_of(synonyms.begin(), synonyms.end(), isName))
       continue;
     return std::any_of(synonyms.begin(), synonyms.end(),
@@ -42,61 +43,13 @@ void add(PrintSettingsStore &options, const char *name, const std::string &value
     throw Failure(ExitCode::Usage, messages::unusableOption(name));
 }
 
-[[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Usage, message); }
-
-void addPages(const JobRequest &request, PrintSettingsStore &options) {
+/// CUPS refuses ranges that are not ascending.
+void sortPages(PrintSettingsStore &options) {
   const char *const stored = options.get("page-ranges");
-  const std::string pages = request.pageRanges.value_or(stored != nullptr ? stored : "");
+  const std::string pages = stored != nullptr ? stored : "";
   options.remove("page-ranges");
-  if (!pages.empty()) // CUPS refuses ranges that are not ascending
+  if (!pages.empty())
     add(options, "page-ranges", PageRanges::parse(pages).optionValue());
-  if (request.pageSet) {
-    options.remove("page-set");
-    if (*request.pageSet != PageSet::All)
-      add(options, "page-set", *request.pageSet == PageSet::Odd ? "odd" : "even");
-  }
-}
-
-void addCopies(const JobRequest &request, PrintSettingsStore &options) {
-  if (request.copies) {
-    if (*request.copies < 1)
-      refuse(messages::badCopies(*request.copies));
-    add(options, "copies", std::to_string(*request.copies));
-  }
-  if (request.collate) { // the first for CUPS and IPP printers, the second for PPDs and filters
-    add(options, "multiple-document-handling",
-        *request.collate ? "separate-documents-collated-copies"
-                         : "separate-documents-uncollated-copies");
-    add(options, "Collate", *request.collate ? "True" : "False");
-  }
-}
-
-void addSchedule(const JobRequest &request, PrintSettingsStore &options) {
-  if (request.holdUntil) {
-    if (request.holdUntil->empty())
-      refuse(messages::kBadHold);
-    add(options, "job-hold-until", *request.holdUntil);
-  }
-  if (request.priority) {
-    if (*request.priority < 1 || *request.priority > 100)
-      refuse(messages::badPriority(*request.priority));
-    add(options, "job-priority", std::to_string(*request.priority));
-  }
-}
-
-void addNumberUp(const JobRequest &request, PrintSettingsStore &options) {
-  if (!request.numberUp)
-    return;
-  constexpr int kLayouts[] = {1, 2, 4, 6, 9, 16}; // CUPS's
-  if (std::find(std::begin(kLayouts), std::end(kLayouts), *request.numberUp) == std::end(kLayouts))
-    refuse(messages::badNumberUp(*request.numberUp));
-  add(options, "number-up", std::to_string(*request.numberUp));
-}
-
-bool contains(const std::vector<std::string> &names, const char *name) {
-  return std::any_of(names.begin(), names.end(), [=](const std::string &other) {
-    return strcasecmp(other.c_str(), name) == 0;
-  });
 }
 
 bool isCompound(const JobRequest &request, const cups_option_t &option) {
@@ -156,23 +109,16 @@ std::string attributeText(const JobRequest &request, ipp_attribute_t *attribute)
 } // namespace
 
 PrintSettingsStore optionsToSend(const JobRequest &request) {
-  // The fields' own options come first, so that they displace defaults too.
-  PrintSettingsStore own;
   const PrintSettingsStore &settings = request.settings;
-  for (int i = 0; i < settings.optionCount(); i++)
-    add(own, settings.options()[i].name, settings.options()[i].value);
-  addCopies(request, own);
-  addSchedule(request, own);
-  addNumberUp(request, own);
   PrintSettingsStore options;
   for (int i = 0; i < request.defaults.optionCount(); i++) {
     const cups_option_t &option = request.defaults.options()[i];
-    if (!isDisplaced(option.name, own))
+    if (!isDisplaced(option.name, settings))
       add(options, option.name, option.value);
   }
-  for (int i = 0; i < own.optionCount(); i++)
-    add(options, own.options()[i].name, own.options()[i].value);
-  addPages(request, options); // removes defaults too
+  for (int i = 0; i < settings.optionCount(); i++)
+    add(options, settings.options()[i].name, settings.options()[i].value);
+  sortPages(options);
   return options;
 }
 

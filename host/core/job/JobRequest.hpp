@@ -2,41 +2,30 @@
 #ifndef IMAGEPOSITION_HOST_JOBREQUEST_HPP
 #define IMAGEPOSITION_HOST_JOBREQUEST_HPP
 
-#include "PageRanges.hpp"
 #include "PrintSettingsStore.hpp"
 
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace imageposition {
 
-/// A field that is absent leaves its option as `settings` or `defaults` have it.
 struct JobRequest {
-  std::string printer;                   ///< The queue's name, without an instance.
-  std::string printerUri;                ///< The destination's; for the text only, may be empty.
-  std::string title;                     ///< Shown in the printer's list of jobs.
-  PrintSettingsStore defaults;           ///< The destination's.
-  PrintSettingsStore settings;           ///< The job's own: PPD options, what the panels wrote, -o.
-  std::optional<int> copies;             ///< From 1.
-  std::optional<bool> collate;           ///< Whole copies one after the other.
-  std::optional<std::string> pageRanges; ///< As typed, "1-3, 7"; empty for all pages.
-  std::optional<PageSet> pageSet;
-  std::optional<std::string> holdUntil; ///< job-hold-until: "indefinite", "18:30", "no-hold", ...
-  std::optional<int> priority;          ///< 1 to 100; CUPS takes 50.
-  std::optional<int> numberUp;          ///< Pages on one side: 1, 2, 4, 6, 9 or 16.
-  std::string documentFormat;           ///< A MIME type; empty: CUPS finds out.
-  std::vector<std::string>
-      secrets; ///< Beside `isSecretName`, options whose values no text may show.
+  std::string printer;         ///< The queue's name, without an instance.
+  std::string printerUri;      ///< The destination's; for the text only, may be empty.
+  std::string title;           ///< Shown in the printer's list of jobs.
+  PrintSettingsStore defaults; ///< The destination's.
+  PrintSettingsStore settings; ///< The job's own: PPD options, copies and pages, panels', -o.
+  /// Beside `isSecretName`, options whose values no text may show.
+  std::vector<std::string> secrets;
   /// Options of the PPD whose values can have parts, "{Width=3 Colour=red}". See `newJobRequest`.
   std::vector<std::string> compounds;
 };
 
-/// All options of the job: the destination's defaults, over them the job's settings, over them the
-/// request's fields. A setting also displaces the default of the same thing under another name
-/// ("Duplex" that of "sides"). Options that are not named hold as the queue's PPD has them, in
-/// which CUPS marks these. Throws a `Failure` with `ExitCode::Usage` for a field that no job can
-/// have.
+/// All options of the job: the destination's defaults, over them the job's settings. A setting also
+/// displaces the default of the same thing under another name ("Duplex" that of "sides"). Page
+/// ranges are put in ascending order. Options that are not named hold as the queue's PPD has them,
+/// in which CUPS marks these. Throws a `Failure` with `ExitCode::Usage` for an option that no job
+/// can have.
 PrintSettingsStore optionsToSend(const JobRequest &request);
 
 /// The request that creates the job, as cupsCreateDestJob makes it, but for the values of

@@ -256,8 +256,6 @@ std::string_view Submission::firstPiece(DocumentStream &document) {
 }
 
 const char *Submission::format() const {
-  if (!request_.documentFormat.empty())
-    return request_.documentFormat.c_str();
   if (options_.get("raw") != nullptr)
     return CUPS_FORMAT_RAW;
   const char *const chosen = options_.get("document-format");

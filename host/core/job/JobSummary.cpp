@@ -4,6 +4,7 @@
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
+#include "PageRanges.hpp"
 #include "Phrases.hpp"
 #include "PrinterOptions.hpp"
 

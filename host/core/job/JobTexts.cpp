@@ -39,19 +39,6 @@ std::string fileUnwritable(const std::string &path, const std::string &reason) {
 std::string fileWrittenAlready(const std::string &path) {
   return text("\"{1}\" is written already.").with(path);
 }
-std::string badCopies(int copies) {
-  return counted(copies, "{1} copy cannot be printed. Choose 1 or more.",
-                 "{1} copies cannot be printed. Choose 1 or more.");
-}
-std::string badPriority(int priority) {
-  return text("A job's priority is 1 to 100, and not {1}.").with(priority);
-}
-std::string badNumberUp(int pages) {
-  return counted(pages, "{1} page does not fit on one side. Choose 1, 2, 4, 6, 9 or 16.",
-                 "{1} pages do not fit on one side. Choose 1, 2, 4, 6, 9 or 16.");
-}
-const Text kBadHold = text("The time until which to hold the job is empty. Write \"indefinite\", "
-                           "\"no-hold\" or a time such as 18:30.");
 std::string unusableOption(const std::string &name) {
   return text("The option \"{1}\" has a name or value that no print job can carry. Change it.")
       .with(name);

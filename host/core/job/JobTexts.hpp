@@ -24,11 +24,6 @@ extern const Text kTicketWithoutSettings;
 std::string fileUnwritable(const std::string &path, const std::string &reason);
 std::string fileWrittenAlready(const std::string &path);
 
-// Fields that no job can have.
-std::string badCopies(int copies);
-std::string badPriority(int priority);
-std::string badNumberUp(int pages);
-extern const Text kBadHold;
 std::string unusableOption(const std::string &name);
 
 // The request's text.

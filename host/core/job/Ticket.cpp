@@ -3,12 +3,12 @@
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
 #include "OptionText.hpp"
+#include "Strings.hpp"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <set>
-#include <strings.h>
 #include <utility>
 
 namespace imageposition {
@@ -73,7 +73,7 @@ std::vector<Member> inOrderOfCups(const Json &object) {
   for (const auto &[name, value] : object.items())
     members.emplace_back(name, &value);
   std::stable_sort(members.begin(), members.end(), [](const Member &left, const Member &right) {
-    return strcasecmp(left.first.c_str(), right.first.c_str()) < 0;
+    return IgnoringCase()(left.first, right.first);
   });
   return members;
 }
@@ -220,8 +220,7 @@ void checkTicketPlace(const std::string &path) {
 std::string optionTextPath(const std::string &ticketPath) {
   constexpr std::string_view kExtension = ".json";
   std::string stem = ticketPath;
-  if (stem.size() > kExtension.size() &&
-      stem.compare(stem.size() - kExtension.size(), kExtension.size(), kExtension) == 0)
+  if (stem.size() > kExtension.size() && endsWith(stem, kExtension))
     stem.resize(stem.size() - kExtension.size());
   return stem + ".options";
 }

@@ -1,5 +1,7 @@
 #include "TicketName.hpp"
 
+#include "Strings.hpp"
+
 #include <filesystem>
 
 namespace imageposition {
@@ -7,14 +9,6 @@ namespace imageposition {
 namespace {
 
 constexpr const char *kEnding = ".json";
-
-std::string withoutBlanks(const std::string &text) {
-  constexpr const char *kBlanks = " \t\r\n";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  return first == std::string::npos
-             ? ""
-             : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 } // namespace
 
@@ -26,8 +20,8 @@ std::string suggestedTicket(const std::vector<std::string> &documents) {
 }
 
 std::string ticketPath(const std::string &typed, const std::string &home) {
-  std::string path = withoutBlanks(typed);
-  if (path.compare(0, 2, "~/") == 0 && !home.empty())
+  std::string path = trimmed(typed, " \t\r\n");
+  if (startsWith(path, "~/") && !home.empty())
     path = home + path.substr(1);
   if (path.empty() || path.back() == '/' || std::filesystem::path(path).has_extension())
     return path;

@@ -2,12 +2,11 @@
 
 #include "MeasureTexts.hpp"
 #include "Phrases.hpp"
+#include "Strings.hpp"
 
 #include <cmath>
-#include <cstring>
 #include <locale>
 #include <sstream>
-#include <strings.h>
 
 namespace imageposition {
 
@@ -40,12 +39,7 @@ constexpr NamedUnit kUnits[] = {
     {"m", LengthUnit::Millimetre, 1000}, {"in", LengthUnit::Inch, 1},
     {"ft", LengthUnit::Inch, 12},        {"pt", LengthUnit::Point, 1}};
 
-std::string trimmed(const std::string &text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string::npos)
-    return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
+constexpr const char *kBlanks = " \t";
 
 } // namespace
 
@@ -58,7 +52,7 @@ Length convert(Length length, LengthUnit unit) noexcept {
 }
 
 std::optional<double> readNumber(const std::string &text) {
-  std::string plain = trimmed(text);
+  std::string plain = trimmed(text, kBlanks);
   const std::size_t comma = plain.find(',');
   if (comma != std::string::npos)
     plain[comma] = '.';
@@ -77,19 +71,18 @@ std::optional<double> readNumber(const std::string &text) {
 }
 
 std::optional<Length> readLength(const std::string &text, LengthUnit otherwise) {
-  const std::string whole = trimmed(text);
+  const std::string whole = trimmed(text, kBlanks);
   const std::size_t digits = whole.find_last_of("0123456789.,");
   if (digits == std::string::npos)
     return std::nullopt;
   const auto number = readNumber(whole.substr(0, digits + 1));
-  const std::string name = trimmed(whole.substr(digits + 1));
+  const std::string name = trimmed(whole.substr(digits + 1), kBlanks);
   if (!number)
     return std::nullopt;
   if (name.empty())
     return Length{*number, otherwise};
   for (const NamedUnit &known : kUnits)
-    if (name.size() == std::strlen(known.name) && strcasecmp(known.name, name.c_str()) == 0 &&
-        std::isfinite(*number * known.count))
+    if (isSame(known.name, name) && std::isfinite(*number * known.count))
       return Length{*number * known.count, known.unit};
   return std::nullopt;
 }

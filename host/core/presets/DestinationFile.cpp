@@ -1,16 +1,13 @@
 #include "DestinationFile.hpp"
 
+#include "Strings.hpp"
+
 #include <algorithm>
 #include <optional>
-#include <strings.h>
 
 namespace imageposition {
 
 namespace {
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
 
 /// A number sign begins a comment, unless a backslash stands before it.
 std::string withoutComment(const std::string &line) {
@@ -42,28 +39,21 @@ std::optional<DestinationFile::Entry> entryOf(const std::string &line) {
   entry.isDefault = isSame(directive, "Default");
   if (!entry.isDefault && !isSame(directive, "Dest"))
     return std::nullopt;
-  entry.printer = takeWord(rest);
-  if (entry.printer.empty())
+  const std::string name = takeWord(rest);
+  if (name.empty())
     return std::nullopt;
-  const std::size_t slash = entry.printer.find('/');
-  if (slash != std::string::npos) {
-    entry.instance = entry.printer.substr(slash + 1);
-    entry.printer.resize(slash);
-  }
+  entry.queue = QueueName::parse(name);
   entry.options = rest;
   return entry;
 }
 
 std::string lineOf(const DestinationFile::Entry &entry) {
-  std::string line = (entry.isDefault ? "Default " : "Dest ") + entry.printer;
-  if (!entry.instance.empty())
-    line += '/' + entry.instance;
+  const std::string line = (entry.isDefault ? "Default " : "Dest ") + entry.queue.text();
   return entry.options.empty() ? line : line + ' ' + entry.options;
 }
 
-bool isOf(const std::optional<DestinationFile::Entry> &entry, const std::string &printer,
-          const std::string &instance) {
-  return entry && isSame(entry->printer, printer) && isSame(entry->instance, instance);
+bool isOf(const std::optional<DestinationFile::Entry> &entry, const QueueName &queue) {
+  return entry && entry->queue == queue;
 }
 
 } // namespace
@@ -84,20 +74,18 @@ std::vector<DestinationFile::Entry> DestinationFile::entries() const {
   return entries;
 }
 
-bool DestinationFile::has(const std::string &printer, const std::string &instance) const {
-  return std::any_of(lines_.begin(), lines_.end(), [&](const std::string &line) {
-    return isOf(entryOf(line), printer, instance);
-  });
+bool DestinationFile::has(const QueueName &queue) const {
+  return std::any_of(lines_.begin(), lines_.end(),
+                     [&](const std::string &line) { return isOf(entryOf(line), queue); });
 }
 
-bool DestinationFile::set(const std::string &printer, const std::string &instance,
-                          const std::string &options) {
-  Entry entry{printer, instance, options, false};
+bool DestinationFile::set(const QueueName &queue, const std::string &options) {
+  Entry entry{queue, options, false};
   std::vector<std::string> lines;
   std::size_t place = lines_.size();
   for (const std::string &line : lines_) {
     const auto known = entryOf(line);
-    if (!isOf(known, printer, instance)) {
+    if (!isOf(known, queue)) {
       lines.push_back(line);
       continue;
     }
@@ -112,27 +100,27 @@ bool DestinationFile::set(const std::string &printer, const std::string &instanc
   return true;
 }
 
-void DestinationFile::remove(const std::string &printer, const std::string &instance) {
+void DestinationFile::remove(const QueueName &queue) {
   std::vector<std::string> lines;
   for (const std::string &line : lines_) {
     const auto entry = entryOf(line);
-    if (!isOf(entry, printer, instance))
+    if (!isOf(entry, queue))
       lines.push_back(line);
     else if (entry->isDefault)
-      lines.push_back(lineOf({entry->printer, {}, {}, true}));
+      lines.push_back(lineOf({{entry->queue.printer, {}}, {}, true}));
   }
   lines_ = std::move(lines);
 }
 
-void DestinationFile::rename(const std::string &printer, const std::string &instance,
-                             const std::string &newInstance) {
+void DestinationFile::rename(const QueueName &queue, const std::string &newInstance) {
   for (std::string &line : lines_) {
     const auto entry = entryOf(line);
-    if (!isOf(entry, printer, instance))
+    if (!isOf(entry, queue))
       continue;
     // What follows the name stays as it is written.
-    const std::size_t at = line.find(entry->printer + '/');
-    line.replace(at + entry->printer.size() + 1, entry->instance.size(), newInstance);
+    const std::string &printer = entry->queue.printer;
+    const std::size_t at = line.find(printer + '/');
+    line.replace(at + printer.size() + 1, entry->queue.instance.size(), newInstance);
   }
 }
 

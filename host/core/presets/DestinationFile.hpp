@@ -2,6 +2,8 @@
 #ifndef IMAGEPOSITION_HOST_DESTINATIONFILE_HPP
 #define IMAGEPOSITION_HOST_DESTINATIONFILE_HPP
 
+#include "QueueName.hpp"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,26 +18,24 @@ public:
   static constexpr std::size_t kLongestLine = 8191;
 
   struct Entry {
-    std::string printer;
-    std::string instance; ///< Empty for the printer itself.
-    std::string options;  ///< As `cupsParseOptions` reads them.
+    QueueName queue;
+    std::string options; ///< As `cupsParseOptions` reads them.
     bool isDefault = false;
   };
 
   explicit DestinationFile(std::string_view text);
 
   /// Those of all lines that CUPS understands, in the file's order. Lines of the same destination
-  /// add up. Names match without regard to case.
+  /// add up.
   std::vector<Entry> entries() const;
-  bool has(const std::string &printer, const std::string &instance) const;
+  bool has(const QueueName &queue) const;
 
   /// In place of all lines of that destination, or at the end. False, and nothing changes, when the
   /// line would be too long.
-  bool set(const std::string &printer, const std::string &instance, const std::string &options);
+  bool set(const QueueName &queue, const std::string &options);
   /// A default printer stays the default without its instance.
-  void remove(const std::string &printer, const std::string &instance);
-  void rename(const std::string &printer, const std::string &instance,
-              const std::string &newInstance);
+  void remove(const QueueName &queue);
+  void rename(const QueueName &queue, const std::string &newInstance);
 
   std::string text() const;
 

@@ -1,21 +1,23 @@
 #include "Presets.hpp"
 
-#include "ChoiceList.hpp"
 #include "CustomValue.hpp"
 #include "DestinationFile.hpp"
 #include "ExitCode.hpp"
 #include "FileReplacement.hpp"
+#include "ForeignText.hpp"
 #include "OptionText.hpp"
-#include "PresetFit.hpp"
+#include "Phrases.hpp"
 #include "PresetTexts.hpp"
+#include "Strings.hpp"
+#include "ValueCheck.hpp"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <pwd.h>
 #include <set>
-#include <strings.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -33,14 +35,6 @@ constexpr const char *kNotKept[] = {"document-format", "document-name", "job-nam
 /// CUPS forgets a destination without options; this one, which IPP has for the purpose, keeps a
 /// preset that is all the printer's defaults.
 constexpr const char *kPlaceholder = "preset-name";
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
-
-bool isLess(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) < 0;
-}
 
 std::string everybodysPath() {
   const char *const root = std::getenv("CUPS_SERVERROOT");
@@ -155,13 +149,6 @@ std::string oneLine(std::string text) {
   return text;
 }
 
-bool contains(const std::vector<std::string> &names, const std::string &name) {
-  return std::any_of(names.begin(), names.end(),
-                     [&](const std::string &other) { return isSame(other, name); });
-}
-
-std::string withoutInstance(const std::string &queue) { return queue.substr(0, queue.find('/')); }
-
 /// "name" and "noname" become what they mean.
 void readOptions(const std::string &text, PrintSettingsStore &settings) {
   cups_option_t *options = nullptr;
@@ -173,24 +160,25 @@ void readOptions(const std::string &text, PrintSettingsStore &settings) {
 
 } // namespace
 
-Presets::Presets(const std::string &printer) : printer_(withoutInstance(printer)) {}
+Presets::Presets(const std::string &printer) : printer_(QueueName::parse(printer).printer) {}
 
 std::vector<std::string> Presets::names() const {
   std::set<std::string, IgnoringCase> names;
   for (const auto &entry : allEntries())
-    if (isSame(entry.printer, printer_) && !entry.instance.empty())
-      names.insert(entry.instance);
+    if (isSame(entry.queue.printer, printer_) && !entry.queue.instance.empty())
+      names.insert(entry.queue.instance);
   return {names.begin(), names.end()};
 }
 
 std::vector<PresetName> Presets::ofOtherPrinters() const {
   const auto isBefore = [](const PresetName &a, const PresetName &b) {
+    const IgnoringCase isLess;
     return isSame(a.printer, b.printer) ? isLess(a.name, b.name) : isLess(a.printer, b.printer);
   };
   std::set<PresetName, decltype(isBefore)> presets(isBefore);
   for (const auto &entry : allEntries())
-    if (!entry.instance.empty() && !isSame(entry.printer, printer_))
-      presets.insert({entry.printer, entry.instance});
+    if (!entry.queue.instance.empty() && !isSame(entry.queue.printer, printer_))
+      presets.insert({entry.queue.printer, entry.queue.instance});
   return {presets.begin(), presets.end()};
 }
 
@@ -214,7 +202,7 @@ std::vector<std::string> Presets::save(const std::string &name, const PrintSetti
     held.set(kPlaceholder, usable);
   const std::string options = oneLine(writeOptionText(held));
   changeFile([&](DestinationFile &file) {
-    if (!file.set(printer_, usable, options))
+    if (!file.set({printer_, usable}, options))
       throw Failure(ExitCode::Usage, messages::presetTooLarge(usable));
   });
   return lost;
@@ -224,18 +212,18 @@ void Presets::rename(const std::string &name, const std::string &newName) const 
   const std::string usable = usableName(newName);
   changeFile([&](DestinationFile &file) {
     const bool isEverybodys = contains(names(), name);
-    if (!file.has(printer_, name))
+    if (!file.has({printer_, name}))
       throw Failure(ExitCode::Usage, isEverybodys
                                          ? messages::presetOfEverybody(name, everybodysPath())
                                          : messages::presetMissing(printer_, name));
     if (!isSame(name, usable) && contains(names(), usable))
       throw Failure(ExitCode::Usage, messages::presetExists(printer_, usable));
-    file.rename(printer_, name, usable);
+    file.rename({printer_, name}, usable);
   });
 }
 
 void Presets::remove(const std::string &name) const {
-  changeFile([&](DestinationFile &file) { file.remove(printer_, name); });
+  changeFile([&](DestinationFile &file) { file.remove({printer_, name}); });
   if (contains(names(), name))
     throw Failure(ExitCode::Usage, messages::presetOfEverybody(name, everybodysPath()));
 }
@@ -250,27 +238,43 @@ LoadedPreset Presets::load(const PresetName &preset, const PrinterDescription &p
   bool isFound = false;
   PrintSettingsStore stored;
   for (const auto &entry : allEntries()) {
-    if (!isSame(entry.printer, preset.printer) || !isSame(entry.instance, preset.name))
+    if (entry.queue != QueueName{preset.printer, preset.name})
       continue;
     isFound = true;
     readOptions(entry.options, stored);
   }
   if (!isFound)
     throw Failure(ExitCode::Usage, messages::presetMissing(preset.printer, preset.name));
-  const bool isOwn = isSame(preset.printer, withoutInstance(printer.name()));
+  const bool isOwn = isSame(preset.printer, QueueName::parse(printer.name()).printer);
   LoadedPreset loaded;
   for (int i = 0; i < stored.optionCount(); i++) {
     const cups_option_t &option = stored.options()[i];
     if (isSame(option.name, kPlaceholder))
       continue;
-    const std::string misfit = misfitOf(printer.ppd(), option.name, option.value,
-                                        isOwn || contains(panelKeywords, option.name));
-    if (misfit.empty())
-      loaded.settings.set(option.name, option.value);
-    else
-      loaded.misfits.push_back(misfit);
+    const FittedSetting fitted = fitSetting(printer.ppd(), option.name, option.value,
+                                            isOwn || contains(panelKeywords, option.name));
+    if (fitted.value)
+      loaded.settings.set(option.name, *fitted.value);
+    if (!fitted.change.empty())
+      loaded.misfits.push_back(fitted.change);
   }
   return loaded;
+}
+
+std::vector<std::string> adjustments(ppd_file_t *ppd, const std::vector<std::string> &keywords,
+                                     const PrintSettingsStore &before,
+                                     const PrintSettingsStore &after) {
+  std::vector<std::string> sentences;
+  for (const std::string &keyword : keywords) {
+    const char *const given = before.get(keyword);
+    const char *const made = after.get(keyword);
+    if (given == nullptr || made == nullptr || std::strcmp(given, made) == 0)
+      continue;
+    const ppd_option_t *const option = ppdFindOption(ppd, keyword.c_str());
+    sentences.push_back(messages::valueAdjusted(
+        option != nullptr ? textOrKeyword(option->text, option->keyword) : keyword, given, made));
+  }
+  return sentences;
 }
 
 std::string Presets::usableName(const std::string &typed) {

@@ -19,7 +19,7 @@ struct PresetName {
 /// What a preset gave to a job.
 struct LoadedPreset {
   PrintSettingsStore settings;      ///< What fits the printer.
-  std::vector<std::string> misfits; ///< A sentence for each setting that was left out.
+  std::vector<std::string> misfits; ///< A sentence for each setting that was changed or left out.
 };
 
 /// The presets of the person who runs the program: destination instances in CUPS's own file
@@ -56,8 +56,9 @@ public:
   /// What the preset says beyond the printer's defaults; meant to replace the job's settings.
   LoadedPreset load(const std::string &name, const PrinterDescription &printer,
                     const std::vector<std::string> &panelKeywords = {}) const;
-  /// The same for any printer's preset. What `printer` cannot do is left out and named.
-  /// `panelKeywords` are the options that panels announce: kept, even if the PPD lacks them.
+  /// The same for any printer's preset. What `printer` cannot do is left out and named, a number
+  /// that it does not allow becomes the nearest; see `fitSetting`. `panelKeywords` are the options
+  /// that panels announce: kept, even if the PPD lacks them.
   static LoadedPreset load(const PresetName &preset, const PrinterDescription &printer,
                            const std::vector<std::string> &panelKeywords = {});
 
@@ -68,6 +69,12 @@ public:
 private:
   std::string printer_;
 };
+
+/// A sentence for each option of `keywords` whose value `before` is another one `after` panels have
+/// read it: a panel can allow less than the description does.
+std::vector<std::string> adjustments(ppd_file_t *ppd, const std::vector<std::string> &keywords,
+                                     const PrintSettingsStore &before,
+                                     const PrintSettingsStore &after);
 
 } // namespace imageposition
 

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 #include <iterator>
-#include <strings.h>
 
 namespace imageposition {
 
 namespace {
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
 
 ChoiceSet setOf(const ChoiceList &choices) { return {choices.begin(), choices.end()}; }
 
@@ -22,10 +17,6 @@ ChoiceSet choicesOf(const ppd_option_t &option) {
 }
 
 } // namespace
-
-bool IgnoringCase::operator()(const std::string &left, const std::string &right) const noexcept {
-  return strcasecmp(left.c_str(), right.c_str()) < 0;
-}
 
 ChoiceList splitChoices(const std::string &value) {
   ChoiceList choices;

@@ -5,6 +5,8 @@
 #ifndef IMAGEPOSITION_HOST_CHOICELIST_HPP
 #define IMAGEPOSITION_HOST_CHOICELIST_HPP
 
+#include "Strings.hpp"
+
 #include <cups/ppd.h>
 
 #include <set>
@@ -15,10 +17,7 @@ namespace imageposition {
 
 using ChoiceList = std::vector<std::string>;
 
-/// The order of keywords of a PPD, whose case does not matter.
-struct IgnoringCase {
-  bool operator()(const std::string &left, const std::string &right) const noexcept;
-};
+/// By keyword, whose case does not matter.
 using ChoiceSet = std::set<std::string, IgnoringCase>;
 
 /// At commas, without blanks around; no empty parts.

@@ -1,9 +1,9 @@
 #include "Collation.hpp"
 
 #include "PrinterOptions.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
-#include <strings.h>
 
 namespace imageposition {
 
@@ -16,14 +16,14 @@ constexpr const char *kCollatedCopies = "separate-documents-collated-copies";
 bool isTrue(const std::string &value) {
   constexpr const char *kWords[] = {"true", "on", "yes"};
   return std::any_of(std::begin(kWords), std::end(kWords),
-                     [&](const char *yes) { return strcasecmp(value.c_str(), yes) == 0; });
+                     [&](const char *yes) { return isSame(value, yes); });
 }
 
 } // namespace
 
 bool isCollated(PrinterDescription &printer, PrintSettingsStore &job) {
   if (const char *const handling = job.get(kHandling))
-    return strcasecmp(handling, kCollatedCopies) == 0;
+    return isSame(handling, kCollatedCopies);
   if (const auto option = PrinterOptions(printer, job).find(kOption))
     return isTrue(option->chosen);
   const char *const stored = job.get(kOption);

@@ -5,9 +5,9 @@
 #include "Phrases.hpp"
 #include "PrinterTexts.hpp"
 #include "SecretOptions.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
-#include <strings.h>
 #include <utility>
 
 namespace imageposition {
@@ -16,12 +16,7 @@ namespace {
 
 using Kind = CustomParameter::Kind;
 
-constexpr const char kPrefix[] = "Custom.";
-constexpr std::size_t kPrefixLength = sizeof kPrefix - 1;
-
-bool hasPrefix(const std::string &value) {
-  return strncasecmp(value.c_str(), kPrefix, kPrefixLength) == 0;
-}
+constexpr std::string_view kPrefix = "Custom.";
 
 std::optional<Kind> kindOf(ppd_cptype_t type) {
   switch (type) {
@@ -148,10 +143,10 @@ std::string pageSizeText(const CustomEntries &entries) {
 
 /// Whatever stands in their places.
 std::optional<CustomEntries> entriesOf(const CustomOption &option, const std::string &value) {
-  if (hasPrefix(value)) {
-    std::string entry = value.substr(kPrefixLength);
+  if (hasCustomPrefix(value)) {
+    std::string entry = withoutCustomPrefix(value);
     if (option.isPageSize) // which CUPS finds in this spelling alone
-      return value.compare(0, kPrefixLength, kPrefix) == 0 ? readPageSize(entry) : std::nullopt;
+      return startsWith(value, kPrefix) ? readPageSize(entry) : std::nullopt;
     CustomEntries entries(option.parameters.size());
     entries.front() = std::move(entry); // as CUPS reads it
     return entries;
@@ -181,7 +176,7 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
   ppd_coption_t *const source = ppdFindCustomOption(ppd, keyword.c_str());
   if (source == nullptr)
     return std::nullopt;
-  if (strcasecmp(keyword.c_str(), "PageSize") == 0)
+  if (isSame(keyword, "PageSize"))
     return hasPageSizes(*ppd) ? std::optional(pageSizeOption(*ppd)) : std::nullopt;
   CustomOption option{source->keyword, false, {}};
   std::vector<const ppd_cparam_t *> parameters;
@@ -202,8 +197,18 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
   return option.parameters.empty() ? std::nullopt : std::optional(option);
 }
 
+std::string withCustomPrefix(const std::string &value) { return std::string(kPrefix) + value; }
+
+bool hasCustomPrefix(std::string_view value) noexcept {
+  return isSame(value.substr(0, kPrefix.size()), kPrefix);
+}
+
+std::string withoutCustomPrefix(const std::string &value) {
+  return hasCustomPrefix(value) ? value.substr(kPrefix.size()) : value;
+}
+
 bool isEnteredValue(const std::string &value) {
-  return hasPrefix(value) || (!value.empty() && value.front() == '{');
+  return hasCustomPrefix(value) || (!value.empty() && value.front() == '{');
 }
 
 std::optional<CustomEntries> readCustomValue(const CustomOption &option, const std::string &value) {
@@ -222,10 +227,11 @@ std::string writeCustomValue(const CustomOption &option, const CustomEntries &en
       width = convert(width, LengthUnit::Point);
       height = convert(height, LengthUnit::Point);
     }
-    return kPrefix + plainNumber(width.number, decimalsOf(width.unit)) + "x" + writeLength(height);
+    return withCustomPrefix(plainNumber(width.number, decimalsOf(width.unit)) + "x" +
+                            writeLength(height));
   }
   if (entries.size() == 1)
-    return kPrefix + entries.front();
+    return withCustomPrefix(entries.front());
   std::string value;
   for (std::size_t i = 0; i < entries.size(); i++)
     value += (i == 0 ? "{" : " ") + writeOptionArgument(option.parameters[i].name, entries[i]);
@@ -234,9 +240,9 @@ std::string writeCustomValue(const CustomOption &option, const CustomEntries &en
 
 std::string customValueForm(const CustomOption &option) {
   if (option.isPageSize)
-    return "Custom.WIDTHxHEIGHT";
+    return withCustomPrefix("WIDTHxHEIGHT");
   if (option.parameters.size() == 1)
-    return "Custom.VALUE";
+    return withCustomPrefix("VALUE");
   std::string form;
   for (const CustomParameter &parameter : option.parameters)
     form += (form.empty() ? "{" : " ") + parameter.name + "=VALUE";
@@ -273,7 +279,7 @@ bool isHiddenValue(ppd_file_t *ppd, const std::string &keyword, const std::strin
 
 void makePlainNumber(ppd_file_t *ppd, const std::string &keyword, PrintSettingsStore &settings) {
   const char *const value = settings.get(keyword);
-  if (value == nullptr || !hasPrefix(value))
+  if (value == nullptr || !hasCustomPrefix(value))
     return;
   const auto option = customOption(ppd, keyword);
   if (!option || option->parameters.size() != 1)

@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace imageposition {
@@ -49,6 +50,16 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
 
 /// A text for each parameter, as CUPS takes it: "7", "0.5", "100mm" or "30" (points), "words".
 using CustomEntries = std::vector<std::string>;
+
+/// What CUPS marks while a value that was entered holds.
+constexpr const char *kCustomChoice = "Custom";
+
+/// "Custom.VALUE", the form of a value that was entered.
+std::string withCustomPrefix(const std::string &value);
+/// Whether "Custom." stands before the value, in any case as CUPS reads it.
+bool hasCustomPrefix(std::string_view value) noexcept;
+/// The value itself where nothing stands before it.
+std::string withoutCustomPrefix(const std::string &value);
 
 /// Whether the value has a form that only entered ones have: "Custom.VALUE" or "{name=value ...}".
 bool isEnteredValue(const std::string &value);

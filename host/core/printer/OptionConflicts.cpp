@@ -2,19 +2,15 @@
 
 #include "ForeignText.hpp"
 #include "PrinterTexts.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
 #include <map>
 #include <set>
-#include <strings.h>
 
 namespace imageposition {
 
 namespace {
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
 
 NamedChoice named(const ppd_option_t &option, const ppd_choice_t *choice) {
   NamedChoice name;
@@ -67,8 +63,10 @@ const ppd_choice_t *choiceToKeep(ppd_file_t *ppd, const std::vector<OptionConstr
 }
 
 bool isBefore(const ConstrainedOption &left, const ConstrainedOption &right) {
-  const int order = strcasecmp(left.option->keyword, right.option->keyword);
-  return order != 0 ? order < 0 : strcasecmp(left.choice->choice, right.choice->choice) < 0;
+  const IgnoringCase isLess;
+  return isSame(left.option->keyword, right.option->keyword)
+             ? isLess(left.choice->choice, right.choice->choice)
+             : isLess(left.option->keyword, right.option->keyword);
 }
 
 struct BySides {

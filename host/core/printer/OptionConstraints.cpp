@@ -2,22 +2,17 @@
 
 #include "ChoiceList.hpp"
 #include "CustomValue.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
 #include <map>
 #include <optional>
 #include <string>
-#include <strings.h>
+#include <string_view>
 
 namespace imageposition {
 
 namespace {
-
-constexpr const char *kCustom = "Custom";
-
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
 
 bool isPageSize(const ppd_option_t *option) {
   return isSame(option->keyword, "PageSize") || isSame(option->keyword, "PageRegion");
@@ -31,9 +26,10 @@ public:
   /// None for an option or a choice that the PPD does not have. "CustomPageSize True" is how a PPD
   /// names the choice "Custom" of "PageSize".
   std::optional<ConstrainedOption> side(std::string keyword, std::string choice) {
-    if (strncasecmp(keyword.c_str(), kCustom, 6) == 0 && isSame(choice, "True")) {
-      keyword.erase(0, 6);
-      choice = kCustom;
+    const std::size_t length = std::string_view(kCustomChoice).size();
+    if (isSame(keyword.substr(0, length), kCustomChoice) && isSame(choice, "True")) {
+      keyword.erase(0, length);
+      choice = kCustomChoice;
     }
     ConstrainedOption result;
     result.option = ppdFindOption(ppd_, keyword.c_str());
@@ -53,7 +49,7 @@ private:
     if (isNew)
       for (int i = 0; i < option.num_choices; i++)
         known->second.emplace(option.choices[i].choice, &option.choices[i]);
-    const auto choice = known->second.find(isEnteredValue(keyword) ? kCustom : keyword);
+    const auto choice = known->second.find(isEnteredValue(keyword) ? kCustomChoice : keyword);
     return choice != known->second.end() ? choice->second : nullptr;
   }
 
@@ -120,7 +116,7 @@ public:
   explicit Marks(ppd_file_t *ppd) : ppd_(ppd) {
     const ppd_size_t *const size = ppdPageSize(ppd, nullptr);
     if (size != nullptr)
-      pageSize_ = strncasecmp(size->name, "Custom.", 7) == 0 ? kCustom : size->name;
+      pageSize_ = hasCustomPrefix(size->name) ? kCustomChoice : size->name;
   }
 
   bool holds(const ConstrainedOption &side) {

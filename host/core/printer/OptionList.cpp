@@ -17,7 +17,7 @@ std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {
 std::string formFor(const PrinterOption &option) {
   if (option.custom)
     return customValueForm(*option.custom);
-  return option.keyword == "PageSize" ? "Custom.WIDTHxHEIGHT" : "Custom.VALUE";
+  return withCustomPrefix(option.keyword == "PageSize" ? "WIDTHxHEIGHT" : "VALUE");
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "PpdSize.hpp"
 
+#include "Strings.hpp"
+
 #include <cups/cups.h>
 #include <cups/file.h>
 
@@ -8,7 +10,6 @@
 #include <memory>
 #include <set>
 #include <string_view>
-#include <strings.h>
 
 namespace imageposition {
 
@@ -22,10 +23,6 @@ constexpr long long kMostBytes = 16'000'000;
 struct Close {
   void operator()(cups_file_t *file) const noexcept { cupsFileClose(file); }
 };
-
-bool startsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
 
 std::string_view wordOf(std::string_view text) {
   return text.substr(0, text.find_first_of(" \t:/\r\n"));
@@ -97,7 +94,7 @@ int mostChoices(const ppd_group_t &group) {
 int countConstraints(const ppd_file_t &ppd) {
   int count = ppd.num_consts;
   for (int i = 0; i < ppd.num_attrs; i++)
-    if (strcasecmp(ppd.attrs[i]->name, "cupsUIConstraints") == 0)
+    if (isSame(ppd.attrs[i]->name, "cupsUIConstraints"))
       count++;
   return count;
 }
@@ -128,7 +125,7 @@ bool isMarkedSoon(const ppd_file_t &ppd) {
   for (int i = 0; i < ppd.num_groups; i++) {
     const ppd_group_t &group = ppd.groups[i];
     perConstraint = std::max<long long>(perConstraint, mostChoices(group));
-    if (strcasecmp(group.name, "InstallableOptions") == 0)
+    if (isSame(group.name, "InstallableOptions"))
       perConstraint = std::max<long long>(perConstraint, group.num_options);
   }
   return countConstraints(ppd) * perConstraint <= kMostComparisons;

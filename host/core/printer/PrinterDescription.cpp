@@ -4,6 +4,7 @@
 #include "ExitCode.hpp"
 #include "PpdSize.hpp"
 #include "PrinterTexts.hpp"
+#include "QueueName.hpp"
 #include "VisibleText.hpp"
 
 #include <algorithm>
@@ -48,18 +49,6 @@ bool isCupsReachable() {
                                           cupsEncryption(), 1, kPatienceInMilliseconds, nullptr);
   httpClose(connection);
   return connection != nullptr;
-}
-
-struct QueueName {
-  std::string printer;
-  std::string instance; // may be empty
-};
-
-QueueName splitQueueName(const std::string &queue) {
-  const std::size_t slash = queue.find('/');
-  if (slash == std::string::npos)
-    return {queue, {}};
-  return {queue.substr(0, slash), queue.substr(slash + 1)};
 }
 
 /// What users chose with lpoptions, or an administrator for everybody. The list also has the
@@ -131,7 +120,7 @@ PrinterDescription PrinterDescription::fromFile(const std::string &path) {
 }
 
 PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
-  const QueueName name = splitQueueName(queue);
+  const QueueName name = QueueName::parse(queue);
   char file[1024] = "";
   time_t changed = 0;
   const int status = // any number that CUPS sent

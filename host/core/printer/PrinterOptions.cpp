@@ -1,30 +1,21 @@
 #include "PrinterOptions.hpp"
 
-#include "EntryCheck.hpp"
 #include "ForeignText.hpp"
 #include "Phrases.hpp"
 #include "PrinterTexts.hpp"
+#include "Strings.hpp"
+#include "ValueCheck.hpp"
 #include "VisibleText.hpp"
 
 #include <algorithm>
 #include <map>
-#include <strings.h>
 
 namespace imageposition {
 
 namespace {
 
-bool isSame(const std::string &left, const std::string &right) {
-  return strcasecmp(left.c_str(), right.c_str()) == 0;
-}
-
-bool contains(const std::vector<std::string> &keywords, const std::string &keyword) {
-  return std::any_of(keywords.begin(), keywords.end(),
-                     [&](const std::string &other) { return isSame(other, keyword); });
-}
-
 /// The choice that CUPS adds to an option that takes a value of the person's own.
-bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, "Custom"); }
+bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, kCustomChoice); }
 
 /// Whether a job can name it and CUPS marks it: of an option that the PPD has in several groups
 /// CUPS finds one only.
@@ -117,11 +108,11 @@ public:
 private:
   /// Marking keeps the choice "Custom" alone; the job, the queue or the PPD has the value.
   void nameEnteredValue(PrinterOption &option, const std::string &ofPpd) const {
-    if (isSame(option.defaultChoice, "Custom")) {
+    if (isSame(option.defaultChoice, kCustomChoice)) {
       const std::string value = enteredIn(queue_, option.keyword);
       option.defaultChoice = !value.empty() ? value : ofPpd;
     }
-    const bool isMarked = isSame(option.chosen, "Custom");
+    const bool isMarked = isSame(option.chosen, kCustomChoice);
     if (!isMarked && !isNumber(option))
       return;
     std::string value = isMarked ? enteredIn(job_, option.keyword) : job_.get(option.keyword);
@@ -224,18 +215,9 @@ bool PrinterOptions::choose(const std::string &keyword, const std::string &choic
   const auto option = find(keyword);
   if (!option || option->isLocked)
     return false;
-  if (option->kind == PrinterOption::Kind::Several) {
-    const ppd_option_t &source = *ppdFindOption(printer_.ppd(), keyword.c_str());
-    const ChoiceList wanted = splitChoices(choice);
-    return areChoices(source, wanted) && store(*option, joinChoices(inOrder(source, wanted)));
-  }
-  if (isEnteredValue(choice))
-    return option->custom && customValueProblem(*option->custom, choice).empty() &&
-           store(*option, choice);
-  const auto wanted =
-      std::find_if(option->choices.begin(), option->choices.end(),
-                   [&](const OptionChoice &known) { return isSame(known.keyword, choice); });
-  return wanted != option->choices.end() && store(*option, wanted->keyword);
+  const ppd_option_t &source = *ppdFindOption(printer_.ppd(), keyword.c_str());
+  const auto accepted = acceptedValue(printer_.ppd(), source, choice);
+  return accepted && store(*option, *accepted);
 }
 
 bool PrinterOptions::tick(const std::string &keyword, const std::string &choice, bool on) {

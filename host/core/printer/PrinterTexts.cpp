@@ -114,17 +114,17 @@ std::string misfitOption(const std::string &option, const std::string &value) {
   return text("\"{1}\" ({2}) was left out: this printer has no such option.").with(option, value);
 }
 std::string misfitChoice(const std::string &option, const std::string &value) {
-  return text("\"{1}\" was left as it is: this printer does not offer \"{2}\".")
+  return text("\"{1}\" has this printer's default: the printer does not offer \"{2}\".")
       .with(option, value);
 }
 std::string misfitEntered(const std::string &option, const std::string &problem) {
-  return text("\"{1}\" was left as it is: {2}").with(option, problem);
+  return text("\"{1}\" has this printer's default: {2}").with(option, problem);
 }
-std::string misfitRange(const std::string &option, const std::string &value,
-                        const std::string &lowest, const std::string &highest) {
-  return text("\"{1}\" was left as it is: {2} is not between {3} and {4}, which this printer "
-              "allows.")
-      .with(option, value, lowest, highest);
+std::string broughtIntoRange(const std::string &option, const std::string &value,
+                             const std::string &nearest, const std::string &range) {
+  // Translators: {2} and {3} are numbers, {4} is a range such as "-50 to 50".
+  return text("\"{1}\" was set to {3} instead of {2}: this printer takes {4}.")
+      .with(option, value, nearest, range);
 }
 const Text kGeneralGroup = text("General");
 

@@ -59,8 +59,8 @@ std::string conflictProposal(const std::vector<std::string> &changes);
 std::string misfitOption(const std::string &option, const std::string &value);
 std::string misfitChoice(const std::string &option, const std::string &value);
 std::string misfitEntered(const std::string &option, const std::string &problem);
-std::string misfitRange(const std::string &option, const std::string &value,
-                        const std::string &lowest, const std::string &highest);
+std::string broughtIntoRange(const std::string &option, const std::string &value,
+                             const std::string &nearest, const std::string &range);
 
 // The same in the summary.
 /// CUPS's own name for the options that stand in no group.

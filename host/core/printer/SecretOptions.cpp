@@ -1,9 +1,10 @@
 #include "SecretOptions.hpp"
 
+#include "Strings.hpp"
+
 #include <algorithm>
 #include <iterator>
 #include <string_view>
-#include <strings.h>
 
 namespace imageposition {
 
@@ -25,15 +26,14 @@ constexpr SecretOption kSecretOptions[] = {
     {"job-password-encryption", "PWG 5100.11: how \"job-password\" is hashed"},
 };
 
-bool endsWith(const std::string &name, std::string_view end) {
-  return name.size() >= end.size() &&
-         strncasecmp(name.c_str() + name.size() - end.size(), end.data(), end.size()) == 0;
+bool endsLike(std::string_view name, std::string_view end) {
+  return name.size() >= end.size() && isSame(name.substr(name.size() - end.size()), end);
 }
 
 /// "pin" as a word: not that of "StapleSpin".
 bool endsWithPin(const std::string &name) {
   constexpr std::string_view kPin = "pin";
-  if (!endsWith(name, kPin))
+  if (!endsLike(name, kPin))
     return false;
   const std::size_t start = name.size() - kPin.size();
   if (start == 0)
@@ -45,7 +45,7 @@ bool endsWithPin(const std::string &name) {
 
 /// As printer makers name them.
 bool soundsSecret(const std::string &name) {
-  return endsWith(name, "password") || endsWith(name, "passcode") || endsWithPin(name);
+  return endsLike(name, "password") || endsLike(name, "passcode") || endsWithPin(name);
 }
 
 } // namespace
@@ -53,9 +53,7 @@ bool soundsSecret(const std::string &name) {
 bool isSecretName(const std::string &name) {
   return soundsSecret(name) ||
          std::any_of(std::begin(kSecretOptions), std::end(kSecretOptions),
-                     [&](const SecretOption &option) {
-                       return strcasecmp(option.name, name.c_str()) == 0; // as CUPS matches
-                     });
+                     [&](const SecretOption &option) { return isSame(option.name, name); });
 }
 
 } // namespace imageposition

@@ -5,15 +5,16 @@
 #include "ExitCode.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
-#include "PresetFit.hpp"
-#include "Presets.hpp"
+#include "QueueName.hpp"
 #include "SetupTexts.hpp"
+#include "ValueCheck.hpp"
 
 #include <cups/cups.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <iostream>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -61,22 +62,20 @@ void takeLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
 }
 
 /// A preset is an instance of the queue; panels see what it holds only among the job's settings.
-PrintSettingsStore settingsOfInstance(const std::string &queue, const PrinterDescription &printer) {
-  const std::size_t slash = queue.find('/');
-  if (slash == std::string::npos)
+LoadedPreset presetOf(const std::string &queue, const PrinterDescription &printer) {
+  const QueueName name = QueueName::parse(queue);
+  if (name.instance.empty())
     return {};
-  const LoadedPreset preset =
-      Presets(queue.substr(0, slash)).load(queue.substr(slash + 1), printer);
+  LoadedPreset preset = Presets(name.printer).load(name.instance, printer);
   for (const std::string &misfit : preset.misfits)
     std::cerr << misfit << '\n';
-  return preset.settings;
+  return preset;
 }
 
 /// The queue's preset, or the ticket that is there already, with the command line's options on top.
-Ticket openTicket(const Arguments &arguments, const std::string &queue,
-                  const PrinterDescription &printer) {
+Ticket openTicket(const Arguments &arguments, const PrintSettingsStore &preset) {
   Ticket ticket;
-  ticket.settings = settingsOfInstance(queue, printer);
+  ticket.settings = preset;
   if (!arguments.ticket.empty())
     if (auto stored = readTicket(arguments.ticket))
       ticket = *stored;
@@ -103,19 +102,22 @@ void writeToOutput(const std::string &settings) {
     throw Failure(ExitCode::Ticket, messages::outputUnwritable({}));
 }
 
-/// False for a choice or a value of another printer's, which this one does not take.
-bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) {
+/// What a setting for the printer `before` is on this one; none when this one has no such option or
+/// does not take the value.
+std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
+                                     const cups_option_t &setting) {
   if (ppdFindOption(before, setting.name) == nullptr)
-    return true;
-  return ppdFindOption(ppd, setting.name) != nullptr &&
-         misfitOf(ppd, setting.name, setting.value, true).empty();
+    return setting.value;
+  if (ppdFindOption(ppd, setting.name) == nullptr)
+    return std::nullopt;
+  return fitSetting(ppd, setting.name, setting.value, true).value;
 }
 
 } // namespace
 
 PrintJob::PrintJob(const Arguments &arguments)
     : arguments_(arguments), queue_(queueFor(arguments)), printer_(firstPrinter(arguments, queue_)),
-      ticket_(openTicket(arguments, queue_, *printer_)),
+      preset_(presetOf(queue_, *printer_)), ticket_(openTicket(arguments, preset_.settings)),
       isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
@@ -126,12 +128,15 @@ std::unique_ptr<PrinterDescription> PrintJob::openPrinter(const std::string &que
 }
 
 void PrintJob::keepWhatFits(const PrinterDescription &before) {
-  std::vector<std::string> strange;
-  for (int i = 0; i < settings().optionCount(); i++)
-    if (!canHave(printer_->ppd(), before.ppd(), settings().options()[i]))
-      strange.push_back(settings().options()[i].name);
-  for (const std::string &name : strange)
-    settings().remove(name);
+  const PrintSettingsStore all = settings();
+  for (int i = 0; i < all.optionCount(); i++) {
+    const cups_option_t &setting = all.options()[i];
+    const auto value = valueHere(printer_->ppd(), before.ppd(), setting);
+    if (!value)
+      settings().remove(setting.name);
+    else if (*value != setting.value)
+      settings().set(setting.name, *value);
+  }
 }
 
 void PrintJob::takePrinter(const std::string &queue, std::unique_ptr<PrinterDescription> printer) {
@@ -152,7 +157,7 @@ std::vector<std::string> PrintJob::documentsToSend() const {
 
 JobRequest PrintJob::request(const DestinationList &destinations) const {
   JobRequest request;
-  request.printer = queue_.substr(0, queue_.find('/'));
+  request.printer = QueueName::parse(queue_).printer;
   request.title = arguments_.title;
   if (request.title.empty())
     request.title = documentName(documentsToSend().front());
@@ -188,7 +193,7 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
 }
 
 void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
-  const std::string printer = queue_.substr(0, queue_.find('/'));
+  const std::string printer = QueueName::parse(queue_).printer;
   sentName_ = printer + "-" + std::to_string(sent.id);
   if (arguments_.isSilent || arguments_.isMailWanted)
     return;

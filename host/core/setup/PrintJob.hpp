@@ -5,6 +5,7 @@
 #include "CommandLine.hpp"
 #include "Destinations.hpp"
 #include "JobSubmission.hpp"
+#include "Presets.hpp"
 #include "PrinterDescription.hpp"
 #include "Ticket.hpp"
 
@@ -30,6 +31,10 @@ public:
   PrinterDescription &printer() noexcept { return *printer_; }
   const PrinterDescription &printer() const noexcept { return *printer_; }
   PrintSettingsStore &settings() noexcept { return ticket_.settings; }
+
+  /// Sentences about settings of the first queue's preset that its printer does not accept as they
+  /// are. They have been written to standard error.
+  const std::vector<std::string> &misfits() const noexcept { return preset_.misfits; }
 
   /// Whether CUPS gets the job; otherwise its settings are written.
   bool isSubmitted() const noexcept { return isSubmitted_; }
@@ -74,6 +79,7 @@ private:
   const Arguments &arguments_;
   std::string queue_;
   std::unique_ptr<PrinterDescription> printer_;
+  LoadedPreset preset_; // of the first queue
   Ticket ticket_;
   bool isSubmitted_;
   std::string sentName_;

@@ -2,6 +2,7 @@
 
 #include "PluginTrust.hpp"
 #include "ProgramFolder.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
 #include <clocale>
@@ -46,10 +47,6 @@ const Name kNames[] = {
     {"C", kEnglish},
     {"POSIX", kEnglish},
 };
-
-bool startsWith(const std::string &text, const std::string &start) {
-  return text.compare(0, start.size(), start) == 0;
-}
 
 std::vector<std::string> split(const std::string &text, char separator) {
   std::vector<std::string> parts;

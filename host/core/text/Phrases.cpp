@@ -10,6 +10,10 @@ std::string because(std::string reason) {
 std::string summaryLine(const std::string &title, const std::string &value) {
   return text("{1}: {2}").with(title, value);
 }
+std::string valueAdjusted(const std::string &name, const std::string &given,
+                          const std::string &made) {
+  return text("The panel made \"{3}\" of \"{2}\" for {1}.").with(name, given, made);
+}
 const char *const kProgram = "print-dialog: ";
 std::string inWords(const std::vector<std::string> &parts) {
   if (parts.size() < 2)

@@ -16,6 +16,10 @@ std::string because(std::string reason);
 // The window.
 std::string summaryLine(const std::string &title, const std::string &value);
 
+/// Of a value that a panel does not take as it is.
+std::string valueAdjusted(const std::string &name, const std::string &given,
+                          const std::string &made);
+
 // Before a message that ends the program.
 extern const char *const kProgram;
 

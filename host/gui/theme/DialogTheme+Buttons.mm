@@ -1,5 +1,7 @@
 #import "DialogTheme.h"
 
+#import "Checkbox.h"
+
 using namespace imageposition;
 
 namespace {
@@ -17,9 +19,6 @@ bool isPressed(GSThemeControlState state) {
 bool isDefault(NSCell *cell, NSView *view) {
   return cell != nil && [[view window] defaultButtonCell] == cell;
 }
-
-/// A checkbox or a radio button: it shows its state by another image.
-bool isSwitch(NSButtonCell *cell) { return ([cell showsStateBy] & NSContentsCellMask) != 0; }
 
 /// Interface files give a rounded button more room than it fills, by this platform's rule for them.
 NSRect bezelRect(NSRect frame, int style) {
@@ -67,7 +66,7 @@ NSRect bezelRect(NSRect frame, int style) {
 /// A bezel and the box of a checkbox show the focus themselves.
 - (void)drawFocusFrame:(NSRect)frame view:(NSView *)view {
   const bool isButton = [view isKindOfClass:[NSButton class]];
-  if (!isButton || (![(NSButton *)view isBordered] && !isSwitch([(NSButton *)view cell])))
+  if (!isButton || (![(NSButton *)view isBordered] && !isCheckbox([(NSButton *)view cell])))
     drawFocusRing(NSIntersectionRect(NSInsetRect(frame, -2, -2), [view bounds]), kCornerRadius,
                   palette.focusRing);
 }

@@ -1,11 +1,13 @@
 #import "KeyWindow.h"
 
+#import "Checkbox.h"
 #import "Guard.h"
 #include "Mnemonic.hpp"
 
 #include <algorithm>
 
 using imageposition::ControlKey;
+using imageposition::isCheckbox;
 
 namespace {
 
@@ -58,8 +60,7 @@ BOOL isButton(id responder) {
 }
 
 BOOL isPushButton(id responder) {
-  return isButton(responder) &&
-         ([[(NSButton *)responder cell] showsStateBy] & NSContentsCellMask) == 0;
+  return isButton(responder) && !isCheckbox([(NSButton *)responder cell]);
 }
 
 /// While it is open the keys are the menu's.

@@ -1,5 +1,6 @@
 #import "MnemonicControls.h"
 
+#import "Checkbox.h"
 #import "Labels.h"
 #include "Mnemonic.hpp"
 #import "TextBridge.h"
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+using imageposition::isCheckbox;
 using imageposition::MnemonicText;
 using imageposition::toString;
 
@@ -77,9 +79,9 @@ void drawUnderline(const Underline &line, NSRect text, NSFont *font, NSColor *co
 - (NSRect)drawTitle:(NSAttributedString *)title withFrame:(NSRect)frame inView:(NSView *)view {
   const NSRect drawn = [super drawTitle:title withFrame:frame inView:view];
   const NSSize size = [title size];
-  const bool isSwitch = ([self showsStateBy] & NSContentsCellMask) != 0;
   NSRect text = frame;
-  text.origin.x += isSwitch ? 3 : (NSWidth(frame) - size.width) / 2; // as the theme moves it
+  text.origin.x +=
+      isCheckbox(self) ? 3 : (NSWidth(frame) - size.width) / 2; // as the theme moves it
   text.origin.y = NSMidY(frame) - size.height / 2;
   drawUnderline(underline, text, [self font], [self textColor]);
   return drawn;

@@ -44,6 +44,8 @@ struct DialogState;
 /// Fills the pop-up with the panels that are left and the dialog's own panes.
 - (void)listPanes;
 - (void)showChosenPane;
+/// The options that panels announce.
+- (std::vector<std::string>)announcedOptions;
 /// The first control of the pane, or the button that goes on where the pane has none.
 - (NSView *)firstControl;
 - (void)leaveOut:(imageposition::PanelDriver *)panel because:(const std::string &)trouble;

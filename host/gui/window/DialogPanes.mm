@@ -23,7 +23,6 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 - (void)showOptions;
 - (void)showPanel:(PanelDriver *)panel;
 - (std::vector<OptionGroup>)listedOptions;
-- (std::vector<std::string>)announcedOptions;
 @end
 
 @implementation DialogController (Panes)

@@ -100,15 +100,23 @@ std::string joined(const std::vector<std::string> &sentences) {
 
 /// The panels' values are among the settings; they read them anew.
 - (void)loadPreset:(const PresetName &)preset {
-  const LoadedPreset loaded = Presets::load(preset, session->job().printer());
+  const std::vector<std::string> announced = [self announcedOptions];
+  const LoadedPreset loaded = Presets::load(preset, session->job().printer(), announced);
   session->job().settings() = loaded.settings;
   session->panels().takePlainNumbers();
+  const PrintSettingsStore given = session->job().settings();
   session->job().printer().mark(session->job().settings());
   [self restorePanels];
   state->preset = preset.printer == printerOf(session->job().queue()) ? preset.name : "";
   [self refresh];
   [self showChosenPane];
-  [self say:joined(loaded.misfits)];
+  if (![self savePanels])
+    return;
+  std::vector<std::string> changes = loaded.misfits;
+  for (std::string &sentence :
+       adjustments(session->job().printer().ppd(), announced, given, session->job().settings()))
+    changes.push_back(std::move(sentence));
+  [self say:joined(changes)];
 }
 
 - (void)savePreset {

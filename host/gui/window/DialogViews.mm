@@ -1,5 +1,6 @@
 #import "DialogViews.h"
 
+#include "Copies.hpp"
 #include "HelpTexts.hpp"
 #import "KeyLoop.h"
 #import "KeyScrollView.h"
@@ -108,7 +109,7 @@ void Builder::makeControls() {
   views_.copies = makeField(56, target, actions_.copiesChanged);
   views_.copiesStepper = [[[NSStepper alloc] initWithFrame:NSMakeRect(0, 0, 19, 27)] autorelease];
   [views_.copiesStepper setMinValue:1];
-  [views_.copiesStepper setMaxValue:9999];
+  [views_.copiesStepper setMaxValue:kMostCopies];
   [views_.copiesStepper setValueWraps:NO];
   [views_.copiesStepper setTarget:target];
   [views_.copiesStepper setAction:actions_.copiesStepped];

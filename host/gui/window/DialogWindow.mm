@@ -6,6 +6,7 @@
 #import "HelpPanel.h"
 #import "NotePanel.h"
 #include "PasteboardTrouble.hpp"
+#include "Phrases.hpp"
 #include "PluginTexts.hpp"
 #import "Pool.h"
 #import "TextBridge.h"
@@ -156,6 +157,9 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
     troubles = messages::kNoPanelHere;
   if (!troubles.empty())
     [self say:troubles];
+  if (!session->job().misfits().empty())
+    [views.message setStringValue:toString(messages::sentences(
+                                      {troubles, messages::sentences(session->job().misfits())}))];
 }
 
 - (void)show {

@@ -1,6 +1,5 @@
 #import "ValuePanel.h"
 
-#include "EntryCheck.hpp"
 #import "Labels.h"
 #include "Mnemonic.hpp"
 #import "MnemonicControls.h"
@@ -8,6 +7,7 @@
 #include "Phrases.hpp"
 #include "PrinterTexts.hpp"
 #import "TextBridge.h"
+#include "ValueCheck.hpp"
 #include "WindowTexts.hpp"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "WindowTexts.hpp"
 
+#include "Copies.hpp"
 #include "Phrases.hpp"
 
 namespace imageposition::messages {
@@ -84,7 +85,8 @@ std::string printerState(const std::string &state, const std::string &location) 
   return location.empty() ? state : state + " · " + location;
 }
 std::string copiesNotUnderstood(const std::string &typed) {
-  return text("\"{1}\" is no number of copies. Enter a number from 1 to 9999.").with(typed);
+  return text("\"{1}\" is no number of copies. Enter a number from 1 to {2}.")
+      .with(typed, kMostCopies);
 }
 const Text kNothingToPrint = text(
     "There is no document to print. Name one: print-dialog FILE. Or choose \"Save as ticket\".");

@@ -5,6 +5,7 @@
 #include "ExitCode.hpp"
 #import "Guard.h"
 #import "PanelControls.h"
+#include "Phrases.hpp"
 #include "PluginTexts.hpp"
 
 #include <ostream>

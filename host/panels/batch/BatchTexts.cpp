@@ -33,9 +33,5 @@ std::string switchUnavailable(const std::string &reason) {
                          "panel has switched it off."),
                     reason});
 }
-std::string valueAdjusted(const std::string &name, const std::string &typed,
-                          const std::string &shown) {
-  return text("The panel made \"{3}\" of \"{2}\" for {1}.").with(name, typed, shown);
-}
 
 } // namespace imageposition::messages

@@ -20,8 +20,6 @@ std::string ambiguousField(const std::string &name, const std::vector<std::strin
 std::string fieldUnavailable(const std::string &name, const std::string &reason);
 extern const Text kNoSwitch;
 std::string switchUnavailable(const std::string &reason);
-std::string valueAdjusted(const std::string &name, const std::string &typed,
-                          const std::string &shown);
 
 } // namespace imageposition::messages
 

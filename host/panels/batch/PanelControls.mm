@@ -1,5 +1,6 @@
 #import "PanelControls.h"
 
+#import "Checkbox.h"
 #import "TextBridge.h"
 
 #include <cstdlib>
@@ -31,11 +32,9 @@ std::string outletOf(id owner, id object) {
   return {};
 }
 
-/// A checkbox, and no push button: its cell shows its state by another image.
 bool isSwitch(NSView *view) {
-  if (![view isKindOfClass:[NSButton class]] || [view isKindOfClass:[NSPopUpButton class]])
-    return false;
-  return ([[(NSButton *)view cell] showsStateBy] & NSContentsCellMask) != 0;
+  return [view isKindOfClass:[NSButton class]] && ![view isKindOfClass:[NSPopUpButton class]] &&
+         isCheckbox([(NSButton *)view cell]);
 }
 
 void replaceContent(NSText *editor, const std::string &text) {

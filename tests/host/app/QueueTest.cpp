@@ -49,6 +49,15 @@ TEST_F(Queue, AnInstancesDefaultsAreItsOwn) {
   cups->run({"lpoptions", "-x", "office/single"});
 }
 
+TEST_F(Queue, AnInstancesOffsetOutOfRangeBecomesTheNearestAndIsNamed) {
+  cups->run({"lpoptions", "-p", "office/far", "-o", "LeftRightMargin=Custom.400", "-o",
+             "TopBottomMargin=-7"});
+  const auto result = print("office/far", {});
+  EXPECT_EQ(settingsIn(result.output), offsets("100", "-7", "0", "0", "False"));
+  EXPECT_THAT(result.errors, HasSubstr("was set to 100 instead of 400"));
+  cups->run({"lpoptions", "-x", "office/far"});
+}
+
 TEST_F(Queue, TheTicketsOptionFormIsWhatLpTakes) {
   print("office", {"--set", "FrontLRM=-3", "--back", "on", "--ticket", folder.path("job.json")});
   const std::string options = contentOf(folder.path("job.options"));

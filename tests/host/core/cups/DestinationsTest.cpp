@@ -83,8 +83,8 @@ TEST_F(PrinterList, KnowsTheDefault) {
   const DestinationList list = readDestinations();
   command({"lpadmin", "-x", "attic"});
   ASSERT_EQ(list.destinations.size(), 2u);
-  ASSERT_NE(list.defaultDestination(), nullptr);
-  EXPECT_EQ(list.defaultDestination()->name, "office");
+  EXPECT_TRUE(list.find("office")->isDefault);
+  EXPECT_FALSE(list.find("attic")->isDefault);
 }
 
 TEST_F(PrinterList, WithoutPrintersSaysWhatToDo) {

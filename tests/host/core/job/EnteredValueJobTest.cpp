@@ -80,7 +80,7 @@ TEST_F(EnteredValueJob, IsMarkedByAFilterAsItWasEntered) {
 TEST_F(EnteredValueJob, WithAValueInPartsIsAJobLikeOthers) {
   JobRequest request = requestWith("Gloss", "{Amount=0.5 Light=0 Dark=1}");
   request.title = "Jahresbericht";
-  request.copies = 2;
+  request.settings.set("copies", "2");
   request.settings.set("Duplex", "DuplexTumble");
   const PrintedJob job = printed(submitJob(request, {document(5000)}).id);
   EXPECT_EQ(job.arguments.at(2), "Jahresbericht");

@@ -68,17 +68,20 @@ TEST_F(Job, EverySettingOfThePanelArrivesAtTheFilter) {
   }
 }
 
-TEST_F(Job, EveryFieldArrives) {
+TEST_F(Job, CopiesPagesAndLayoutArrive) {
   JobRequest request = requestFor();
   request.title = "Jahresbericht \xC3\xBC"
                   "ber \"alles\"";
-  request.copies = 3;
-  request.collate = true;
-  request.pageRanges = "7, 1-3";
-  request.pageSet = PageSet::Odd;
-  request.priority = 70;
-  request.numberUp = 2;
-  request.settings.set("Duplex", "DuplexTumble");
+  for (const auto &[name, value] : std::map<std::string, std::string>{
+           {"copies", "3"},
+           {"Collate", "True"},
+           {"multiple-document-handling", "separate-documents-collated-copies"},
+           {"page-ranges", "7, 1-3"},
+           {"page-set", "odd"},
+           {"job-priority", "70"},
+           {"number-up", "2"},
+           {"Duplex", "DuplexTumble"}})
+    request.settings.set(name, value);
   const PrintedJob job = printed(submitJob(request, {document(5000)}).id);
   EXPECT_EQ(job.bytes, 5000u);
   EXPECT_EQ(job.arguments.at(2), request.title);
@@ -133,11 +136,14 @@ std::string withoutNotes(const std::string &text) {
 TEST_F(Job, IsAskedForInExactlyTheWordsOfItsRequestText) {
   JobRequest request = requestFor();
   request.printerUri = readDestinations().find("office")->uri;
-  request.copies = 2;
-  request.collate = false;
-  request.pageRanges = "1-3, 7, 9-";
-  request.priority = 70;
-  request.holdUntil = "indefinite";
+  for (const auto &[name, value] : std::map<std::string, std::string>{
+           {"copies", "2"},
+           {"Collate", "False"},
+           {"multiple-document-handling", "separate-documents-uncollated-copies"},
+           {"page-ranges", "1-3, 7, 9-"},
+           {"job-priority", "70"},
+           {"job-hold-until", "indefinite"}})
+    request.settings.set(name, value);
   request.defaults.set("job-sheets", "none,standard");
   const auto rows = settingsTable();
   for (const auto &[name, value] : rows.front())
@@ -174,7 +180,7 @@ TEST_F(Job, ThatPrintsAtOnceHasNoNote) {
 
 TEST_F(Job, HeldWaitsForItsRelease) {
   JobRequest request = requestFor();
-  request.holdUntil = "indefinite";
+  request.settings.set("job-hold-until", "indefinite");
   const SubmittedJob job = submitJob(request, {document()});
   const std::string name = "office-" + std::to_string(job.id);
   EXPECT_THAT(job.note, HasSubstr("lp -i " + name + " -H resume"));
@@ -261,7 +267,7 @@ TEST_F(Job, WithAValueThatCupsDoesNotTakeIsRefused) {
 
 TEST_F(Job, OfAKindThatCupsDoesNotKnowIsRefusedAndLeavesNothing) {
   JobRequest request = requestFor();
-  request.documentFormat = "application/x-nothing";
+  request.settings.set("document-format", "application/x-nothing");
   const SubmissionFailure failure = refusal(request, document());
   EXPECT_EQ(failure.problem(), JobProblem::Format) << failure.what();
   EXPECT_THAT(failure.what(), HasSubstr("PDF"));

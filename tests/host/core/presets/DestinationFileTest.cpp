@@ -29,8 +29,8 @@ TEST(DestinationFile, LinesAreReadAsCupsReadsThem) {
     SCOPED_TRACE(row.line);
     const auto entries = DestinationFile(row.line).entries();
     ASSERT_THAT(entries, SizeIs(1));
-    EXPECT_EQ(entries[0].printer, row.printer);
-    EXPECT_EQ(entries[0].instance, row.instance);
+    EXPECT_EQ(entries[0].queue.printer, row.printer);
+    EXPECT_EQ(entries[0].queue.instance, row.instance);
     EXPECT_EQ(entries[0].options, row.options);
     EXPECT_EQ(entries[0].isDefault, row.isDefault);
   }
@@ -41,44 +41,44 @@ TEST(DestinationFile, LinesAreReadAsCupsReadsThem) {
 TEST(DestinationFile, OnlyTheLinesOfThePresetChange) {
   DestinationFile file(
       "# mine\n\nDest  office\tA=1\nDest office/draft A=1\nnonsense\nDest attic/x Y");
-  EXPECT_TRUE(file.set("office", "Draft", "A=2"));
+  EXPECT_TRUE(file.set({"office", "Draft"}, "A=2"));
   EXPECT_EQ(file.text(),
             "# mine\n\nDest  office\tA=1\nDest office/Draft A=2\nnonsense\nDest attic/x Y\n");
-  file.remove("office", "draft");
+  file.remove({"office", "draft"});
   EXPECT_EQ(file.text(), "# mine\n\nDest  office\tA=1\nnonsense\nDest attic/x Y\n");
-  file.remove("office", "draft");
-  EXPECT_TRUE(file.set("office", "late", "B=1"));
+  file.remove({"office", "draft"});
+  EXPECT_TRUE(file.set({"office", "late"}, "B=1"));
   EXPECT_EQ(file.text(),
             "# mine\n\nDest  office\tA=1\nnonsense\nDest attic/x Y\nDest office/late B=1\n");
 }
 
 TEST(DestinationFile, SeveralLinesOfOnePresetBecomeOne) {
   DestinationFile file("Dest office/draft A=1\nDest attic\nDest office/draft B=1\n");
-  EXPECT_TRUE(file.set("office", "draft", "C=1"));
+  EXPECT_TRUE(file.set({"office", "draft"}, "C=1"));
   EXPECT_EQ(file.text(), "Dest office/draft C=1\nDest attic\n");
 }
 
 TEST(DestinationFile, TheDefaultPrinterStaysTheDefault) {
   DestinationFile file("Default office/draft A=1\n");
-  EXPECT_TRUE(file.set("office", "draft", "A=2"));
+  EXPECT_TRUE(file.set({"office", "draft"}, "A=2"));
   EXPECT_EQ(file.text(), "Default office/draft A=2\n");
-  file.rename("office", "draft", "fine");
+  file.rename({"office", "draft"}, "fine");
   EXPECT_EQ(file.text(), "Default office/fine A=2\n");
-  file.remove("office", "fine");
+  file.remove({"office", "fine"});
   EXPECT_EQ(file.text(), "Default office\n");
 }
 
 TEST(DestinationFile, RenamingKeepsWhatIsWrittenBehindTheName) {
   DestinationFile file("Dest office/a  A=\"1 2\"   # why\nDest office/ab X=1\n");
-  file.rename("OFFICE", "A", "long name"); // whoever calls makes names usable
+  file.rename({"OFFICE", "A"}, "long name"); // whoever calls makes names usable
   EXPECT_EQ(file.text(), "Dest office/long name  A=\"1 2\"   # why\nDest office/ab X=1\n");
 }
 
 TEST(DestinationFile, ALineThatCupsWouldCutIsRefused) {
   DestinationFile file("Dest office/draft A=1\n");
-  EXPECT_FALSE(file.set("office", "draft", std::string(8192, 'x')));
+  EXPECT_FALSE(file.set({"office", "draft"}, std::string(8192, 'x')));
   EXPECT_EQ(file.text(), "Dest office/draft A=1\n");
-  EXPECT_TRUE(file.set("office", "draft", std::string(8191 - 18, 'x')));
+  EXPECT_TRUE(file.set({"office", "draft"}, std::string(8191 - 18, 'x')));
 }
 
 } // namespace

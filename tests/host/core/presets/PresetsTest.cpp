@@ -202,7 +202,8 @@ TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
     const char *misfit; // null when it fits
   } rows[] = {
       {"MediaType", "labels", nullptr},
-      {"MediaType", "Gold", "\"Kind of Paper\" was left as it is: this printer does not offer"},
+      {"MediaType", "Gold",
+       "\"Kind of Paper\" has this printer's default: the printer does not offer"},
       {"Stapler", "true", nullptr},
       {"Saddle", "On", "\"Saddle\" (On) was left out"},
       {"copies", "2", nullptr},
@@ -210,13 +211,13 @@ TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
       {"LeftRightMargin", "0", nullptr},
       {"LeftRightMargin", "-50", nullptr},
       {"LeftRightMargin", "Custom.50", nullptr},
-      {"LeftRightMargin", "80", "\"Shift\" was left as it is: 80 is not between -50 and 50"},
-      {"LeftRightMargin", "Custom.-51", "-51 is not between"},
+      {"LeftRightMargin", "7.5", "no whole number"},
+      {"LeftRightMargin", "Custom", "does not offer \"Custom\""},
       {"LeftRightMargin", "much", "does not offer \"much\""},
       {"Watermark", "Custom.Mine", nullptr},
       {"Watermark", "Mine", "does not offer"},
       {"PageSize", "Custom.300x400", nullptr},
-      {"PageSize", "Custom.300x4000", "does not offer \"Custom.300x4000\""},
+      {"PageSize", "Custom.300x4000", "Height: that is out of range"},
       {"PageSize", "Letter", "does not offer \"Letter\""},
       {"BackShift", "7", nullptr}, // of a panel
   };
@@ -234,6 +235,51 @@ TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
       EXPECT_THAT(loaded.misfits[0], HasSubstr(row.misfit));
     }
   }
+}
+
+TEST_F(PresetsTest, ANumberOutOfRangeBecomesTheNearestAndSaysSo) {
+  const struct {
+    const char *value;
+    const char *nearest;
+  } rows[] = {
+      {"80", "50"}, {"-51", "-50"}, {"Custom.80", "Custom.50"}, {"custom.-99", "Custom.-50"}};
+  for (const std::string owner : {"attic", "Options"})
+    for (const auto &row : rows) {
+      SCOPED_TRACE(owner + "/" + row.value);
+      Presets(owner).save("far", settings({{"LeftRightMargin", row.value}}));
+      const auto loaded = Presets::load(PresetName{owner, "far"}, printer);
+      EXPECT_THAT(loaded.settings.get("LeftRightMargin"), StrEq(row.nearest));
+      ASSERT_THAT(loaded.misfits, SizeIs(1));
+      EXPECT_THAT(loaded.misfits[0], AllOf(HasSubstr("\"Shift\" was set to"),
+                                           HasSubstr("this printer takes -50 to 50")));
+    }
+}
+
+TEST_F(PresetsTest, ARealNumberCanBeEachEndOfItsRange) {
+  const auto glossy = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenUI *Gloss/Gloss: PickOne
+*DefaultGloss: Normal
+*Gloss Normal/Normal: ""
+*CloseUI: *Gloss
+*CustomGloss True: "pop"
+*ParamCustomGloss Amount/Amount: 1 real 0.1 0.9
+)ppd");
+  for (const char *value : {"Custom.0.1", "Custom.0.9", "0.1"}) {
+    SCOPED_TRACE(value);
+    presets.save("glossy", settings({{"Gloss", value}}));
+    const auto loaded = presets.load("glossy", glossy);
+    EXPECT_THAT(loaded.settings.get("Gloss"), StrEq(value));
+    EXPECT_THAT(loaded.misfits, IsEmpty());
+  }
+  presets.save("glossy", settings({{"Gloss", "Custom.0.05"}}));
+  EXPECT_THAT(presets.load("glossy", glossy).settings.get("Gloss"), StrEq("Custom.0.1"));
+}
+
+TEST_F(PresetsTest, WhatOnlyPanelsKnowIsKept) {
+  Presets("attic").save("other", settings({{"com.example.OwnBack", "True"}}));
+  const auto loaded = Presets::load(PresetName{"attic", "other"}, printer);
+  EXPECT_THAT(loaded.settings.get("com.example.OwnBack"), StrEq("True"));
+  EXPECT_THAT(loaded.misfits, IsEmpty());
 }
 
 TEST_F(PresetsTest, AFileThatCannotBeWrittenIsNamedAndStays) {

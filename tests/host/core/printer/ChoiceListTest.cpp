@@ -4,7 +4,7 @@
 #include "OptionConflicts.hpp"
 #include "OptionList.hpp"
 #include "OptionsPpd.hpp"
-#include "PresetFit.hpp"
+#include "ValueCheck.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -216,9 +216,12 @@ TEST_F(ListOption, IsListedWithAllThatHolds) {
 }
 
 TEST_F(ListOption, FitsAPrinterThatHasAllOfIt) {
-  EXPECT_THAT(misfitOf(printer.ppd(), "Finishing", "Staple,Fold", true), IsEmpty());
-  EXPECT_THAT(misfitOf(printer.ppd(), "Finishing", "Staple,Gold", true),
-              HasSubstr("does not offer \"Staple,Gold\""));
+  const FittedSetting known = fitSetting(printer.ppd(), "Finishing", "Staple,Fold", true);
+  EXPECT_EQ(known.value, "Staple,Fold");
+  EXPECT_EQ(known.change, "");
+  const FittedSetting unknown = fitSetting(printer.ppd(), "Finishing", "Staple,Gold", true);
+  EXPECT_FALSE(unknown.value);
+  EXPECT_THAT(unknown.change, HasSubstr("does not offer \"Staple,Gold\""));
 }
 
 TEST_F(ListOption, ShowsAValueThatWasEnteredInEveryPlace) {

@@ -1,4 +1,4 @@
-#include "EntryCheck.hpp"
+#include "ValueCheck.hpp"
 
 #include "OptionsPpd.hpp"
 

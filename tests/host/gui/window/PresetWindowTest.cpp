@@ -83,23 +83,70 @@ TEST_F(PresetWindow, APresetIsRenamedAndDeleted) {
   cancel(window);
 }
 
-TEST_F(PresetWindow, OneOfAnotherPrinterLoadsWhatFitsAndSaysWhatDoesNot) {
-  addQueue("small", "duplex-shift-narrow.ppd");
-  {
+/// Presets of a printer that moves the image further, on one that does so less.
+class PresetOfAnotherPrinter : public PresetWindow {
+protected:
+  void SetUp() override {
+    PresetWindow::SetUp();
+    addQueue("small", "duplex-shift-narrow.ppd");
+  }
+  void TearDown() override {
+    command({"lpadmin", "-x", "small"});
+    PresetWindow::TearDown();
+  }
+  static bool shows(const PrintWindow &window, const std::string &label, const std::string &value) {
+    return window.becomes([&](const Screen &) { return window.field(label) == value; });
+  }
+  /// Keeps the values as "office/far".
+  static void saveOnOffice(const PanelValues &values) {
     PrintWindow window(onQueue("office"));
-    window.enter(kLeftRight, "80");
-    window.enter(kTopBottom, "-7");
+    enter(window, values);
     save(window, "far");
     cancel(window);
   }
+};
+
+TEST_F(PresetOfAnotherPrinter, LoadsWhatFitsAndSaysWhatBecameOfTheRest) {
+  saveOnOffice({false, {80, -7, 0, 0}});
   PrintWindow window(onQueue("small"));
   window.choose("Preset:", "office/far");
-  EXPECT_TRUE(window.says("80 is not between -50 and 50"));
-  EXPECT_TRUE(window.becomes([&](const Screen &) { return window.field(kTopBottom) == "-7"; }));
-  EXPECT_EQ(window.field(kLeftRight), "0");
+  EXPECT_TRUE(window.says("set to 50 instead of 80: this printer takes -50 to 50"));
+  EXPECT_TRUE(shows(window, kTopBottom, "-7"));
+  EXPECT_TRUE(shows(window, kLeftRight, "50"));
   window.click("Print");
-  expectValues(printed(jobOf(window.ended())), {false, {0, -7, 0, 0}});
-  command({"lpadmin", "-x", "small"});
+  expectValues(printed(jobOf(window.ended())), {false, {50, -7, 0, 0}});
+}
+
+TEST_F(PresetOfAnotherPrinter, KeepsTheOffsetsOfTheBack) {
+  saveOnOffice({true, {3, -7, 7, -80}});
+  PrintWindow window(onQueue("small"));
+  window.choose("Preset:", "office/far");
+  EXPECT_TRUE(shows(window, kBackLeftRight, "7"));
+  window.click("Print");
+  expectValues(printed(jobOf(window.ended())), {true, {3, -7, 7, -50}});
+}
+
+TEST_F(PresetOfAnotherPrinter, SaysWhatThePanelMakesOfAValueThatTheDescriptionAllows) {
+  std::string description = contentOf(IMAGEPOSITION_SAMPLES "/duplex-shift-narrow.ppd");
+  const std::string narrow = "1 int -50 50";
+  for (std::size_t at; (at = description.find(narrow)) != std::string::npos;)
+    description.replace(at, narrow.size(), "1 int -200 200");
+  command({"lpadmin", "-p", "small", "-P", folder.write("narrow.ppd", description)});
+  saveOnOffice({false, {80, -7, 0, 0}});
+  PrintWindow window(onQueue("small"));
+  window.choose("Preset:", "office/far");
+  EXPECT_TRUE(window.says("The panel made \"50\" of \"80\" for Front Left-Right."));
+  EXPECT_TRUE(shows(window, kLeftRight, "50"));
+  cancel(window);
+}
+
+TEST_F(PresetOfAnotherPrinter, IsSaidToDifferWhereTheWindowStartsWithIt) {
+  command({"lpoptions", "-p", "small/far", "-o", "LeftRightMargin=80", "-o", "TopBottomMargin=-7"});
+  PrintWindow window(onQueue("small/far"));
+  EXPECT_TRUE(window.says("set to 50 instead of 80: this printer takes -50 to 50"));
+  EXPECT_EQ(window.field(kLeftRight), "50");
+  EXPECT_EQ(window.field(kTopBottom), "-7");
+  cancel(window);
 }
 
 /// Its panel writes down what it is asked.

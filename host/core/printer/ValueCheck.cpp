@@ -1,6 +1,9 @@
-#include "EntryCheck.hpp"
+#include "ValueCheck.hpp"
 
+#include "ChoiceList.hpp"
+#include "ForeignText.hpp"
 #include "PrinterTexts.hpp"
+#include "Strings.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -98,6 +101,57 @@ CheckedEntry checkNumber(const CustomParameter &parameter, const std::string &ty
   return {plainNumber(*number, parameter.kind == Kind::Integer ? 0 : kRealDecimals), ""};
 }
 
+/// Whether a name that the PPD does not have may be one of its options all the same.
+bool soundsLikeOption(const std::string &name) {
+  const bool hasCapital =
+      std::any_of(name.begin(), name.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
+  return hasCapital && name.find('.') == std::string::npos;
+}
+
+/// A choice that a job can name. "Custom" is what CUPS marks for custom values, and none itself.
+std::optional<std::string> acceptedChoice(const ppd_option_t &option, const std::string &value,
+                                          bool takesCustomValue) {
+  if (value.empty() || (takesCustomValue && isSame(value, kCustomChoice)))
+    return std::nullopt;
+  for (int i = 0; i < option.num_choices; i++)
+    if (isSame(option.choices[i].choice, value))
+      return option.choices[i].choice;
+  return std::nullopt;
+}
+
+/// The nearest number in the range, in the value's form; none when that is not what is wrong.
+std::optional<std::string> nearestValue(const CustomOption &option, const std::string &value) {
+  const CustomParameter &parameter = option.parameters.front();
+  const auto entries = readCustomValue(option, value);
+  const auto number = entries && option.parameters.size() == 1 && !parameter.isText() &&
+                              parameter.kind != Kind::Length
+                          ? readNumber(entries->front())
+                          : std::nullopt;
+  if (!number || isWithin(parameter, *number))
+    return std::nullopt;
+  const bool isBelow = *number < parameter.minimum;
+  const std::string end = endText(parameter, isBelow ? parameter.minimum : parameter.maximum,
+                                  isBelow, LengthUnit::Point);
+  if (!checkEntry(parameter, end, LengthUnit::Point).problem.empty())
+    return std::nullopt;
+  return hasCustomPrefix(value) ? withCustomPrefix(end) : end;
+}
+
+/// Of a value that the option does not take.
+FittedSetting fitOther(ppd_file_t *ppd, const ppd_option_t &option, const std::string &value) {
+  const std::string text = textOrKeyword(option.text, option.keyword);
+  const auto custom = customOption(ppd, option.keyword);
+  if (!custom || !readCustomValue(*custom, value)) {
+    const bool isHidden = isHiddenValue(ppd, option.keyword, value);
+    return {std::nullopt, messages::misfitChoice(text, isHidden ? kHiddenValue : value)};
+  }
+  if (const auto nearest = nearestValue(*custom, value))
+    return {nearest, messages::broughtIntoRange(
+                         text, withoutCustomPrefix(value), withoutCustomPrefix(*nearest),
+                         rangeText(custom->parameters.front(), LengthUnit::Point))};
+  return {std::nullopt, messages::misfitEntered(text, customValueProblem(*custom, value))};
+}
+
 } // namespace
 
 CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typed,
@@ -131,6 +185,36 @@ std::string rangeText(const CustomParameter &parameter, LengthUnit unit) {
 
 std::string initialEntry(const CustomParameter &parameter, LengthUnit unit) {
   return parameter.isText() ? "" : numberInWords(endText(parameter, parameter.minimum, true, unit));
+}
+
+std::optional<std::string> acceptedValue(ppd_file_t *ppd, const ppd_option_t &option,
+                                         const std::string &value) {
+  if (option.ui == PPD_UI_PICKMANY) {
+    const ChoiceList wanted = splitChoices(value);
+    return areChoices(option, wanted) ? std::optional(joinChoices(inOrder(option, wanted)))
+                                      : std::nullopt;
+  }
+  const bool takesCustomValue = ppdFindCustomOption(ppd, option.keyword) != nullptr;
+  if (auto choice = acceptedChoice(option, value, takesCustomValue))
+    return choice;
+  const auto custom = takesCustomValue ? customOption(ppd, option.keyword) : std::nullopt;
+  if (!custom || !customValueProblem(*custom, value).empty())
+    return std::nullopt;
+  return value;
+}
+
+FittedSetting fitSetting(ppd_file_t *ppd, const std::string &name, const std::string &value,
+                         bool isKept) {
+  const ppd_option_t *const option = ppdFindOption(ppd, name.c_str());
+  if (option == nullptr) {
+    if (isKept || !soundsLikeOption(name))
+      return {value, ""};
+    const bool isHidden = isHiddenValue(ppd, name, value);
+    return {std::nullopt, messages::misfitOption(name, isHidden ? kHiddenValue : value)};
+  }
+  if (acceptedValue(ppd, *option, value))
+    return {value, ""};
+  return fitOther(ppd, *option, value);
 }
 
 } // namespace imageposition

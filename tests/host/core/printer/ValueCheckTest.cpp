@@ -1,0 +1,65 @@
+#include "ValueCheck.hpp"
+
+#include "OptionsPpd.hpp"
+#include "PrinterOptions.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace imageposition;
+using imageposition::test::optionsPrinter;
+using testing::HasSubstr;
+using testing::Optional;
+
+class ValueCheck : public testing::Test {
+protected:
+  std::optional<std::string> accepted(const char *keyword, const std::string &value) const {
+    return acceptedValue(printer.ppd(), *ppdFindOption(printer.ppd(), keyword), value);
+  }
+  FittedSetting fitted(const std::string &name, const std::string &value,
+                       bool isKept = false) const {
+    return fitSetting(printer.ppd(), name, value, isKept);
+  }
+
+  PrinterDescription printer = optionsPrinter();
+};
+
+TEST_F(ValueCheck, AcceptsAChoiceInAnyCaseAsTheDescriptionSpellsIt) {
+  EXPECT_THAT(accepted("Duplex", "duplextumble"), Optional(std::string("DuplexTumble")));
+  EXPECT_FALSE(accepted("Duplex", "Tumble"));
+  EXPECT_FALSE(accepted("Duplex", ""));
+  EXPECT_FALSE(accepted("Duplex", "Custom.1"));
+}
+
+TEST_F(ValueCheck, AcceptsACustomValueAsItIs) {
+  for (const char *value : {"Custom.-50", "50", "0"})
+    EXPECT_THAT(accepted("LeftRightMargin", value), Optional(std::string(value)));
+  for (const char *value : {"Custom.51", "51", "7.5", "Custom.", "Custom", "", "much"})
+    EXPECT_FALSE(accepted("LeftRightMargin", value)) << value;
+}
+
+/// A user who enters a value, a preset and a choice are held to the same.
+TEST_F(ValueCheck, AcceptsWhatCanBeChosen) {
+  PrintSettingsStore job;
+  PrinterOptions options(printer, job);
+  for (const char *keyword : {"LeftRightMargin", "Watermark", "PageSize", "Duplex"})
+    for (const char *value : {"Custom.50", "Custom.51", "50", "51", "None", "A5", "Custom.300x400",
+                              "Custom.30x40", "Custom.Mine", "Mine", "Custom", ""}) {
+      SCOPED_TRACE(std::string(keyword) + "=" + value);
+      const bool isAccepted = accepted(keyword, value).has_value();
+      EXPECT_EQ(options.choose(keyword, value), isAccepted);
+      EXPECT_EQ(fitted(keyword, value).change.empty(), isAccepted);
+    }
+}
+
+TEST_F(ValueCheck, KeepsNamesThatTheDescriptionDoesNotHaveWhereTheyMayBeKnown) {
+  for (const char *name : {"copies", "com.example.OwnBack"})
+    EXPECT_THAT(fitted(name, "1").value, Optional(std::string("1"))) << name;
+  EXPECT_FALSE(fitted("Saddle", "On").value);
+  EXPECT_THAT(fitted("Saddle", "On").change, HasSubstr("no such option"));
+  EXPECT_THAT(fitted("Saddle", "On", true).value, Optional(std::string("On")));
+}
+
+} // namespace
