@@ -3,7 +3,6 @@
 #include "CommandLine.hpp"
 #import "Daemons.h"
 #include "Destinations.hpp"
-#import "DialogJob.h"
 #import "DialogWindow.h"
 #include "ExitCode.hpp"
 #include "ExitStatus.hpp"
@@ -16,9 +15,10 @@
 #import "PlatformLanguage.h"
 #import "PlatformProcess.h"
 #import "Pool.h"
+#import "PrintSession.h"
 #include "PrivateDisplay.hpp"
 #include "ProgramTexts.hpp"
-#include "SessionTexts.hpp"
+#include "SetupTexts.hpp"
 #include "StandardDescriptors.hpp"
 #include "StartTexts.hpp"
 #include "Ticket.hpp"
@@ -57,39 +57,23 @@ void takeOverEnvironment(const Arguments &arguments) {
       setenv(name, value.c_str(), 1);
 }
 
-/// What the window's Print does at its end.
-void finish(DialogJob &job) {
-  if (!job.isSubmitted()) {
-    job.writeSettings();
-    return;
-  }
-  JobRequest request = job.request();
-  const DestinationList destinations = readDestinations();
-  if (const Destination *destination = destinations.find(job.queue())) {
-    request.defaults = destination->defaults;
-    request.printerUri = destination->uri;
-  }
-  if (job.arguments().isDryRun) {
-    std::cout << writeRequestText(request);
-    return;
-  }
-  job.report(submitJob(request, job.documentsToSend()), std::cout, std::cerr);
-}
-
-ExitCode runInBatch(const Arguments &arguments, DialogJob &job) {
+ExitCode runInBatch(const Arguments &arguments, PrintJob &job) {
+  PrintSession session(job);
   if (!isDisplayNamed())
     startPrivateDisplay();
   leaveOutPasteboardDaemon();
   startApplication();
-  job.loadPanels();
-  for (const std::string &trouble : job.panels().troubles())
+  session.loadPanels();
+  for (const std::string &trouble : session.panels().troubles())
     std::cerr << messages::kProgram << trouble << '\n';
-  if (!job.panels().troubles().empty())
+  if (!session.panels().troubles().empty())
     return ExitCode::Plugin;
-  if (job.panels().panels().empty())
-    throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), job.plugins()));
-  const auto summary = runBatch(job.panels(), job.printer().ppd(), arguments.batch, std::cerr);
-  finish(job);
+  if (session.panels().panels().empty())
+    throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), session.plugins()));
+  const auto summary = runBatch(session.panels(), job.printer().ppd(), arguments.batch, std::cerr);
+  if (const auto submission =
+          job.print(job.isSubmitted() ? readDestinations() : DestinationList(), arguments.ticket))
+    job.report(submission->result(), std::cout, std::cerr);
   if (arguments.batch.summary)
     std::cout << writeSummary(summary);
   return ExitCode::Done;
@@ -103,14 +87,14 @@ void requireOutput(const std::string &done = {}) {
 
 /// A job that CUPS has is no failure, whatever becomes of the words about it: a script would print
 /// it again.
-void requireOutputUnlessSent(const DialogJob &job) {
+void requireOutputUnlessSent(const PrintJob &job) {
   if (job.sentName().empty())
     requireOutput(job.done());
   else if (!std::cout.flush())
     std::cerr << messages::kProgram << messages::jobSentUnsaid(job.sentName()) << '\n';
 }
 
-ExitCode listOptions(DialogJob &job) {
+ExitCode listOptions(PrintJob &job) {
   std::cout << writeOptionList(PrinterOptions(job.printer(), job.settings()).all());
   constexpr std::size_t kMostConflicts = 20;
   OptionConflicts conflicts(job.printer(), job.settings());
@@ -120,15 +104,16 @@ ExitCode listOptions(DialogJob &job) {
   return ExitCode::Done;
 }
 
-ExitCode runInWindow(DialogJob &job) {
+ExitCode runInWindow(PrintJob &job) {
   const Arguments &arguments = job.arguments();
   if (!arguments.ticket.empty())
     checkTicketPlace(arguments.ticket); // before the person has set anything that would be lost
+  PrintSession session(job);
   startPasteboardOnDemand();
   startApplication();
-  job.loadPanels();
-  if (!runDialog(job, std::cerr)) {
-    job.panels().revert();
+  session.loadPanels();
+  if (!runDialog(session, std::cerr)) {
+    session.panels().revert();
     std::cerr << messages::kCancelled.view() << '\n';
     return ExitCode::Cancelled;
   }
@@ -148,7 +133,7 @@ ExitCode run(const std::vector<std::string> &words) {
   for (const std::string &path : arguments.documents)
     if (path != "-")
       checkDocument(path);
-  DialogJob job(arguments);
+  PrintJob job(arguments);
   if (arguments.isListingOptions)
     return listOptions(job);
   setPlatformDefaults();

@@ -25,6 +25,7 @@ namespace imageposition {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+constexpr auto kBetweenReports = std::chrono::milliseconds(50);
 constexpr auto kPatience = std::chrono::seconds(30); // without a sign of life from CUPS
 
 [[noreturn]] void fail(JobProblem problem, const std::string &message) {
@@ -393,7 +394,11 @@ struct JobSubmission::Work {
   std::atomic<std::uint64_t> sent{0};
   std::atomic<std::int64_t> total{-1}; // -1: unknown
   std::atomic<bool> isCancelled{false};
+  std::atomic<bool> isDone{false};
   std::shared_future<SubmittedJob> outcome;
+  std::thread thread;
+  Changed changed;
+  Clock::time_point told{}; // when `changed` was called last
 
   std::mutex mutex; // of the following
   std::condition_variable answered;
@@ -404,6 +409,7 @@ struct JobSubmission::Work {
   std::optional<Credentials> ask(const PasswordRequest &wanted) {
     std::unique_lock<std::mutex> lock(mutex);
     question = wanted;
+    changed();
     answered.wait(lock, [this] { return !question || isCancelled; });
     question.reset();
     return std::exchange(credentials, std::nullopt);
@@ -412,21 +418,44 @@ struct JobSubmission::Work {
   bool take(const JobProgress &progress) {
     sent = progress.sent;
     total = progress.total ? static_cast<std::int64_t>(*progress.total) : -1;
+    if (changed && Clock::now() - told >= kBetweenReports) {
+      told = Clock::now();
+      changed();
+    }
     return !isCancelled;
+  }
+
+  SubmittedJob run(const JobRequest &request, const JobDocuments &documents) {
+    PasswordCallback password;
+    if (changed)
+      password = [this](const PasswordRequest &wanted) { return ask(wanted); };
+    return submitJob(
+        request, documents, [this](const JobProgress &progress) { return take(progress); },
+        password);
+  }
+
+  /// The end is told of when the outcome is there.
+  void finish() {
+    isDone = true;
+    if (changed)
+      changed();
   }
 };
 
-JobSubmission::JobSubmission(JobRequest request, JobDocuments documents)
+JobSubmission::JobSubmission(JobRequest request, JobDocuments documents, Changed changed)
     : work_(std::make_unique<Work>()) {
   Work *const work = work_.get(); // outlives the thread, whose end the destructor awaits
+  work->changed = std::move(changed);
+  std::packaged_task<SubmittedJob()> task(
+      [work, request = std::move(request), documents = std::move(documents)] {
+        return work->run(request, documents);
+      });
+  work->outcome = task.get_future().share();
   try {
-    work->outcome = std::async(std::launch::async, [work, request = std::move(request),
-                                                    documents = std::move(documents)] {
-                      return submitJob(
-                          request, documents,
-                          [work](const JobProgress &progress) { return work->take(progress); },
-                          [work](const PasswordRequest &wanted) { return work->ask(wanted); });
-                    }).share();
+    work->thread = std::thread([work, task = std::move(task)]() mutable {
+      task();
+      work->finish();
+    });
   } catch (const std::system_error &error) { // too many processes
     fail(JobProblem::Other, messages::noRoomToSend(systemReason(error.code().value())));
   }
@@ -434,7 +463,7 @@ JobSubmission::JobSubmission(JobRequest request, JobDocuments documents)
 
 JobSubmission::~JobSubmission() {
   cancel();
-  work_->outcome.wait();
+  work_->thread.join();
 }
 
 JobProgress JobSubmission::progress() const {
@@ -460,9 +489,7 @@ void JobSubmission::answer(std::optional<Credentials> credentials) {
   work_->answered.notify_one();
 }
 
-bool JobSubmission::isDone() const {
-  return work_->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
-}
+bool JobSubmission::isDone() const { return work_->isDone; }
 
 SubmittedJob JobSubmission::result() { return work_->outcome.get(); }
 

@@ -66,12 +66,17 @@ SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
                        const ProgressCallback &progress = {},
                        const PasswordCallback &password = {});
 
-/// The same on a thread of its own, for a window whose timer looks at it. All calls on one thread;
-/// none waits but `result` and the destructor.
+/// Submits a job on another thread. All calls on one thread; none waits but `result` and the
+/// destructor.
 class JobSubmission {
 public:
-  /// Starts at once. Throws `SubmissionFailure` where no thread can be had.
-  JobSubmission(JobRequest request, JobDocuments documents);
+  /// Called on the other thread when there is something new: bytes sent (a few times a second), a
+  /// question, the end.
+  using Changed = std::function<void()>;
+
+  /// Starts at once. Without `changed` CUPS's question for a password has no answer. Throws a
+  /// `SubmissionFailure` where no thread can be had.
+  JobSubmission(JobRequest request, JobDocuments documents, Changed changed = {});
   /// Cancels what is under way and waits until that has happened.
   ~JobSubmission();
   JobSubmission(const JobSubmission &) = delete;

@@ -2,10 +2,10 @@
 #ifndef IMAGEPOSITION_HOST_DIALOGCONTROLLER_H
 #define IMAGEPOSITION_HOST_DIALOGCONTROLLER_H
 
-#import "DialogJob.h"
 #import "DialogViews.h"
 #import "KeyWindow.h"
 #import "OptionsView.h"
+#import "PrintSession.h"
 #import "SummaryView.h"
 
 #include "JobRequest.hpp"
@@ -17,9 +17,9 @@ namespace imageposition {
 struct DialogState;
 }
 
-/// Owns the window; borrows the job.
+/// Owns the window; borrows the session.
 @interface DialogController : NSObject <KeyWindowDelegate> {
-  imageposition::DialogJob *job;
+  imageposition::PrintSession *session;
   std::ostream *errors;
   imageposition::DialogViews views;
   imageposition::DialogState *state;      ///< Owned.
@@ -28,7 +28,7 @@ struct DialogState;
   OptionsView *options;                   ///< Owned.
 }
 
-- (id)initWithJob:(imageposition::DialogJob *)theJob errors:(std::ostream *)theErrors;
+- (id)initWithSession:(imageposition::PrintSession *)theSession errors:(std::ostream *)theErrors;
 /// True when the person printed.
 - (BOOL)run;
 /// What is said stays until something else is.
@@ -92,8 +92,6 @@ struct DialogState;
 @end
 
 @interface DialogController (Submission)
-/// What would be sent now; a ticket has none of the destination's defaults.
-- (imageposition::JobRequest)request;
 - (BOOL)isSending;
 - (void)startSending;
 - (void)cancelSending;

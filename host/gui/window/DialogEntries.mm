@@ -26,10 +26,10 @@ enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
 @implementation DialogController (Entries)
 
 - (void)refreshCopies {
-  const char *const copies = job->settings().get("copies");
+  const char *const copies = session->job().settings().get("copies");
   [views.copies setStringValue:toString(copies != nullptr ? copies : "1")];
   [views.copiesStepper setIntValue:copies != nullptr ? nearestCopies(copies) : 1];
-  const bool collated = isCollated(job->printer(), job->settings());
+  const bool collated = isCollated(session->job().printer(), session->job().settings());
   [views.collate setState:collated ? NSOnState : NSOffState];
 }
 
@@ -38,7 +38,7 @@ enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
     for (const Text &title :
          {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange})
       [[views.pages menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
-  const PageChoice choice = readPageChoice(job->settings());
+  const PageChoice choice = readPageChoice(session->job().settings());
   const PagesItem item = choice.set == PageSet::Odd    ? kOddItem
                          : choice.set == PageSet::Even ? kEvenItem
                          : choice.ranges               ? kRangeItem
@@ -57,7 +57,7 @@ enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
   const std::string typed = toText([views.ranges stringValue]);
   if (item == kRangeItem || (item != kAllItem && !typed.empty()))
     choice.ranges = PageRanges::parse(typed);
-  storePageChoice(choice, job->settings());
+  storePageChoice(choice, session->job().settings());
 }
 
 - (BOOL)takeEntries {
@@ -81,8 +81,8 @@ enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
 
 /// One copy is what a job has anyhow.
 - (void)storeCopies:(int)copies {
-  if (copies != 1 || job->settings().get("copies") != nullptr)
-    job->settings().set("copies", std::to_string(copies));
+  if (copies != 1 || session->job().settings().get("copies") != nullptr)
+    session->job().settings().set("copies", std::to_string(copies));
 }
 
 - (void)controlTextDidEndEditing:(NSNotification *)notification {
@@ -127,12 +127,13 @@ enum PagesItem { kAllItem, kOddItem, kEvenItem, kRangeItem };
   [self takeFocus:views.copies];
   const int copies = [views.copiesStepper intValue];
   [views.copies setIntValue:copies];
-  job->settings().set("copies", std::to_string(copies));
+  session->job().settings().set("copies", std::to_string(copies));
 }
 
 - (void)collateChanged:(id)sender {
   (void)sender;
-  setCollated([views.collate state] == NSOnState, job->printer(), job->settings());
+  setCollated([views.collate state] == NSOnState, session->job().printer(),
+              session->job().settings());
 }
 
 - (void)pagesChosen:(id)sender {

@@ -54,7 +54,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
 @implementation DialogController (Options)
 
 - (void)refreshOptions {
-  PrinterOptions printerOptions(job->printer(), job->settings());
+  PrinterOptions printerOptions(session->job().printer(), session->job().settings());
   const auto twoSided = printerOptions.twoSided();
   state->twoSidedKeyword = twoSided ? twoSided->keyword : "Duplex";
   state->twoSidedChoices = fill(views.twoSided, twoSided);
@@ -63,22 +63,23 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
 }
 
 - (void)refreshHint {
-  OptionConflicts conflicts(job->printer(), job->settings());
+  OptionConflicts conflicts(session->job().printer(), session->job().settings());
   std::string text;
   for (const std::string &sentence : conflicts.sentences(kMostConflicts))
     text += (text.empty() ? "" : " ") + sentence;
   state->proposal = text.empty() ? std::nullopt : conflicts.proposal(state->chosenLast);
   if (state->proposal)
     text += " " + state->proposal->sentence;
-  if (text.empty() && !job->panels().panels().empty())
-    text = reasonText(availabilityOf(job->printer().ppd()));
+  if (text.empty() && !session->panels().panels().empty())
+    text = reasonText(availabilityOf(session->job().printer().ppd()));
   [views.hint setStringValue:toString(text)];
   [views.hint setToolTip:toString(text)]; // long names have no room
   [views.resolve setHidden:!state->proposal];
 }
 
 - (void)refreshPicture {
-  [views.preview showPreview:makePreview(job->settings(), job->printer().ppd())];
+  [views.preview
+      showPreview:makePreview(session->job().settings(), session->job().printer().ppd())];
 }
 
 /// The panels see the change at once: the pane is shown anew.
@@ -86,7 +87,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   [self takeFocus:sender];
   if (![self savePanels])
     return;
-  PrinterOptions(job->printer(), job->settings()).choose(keyword, choice);
+  PrinterOptions(session->job().printer(), session->job().settings()).choose(keyword, choice);
   [self optionChanged:keyword];
 }
 
@@ -109,13 +110,13 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
 /// Whatever comes of it the pop-up shows what holds then.
 - (void)enterValue {
   const std::string keyword = std::exchange(state->optionToEnter, {});
-  PrinterOptions printerOptions(job->printer(), job->settings());
+  PrinterOptions printerOptions(session->job().printer(), session->job().settings());
   const auto option = printerOptions.find(keyword);
   if (!option || !option->custom)
     return;
   const LengthUnit unit = usualUnit(std::getenv);
   const auto value = askForValue(views.window, option->text, *option->custom,
-                                 firstValue(*option, job->printer().ppd(), unit), unit);
+                                 firstValue(*option, session->job().printer().ppd(), unit), unit);
   if (value && !printerOptions.choose(keyword, *value))
     [self say:messages::entryUnusable(option->text)];
   [self optionChanged:keyword];
@@ -138,7 +139,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   [self takeFocus:sender];
   if (![self savePanels])
     return;
-  PrinterOptions(job->printer(), job->settings()).tick(keyword, choice, on);
+  PrinterOptions(session->job().printer(), session->job().settings()).tick(keyword, choice, on);
   [self optionChanged:keyword];
 }
 
@@ -168,7 +169,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   if (!state->proposal || ![self savePanels])
     return;
   const ConflictProposal proposal = *state->proposal;
-  OptionConflicts(job->printer(), job->settings()).take(proposal);
+  OptionConflicts(session->job().printer(), session->job().settings()).take(proposal);
   [self refresh];
   [self showChosenPane];
   [views.window makeFirstResponder:[self firstControl]];

@@ -32,7 +32,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
   [views.panes removeAllItems];
   // By hand: adding an item by its title would take away an earlier one of the same title.
   NSMenu *const menu = [views.panes menu];
-  for (const auto &panel : job->panels().panels())
+  for (const auto &panel : session->panels().panels())
     [menu addItemWithTitle:toString(panel->name()) action:nullptr keyEquivalent:@""];
   [menu addItemWithTitle:toString(messages::kOptionsPane) action:nullptr keyEquivalent:@""];
   [menu addItemWithTitle:toString(messages::kSummaryTitle) action:nullptr keyEquivalent:@""];
@@ -49,7 +49,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
     [panel->view() removeFromSuperview];
     shownPanel = nullptr;
   }
-  job->panels().drop(panel, trouble);
+  session->panels().drop(panel, trouble);
   [self say:trouble];
   [self listPanes];
   [self showChosenPane];
@@ -57,7 +57,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 }
 
 - (BOOL)savePanels {
-  for (const auto &panel : job->panels().panels()) {
+  for (const auto &panel : session->panels().panels()) {
     try {
       panel->save();
     } catch (const Failure &failure) {
@@ -86,7 +86,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 }
 
 - (void)restorePanels {
-  for (const auto &panel : job->panels().panels()) {
+  for (const auto &panel : session->panels().panels()) {
     try {
       panel->restore();
     } catch (const Failure &failure) {
@@ -97,7 +97,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 }
 
 - (BOOL)panelsAllowPrinting {
-  for (const auto &panel : job->panels().panels()) {
+  for (const auto &panel : session->panels().panels()) {
     try {
       if (!panel->mayPrint()) {
         [self say:messages::panelRefusedJob(panel->name())];
@@ -126,7 +126,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 
 - (std::vector<std::string>)announcedOptions {
   std::vector<std::string> announced;
-  for (const auto &panel : job->panels().panels())
+  for (const auto &panel : session->panels().panels())
     announced.insert(announced.end(), panel->optionKeys().begin(), panel->optionKeys().end());
   return announced;
 }
@@ -135,7 +135,7 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
   std::vector<std::string> without = [self announcedOptions];
   without.insert(without.end(), std::begin(kPlacedOptions), std::end(kPlacedOptions));
   without.push_back(state->twoSidedKeyword);
-  return PrinterOptions(job->printer(), job->settings()).listed(without);
+  return PrinterOptions(session->job().printer(), session->job().settings()).listed(without);
 }
 
 - (void)showOptions {
@@ -146,9 +146,9 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
 
 - (void)showSummary {
   shownPanel = nullptr;
-  std::vector<SummarySection> sections{
-      jobSection(job->printer().name(), job->documents(), job->settings())};
-  for (const auto &panel : job->panels().panels()) {
+  std::vector<SummarySection> sections{jobSection(
+      session->job().printer().name(), session->job().documents(), session->job().settings())};
+  for (const auto &panel : session->panels().panels()) {
     try {
       sections.push_back(panel->summary());
     } catch (const Failure &failure) {
@@ -156,14 +156,15 @@ const char *const kPlacedOptions[] = {"PageSize", "Collate"};
       return;
     }
   }
-  sections.push_back(optionSection(job->printer(), job->settings(), [self announcedOptions]));
-  sections.push_back(sentSection([self request]));
+  sections.push_back(
+      optionSection(session->job().printer(), session->job().settings(), [self announcedOptions]));
+  sections.push_back(sentSection(session->job().request(state->destinations.list())));
   [summary showSections:sections];
   showInPaneArea(views, summary);
 }
 
 - (void)showChosenPane {
-  const auto &panels = job->panels().panels();
+  const auto &panels = session->panels().panels();
   const auto chosen =
       static_cast<std::size_t>(std::max<NSInteger>([views.panes indexOfSelectedItem], 0));
   if (chosen < panels.size())

@@ -42,10 +42,10 @@ std::string joined(const std::vector<std::string> &sentences) {
   NSMenu *const menu = [views.presets menu];
   addItem(menu, messages::kNoPresetChosen);
   [views.presets selectItemAtIndex:0];
-  [views.presets setEnabled:!job->queue().empty()];
-  if (job->queue().empty())
+  [views.presets setEnabled:!session->job().queue().empty()];
+  if (session->job().queue().empty())
     return;
-  const std::string printer = printerOf(job->queue());
+  const std::string printer = printerOf(session->job().queue());
   try {
     const Presets presets(printer);
     for (const std::string &name : presets.names())
@@ -100,12 +100,12 @@ std::string joined(const std::vector<std::string> &sentences) {
 
 /// The panels' values are among the settings; they read them anew.
 - (void)loadPreset:(const PresetName &)preset {
-  const LoadedPreset loaded = Presets::load(preset, job->printer());
-  job->settings() = loaded.settings;
-  job->panels().takePlainNumbers();
-  job->printer().mark(job->settings());
+  const LoadedPreset loaded = Presets::load(preset, session->job().printer());
+  session->job().settings() = loaded.settings;
+  session->panels().takePlainNumbers();
+  session->job().printer().mark(session->job().settings());
   [self restorePanels];
-  state->preset = preset.printer == printerOf(job->queue()) ? preset.name : "";
+  state->preset = preset.printer == printerOf(session->job().queue()) ? preset.name : "";
   [self refresh];
   [self showChosenPane];
   [self say:joined(loaded.misfits)];
@@ -118,8 +118,9 @@ std::string joined(const std::vector<std::string> &sentences) {
   if (!typed)
     return;
   const std::string name = Presets::usableName(*typed);
-  const std::string printer = printerOf(job->queue());
-  const auto missing = Presets(printer).save(name, job->settings(), job->printer().ppd());
+  const std::string printer = printerOf(session->job().queue());
+  const auto missing =
+      Presets(printer).save(name, session->job().settings(), session->job().printer().ppd());
   state->preset = name;
   const std::string saved = messages::presetSaved(printer + "/" + name);
   if (missing.empty())
@@ -133,14 +134,14 @@ std::string joined(const std::vector<std::string> &sentences) {
   if (!typed || state->preset.empty())
     return;
   const std::string name = Presets::usableName(*typed);
-  Presets(printerOf(job->queue())).rename(state->preset, name);
+  Presets(printerOf(session->job().queue())).rename(state->preset, name);
   state->preset = name;
 }
 
 - (void)deletePreset {
   if (state->preset.empty())
     return;
-  Presets(printerOf(job->queue())).remove(state->preset);
+  Presets(printerOf(session->job().queue())).remove(state->preset);
   state->preset.clear();
 }
 

@@ -61,33 +61,35 @@ std::string titleOf(const Destination &destination) {
   state->printers.clear();
   std::vector<std::string> titles;
   for (const Destination &destination : state->destinations.list().destinations) {
-    if (!destination.instance.empty() && destination.fullName() != job->queue())
+    if (!destination.instance.empty() && destination.fullName() != session->job().queue())
       continue; // presets have a pop-up of their own
     state->printers.push_back(destination.fullName());
     titles.push_back(titleOf(destination));
   }
-  const auto current = std::find(state->printers.begin(), state->printers.end(), job->queue());
-  if (!job->queue().empty() && current == state->printers.end()) {
-    state->printers.push_back(job->queue());
-    titles.push_back(job->queue());
+  const auto current =
+      std::find(state->printers.begin(), state->printers.end(), session->job().queue());
+  if (!session->job().queue().empty() && current == state->printers.end()) {
+    state->printers.push_back(session->job().queue());
+    titles.push_back(session->job().queue());
   }
   titles.push_back(messages::kSaveAsTicket);
   [views.printers removeAllItems];
   for (const std::string &title : titles)
     [[views.printers menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
-  const auto chosen = std::find(state->printers.begin(), state->printers.end(), job->queue());
+  const auto chosen =
+      std::find(state->printers.begin(), state->printers.end(), session->job().queue());
   // The ticket's item is the one after the printers.
-  const auto item = job->isSubmitted() ? chosen : state->printers.end();
+  const auto item = session->job().isSubmitted() ? chosen : state->printers.end();
   [views.printers selectItemAtIndex:item - state->printers.begin()];
   [self sayState];
 }
 
 - (void)sayState {
   const DestinationList &list = state->destinations.list();
-  const Destination *const destination = list.find(job->queue());
+  const Destination *const destination = list.find(session->job().queue());
   std::string text;
-  if (!job->isSubmitted())
-    text = job->printer().name();
+  if (!session->job().isSubmitted())
+    text = session->job().printer().name();
   else if (destination != nullptr)
     text = messages::printerState(destination->stateText, destination->location);
   else
@@ -99,15 +101,15 @@ std::string titleOf(const Destination &destination) {
   [self takeFocus:sender];
   const auto chosen = static_cast<std::size_t>([views.printers indexOfSelectedItem]);
   if (chosen >= state->printers.size()) {
-    job->setSubmitted(false);
+    session->job().setSubmitted(false);
     [self listPrinters];
     return;
   }
   const std::string queue = state->printers[chosen];
-  if (queue != job->queue() && [self savePanels]) {
+  if (queue != session->job().queue() && [self savePanels]) {
     try {
       shownPanel = nullptr;
-      job->chooseQueue(queue);
+      session->chooseQueue(queue);
       [self say:""];
     } catch (const Failure &failure) {
       [self say:failure.what()];
@@ -118,7 +120,7 @@ std::string titleOf(const Destination &destination) {
     [self refresh];
     [self showChosenPane];
   }
-  job->setSubmitted(queue == job->queue());
+  session->job().setSubmitted(queue == session->job().queue());
   [self listPrinters];
 }
 

@@ -1,7 +1,9 @@
 #import "DialogController.h"
 #import "DialogState.h"
+#import "NamePanel.h"
 #import "PasswordPanel.h"
 #import "TextBridge.h"
+#include "TicketName.hpp"
 #include "WindowTexts.hpp"
 
 #include <iostream>
@@ -29,31 +31,27 @@ using namespace imageposition;
   [views.window makeFirstResponder:state->focusBefore];
 }
 
-- (JobRequest)request {
-  JobRequest request = job->request();
-  const Destination *const destination = state->destinations.list().find(job->queue());
-  if (destination != nullptr && job->isSubmitted()) {
-    request.defaults = destination->defaults;
-    request.printerUri = destination->uri;
-  }
-  return request;
-}
-
 - (void)startSending {
-  if (!job->hasDocument()) {
+  PrintJob &job = session->job();
+  if (job.isSubmitted() && !job.hasDocument()) {
     [self say:messages::kNothingToPrint];
     return;
   }
-  const JobRequest request = [self request];
   try {
-    if (job->arguments().isDryRun) {
-      std::cout << writeRequestText(request);
-      [NSApp stopModalWithCode:NSOKButton];
-      return;
+    std::string ticket = job.arguments().ticket;
+    if (!job.isSubmitted() && ticket.empty()) {
+      const auto named = askForTicket(views.window, suggestedTicket(job.documents()));
+      if (!named)
+        return;
+      ticket = *named;
     }
-    state->submission = std::make_unique<JobSubmission>(request, job->documentsToSend());
+    state->submission = job.print(state->destinations.list(), ticket, [] {}); // the timer looks
   } catch (const Failure &failure) {
     [self say:failure.what()];
+    return;
+  }
+  if (![self isSending]) {
+    [NSApp stopModalWithCode:NSOKButton];
     return;
   }
   [views.message setStringValue:@""];
@@ -74,7 +72,7 @@ using namespace imageposition;
   if (!question)
     return;
   state->isAskingForPassword = true;
-  auto answer = askForPassword(views.window, job->request().printer, *question);
+  auto answer = askForPassword(views.window, session->job().printer().name(), *question);
   state->isAskingForPassword = false;
   if (!answer)
     [self cancelSending];
@@ -103,7 +101,7 @@ using namespace imageposition;
   [self showSending:NO];
   try {
     const SubmittedJob sent = submission->result();
-    job->report(sent, std::cout, *errors);
+    session->job().report(sent, std::cout, *errors);
     state->note = sent.note;
     [views.message setStringValue:@""]; // what was said of sending is over when the note is read
     [NSApp stopModalWithCode:NSOKButton];

@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_HOST_DIALOGWINDOW_H
 #define IMAGEPOSITION_HOST_DIALOGWINDOW_H
 
-#import "DialogJob.h"
+#import "PrintSession.h"
 
 #include <iosfwd>
 
@@ -11,7 +11,7 @@ namespace imageposition {
 /// Shows the window and waits. True when the person printed, and CUPS has the job or its settings
 /// are written; false when they cancelled. What goes wrong meanwhile is said in the window and in
 /// `errors`, and the window stays.
-bool runDialog(DialogJob &job, std::ostream &errors);
+bool runDialog(PrintSession &session, std::ostream &errors);
 
 } // namespace imageposition
 

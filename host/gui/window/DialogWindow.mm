@@ -4,13 +4,11 @@
 #import "DialogState.h"
 #include "DocumentNames.hpp"
 #import "HelpPanel.h"
-#import "NamePanel.h"
 #import "NotePanel.h"
 #include "PasteboardTrouble.hpp"
 #include "PluginTexts.hpp"
 #import "Pool.h"
 #import "TextBridge.h"
-#include "TicketName.hpp"
 #include "WindowTexts.hpp"
 
 #include <algorithm>
@@ -45,26 +43,26 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
 
 @implementation DialogController
 
-- (id)initWithJob:(DialogJob *)theJob errors:(std::ostream *)theErrors {
+- (id)initWithSession:(PrintSession *)theSession errors:(std::ostream *)theErrors {
   if ((self = [super init]) == nil)
     return nil;
-  job = theJob;
+  session = theSession;
   errors = theErrors;
   state = new DialogState;
-  const std::size_t slash = job->queue().find('/');
+  const std::size_t slash = session->job().queue().find('/');
   if (slash != std::string::npos)
-    state->preset = job->queue().substr(slash + 1);
+    state->preset = session->job().queue().substr(slash + 1);
   [self buildWindow];
   [self listPrinters];
   [self listPresets];
   [self listPanes];
   state->redrawing.controller = self;
-  job->settings().setObserver(&state->redrawing);
+  session->job().settings().setObserver(&state->redrawing);
   return self;
 }
 
 - (void)dealloc {
-  job->settings().setObserver(nullptr);
+  session->job().settings().setObserver(nullptr);
   [self stopAskingForPrinters];
   [views.window setDelegate:nil];
   [views.window close];
@@ -76,7 +74,7 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
 }
 
 - (void)buildWindow {
-  const NSSize pane = paneSize(job->panels());
+  const NSSize pane = paneSize(session->panels());
   const DialogActions actions {
     self, @selector(printerChosen:), @selector(presetChosen:), @selector(copiesChanged:),
         @selector(copiesStepped:), @selector(collateChanged:), @selector(pagesChosen:),
@@ -84,7 +82,7 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
         @selector(paneChosen:), @selector(resolveConflicts:), @selector(help), @selector(dismiss),
         @selector(confirm)
   };
-  views = buildDialog(pane, roomOnScreen(), documentsInWords(job->documents()), actions);
+  views = buildDialog(pane, roomOnScreen(), documentsInWords(session->job().documents()), actions);
   [views.window setDelegate:(id)self];
   const NSRect frame = [views.paneArea bounds];
   summary = [[SummaryView alloc] initWithFrame:frame];
@@ -116,23 +114,7 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
   [views.window makeFirstResponder:nil];
   if (![self takeEntries] || ![self panelsAllowPrinting])
     return;
-  if (job->isSubmitted()) {
-    [self startSending];
-    return;
-  }
-  try {
-    std::string path = job->arguments().ticket;
-    if (path.empty()) {
-      const auto named = askForTicket(views.window, suggestedTicket(job->documents()));
-      if (!named)
-        return;
-      path = *named;
-    }
-    job->writeSettings(path);
-    [NSApp stopModalWithCode:NSOKButton];
-  } catch (const Failure &failure) {
-    [self say:failure.what()];
-  }
+  [self startSending];
 }
 
 - (void)dismiss {
@@ -168,9 +150,9 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
 
 - (void)sayTroubles {
   std::string troubles;
-  for (const std::string &trouble : job->panels().troubles())
+  for (const std::string &trouble : session->panels().troubles())
     troubles += (troubles.empty() ? "" : "\n") + trouble;
-  if (troubles.empty() && job->panels().panels().empty())
+  if (troubles.empty() && session->panels().panels().empty())
     troubles = messages::kNoPanelHere;
   if (!troubles.empty())
     [self say:troubles];
@@ -203,11 +185,11 @@ void imageposition::PictureRedrawing::settingsChanged() { [controller refreshPic
 
 namespace imageposition {
 
-bool runDialog(DialogJob &job, std::ostream &errors) {
+bool runDialog(PrintSession &session, std::ostream &errors) {
   DialogController *controller = nil;
   {
     const Pool pool;
-    controller = [[DialogController alloc] initWithJob:&job errors:&errors];
+    controller = [[DialogController alloc] initWithSession:&session errors:&errors];
   }
   const bool printed = [controller run];
   [controller release];

@@ -1,4 +1,4 @@
-#include "SessionTexts.hpp"
+#include "SetupTexts.hpp"
 
 namespace imageposition::messages {
 

@@ -1,15 +1,13 @@
-#import "DialogJob.h"
+#include "PrintJob.hpp"
 
 #include "CustomValue.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
-#include "PluginFolders.hpp"
-#import "Pool.h"
 #include "PresetFit.hpp"
 #include "Presets.hpp"
-#include "SessionTexts.hpp"
+#include "SetupTexts.hpp"
 
 #include <cups/cups.h>
 
@@ -18,6 +16,7 @@
 #include <iostream>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace imageposition {
 
@@ -41,8 +40,8 @@ std::string queueFor(const Arguments &arguments) {
   return arguments.queue.empty() ? defaultQueue() : arguments.queue;
 }
 
-std::unique_ptr<PrinterDescription> openPrinter(const Arguments &arguments,
-                                                const std::string &queue) {
+std::unique_ptr<PrinterDescription> firstPrinter(const Arguments &arguments,
+                                                 const std::string &queue) {
   return std::make_unique<PrinterDescription>(queue.empty()
                                                   ? PrinterDescription::fromFile(arguments.ppd)
                                                   : PrinterDescription::ofQueue(queue));
@@ -87,11 +86,6 @@ Ticket openTicket(const Arguments &arguments, const std::string &queue,
   return ticket;
 }
 
-std::vector<std::string> pluginsFor(const Arguments &arguments, const PrinterDescription &printer) {
-  return findPlugins({arguments.plugins, printer.attributeValues("APDialogExtension")},
-                     pluginFolders());
-}
-
 /// A pipe or a file, and no terminal or the nothing that desktops start programs with.
 bool isInputGiven() {
   struct stat status {};
@@ -119,22 +113,19 @@ bool canHave(ppd_file_t *ppd, ppd_file_t *before, const cups_option_t &setting) 
 
 } // namespace
 
-DialogJob::DialogJob(const Arguments &arguments)
-    : arguments_(arguments), queue_(queueFor(arguments)), printer_(openPrinter(arguments, queue_)),
+PrintJob::PrintJob(const Arguments &arguments)
+    : arguments_(arguments), queue_(queueFor(arguments)), printer_(firstPrinter(arguments, queue_)),
       ticket_(openTicket(arguments, queue_, *printer_)),
       isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
 }
 
-void DialogJob::loadPanels() {
-  const Pool pool;
-  plugins_ = pluginsFor(arguments_, *printer_);
-  panels_ = std::make_unique<PanelSession>(*printer_, ticket_.settings);
-  panels_->load(plugins_);
+std::unique_ptr<PrinterDescription> PrintJob::openPrinter(const std::string &queue) const {
+  return std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue));
 }
 
-void DialogJob::keepWhatFits(const PrinterDescription &before) {
+void PrintJob::keepWhatFits(const PrinterDescription &before) {
   std::vector<std::string> strange;
   for (int i = 0; i < settings().optionCount(); i++)
     if (!canHave(printer_->ppd(), before.ppd(), settings().options()[i]))
@@ -143,26 +134,23 @@ void DialogJob::keepWhatFits(const PrinterDescription &before) {
     settings().remove(name);
 }
 
-void DialogJob::chooseQueue(const std::string &queue) {
-  auto printer = openPrinter(arguments_, queue);
-  panels_.reset();
-  printer_.swap(printer);
+void PrintJob::takePrinter(const std::string &queue, std::unique_ptr<PrinterDescription> printer) {
+  const std::unique_ptr<PrinterDescription> before = std::exchange(printer_, std::move(printer));
   queue_ = queue;
   ticket_.printer = printer_->name();
-  keepWhatFits(*printer);
+  keepWhatFits(*before);
   printer_->mark(ticket_.settings);
-  loadPanels();
 }
 
-bool DialogJob::hasDocument() const {
+bool PrintJob::hasDocument() const {
   return !arguments_.documents.empty() || (!arguments_.isBatch && isInputGiven());
 }
 
-std::vector<std::string> DialogJob::documentsToSend() const {
+std::vector<std::string> PrintJob::documentsToSend() const {
   return arguments_.documents.empty() ? std::vector<std::string>{"-"} : arguments_.documents;
 }
 
-JobRequest DialogJob::request() const {
+JobRequest PrintJob::request(const DestinationList &destinations) const {
   JobRequest request;
   request.printer = queue_.substr(0, queue_.find('/'));
   request.title = arguments_.title;
@@ -173,28 +161,45 @@ JobRequest DialogJob::request() const {
   for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &ticket_.settings})
     for (std::string &name : hiddenSettings(printer_->ppd(), *settings))
       request.secrets.push_back(std::move(name));
+  const Destination *const destination = destinations.find(queue_);
+  if (destination != nullptr && isSubmitted_) { // a ticket has none of the destination's defaults
+    request.defaults = destination->defaults;
+    request.printerUri = destination->uri;
+  }
   return request;
 }
 
-void DialogJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
-  sentName_ = request().printer + "-" + std::to_string(sent.id);
+std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinations,
+                                               const std::string &ticketPath,
+                                               JobSubmission::Changed changed) {
+  if (!isSubmitted_) {
+    if (ticketPath.empty())
+      writeToOutput(writeOptionText(ticket_.settings));
+    else
+      writeTicketTo(ticketPath);
+    return nullptr;
+  }
+  JobRequest request = this->request(destinations);
+  if (arguments_.isDryRun) {
+    std::cout << writeRequestText(request);
+    return nullptr;
+  }
+  return std::make_unique<JobSubmission>(std::move(request), documentsToSend(), std::move(changed));
+}
+
+void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
+  const std::string printer = queue_.substr(0, queue_.find('/'));
+  sentName_ = printer + "-" + std::to_string(sent.id);
   if (arguments_.isSilent || arguments_.isMailWanted)
     return;
   const auto &paths = arguments_.documents;
   const auto inputs = std::count(paths.begin(), paths.end(), "-"); // lp counts files alone
-  output << messages::jobSent(request().printer, sent.id, paths.size() - inputs) << std::endl;
+  output << messages::jobSent(printer, sent.id, paths.size() - inputs) << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;
 }
 
-void DialogJob::writeSettings() {
-  if (arguments_.ticket.empty())
-    writeToOutput(writeOptionText(ticket_.settings));
-  else
-    writeSettings(arguments_.ticket);
-}
-
-void DialogJob::writeSettings(const std::string &path) {
+void PrintJob::writeTicketTo(const std::string &path) {
   const bool isSecret = !hiddenSettings(printer_->ppd(), ticket_.settings).empty();
   writeTicket(ticket_, path, isSecret ? Readers::OwnerAlone : Readers::Same);
   done_ = messages::ticketWritten(path, optionTextPath(path));

@@ -1,6 +1,6 @@
 /// What is said about the job that is being set up.
-#ifndef IMAGEPOSITION_HOST_SESSIONTEXTS_HPP
-#define IMAGEPOSITION_HOST_SESSIONTEXTS_HPP
+#ifndef IMAGEPOSITION_HOST_SETUPTEXTS_HPP
+#define IMAGEPOSITION_HOST_SETUPTEXTS_HPP
 
 #include "Text.hpp"
 

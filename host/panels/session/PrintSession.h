@@ -1,0 +1,41 @@
+/// The print job that is being set up, with its panels: what the window shows, and what is printed
+/// without one.
+#ifndef IMAGEPOSITION_PANELS_SESSION_PRINTSESSION_H
+#define IMAGEPOSITION_PANELS_SESSION_PRINTSESSION_H
+
+#import "PanelSession.h"
+#include "PrintJob.hpp"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace imageposition {
+
+/// Main thread only.
+class PrintSession {
+public:
+  /// Borrows the job.
+  explicit PrintSession(PrintJob &job) : job_(job) {}
+
+  PrintJob &job() noexcept { return job_; }
+  /// Loads the plug-ins and their panels. Needs the application.
+  void loadPanels();
+  /// Other ones after each `chooseQueue`. There are none before `loadPanels`.
+  PanelSession &panels() noexcept { return *panels_; }
+  /// The paths of the plug-ins that the printer and the command line name.
+  const std::vector<std::string> &plugins() const noexcept { return plugins_; }
+
+  /// Takes another queue, with its panels and those of the job's settings that the printer can
+  /// have. Throws a `Failure`, and then nothing has changed.
+  void chooseQueue(const std::string &queue);
+
+private:
+  PrintJob &job_;
+  std::vector<std::string> plugins_;
+  std::unique_ptr<PanelSession> panels_; // refers to the job's printer and settings
+};
+
+} // namespace imageposition
+
+#endif
