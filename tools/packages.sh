@@ -11,6 +11,7 @@ build_packages=(
 
 run_packages=(
   gnustep-back0.29-cairo                            # draws the windows
+  cups-common                                       # words for what printers offer, in many languages
   fontconfig fonts-dejavu-core fonts-wqy-microhei   # text; Japanese and Chinese with Latin in one font
   xvfb openbox                                      # a display where there is none
 )
@@ -28,6 +29,8 @@ test_packages=(
   zsh python3                                       # completion, in the real shells
   strace util-linux                                 # kill at each system call; run as somebody else
   cups-client cups-daemon                           # checks printer descriptions; a CUPS to ask
+  cups-ipp-utils dbus-daemon                        # a printer without a driver, and its bus
+  python3-dbus python3-gi                           # announce that printer to nobody
   libpam-wrapper                                    # names and passwords of that CUPS's own
   cups-filters hp-ppd foomatic-db-compressed-ppds   # printer descriptions that others wrote
 )

@@ -2,6 +2,7 @@
 
 #include "ChoiceList.hpp"
 #include "ExitCode.hpp"
+#include "MissingTexts.hpp"
 #include "PpdSize.hpp"
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
@@ -116,7 +117,9 @@ PrinterDescription::open(const std::string &path, const std::string &shownPath) 
 PrinterDescription PrinterDescription::fromFile(const std::string &path) {
   auto ppd = open(path, path);
   const std::string name = nameFromPpd(*ppd, path);
-  return PrinterDescription(std::move(ppd), name);
+  PrinterDescription printer(std::move(ppd), name);
+  printer.localize(path, {});
+  return printer;
 }
 
 PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
@@ -136,6 +139,7 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   const TemporaryFile owner(file);
   PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);
   printer.queueDefaults_ = defaultsOf(name);
+  printer.localize(file, name.printer);
   return printer;
 }
 
@@ -163,9 +167,12 @@ const std::vector<OptionConstraint> &PrinterDescription::constraints() {
   return *constraints_;
 }
 
-void PrinterDescription::localize() {
-  if (!std::exchange(isLocalized_, true))
-    ppdLocalize(ppd());
+void PrinterDescription::localize(const std::string &path, const std::string &queue) {
+  ppdLocalize(ppd());
+  if (!isMissingTexts(*ppd()))
+    return;
+  const bool isReadAgain = kindOf(path) == S_IFREG; // a pipe can be read once only
+  fillMissingTexts(*ppd(), isReadAgain ? readTranslations(path) : Translations(), queue);
 }
 
 void PrinterDescription::markLists(const PrintSettingsStore &job) {

@@ -15,6 +15,8 @@
 
 namespace imageposition {
 
+/// Options and choices have their texts in the locale's language, as far as the PPD has it, or else
+/// CUPS, where it has the queue; see `MissingTexts.hpp`.
 class PrinterDescription {
 public:
   /// Reads a PPD file, compressed or not. Throws a `Failure` that names file, line and reason; also
@@ -45,9 +47,6 @@ public:
   /// Read at the first call.
   const std::vector<OptionConstraint> &constraints();
 
-  /// Puts the options' texts into the locale's language, as far as the PPD has it. Done once.
-  void localize();
-
   /// The values of all attributes with that keyword, in the file's order; those without a value are
   /// left out.
   std::vector<std::string> attributeValues(const std::string &keyword) const;
@@ -59,6 +58,8 @@ private:
 
   PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name);
 
+  /// `queue` is empty for a file.
+  void localize(const std::string &path, const std::string &queue);
   void markLists(const PrintSettingsStore &job);
 
   static std::unique_ptr<ppd_file_t, Close> open(const std::string &path,
@@ -70,7 +71,6 @@ private:
   std::vector<ppd_option_t *> lists_; ///< The options that take several choices; the PPD's.
   std::optional<std::map<std::string, std::string>> defaultChoices_;
   std::optional<std::vector<OptionConstraint>> constraints_;
-  bool isLocalized_ = false;
 };
 
 } // namespace imageposition

@@ -170,9 +170,7 @@ std::string PrinterOption::textOfSeveral(const ChoiceList &list) const {
 }
 
 PrinterOptions::PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job)
-    : printer_(printer), job_(job) {
-  printer_.localize();
-}
+    : printer_(printer), job_(job) {}
 
 std::vector<OptionGroup> PrinterOptions::all() {
   const Builder builder(printer_, job_);

@@ -2,36 +2,29 @@
 #ifndef IMAGEPOSITION_HOST_PREVIEWCOLOURS_HPP
 #define IMAGEPOSITION_HOST_PREVIEWCOLOURS_HPP
 
-namespace imageposition {
+#include "Rgb.hpp"
 
-/// Red, green and blue from 0 to 255.
-struct Colour {
-  int red;
-  int green;
-  int blue;
-};
+namespace imageposition {
 
 /// Front, back and loss are a blue, a green and a vermilion that people with any kind of
 /// colour blindness tell apart; line patterns and names repeat what they say.
 struct PreviewColours {
-  Colour text;
-  Colour secondaryText;
-  Colour paper;
-  Colour outline;   ///< The edge of the paper.
-  Colour printable; ///< The edge of the imageable area, and the grid's axes.
-  Colour gridLine;
-  Colour front;
-  Colour back;
-  Colour lost;
+  Rgb text;
+  Rgb secondaryText;
+  Rgb paper;
+  Rgb outline;   ///< The edge of the paper.
+  Rgb printable; ///< The edge of the imageable area, and the grid's axes.
+  Rgb gridLine;
+  Rgb front;
+  Rgb back;
+  Rgb lost;
 };
 
-constexpr PreviewColours kLightPreview = {{28, 28, 30},    {90, 90, 96},    {255, 255, 255},
-                                          {120, 120, 128}, {110, 110, 118}, {224, 226, 232},
-                                          {0, 40, 130},    {0, 133, 100},   {206, 64, 0}};
+constexpr PreviewColours kLightPreview = {0x1C1C1E, 0x5A5A60, 0xFFFFFF, 0x787880, 0x6E6E76,
+                                          0xE0E2E8, 0x002882, 0x008564, 0xCE4000};
 
-constexpr PreviewColours kDarkPreview = {{240, 240, 242}, {176, 176, 184}, {44, 45, 50},
-                                         {130, 131, 140}, {150, 151, 160}, {66, 68, 76},
-                                         {110, 160, 255}, {120, 240, 150}, {255, 138, 66}};
+constexpr PreviewColours kDarkPreview = {0xF0F0F2, 0xB0B0B8, 0x2C2D32, 0x82838C, 0x9697A0,
+                                         0x42444C, 0x6EA0FF, 0x78F096, 0xFF8A42};
 
 } // namespace imageposition
 

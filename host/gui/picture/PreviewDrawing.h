@@ -14,7 +14,7 @@ namespace imageposition {
 /// The colours that go with the window's.
 const PreviewColours &previewColours();
 
-void setColour(const Colour &colour, double opacity = 1);
+void setColour(Rgb colour, double opacity = 1);
 NSRect toRect(const PixelRectangle &rectangle);
 
 /// The font of all texts in the picture, and its bold form.
@@ -26,18 +26,17 @@ double previewLineHeight();
 enum class Alignment { Left, Centre, Right };
 
 /// In one line, in the middle of the place's height; it may reach beyond the place.
-void drawLine(const std::string &text, const PixelRectangle &place, NSFont *font,
-              const Colour &colour, Alignment alignment);
+void drawLine(const std::string &text, const PixelRectangle &place, NSFont *font, Rgb colour,
+              Alignment alignment);
 /// In as many lines as it takes, from the top.
-void drawParagraph(const std::string &text, const PixelRectangle &place, NSFont *font,
-                   const Colour &colour);
+void drawParagraph(const std::string &text, const PixelRectangle &place, NSFont *font, Rgb colour);
 double widthOf(const std::string &text, NSFont *font);
 
 /// One pixel wide, along the inside of the rectangle.
-void strokeRectangle(const PixelRectangle &rectangle, const Colour &colour, bool dashed);
+void strokeRectangle(const PixelRectangle &rectangle, Rgb colour, bool dashed);
 
 /// The pattern of what cannot be printed.
-void hatch(const PixelRectangle &rectangle, const Colour &colour);
+void hatch(const PixelRectangle &rectangle, Rgb colour);
 
 /// "→ 2.5  ↓ 1 mm"; empty for no shift.
 std::string arrowText(const Offset &offset);

@@ -2,6 +2,7 @@
 
 #include "MeasureTexts.hpp"
 #import "TextBridge.h"
+#import "ThemeColors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,17 +11,8 @@
 namespace imageposition {
 namespace {
 
-constexpr double kLargestComponent = 255;
-
-NSColor *colourOf(const Colour &colour, double opacity) {
-  return [NSColor colorWithCalibratedRed:colour.red / kLargestComponent
-                                   green:colour.green / kLargestComponent
-                                    blue:colour.blue / kLargestComponent
-                                   alpha:opacity];
-}
-
-NSDictionary *attributesOf(NSFont *font, const Colour &colour) {
-  return [NSDictionary dictionaryWithObjectsAndKeys:font, NSFontAttributeName, colourOf(colour, 1),
+NSDictionary *attributesOf(NSFont *font, Rgb colour) {
+  return [NSDictionary dictionaryWithObjectsAndKeys:font, NSFontAttributeName, toColor(colour),
                                                     NSForegroundColorAttributeName, nil];
 }
 
@@ -33,7 +25,7 @@ const PreviewColours &previewColours() {
   return isDark ? kDarkPreview : kLightPreview;
 }
 
-void setColour(const Colour &colour, double opacity) { [colourOf(colour, opacity) set]; }
+void setColour(Rgb colour, double opacity) { [toColor(colour, opacity) set]; }
 
 NSRect toRect(const PixelRectangle &rectangle) {
   return NSMakeRect(rectangle.x, rectangle.y, rectangle.width, rectangle.height);
@@ -49,8 +41,8 @@ double widthOf(const std::string &text, NSFont *font) {
   return [font widthOfString:toString(text)];
 }
 
-void drawLine(const std::string &text, const PixelRectangle &place, NSFont *font,
-              const Colour &colour, Alignment alignment) {
+void drawLine(const std::string &text, const PixelRectangle &place, NSFont *font, Rgb colour,
+              Alignment alignment) {
   const double rest = place.width - widthOf(text, font);
   double left = place.x;
   if (alignment == Alignment::Centre)
@@ -62,12 +54,11 @@ void drawLine(const std::string &text, const PixelRectangle &place, NSFont *font
                withAttributes:attributesOf(font, colour)];
 }
 
-void drawParagraph(const std::string &text, const PixelRectangle &place, NSFont *font,
-                   const Colour &colour) {
+void drawParagraph(const std::string &text, const PixelRectangle &place, NSFont *font, Rgb colour) {
   [toString(text) drawInRect:toRect(place) withAttributes:attributesOf(font, colour)];
 }
 
-void strokeRectangle(const PixelRectangle &rectangle, const Colour &colour, bool dashed) {
+void strokeRectangle(const PixelRectangle &rectangle, Rgb colour, bool dashed) {
   if (rectangle.width < 1 || rectangle.height < 1)
     return;
   NSBezierPath *const path =
@@ -81,7 +72,7 @@ void strokeRectangle(const PixelRectangle &rectangle, const Colour &colour, bool
   [path stroke];
 }
 
-void hatch(const PixelRectangle &rectangle, const Colour &colour) {
+void hatch(const PixelRectangle &rectangle, Rgb colour) {
   constexpr double kDistance = 4;
   [NSGraphicsContext saveGraphicsState];
   NSRectClip(toRect(rectangle));

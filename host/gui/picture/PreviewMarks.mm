@@ -64,7 +64,7 @@ void drawScale(const PreviewLayout &layout) {
 /// A cross in a circle, or in a diamond with broken lines.
 struct Mark {
   Offset offset;
-  Colour colour;
+  Rgb colour;
   std::string name;
   bool isBack;
 };

@@ -11,7 +11,7 @@ namespace {
 /// A side as it is drawn on one of the pages.
 struct DrawnSide {
   const SidePreview *side;
-  Colour colour;
+  Rgb colour;
   bool isBack;
   bool flipsLeftRight = false;
   bool flipsTopBottom = false;
@@ -23,7 +23,7 @@ PixelRectangle rounded(const PixelRectangle &rectangle) {
   return {left, top, std::round(rectangle.right()) - left, std::round(rectangle.bottom()) - top};
 }
 
-void fill(const PixelRectangle &rectangle, const Colour &colour, double opacity) {
+void fill(const PixelRectangle &rectangle, Rgb colour, double opacity) {
   if (rectangle.width <= 0 || rectangle.height <= 0)
     return;
   setColour(colour, opacity);
@@ -104,7 +104,7 @@ void drawPaper(const PixelRectangle &page) {
 }
 
 void drawTexts(const PagePlace &place, const std::string &title, const std::string &caption,
-               const Colour &colour) {
+               Rgb colour) {
   drawLine(title, place.title, previewBoldFont(), colour, Alignment::Centre);
   drawLine(caption, place.caption, previewFont(), previewColours().text, Alignment::Centre);
 }

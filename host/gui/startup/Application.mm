@@ -56,7 +56,6 @@ void startApplication() {
   leaveOutNotificationDaemon();
   chooseFontsForLanguage();
   leaveOutIconAndServices();
-  openInputMethodWithFirstKey();
   const auto raised = whatIsRaisedBy([] {
     const ShortWaits whileStarting;
     [NSApplication sharedApplication];

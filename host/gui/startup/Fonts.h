@@ -1,12 +1,12 @@
-/// Fonts for languages that the platform's own choice cannot write.
+/// Fonts for languages that GNUstep's usual one cannot write.
 #ifndef IMAGEPOSITION_HOST_FONTS_H
 #define IMAGEPOSITION_HOST_FONTS_H
 
 namespace imageposition {
 
-/// The platform writes a text in one font, and its usual one has no Japanese or Chinese. For people
-/// with such a language a font that has both theirs and Latin becomes the default, unless they have
-/// chosen one. Call it before the application is there, which looks at the defaults.
+/// Makes a font that can write the user's language the default for this program, unless the user
+/// has chosen one; see `LanguageFonts.hpp`. Call it before the application is there, which looks at
+/// the defaults.
 void chooseFontsForLanguage();
 
 } // namespace imageposition

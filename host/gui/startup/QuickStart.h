@@ -1,4 +1,4 @@
-/// What the platform does at the start of every program, and a dialog does without or later.
+/// What the platform does at the start of every program, and a dialog does without.
 #ifndef IMAGEPOSITION_HOST_QUICKSTART_H
 #define IMAGEPOSITION_HOST_QUICKSTART_H
 
@@ -19,10 +19,6 @@ public:
   ShortWaits(const ShortWaits &) = delete;
   ShortWaits &operator=(const ShortWaits &) = delete;
 };
-
-/// The input method, and with it the table of composed characters, is opened by the first key that
-/// is pressed, which it then gets. Call it before the application is there.
-void openInputMethodWithFirstKey();
 
 } // namespace imageposition
 

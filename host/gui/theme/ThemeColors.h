@@ -3,15 +3,11 @@
 #define IMAGEPOSITION_HOST_THEMECOLORS_H
 
 #include "Appearance.hpp"
+#include "Rgb.hpp"
 
 #import <AppKit/AppKit.h>
 
-#include <cstdint>
-
 namespace imageposition {
-
-/// A colour as 0xRRGGBB.
-using Rgb = std::uint32_t;
 
 /// Texts have a contrast of at least 4.5 to 1 to what they stand on, edges and marks that tell a
 /// control's state at least 3 to 1.
@@ -38,7 +34,7 @@ struct ThemeColors {
 
 const ThemeColors &themeColors(Appearance appearance);
 
-NSColor *toColor(Rgb rgb);
+NSColor *toColor(Rgb rgb, double opacity = 1);
 
 /// The platform's own colours by their names, so that what it draws by itself agrees. Not owned by
 /// the caller.

@@ -54,9 +54,12 @@ const ThemeColors &themeColors(Appearance appearance) {
   return appearance == Appearance::Dark ? kDark : kLight;
 }
 
-NSColor *toColor(Rgb rgb) {
-  const auto part = [=](int shift) { return static_cast<CGFloat>((rgb >> shift) & 0xFF) / 255; };
-  return [NSColor colorWithCalibratedRed:part(16) green:part(8) blue:part(0) alpha:1];
+NSColor *toColor(Rgb rgb, double opacity) {
+  constexpr CGFloat kMost = 255;
+  return [NSColor colorWithCalibratedRed:redOf(rgb) / kMost
+                                   green:greenOf(rgb) / kMost
+                                    blue:blueOf(rgb) / kMost
+                                   alpha:opacity];
 }
 
 NSColorList *makeSystemColors(const ThemeColors &c) {

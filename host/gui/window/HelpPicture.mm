@@ -17,7 +17,7 @@ constexpr double kShift = 26; // of the image from its place, both ways
 constexpr double kSwatch = 18;
 
 /// From one point to another along an axis, with a head as large as its line is thick.
-void drawArrow(NSPoint from, NSPoint to, const Colour &colour) {
+void drawArrow(NSPoint from, NSPoint to, Rgb colour) {
   const double length = std::hypot(to.x - from.x, to.y - from.y);
   const NSPoint way = NSMakePoint((to.x - from.x) / length, (to.y - from.y) / length);
   constexpr double kHead = 7;
@@ -45,7 +45,7 @@ PixelRectangle moved(PixelRectangle rectangle, double by) {
 }
 
 /// The lines of a text in an image.
-void drawContent(const PixelRectangle &image, const Colour &colour) {
+void drawContent(const PixelRectangle &image, Rgb colour) {
   setColour(colour, 0.35);
   for (double top = image.y + 14; top + 4 < image.bottom() - 8; top += 12)
     NSRectFillUsingOperation(NSMakeRect(image.x + 12, top, image.width - 24, 4),
@@ -53,7 +53,7 @@ void drawContent(const PixelRectangle &image, const Colour &colour) {
 }
 
 /// A piece of an outline and what it stands for.
-void drawLegend(const std::string &text, double top, const Colour &colour, bool dashed) {
+void drawLegend(const std::string &text, double top, Rgb colour, bool dashed) {
   const double height = previewLineHeight();
   strokeRectangle({0, top + std::round((height - 10) / 2), kSwatch, 10}, colour, dashed);
   drawLine(text, {kSwatch + kGap / 2, top, 0, height}, previewFont(), previewColours().text,

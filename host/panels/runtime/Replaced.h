@@ -27,7 +27,6 @@ public:
       method_setImplementation(method_, before_);
     before_ = nullptr;
   }
-  bool isThere() const { return method_ != nullptr; }
   /// The platform's own, while it is replaced.
   template <typename Function> Function *before() const {
     return reinterpret_cast<Function *>(reinterpret_cast<void *>(before_));

@@ -1,28 +1,15 @@
 #include "PrintWindow.hpp"
 
 #include "FocusedWindow.hpp"
+#include "Waiting.hpp"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <stdexcept>
-#include <thread>
 
 namespace imageposition::test {
 
 namespace {
-
-constexpr std::chrono::seconds kPatience{30};
-
-bool comesTrueInTime(const std::function<bool()> &condition) {
-  const auto deadline = std::chrono::steady_clock::now() + kPatience;
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > deadline)
-      return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  }
-  return true;
-}
 
 /// What a person does next makes no sense then.
 [[noreturn]] void giveUp(const std::string &missing, const Screen &shown) {
@@ -60,17 +47,17 @@ bool startsWith(const std::string &text, const std::string &start) {
 } // namespace
 
 PrintWindow::PrintWindow(const std::vector<std::string> &words,
-                         const std::vector<std::string> &environment)
+                         const std::vector<std::string> &environment, const std::string &title)
     : defaults_("GSAppKitUserBundles = (\"" OBSERVER_BUNDLE "\");"),
       process_(commandFor(words), environmentFor(environment, file())) {
-  if (!comesTrueInTime([&] { return process_.hasEnded() || hasKeyboard("Print"); }))
+  if (!becomesTrue([&] { return process_.hasEnded() || hasKeyboard(title); }))
     giveUp("no keyboard", screen());
   if (process_.hasEnded())
     throw std::runtime_error(testing::PrintToString(process_.wait()));
 }
 
 bool PrintWindow::becomes(const std::function<bool(const Screen &)> &condition) const {
-  return comesTrueInTime([&] { return condition(screen()); });
+  return becomesTrue([&] { return condition(screen()); });
 }
 
 bool PrintWindow::says(const std::string &text) const {
@@ -131,7 +118,7 @@ void PrintWindow::clickAt(int x, int y, const std::function<void()> &before) {
     throw;
   }
   xdotool({"mouseup", "1"});
-  if (!comesTrueInTime([&] { return process_.hasEnded() || !screen().isTracking; }))
+  if (!becomesTrue([&] { return process_.hasEnded() || !screen().isTracking; }))
     giveUp("the button is not let go", screen());
 }
 
@@ -191,7 +178,7 @@ void PrintWindow::tick(const std::string &title, bool on) {
 }
 
 const ProcessResult &PrintWindow::ended() {
-  if (!comesTrueInTime([&] { return process_.hasEnded(); }))
+  if (!becomesTrue([&] { return process_.hasEnded(); }))
     giveUp("it does not end", screen());
   return process_.wait();
 }

@@ -16,9 +16,10 @@ namespace imageposition::test {
 /// Each act throws, with what the window shows, when what it needs does not show up in time.
 class PrintWindow {
 public:
-  /// Starts the program and waits until its window has the keyboard.
+  /// Starts the program and waits until its window, of that title, has the keyboard.
   explicit PrintWindow(const std::vector<std::string> &words,
-                       const std::vector<std::string> &environment = {});
+                       const std::vector<std::string> &environment = {},
+                       const std::string &title = "Print");
 
   Screen screen() const { return Screen::read(file()); }
   /// Waits until the window is as wanted.

@@ -4,6 +4,7 @@
 
 #include "DialogFixture.hpp"
 #include "OfficeQueue.hpp"
+#include "Waiting.hpp"
 
 #include <chrono>
 #include <functional>
@@ -11,16 +12,6 @@
 #include <thread>
 
 namespace imageposition::test {
-
-inline bool becomesTrue(const std::function<bool()> &condition) {
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > deadline)
-      return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
-  }
-  return true;
-}
 
 class Window : public DialogFixture {
 protected:

@@ -1,5 +1,6 @@
 // A CUPS whose answers are not what they should be.
 #include "AnsweringServer.hpp"
+#include "CupsWords.hpp"
 #include "Destinations.hpp"
 #include "JobSubmission.hpp"
 #include "PrinterDescription.hpp"
@@ -9,13 +10,18 @@
 
 #include <cstdlib>
 #include <future>
+#include <netinet/in.h>
 #include <optional>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
 using namespace imageposition;
 using namespace imageposition::test;
 using testing::AllOf;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 using testing::SizeIs;
@@ -164,6 +170,62 @@ TEST_F(HostileCups, AStatusThatNoStandardHasIsARefusal) {
   EXPECT_THAT(refusal(printer() + "answer 200 0005\nipp 7FFF\n01\n41 status-message Odd.\n"),
               HasSubstr("CUPS did not take the job for \"office\" (Odd)."));
   EXPECT_THAT(printers("answer 131072 0\nbody odd\n").reason, HasSubstr("CUPS does not "));
+}
+
+std::vector<std::string> wordsFor(const std::vector<Term> &terms) {
+  return wordsOfCups("office", terms, std::chrono::milliseconds(300));
+}
+
+Term message(const char *english) {
+  Term term;
+  term.message = english;
+  return term;
+}
+
+TEST_F(HostileCups, WithoutAnAnswerHasNoWordsForAnOption) {
+  for (const char *answers : {"answer 200 0\nsilent\n", "answer 500 0\n", "answer 200 0\nbody x\n"})
+    EXPECT_THAT(with(answers,
+                     [] {
+                       return wordsFor({message("None"), message("Off")});
+                     }),
+                ElementsAre("", ""));
+}
+
+/// A port of this machine that lets clients connect and tells them nothing.
+class SilentPort {
+public:
+  SilentPort() {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto *const generic = reinterpret_cast<sockaddr *>(&address);
+    if (bind(listener_, generic, size) == 0 && listen(listener_, 5) == 0 &&
+        getsockname(listener_, generic, &size) == 0)
+      number_ = ntohs(address.sin_port);
+  }
+  ~SilentPort() { close(listener_); }
+  SilentPort(const SilentPort &) = delete;
+  SilentPort &operator=(const SilentPort &) = delete;
+
+  int number() const noexcept { return number_; }
+  bool hasClient() const {
+    pollfd waiting{listener_, POLLIN, 0};
+    return poll(&waiting, 1, 0) == 1;
+  }
+
+private:
+  const int listener_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  int number_ = 0;
+};
+
+TEST_F(HostileCups, IsNotWaitedForWhileAnotherServerKeepsAPrintersWordsBack) {
+  const SilentPort other;
+  const std::string uri = "http://127.0.0.1:" + std::to_string(other.number()) + "/words";
+  EXPECT_THAT(with(printer() + "45 printer-strings-uri " + uri + "\n",
+                   [] { return wordsFor({message("None")}); }),
+              ElementsAre(""));
+  EXPECT_TRUE(other.hasClient());
 }
 
 } // namespace

@@ -15,28 +15,26 @@ double linear(int component) {
 }
 
 /// As WCAG 2 defines it.
-double luminance(const Colour &colour) {
-  return 0.2126 * linear(colour.red) + 0.7152 * linear(colour.green) + 0.0722 * linear(colour.blue);
+double luminance(Rgb colour) {
+  return 0.2126 * linear(redOf(colour)) + 0.7152 * linear(greenOf(colour)) +
+         0.0722 * linear(blueOf(colour));
 }
 
-double contrast(const Colour &a, const Colour &b) {
+double contrast(Rgb a, Rgb b) {
   const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 
 TEST(PreviewColours, WhatIsWrittenStandsOutFromThePaper) {
   for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
-    for (const Colour &colour :
-         {colours->text, colours->secondaryText, colours->front, colours->back})
-      EXPECT_GE(contrast(colour, colours->paper), 4.5)
-          << colour.red << " " << colour.green << " " << colour.blue;
+    for (const Rgb colour : {colours->text, colours->secondaryText, colours->front, colours->back})
+      EXPECT_GE(contrast(colour, colours->paper), 4.5) << std::hex << colour;
 }
 
 TEST(PreviewColours, WhatIsDrawnStandsOutFromThePaper) {
   for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
-    for (const Colour &colour : {colours->lost, colours->outline, colours->printable})
-      EXPECT_GE(contrast(colour, colours->paper), 3)
-          << colour.red << " " << colour.green << " " << colour.blue;
+    for (const Rgb colour : {colours->lost, colours->outline, colours->printable})
+      EXPECT_GE(contrast(colour, colours->paper), 3) << std::hex << colour;
 }
 
 struct Blindness {
@@ -66,12 +64,12 @@ double encoded(double value) {
 }
 
 /// Between two colours as they are seen, in components from 0 to 255.
-double distance(const Colour &a, const Colour &b, const Blindness &blindness) {
+double distance(Rgb a, Rgb b, const Blindness &blindness) {
   double sum = 0;
   for (const auto &row : blindness.matrix) {
-    const auto seen = [&row](const Colour &colour) {
-      return encoded(row[0] * linear(colour.red) + row[1] * linear(colour.green) +
-                     row[2] * linear(colour.blue));
+    const auto seen = [&row](Rgb colour) {
+      return encoded(row[0] * linear(redOf(colour)) + row[1] * linear(greenOf(colour)) +
+                     row[2] * linear(blueOf(colour)));
     };
     sum += std::pow(seen(a) - seen(b), 2);
   }

@@ -59,22 +59,22 @@ protected:
     layout_ = layOutPreview(preview, {size.width, size.height, previewLineHeight()});
   }
 
-  Colour at(int x, int y) const {
+  Rgb at(int x, int y) const {
     NSUInteger pixel[5] = {};
     [bitmap_ getPixel:pixel atX:x y:y];
-    return {static_cast<int>(pixel[0]), static_cast<int>(pixel[1]), static_cast<int>(pixel[2])};
+    return static_cast<Rgb>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
   }
 
-  bool isNear(int x, int y, const Colour &colour) const {
+  bool isNear(int x, int y, Rgb colour) const {
     constexpr int kTolerance = 40;
-    const Colour found = at(x, y);
-    return std::abs(found.red - colour.red) + std::abs(found.green - colour.green) +
-               std::abs(found.blue - colour.blue) <
+    const Rgb found = at(x, y);
+    return std::abs(redOf(found) - redOf(colour)) + std::abs(greenOf(found) - greenOf(colour)) +
+               std::abs(blueOf(found) - blueOf(colour)) <
            kTolerance;
   }
 
   /// Within a pixel of there.
-  bool isAround(const Pixel &pixel, const Colour &colour) const {
+  bool isAround(const Pixel &pixel, Rgb colour) const {
     for (int y = -1; y <= 1; y++)
       for (int x = -1; x <= 1; x++)
         if (isNear(static_cast<int>(pixel.x) + x, static_cast<int>(pixel.y) + y, colour))
@@ -82,7 +82,7 @@ protected:
     return false;
   }
 
-  int count(const PixelRectangle &area, const Colour &colour) const {
+  int count(const PixelRectangle &area, Rgb colour) const {
     int found = 0;
     for (int y = static_cast<int>(area.y); y < area.bottom(); y++)
       for (int x = static_cast<int>(area.x); x < area.right(); x++)
@@ -91,7 +91,7 @@ protected:
   }
 
   /// Where the outline of the content crosses a line, from left to right.
-  std::vector<int> crossings(const PixelRectangle &page, double y, const Colour &colour) const {
+  std::vector<int> crossings(const PixelRectangle &page, double y, Rgb colour) const {
     std::vector<int> found;
     for (int x = static_cast<int>(page.x); x < page.right() + 4; x++)
       if (isNear(x, static_cast<int>(y), colour))
@@ -104,7 +104,7 @@ protected:
     double sum = 0;
     for (int y = static_cast<int>(area.y); y < area.bottom(); y++)
       for (int x = static_cast<int>(area.x); x < area.right(); x++)
-        sum += 255 - at(x, y).red;
+        sum += 255 - redOf(at(x, y));
     return sum;
   }
 

@@ -1,0 +1,95 @@
+#include "CupsWords.hpp"
+
+#include "CupsConnection.hpp"
+#include "PasswordQuestion.hpp"
+
+#include <algorithm>
+#include <future>
+#include <iterator>
+#include <memory>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct FreeDestination {
+  void operator()(cups_dest_t *destination) const noexcept { cupsFreeDests(1, destination); }
+};
+struct FreeInfo {
+  void operator()(cups_dinfo_t *info) const noexcept { cupsFreeDestInfo(info); }
+};
+
+/// What libcups wants to be given for each word.
+struct Queue {
+  http_t *http;
+  cups_dest_t *destination;
+  cups_dinfo_t *info;
+};
+
+/// libcups returns what it has no word for.
+std::string unlessSame(const char *word, const std::string &term) {
+  return word != nullptr && word != term ? word : "";
+}
+
+std::string wordFor(const Queue &queue, Term term) {
+  const auto &[http, destination, info] = queue;
+  if (term.size) {
+    const char *const word = cupsLocalizeDestMedia(http, destination, info, 0, &*term.size);
+    return word != nullptr ? word : "";
+  }
+  // Its catalogue has its own messages as well as IPP's names.
+  const std::string &name = term.message.empty() ? term.attribute : term.message;
+  if (term.value.empty())
+    return unlessSame(cupsLocalizeDestOption(http, destination, info, name.c_str()), name);
+  return unlessSame(
+      cupsLocalizeDestValue(http, destination, info, name.c_str(), term.value.c_str()), term.value);
+}
+
+std::vector<std::string> ask(const std::string &queue, const std::vector<Term> &terms,
+                             std::chrono::milliseconds patience) {
+  const Clock::time_point deadline = Clock::now() + patience;
+  const PasswordQuestion nobodyAnswers;
+  const auto connection = CupsConnection::open(patience, [=] { return Clock::now() < deadline; });
+  if (!connection)
+    return {};
+  http_t *const http = connection->http();
+  const std::unique_ptr<cups_dest_t, FreeDestination> destination(
+      cupsGetNamedDest(http, queue.c_str(), nullptr));
+  if (!destination)
+    return {};
+  const std::unique_ptr<cups_dinfo_t, FreeInfo> info(cupsCopyDestInfo(http, destination.get()));
+  if (!info)
+    return {};
+  std::vector<std::string> words;
+  std::transform(terms.begin(), terms.end(), std::back_inserter(words), [&](const Term &term) {
+    return wordFor({http, destination.get(), info.get()}, term);
+  });
+  return words;
+}
+
+} // namespace
+
+std::vector<std::string> wordsOfCups(const std::string &queue, const std::vector<Term> &terms,
+                                     std::chrono::milliseconds patience) {
+  // libcups may fetch a printer's words over a connection of its own, which has no patience of
+  // ours.
+  std::packaged_task<std::vector<std::string>()> task([=] { return ask(queue, terms, patience); });
+  auto answer = task.get_future();
+  try {
+    std::thread(std::move(task)).detach();
+  } catch (const std::system_error &) { // too many processes
+    return std::vector<std::string>(terms.size());
+  }
+  std::vector<std::string> words;
+  if (answer.wait_for(patience) == std::future_status::ready)
+    words = answer.get();
+  words.resize(terms.size());
+  return words;
+}
+
+} // namespace imageposition

@@ -1,0 +1,72 @@
+#include "LanguageFonts.hpp"
+
+#include <fontconfig/fontconfig.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace imageposition {
+
+namespace {
+
+struct FreePattern {
+  void operator()(FcPattern *pattern) const noexcept { FcPatternDestroy(pattern); }
+};
+using Pattern = std::unique_ptr<FcPattern, FreePattern>;
+
+const FcChar8 *bytesOf(const char *text) { return reinterpret_cast<const FcChar8 *>(text); }
+
+bool isInLatinLetters(const FcChar8 *language) {
+  const FcCharSet *const letters = FcLangGetCharSet(language);
+  return letters == nullptr || FcCharSetHasChar(letters, 'a') != FcFalse;
+}
+
+/// Null where there is no font at all.
+Pattern match(const char *family, const FcChar8 *language, int weight) {
+  const Pattern wanted(FcPatternCreate());
+  FcPatternAddString(wanted.get(), FC_FAMILY, bytesOf(family));
+  FcPatternAddString(wanted.get(), FC_LANG, language);
+  FcPatternAddInteger(wanted.get(), FC_WEIGHT, weight);
+  FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
+  FcDefaultSubstitute(wanted.get());
+  FcResult ignored;
+  return Pattern(FcFontMatch(nullptr, wanted.get(), &ignored));
+}
+
+/// fontconfig chooses some font in any case.
+bool canWrite(const FcPattern &font, const FcChar8 *language) {
+  FcLangSet *languages = nullptr; // the font's
+  return FcPatternGetLangSet(&font, FC_LANG, 0, &languages) == FcResultMatch &&
+         FcLangSetHasLang(languages, language) != FcLangDifferentLang;
+}
+
+/// Empty for a font without one.
+std::string textOf(const FcPattern &font, const char *property) {
+  FcChar8 *text = nullptr; // the font's
+  return FcPatternGetString(&font, property, 0, &text) == FcResultMatch
+             ? reinterpret_cast<const char *>(text)
+             : "";
+}
+
+} // namespace
+
+std::optional<FontNames> fontsFor(const std::string &language) {
+  std::string tag = language;
+  std::replace(tag.begin(), tag.end(), '_', '-');
+  const FcChar8 *const name = bytesOf(tag.c_str());
+  if (isInLatinLetters(name))
+    return std::nullopt;
+  const Pattern regular = match("sans-serif", name, FC_WEIGHT_REGULAR);
+  if (!regular || !canWrite(*regular, name) || !canWrite(*regular, bytesOf("en")))
+    return std::nullopt;
+  const std::string family = textOf(*regular, FC_FAMILY);
+  const Pattern bold = match(family.c_str(), name, FC_WEIGHT_BOLD);
+  FontNames names{textOf(*regular, FC_POSTSCRIPT_NAME), {}};
+  const bool isOfFamily = bold && textOf(*bold, FC_FAMILY) == family;
+  names.bold = isOfFamily ? textOf(*bold, FC_POSTSCRIPT_NAME) : names.regular;
+  if (names.regular.empty() || names.bold.empty())
+    return std::nullopt;
+  return names;
+}
+
+} // namespace imageposition
