@@ -1,4 +1,4 @@
-// Files of destinations: what is not changed stays byte for byte, and other destinations stay.
+// Destination files: unchanged parts stay byte for byte, and other destinations stay.
 #include "DestinationFile.hpp"
 
 #include "Check.hpp"
@@ -40,7 +40,7 @@ void checkSameEntries(const Entries &actual, const Entries &expected) {
     checkSame(described(actual[i]), described(expected[i]), "another destination");
 }
 
-// Every line that stands for no such destination, in its order.
+// All lines but those of that destination, in their order.
 std::string otherLines(const std::string &text, const std::string &printer,
                        const std::string &instance) {
   std::string result;
@@ -65,20 +65,21 @@ void checkSet(DestinationFile file, const std::string &printer, const std::strin
   const std::string before = file.text();
   const Entries entries = file.entries();
   if (!file.set(printer, instance, options))
-    return checkSame(file.text(), before, "what is too long changes nothing");
-  check(file.has(printer, instance), "what was set is there");
+    return checkSame(file.text(), before, "an entry that is too long changes nothing");
+  check(file.has(printer, instance), "an entry that was set is there");
   checkSame(otherLines(file.text(), printer, instance), otherLines(before, printer, instance),
             "other lines stay as they are");
   checkSameEntries(without(file.entries(), printer, instance), without(entries, printer, instance));
-  checkSame(DestinationFile(file.text()).text(), file.text(), "the text reads as it was written");
+  checkSame(DestinationFile(file.text()).text(), file.text(),
+            "the file reads back as it was written");
 }
 
 void checkRemoved(DestinationFile file, const std::string &printer, const std::string &instance) {
   const std::string before = file.text();
   file.remove(printer, instance);
-  check(instance.empty() || !file.has(printer, instance), "what was removed is gone");
+  check(instance.empty() || !file.has(printer, instance), "a removed destination is gone");
   if (!DestinationFile(before).has(printer, instance))
-    checkSame(file.text(), before, "removing what is not there changes nothing");
+    checkSame(file.text(), before, "removing a missing destination changes nothing");
 }
 
 void checkRenamed(DestinationFile file, const std::string &printer, const std::string &instance,
@@ -91,7 +92,7 @@ void checkRenamed(DestinationFile file, const std::string &printer, const std::s
     DestinationFile::Entry expected = before[i];
     if (isOf(before[i], printer, instance))
       expected.instance = newInstance;
-    checkSame(described(after[i]), described(expected), "only the name is another");
+    checkSame(described(after[i]), described(expected), "only the name changes");
   }
 }
 
