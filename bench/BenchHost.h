@@ -1,4 +1,4 @@
-/// A print dialog for benchmarks: the built bundle, a printer, a job's settings.
+/// A print dialog for benchmarks, with the built bundle, a printer and a job's settings.
 #ifndef IMAGEPOSITION_BENCH_BENCHHOST_H
 #define IMAGEPOSITION_BENCH_BENCHHOST_H
 
@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// Answers a plug-in's two questions.
+/// Gives the plug-in the PPD and the print settings.
 @interface BenchCallback : NSObject <MorvaADPPdeCallbackRV2> {
 @public
   ppd_file_t *Ppd;
@@ -20,20 +20,20 @@
 
 namespace imageposition::bench {
 
-/// The bundle as it was built, loaded once per process.
+/// The built bundle, loaded once per process.
 NSBundle *builtBundle();
 
 class BenchHost {
 public:
-  /// `resources` is where the panels take definitions and texts from; the interface file is always
-  /// the built bundle's.
+  /// The panels take definitions and localized strings from `resources`; the interface file is
+  /// always the built bundle's.
   explicit BenchHost(NSBundle *resources = builtBundle(),
                      const std::vector<std::string> &ppdLines = {});
   ~BenchHost();
   BenchHost(const BenchHost &) = delete;
   BenchHost &operator=(const BenchHost &) = delete;
 
-  /// A new panel, which the caller owns.
+  /// A new panel; the caller owns it.
   id makePanel();
 
   ppd_file_t *ppd() const { return ppd_; }

@@ -1,4 +1,4 @@
-// The same kind of work in libcups: marking a choice and checking the printer's constraints.
+// Comparable work in libcups: marking a choice and checking the printer's constraints.
 #include "TestPpd.h"
 
 #include <benchmark/benchmark.h>
@@ -7,7 +7,7 @@ namespace {
 
 using imageposition::test::TestPpd;
 
-// Two options, and constraints between choices of theirs that are not marked.
+// Two options, and constraints between choices that are not marked.
 std::vector<std::string> constrainedPrinter(int constraints) {
   std::vector<std::string> first{"Auto"};
   std::vector<std::string> lines;

@@ -1,5 +1,5 @@
 // What the window does with a printer's options and constraints, from a few to more than any
-// printer has: time is to grow with their number, times its logarithm.
+// printer has. The time should grow as n log n of their number.
 #include "LargePpd.hpp"
 #include "OptionConflicts.hpp"
 
@@ -18,7 +18,7 @@ void FindConflicts(benchmark::State &state) {
     benchmark::DoNotOptimize(conflicts.find());
   state.SetComplexityN(state.range(0));
 }
-// Ten sizes, as below.
+// Ten sizes, as in the benchmarks below.
 BENCHMARK(FindConflicts)
     ->RangeMultiplier(2)
     ->Range(128, 65536)

@@ -1,4 +1,4 @@
-// Making a panel, loading its view and getting it ready to be shown, in a host that runs already.
+// Making a panel, loading its view and preparing to show it, in a running host.
 #import "BenchHost.h"
 
 #import "TestPool.h"
@@ -79,8 +79,8 @@ void SecondWillShow(benchmark::State &state) {
 }
 BENCHMARK(SecondWillShow)->Unit(benchmark::kMicrosecond);
 
-/// All of the above once: what a person waits for when the pane is chosen. The end of the panel,
-/// and of what loading left in the pool, is not part of it.
+/// All of the above once: what the user waits for after choosing the pane. Does not measure the
+/// deallocation of the panel, nor of the objects in the autorelease pool.
 void PanelShownReady(benchmark::State &state) {
   BenchHost host;
   for (auto _ : state) {

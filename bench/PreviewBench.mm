@@ -27,7 +27,7 @@ NSStepper *firstStepper(NSView *view) {
 
 enum class Keyboard { Elsewhere, InAField };
 
-/// The panel, and the picture at its right, on the screen.
+/// The panel with the picture to its right, on the screen.
 class PanelWithPicture {
 public:
   explicit PanelWithPicture(BenchHost &host, Keyboard keyboard = Keyboard::Elsewhere)
@@ -64,14 +64,15 @@ public:
   PanelWithPicture(const PanelWithPicture &) = delete;
   PanelWithPicture &operator=(const PanelWithPicture &) = delete;
 
-  /// Up and down in turn, so that each click changes the picture.
+  /// Alternates between up and down, so that each click changes the picture.
   void click() {
     goesUp_ = !goesUp_;
     [stepper_ setIntegerValue:goesUp_ ? 1 : -1];
     [[stepper_ target] UIItemActionListener:stepper_];
   }
   void showPreview() { [picture_ showPreview:makePreview(host_.job(), host_.ppd())]; }
-  /// Until the server has drawn all of it: a pixel that is read back comes after what was drawn.
+  /// Waits until the X server has drawn everything: it handles the read of a pixel after all
+  /// drawing.
   void paint() {
     [window_ displayIfNeeded];
     [window_ flushWindow];
@@ -112,7 +113,7 @@ void StepperClickToPaintedPicture(benchmark::State &state) {
 }
 BENCHMARK(StepperClickToPaintedPicture)->Unit(benchmark::kMillisecond);
 
-// The field's new text is selected, and a selection is announced to other programs.
+// Setting the field's text selects it, and a selection is announced to other programs.
 void StepperClickToPaintedPictureWhileTyping(benchmark::State &state) {
   clickUntilPainted(state, Keyboard::InAField);
 }

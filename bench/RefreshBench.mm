@@ -1,4 +1,4 @@
-// One action of a person, with rule tables of several sizes.
+// One user action, with rule tables of several sizes.
 #import "BenchHost.h"
 
 #import "MorvaADPSettingsCollectorRV2.h"
@@ -34,7 +34,7 @@ void act(NSControl *control) { [[control target] UIItemActionListener:control]; 
 
 enum class Keyboard { Elsewhere, InTheField };
 
-/// The panel in a window on the screen, as a person has it.
+/// The panel in a window on the screen, as a user sees it.
 class ShownPanel {
 public:
   explicit ShownPanel(BenchHost &host, Keyboard keyboard = Keyboard::Elsewhere)
@@ -84,7 +84,7 @@ void ActionWithShippedRules(benchmark::State &state) {
 }
 BENCHMARK(ActionWithShippedRules)->Unit(benchmark::kMicrosecond);
 
-// Nothing is marked to be drawn again: what the panel itself takes.
+// Without redrawing: the time of the panel alone.
 void ActionWithShippedRulesInNoWindow(benchmark::State &state) {
   const Pool pool;
   BenchHost host;
@@ -100,7 +100,7 @@ void ActionWithShippedRulesInNoWindow(benchmark::State &state) {
 }
 BENCHMARK(ActionWithShippedRulesInNoWindow)->Unit(benchmark::kMicrosecond);
 
-// The field's new text is selected, and a selection is announced to other programs.
+// Setting the field's text selects it, and a selection is announced to other programs.
 void ActionWithShippedRulesWhileTyping(benchmark::State &state) {
   actWithShippedRules(state, Keyboard::InTheField);
 }
@@ -110,7 +110,7 @@ using Rule = std::vector<std::pair<const char *, std::string>>;
 
 const char *const kSettings[] = {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"};
 
-// A condition on another setting that does not hold: the cost of looking.
+// A condition on another setting that does not hold: the cost of checking it.
 Rule ruleOnASetting(int index) {
   return {{"ConditionType", "Setting"},
           {"ConditionObj", kSettings[(index + 1) % 4]},
@@ -121,14 +121,14 @@ Rule ruleOnASetting(int index) {
           {"ActionValue", "5"}};
 }
 
-// The same, but it holds and acts.
+// The same, but the condition holds and the rule acts.
 Rule ruleThatFires(int index) {
   Rule rule = ruleOnASetting(index);
   rule[3].second = "-200:200";
   return rule;
 }
 
-// A condition on an attribute of the printer, which has it with another value.
+// A condition on a PPD attribute, which has another value.
 Rule ruleOnAnAttribute(int index) {
   return {{"ConditionType", "PPD"},
           {"ConditionPattern", "MVDuplexShiftRange"},

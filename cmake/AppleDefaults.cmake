@@ -1,10 +1,9 @@
-# Before project(): what macOS builds are made for, unless the caller says otherwise.
+# Defaults for macOS builds, to be set before project().
 if(NOT CMAKE_HOST_SYSTEM_NAME STREQUAL "Darwin")
   return()
 endif()
 
-# i386 ended with the macOS 10.14 SDK; from then on x86_64 and arm64 are one binary, and arm64 has
-# no macOS before 11.
+# The macOS 10.14 SDK dropped i386. Since the macOS 11 SDK, one binary has x86_64 and arm64 code.
 execute_process(COMMAND xcrun --sdk macosx --show-sdk-version
   OUTPUT_VARIABLE sdk_version OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
 if(sdk_version AND sdk_version VERSION_LESS 10.14)

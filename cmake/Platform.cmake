@@ -1,9 +1,9 @@
-# imageposition_platform: the platform's Foundation, AppKit and ApplicationServices.
+# imageposition_platform: Foundation, AppKit and ApplicationServices.
 # imageposition_cups: libcups.
 add_library(imageposition_platform INTERFACE)
 add_library(imageposition_cups INTERFACE)
 target_link_libraries(imageposition_platform INTERFACE imageposition_options)
-# The callback's protocol, which plug-in and host share.
+# For the callback protocol, which the plug-in and the host share.
 target_include_directories(imageposition_platform INTERFACE "${PROJECT_SOURCE_DIR}/platform")
 
 if(APPLE)
@@ -18,7 +18,7 @@ find_library(GNUSTEP_GUI_LIBRARY gnustep-gui REQUIRED)
 find_library(GNUSTEP_BASE_LIBRARY gnustep-base REQUIRED)
 find_package(Cups REQUIRED)
 
-# System headers: they produce warnings that are not ours.
+# As system headers, because their warnings are not ours.
 target_include_directories(imageposition_platform INTERFACE
   "${PROJECT_SOURCE_DIR}/platform/stand-in")
 target_include_directories(imageposition_platform SYSTEM INTERFACE "${GNUSTEP_INCLUDE_DIR}")
@@ -30,5 +30,5 @@ target_compile_options(imageposition_platform INTERFACE
 target_link_libraries(imageposition_platform INTERFACE
   "${GNUSTEP_GUI_LIBRARY}" "${GNUSTEP_BASE_LIBRARY}" objc)
 target_link_libraries(imageposition_cups INTERFACE Cups::Cups)
-# CUPS calls its PPD interface deprecated; print dialogs of this kind have no other.
+# CUPS has deprecated its PPD functions, but print-dialog plug-ins are based on them.
 target_compile_options(imageposition_cups INTERFACE -Wno-deprecated-declarations)

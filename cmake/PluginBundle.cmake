@@ -1,4 +1,4 @@
-# MorvaADPImagePosition.plugin, in the layout that the platform's bundle loader understands.
+# MorvaADPImagePosition.plugin, in the bundle layout of GNUstep or macOS.
 set(IMAGEPOSITION_LANGUAGES en de fr es it ja zh-Hans)
 set(IMAGEPOSITION_BUNDLE "${PROJECT_BINARY_DIR}/MorvaADPImagePosition.plugin")
 
@@ -15,7 +15,7 @@ target_link_options(MorvaADPImagePosition PRIVATE "LINKER:--version-script=${exp
 set_target_properties(MorvaADPImagePosition PROPERTIES
   PREFIX "" SUFFIX "" LIBRARY_OUTPUT_DIRECTORY "${IMAGEPOSITION_BUNDLE}" LINK_DEPENDS "${exported}")
 
-# Copied one by one, so that a changed resource is renewed by the next build.
+# One command per resource, so that the next build copies a changed one.
 set(bundle_resources)
 function(imageposition_bundle_resource source relative_target)
   set(target "${IMAGEPOSITION_BUNDLE}/Resources/${relative_target}")

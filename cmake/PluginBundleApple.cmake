@@ -1,6 +1,6 @@
-# The bundle as macOS has it: Contents/, one binary for several processors, a compiled interface
-# file. The architectures are those that the toolchain still builds; CMAKE_OSX_ARCHITECTURES, given
-# at the first configuration, says otherwise.
+# The bundle in macOS's layout: Contents/, one binary for several processors, a compiled interface
+# file. By default it has the architectures that the toolchain still builds; set
+# CMAKE_OSX_ARCHITECTURES at the first configuration to choose others.
 set(bundle_sources
   "${PROJECT_SOURCE_DIR}/resources/SettingInfo.plist"
   "${PROJECT_SOURCE_DIR}/resources/ConstraintInfo.plist")

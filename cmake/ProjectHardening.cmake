@@ -1,5 +1,5 @@
-# What makes a fault in our programs harder to use for somebody else: files come from servers, and
-# names from anybody on the network. Each flag where compiler and processor have it.
+# Flags that make bugs harder to exploit: files come from servers, and names from anybody on the
+# network. Uses each flag that the compiler and the processor support.
 include(CheckCXXCompilerFlag)
 include(CheckLinkerFlag)
 include(CheckPIESupported)
@@ -7,7 +7,7 @@ include(CheckPIESupported)
 check_pie_supported()
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# A format that is not a constant is an error in any build.
+# A non-constant format string is an error in every build.
 target_compile_options(imageposition_options INTERFACE -Wformat -Wformat-security
   -Werror=format-security)
 
@@ -19,7 +19,7 @@ foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection)
   endif()
 endforeach()
 
-# It needs optimisation, and hides from the sanitizers what they look for.
+# _FORTIFY_SOURCE needs optimisation, and hides errors from the sanitizers.
 string(FIND "${CMAKE_CXX_FLAGS}" "-fsanitize" sanitizer_at)
 if(sanitizer_at GREATER -1 OR IMAGEPOSITION_BUILD_FUZZERS)
   set(IMAGEPOSITION_SANITIZED TRUE)

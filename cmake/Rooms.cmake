@@ -1,13 +1,13 @@
-# A room is a folder with one job, and a library of its own. A source of it can include what stands
-# beside it and in the rooms that its target names; there is no other include root. A circle of rooms
-# does not configure.
+# A room is a folder with one job and one library. Its sources can include headers from the folder
+# itself and from the rooms that its target names; there is no other include root. Configuring fails
+# if rooms depend on each other in a cycle.
 set_property(GLOBAL PROPERTY GLOBAL_DEPENDS_NO_CYCLES ON)
 
 # imageposition_room(NAME [PLAIN] [OBJECT] SOURCES file... [USES target...] [USES_INSIDE target...])
-#   PLAIN        C++ that cannot include the platform's Foundation or AppKit
-#   OBJECT       linked whole: it has categories, which a linker leaves out of an archive
-#   USES         what the room's headers include, and so whoever includes them
-#   USES_INSIDE  what its sources alone include
+#   PLAIN        C++ that cannot include Foundation or AppKit
+#   OBJECT       linked whole, because it has categories, which a linker drops from an archive
+#   USES         targets whose headers the room's headers include, and so its users too
+#   USES_INSIDE  targets whose headers only its sources include
 function(imageposition_room name)
   cmake_parse_arguments(PARSE_ARGV 1 ROOM "PLAIN;OBJECT" "" "SOURCES;USES;USES_INSIDE")
   if(ROOM_UNPARSED_ARGUMENTS)

@@ -9,14 +9,14 @@ using imageposition::localizedText;
 
 namespace {
 
-// The keyword of the option's marked choice when it is `keyword`, otherwise null.
+// The keyword of the option's marked choice if it is `keyword`, otherwise null.
 const char *markedAs(ppd_file_t *ppd, const char *option, const char *keyword) {
   const ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option);
   return choice != nullptr && std::strcmp(choice->choice, keyword) == 0 ? choice->choice : nullptr;
 }
 
-// Not through the items' setViewAvailable:, so that their own record of availability stays what the
-// settings last told them. The entry field's text keeps its colour, on purpose.
+// Not through the items' setViewAvailable:, which would overwrite the state that the settings last
+// set. The entry field's text keeps its colour, on purpose.
 void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextField *nameLabel,
                NSTextField *rangeLabel) {
   [entryField setEnabled:usable];
@@ -53,8 +53,7 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
     [BackLRMSettings applyUIConstraint:printSettings];
     [BackTBMSettings applyUIConstraint:printSettings];
   }
-  // Last, because the settings' labels were just renamed and the front ones have names of two
-  // kinds.
+  // Last, because checkUI: has just set the labels, and the front ones have two kinds of names.
   [self grayUI];
 }
 
@@ -88,11 +87,11 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
     [chkEnableImagePositionAdjust setEnabled:YES];
     [btnRestore2Defalut setEnabled:YES];
     [self setFrontName];
-    const BOOL ownBack = [chkEnableImagePositionAdjust state] != 0;
+    const BOOL separateBack = [chkEnableImagePositionAdjust state] != 0;
     [self setFrontLRMState:YES];
     [self setFrontTBMState:YES];
-    [self setBackLRMState:ownBack];
-    [self setBackTBMState:ownBack];
+    [self setBackLRMState:separateBack];
+    [self setBackTBMState:separateBack];
   } else {
     [chkEnableImagePositionAdjust setEnabled:NO];
     [self setFrontLRMState:NO];
@@ -105,9 +104,9 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
 }
 
 - (void)setFrontName {
-  const bool ownBack = [chkEnableImagePositionAdjust state] != 0;
-  [FrontLRMLabel setStringValue:localizedText(Bundle, ownBack ? kSettingFrontLRM : kTextLRM)];
-  [FrontTBMLabel setStringValue:localizedText(Bundle, ownBack ? kSettingFrontTBM : kTextTBM)];
+  const bool separateBack = [chkEnableImagePositionAdjust state] != 0;
+  [FrontLRMLabel setStringValue:localizedText(Bundle, separateBack ? kSettingFrontLRM : kTextLRM)];
+  [FrontTBMLabel setStringValue:localizedText(Bundle, separateBack ? kSettingFrontTBM : kTextTBM)];
 }
 
 - (void)setFrontTBMState:(BOOL)usable {
@@ -141,7 +140,7 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
   [FrontTBMSettings setIntValue:0];
   [BackLRMSettings setIntValue:0];
   [BackTBMSettings setIntValue:0];
-  // A second time through the text, on purpose: no text reads 0 as well.
+  // A second time through the string, on purpose; null reads as 0.
   [FrontLRMSettings setStringValue:nil];
   [FrontTBMSettings setStringValue:nil];
   [BackLRMSettings setStringValue:nil];

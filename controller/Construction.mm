@@ -7,14 +7,14 @@
 #include <initializer_list>
 
 using imageposition::integerString;
-using imageposition::textEntry;
+using imageposition::stringEntry;
 
 NSString *const CBSCKeyInstancePointer = @"InstancePointer";
 NSString *const CBSCKeySettingName = @"SettingName";
 
 namespace {
 
-// Null when the bundle lacks the file, or when it is not a dictionary.
+// Null if the bundle lacks the file, or if it is not a dictionary.
 NSDictionary *definitions(NSBundle *bundle, NSString *name) {
   return imageposition::dictionaryAtPath([bundle pathForResource:name ofType:@"plist"]);
 }
@@ -25,7 +25,7 @@ NSDictionary *registryEntry(NSString *name, MorvaADPIntegerSettingRV2 **field) {
                                                     CBSCKeyInstancePointer, nil];
 }
 
-// The field of the controller that takes the setting of that name; null for an unknown name.
+// The controller's field for the setting of that name; null for an unknown name.
 MorvaADPIntegerSettingRV2 **fieldForName(NSArray *registry, NSString *name) {
   NSEnumerator *entries = [registry objectEnumerator];
   for (NSDictionary *entry = [entries nextObject]; entry != nil; entry = [entries nextObject]) {
@@ -36,7 +36,7 @@ MorvaADPIntegerSettingRV2 **fieldForName(NSArray *registry, NSString *name) {
   return nullptr;
 }
 
-// An item that an incomplete interface file does not connect is left out.
+// Leaves out items that an incomplete interface file does not connect.
 NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) {
   NSMutableArray *items = [NSMutableArray arrayWithCapacity:4];
   for (id item : {entryField, stepper, nameLabel, rangeLabel}) {
@@ -46,9 +46,9 @@ NSArray *connectedItems(id entryField, id stepper, id nameLabel, id rangeLabel) 
   return items;
 }
 
-// A damaged interface file may connect anything. What is no such control counts as not connected,
-// once and for all: every refresh would raise otherwise, or would have to ask.
-template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
+// A damaged interface file may connect an object of the wrong class. Clearing such outlets once
+// saves every refresh from checking, or raising.
+template <typename... Items> void clearUnless(Class type, Items *&...outlets) {
   ((outlets = [outlets isKindOfClass:type] ? outlets : nil), ...);
 }
 
@@ -79,7 +79,7 @@ template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
     NSDictionary *record =
         [SettingInfoDictionary objectForKey:integerString(static_cast<int32_t>(index))];
     MorvaADPIntegerSettingRV2 **field =
-        fieldForName(registry, textEntry(record, kRecordSettingName));
+        fieldForName(registry, stringEntry(record, kRecordSettingName));
     if (field == nullptr)
       continue;
     // A second definition of the same name replaces the setting; the earlier one is not released,
@@ -125,14 +125,14 @@ template <typename... Items> void forgetUnless(Class type, Items *&...outlets) {
   if (ImagePositionPrintView != nil)
     return ImagePositionPrintView;
   const bool loaded = imageposition::loadInterfaceFile(kResourceInterfaceFile, self);
-  forgetUnless([NSView class], ImagePositionPrintView);
-  forgetUnless([NSButton class], chkEnableImagePositionAdjust, btnRestore2Defalut);
-  forgetUnless([NSTextField class], FrontLRMText, FrontTBMText, BackLRMText, BackTBMText);
-  forgetUnless([NSControl class], FrontLRMStepper, FrontTBMStepper, BackLRMStepper, BackTBMStepper);
-  forgetUnless([NSTextField class], FrontLRMLabel, FrontTBMLabel, BackLRMLabel, BackTBMLabel);
-  forgetUnless([NSTextField class], FrontLRMRangeLabel, FrontTBMRangeLabel, BackLRMRangeLabel,
-               BackTBMRangeLabel);
-  // A file's top-level objects are left to whoever loads it; a view inside another is that one's.
+  clearUnless([NSView class], ImagePositionPrintView);
+  clearUnless([NSButton class], chkEnableImagePositionAdjust, btnRestore2Defalut);
+  clearUnless([NSTextField class], FrontLRMText, FrontTBMText, BackLRMText, BackTBMText);
+  clearUnless([NSControl class], FrontLRMStepper, FrontTBMStepper, BackLRMStepper, BackTBMStepper);
+  clearUnless([NSTextField class], FrontLRMLabel, FrontTBMLabel, BackLRMLabel, BackTBMLabel);
+  clearUnless([NSTextField class], FrontLRMRangeLabel, FrontTBMRangeLabel, BackLRMRangeLabel,
+              BackTBMRangeLabel);
+  // The loader of an interface file owns its top-level objects; a superview owns its subviews.
   const bool isTopLevel = loaded && [ImagePositionPrintView superview] == nil;
   LoadedView = isTopLevel ? ImagePositionPrintView : [ImagePositionPrintView retain];
   [self CBSCInitializeView];

@@ -8,17 +8,17 @@
 #import "MorvaADPPdeCallbackRV2.h"
 #import "MorvaADPStepperItemRV2.h"
 
-/// Keys of an entry of the setting registry: the name of a setting, and the location of the field
-/// that receives the setting of that name.
+/// Keys of an entry in the setting registry: the address of the field that receives the setting,
+/// and the setting's name.
 extern NSString *const CBSCKeyInstancePointer;
 extern NSString *const CBSCKeySettingName;
 
-/// One per panel and owned by it: builds the four settings from the bundle's definitions, loads and
-/// binds the view, moves values between print settings, settings and view, decides which controls
-/// are usable, answers the person's actions and makes the summary. Main thread only.
+/// Each panel owns one. It builds the four settings from the bundle's definitions, loads and binds
+/// the view, moves values between print settings, settings and view, decides which controls are
+/// usable, handles the user's actions and makes the summary. Main thread only.
 ///
 /// The outlets are null until `prepareView` has loaded the interface file, which connects them by
-/// these names (misspelt as they are).
+/// these names (misspellings included).
 @interface MorvaADPSettingsCollectorRV2 : NSObject {
   id<MorvaADPPdeCallbackRV2> PDECallback; ///< Retained.
   IBOutlet MorvaADPIntegerTextFieldItemRV2 *FrontLRMText;
@@ -44,20 +44,19 @@ extern NSString *const CBSCKeySettingName;
   IBOutlet NSView *ImagePositionPrintView;
   IBOutlet NSButton *chkEnableImagePositionAdjust;
   IBOutlet NSButton *btnRestore2Defalut;
-  NSArray
-      *SettingsList; ///< The settings in the order of their fields, cut at the first missing one.
+  NSArray *SettingsList; ///< The settings in the order above, up to the first missing one. Owned.
   NSDictionary *ConstraintInfoDictionary; ///< Owned.
   NSDictionary *SettingInfoDictionary;    ///< Owned.
   NSBundle *Bundle;                       ///< Retained.
-  ppd_file_t *ppd;                        ///< Taken once, at construction; the host's.
-  NSView *LoadedView; ///< The view again, once the interface file is loaded; owned.
+  ppd_file_t *ppd;                        ///< Read once, at construction; the dialog's.
+  NSView *LoadedView;                     ///< The view, once it is loaded; owned.
 }
 
-/// Null without a callback or bundle, without one of the two definition files, or when a
-/// setting that they define cannot be built.
+/// Returns null without a callback or bundle, without either definition file, or if a setting that
+/// they define cannot be built.
 - (id)initWithCallback:(id<MorvaADPPdeCallbackRV2>)callback Bundle:(NSBundle *)bundle;
 
-/// The panel's view, loaded on the first call; null when the interface file gave none.
+/// The panel's view, loaded on the first call; null if the interface file has none.
 - (NSView *)prepareView;
 
 /// Binds each setting to its four items and to all settings.
@@ -65,59 +64,61 @@ extern NSString *const CBSCKeySettingName;
 
 @end
 
-/// Between the job's print settings and the panel.
+/// Moves values between the job's print settings and the panel.
 @interface MorvaADPSettingsCollectorRV2 (PrintSettingsExchange)
 
 /// Applies each setting's rules and reads its value, in the order of the definitions, then
 /// refreshes.
 - (void)prepareForShow;
 
-/// Titles and values for the dialog's summary as the print settings hold them, their order under
-/// "Summary Display Order"; empty when the adjustment is not available.
+/// Titles and values for the dialog's summary, read from the print settings, with the titles in
+/// order under "Summary Display Order". Empty if the adjustment is not available.
 - (NSDictionary *)getSummaryInfo;
 
 /// Reads the enable flag into the checkbox; anything but "True" unchecks it.
 - (void)getEnableImgPstAdjTicket:(PMPrintSettings)printSettings;
-/// Reads the flag and the four values; false without print settings.
+/// Reads the flag and the four values. Returns false without print settings.
 - (BOOL)getTicket;
 /// Writes the checkbox's state as "True" or "False".
 - (void)setEnableImgPstAdjTicket:(PMPrintSettings)printSettings;
-/// Writes the four values and the flag; false without print settings, whatever single writes did.
+/// Writes the four values and the flag. Returns false without print settings, but true even if a
+/// write fails.
 - (BOOL)saveTicket;
 
 @end
 
-/// Which controls are usable, the refresh of the whole panel, and what a person does with it.
+/// Refreshes the panel, decides which controls are usable, and handles the user's actions.
 @interface MorvaADPSettingsCollectorRV2 (Availability)
 
-/// Action of every entry field and stepper; the sender may be null. Refreshes the whole panel.
+/// The action of every entry field and stepper; the sender may be null. Refreshes the whole panel.
 - (IBAction)UIItemActionListener:(id)sender;
 
-/// Lets the settings take what the view shows and write it, applies all rules, recomputes which
-/// controls are usable. Without print settings only titles and usability are refreshed.
+/// Refreshes the panel: the settings take their values from the view and write them, all rules are
+/// applied, and the usable controls are enabled. Without print settings, refreshes only the titles
+/// and which controls are enabled.
 - (void)notifyUI;
-/// Brings the four values into their ranges.
+/// Clamps the four values to their ranges.
 - (void)checkSettingsValue;
 
-/// Whether the printer's marked choices allow the adjustment: two-sided printing is not off,
-/// banner pages are not on. What the printer does not have forbids nothing.
+/// Whether the marked choices allow the adjustment: two-sided printing is not off, and banner pages
+/// are not on. An option that the printer lacks does not forbid it.
 - (BOOL)checkImagePositionAdjustValid;
-/// Empty; part of the plug-in's interface.
+/// Does nothing; part of the plug-in's interface.
 - (IBAction)clickRestore2Default:(id)sender;
-/// Makes the controls usable or not, after the printer's choices and the checkbox.
+/// Enables or disables the controls according to the marked choices and the checkbox.
 - (void)grayUI;
-/// Names the two front offsets as such, or plainly while the back side has none of its own.
+/// Labels the two front offsets as the front's, or without a side while they apply to both.
 - (void)setFrontName;
 - (void)setFrontTBMState:(BOOL)usable;
 - (void)setFrontLRMState:(BOOL)usable;
 - (void)setBackLRMState:(BOOL)usable;
 - (void)setBackTBMState:(BOOL)usable;
-/// Action of the checkbox. The print settings learn of it at the next save.
+/// The action of the checkbox. The next `saveTicket` writes its state to the print settings.
 - (IBAction)clickEnableImgPositionAdjust:(id)sender;
-/// Checkbox off and all offsets zero, whatever the definitions' defaults; print settings
-/// untouched.
+/// Unchecks the checkbox and sets all offsets to zero, whatever the definitions' defaults. Does not
+/// write the print settings.
 - (void)restoreDefaults;
-/// Action of the restore-defaults button.
+/// The action of the restore-defaults button.
 - (IBAction)clickbtnReasto2Default:(id)sender;
 
 @end

@@ -6,11 +6,11 @@
 
 using imageposition::integerString;
 using imageposition::localizedText;
-using imageposition::textEntry;
+using imageposition::stringEntry;
 
 namespace {
 
-// A missing setting has neither title nor value, and no entry.
+// A missing setting has no title or no value, and gets no entry.
 void addEntry(NSMutableDictionary *summary, NSMutableArray *order, NSString *title,
               NSString *value) {
   if (title == nil || value == nil)
@@ -19,10 +19,10 @@ void addEntry(NSMutableDictionary *summary, NSMutableArray *order, NSString *tit
   [order addObject:title];
 }
 
-// Some platforms give an unchecked button no text at all, and a button that is not there has none.
-NSString *stateText(NSButton *checkbox) {
-  NSString *text = [checkbox stringValue];
-  return [text length] > 0 ? text : @"0";
+// On some systems an unchecked button has an empty string value; a missing button has a null one.
+NSString *stateString(NSButton *checkbox) {
+  NSString *string = [checkbox stringValue];
+  return [string length] > 0 ? string : @"0";
 }
 
 } // namespace
@@ -33,8 +33,8 @@ NSString *stateText(NSButton *checkbox) {
   PMPrintSettings printSettings = [PDECallback printSettings];
   for (NSUInteger index = 0; index < [SettingInfoDictionary count]; ++index) {
     NSString *name =
-        textEntry([SettingInfoDictionary objectForKey:integerString(static_cast<int32_t>(index))],
-                  kRecordSettingName);
+        stringEntry([SettingInfoDictionary objectForKey:integerString(static_cast<int32_t>(index))],
+                    kRecordSettingName);
     MorvaADPIntegerSettingRV2 *setting = nil;
     if ([name isEqualToString:kSettingFrontLRM])
       setting = FrontLRMSettings;
@@ -55,18 +55,18 @@ NSString *stateText(NSButton *checkbox) {
   NSMutableDictionary *summary = [NSMutableDictionary dictionary];
   if (![self checkImagePositionAdjustValid])
     return summary;
-  NSString *enabled = stateText(chkEnableImagePositionAdjust);
+  NSString *enabled = stateString(chkEnableImagePositionAdjust);
   NSString *frontLRM = [FrontLRMSettings getValueString];
   NSString *frontTBM = [FrontTBMSettings getValueString];
   NSString *backLRM = [BackLRMSettings getValueString];
   NSString *backTBM = [BackTBMSettings getValueString];
-  // With one pair of offsets for both sides the front titles are plain; the back ones stay, on
-  // purpose.
-  const bool ownBack = [chkEnableImagePositionAdjust state] != 0;
+  // While one pair of offsets applies to both sides, its titles name no side; the back's entries
+  // stay, on purpose.
+  const bool separateBack = [chkEnableImagePositionAdjust state] != 0;
   NSString *frontLRMTitle =
-      localizedText(Bundle, ownBack ? [FrontLRMSettings getSummaryInfoName] : kTextLRM);
+      localizedText(Bundle, separateBack ? [FrontLRMSettings getSummaryInfoName] : kTextLRM);
   NSString *frontTBMTitle =
-      localizedText(Bundle, ownBack ? [FrontTBMSettings getSummaryInfoName] : kTextTBM);
+      localizedText(Bundle, separateBack ? [FrontTBMSettings getSummaryInfoName] : kTextTBM);
   NSString *backLRMTitle = localizedText(Bundle, [BackLRMSettings getSummaryInfoName]);
   NSString *backTBMTitle = localizedText(Bundle, [BackTBMSettings getSummaryInfoName]);
 

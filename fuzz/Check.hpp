@@ -1,4 +1,4 @@
-/// What a fuzzer does when a property does not hold.
+/// Assertions for fuzzers.
 #ifndef IMAGEPOSITION_FUZZ_CHECK_HPP
 #define IMAGEPOSITION_FUZZ_CHECK_HPP
 
@@ -8,7 +8,7 @@
 
 namespace imageposition::fuzz {
 
-/// Says which property it was and ends the run; the fuzzer then keeps the input as a file.
+/// If the property does not hold, prints it and aborts; libFuzzer then saves the input as a file.
 inline void check(bool holds, const std::string &property) {
   if (holds)
     return;
@@ -16,7 +16,7 @@ inline void check(bool holds, const std::string &property) {
   std::abort();
 }
 
-/// The same for two texts, which are shown.
+/// The same for two equal strings; prints both if they differ.
 inline void checkSame(const std::string &actual, const std::string &expected,
                       const std::string &property) {
   check(actual == expected, property + "\n  is:        " + actual + "\n  should be: " + expected);

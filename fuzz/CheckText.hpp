@@ -1,4 +1,4 @@
-/// Whether somebody else's text can be shown and written to a terminal.
+/// Whether strings from outside can be shown in a window and written to a terminal.
 #ifndef IMAGEPOSITION_FUZZ_CHECKTEXT_HPP
 #define IMAGEPOSITION_FUZZ_CHECKTEXT_HPP
 
@@ -13,7 +13,7 @@ inline bool isWellFormed(const std::string &text) {
   return utf8FromUtf16(utf16FromUtf8(text)) == text;
 }
 
-/// A text for one line, which may be empty.
+/// A string for one line, which may be empty.
 inline void checkLine(const std::string &text, const std::string &property) {
   check(isWellFormed(text), property + " is UTF-8: " + text);
   const std::u16string units = utf16FromUtf8(text);

@@ -1,4 +1,4 @@
-// Command lines: words in any number and of any bytes end in a request, an answer or a sentence.
+// Command lines: any number of words of any bytes gives a request, output or an error message.
 #include "CommandLine.hpp"
 
 #include "Check.hpp"
@@ -17,21 +17,20 @@ std::vector<std::string> wordsIn(const std::string &text) {
   for (const char c : text) {
     if (c == '\n')
       words.emplace_back();
-    else if (c != '\0') // at which the system would end the word
+    else if (c != '\0') // which would end the argument
       words.back() += c;
   }
   return words;
 }
 
 void checkArguments(const Arguments &arguments) {
-  check(arguments.ppd.empty() || arguments.queue.empty(), "one printer at most is named");
+  check(arguments.ppd.empty() || arguments.queue.empty(), "at most one printer is named");
   check(std::count(arguments.documents.begin(), arguments.documents.end(), "-") <= 1,
-        "standard input is printed once at most");
+        "standard input is printed at most once");
   check(arguments.appearance.empty() || arguments.appearance == "light" ||
             arguments.appearance == "dark",
         "the window is light or dark");
-  check(arguments.isBatch || arguments.batch.entries.empty(),
-        "values are entered in batches alone");
+  check(arguments.isBatch || arguments.batch.entries.empty(), "only batch mode takes entry values");
   for (const imageposition::Entry &entry : arguments.batch.entries)
     check(!entry.name.empty(), "an entry has a name");
 }
@@ -54,10 +53,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     if (const auto *arguments = std::get_if<Arguments>(&result))
       checkArguments(*arguments);
     else
-      check(!std::get<imageposition::Answer>(result).text.empty(), "an answer says something");
+      check(!std::get<imageposition::Answer>(result).text.empty(), "the output is not empty");
   } catch (const imageposition::Failure &failure) {
     check(failure.code() == imageposition::ExitCode::Usage && *failure.what() != '\0',
-          "what is wrong with a command line is said");
+          "a bad command line gets an error message");
   }
   return 0;
 }

@@ -1,5 +1,5 @@
-// Rules in typed form, on attributes and settings that are made up: their conditions and actions
-// are those of the texts, read once more one after the other.
+// Typed rules about invented attributes and settings: conditions and actions match a second, plain
+// reading of the same strings.
 #include "ConstraintRule.hpp"
 
 #include "Check.hpp"
@@ -9,7 +9,7 @@
 
 using imageposition::Action;
 using imageposition::Condition;
-using imageposition::RuleTexts;
+using imageposition::RuleStrings;
 using imageposition::fuzz::check;
 using imageposition::fuzz::checkSame;
 
@@ -24,8 +24,8 @@ Part drawPart(FuzzedDataProvider &input, std::initializer_list<const char *> usu
   return which > usual.size() ? input.ConsumeRandomLengthString(12) : *(usual.begin() + which);
 }
 
-RuleTexts drawRule(FuzzedDataProvider &input) {
-  RuleTexts rule;
+RuleStrings drawRule(FuzzedDataProvider &input) {
+  RuleStrings rule;
   rule.conditionType = drawPart(input, {"PPD", "Setting"});
   rule.conditionPattern = drawPart(input, {"Attribute", "Value", "Range"});
   rule.conditionValue = drawPart(input, {"true", "5", "-3", "05", "-10:10", "5:-5", "0"});
@@ -34,22 +34,22 @@ RuleTexts drawRule(FuzzedDataProvider &input) {
   return rule;
 }
 
-std::vector<std::int32_t> bounds(const Part &text) {
-  if (!text)
+std::vector<std::int32_t> bounds(const Part &string) {
+  if (!string)
     return {0, 0};
-  const std::size_t colon = text->find(':');
+  const std::size_t colon = string->find(':');
   if (colon == std::string::npos)
     return {};
-  return {imageposition::readInteger(text->substr(0, colon)),
-          imageposition::readInteger(text->substr(colon + 1))};
+  return {imageposition::readInteger(string->substr(0, colon)),
+          imageposition::readInteger(string->substr(colon + 1))};
 }
 
-bool shouldHold(const RuleTexts &rule, const std::string &attribute) {
+bool shouldHold(const RuleStrings &rule, const std::string &attribute) {
   return rule.conditionType == "PPD" && rule.conditionPattern && rule.conditionValue &&
          std::string(rule.conditionValue->c_str()) == attribute;
 }
 
-bool shouldHold(const RuleTexts &rule, std::int32_t value) {
+bool shouldHold(const RuleStrings &rule, std::int32_t value) {
   if (rule.conditionType != "Setting")
     return false;
   if (rule.conditionPattern == "Value")
@@ -59,7 +59,7 @@ bool shouldHold(const RuleTexts &rule, std::int32_t value) {
          allowed[1] >= value;
 }
 
-std::string shouldDo(const RuleTexts &rule) {
+std::string shouldDo(const RuleStrings &rule) {
   const auto range = bounds(rule.actionValue);
   if (rule.actionPattern == "Range" && !range.empty())
     return "range " + std::to_string(range[0]) + " " + std::to_string(range[1]);
@@ -77,7 +77,7 @@ std::string does(const Action &action) {
   case Action::Kind::SetRange:
     return "range " + std::to_string(action.range.min) + " " + std::to_string(action.range.max);
   case Action::Kind::SetValue:
-    return "value " + action.text;
+    return "value " + action.value;
   case Action::Kind::SetDefault:
     return "default " + std::to_string(action.number);
   case Action::Kind::SetAvailable:
@@ -92,23 +92,24 @@ std::string does(const Action &action) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
   FuzzedDataProvider input(data, size);
-  // Without NUL, as the printer's.
+  // Without NUL, like a PPD's.
   const std::string attribute = input.ConsumeRandomLengthString(6).c_str();
   const auto value = input.ConsumeIntegralInRange<std::int32_t>(-12, 12);
   while (input.remaining_bytes() > 0) {
-    const RuleTexts rule = drawRule(input);
-    const Condition condition = Condition::fromTexts(rule);
+    const RuleStrings rule = drawRule(input);
+    const Condition condition = Condition::fromStrings(rule);
     const bool isOnAttribute = condition.subject() == Condition::Subject::Attribute;
     const bool readsValue =
         condition.subject() == Condition::Subject::Setting && condition.readsValue();
     check((isOnAttribute && condition.isSatisfiedByAttribute(attribute.c_str())) ==
               shouldHold(rule, attribute),
-          "a condition on an attribute holds when its texts say so");
+          "a condition on an attribute holds when its strings say so");
     check((readsValue && condition.isSatisfiedBy(value)) == shouldHold(rule, value),
-          "a condition on a setting holds when its texts say so");
+          "a condition on a setting holds when its strings say so");
     check(condition.isSatisfiedBy(value) == condition.isSatisfiedBy(std::to_string(value)),
-          "a number satisfies what its text does");
-    checkSame(does(Action::fromTexts(rule)), shouldDo(rule), "an action is that of its texts");
+          "a number and its string satisfy the same conditions");
+    checkSame(does(Action::fromStrings(rule)), shouldDo(rule),
+              "an action is parsed from its strings");
   }
   return 0;
 }

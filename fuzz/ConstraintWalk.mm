@@ -25,7 +25,7 @@ const imageposition::fuzz::Vocabulary kVocabulary = {
      "on",       "off",         "0",       "3",       "-4",  "-4:4",    "4:-4",
      "05",       "99999999999", ":",       ""}};
 
-/// Four settings in place of a panel's, whose entry fields write down what reaches them.
+/// Four settings like a panel's, whose entry fields record the calls they receive.
 class Panel {
 public:
   explicit Panel(NSDictionary *rules, NSBundle *bundle, ppd_file_t *ppd) {
@@ -40,7 +40,7 @@ public:
                                                              ConstraintInfo:rules
                                                                  BundleInfo:bundle
                                                                         PPD:ppd] autorelease];
-      [records_ addObject:record]; // a setting borrows its texts
+      [records_ addObject:record]; // a setting borrows its strings
       [list addObject:settings[i]];
     }
     for (std::size_t i = 0; i < kNames.size(); ++i) {
@@ -82,7 +82,7 @@ std::string stateOf(const LiteralRules &rules) {
 }
 
 void play(Choices &choices, NSDictionary *rules) {
-  // To the end of the program and beyond: the platform is no longer there when statics go.
+  // Never destroyed, because GNUstep is gone before static objects are.
   static TestBundle &bundle = *new TestBundle;
   static const TestPpd kPpd({"*ShiftA: \"on\"", "*ShiftB: \"-4\"", "*ShiftEmpty: \"\""});
   Panel panel(rules, bundle.bundle(), kPpd);

@@ -1,17 +1,19 @@
-// Where the Objective-C++ gets: g++ calls these, and the fuzzer reads the counters.
+// Coverage of the Objective-C++ code: code compiled by g++ calls these functions, and libFuzzer
+// reads the counters.
 #include <cstddef>
 #include <cstdint>
 
 namespace {
 
-// The fuzzer finds them by the section's name, and clears them before each run.
+// libFuzzer finds them by the section's name, and clears them before each run.
 __attribute__((section("__libfuzzer_extra_counters"), used)) std::uint8_t counters[1 << 16];
 
 } // namespace
 
 extern "C" {
 
-// The linker puts it in place of the fuzzer's own, which only says that it no longer does this.
+// The linker uses this instead of libFuzzer's function, which only prints that it is no longer
+// supported.
 __attribute__((no_sanitize("address", "undefined", "coverage"))) void
 __wrap___sanitizer_cov_trace_pc() {
   const auto place = reinterpret_cast<std::uintptr_t>(__builtin_return_address(0));
@@ -19,7 +21,7 @@ __wrap___sanitizer_cov_trace_pc() {
   counter = static_cast<std::uint8_t>(counter == 255 ? 255 : counter + 1);
 }
 
-// Comparisons of floating-point numbers, of which the fuzzer makes nothing.
+// libFuzzer has no functions for comparisons of floating-point numbers.
 void __sanitizer_cov_trace_cmpf(float, float) {}
 void __sanitizer_cov_trace_cmpd(double, double) {}
 }

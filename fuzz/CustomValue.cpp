@@ -1,4 +1,4 @@
-// Values that are entered for options: what is accepted means the same to CUPS.
+// Custom values of options: CUPS reads accepted values the same way.
 #include "CustomValue.hpp"
 
 #include "Check.hpp"
@@ -19,7 +19,7 @@ namespace {
 
 using Kind = CustomParameter::Kind;
 
-/// An option for each way in which values are entered.
+/// An option for each kind of custom value.
 constexpr const char kPpd[] = R"ppd(*PPD-Adobe: "4.3"
 *FormatVersion: "4.3"
 *FileVersion: "1.0"
@@ -82,7 +82,8 @@ constexpr const char kPpd[] = R"ppd(*PPD-Adobe: "4.3"
 *ParamCustomSecret Password: 4 password 2 16
 )ppd";
 
-constexpr double kTolerance = 0.04; // points: half of a thousandth of an inch, and float
+constexpr double kTolerance =
+    0.04; // in points: half of a thousandth of an inch, and float rounding
 
 double numberOf(const std::string &entry) {
   return imageposition::readNumber(entry).value_or(std::nan(""));
@@ -97,7 +98,7 @@ void checkSameToCups(const CustomParameter &parameter, const std::string &entry,
                      const ppd_cparam_t &known) {
   switch (parameter.kind) {
   case Kind::Integer:
-    return check(known.current.custom_int == numberOf(entry), "CUPS reads the same whole number");
+    return check(known.current.custom_int == numberOf(entry), "CUPS reads the same integer");
   case Kind::Real:
     return check(std::abs(known.current.custom_real - numberOf(entry)) < kTolerance,
                  "CUPS reads the same number");
@@ -105,7 +106,7 @@ void checkSameToCups(const CustomParameter &parameter, const std::string &entry,
     return check(std::abs(known.current.custom_points - pointsOf(entry)) < kTolerance,
                  "CUPS reads the same length");
   default:
-    return checkSame(known.current.custom_string, entry, "CUPS reads the same text");
+    return checkSame(known.current.custom_string, entry, "CUPS reads the same string");
   }
 }
 
@@ -121,21 +122,21 @@ void checkSameToCups(ppd_file_t *ppd, const CustomOption &option, const std::str
   ppdMarkOption(ppd, option.keyword.c_str(), value.c_str());
   ppd_coption_t *const source = ppdFindCustomOption(ppd, option.keyword.c_str());
   for (std::size_t i = 0; i < entries.size(); ++i)
-    if (value.front() != '{' || !entries[i].empty()) // what is left out stays as it was
+    if (value.front() != '{' || !entries[i].empty()) // omitted parameters keep their values
       checkSameToCups(option.parameters[i], entries[i],
                       *ppdFindCustomParam(source, option.parameters[i].name.c_str()));
 }
 
-/// The entries are those of a value that is accepted.
+/// The entries are those of an accepted value.
 void checkWritten(const CustomOption &option, const CustomEntries &entries) {
   const std::string written = writeCustomValue(option, entries);
-  check(imageposition::isEnteredValue(written), "what is written is an entered value");
+  check(imageposition::isEnteredValue(written), "the written string is a custom value");
   const auto again = readCustomValue(option, written);
-  check(again && again->size() == entries.size(), "and can be read");
+  check(again && again->size() == entries.size(), "and can be read back");
   for (std::size_t i = 0; i < entries.size(); ++i)
-    if (!option.isPageSize) // whose sides can come to have one unit
-      checkSame((*again)[i], entries[i], "each entry is as it was");
-  checkSame(writeCustomValue(option, *again), written, "and is written the same again");
+    if (!option.isPageSize) // writing may convert its sides to a common unit
+      checkSame((*again)[i], entries[i], "each entry is unchanged");
+  checkSame(writeCustomValue(option, *again), written, "and writes the same string again");
 }
 
 void checkHidden(const CustomOption &option, const std::string &value,
@@ -154,14 +155,14 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   const std::string value(reinterpret_cast<const char *>(data), size);
   for (const char *keyword : {"PageSize", "Holes", "Gloss", "Trim", "Stamp", "Secret"}) {
     const auto option = imageposition::customOption(printer.ppd(), keyword);
-    check(option.has_value(), "every option takes values");
+    check(option.has_value(), "every option takes custom values");
     const auto entries = readCustomValue(*option, value);
     const bool isAccepted = customValueProblem(*option, value).empty();
-    check(entries || !isAccepted, "what cannot be read is not accepted");
+    check(entries || !isAccepted, "a value that cannot be read is not accepted");
     if (!isAccepted)
       continue;
     check(entries->size() == option->parameters.size(), "an entry for each parameter");
-    if (imageposition::isEnteredValue(value)) // CUPS marks nothing for a number alone
+    if (imageposition::isEnteredValue(value)) // CUPS marks nothing for a bare number
       checkSameToCups(printer.ppd(), *option, value, *entries);
     checkWritten(*option, *entries);
     checkHidden(*option, value, *entries);

@@ -1,4 +1,4 @@
-// Files of destinations: what is not changed stays byte for byte, and other destinations stay.
+// Destination files: unchanged parts stay byte for byte, and other destinations stay.
 #include "DestinationFile.hpp"
 
 #include "Check.hpp"
@@ -33,7 +33,7 @@ void checkSameEntries(const Entries &actual, const Entries &expected) {
     checkSame(described(actual[i]), described(expected[i]), "another destination");
 }
 
-// Every line that stands for no such destination, in its order.
+// All lines but those of that destination, in their order.
 std::string otherLines(const std::string &text, const QueueName &queue) {
   std::string result;
   for (std::size_t at = 0; at < text.size();) {
@@ -56,20 +56,21 @@ void checkSet(DestinationFile file, const QueueName &queue, const std::string &o
   const std::string before = file.text();
   const Entries entries = file.entries();
   if (!file.set(queue, options))
-    return checkSame(file.text(), before, "what is too long changes nothing");
-  check(file.has(queue), "what was set is there");
+    return checkSame(file.text(), before, "an entry that is too long changes nothing");
+  check(file.has(queue), "an entry that was set is there");
   checkSame(otherLines(file.text(), queue), otherLines(before, queue),
             "other lines stay as they are");
   checkSameEntries(without(file.entries(), queue), without(entries, queue));
-  checkSame(DestinationFile(file.text()).text(), file.text(), "the text reads as it was written");
+  checkSame(DestinationFile(file.text()).text(), file.text(),
+            "the file reads back as it was written");
 }
 
 void checkRemoved(DestinationFile file, const QueueName &queue) {
   const std::string before = file.text();
   file.remove(queue);
-  check(queue.instance.empty() || !file.has(queue), "what was removed is gone");
+  check(queue.instance.empty() || !file.has(queue), "a removed destination is gone");
   if (!DestinationFile(before).has(queue))
-    checkSame(file.text(), before, "removing what is not there changes nothing");
+    checkSame(file.text(), before, "removing a missing destination changes nothing");
 }
 
 void checkRenamed(DestinationFile file, const QueueName &queue, const std::string &newInstance) {
@@ -81,7 +82,7 @@ void checkRenamed(DestinationFile file, const QueueName &queue, const std::strin
     DestinationFile::Entry expected = before[i];
     if (before[i].queue == queue)
       expected.queue.instance = newInstance;
-    checkSame(described(after[i]), described(expected), "only the name is another");
+    checkSame(described(after[i]), described(expected), "only the name changes");
   }
 }
 

@@ -1,4 +1,5 @@
-// The entry field's filter: any UTF-16, any range, inverted ones included, any insertion point.
+// The entry field's filter, with any UTF-16, any range (inverted ones included) and any insertion
+// point.
 #include "EntryFilter.hpp"
 
 #include "Check.hpp"
@@ -18,7 +19,7 @@ namespace {
 
 std::u16string widened(const std::string &text) { return {text.begin(), text.end()}; }
 
-// Step by step, as the rules for typing are told.
+// Follows the rules for typing step by step.
 std::string expectedText(const std::u16string &text, const ValueRange &range) {
   std::string kept;
   for (const char16_t unit : text)
@@ -41,11 +42,11 @@ std::string expectedText(const std::u16string &text, const ValueRange &range) {
 void checkInRange(const std::string &shown, const ValueRange &range) {
   const std::int32_t value = imageposition::readInteger(shown);
   check(shown == "-" || shown == "-0" || shown == writeInteger(value),
-        "the field shows a whole number or the beginning of a negative one");
+        "the field shows an integer or the beginning of a negative one");
   if (range.min <= range.max)
     check(value >= range.min && value <= range.max, "the value is within the range");
   else
-    check(value == range.min || value == range.max, "an inverted range leaves its two bounds");
+    check(value == range.min || value == range.max, "an inverted range allows only its two bounds");
 }
 
 } // namespace
@@ -60,10 +61,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   std::memcpy(text.data(), bytes.data(), text.size() * 2);
 
   const std::string shown = filterEntry(text, range);
-  checkSame(shown, expectedText(text, range), "the filter does what it should");
+  checkSame(shown, expectedText(text, range), "the filter follows the rules");
   checkInRange(shown, range);
   if (range.min <= range.max)
-    checkSame(filterEntry(widened(shown), range), shown, "a filtered text stays");
+    checkSame(filterEntry(widened(shown), range), shown, "filtering twice changes nothing");
   check(caretAfterFilter(text, caret, shown) <= shown.size(),
         "the insertion point is within the text");
   check(caretAfterFilter(text, text.size(), shown) == shown.size(),

@@ -1,4 +1,4 @@
-// Times until which a job is held: those that CUPS's documents name, and no others.
+// Hold times of a job: exactly those that the CUPS documentation names are accepted.
 #include "HoldTime.hpp"
 
 #include "Check.hpp"
@@ -17,7 +17,7 @@ namespace {
 
 struct Hold {
   std::string until;
-  std::string priority; // empty: the usual one
+  std::string priority; // empty for the default
 };
 
 std::optional<Hold> expectedHold(const std::string &when) {
@@ -49,13 +49,13 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   try {
     for (const std::string &option : imageposition::optionsForHold(when))
       imageposition::readOptionArgument(option, job);
-    check(expected.has_value(), "a time that CUPS does not know is refused");
-    checkSame(valueOf(job, "job-hold-until"), expected->until, "the job is held until then");
+    check(expected.has_value(), "an invalid time is rejected");
+    checkSame(valueOf(job, "job-hold-until"), expected->until, "the job has the hold time");
     checkSame(valueOf(job, "job-priority"), expected->priority, "only \"immediate\" is urgent");
   } catch (const imageposition::Failure &failure) {
-    check(!expected, "a time that CUPS knows is taken");
+    check(!expected, "a valid time is accepted");
     check(failure.code() == imageposition::ExitCode::Usage && *failure.what() != '\0',
-          "what is wrong with a time is said");
+          "an invalid time gets an error message");
   }
   return 0;
 }

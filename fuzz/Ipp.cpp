@@ -1,5 +1,5 @@
-// A hostile CUPS: its answers (see AnsweringServer.hpp) go through the list of printers, a queue's
-// description and a job's submission. Whatever it says, each ends in a result or a sentence.
+// A hostile CUPS: sends its responses (see AnsweringServer.hpp) to the code that lists printers,
+// reads a queue's description and submits a job. Each must return a result or an error message.
 #include "AnsweringServer.hpp"
 #include "CheckText.hpp"
 #include "Destinations.hpp"
@@ -16,11 +16,11 @@ using namespace imageposition::fuzz;
 using imageposition::test::Answer;
 using imageposition::test::AnsweringServer;
 
-// libcups forgets printers that an answer has twice. What the dialog forgets itself is found by the
-// tests that run with sanitizers.
+// libcups leaks printers that a response has twice. The tests with sanitizers find the dialog's own
+// leaks.
 extern "C" const char *__lsan_default_suppressions() { return "leak:libcups.so\n"; }
 
-// libcups waits before it asks a busy server again, ten times and longer each time.
+// libcups retries a busy server ten times, with growing delays.
 extern "C" unsigned int sleep(unsigned int) { return 0; }
 
 namespace {
@@ -41,7 +41,7 @@ void checkDestination(const Destination &printer, const DestinationList &list) {
   checkWords(printer.stateText, "a printer's state");
   for (int i = 0; i < printer.defaults.optionCount(); ++i)
     check(std::string(printer.defaults.options()[i].name).compare(0, 7, "marker-") != 0,
-          "nothing about the printer is among a job's defaults");
+          "a job's defaults have no printer attributes");
 }
 
 void checkPrinters() {
@@ -57,7 +57,7 @@ void checkDescription() {
     const PrinterDescription printer = PrinterDescription::ofQueue("office");
     checkWords(printer.name(), "a printer's name");
   } catch (const Failure &failure) {
-    check(failure.code() == ExitCode::Printer, "it is the printer's fault");
+    check(failure.code() == ExitCode::Printer, "the error code blames the printer");
     checkWords(failure.what(), "why there is no description");
   }
 }
@@ -84,10 +84,10 @@ void checkJob(bool hasCompound) {
         [&](const PasswordRequest &) {
           return ++passwords > 2 ? std::nullopt : std::optional(Credentials{"me", "word"});
         });
-    check(job.id > 0, "a job has a number");
+    check(job.id > 0, "a job has an ID");
     checkLine(job.note, "why a job waits");
   } catch (const SubmissionFailure &failure) {
-    checkWords(failure.what(), "why a job is not sent");
+    checkWords(failure.what(), "why a job was not sent");
   }
 }
 
@@ -103,7 +103,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   const std::vector<Answer> answers = imageposition::test::readAnswers(lines);
   const auto run = [&](void (*part)(bool), bool choice) {
     server().setAnswers(answers);
-    std::thread(part, choice).join(); // libcups keeps a connection for each thread
+    std::thread(part, choice).join(); // libcups has one connection per thread
   };
   run([](bool) { checkPrinters(); }, false);
   run([](bool) { checkDescription(); }, false);

@@ -1,4 +1,4 @@
-// Lengths: a number, then a unit, compared with a pattern; written and read again.
+// Lengths (a number, then a unit): compared with a regular expression; written and read back.
 #include "LengthUnit.hpp"
 
 #include "Check.hpp"
@@ -31,7 +31,7 @@ std::optional<Length> expectedLength(const std::string &text) {
       {"in", {LengthUnit::Inch, 1}},
       {"ft", {LengthUnit::Inch, 12}},
       {"pt", {LengthUnit::Point, 1}},
-      {"", {LengthUnit::Inch, 1}}}; // which stands in for none here
+      {"", {LengthUnit::Inch, 1}}}; // the default unit here
   static const std::regex kLength(
       "[ \\t]*([+-]?(?:[0-9]+[.,]?[0-9]*|[.,][0-9]+))[ \\t]*([A-Za-z]*)[ \\t]*");
   std::smatch match;
@@ -51,13 +51,13 @@ std::optional<Length> expectedLength(const std::string &text) {
 void checkWritten(const Length &length) {
   const std::string written = imageposition::writeLength(length);
   const auto again = readLength(written);
-  check(again && again->unit == length.unit, "what is written reads as a length of its unit");
-  checkSame(imageposition::writeLength(*again), written, "and is written the same again");
+  check(again && again->unit == length.unit, "a written length reads back with its unit");
+  checkSame(imageposition::writeLength(*again), written, "and writes the same string again");
   const double step = std::pow(10, -imageposition::decimalsOf(length.unit));
   check(std::abs(again->number - length.number) <= step / 2 + std::abs(length.number) * 1e-12,
-        "it differs by the rounding alone");
+        "it differs only by rounding");
   check(std::isfinite(imageposition::toPoints(*again).count) || std::abs(length.number) > 1e300,
-        "its points are a number");
+        "its number of points is finite");
 }
 
 } // namespace
@@ -70,7 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   if (!length)
     return 0;
   check(length->unit == expected->unit && length->number == expected->number,
-        "a length is that of its number and unit");
+        "a length has its number and unit");
   checkWritten(*length);
   return 0;
 }

@@ -1,5 +1,4 @@
-// Changes inputs that consist of lines: most of them stay whole, so that what is read line by line
-// is understood to its end.
+// Mutates inputs line by line and keeps most lines intact, so that parsers get far into an input.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -34,7 +33,7 @@ std::string joined(const Lines &lines) {
 
 std::size_t anyOf(const Lines &lines, Random &random) { return random() % lines.size(); }
 
-/// Its end is changed most often: what stands there is a value.
+/// Mostly changes the end of the line, which is a value.
 void changeLine(std::string &line, Random &random) {
   const std::size_t start = line.empty() ? 0 : random() % (line.size() + 1);
   std::vector<std::uint8_t> bytes(line.begin() + static_cast<std::ptrdiff_t>(start), line.end());

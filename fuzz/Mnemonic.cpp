@@ -1,4 +1,4 @@
-// Markers in texts of controls, compared with a reading of whole characters instead of bytes.
+// Mnemonics in control labels, compared with a reading by characters instead of bytes.
 #include "Mnemonic.hpp"
 
 #include "Check.hpp"
@@ -15,7 +15,7 @@ using imageposition::fuzz::checkSame;
 
 namespace {
 
-/// One string of UTF-8 for each character.
+/// One UTF-8 string for each character.
 std::vector<std::string> charactersIn(const std::string &text) {
   std::vector<std::string> characters;
   const std::u16string units = utf16FromUtf8(text);
@@ -52,19 +52,20 @@ MnemonicText expectedText(const std::string &marked) {
 }
 
 void checkSameText(const MnemonicText &actual, const MnemonicText &expected) {
-  checkSame(actual.text, expected.text, "the text without markers");
-  checkSame(actual.key, expected.key, "the first character that is marked");
-  check(actual.keyAt == expected.keyAt, "the place of the key");
+  checkSame(actual.text, expected.text, "the label without markers");
+  checkSame(actual.key, expected.key, "the first marked character");
+  check(actual.keyAt == expected.keyAt, "the position of the key");
 }
 
 void checkMarked(const std::string &text, std::string used) {
   const std::string before = used;
   const MnemonicText marked = readMnemonic(imageposition::withKey(text, used));
-  check(used == before + marked.key, "a key is used up");
-  check(marked.key.empty() || before.find(marked.key) == std::string::npos, "a key is a free one");
+  check(used == before + marked.key, "the key is added to the used ones");
+  check(marked.key.empty() || before.find(marked.key) == std::string::npos,
+        "the key was not used before");
   const bool isAdded = marked.text != text;
   checkSame(marked.text, isAdded ? text + "(" + marked.key + ")" : text,
-            "only a digit in parentheses is added");
+            "only a digit in parentheses may be added");
   checkSameText(readMnemonic(imageposition::withoutKey(text)), {text, "", 0});
 }
 
@@ -74,7 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   const std::string bytes(reinterpret_cast<const char *>(data), size);
   const MnemonicText ofBytes = readMnemonic(bytes);
   checkSame(ofBytes.text.substr(ofBytes.keyAt, ofBytes.key.size()), ofBytes.key,
-            "the key stands in the text, whatever bytes these are");
+            "the key is in the label, whatever its bytes");
   const std::string text = utf8FromUtf16(utf16FromUtf8(bytes));
   checkSameText(readMnemonic(text), expectedText(text));
   checkMarked(bytes, "");

@@ -1,4 +1,4 @@
-// Job options as text: read as CUPS reads them, written so that CUPS reads them back.
+// Option strings: parsed as CUPS parses them, written so that CUPS reads them back.
 #include "OptionText.hpp"
 
 #include "Check.hpp"
@@ -12,7 +12,7 @@ using imageposition::fuzz::checkSame;
 
 namespace {
 
-/// CUPS's own reading of a text.
+/// The options that CUPS parses from a string.
 class CupsOptions {
 public:
   explicit CupsOptions(const std::string &text)
@@ -38,14 +38,14 @@ bool isUsable(const CupsOptions &options) {
 }
 
 void checkSameOptions(const PrintSettingsStore &store, const CupsOptions &options) {
-  check(store.optionCount() == options.count(), "as many options as CUPS reads");
+  check(store.optionCount() == options.count(), "the number of options that CUPS reads");
   for (int i = 0; i < options.count(); ++i) {
     checkSame(store.options()[i].name, options[i].name, "the name that CUPS reads");
     checkSame(store.options()[i].value, options[i].value, "the value that CUPS reads");
   }
 }
 
-// "name=value" of any bytes, without a parser in between.
+// A name and a value of any bytes, stored directly without parsing.
 void checkAnyEntry(const std::string &text) {
   const std::size_t equals = text.find('=');
   if (equals == std::string::npos)
@@ -56,10 +56,10 @@ void checkAnyEntry(const std::string &text) {
   const auto outcome = store.set(name, value);
   check((outcome == PrintSettingsStore::Outcome::Stored) ==
             (PrintSettingsStore::isUsableName(name) && PrintSettingsStore::isUsableValue(value)),
-        "usable entries are stored, and no others");
+        "exactly the usable entries are stored");
   if (outcome != PrintSettingsStore::Outcome::Stored)
-    return check(store.optionCount() == 0, "a refused entry leaves nothing");
-  checkSame(store.get(name), value, "what is stored is found");
+    return check(store.optionCount() == 0, "a rejected entry stores nothing");
+  checkSame(store.get(name), value, "a stored entry is found");
   checkSameOptions(store, CupsOptions(imageposition::writeOptionText(store)));
   check(imageposition::isOptionText(imageposition::writeOptionText(store)), "known again");
 }
@@ -73,12 +73,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   PrintSettingsStore store;
   try {
     imageposition::readOptionArgument(text, store);
-    check(isUsable(options), "options that CUPS cannot send are refused");
+    check(isUsable(options), "options that CUPS cannot send are rejected");
     checkSameOptions(store, options);
     checkSameOptions(store, CupsOptions(imageposition::writeOptionText(store)));
   } catch (const imageposition::Failure &failure) {
-    check(!isUsable(options), "options that CUPS can send are taken");
-    check(*failure.what() != '\0', "what is wrong with an option is said");
+    check(!isUsable(options), "options that CUPS can send are accepted");
+    check(*failure.what() != '\0', "a bad option gets an error message");
   }
   return 0;
 }

@@ -1,4 +1,4 @@
-// Page ranges: ascending without overlaps, and the same after they were written and read again.
+// Page ranges: ascending without overlaps, and the same after writing and reading them back.
 #include "PageRanges.hpp"
 
 #include "Check.hpp"
@@ -12,17 +12,17 @@ namespace {
 
 void checkOrder(const std::vector<PageRange> &ranges) {
   check(!ranges.empty(), "there are pages");
-  // Neighbours are one range, so that there is a page between any two.
+  // Adjacent ranges are merged, so there is a page between any two.
   long long before = -1;
   for (const PageRange &range : ranges) {
     check(range.first > before + 1 && range.first >= 1,
           "ranges ascend and neither overlap nor touch");
-    check(range.last >= range.first, "a range does not run backwards");
+    check(range.last >= range.first, "a range is not inverted");
     before = range.last;
   }
 }
 
-// A job's own text for its pages, from wherever it came.
+// A page-ranges option in a job, from any source.
 void checkStored(const std::string &text) {
   imageposition::PrintSettingsStore job;
   if (job.set("page-ranges", text) != imageposition::PrintSettingsStore::Outcome::Stored)
@@ -32,7 +32,7 @@ void checkStored(const std::string &text) {
   const imageposition::PageChoice again = imageposition::readPageChoice(job);
   check(choice.ranges.has_value() == again.ranges.has_value(), "pages stay chosen");
   check(!choice.ranges || choice.ranges->ranges() == again.ranges->ranges(),
-        "a stored choice of pages is read as it was");
+        "a stored choice of pages reads back the same");
 }
 
 } // namespace
@@ -44,12 +44,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     const PageRanges pages = PageRanges::parse(text);
     checkOrder(pages.ranges());
     check(PageRanges::parse(pages.optionValue()).ranges() == pages.ranges(),
-          "CUPS's form reads as the same pages");
+          "the form for CUPS reads back as the same pages");
     check(PageRanges::parse(pages.text()).ranges() == pages.ranges(),
-          "the form for people reads as the same pages");
+          "the form for users reads back as the same pages");
   } catch (const imageposition::Failure &failure) {
     check(failure.code() == imageposition::ExitCode::Usage && *failure.what() != '\0',
-          "what is wrong with page ranges is said");
+          "bad page ranges get an error message");
   }
   return 0;
 }

@@ -1,4 +1,4 @@
-// The whole plug-in: each input is one use of it, compared with the model after every step.
+// The whole plug-in: each input is one use of a panel, compared with the model after every step.
 #include "Check.hpp"
 #import "PanelUse.h"
 #import "TestPool.h"
@@ -14,6 +14,6 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
   const imageposition::test::Pool pool;
   const std::string difference = imageposition::test::usePanel(data, size);
-  imageposition::fuzz::check(difference.empty(), "the panel is like its model\n" + difference);
+  imageposition::fuzz::check(difference.empty(), "the panel matches its model\n" + difference);
   return 0;
 }

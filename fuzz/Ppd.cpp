@@ -1,4 +1,4 @@
-// Printer descriptions: all that the dialog does with one, for a job that stands in its comments:
+// PPDs: everything that the dialog does with one, for a job that is given in its comments:
 //
 //   *%job Duplex=DuplexTumble LeftRightMargin=-12
 //   *%locked MediaType=Plain
@@ -25,7 +25,7 @@ void addSettings(const std::string &text, bool locked, PrintSettingsStore &job) 
   try {
     imageposition::readOptionArgument(text, settings);
   } catch (const Failure &) {
-    return; // which the fuzzer `options` is for
+    return; // the fuzzer `options` tests these
   }
   for (int i = 0; i < settings.optionCount(); ++i)
     job.set(settings.options()[i].name, settings.options()[i].value, locked);
@@ -46,19 +46,19 @@ std::optional<PrinterDescription> read(const std::string &ppd) {
     const MemoryFile file(ppd);
     return PrinterDescription::fromFile(file.path());
   } catch (const Failure &failure) {
-    check(failure.code() == imageposition::ExitCode::Printer, "it is the printer's fault");
-    checkWords(failure.what(), "what is wrong with a description");
+    check(failure.code() == imageposition::ExitCode::Printer, "the error code blames the printer");
+    checkWords(failure.what(), "the error message");
     return std::nullopt;
   }
 }
 
 } // namespace
 
-// libcups forgets a text that a description gives twice, such as "JCLBegin".
+// libcups leaks a string that a PPD has twice, such as "JCLBegin".
 extern "C" const char *__lsan_default_suppressions() { return "leak:_ppdOpen\n"; }
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***) {
-  setenv("LANG", "de_DE.UTF-8", 1); // for descriptions with texts in several languages
+  setenv("LANG", "de_DE.UTF-8", 1); // for PPDs with translations
   return 0;
 }
 

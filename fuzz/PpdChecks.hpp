@@ -1,4 +1,4 @@
-/// What holds for a job on a printer, whatever the printer's description says.
+/// Properties of a job that must hold for every PPD.
 #ifndef IMAGEPOSITION_FUZZ_PPDCHECKS_HPP
 #define IMAGEPOSITION_FUZZ_PPDCHECKS_HPP
 
@@ -6,19 +6,19 @@
 
 namespace imageposition::fuzz {
 
-/// Options, their choices and the list of them.
+/// Checks options, their choices and the printed list of options.
 void checkOptions(PrinterDescription &printer, const PrintSettingsStore &job);
 
-/// Conflicts and the ways out.
+/// Checks conflicts and the proposed resolutions.
 void checkConflicts(PrinterDescription &printer, const PrintSettingsStore &job);
 
-/// Values that are entered.
+/// Checks custom values.
 void checkEntries(PrinterDescription &printer, const PrintSettingsStore &job);
 
-/// The picture beside the panel.
+/// Checks the picture beside the panel.
 void checkPicture(PrinterDescription &printer, const PrintSettingsStore &job);
 
-/// What CUPS is sent, and the summary of it.
+/// Checks the request that is sent to CUPS, and its summary.
 void checkRequest(PrinterDescription &printer, const PrintSettingsStore &job);
 
 } // namespace imageposition::fuzz

@@ -1,4 +1,5 @@
-// Options of any description: texts for people, choices that can be chosen, conflicts that end.
+// Options of any PPD: every string can be shown, every choice can be chosen, every proposed change
+// resolves the conflict.
 #include "CheckText.hpp"
 #include "OptionConflicts.hpp"
 #include "OptionList.hpp"
@@ -28,16 +29,17 @@ void checkChoice(PrinterDescription &printer, const PrintSettingsStore &job,
   PrintSettingsStore trial = job;
   PrinterOptions options(printer, trial);
   const bool isChosen = options.choose(option.keyword, choice.keyword);
-  check(isChosen == !option.isLocked, "a choice that is listed can be chosen: " + what);
+  check(isChosen == !option.isLocked, "a listed choice can be chosen: " + what);
   if (!isChosen)
-    return checkSame(optionText(trial), optionText(job), "what is locked stays");
+    return checkSame(optionText(trial), optionText(job), "a locked option stays");
   const auto after = options.find(option.keyword);
-  check(after && after->chosenSet().count(choice.keyword) != 0, "what was chosen holds: " + what);
+  check(after && after->chosenSet().count(choice.keyword) != 0,
+        "the chosen choice is set: " + what);
   check(isSame(stored(trial, option.keyword), choice.keyword) ||
             (stored(trial, option.keyword).empty() && isSame(after->defaultChoice, choice.keyword)),
-        "the job has what was chosen, or the default holds: " + what);
+        "the job has the chosen choice, or it is the default: " + what);
   check(fitSetting(printer.ppd(), option.keyword, choice.keyword, false).change.empty(),
-        "what was chosen fits the printer: " + what);
+        "the chosen choice is valid for the printer: " + what);
 }
 
 void checkTicks(PrinterDescription &printer, const PrintSettingsStore &job,
@@ -46,15 +48,15 @@ void checkTicks(PrinterDescription &printer, const PrintSettingsStore &job,
     PrintSettingsStore trial = job;
     PrinterOptions options(printer, trial);
     check(options.tick(option.keyword, choice.keyword, on) == !option.isLocked,
-          "a box can be ticked and emptied: " + choice.keyword);
+          "a checkbox can be checked and unchecked: " + choice.keyword);
     const auto after = options.find(option.keyword);
     check(option.isLocked || isNone(choice.keyword) ||
               (after->chosenSet().count(choice.keyword) != 0) == on,
-          "a box is as it was left: " + choice.keyword);
+          "a checkbox keeps its state: " + choice.keyword);
   }
 }
 
-/// Else the job's own value, for an option that takes some.
+/// Whether the PPD has the choice; otherwise it is the job's custom value.
 bool isOfDescription(PrinterDescription &printer, const PrinterOption &option,
                      const OptionChoice &choice) {
   ppd_option_t *const source = ppdFindOption(printer.ppd(), option.keyword.c_str());
@@ -65,13 +67,13 @@ bool isOfDescription(PrinterDescription &printer, const PrinterOption &option,
 void checkOption(PrinterDescription &printer, const PrintSettingsStore &job,
                  const PrinterOption &option) {
   checkWords(option.text, "an option's text");
-  check(option.isLocked == job.isLocked(option.keyword), "what the job locks is locked");
-  checkLine(option.textOf(option.chosen), "the text of what is chosen");
+  check(option.isLocked == job.isLocked(option.keyword), "an option that the job locks is locked");
+  checkLine(option.textOf(option.chosen), "the text of the current choice");
   checkLine(option.textOf(option.defaultChoice), "the text of the default");
   for (const OptionChoice &choice : option.choices) {
     checkWords(choice.text, "a choice's text");
     if (!isOfDescription(printer, option, choice))
-      continue; // entered, whether or not the printer takes it
+      continue; // a custom value, which the printer may not accept
     checkChoice(printer, job, option, choice);
     if (option.kind == PrinterOption::Kind::Several)
       checkTicks(printer, job, option, choice);
@@ -86,7 +88,7 @@ std::size_t linesFor(const std::vector<OptionGroup> &groups) {
   return lines;
 }
 
-/// A list of lines, each of which can be shown.
+/// Checks the number of lines, and that each can be shown.
 void checkList(const std::string &list, std::size_t lines) {
   std::size_t count = 0;
   for (std::size_t at = 0; at < list.size(); ++count) {
@@ -115,11 +117,11 @@ void checkProposal(PrinterDescription &printer, const PrintSettingsStore &job,
   checkWords(proposal->sentence, "a proposal's sentence");
   const auto before = PrinterOptions(printer, trial).find(chosenLast);
   check(conflicts.take(*proposal), "a proposal can be taken");
-  check(conflicts.find().empty(), "no conflict is left");
-  check(violationsKnownToCups(printer, trial) == 0, "none is left for CUPS either");
+  check(conflicts.find().empty(), "no conflict remains");
+  check(violationsKnownToCups(printer, trial) == 0, "none remains for CUPS either");
   const auto after = PrinterOptions(printer, trial).find(chosenLast);
   check(!before || before->kind == PrinterOption::Kind::Several || before->chosen == after->chosen,
-        "what was chosen last stays: " + chosenLast);
+        "the last choice stays: " + chosenLast);
   for (int i = 0; i < job.optionCount(); ++i)
     if (job.isLocked(job.options()[i].name))
       checkSame(stored(trial, job.options()[i].name), job.options()[i].value,
@@ -134,13 +136,13 @@ void checkOptions(PrinterDescription &printer, const PrintSettingsStore &job) {
   const auto groups = options.listed({});
   for (const OptionGroup &group : groups) {
     checkWords(group.text, "a group's text");
-    check(!group.options.empty(), "a group that is listed has options");
+    check(!group.options.empty(), "a listed group has options");
     for (const PrinterOption &option : group.options)
       checkOption(printer, job, option);
   }
   checkList(writeOptionList(groups), linesFor(groups));
   checkSame(writeOptionList(options.listed({})), writeOptionList(groups),
-            "what was tried and undone leaves nothing");
+            "undoing a trial leaves no changes");
   checkSame(optionText(own), optionText(job), "listing changes nothing");
 }
 
@@ -149,7 +151,7 @@ void checkConflicts(PrinterDescription &printer, const PrintSettingsStore &job) 
   ppdLocalize(printer.ppd());
   const auto found = OptionConflicts(printer, own).find();
   check(found.empty() == (violationsKnownToCups(printer, job) == 0),
-        "there are conflicts where CUPS sees some");
+        "there are conflicts if CUPS finds any");
   for (const OptionConflict &conflict : found)
     checkWords(conflict.sentence, "a conflict's sentence");
   checkProposal(printer, job, "");

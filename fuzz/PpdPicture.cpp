@@ -1,4 +1,4 @@
-// The picture for any description: pages of a size that can be drawn, and everything in its place.
+// The picture for any PPD: pages have a size that can be drawn, and everything is in its place.
 #include "CheckText.hpp"
 #include "PpdChecks.hpp"
 #include "PreviewLayout.hpp"
@@ -9,7 +9,7 @@ namespace imageposition::fuzz {
 
 namespace {
 
-constexpr double kRounding = 1e-6; // of lengths that were added and subtracted
+constexpr double kRounding = 1e-6; // for lengths that were added and subtracted
 
 bool isOrdered(const PageRectangle &rectangle) {
   return std::isfinite(rectangle.left.count) && std::isfinite(rectangle.top.count) &&
@@ -29,13 +29,13 @@ void checkPage(const PageShape &page) {
 }
 
 void checkSide(const SidePreview &side) {
-  check(isOrdered(side.imageable) && isOrdered(side.content), "a side's places have a size");
+  check(isOrdered(side.imageable) && isOrdered(side.content), "a side's areas have a size");
   for (const PageRectangle &part : side.lost)
     check(isOrdered(part) && part.left.count >= side.content.left.count &&
               part.top.count >= side.content.top.count &&
               part.right.count <= side.content.right.count &&
               part.bottom.count <= side.content.bottom.count,
-          "what is lost is a part of the content");
+          "the lost part is within the content");
 }
 
 bool isPlace(const PixelRectangle &place) {
@@ -54,12 +54,12 @@ void checkLayout(const Preview &preview, const PictureSize &size) {
   const PreviewLayout layout = layOutPreview(preview, size);
   for (const PagePlace &page : layout.pages)
     check(isPlace(page.title) && isPlace(page.page) && isPlace(page.caption),
-          "a page's places are places");
+          "a page's rectangles are valid");
   check(isPlace(layout.legend) && isPlace(layout.enlargedTitle) && isPlace(layout.grid) &&
             isPlace(layout.relation),
-        "the other places are places");
-  check(layout.squareLength.count > 0 && layout.squarePixels >= 0, "squares have a side");
-  check(layout.squaresPerNumber(40) > 0, "numbers stand apart");
+        "the other rectangles are valid");
+  check(layout.squareLength.count > 0 && layout.squarePixels >= 0, "grid squares have a size");
+  check(layout.squaresPerNumber(40) > 0, "numbers do not overlap");
   for (const auto place :
        {PreviewLayout::Front, PreviewLayout::Back, PreviewLayout::AgainstLight}) {
     const PixelRectangle imageable = layout.onPage(place, preview.page.imageable);
@@ -67,7 +67,7 @@ void checkLayout(const Preview &preview, const PictureSize &size) {
     check(isPlace(imageable) && imageable.right() <= page.right() + 1 &&
               imageable.bottom() <= page.bottom() + 1,
           "the imageable area is drawn on the page");
-    check(isPlace(layout.onPage(place, preview.front.content)), "so is the content somewhere");
+    check(isPlace(layout.onPage(place, preview.front.content)), "the content's rectangle is valid");
   }
   checkMark(layout, preview.front.offset);
   if (preview.backSeenThrough)
@@ -83,7 +83,7 @@ void checkPicture(PrinterDescription &printer, const PrintSettingsStore &job) {
   checkSide(preview.front);
   check(preview.back.has_value() == (preview.turning != Turning::OneSided) &&
             preview.back.has_value() == preview.backSeenThrough.has_value(),
-        "two-sided prints have a back");
+        "two-sided printing has a back side");
   if (preview.back) {
     checkSide(*preview.back);
     checkSide(*preview.backSeenThrough);

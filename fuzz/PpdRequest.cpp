@@ -1,4 +1,4 @@
-// Values that are entered for the options of any description, and what CUPS is sent of a job.
+// Custom values for the options of any PPD, and the request that CUPS receives for a job.
 #include "CheckText.hpp"
 #include "ExitCode.hpp"
 #include "JobRequest.hpp"
@@ -17,7 +17,7 @@ namespace {
 
 using Ipp = std::unique_ptr<ipp_t, decltype(&ippDelete)>;
 
-/// An entry that the parameter should take: its lower end, or a text of as many letters.
+/// An entry that the parameter should accept: its minimum, or a string of minimum length.
 std::string smallestEntry(const CustomParameter &parameter) {
   if (!parameter.isText())
     return initialEntry(parameter, LengthUnit::Point);
@@ -30,13 +30,14 @@ void checkParameter(const CustomParameter &parameter) {
   check(parameter.minimum <= parameter.maximum, "a parameter's range is not empty");
   for (const LengthUnit unit : {LengthUnit::Millimetre, LengthUnit::Inch, LengthUnit::Point}) {
     checkWords(rangeText(parameter, unit), "a range");
-    checkLine(initialEntry(parameter, unit), "where a field starts");
+    checkLine(initialEntry(parameter, unit), "a field's initial entry");
   }
   for (const std::string typed : {"", "x", "1e999", "-99999999999", "99999999999", "{"})
-    checkLine(checkEntry(parameter, typed, LengthUnit::Inch).problem, "what is wrong with it");
+    checkLine(checkEntry(parameter, typed, LengthUnit::Inch).problem,
+              "what is wrong with an entry");
 }
 
-/// What a person gets who changes nothing in the fields.
+/// Accepts the fields' initial entries unchanged, as a user can.
 void checkEntered(PrinterDescription &printer, const PrintSettingsStore &job,
                   const PrinterOption &option) {
   CustomEntries entries;
@@ -48,18 +49,18 @@ void checkEntered(PrinterDescription &printer, const PrintSettingsStore &job,
     entries.push_back(checked.entry);
   }
   const std::string value = writeCustomValue(*option.custom, entries);
-  checkSame(customValueProblem(*option.custom, value), "", "entries make a value that is taken");
+  checkSame(customValueProblem(*option.custom, value), "", "entries make an accepted value");
   PrintSettingsStore trial = job;
   PrinterOptions options(printer, trial);
   check(options.choose(option.keyword, value) == !option.isLocked,
-        "a value can be entered: " + option.keyword + " " + value);
+        "a custom value can be chosen: " + option.keyword + " " + value);
   const auto after = options.find(option.keyword);
   check(option.isLocked || after->chosenSet().count(value) != 0,
-        "what was entered holds: " + value);
-  checkWords(after->textOf(after->chosen), "an entered value's text");
+        "the custom value is set: " + value);
+  checkWords(after->textOf(after->chosen), "a custom value's text");
 }
 
-/// As CUPS receives it.
+/// Returns the request as CUPS receives it.
 Ipp sentAndReceived(const JobRequest &request, const PrintSettingsStore &options) {
   const Ipp sent(newJobRequest(request, options), ippDelete);
   const MemoryFile file("");
@@ -70,7 +71,7 @@ Ipp sentAndReceived(const JobRequest &request, const PrintSettingsStore &options
   return received;
 }
 
-/// Names without one are CUPS's, which may have a type and several values.
+/// Names without a capital are IPP attributes, which may have a type and several values.
 bool hasCapital(const std::string &name) {
   return std::any_of(name.begin(), name.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
 }
@@ -82,7 +83,7 @@ std::string valueIn(ipp_attribute_t *attribute) {
   return text != nullptr ? text : ippTagString(ippGetValueTag(attribute));
 }
 
-/// Of an option that is not the printer's, such as a panel's or an IPP printer's.
+/// A collection that is not a PPD option, such as an IPP printer's.
 bool isForeignCollection(const JobRequest &request, const cups_option_t &option) {
   return option.value[0] == '{' &&
          std::none_of(request.compounds.begin(), request.compounds.end(),
@@ -98,16 +99,16 @@ void checkReceived(ipp_t *request, const cups_option_t &option) {
   check(ippGetCount(attribute) == 1, std::string("an option has one value: ") + option.name);
   const std::string value = valueIn(attribute);
   if (ippGetValueTag(attribute) == IPP_TAG_BOOLEAN)
-    check(isSame(value, option.value), "a truth value stays what it was");
+    check(isSame(value, option.value), "a boolean keeps its value");
   else
-    checkSame(value, option.value, std::string("the option as it was, ") + option.name);
+    checkSame(value, option.value, std::string("the unchanged value of option ") + option.name);
 }
 
 void checkSummary(const SummarySection &section) {
   checkWords(section.panelName, "a heading");
   for (const SummaryLine &line : section.lines) {
     checkWords(line.title, "a title of the summary");
-    check(isWellFormed(line.value), "a value of the summary is UTF-8"); // the job's, as it is
+    check(isWellFormed(line.value), "a value of the summary is UTF-8"); // unchanged from the job
   }
 }
 
@@ -144,7 +145,7 @@ void checkRequest(PrinterDescription &printer, const PrintSettingsStore &job) {
       if (hasCapital(options.options()[i].name) &&
           !isForeignCollection(request, options.options()[i]))
         checkReceived(known.get(), options.options()[i]);
-    check(isWellFormed(writeRequestText(request)), "the request's text is UTF-8");
+    check(isWellFormed(writeRequestText(request)), "the printed request is UTF-8");
   } catch (const Failure &failure) {
     checkWords(failure.what(), "why a job cannot be sent");
   }

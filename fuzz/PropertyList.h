@@ -8,14 +8,14 @@
 
 namespace imageposition::fuzz {
 
-/// What a list is made of where it makes sense.
+/// The words of meaningful parts of a list.
 struct Vocabulary {
   std::vector<std::string> keys;
-  std::vector<std::string> texts;
+  std::vector<std::string> strings;
 };
 
-/// Mostly a dictionary of dictionaries under "0", "1", ..., whose keys and texts are those of the
-/// vocabulary; now and then anything else, anywhere. The caller does not own it.
+/// Returns an autoreleased property list: mostly a dictionary of dictionaries under "0", "1", ...,
+/// with keys and strings from the vocabulary; now and then anything else, anywhere.
 id drawPropertyList(test::Choices &choices, const Vocabulary &vocabulary);
 
 } // namespace imageposition::fuzz

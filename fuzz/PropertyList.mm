@@ -37,10 +37,10 @@ id drawAnything(Choices &choices) {
 id drawValue(Choices &choices, const Vocabulary &vocabulary) {
   if (choices.below(12) == 11)
     return drawAnything(choices);
-  return nsString(choices.of(vocabulary.texts));
+  return nsString(choices.of(vocabulary.strings));
 }
 
-// The bytes say for each key whether it is there, so that a change of one changes only that.
+// Separate bytes say which keys are present, so that mutating one byte changes only one key.
 id drawRecord(Choices &choices, const Vocabulary &vocabulary) {
   if (choices.below(32) == 31)
     return drawAnything(choices);

@@ -1,4 +1,4 @@
-// Interval texts and range labels.
+// Interval strings and range labels.
 #include "RangeText.hpp"
 
 #include "Check.hpp"
@@ -15,7 +15,7 @@ using imageposition::fuzz::checkSame;
 
 namespace {
 
-// All parts of a text between its colons.
+// All parts of a string between its colons.
 std::vector<std::string> parts(const std::string &text) {
   std::vector<std::string> result(1);
   for (const char c : text) {
@@ -27,7 +27,7 @@ std::vector<std::string> parts(const std::string &text) {
   return result;
 }
 
-// One occurrence after the other; what was put in is not looked at again.
+// Replaces every occurrence, but not in replacements.
 std::string replaced(std::string text, const std::string &mark, const std::string &replacement) {
   std::size_t at = 0;
   while (!mark.empty() && (at = text.find(mark, at)) != std::string::npos) {
@@ -40,11 +40,11 @@ std::string replaced(std::string text, const std::string &mark, const std::strin
 void checkInterval(const std::string &text) {
   const auto interval = readInterval(text);
   const std::vector<std::string> bounds = parts(text);
-  check(interval.has_value() == (bounds.size() > 1), "an interval is a text with a colon");
+  check(interval.has_value() == (bounds.size() > 1), "an interval is a string with a colon");
   if (!interval)
     return;
   check(interval->min == readInteger(bounds[0]), "the part before the colon is the lower bound");
-  check(interval->max == readInteger(bounds[1]), "the part behind it is the upper bound");
+  check(interval->max == readInteger(bounds[1]), "the part after it is the upper bound");
 }
 
 void checkClamp(const ValueRange &range, std::int32_t value) {
@@ -53,7 +53,7 @@ void checkClamp(const ValueRange &range, std::int32_t value) {
     check(range.contains(clamped), "a clamped value is within the range");
   else
     check(clamped == (value > range.max ? range.max : range.min) && !range.contains(value),
-          "an inverted range contains nothing, and its maximum is tested first");
+          "an inverted range contains nothing, and the maximum is tested first");
   check(!range.contains(value) || clamped == value, "an allowed value stays");
 }
 
@@ -71,6 +71,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   checkSame(composeRangeText(text, maxMark, minMark, range),
             replaced(replaced(text, maxMark, std::to_string(range.max)), minMark,
                      std::to_string(range.min)),
-            "the maximum is put in first, then the minimum");
+            "the maximum is inserted first, then the minimum");
   return 0;
 }

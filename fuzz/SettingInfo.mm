@@ -1,5 +1,5 @@
-// Setting definitions: any property list in the bundle makes the settings that it describes, or no
-// controller and a line in the log.
+// Setting definitions: any property list in the bundle creates the settings that it describes, or
+// no controller and a line in the log.
 #include "Check.hpp"
 #import "Fields.h"
 #import "LiteralRules.h"
@@ -46,7 +46,7 @@ std::int32_t numberOf(id value) {
   return static_cast<std::int32_t>(std::min(2147483647.0, std::max(-2147483648.0, number)));
 }
 
-/// What a list of definitions should become.
+/// The expected result for a list of definitions.
 struct Outcome {
   bool isUsable = true;
   bool repeatsName = false;
@@ -82,7 +82,8 @@ void checkSettings(MorvaADPSettingsCollectorRV2 *controller, const Outcome &outc
   for (const char *name : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"}) {
     id setting = field<id>(controller, (std::string(name) + "Settings").c_str());
     const auto expected = outcome.settings.find(name);
-    check((setting != nil) == (expected != outcome.settings.end()), "the settings of the list");
+    check((setting != nil) == (expected != outcome.settings.end()),
+          "the controller has the settings of the list");
     if (setting == nil)
       continue;
     check(field<std::int32_t>(setting, "Min") == expected->second.min, "the lower bound");
@@ -105,7 +106,7 @@ void play(id list) {
   const LogCapture log;
   const Outcome outcome = outcomeOf(list);
   if (outcome.repeatsName)
-    return; // the earlier setting of that name is left alive, on purpose
+    return; // the controller leaks the earlier setting of that name, on purpose
   TestBundle bundle;
   bundle.writePropertyList("SettingInfo", list);
   bundle.writePropertyList("ConstraintInfo", [NSDictionary dictionary]);
@@ -114,12 +115,13 @@ void play(id list) {
   RecordingHost *host = [RecordingHost hostWithPpd:kPpd settings:settings.handle()];
   MorvaADPSettingsCollectorRV2 *controller =
       [[MorvaADPSettingsCollectorRV2 alloc] initWithCallback:host Bundle:bundle.bundle()];
-  check((controller != nil) == outcome.isUsable, "usable definitions make a controller");
+  check((controller != nil) == outcome.isUsable,
+        "a controller is created if the definitions are usable");
   if (controller != nil) {
     checkSettings(controller, outcome);
     use(controller);
   } else if ([list isKindOfClass:[NSDictionary class]]) {
-    check(log.lines().size() == 1, "one line says why there is no panel");
+    check(log.lines().size() == 1, "one log line says why there is no panel");
   }
   [controller release];
 }
@@ -134,6 +136,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     Choices choices(data, size);
     play(imageposition::fuzz::drawPropertyList(choices, kVocabulary));
   }
-  check(LiveObjects::count("MorvaADPIntegerSettingRV2") == before, "no setting is left");
+  check(LiveObjects::count("MorvaADPIntegerSettingRV2") == before, "no setting is leaked");
   return 0;
 }

@@ -1,4 +1,4 @@
-// Texts with marks: values come in on one line, and no mark in them is looked at.
+// Strings with placeholders: values are inserted on one line, and placeholders in them are ignored.
 #include "Text.hpp"
 #include "VisibleText.hpp"
 
@@ -36,9 +36,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   for (std::string &value : values)
     value = input.ConsumeRandomLengthString(16);
   const std::string pattern = input.ConsumeRemainingBytesAsString();
-  checkSame(fill(pattern, values), expectedText(pattern, values), "each mark is its value");
-  checkSame(fill(pattern, {}), pattern, "without values a text stays as it is");
+  checkSame(fill(pattern, values), expectedText(pattern, values),
+            "each placeholder becomes its value");
+  checkSame(fill(pattern, {}), pattern, "without values a string stays unchanged");
   const auto reason = imageposition::systemReason(static_cast<int>(size));
-  check(!reason.empty(), "the system has words for every error");
+  check(!reason.empty(), "every system error has a message");
   return 0;
 }

@@ -1,4 +1,4 @@
-// Tickets: whatever is read can be written and read again, and is then the same.
+// Tickets: every ticket that can be read stays the same after writing and reading it back.
 #include "Ticket.hpp"
 
 #include "Check.hpp"
@@ -14,7 +14,7 @@ using imageposition::fuzz::checkSame;
 namespace {
 
 void checkSameSettings(const PrintSettingsStore &actual, const PrintSettingsStore &expected) {
-  check(actual.optionCount() == expected.optionCount(), "as many settings");
+  check(actual.optionCount() == expected.optionCount(), "the same number of settings");
   for (int i = 0; i < expected.optionCount(); ++i) {
     const cups_option_t &option = expected.options()[i];
     checkSame(actual.options()[i].name, option.name, "the same name");
@@ -22,7 +22,7 @@ void checkSameSettings(const PrintSettingsStore &actual, const PrintSettingsStor
     check(actual.isLocked(option.name) == expected.isLocked(option.name), "locked as before");
     check(PrintSettingsStore::isUsableName(option.name) &&
               PrintSettingsStore::isUsableValue(option.value),
-          "CUPS can be sent what was read");
+          "the entries that were read can be sent to CUPS");
   }
 }
 
@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     ticket = readTicketText(text, "a ticket");
   } catch (const imageposition::Failure &failure) {
     check(failure.code() == imageposition::ExitCode::Ticket && *failure.what() != '\0',
-          "what is wrong with a ticket is said");
+          "a bad ticket gets an error message");
     return 0;
   }
   const std::string written = writeTicketText(ticket);

@@ -1,4 +1,4 @@
-/// What the plug-in asks of the print dialog.
+/// What the plug-in requires of the print dialog.
 #ifndef IMAGEPOSITION_CONTROLLER_MORVAADPPDECALLBACKRV2_H
 #define IMAGEPOSITION_CONTROLLER_MORVAADPPDECALLBACKRV2_H
 
@@ -8,9 +8,9 @@
 #include <cups/ppd.h>
 
 @protocol MorvaADPPdeCallbackRV2 <NSObject>
-/// The description of the chosen printer, or null; the dialog's.
+/// The PPD of the chosen printer, or null. The dialog owns it.
 - (ppd_file_t *)ppdFile;
-/// The job's print settings, or null; the dialog's, and never kept.
+/// The job's print settings, or null. The dialog owns them; the plug-in does not keep them.
 - (PMPrintSettings)printSettings;
 @end
 

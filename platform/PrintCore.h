@@ -1,4 +1,4 @@
-/// What a print dialog needs of this: the handle through which plug-ins see its settings.
+/// The handle through which a print dialog gives plug-ins access to its settings.
 #ifndef IMAGEPOSITION_PLATFORM_PRINTCORE_H
 #define IMAGEPOSITION_PLATFORM_PRINTCORE_H
 
@@ -8,9 +8,9 @@
 
 namespace imageposition {
 
-/// A handle for `PMPrintSettingsGetValue` and `PMPrintSettingsSetValue` over a store that outlives
-/// it. Values that plug-ins have read stay valid while their entry is unchanged and the handle
-/// lives. A store may have one handle at a time.
+/// A handle for `PMPrintSettingsGetValue` and `PMPrintSettingsSetValue` to a store, which must
+/// outlive it. A value that a plug-in has read stays valid until its entry changes or the handle is
+/// destroyed. A store may have one handle at a time.
 class __attribute__((visibility("default"))) PrintSettingsHandle {
 public:
   explicit PrintSettingsHandle(PrintSettingsStore &store);

@@ -13,17 +13,17 @@ struct OpaquePMPrintSettings {
   OpaquePMPrintSettings &operator=(const OpaquePMPrintSettings &) = delete;
 
   PrintSettingsStore &store;
-  /// Readers own nothing, so that what they were given is kept here, under the name in lower case.
+  /// Callers do not own the values they read, so they are kept here, under the name in lower case.
   NSMutableDictionary *readValues;
 };
 
 namespace {
 
-/// The range of macOS's own parameter errors; callers look at zero or not only.
+/// In the range of macOS's parameter errors; callers only distinguish zero from the rest.
 enum : OSStatus { kSucceeded = 0, kBadArgument = -50, kNoSuchEntry = -9999, kEntryLocked = -54 };
 
-/// None for an object that has no text.
-std::optional<std::string> textOfValue(id value) {
+/// Returns nothing for an object that is neither a number nor a string.
+std::optional<std::string> stringFromValue(id value) {
   if ([value isKindOfClass:[NSNumber class]])
     return imageposition::toText([value stringValue]);
   return imageposition::toOptionalText(value);
@@ -42,15 +42,15 @@ OSStatus statusOf(PrintSettingsStore::Outcome outcome) {
   return kBadArgument;
 }
 
-/// The object that stands for an entry's text: the one given out before, while it still says the
-/// same. The store may have been changed through its C++ side in between.
-NSString *objectForText(OpaquePMPrintSettings &settings, NSString *key, const char *text) {
+/// Returns the object for an entry's value: the one returned before, unless the value has changed
+/// since, perhaps through the store's C++ interface.
+NSString *objectForValue(OpaquePMPrintSettings &settings, NSString *key, const char *value) {
   NSString *const name = [key lowercaseString];
-  NSString *const current = imageposition::toString(text);
+  NSString *const current = imageposition::toString(value);
   NSString *const known = [settings.readValues objectForKey:name];
   if (known != nil && [known isEqualToString:current])
     return known;
-  // A reader that still holds the former object may use it until the current event is handled.
+  // A caller that still holds the former object may use it until the current event is handled.
   [[known retain] autorelease];
   [settings.readValues setObject:current forKey:name];
   return current;
@@ -63,10 +63,10 @@ PMPrintSettingsGetValue(PMPrintSettings settings, CFStringRef key, CFTypeRef *va
   if (settings == nullptr || key == nullptr || value == nullptr)
     return kBadArgument;
   NSString *const name = (NSString *)key;
-  const char *const text = settings->store.get(imageposition::toText(name));
-  if (text == nullptr)
+  const char *const stored = settings->store.get(imageposition::toText(name));
+  if (stored == nullptr)
     return kNoSuchEntry;
-  *value = (CFTypeRef)objectForText(*settings, name, text);
+  *value = (CFTypeRef)objectForValue(*settings, name, stored);
   return kSucceeded;
 }
 
@@ -76,10 +76,11 @@ __attribute__((visibility("default"))) OSStatus PMPrintSettingsSetValue(PMPrintS
                                                                         Boolean locked) {
   if (settings == nullptr || key == nullptr || value == nullptr)
     return kBadArgument;
-  const auto text = textOfValue((id)value);
-  if (!text)
+  const auto string = stringFromValue((id)value);
+  if (!string)
     return kBadArgument;
-  return statusOf(settings->store.set(imageposition::toText((NSString *)key), *text, locked != 0));
+  return statusOf(
+      settings->store.set(imageposition::toText((NSString *)key), *string, locked != 0));
 }
 
 namespace imageposition {

@@ -10,14 +10,14 @@ namespace imageposition {
 
 namespace {
 
-/// CUPS drops the one of these two when the other is added.
+/// Adding one of these makes CUPS remove the other.
 constexpr std::string_view kQualityNames[] = {"cupsPrintQuality", "print-quality"};
 
 bool isSameName(std::string_view left, std::string_view right) noexcept {
   return left.size() == right.size() && strncasecmp(left.data(), right.data(), left.size()) == 0;
 }
 
-/// The name whose entry CUPS removes when `name` is added; empty for most.
+/// The name whose entry CUPS removes when `name` is added; empty if there is none.
 std::string_view displacedName(std::string_view name) noexcept {
   if (isSameName(name, kQualityNames[0]))
     return kQualityNames[1];
@@ -35,20 +35,20 @@ bool PrintSettingsStore::IgnoringCase::operator()(const std::string &left,
 
 PrintSettingsStore::PrintSettingsStore(const PrintSettingsStore &other) { copyFrom(other); }
 
-// cppcheck-suppress operatorEqVarError ; an observer stays with its object
+// cppcheck-suppress operatorEqVarError ; the observer is not copied
 PrintSettingsStore &PrintSettingsStore::operator=(const PrintSettingsStore &other) {
   if (this != &other) {
     clear();
     copyFrom(other);
-    tell();
+    notifyObserver();
   }
   return *this;
 }
 
 PrintSettingsStore::~PrintSettingsStore() { clear(); }
 
-// CUPS keeps every string in one sorted table and closes the gap that each leaves: from the last to
-// the first, there is little behind it to move.
+// CUPS keeps all strings in one sorted table and moves the later ones down for each string that it
+// frees. Freeing from the last to the first leaves little to move.
 void PrintSettingsStore::clear() {
   std::reverse(options_, options_ + count_);
   cupsFreeOptions(count_, options_);
@@ -62,9 +62,8 @@ void PrintSettingsStore::copyFrom(const PrintSettingsStore &other) {
   locked_ = other.locked_;
 }
 
-// CUPS leaves the memory of a list without entries to whoever thinks of it, and takes new memory
-// for the next entry.
-void PrintSettingsStore::take(const std::string &name) {
+// cupsRemoveOption never frees an emptied list, and cupsAddOption allocates a new one.
+void PrintSettingsStore::removeEntry(const std::string &name) {
   count_ = cupsRemoveOption(name.c_str(), count_, &options_);
   if (count_ > 0)
     return;
@@ -72,7 +71,7 @@ void PrintSettingsStore::take(const std::string &name) {
   options_ = nullptr;
 }
 
-void PrintSettingsStore::tell() const {
+void PrintSettingsStore::notifyObserver() const {
   if (observer_ != nullptr)
     observer_->settingsChanged();
 }
@@ -85,14 +84,14 @@ PrintSettingsStore::Outcome PrintSettingsStore::set(std::string_view name, std::
     return Outcome::BadValue;
   if (isLocked(name) || isLocked(displacedName(name)))
     return Outcome::Locked;
-  const std::string nameText(name);
+  const std::string key(name);
   const std::string_view displaced = displacedName(name);
-  if (!displaced.empty()) // CUPS looks through the whole list
-    take(std::string(displaced));
-  count_ = cupsAddOption(nameText.c_str(), std::string(value).c_str(), count_, &options_);
+  if (!displaced.empty()) // removing searches the whole list
+    removeEntry(std::string(displaced));
+  count_ = cupsAddOption(key.c_str(), std::string(value).c_str(), count_, &options_);
   if (locked)
-    locked_.insert(nameText);
-  tell();
+    locked_.insert(key);
+  notifyObserver();
   return Outcome::Stored;
 }
 
@@ -105,8 +104,8 @@ const char *PrintSettingsStore::get(std::string_view name) const {
 bool PrintSettingsStore::remove(std::string_view name) {
   if (isLocked(name) || get(name) == nullptr)
     return false;
-  take(std::string(name));
-  tell();
+  removeEntry(std::string(name));
+  notifyObserver();
   return true;
 }
 

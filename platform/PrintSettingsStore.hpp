@@ -1,4 +1,4 @@
-/// The settings of a print job, as CUPS keeps them.
+/// The settings of a print job, in CUPS's format.
 #ifndef IMAGEPOSITION_PLATFORM_PRINTSETTINGSSTORE_HPP
 #define IMAGEPOSITION_PLATFORM_PRINTSETTINGSSTORE_HPP
 
@@ -10,13 +10,13 @@
 
 namespace imageposition {
 
-/// Text values under names, held in CUPS's own option list, so that they go to CUPS as they are.
+/// Named strings in a CUPS option list, which CUPS takes as it is.
 ///
-/// Names match without regard to the case of ASCII letters, as they do everywhere in CUPS. The list
+/// Names are compared without regard to the case of ASCII letters, as everywhere in CUPS. The list
 /// is sorted by name. One thread only.
 class __attribute__((visibility("default"))) PrintSettingsStore {
 public:
-  /// IPP's limits: an attribute with a longer name or value cannot be sent.
+  /// IPP's limits, in bytes: an attribute with a longer name or value cannot be sent.
   static constexpr std::size_t kLongestName = 255;
   static constexpr std::size_t kLongestValue = 32767 - 8;
 
@@ -24,23 +24,24 @@ public:
 
   PrintSettingsStore() = default;
   PrintSettingsStore(const PrintSettingsStore &other);
-  /// Takes over entries and locks, whatever was locked here.
+  /// Copies entries and locks, and overwrites locked entries too.
   PrintSettingsStore &operator=(const PrintSettingsStore &other);
   ~PrintSettingsStore();
 
-  /// Anything but `Stored` leaves the store as it was. `locked` keeps later calls from changing or
-  /// removing the entry; a locked entry does not open again.
+  /// Changes nothing unless it returns `Stored`. `locked` keeps later calls from changing or
+  /// removing the entry; there is no way to unlock it.
   Outcome set(std::string_view name, std::string_view value, bool locked = false);
 
-  /// Null when there is no such entry; else valid until the entry changes or the store goes.
+  /// Null if there is no such entry; otherwise valid until the entry changes or the store is
+  /// destroyed.
   const char *get(std::string_view name) const;
 
-  /// False when there is no such entry, or it is locked.
+  /// False if there is no such entry, or it is locked.
   bool remove(std::string_view name);
 
   bool isLocked(std::string_view name) const;
 
-  /// Is told after each change of an entry, by whomever; must not change entries itself.
+  /// Called after every change, whoever made it; must not change entries itself.
   class Observer {
   public:
     virtual void settingsChanged() = 0;
@@ -49,18 +50,19 @@ public:
     ~Observer() = default;
   };
 
-  /// Borrowed, and with this object only: it is not copied with the entries. Null for none.
+  /// The observer is borrowed and not copied with the entries. Null removes it.
   void setObserver(Observer *observer) noexcept { observer_ = observer; }
 
-  /// For CUPS; the store's, and valid until the next change.
+  /// For calls of CUPS. The store owns the options; the pointer is valid until the next change.
   const cups_option_t *options() const noexcept { return options_; }
   int optionCount() const noexcept { return count_; }
 
-  /// Printable ASCII without what CUPS's text form of options gives a meaning ("=", quotes, braces,
-  /// backslash, comma) or a shell does, since the text form has no quotes for a name; not empty,
-  /// not too long. The names of IPP's attributes and of printer descriptions' options are usable.
+  /// Whether the name is printable ASCII, not empty, not too long, and without characters that have
+  /// a meaning in CUPS's option strings ("=", quotes, braces, backslash, comma) or in a shell: an
+  /// option string cannot quote a name. The names of IPP attributes and of PPD options are usable.
   static bool isUsableName(std::string_view name) noexcept;
-  /// Well-formed UTF-8 without NUL, at which CUPS would cut it, and not too long. Empty is usable.
+  /// Whether the value is well-formed UTF-8 without NUL, where CUPS would cut it, and not too long.
+  /// An empty value is usable.
   static bool isUsableValue(std::string_view value) noexcept;
 
 private:
@@ -70,8 +72,8 @@ private:
 
   void clear();
   void copyFrom(const PrintSettingsStore &other);
-  void take(const std::string &name);
-  void tell() const;
+  void removeEntry(const std::string &name);
+  void notifyObserver() const;
 
   cups_option_t *options_ = nullptr; // freed with cupsFreeOptions
   int count_ = 0;

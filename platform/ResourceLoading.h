@@ -1,5 +1,5 @@
-/// The platform's loaders of resources, which raise on some malformed files, made safe: a raise
-/// counts as a failure to load.
+/// Safe loaders of resources: Foundation and AppKit raise on some malformed files, which counts as
+/// a failure here.
 #ifndef IMAGEPOSITION_PLATFORM_RESOURCELOADING_H
 #define IMAGEPOSITION_PLATFORM_RESOURCELOADING_H
 
@@ -7,16 +7,16 @@
 
 namespace imageposition {
 
-/// The property list at that path when it is a dictionary, otherwise null (for a null path too).
-/// Not owned by the caller.
+/// The property list at that path if it is a dictionary; null otherwise, and for a null path.
+/// Autoreleased.
 NSDictionary *dictionaryAtPath(NSString *path);
 
 /// Loads the interface file from the bundle of the owner's class and connects it to the owner.
-/// False when it is missing or malformed, and then some outlets may be connected all the same.
-/// The file's top-level objects are the caller's to release.
+/// Returns false if it is missing or malformed; some outlets may be connected even then.
+/// The caller releases the file's top-level objects.
 bool loadInterfaceFile(NSString *name, id owner);
 
-/// Takes `target` away from the actions of all controls in the view, because it is about to go.
+/// Removes `target`, which is about to be deallocated, as the target of all controls in the view.
 void disconnectActions(NSView *view, id target);
 
 } // namespace imageposition

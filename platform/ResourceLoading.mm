@@ -5,8 +5,8 @@ namespace imageposition {
 NSDictionary *dictionaryAtPath(NSString *path) {
   if (path == nil)
     return nil;
-  // What is raised cannot be looked at here: this runtime's C++ front end hands over no usable
-  // object.
+  // The exception itself cannot be inspected: g++ passes no usable object to an Objective-C++
+  // handler on this runtime.
   @try {
     return [[[NSDictionary alloc] initWithContentsOfFile:path] autorelease];
   } @catch (id) {

@@ -1,4 +1,4 @@
-/// Between the platform's strings and C++ text. Nobody converts by hand.
+/// Conversion between NSString and C++ strings. All code converts through these functions.
 #ifndef IMAGEPOSITION_PLATFORM_TEXTBRIDGE_H
 #define IMAGEPOSITION_PLATFORM_TEXTBRIDGE_H
 
@@ -10,19 +10,19 @@
 
 namespace imageposition {
 
-/// UTF-8, a lone surrogate as U+FFFD; empty for null.
+/// The string in UTF-8, with U+FFFD for a lone surrogate; empty for null.
 std::string toText(NSString *string);
 
 /// False for null.
 bool isString(id object);
 
-/// None for null and for every object that is not a string.
+/// Returns nothing for null and for an object that is not a string.
 std::optional<std::string> toOptionalText(id object);
 
-/// The string's units as they are; empty for null.
+/// The string's UTF-16 units, unchecked; empty for null.
 std::u16string toUtf16(NSString *string);
 
-/// A string that the caller does not own. Malformed UTF-8 is read with U+FFFD in its place.
+/// An autoreleased string, with U+FFFD in place of malformed UTF-8.
 NSString *toString(std::string_view utf8);
 
 } // namespace imageposition

@@ -6,7 +6,7 @@ namespace imageposition {
 
 static_assert(sizeof(unichar) == sizeof(char16_t), "a unichar is a UTF-16 unit");
 
-// UTF8String is no way out: it fails on a lone surrogate.
+// Not through UTF8String, which fails on a lone surrogate.
 std::u16string toUtf16(NSString *string) {
   std::u16string units([string length], u'\0');
   if (!units.empty())
@@ -17,7 +17,7 @@ std::u16string toUtf16(NSString *string) {
 
 std::string toText(NSString *string) { return utf8FromUtf16(toUtf16(string)); }
 
-// The class is looked up once: this runtime searches for it by name each time that it is messaged.
+// Cached, because the runtime looks a class up by name for every message to it.
 bool isString(id object) {
   static const Class kString = [NSString class];
   return [object isKindOfClass:kString];

@@ -46,7 +46,8 @@ struct Sequence {
   std::size_t length;
 };
 
-// One character of UTF-8, or the replacement for a single byte. The shortest form is required.
+// Decodes one character of UTF-8; a byte that does not begin a well-formed one becomes the
+// replacement. Overlong forms are malformed.
 Sequence decodeAt(std::string_view text, std::size_t at) {
   const auto byte = [&](std::size_t index) { return static_cast<std::uint8_t>(text[index]); };
   const std::uint8_t first = byte(at);
@@ -88,7 +89,7 @@ std::string utf8FromUtf16(std::u16string_view text) {
 bool isWellFormedUtf8(std::string_view text) {
   for (std::size_t at = 0; at < text.size();) {
     const Sequence next = decodeAt(text, at);
-    if (next.code == kReplacement && next.length == 1) // U+FFFD itself has three bytes
+    if (next.code == kReplacement && next.length == 1) // a U+FFFD in the text has three bytes
       return false;
     at += next.length;
   }

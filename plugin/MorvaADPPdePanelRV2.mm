@@ -5,15 +5,15 @@
 
 namespace {
 
-// An equal text that stays to the end of the process. A bundle need not keep what it gives: a text
-// that it lacks, or that the platform marks as not translated, may be a temporary one.
-NSString *lasting(NSString *text) {
-  static NSMutableSet *const kTexts = [[NSMutableSet alloc] init];
-  if (text == nil)
+// Returns an equal string that is never deallocated. A bundle need not keep the strings it returns:
+// one that it lacks, or that Foundation marks as not translated, may be temporary.
+NSString *permanentCopy(NSString *string) {
+  static NSMutableSet *const kStrings = [[NSMutableSet alloc] init];
+  if (string == nil)
     return nil;
-  if ([kTexts member:text] == nil)
-    [kTexts addObject:[[text copy] autorelease]];
-  return [kTexts member:text];
+  if ([kStrings member:string] == nil)
+    [kStrings addObject:[[string copy] autorelease]];
+  return [kStrings member:string];
 }
 
 } // namespace
@@ -56,7 +56,7 @@ NSString *lasting(NSString *text) {
 
 - (NSString *)panelName {
   if (PDEName == nil)
-    PDEName = lasting([PDEBundle localizedStringForKey:kTextPluginName value:nil table:nil]);
+    PDEName = permanentCopy([PDEBundle localizedStringForKey:kTextPluginName value:nil table:nil]);
   return PDEName;
 }
 

@@ -7,25 +7,24 @@
 
 #include <cups/ppd.h>
 
-/// The PPD attribute that says whether a printer can shift the image, and the one value that says
-/// yes.
+/// The PPD attribute that says whether a printer can shift the image, and its value for yes.
 extern NSString *const IPA_PPD_AdjustDuplexPositionSupport;
 extern NSString *const IPAPPDAdjustDuplexPositionSupportTrue;
 
-/// Offers one panel, to print dialogs, for printers that support it.
+/// Provides print dialogs with one panel for printers that support it.
 @interface MorvaADPPdePluginRV2 : NSObject {
   NSBundle *Bundle; ///< Retained.
 }
 
-/// Always true, a boolean and not the object, as the dialog expects; also for a null bundle, with
-/// which every later panel fails.
+/// Returns a boolean, not the object, as the dialog expects: always true, even for a null bundle,
+/// with which no panel can be built later.
 - (BOOL)initWithBundle:(NSBundle *)bundle;
 
-/// A new panel in an array for each call; an empty array for other dialogs and printers without
-/// support; null when the panel could not be built.
+/// Returns an array with a new panel; an empty array for other dialogs and for printers without
+/// support; null if the panel cannot be built.
 - (NSArray *)PDEPanelsForType:(NSString *)type withHostInfo:(id)hostInfo;
 
-/// Whether the description says exactly "true". Null is not supported.
+/// Whether the PPD's attribute is exactly "true"; false for null.
 - (BOOL)isSupportAdjustImagePosition:(ppd_file_t *)ppd;
 
 @end

@@ -8,7 +8,7 @@
 NSString *const IPA_PPD_AdjustDuplexPositionSupport = @IPA_ATTRIBUTE_SUPPORT;
 NSString *const IPAPPDAdjustDuplexPositionSupportTrue = @"true";
 
-// The type of dialog that asks for the panels of print dialogs.
+// The type that print dialogs pass.
 static NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 @implementation MorvaADPPdePluginRV2
@@ -31,7 +31,7 @@ static NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277
     return panels;
   MorvaADPPdePanelRV2 *panel = [[MorvaADPPdePanelRV2 alloc] initWithCallback:hostInfo
                                                                       Bundle:Bundle];
-  // Null and not an empty array: a panel that failed is not the same as no panel for this printer.
+  // An empty array would mean that there is no panel for this printer.
   if (panel == nil)
     return nil;
   [panels addObject:panel];

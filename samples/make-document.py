@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes two-sided.pdf, the sample document: a front and a back page with crosses to compare.
 
-Held against the light, the crosses of the two sides lie over each other on a printer that is in
-register; the ticks, one millimetre apart, tell by how much they don't.
+Held against the light, the crosses of both sides coincide if the printer is in register. The ticks,
+one millimetre apart, show by how much they do not.
 """
 
 import sys

@@ -7,29 +7,29 @@
 namespace imageposition {
 namespace {
 
-// An absent interval is 0 to 0; one without ":" is none.
-std::optional<ValueRange> readRuleInterval(const std::optional<std::string> &text) {
-  return text ? readInterval(*text) : ValueRange{};
+// An absent interval means 0 to 0; one without ":" is malformed.
+std::optional<ValueRange> readRuleInterval(const std::optional<std::string> &string) {
+  return string ? readInterval(*string) : ValueRange{};
 }
 
 } // namespace
 
-Condition Condition::fromTexts(const RuleTexts &texts) {
+Condition Condition::fromStrings(const RuleStrings &rule) {
   Condition condition;
-  condition.expected_ = texts.conditionValue;
-  if (texts.conditionType == "PPD" && texts.conditionPattern && texts.conditionValue) {
+  condition.expected_ = rule.conditionValue;
+  if (rule.conditionType == "PPD" && rule.conditionPattern && rule.conditionValue) {
     condition.subject_ = Subject::Attribute;
-    condition.keyword_ = *texts.conditionPattern;
-  } else if (texts.conditionType == "Setting") {
+    condition.keyword_ = *rule.conditionPattern;
+  } else if (rule.conditionType == "Setting") {
     condition.subject_ = Subject::Setting;
-    if (texts.conditionPattern == "Value") {
+    if (rule.conditionPattern == "Value") {
       condition.pattern_ = Pattern::Value;
-      const std::int32_t number = readInteger(texts.conditionValue.value_or(""));
-      if (writeInteger(number) == texts.conditionValue)
+      const std::int32_t number = readInteger(rule.conditionValue.value_or(""));
+      if (writeInteger(number) == rule.conditionValue)
         condition.expectedNumber_ = number;
-    } else if (texts.conditionPattern == "Range") {
+    } else if (rule.conditionPattern == "Range") {
       condition.pattern_ = Pattern::Range;
-      condition.interval_ = readRuleInterval(texts.conditionValue);
+      condition.interval_ = readRuleInterval(rule.conditionValue);
     }
   }
   return condition;
@@ -39,10 +39,10 @@ bool Condition::isSatisfiedByAttribute(const char *value) const {
   return value != nullptr && expected_ && std::strcmp(expected_->c_str(), value) == 0;
 }
 
-bool Condition::isSatisfiedBy(const std::optional<std::string> &text) const {
+bool Condition::isSatisfiedBy(const std::optional<std::string> &value) const {
   if (pattern_ == Pattern::Value)
-    return text && text == expected_;
-  return interval_ && interval_->contains(readInteger(text.value_or("")));
+    return value && value == expected_;
+  return interval_ && interval_->contains(readInteger(value.value_or("")));
 }
 
 bool Condition::isSatisfiedBy(std::int32_t value) const {
@@ -51,21 +51,21 @@ bool Condition::isSatisfiedBy(std::int32_t value) const {
   return interval_ && interval_->contains(value);
 }
 
-Action Action::fromTexts(const RuleTexts &texts) {
+Action Action::fromStrings(const RuleStrings &rule) {
   Action action;
-  const std::optional<std::string> &value = texts.actionValue;
-  if (texts.actionPattern == "Value" && value) {
+  const std::optional<std::string> &value = rule.actionValue;
+  if (rule.actionPattern == "Value" && value) {
     action.kind = Kind::SetValue;
-    action.text = *value;
-  } else if (texts.actionPattern == "View" && (value == "ON" || value == "OFF")) {
+    action.value = *value;
+  } else if (rule.actionPattern == "View" && (value == "ON" || value == "OFF")) {
     action.kind = Kind::SetAvailable;
     action.available = value == "ON";
-  } else if (texts.actionPattern == "Range") {
+  } else if (rule.actionPattern == "Range") {
     if (const std::optional<ValueRange> interval = readRuleInterval(value)) {
       action.kind = Kind::SetRange;
       action.range = *interval;
     }
-  } else if (texts.actionPattern == "Default" && value) {
+  } else if (rule.actionPattern == "Default" && value) {
     action.kind = Kind::SetDefault;
     action.number = readInteger(*value);
   }

@@ -26,7 +26,8 @@ std::int32_t readInteger(std::u16string_view text) noexcept {
   bool negative = false;
   if (at < text.size() && (text[at] == u'-' || text[at] == u'+'))
     negative = text[at++] == u'-';
-  // One more than the largest positive number fits, for the smallest negative one.
+  // The magnitude of the smallest negative number is one more than that of the largest positive
+  // one.
   const std::int64_t largest = std::int64_t{Limits::max()} + (negative ? 1 : 0);
   std::int64_t magnitude = 0;
   for (; at < text.size() && isDigit(text[at]); ++at) {

@@ -1,4 +1,4 @@
-/// What view items conform to.
+/// Which protocols view items conform to.
 #ifndef IMAGEPOSITION_SETTINGS_ITEMCONFORMANCE_H
 #define IMAGEPOSITION_SETTINGS_ITEMCONFORMANCE_H
 
@@ -6,9 +6,9 @@
 
 namespace imageposition {
 
-/// Returns what the item's own `conformsToProtocol:` does, and can be replaced by it everywhere: it
-/// only remembers the answers of classes. One action of the user asks some eighty times, which
-/// without it takes half as long again. Main thread only.
+/// Returns what `[item conformsToProtocol:protocol]` returns, but caches the result per class. One
+/// user action makes some eighty of these calls and takes half as long again without the cache.
+/// Nothing else depends on it: `conformsToProtocol:` can replace it everywhere. Main thread only.
 bool conforms(id item, Protocol *protocol);
 
 } // namespace imageposition

@@ -7,17 +7,17 @@
 namespace imageposition {
 
 bool conforms(id item, Protocol *protocol) {
-  static const SEL kAsk = @selector(conformsToProtocol:);
-  static const IMP kInherited = class_getMethodImplementation([NSObject class], kAsk);
-  static std::map<std::pair<Class, Protocol *>, bool> answers;
+  static const SEL kSelector = @selector(conformsToProtocol:);
+  static const IMP kInherited = class_getMethodImplementation([NSObject class], kSelector);
+  static std::map<std::pair<Class, Protocol *>, bool> cache;
   const Class type = object_getClass(item);
-  // A class that decides for itself may change its mind.
-  if (class_getMethodImplementation(type, kAsk) != kInherited)
+  // A class that overrides the method may return something else next time.
+  if (class_getMethodImplementation(type, kSelector) != kInherited)
     return [item conformsToProtocol:protocol];
-  const auto found = answers.find({type, protocol});
-  if (found != answers.end())
+  const auto found = cache.find({type, protocol});
+  if (found != cache.end())
     return found->second;
-  return answers[{type, protocol}] = [item conformsToProtocol:protocol];
+  return cache[{type, protocol}] = [item conformsToProtocol:protocol];
 }
 
 } // namespace imageposition

@@ -1,4 +1,4 @@
-/// The keys and names that the bundle's definitions, the print settings and the code share.
+/// The keys and names that the code shares with the bundle's definitions and the print settings.
 #ifndef IMAGEPOSITION_SETTINGS_KEYS_H
 #define IMAGEPOSITION_SETTINGS_KEYS_H
 
@@ -12,7 +12,7 @@ static NSString *const kSettingFrontTBM = @"FrontTBM";
 static NSString *const kSettingBackLRM = @"BackLRM";
 static NSString *const kSettingBackTBM = @"BackTBM";
 
-// A definition record of "SettingInfo".
+// The keys of a definition record in "SettingInfo".
 static NSString *const kRecordTicketKey = @"TicketKey";
 static NSString *const kRecordSettingName = @"SettingName";
 static NSString *const kRecordSummaryInfoName = @"SummaryInfoName";
@@ -20,7 +20,7 @@ static NSString *const kRecordRange = @"Range";
 static NSString *const kRecordRangeLabelWording = @"RangeLabelWording";
 static NSString *const kRecordDefaultValue = @"DefaultValue";
 
-// A rule of "ConstraintInfo".
+// The keys of a rule in "ConstraintInfo".
 static NSString *const kRuleConditionObj = @"ConditionObj";
 static NSString *const kRuleConditionType = @"ConditionType";
 static NSString *const kRuleConditionPattern = @"ConditionPattern";
@@ -29,12 +29,12 @@ static NSString *const kRuleActionObj = @"ActionObj";
 static NSString *const kRuleActionPattern = @"ActionPattern";
 static NSString *const kRuleActionValue = @"ActionValue";
 
-// Resources of the bundle.
+// The bundle's resources.
 static NSString *const kResourceSettingInfo = @"SettingInfo";
 static NSString *const kResourceConstraintInfo = @"ConstraintInfo";
 static NSString *const kResourceInterfaceFile = @"ImagePositionAdjustPrint";
 
-// Localization keys beside the settings' names.
+// Localization keys besides the settings' names.
 static NSString *const kTextPluginName = @"PluginName";
 static NSString *const kTextEnable = @"EnableImgPstAdj";
 static NSString *const kTextRestoreDefaults = @"RestoreDefaults";
@@ -46,7 +46,7 @@ static NSString *const kTicketEnable = @IPA_KEY_ENABLE;
 static NSString *const kTicketTrue = @IPA_VALUE_TRUE;
 static NSString *const kTicketFalse = @IPA_VALUE_FALSE;
 
-/// The print dialog's key for the order of the other entries of a summary.
+/// The key under which a summary lists its other keys in display order; the print dialog's.
 static NSString *const kSummaryDisplayOrder = @IPA_SUMMARY_ORDER;
 
 #endif

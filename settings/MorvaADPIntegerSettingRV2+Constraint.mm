@@ -18,8 +18,8 @@ bool isSatisfiedBy(const Condition &condition, id setting) {
   static const Class kPlain = [MorvaADPIntegerSettingRV2 class];
   if (!condition.readsValue())
     return false;
-  // A setting of just this class has the text of its value. Making that text and reading it would
-  // cost more than the rest of a rule.
+  // Formatting the value and parsing it again would cost more than the rest of a rule. A subclass
+  // may return another string.
   if (object_getClass(setting) == kPlain)
     return condition.isSatisfiedBy([setting getValue]);
   return condition.isSatisfiedBy(toOptionalText([setting getValueString]));
@@ -34,7 +34,7 @@ bool holds(const SettingRule &rule, ppd_file_t *ppd, NSArray *settings) {
   if (condition.subject() == Condition::Subject::Nothing)
     return false;
   bool isSatisfied = false;
-  // All settings are asked, also when the answer is known already: asking one may have effects.
+  // No early exit: the getters of a setting may have side effects.
   for (NSUInteger index = 0; index < [settings count]; ++index) {
     id setting = [settings objectAtIndex:index];
     if ([[setting getSettingName] isEqualToString:rule.conditionObj] &&
@@ -57,13 +57,13 @@ bool holds(const SettingRule &rule, ppd_file_t *ppd, NSArray *settings) {
     case Action::Kind::Nothing:
       break;
     case Action::Kind::SetValue:
-      [self setStringValue:toString(rule->action.text)];
+      [self setStringValue:toString(rule->action.value)];
       break;
     case Action::Kind::SetAvailable:
       [self setViewState:rule->action.available];
       break;
     case Action::Kind::SetRange:
-      // The value is clamped, and the label renewed, when the setting is next checked or shown.
+      // The next check or refresh clamps the value and updates the range label.
       Min = rule->action.range.min;
       Max = rule->action.range.max;
       break;

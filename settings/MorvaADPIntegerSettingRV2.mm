@@ -18,7 +18,7 @@ using imageposition::integerOf;
 using imageposition::integerString;
 using imageposition::readInterval;
 using imageposition::SettingRules;
-using imageposition::textEntry;
+using imageposition::stringEntry;
 using imageposition::toOptionalText;
 using imageposition::toString;
 using imageposition::toText;
@@ -31,18 +31,18 @@ void logMalformed(NSString *settingName, NSString *key) {
         settingName, key);
 }
 
-// None, and a line in the log, when it has no ":".
+// Logs and returns nothing when the range has no ":".
 std::optional<ValueRange> rangeOf(NSDictionary *record, NSString *settingName) {
-  const auto text = toOptionalText(textEntry(record, kRecordRange));
-  const auto range = text ? readInterval(*text) : ValueRange{};
+  const auto string = toOptionalText(stringEntry(record, kRecordRange));
+  const auto range = string ? readInterval(*string) : ValueRange{};
   if (!range)
     logMalformed(settingName, kRecordRange);
   return range;
 }
 
-// Null, and a line in the log, when there are fewer than three parts.
+// Logs and returns null when there are fewer than three parts.
 NSArray *rangeLabelWordingOf(NSDictionary *record, NSString *settingName) {
-  NSArray *parts = [textEntry(record, kRecordRangeLabelWording) componentsSeparatedByString:@":"];
+  NSArray *parts = [stringEntry(record, kRecordRangeLabelWording) componentsSeparatedByString:@":"];
   if ([parts count] >= 3)
     return parts;
   logMalformed(settingName, kRecordRangeLabelWording);
@@ -116,7 +116,7 @@ void show(int32_t value, NSArray *items) {
       if (tag == MorvaADPViewTagName)
         [item applyLocalizableStrings:SettingName BundleInfo:BundleInfo];
       else if (tag == MorvaADPViewTagRange)
-        // Composed anew each time, so that a range that a rule changed is shown.
+        // Composed on every call, because a rule may have changed the range.
         [item
             setRangeStrings:toString(composeRangeText(
                                 toText([BundleInfo localizedStringForKey:ValueRangeLabelLocalizeKey

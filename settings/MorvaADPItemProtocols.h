@@ -1,5 +1,5 @@
-/// The capabilities through which settings and the panel controller talk to view items. An item
-/// implements any subset; whoever calls one asks `conformsToProtocol:` first.
+/// The protocols through which settings and the panel controller use view items. An item implements
+/// any subset; callers check `conformsToProtocol:` first.
 #ifndef IMAGEPOSITION_SETTINGS_ITEMPROTOCOLS_H
 #define IMAGEPOSITION_SETTINGS_ITEMPROTOCOLS_H
 
@@ -9,30 +9,30 @@
 
 /// An item that can be made unusable.
 @protocol ViewAvailableInterface
-/// True: the item is usable. False: it is not, and looks it.
+/// Enables the item, or disables it and dims it.
 - (void)setViewAvailable:(BOOL)available;
 @end
 
-/// An item that shows a localized text. Its view tag says which: see `MorvaADPViewTag`.
+/// An item that shows a localized string. Its view tag says which: see `MorvaADPViewTag`.
 @protocol LocalizableInterface
-/// Shows the text that `bundle` has for `key`, or the key where it has none.
+/// Shows the bundle's string for `key`, or the key itself if the bundle has none.
 - (void)applyLocalizableStrings:(NSString *)key BundleInfo:(NSBundle *)bundle;
 @end
 
-/// An item on which a person acts.
+/// An item that the user operates.
 @protocol ActionInterface
 /// Called for each action, before the panel is refreshed.
 - (void)catchEventCall;
 @end
 
-/// The entry field of a setting. Such an item also answers `getInt` and the platform's
+/// The entry field of a setting. Such an item also implements `getInt` and AppKit's
 /// `setStringValue:`, which are what a setting calls.
 @protocol TextFieldInterface
 - (NSString *)getString;
 - (void)setString:(NSString *)string;
 @end
 
-/// An item that needs to know the range of the value.
+/// An item that needs the range of the value.
 @protocol IntegerInterface
 /// The first argument is the maximum.
 - (void)setRange:(int32_t)max Min:(int32_t)min;
@@ -40,19 +40,19 @@
 
 /// An item that counts steps.
 @protocol StepperInterface
-/// The steps taken since the previous call, downward ones negative.
+/// The steps since the previous call; downward steps count as negative.
 - (int32_t)getSteps;
 @end
 
-/// What entry fields and range labels answer beyond the protocols.
+/// Methods of entry fields and range labels that no protocol declares.
 @interface NSObject (MorvaADPItemOperations)
 /// An entry field's content as a number, within 32 bits.
 - (int32_t)getInt;
-/// Gives a range label its finished text.
+/// Sets the string that a range label shows.
 - (void)setRangeStrings:(NSString *)text;
 @end
 
-/// View tags of the two labels of a setting, as the interface file gives them.
+/// The view tags of a setting's two labels in the interface file.
 enum MorvaADPViewTag { MorvaADPViewTagName = 0, MorvaADPViewTagRange = 1 };
 
 #endif

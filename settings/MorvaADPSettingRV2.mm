@@ -6,7 +6,7 @@
 
 #import <AppKit/AppKit.h>
 
-using imageposition::textEntry;
+using imageposition::stringEntry;
 
 @implementation MorvaADPSettingRV2
 
@@ -25,9 +25,9 @@ using imageposition::textEntry;
   BundleInfo = [bundle retain];
   PPD = ppd;
   if (record != nil) {
-    TicketKey = textEntry(record, kRecordTicketKey);
-    SettingName = textEntry(record, kRecordSettingName);
-    SummaryName = textEntry(record, kRecordSummaryInfoName);
+    TicketKey = stringEntry(record, kRecordTicketKey);
+    SettingName = stringEntry(record, kRecordSettingName);
+    SummaryName = stringEntry(record, kRecordSummaryInfoName);
   } else {
     SettingName = @"UIItemCollector";
   }
@@ -60,7 +60,7 @@ using imageposition::textEntry;
 }
 
 - (void)setViewState:(BOOL)available {
-  // The count is read anew for each item: an item may change the list.
+  // Not a fast enumeration: an item may change the list.
   for (NSUInteger index = 0; index < [HandlingTarget count]; ++index) {
     id item = [HandlingTarget objectAtIndex:index];
     if ([item conformsToProtocol:@protocol(ViewAvailableInterface)])

@@ -1,4 +1,4 @@
-/// Values out of property lists and print settings, whatever type they turn out to have.
+/// Reads values of any type from property lists and print settings.
 #ifndef IMAGEPOSITION_SETTINGS_PROPERTYVALUES_H
 #define IMAGEPOSITION_SETTINGS_PROPERTYVALUES_H
 
@@ -8,14 +8,15 @@
 
 namespace imageposition {
 
-/// The entry, when `dictionary` is one and the entry is a text; null otherwise. Borrowed.
-NSString *textEntry(id dictionary, NSString *key);
+/// The dictionary's entry if it is a string; null otherwise, and if `dictionary` is not a
+/// dictionary. The dictionary owns the string.
+NSString *stringEntry(id dictionary, NSString *key);
 
-/// Text is read as an integer, a number is cut to one within 32 bits, anything else (null too) is
-/// 0.
+/// Reads a string as an integer; truncates and clamps a number to 32 bits; returns 0 for anything
+/// else, null included.
 int32_t integerOf(id value);
 
-/// The value as "%d" text; not owned by the caller.
+/// The value formatted with "%d"; autoreleased.
 NSString *integerString(int32_t value);
 
 } // namespace imageposition

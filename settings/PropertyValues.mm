@@ -9,7 +9,7 @@
 
 namespace imageposition {
 
-NSString *textEntry(id dictionary, NSString *key) {
+NSString *stringEntry(id dictionary, NSString *key) {
   if (![dictionary isKindOfClass:[NSDictionary class]])
     return nil;
   id value = [static_cast<NSDictionary *>(dictionary) objectForKey:key];
@@ -21,7 +21,7 @@ int32_t integerOf(id value) {
     return readInteger(toUtf16(value));
   if (![value isKindOfClass:[NSNumber class]])
     return 0;
-  // A double holds every 32-bit integer; the number's own conversion to int would wrap.
+  // A double holds every 32-bit integer; `intValue` would wrap.
   const double number = [static_cast<NSNumber *>(value) doubleValue];
   using Limits = std::numeric_limits<int32_t>;
   if (std::isnan(number))
@@ -31,7 +31,7 @@ int32_t integerOf(id value) {
 }
 
 NSString *integerString(int32_t value) {
-  // Digits and a minus are the same in UTF-16, unit for unit.
+  // Each ASCII character is one UTF-16 unit.
   const std::string text = writeInteger(value);
   const std::u16string units(text.begin(), text.end());
   return [NSString stringWithCharacters:reinterpret_cast<const unichar *>(units.data())

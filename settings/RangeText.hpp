@@ -1,4 +1,4 @@
-/// The text that tells a person which values a setting takes.
+/// The string that shows the user which values a setting takes.
 #ifndef IMAGEPOSITION_SETTINGS_RANGETEXT_HPP
 #define IMAGEPOSITION_SETTINGS_RANGETEXT_HPP
 
@@ -9,11 +9,11 @@
 
 namespace imageposition {
 
-/// Fills a localized template: every occurrence of `maxMark` becomes the maximum, then every
-/// occurrence of `minMark` in that text becomes the minimum. An empty mark replaces nothing.
-/// All text is UTF-8.
-std::string composeRangeText(std::string_view localizedTemplate, std::string_view maxMark,
-                             std::string_view minMark, const ValueRange &range);
+/// Fills in a localized template: replaces every `maxPlaceholder` by the maximum, then every
+/// `minPlaceholder` in the result by the minimum. An empty placeholder replaces nothing. All
+/// strings are UTF-8.
+std::string composeRangeText(std::string_view localizedTemplate, std::string_view maxPlaceholder,
+                             std::string_view minPlaceholder, const ValueRange &range);
 
 } // namespace imageposition
 

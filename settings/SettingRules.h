@@ -1,4 +1,4 @@
-/// A rule table as a setting keeps it: read once into typed rules.
+/// A setting's rule table, parsed once into typed rules.
 #ifndef IMAGEPOSITION_SETTINGS_SETTINGRULES_H
 #define IMAGEPOSITION_SETTINGS_SETTINGRULES_H
 
@@ -12,18 +12,18 @@
 
 namespace imageposition {
 
-/// A rule in typed form, for as long as its dictionary lives.
+/// A rule in typed form; valid while its dictionary lives.
 struct SettingRule {
   NSDictionary *dictionary;
-  NSString *conditionObj; ///< The dictionary's; null when it has no such string.
+  NSString *conditionObj; ///< Owned by the dictionary; null if it has no such string.
   Condition condition;
   Action action;
 };
 
-/// Entries that are not strings count as absent. A null rule is one that never holds.
+/// Entries that are not strings count as absent. A null rule never holds.
 SettingRule typedRule(NSDictionary *rule);
 
-/// Does not change after construction, whatever becomes of the table.
+/// Immutable: later changes of the table have no effect.
 class SettingRules {
 public:
   explicit SettingRules(NSDictionary *table);
@@ -31,15 +31,15 @@ public:
   SettingRules(const SettingRules &) = delete;
   SettingRules &operator=(const SettingRules &) = delete;
 
-  /// The rules that act on the setting of that name, in index order: of those under "0", "1", ...
-  /// while the index is below the table's number of entries. None for null.
+  /// The rules that act on the named setting, in index order. The table's rules are its entries
+  /// "0", "1", ... with an index below its number of entries. Empty for a null name.
   std::vector<const SettingRule *> actingOn(NSString *settingName) const;
 
-  /// Null for a dictionary that is not one of the table's.
+  /// Null if the dictionary is not in the table.
   const SettingRule *find(NSDictionary *dictionary) const;
 
 private:
-  NSDictionary *table_; // a copy, which keeps the rules' dictionaries
+  NSDictionary *table_; // a copy, which keeps the rules' dictionaries alive
   std::unordered_map<NSDictionary *, SettingRule> rules_;
   std::unordered_map<std::string, std::vector<const SettingRule *>> byActionObj_;
 };

@@ -7,20 +7,20 @@
 namespace imageposition {
 
 SettingRule typedRule(NSDictionary *rule) {
-  RuleTexts texts;
-  texts.conditionType = toOptionalText([rule objectForKey:kRuleConditionType]);
-  texts.conditionPattern = toOptionalText([rule objectForKey:kRuleConditionPattern]);
-  texts.conditionValue = toOptionalText([rule objectForKey:kRuleConditionValue]);
-  texts.actionPattern = toOptionalText([rule objectForKey:kRuleActionPattern]);
-  texts.actionValue = toOptionalText([rule objectForKey:kRuleActionValue]);
-  return {rule, textEntry(rule, kRuleConditionObj), Condition::fromTexts(texts),
-          Action::fromTexts(texts)};
+  RuleStrings strings;
+  strings.conditionType = toOptionalText([rule objectForKey:kRuleConditionType]);
+  strings.conditionPattern = toOptionalText([rule objectForKey:kRuleConditionPattern]);
+  strings.conditionValue = toOptionalText([rule objectForKey:kRuleConditionValue]);
+  strings.actionPattern = toOptionalText([rule objectForKey:kRuleActionPattern]);
+  strings.actionValue = toOptionalText([rule objectForKey:kRuleActionValue]);
+  return {rule, stringEntry(rule, kRuleConditionObj), Condition::fromStrings(strings),
+          Action::fromStrings(strings)};
 }
 
 SettingRules::SettingRules(NSDictionary *table) : table_([table copy]) {
   for (NSUInteger index = 0; index < [table_ count]; ++index) {
     NSDictionary *dictionary = [table_ objectForKey:integerString(static_cast<int32_t>(index))];
-    const auto actionObj = toOptionalText(textEntry(dictionary, kRuleActionObj));
+    const auto actionObj = toOptionalText(stringEntry(dictionary, kRuleActionObj));
     if (!actionObj)
       continue;
     const SettingRule &rule = rules_.try_emplace(dictionary, typedRule(dictionary)).first->second;

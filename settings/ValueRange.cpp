@@ -18,7 +18,7 @@ std::optional<ValueRange> readInterval(std::string_view text) {
   const std::size_t colon = text.find(':');
   if (colon == std::string_view::npos)
     return std::nullopt;
-  // Reading an integer stops at a second colon, so that further parts need no cutting off.
+  // readInteger stops at a second colon.
   return ValueRange{readInteger(text.substr(0, colon)), readInteger(text.substr(colon + 1))};
 }
 

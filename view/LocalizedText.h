@@ -1,4 +1,4 @@
-/// Localized texts as the view items show them.
+/// Localized strings for the view items.
 #ifndef IMAGEPOSITION_VIEW_LOCALIZEDTEXT_H
 #define IMAGEPOSITION_VIEW_LOCALIZEDTEXT_H
 
@@ -6,10 +6,11 @@
 
 namespace imageposition {
 
-/// The bundle's text for the key from its default table, or the key when it has none (or is null).
+/// The string for the key in the bundle's default table, or the key if there is none or `bundle` is
+/// null.
 inline NSString *localizedText(NSBundle *bundle, NSString *key) {
-  NSString *text = [bundle localizedStringForKey:key value:nil table:nil];
-  return text != nil ? text : key;
+  NSString *string = [bundle localizedStringForKey:key value:nil table:nil];
+  return string != nil ? string : key;
 }
 
 } // namespace imageposition

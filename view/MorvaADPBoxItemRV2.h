@@ -7,12 +7,12 @@
 #import <AppKit/AppKit.h>
 
 @interface MorvaADPBoxItemRV2 : NSBox <ViewAvailableInterface, LocalizableInterface> {
-  BOOL ViewState; ///< What `setViewAvailable:` was last given.
+  BOOL ViewState; ///< The last argument of `setViewAvailable:`.
 }
 
-/// True hides the box, false shows it: inverted against the other items, on purpose.
+/// True hides the box, false shows it: the inverse of the other items, on purpose.
 - (void)setViewAvailable:(BOOL)available;
-/// The text becomes the title.
+/// Sets the title to the localized string.
 - (void)applyLocalizableStrings:(NSString *)key BundleInfo:(NSBundle *)bundle;
 
 @end

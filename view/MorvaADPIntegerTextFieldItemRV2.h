@@ -6,28 +6,27 @@
 
 #import <AppKit/AppKit.h>
 
-/// Filters and clamps every edit while it is typed. The range is 0 to 0 until `setRange:Min:`,
-/// however the field was made.
+/// Filters and clamps the text after every edit. The range is 0 to 0 until `setRange:Min:` is
+/// called.
 @interface MorvaADPIntegerTextFieldItemRV2
     : NSTextField <ActionInterface, ViewAvailableInterface, TextFieldInterface, IntegerInterface> {
-  BOOL ViewState; ///< What `setViewAvailable:` was last given.
+  BOOL ViewState; ///< The last argument of `setViewAvailable:`.
   int32_t Max;
   int32_t Min;
 }
 
 - (void)setRange:(int32_t)max Min:(int32_t)min;
 - (id)init;
-/// As a label's: the light gray of an unusable field stays when it is made usable again, on
-/// purpose.
+/// Disabling turns the text light gray; enabling does not change it back, on purpose.
 - (void)setViewAvailable:(BOOL)available;
-/// Empty.
+/// Does nothing.
 - (void)catchEventCall;
-/// Replaces the text by its filtered form through `setString:`, after every edit.
+/// Called after every edit: replaces the text by its filtered form through `setString:`.
 - (void)textDidChange:(NSNotification *)notification;
 - (NSString *)getString;
-/// The text read as an integer; beyond 32 bits the nearest limit.
+/// The text read as an integer; the nearest limit if it does not fit into 32 bits.
 - (int32_t)getInt;
-/// Shows the text as it is.
+/// Shows the string unfiltered.
 - (void)setString:(NSString *)string;
 
 @end

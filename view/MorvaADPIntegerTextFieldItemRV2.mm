@@ -35,7 +35,7 @@ using imageposition::toUtf16;
 - (void)catchEventCall {
 }
 
-// The field's own handler is not wanted: it would announce the text before it is filtered.
+// Does not call super, which would post a notification with the unfiltered text.
 - (void)textDidChange:(NSNotification *)notification {
   (void)notification;
   const std::u16string typed = toUtf16([self stringValue]);
@@ -43,7 +43,7 @@ using imageposition::toUtf16;
   const std::size_t caret = editor != nil ? [editor selectedRange].location : typed.size();
   const std::string shown = imageposition::filterEntry(typed, {Min, Max});
   [self setString:toString(shown)];
-  // Setting the text selects all of it, and the next key would replace what was typed so far.
+  // Setting the text selects all of it, so the next key would replace it.
   editor = [self currentEditor];
   const std::size_t place = imageposition::caretAfterFilter(typed, caret, shown);
   [editor setSelectedRange:NSMakeRange(std::min<std::size_t>(place, [[editor string] length]), 0)];
@@ -53,7 +53,7 @@ using imageposition::toUtf16;
   return [self stringValue];
 }
 
-// Not the platform's intValue: it wraps beyond 32 bits where integers are 64 bits wide.
+// Not `intValue`, which wraps beyond 32 bits where integers are 64 bits wide.
 - (int32_t)getInt {
   return imageposition::readInteger(toUtf16([self stringValue]));
 }

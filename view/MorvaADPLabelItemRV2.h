@@ -7,11 +7,11 @@
 #import <AppKit/AppKit.h>
 
 @interface MorvaADPLabelItemRV2 : NSTextField <ViewAvailableInterface, LocalizableInterface> {
-  BOOL ViewState; ///< What `setViewAvailable:` was last given.
+  BOOL ViewState; ///< The last argument of `setViewAvailable:`.
 }
 
-/// Made unusable, the text turns light gray; made usable again it stays so, on purpose: whoever
-/// makes the label usable chooses its colour.
+/// Disabling turns the text light gray. Enabling does not change it back, on purpose: the caller
+/// sets the colour.
 - (void)setViewAvailable:(BOOL)available;
 - (void)applyLocalizableStrings:(NSString *)key BundleInfo:(NSBundle *)bundle;
 - (void)setRangeStrings:(NSString *)text;

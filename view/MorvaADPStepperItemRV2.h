@@ -6,16 +6,17 @@
 
 #import <AppKit/AppKit.h>
 
-/// Counts steps: its value is what has been clicked since the last `getSteps`.
+/// Counts steps: its value is the number of clicks since the last `getSteps`, downward ones
+/// negative.
 @interface MorvaADPStepperItemRV2
     : NSStepper <ActionInterface, ViewAvailableInterface, StepperInterface> {
-  BOOL ViewState; ///< What `setViewAvailable:` was last given.
+  BOOL ViewState; ///< The last argument of `setViewAvailable:`.
 }
 
 - (void)setViewAvailable:(BOOL)available;
-/// Empty.
+/// Does nothing.
 - (void)catchEventCall;
-/// The count, which is 0 afterwards.
+/// Returns the count and resets it to 0.
 - (int32_t)getSteps;
 
 @end

@@ -13,7 +13,7 @@ namespace imageposition::bench {
 
 namespace {
 
-/// A caret and little more.
+/// Slightly more than the pixels of a caret.
 constexpr int kCaretPixels = 60;
 
 struct Moment {
@@ -52,7 +52,7 @@ public:
     return time.tv_sec * 1e3 + time.tv_nsec / 1e6;
   }
 
-  /// Of a file of /proc, in mebibytes.
+  /// A value of the process's file in /proc, in mebibytes.
   double memory(const std::string &file, const std::string &name) const {
     std::ifstream lines("/proc/" + std::to_string(pid_) + "/" + file);
     for (std::string line; std::getline(lines, line);)
@@ -67,8 +67,8 @@ private:
 };
 
 struct Difference {
-  int pixels = 0; ///< That are not yet as they will be.
-  int edges = 0;  ///< Of those, the ones at which the later picture changes colour.
+  int pixels = 0; ///< Pixels that differ from the later picture.
+  int edges = 0;  ///< Those among them that are edges (a change of colour) in the later picture.
   int allEdges = 0;
 };
 
@@ -102,7 +102,7 @@ void findTimes(const std::vector<Moment> &moments, const Rectangle &window, bool
   for (const Moment &moment : moments) {
     const Difference left = difference(moment.picture, moments.back().picture, window);
     if (isTracing)
-      std::fprintf(stderr, "%8.1f ms  %7d pixels, %5.1f %% of the edges to come\n", moment.time,
+      std::fprintf(stderr, "%8.1f ms  %7d pixels, %5.1f %% of the edges left\n", moment.time,
                    left.pixels, 100.0 * left.edges / std::max(1, left.allEdges));
     if (measured.painted == 0 && left.edges * 4 <= left.allEdges) {
       measured.painted = moment.time;
@@ -132,9 +132,9 @@ Measured runDialog(WatchedScreen &screen, const std::string &command,
     measured.peakShare = program.memory("smaps_rollup", "Pss:");
   }
   if (!window || moments.empty())
-    throw std::runtime_error("No window was shown by: " + command);
+    throw std::runtime_error("This command showed no window: " + command);
   findTimes(moments, *window, isTracing, measured);
-  // The window's end is drawing, too, and must not be the next one's beginning.
+  // Closing the window draws as well, which must not count for the next run.
   while (screen.largestWindow())
     screen.waitForDrawing(Clock::now() + std::chrono::milliseconds(20));
   while (screen.waitForDrawing(Clock::now() + std::chrono::milliseconds(200))) {

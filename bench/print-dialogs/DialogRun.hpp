@@ -1,4 +1,4 @@
-/// One start of a program that shows a dialog.
+/// Runs and measures a program that shows a dialog.
 #ifndef IMAGEPOSITION_BENCH_DIALOGRUN_HPP
 #define IMAGEPOSITION_BENCH_DIALOGRUN_HPP
 
@@ -8,21 +8,22 @@
 
 namespace imageposition::bench {
 
-/// Milliseconds since the program was started, and mebibytes.
+/// Times in milliseconds since the program started; memory in mebibytes.
 struct Measured {
-  /// Three quarters of all edges of the window's later picture are there: text and controls, so
-  /// that an empty window is not yet a dialog; a list that is filled later does not count.
+  /// When three quarters of the edges in the window's final picture are painted: most text and
+  /// controls. So an empty window does not count as painted, but one whose list is filled later
+  /// does.
   double painted = 0;
-  /// Nothing changes any more but a blinking caret.
+  /// When nothing changes any more but a blinking caret.
   double complete = 0;
-  double processorUntilPainted = 0; ///< User and system, all threads of the program.
+  double processorUntilPainted = 0; ///< User and system time of all threads.
   double processorUntilComplete = 0;
-  double peakMemory = 0; ///< Resident at most, shared libraries included.
-  double peakShare = 0;  ///< Resident at the end, what is shared divided by who shares it.
+  double peakMemory = 0; ///< The peak resident memory, shared libraries included.
+  double peakShare = 0;  ///< The proportional set size at the end.
 };
 
-/// Starts `command` by a shell's `exec`, watches it for `duration`, and ends it. Throws a
-/// std::runtime_error when it shows no window.
+/// Starts `command` through a shell's `exec`, watches it for `duration`, and kills it. Throws
+/// std::runtime_error if it shows no window.
 Measured runDialog(WatchedScreen &screen, const std::string &command,
                    std::chrono::milliseconds duration, bool isTracing);
 

@@ -1,4 +1,4 @@
-/// What many starts of several dialogs come to.
+/// The results of many runs of several dialogs.
 #ifndef IMAGEPOSITION_BENCH_FIGURES_HPP
 #define IMAGEPOSITION_BENCH_FIGURES_HPP
 
@@ -14,7 +14,7 @@ struct Dialog {
   std::vector<Measured> runs;
 };
 
-/// A table of medians and smallest figures, and of the medians' ratios to the first dialog's.
+/// Prints a table of medians and minimums, and of the ratio of the first dialog's median to each.
 void printFigures(const std::vector<Dialog> &dialogs);
 
 } // namespace imageposition::bench

@@ -14,8 +14,8 @@ namespace imageposition::bench {
 
 namespace {
 
-/// Windows come and go while they are asked about.
-int passOver(Display *, XErrorEvent *) { return 0; }
+/// A window may be gone by the time of a request about it.
+int ignoreError(Display *, XErrorEvent *) { return 0; }
 
 std::vector<Window> managedWindows(Display *display, Window root) {
   const Atom list = XInternAtom(display, "_NET_CLIENT_LIST", False);
@@ -47,7 +47,7 @@ std::optional<Rectangle> placeOf(Display *display, Window window, Window root) {
 WatchedScreen::WatchedScreen() : display_(XOpenDisplay(nullptr)) {
   if (display_ == nullptr)
     throw std::runtime_error("The display cannot be opened.");
-  XSetErrorHandler(passOver);
+  XSetErrorHandler(ignoreError);
   root_ = DefaultRootWindow(display_);
   int errors = 0;
   if (!XDamageQueryExtension(display_, &damageEvents_, &errors) || !XShmQueryExtension(display_))
@@ -68,13 +68,13 @@ void WatchedScreen::shareImage() {
                            DefaultDepth(display_, screen), ZPixmap, nullptr, &memory_,
                            DisplayWidth(display_, screen), DisplayHeight(display_, screen));
   if (image_ == nullptr || image_->bits_per_pixel != 32)
-    throw std::runtime_error("The display needs 32 bits a pixel.");
+    throw std::runtime_error("The display needs 32 bits per pixel.");
   const std::size_t size = std::size_t(image_->bytes_per_line) * image_->height;
   memory_.shmid = shmget(IPC_PRIVATE, size, IPC_CREAT | 0600);
   memory_.shmaddr = image_->data = static_cast<char *>(shmat(memory_.shmid, nullptr, 0));
   XShmAttach(display_, &memory_);
   XSync(display_, False);
-  shmctl(memory_.shmid, IPC_RMID, nullptr); // goes with its last user
+  shmctl(memory_.shmid, IPC_RMID, nullptr); // freed after the last detach
 }
 
 bool WatchedScreen::waitForDrawing(Clock::time_point deadline) {
@@ -109,7 +109,7 @@ std::optional<Rectangle> WatchedScreen::largestWindow() {
     if (place && (!largest || place->width * place->height > largest->width * largest->height))
       largest = place;
   }
-  if (largest) { // what hangs over the screen's edge cannot be compared
+  if (largest) { // clip it to the screen
     const int right = std::min(largest->left + largest->width, image_->width);
     const int bottom = std::min(largest->top + largest->height, image_->height);
     largest->left = std::max(largest->left, 0);

@@ -1,4 +1,4 @@
-/// What is to be seen on the display, from outside of the programs that draw.
+/// Watches what programs draw on the display.
 #ifndef IMAGEPOSITION_BENCH_WATCHEDSCREEN_HPP
 #define IMAGEPOSITION_BENCH_WATCHEDSCREEN_HPP
 
@@ -27,7 +27,7 @@ struct Picture {
   std::uint32_t at(int x, int y) const { return pixels[std::size_t(y) * width + x]; }
 };
 
-/// The display that DISPLAY names. Throws a std::runtime_error where it cannot be used.
+/// The display that DISPLAY names. The constructor throws std::runtime_error if it is not usable.
 class WatchedScreen {
 public:
   WatchedScreen();
@@ -35,10 +35,10 @@ public:
   WatchedScreen(const WatchedScreen &) = delete;
   WatchedScreen &operator=(const WatchedScreen &) = delete;
 
-  /// False when nothing was drawn until then.
+  /// Returns false if nothing was drawn before the deadline.
   bool waitForDrawing(Clock::time_point deadline);
   Picture picture();
-  /// The inside of the largest window that the window manager manages.
+  /// The content area of the largest window that the window manager manages, if there is one.
   std::optional<Rectangle> largestWindow();
 
 private:

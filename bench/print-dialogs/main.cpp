@@ -1,5 +1,6 @@
-// compare-dialogs [--runs N] [--trace] NAME=COMMAND...: starts the dialogs by turns on the display
-// that DISPLAY names, and prints what each costs. The first one is compared with the others.
+// compare-dialogs [--runs N] [--trace] NAME=COMMAND...: runs the dialogs in turn on the display
+// that DISPLAY names, and prints the time and memory of each, and how the first compares with the
+// others.
 #include "Figures.hpp"
 
 #include <cstdio>
@@ -19,11 +20,11 @@ double load() {
   return averages[0];
 }
 
-Dialog toDialog(const std::string &word) {
-  const std::size_t sign = word.find('=');
+Dialog toDialog(const std::string &argument) {
+  const std::size_t sign = argument.find('=');
   if (sign == std::string::npos)
-    throw std::runtime_error("Neither an option nor NAME=COMMAND: " + word);
-  return {word.substr(0, sign), word.substr(sign + 1), {}};
+    throw std::runtime_error("Neither an option nor NAME=COMMAND: " + argument);
+  return {argument.substr(0, sign), argument.substr(sign + 1), {}};
 }
 
 void run(int argc, char **argv) {
@@ -42,7 +43,7 @@ void run(int argc, char **argv) {
     throw std::runtime_error("Name a dialog, and at least one run.");
   WatchedScreen screen;
   const double before = load();
-  for (Dialog &dialog : dialogs) // what is read from the disk once is not measured
+  for (Dialog &dialog : dialogs) // a first run fills the disk cache and is not measured
     runDialog(screen, dialog.command, kWatched, false);
   for (int i = 0; i < runs; i++)
     for (Dialog &dialog : dialogs) {

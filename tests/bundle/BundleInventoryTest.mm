@@ -17,7 +17,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// As the table writes types.
+/// Converts a type encoding to the table's format.
 std::string plain(std::string encoding) {
   encoding = std::regex_replace(encoding, std::regex("@\"[^\"]*\""), "@");
   encoding = std::regex_replace(encoding, std::regex("\\d+"), "");
@@ -64,13 +64,13 @@ Lines describe(Class type) {
                  (super == Nil ? "none" : class_getName(super))};
   addProtocols(type, lines);
   addFields(type, lines);
-  if (super != Nil) // a root class's operations are its class's too
+  if (super != Nil) // a root class also has its instance methods as class methods
     addOperations(object_getClass(reinterpret_cast<id>(type)), "+", lines);
   addOperations(type, "-", lines);
   return lines;
 }
 
-/// One text, of which a failure shows only the lines that differ.
+/// Joins the lines, so that a failure shows only those that differ.
 std::string joined(const Lines &lines) {
   std::string text;
   for (const std::string &line : lines)
@@ -78,11 +78,11 @@ std::string joined(const Lines &lines) {
   return text;
 }
 
-/// The names of the classes of which the image is that file.
+/// The names of the classes in that image file.
 std::set<std::string> classesOf(const std::string &image) {
   std::set<std::string> names;
   const int count = objc_getClassList(nullptr, 0);
-  // As names: this compiler has no container of classes.
+  // Names, because g++ has no containers of Class.
   Class *const classes = static_cast<Class *>(calloc(count, sizeof(Class)));
   objc_getClassList(classes, count);
   for (int i = 0; i < count; i++) {
@@ -94,7 +94,7 @@ std::set<std::string> classesOf(const std::string &image) {
   return names;
 }
 
-/// What the file exports to the process that loads it, as the linker names it.
+/// The symbols that the file exports.
 std::set<std::string> exportedBy(const std::string &file) {
   const std::string command = std::string(NM) + " -D --defined-only '" + file + "'";
   FILE *const output = popen(command.c_str(), "r");
@@ -106,7 +106,7 @@ std::set<std::string> exportedBy(const std::string &file) {
   return symbols;
 }
 
-/// The table without its comment, and what it begins a line with.
+/// The lines of the table that begin so, without comments.
 Lines tableLines(const std::string &beginning) {
   std::ifstream table(CLASS_TABLE);
   Lines lines;
@@ -132,7 +132,7 @@ protected:
   std::string executable;
 };
 
-TEST_F(Bundle, HasTheClassesOfTheTableWithTheirFieldsAndOperations) {
+TEST_F(Bundle, HasTheClassesOfTheTableWithTheirFieldsAndMethods) {
   Lines lines;
   for (const std::string &name : classesOf(executable)) {
     const Lines description = describe(objc_getClass(name.c_str()));
@@ -141,8 +141,8 @@ TEST_F(Bundle, HasTheClassesOfTheTableWithTheirFieldsAndOperations) {
   EXPECT_EQ(joined(lines), joined(tableLines("class ")));
 }
 
-// As whoever reads a field by its place finds it, with pointers of 32 or of 64 bits.
-TEST_F(Bundle, FieldsAreAsWideAsTheirTypesAndLieOneBehindTheOther) {
+// Code that accesses fields by offset relies on this, with 32-bit and 64-bit pointers.
+TEST_F(Bundle, FieldsAreLaidOutInOrderWithTheSizesOfTheirTypes) {
   const std::map<char, std::ptrdiff_t> widths = {
       {'@', sizeof(void *)}, {'^', sizeof(void *)}, {'i', 4}, {'c', 1}, {'C', 1}};
   for (const std::string &line : tableLines("class ")) {
@@ -163,17 +163,16 @@ TEST_F(Bundle, FieldsAreAsWideAsTheirTypesAndLieOneBehindTheOther) {
   }
 }
 
-// The names of classes are one for the whole process, in which another generation of the bundle may
-// be loaded too.
-TEST_F(Bundle, EachOfItsClassesCarriesItsGeneration) {
+// Class names are global to the process, which may load other versions of the bundle too.
+TEST_F(Bundle, EveryClassNameEndsWithTheVersion) {
   const std::set<std::string> classes = classesOf(executable);
   EXPECT_EQ(classes.size(), 10u);
   for (const std::string &name : classes)
     EXPECT_THAT(name, testing::MatchesRegex("MorvaADP.*RV2"));
 }
 
-// The loader may merge any other symbol with one of the same name in the process.
-TEST_F(Bundle, ExportsItsClassesAndTheConstantsOfTheTableAlone) {
+// The dynamic linker may bind any other symbol to one of the same name in the process.
+TEST_F(Bundle, ExportsOnlyItsClassesAndTheConstantsOfTheTable) {
   std::set<std::string> expected;
   for (const std::string &line : tableLines("constant "))
     expected.insert(line.substr(line.find(' ') + 1));

@@ -1,4 +1,4 @@
-# Configures the project for macOS with this system's compilers and looks at the build that results.
+# Configures the project for macOS with this system's compilers and checks the generated build.
 file(REMOVE_RECURSE "${BINARY}")
 execute_process(
   COMMAND "${CMAKE_COMMAND}" -S "${SOURCE}" -B "${BINARY}" -G Ninja
@@ -25,16 +25,16 @@ foreach(resource SettingInfo.plist ConstraintInfo.plist ImagePositionAdjustPrint
   expect("the bundle contains ${resource}" "${contents}/Resources/${resource}: COPY_OSX_CONTENT")
 endforeach()
 expect("the bundle contains the code" "${contents}/MacOS/MorvaADPImagePosition: ")
-expect("the code is linked with libc++, also where clang would take libstdc++"
+expect("the code is linked with libc++, even where clang would use libstdc++"
   "LINK_FLAGS = [^\n]*-stdlib=libc\\+\\+")
-expect("only what is listed is exported" "-exported_symbols_list")
-expect("the interface file is compiled for the oldest system that the code is for"
+expect("only the listed symbols are exported" "-exported_symbols_list")
+expect("the interface file is compiled for the oldest supported system"
   "--minimum-deployment-target 10[.]9 ")
 file(READ "${BINARY}/MorvaADPImagePosition.plugin/Contents/Info.plist" description)
 if(NOT description MATCHES "<key>LSMinimumSystemVersion</key>[^<]*<string>10[.]9</string>")
-  message(SEND_ERROR "macOS: the bundle asks for the oldest system that the code is for")
+  message(SEND_ERROR "macOS: the bundle requires the oldest supported system")
 endif()
 string(REGEX MATCH "${contents}/MacOS/[^\n|]*" inputs "${build}")
 if(inputs MATCHES "[.]nib")
-  message(SEND_ERROR "macOS: the interface file is no input of the linker")
+  message(SEND_ERROR "macOS: the interface file is not linked")
 endif()

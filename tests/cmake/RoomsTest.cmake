@@ -1,5 +1,5 @@
-# Tries to break the order of the rooms in a copy of the sources: a source that includes a header of a
-# higher room must not compile, and two rooms that use each other must not configure.
+# Tries to violate the order of the rooms in a copy of the sources: compiling must fail for a source
+# that includes a header of a higher room, and configuring for two rooms that use each other.
 #   cmake -DSOURCE=... -DSCRATCH=... -DGENERATOR=... -P RoomsTest.cmake
 set(copy "${SCRATCH}/source")
 set(build "${SCRATCH}/build")
@@ -8,7 +8,7 @@ foreach(part CMakeLists.txt cmake controller host platform plugin resources sett
   file(COPY "${SOURCE}/${part}" DESTINATION "${copy}")
 endforeach()
 
-# Runs the command; its result and all of its output stand in `result` and `output` afterwards.
+# Runs the command and stores its exit status in `result` and its output in `output`.
 macro(run)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
 endmacro()
@@ -23,7 +23,7 @@ endmacro()
 
 configure()
 if(NOT result EQUAL 0)
-  message(FATAL_ERROR "The copy does not configure:\n${output}")
+  message(FATAL_ERROR "The copy cannot be configured:\n${output}")
 endif()
 build_lowest_room()
 if(NOT result EQUAL 0)
@@ -35,10 +35,10 @@ file(READ "${file}" original)
 file(APPEND "${file}" "#include \"JobRequest.hpp\"\n")
 build_lowest_room()
 if(result EQUAL 0)
-  message(FATAL_ERROR "host/core/base may include a header of host/core/job.")
+  message(FATAL_ERROR "host/core/base can include a header of host/core/job.")
 endif()
 if(NOT output MATCHES "JobRequest.hpp: No such file")
-  message(FATAL_ERROR "The include was not what failed:\n${output}")
+  message(FATAL_ERROR "The build failed, but not because of the include:\n${output}")
 endif()
 file(WRITE "${file}" "${original}")
 
@@ -46,8 +46,8 @@ file(APPEND "${copy}/host/core/base/CMakeLists.txt"
   "target_link_libraries(host_base PUBLIC host_job)\n")
 configure()
 if(result EQUAL 0)
-  message(FATAL_ERROR "host/core/base and host/core/job may use each other.")
+  message(FATAL_ERROR "host/core/base and host/core/job can use each other.")
 endif()
 if(NOT output MATCHES "cyclic")
-  message(FATAL_ERROR "The circle was not what failed:\n${output}")
+  message(FATAL_ERROR "Configuring failed, but not because of the cycle:\n${output}")
 endif()

@@ -1,4 +1,4 @@
-// Which controls are usable, how the front offsets are named, and the trace that says why.
+// Which controls are usable, how the front offsets are named, and what is logged about it.
 #import "ControllerFixture.h"
 
 using namespace imageposition::test;
@@ -14,7 +14,7 @@ protected:
     makeHollow();
   }
 
-  /// Gives the controller another printer.
+  /// Gives the controller another PPD.
   void usePrinter(const Lines &lines) {
     other_ = std::make_unique<TestPpd>(lines);
     get<ppd_file_t *>("ppd") = other_->get();
@@ -22,7 +22,7 @@ protected:
 
   void forbid() { ppd->mark("Duplex", "None"); }
 
-  /// The journal without the controller's own operations and the look-ups of texts.
+  /// The journal without the controller's methods and the look-ups of strings.
   Lines onControls() {
     Lines lines;
     for (const std::string &line : journal.take())
@@ -53,7 +53,7 @@ Lines frontNames(bool own) {
 // The check.
 
 struct CheckRow {
-  const char *duplex; // null: the option is not there
+  const char *duplex; // null if there is no such option
   const char *banner;
   bool allowed;
   Lines traces;
@@ -117,7 +117,7 @@ TEST_F(Availability, AnOptionWithoutAMarkedChoiceForbidsNothing) {
   EXPECT_TRUE([controller checkImagePositionAdjustValid]);
 }
 
-TEST_F(Availability, TheCheckLooksAtThePrinterEachTime) {
+TEST_F(Availability, TheCheckReadsTheMarkedChoicesEachTime) {
   EXPECT_TRUE([controller checkImagePositionAdjustValid]);
   ppd->mark("Duplex", "None");
   EXPECT_FALSE([controller checkImagePositionAdjustValid]);
@@ -131,7 +131,7 @@ TEST_F(Availability, TheCheckIsTracedOncePerCall) {
   EXPECT_THAT(log->lines(), ElementsAre(kCheckTrace, kCheckTrace));
 }
 
-TEST_F(Availability, TheCheckTouchesNoControl) {
+TEST_F(Availability, TheCheckCallsNoControl) {
   [controller checkImagePositionAdjustValid];
   EXPECT_THAT(journal.take(), ElementsAre("self.checkImagePositionAdjustValid"));
 }
@@ -162,7 +162,7 @@ protected:
   }
 };
 
-TEST_P(AvailabilityGraying, AllowedTheFrontIsUsableAndTheCheckboxDecidesOnTheBack) {
+TEST_P(AvailabilityGraying, WhenAllowedTheFrontIsUsableAndTheCheckboxDecidesAboutTheBack) {
   [controller grayUI];
   const bool own = GetParam().counts;
   EXPECT_EQ(onControls(),
@@ -171,7 +171,7 @@ TEST_P(AvailabilityGraying, AllowedTheFrontIsUsableAndTheCheckboxDecidesOnTheBac
              group("BackLRM", own) + group("BackTBM", own)));
 }
 
-TEST_P(AvailabilityGraying, ForbiddenNothingIsUsableAndTheNamesFollowTheCheckbox) {
+TEST_P(AvailabilityGraying, WhenForbiddenNothingIsUsableAndTheNamesFollowTheCheckbox) {
   forbid();
   [controller grayUI];
   EXPECT_EQ(onControls(),
@@ -188,7 +188,7 @@ TEST_P(AvailabilityGraying, NeverChangesTheCheckbox) {
   EXPECT_THAT(journal.take(), testing::Not(testing::Contains(testing::HasSubstr("setState:"))));
 }
 
-TEST_P(AvailabilityGraying, NamesTheFrontOffsetsAfterTheCheckbox) {
+TEST_P(AvailabilityGraying, NamesTheFrontOffsetsAccordingToTheCheckbox) {
   [controller setFrontName];
   const bool own = GetParam().counts;
   EXPECT_EQ(onControls(), frontNames(own));
@@ -198,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(Checkbox, AvailabilityGraying,
                          testing::Values(StateRow{0, false}, StateRow{1, true},
                                          StateRow{-1, true}));
 
-TEST_F(Availability, AllowedGrayingGoesThroughTheControllersOwnOperations) {
+TEST_F(Availability, AllowedGrayingGoesThroughTheControllersMethods) {
   control("chkEnableImagePositionAdjust")->stateValue = 1;
   [controller grayUI];
   Lines own;
@@ -211,7 +211,7 @@ TEST_F(Availability, AllowedGrayingGoesThroughTheControllersOwnOperations) {
                           "self.setBackLRMState:1", "self.setBackTBMState:1"));
 }
 
-TEST_F(Availability, ForbiddenGrayingGoesThroughTheControllersOwnOperations) {
+TEST_F(Availability, ForbiddenGrayingGoesThroughTheControllersMethods) {
   forbid();
   [controller grayUI];
   Lines own;
@@ -229,7 +229,7 @@ TEST_F(Availability, GrayingChecksOnce) {
   EXPECT_THAT(log->lines(), ElementsAre(kCheckTrace));
 }
 
-TEST_F(Availability, GrayingTouchesNoSettingAndNoPrintSettings) {
+TEST_F(Availability, GrayingCallsNoSettingAndNoPrintSettings) {
   [controller grayUI];
   for (const std::string &line : onControls()) {
     for (const std::string &name : kNames)
@@ -239,7 +239,7 @@ TEST_F(Availability, GrayingTouchesNoSettingAndNoPrintSettings) {
   EXPECT_TRUE(settings->calls().empty());
 }
 
-// One group each.
+// Single groups.
 
 using Setter = void (*)(MorvaADPSettingsCollectorRV2 *, BOOL);
 
@@ -279,7 +279,7 @@ TEST_F(Availability, FrontNamesAreLookedUpAndSetOneAfterTheOther) {
                           "FrontTBMLabel.setStringValue:[FrontTBM]"));
 }
 
-TEST_F(Availability, WithoutTextsTheKeysAreShown) {
+TEST_F(Availability, WithoutLocalizedStringsTheKeysAreShown) {
   TestBundle empty;
   RecordingStrings *strings = get<id>("Bundle");
   get<id>("Bundle") = empty.bundle();
@@ -293,9 +293,9 @@ TEST_F(Availability, WithoutTextsTheKeysAreShown) {
   get<id>("Bundle") = strings;
 }
 
-// Before the view is there.
+// Before the view is loaded.
 
-TEST_F(ControllerFixture, WithoutAViewGrayingDoesNothingButTrace) {
+TEST_F(ControllerFixture, WithoutAViewGrayingOnlyLogs) {
   writeBundle();
   ASSERT_NE(make(), nil);
   log->clear();

@@ -1,4 +1,4 @@
-// How a controller comes to be from a bundle, and how it goes.
+// Construction of a controller from a bundle, and its deallocation.
 #import "ControllerFixture.h"
 #import "LiveObjects.h"
 #import "RefusingInit.h"
@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 namespace {
 
-/// The "SettingName" of every record that a setting is built from, while it lives.
+/// While an instance lives, records the "SettingName" of every record that a setting is built from.
 class BuiltSettings {
 public:
   BuiltSettings() {
@@ -73,14 +73,14 @@ TEST_F(Construction, NeedsABundle) {
 
 struct BrokenFileRow {
   const char *resource;
-  const char *content; // null: no such file
+  const char *content; // null if there is no such file
 };
 
 std::ostream &operator<<(std::ostream &out, const BrokenFileRow &row) {
   return out << row.resource << ": " << (row.content ? row.content : "missing");
 }
 
-TEST_F(Construction, NeedsItsBase) {
+TEST_F(Construction, CannotBeBuiltIfTheSuperclassRefuses) {
   writeBundle();
   {
     const RefusingInit refusing([MorvaADPSettingsCollectorRV2 class]);
@@ -93,7 +93,7 @@ TEST_F(Construction, NeedsItsBase) {
 class ConstructionOverBrokenFiles : public Construction,
                                     public testing::WithParamInterface<BrokenFileRow> {};
 
-TEST_P(ConstructionOverBrokenFiles, AnswersNullAndLetsGoOfEverything) {
+TEST_P(ConstructionOverBrokenFiles, ReturnsNullAndReleasesEverything) {
   writeBundle();
   const std::string file = GetParam().resource + std::string(".plist");
   bundle->remove(file);
@@ -129,20 +129,20 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenFileRow{"SettingInfo", "bplist00"}, BrokenFileRow{"ConstraintInfo", "bplist00"},
         BrokenFileRow{"SettingInfo", kArrayFile}, BrokenFileRow{"ConstraintInfo", kArrayFile}));
 
-TEST_F(Construction, WithoutAnyDefinitionFileThePrinterIsStillAskedFor) {
+TEST_F(Construction, WithoutAnyDefinitionFileThePpdIsStillRequested) {
   EXPECT_EQ(make(), nil);
   EXPECT_EQ(host->ppdRequests, 1);
 }
 
-TEST_F(Construction, WithoutARuleTableTheDefinitionsAreStillWalkedFirst) {
+TEST_F(Construction, WithoutARuleTableTheDefinitionsAreStillReadFirst) {
   writeBundle();
   bundle->remove("ConstraintInfo.plist");
   BuiltSettings built;
   EXPECT_EQ(make(), nil);
-  EXPECT_THAT(built.names(), ElementsAre("FrontLRM")) << "the first setting refuses";
+  EXPECT_THAT(built.names(), ElementsAre("FrontLRM")) << "the first setting cannot be built";
 }
 
-TEST_F(Construction, FillsEveryFieldOfItsOwnAndNoOutlet) {
+TEST_F(Construction, SetsEveryFieldExceptTheOutlets) {
   writeBundle();
   ASSERT_NE(make(), nil);
   EXPECT_EQ(get<id>("PDECallback"), host);
@@ -162,7 +162,7 @@ TEST_F(Construction, FillsEveryFieldOfItsOwnAndNoOutlet) {
   EXPECT_THAT(listed(), ElementsAre("FrontLRM", "FrontTBM", "BackLRM", "BackTBM"));
 }
 
-TEST_F(Construction, GivesEverySettingItsRecordTheRuleTableTheBundleAndThePrinter) {
+TEST_F(Construction, PassesEverySettingItsRecordTheRuleTableTheBundleAndThePpd) {
   writeBundle(fourDefinitions(), rules({{"", "PPD", "A", "b", "FrontLRM", "Value", "1"}}));
   ASSERT_NE(make(), nil);
   for (const std::string &name : kNames) {
@@ -175,7 +175,7 @@ TEST_F(Construction, GivesEverySettingItsRecordTheRuleTableTheBundleAndThePrinte
   }
 }
 
-TEST_F(Construction, AsksForThePrinterOnceInItsLife) {
+TEST_F(Construction, RequestsThePpdOnlyOnce) {
   writeBundle();
   ASSERT_NE(make(), nil);
   EXPECT_EQ(host->ppdRequests, 1);
@@ -194,7 +194,7 @@ TEST_F(Construction, ReadsNoPrintSettings) {
   EXPECT_TRUE(settings->calls().empty());
 }
 
-TEST_F(Construction, EndsWithOneLookAtAvailability) {
+TEST_F(Construction, EndsByUpdatingAvailabilityOnce) {
   writeBundle();
   makeRecording();
   EXPECT_THAT(journal.take(),
@@ -204,14 +204,14 @@ TEST_F(Construction, EndsWithOneLookAtAvailability) {
   EXPECT_THAT(log->lines(), ElementsAre(kCheckTrace));
 }
 
-TEST_F(Construction, ForAPrinterThatForbidsTheAdjustmentSucceedsAllTheSame) {
+TEST_F(Construction, SucceedsForAPrinterThatForbidsTheAdjustment) {
   writeBundle();
   ppd->mark("Duplex", "None");
   EXPECT_NE(make(), nil);
   EXPECT_THAT(log->lines(), ElementsAre(kDuplexTrace, kCheckTrace));
 }
 
-TEST_F(Construction, FieldsGoByNameInWhateverOrderTheDefinitionsStand) {
+TEST_F(Construction, FieldsAreAssignedByNameInAnyOrderOfDefinitions) {
   Lines order = kNames;
   std::sort(order.begin(), order.end());
   do {
@@ -234,7 +234,7 @@ TEST_F(Construction, SettingsAreBuiltInTheOrderOfTheirIndexes) {
   EXPECT_THAT(built.names(), ElementsAre("BackTBM", "FrontLRM", "BackLRM", "FrontTBM"));
 }
 
-TEST_F(Construction, IndexesAreReadAsNumbersNotAsTexts) {
+TEST_F(Construction, IndexesAreSortedAsNumbersNotAsStrings) {
   NSMutableDictionary *many = [NSMutableDictionary dictionary];
   for (int i = 0; i < 12; ++i)
     [many setObject:definition("unknown") forKey:nsString(std::to_string(i))];
@@ -273,7 +273,7 @@ TEST_F(Construction, RecordsUnderOtherKeysCountButAreNotVisited) {
   EXPECT_NE(setting("BackTBM"), nil);
 }
 
-TEST_F(Construction, ANameInOtherLettersIsIgnored) {
+TEST_F(Construction, ANameWithDifferentCaseIsIgnored) {
   writeBundle(definitions({definition("frontlrm"), definition("FrontLRM "), definition("Front"),
                            definition("FrontTBM")}));
   ASSERT_NE(make(), nil);
@@ -315,15 +315,15 @@ TEST_F(Construction, WithoutDefinitionsThereAreNoSettingsAndTheListIsEmpty) {
   EXPECT_THAT(log->lines(), ElementsAre(kCheckTrace));
 }
 
-TEST_F(Construction, WithoutAPrinterASettingRefusesAndTheControllerWithIt) {
+TEST_F(Construction, WithoutAPpdNeitherSettingsNorTheControllerCanBeBuilt) {
   writeBundle();
   host->ppd = nullptr;
   BuiltSettings built;
   EXPECT_EQ(make(), nil);
-  EXPECT_THAT(built.names(), ElementsAre("FrontLRM")) << "later definitions are not visited";
+  EXPECT_THAT(built.names(), ElementsAre("FrontLRM")) << "later definitions are not read";
 }
 
-TEST_F(Construction, WithoutAPrinterAControllerWithoutSettingsIsBuilt) {
+TEST_F(Construction, WithoutAPpdAControllerWithoutSettingsCanBeBuilt) {
   writeBundle(definitions({definition("unknown")}));
   host->ppd = nullptr;
   ASSERT_NE(make(), nil);
@@ -331,7 +331,7 @@ TEST_F(Construction, WithoutAPrinterAControllerWithoutSettingsIsBuilt) {
   EXPECT_TRUE([controller checkImagePositionAdjustValid]);
 }
 
-TEST_F(Construction, TheLaterOfTwoRecordsOfOneNameIsInTheField) {
+TEST_F(Construction, TheLaterOfTwoRecordsWithTheSameNameIsInTheField) {
   NSMutableDictionary *later = definition("FrontTBM");
   [later setObject:@"later" forKey:@"TicketKey"];
   writeBundle(definitions({definition("FrontTBM"), definition("FrontLRM"), later}));
@@ -341,7 +341,7 @@ TEST_F(Construction, TheLaterOfTwoRecordsOfOneNameIsInTheField) {
   EXPECT_EQ(cxxString(field<id>(setting("FrontTBM"), "TicketKey")), "later");
 }
 
-TEST_F(Construction, TheEarlierOfTwoRecordsOfOneNameStaysBehind) {
+TEST_F(Construction, TheEarlierOfTwoRecordsWithTheSameNameIsLeaked) {
   writeBundle(definitions({definition("FrontTBM"), definition("FrontTBM")}));
   LiveObjects alive;
   const int before = alive.count([MorvaADPIntegerSettingRV2 class]);
@@ -355,7 +355,7 @@ TEST_F(Construction, TheEarlierOfTwoRecordsOfOneNameStaysBehind) {
   EXPECT_EQ(alive.count([MorvaADPIntegerSettingRV2 class]) - before, 1);
 }
 
-TEST_F(Construction, AFailedControllerLeavesNothingBehind) {
+TEST_F(Construction, AFailedControllerLeaksNothing) {
   NSMutableDictionary *broken = definition("BackLRM");
   [broken setObject:@"20" forKey:@"Range"];
   writeBundle(definitions({definition("FrontLRM"), definition("FrontTBM"), broken}));
@@ -376,9 +376,9 @@ TEST_F(Construction, AFailedControllerLeavesNothingBehind) {
   EXPECT_EQ([resources retainCount], bundleReferences);
 }
 
-// Going.
+// Deallocation.
 
-TEST_F(Construction, LetsGoOfWhatItOwnsInOrder) {
+TEST_F(Construction, ReleasesWhatItOwnsInOrder) {
   makeHollow();
   host->journal = nullptr;
   for (const std::string &name : kNames)
@@ -393,7 +393,7 @@ TEST_F(Construction, LetsGoOfWhatItOwnsInOrder) {
   }
   for (const char *name : {"FrontLRMText", "FrontLRMStepper", "FrontLRMLabel",
                            "chkEnableImagePositionAdjust", "btnRestore2Defalut"})
-    get<Recorder *>(name)->recordsReleases = YES; // which must not be seen
+    get<Recorder *>(name)->recordsReleases = YES; // the controller must not release it
   journal.clear();
   [controller release];
   controller = nil;

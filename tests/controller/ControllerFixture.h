@@ -1,4 +1,4 @@
-/// Controllers over bundles made for a test, with recorders in their fields or a real view.
+/// Controllers for test bundles, with recorders in their fields or a real view.
 #ifndef IMAGEPOSITION_TESTS_CONTROLLER_CONTROLLERFIXTURE_H
 #define IMAGEPOSITION_TESTS_CONTROLLER_CONTROLLERFIXTURE_H
 
@@ -32,18 +32,18 @@ inline constexpr const char *kBannerTrace = "@@@Get MVBannerPagePrint setting  T
 inline constexpr const char *kFlagRead = "Get Enable Image Position Adjust PrintTicket success.";
 inline constexpr const char *kFlagNotWritten = "Set Enable Image Position Adjust PrintTicket fail.";
 
-/// A definition record of range -20 to 20 and default 0; its ticket key is the name with "Ticket"
-/// behind it, its summary name that with "Summary".
+/// A definition record with the range -20 to 20 and the default 0. Its ticket key is the name plus
+/// "Ticket", its summary name the name plus "Summary".
 NSMutableDictionary *definition(const std::string &name);
 /// "SettingInfo": the records under "0", "1", ...
 NSMutableDictionary *definitions(const std::vector<NSDictionary *> &records);
-/// The four settings in their order.
+/// The four settings in order.
 NSMutableDictionary *fourDefinitions();
-/// "ConstraintInfo": rules under "0", "1", ..., each given as its fields in the order of the
-/// condition's object, type, pattern and value and the action's object, pattern and value.
+/// "ConstraintInfo": rules under "0", "1", .... Each has the condition's object, type, pattern and
+/// value, then the action's object, pattern and value.
 NSMutableDictionary *rules(const std::vector<Lines> &fields);
 
-/// The lines of a printer that can do all that the panel looks at: Duplex on, no banner page.
+/// The PPD lines of a printer that allows the adjustment: Duplex on, no banner page.
 Lines duplexPrinter();
 
 Lines operator+(Lines left, const Lines &right);
@@ -53,18 +53,18 @@ protected:
   void SetUp() override;
   void TearDown() override;
 
-  /// The definitions, the rules, a language's texts.
+  /// Writes the definitions, the rules and one language's strings.
   void writeBundle(NSDictionary *settingInfo = fourDefinitions(),
                    NSDictionary *constraintInfo = [NSDictionary dictionary]);
-  /// Puts the real panel's interface file, or these bytes, where a controller finds it: among the
-  /// resources of the program, whose classes the tests use. It goes with the fixture.
+  /// Writes the real panel's interface file, or these bytes, to the program's resources, where the
+  /// controller finds it because its classes are linked into the program. Removed with the fixture.
   static void writeInterfaceFile();
   static void writeInterfaceFile(const std::string &bytes);
   static void removeInterfaceFile();
 
-  /// A new controller of the bundle, owned by the fixture; null when it cannot be built.
+  /// A new controller for the bundle, owned by the fixture; null if it cannot be built.
   MorvaADPSettingsCollectorRV2 *make();
-  /// The same, of a class that records its own operations.
+  /// The same, of a subclass that records its methods.
   MorvaADPSettingsCollectorRV2 *makeRecording();
   /// A controller without settings whose fields hold recorders: controls by the names of their
   /// fields, settings by their own names, the checkbox as "check" and the button as "button".
@@ -77,7 +77,7 @@ protected:
   }
   int32_t value(const std::string &name) { return field<int32_t>(setting(name), "Value"); }
 
-  /// What the log got, without the trace of the availability check.
+  /// The log lines, without those of the availability check.
   Lines logWithoutTraces();
 
   Journal journal;

@@ -77,7 +77,7 @@ void ControllerFixture::TearDown() {
 void ControllerFixture::writeBundle(NSDictionary *settingInfo, NSDictionary *constraintInfo) {
   bundle->writePropertyList("SettingInfo", settingInfo);
   bundle->writePropertyList("ConstraintInfo", constraintInfo);
-  bundle->writeStrings({{"EnableImgPstAdj", "Own offsets for the back"},
+  bundle->writeStrings({{"EnableImgPstAdj", "Separate offsets for the back"},
                         {"RestoreDefaults", "Back to zero"},
                         {"PluginName", "Image Position"},
                         {"FrontLRM", "Front left-right"},
@@ -93,7 +93,7 @@ void ControllerFixture::writeBundle(NSDictionary *settingInfo, NSDictionary *con
                         {"RangeTemplate", "{min} to {max}"}});
 }
 
-// A bundle remembers what its folders hold. This operation of the platform's is not in its headers.
+// NSBundle caches the contents of its folders. GNUstep's headers do not declare this method.
 static void lookAgain() {
   const SEL operation = NSSelectorFromString(@"cleanPathCache");
   ASSERT_TRUE([[NSBundle mainBundle] respondsToSelector:operation]);
@@ -150,7 +150,7 @@ MorvaADPSettingsCollectorRV2 *ControllerFixture::makeHollow() {
     for (const char *suffix : {"Text", "Stepper", "Label", "RangeLabel"})
       fill((name + suffix).c_str(), [[RecordingActor alloc] initWithName:name + suffix
                                                                  journal:&journal]);
-    // The controller releases its settings; the fixture keeps one reference more.
+    // The controller releases its settings; the fixture keeps another reference.
     fill((name + "Settings").c_str(), [[[RecordingSetting alloc] initWithName:name
                                                                       journal:&journal] retain]);
   }

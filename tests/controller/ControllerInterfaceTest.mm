@@ -6,7 +6,7 @@ using namespace imageposition::test;
 
 namespace {
 
-TEST(ControllerInterface, DerivesFromTheRootClass) {
+TEST(ControllerInterface, DerivesFromNSObject) {
   EXPECT_EQ([MorvaADPSettingsCollectorRV2 superclass], [NSObject class]);
 }
 
@@ -46,7 +46,7 @@ TEST(ControllerInterface, HasItsFieldsInOrder) {
                            "ppd ^"}));
 }
 
-TEST(ControllerInterface, CarriesOutItsOperationsItself) {
+TEST(ControllerInterface, ImplementsItsMethodsItself) {
   const auto operations = operationsOf([MorvaADPSettingsCollectorRV2 class]);
   for (const char *name : {"initWithCallback:Bundle:",
                            "dealloc",

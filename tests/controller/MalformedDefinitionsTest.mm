@@ -1,4 +1,4 @@
-// Property lists that are well-formed and wrong: none of them may take the print dialog down.
+// Property lists that are well-formed but wrong: none of them may crash the print dialog.
 #import "ControllerFixture.h"
 
 using namespace imageposition::test;
@@ -11,7 +11,7 @@ namespace {
 
 class MalformedDefinitions : public ControllerFixture {
 protected:
-  /// A controller whose first setting has that under the key, or lacks it.
+  /// A controller whose first setting has this value under the key, or no such entry for null.
   MorvaADPSettingsCollectorRV2 *makeWith(const char *key, id object) {
     NSMutableDictionary *record = definition("FrontLRM");
     if (object == nil)
@@ -28,17 +28,17 @@ protected:
   static NSNumber *number() { return [NSNumber numberWithInt:7]; }
 };
 
-TEST_F(MalformedDefinitions, ARangeWithoutColonIsLoggedAndThereIsNoController) {
+TEST_F(MalformedDefinitions, ARangeWithoutColonIsLoggedAndNoControllerIsBuilt) {
   EXPECT_EQ(makeWith("Range", @"20"), nil);
   EXPECT_THAT(log->lines(), ElementsAre(AllOf(HasSubstr("FrontLRM"), HasSubstr("Range"))));
 }
 
-TEST_F(MalformedDefinitions, AnEmptyRangeIsOneWithoutColon) {
+TEST_F(MalformedDefinitions, AnEmptyRangeCountsAsOneWithoutColon) {
   EXPECT_EQ(makeWith("Range", @""), nil);
   EXPECT_EQ(log->lines().size(), 1U);
 }
 
-TEST_F(MalformedDefinitions, AWordingOfFewerThanThreePartsIsLoggedAndThereIsNoController) {
+TEST_F(MalformedDefinitions, AWordingOfFewerThanThreePartsIsLoggedAndNoControllerIsBuilt) {
   for (NSString *wording : {@"", @"{min}", @"{min}:{max}"}) {
     log->clear();
     EXPECT_EQ(makeWith("RangeLabelWording", wording), nil);
@@ -47,13 +47,13 @@ TEST_F(MalformedDefinitions, AWordingOfFewerThanThreePartsIsLoggedAndThereIsNoCo
   }
 }
 
-TEST_F(MalformedDefinitions, AMissingWordingIsLoggedAndThereIsNoController) {
+TEST_F(MalformedDefinitions, AMissingWordingIsLoggedAndNoControllerIsBuilt) {
   EXPECT_EQ(makeWith("RangeLabelWording", nil), nil);
   EXPECT_THAT(log->lines(),
               ElementsAre(AllOf(HasSubstr("FrontLRM"), HasSubstr("RangeLabelWording"))));
 }
 
-TEST_F(MalformedDefinitions, AWordingThatIsNoTextCountsAsMissing) {
+TEST_F(MalformedDefinitions, AWordingThatIsNotAStringCountsAsMissing) {
   EXPECT_EQ(makeWith("RangeLabelWording", list()), nil);
   EXPECT_EQ(makeWith("RangeLabelWording", number()), nil);
 }
@@ -64,14 +64,14 @@ TEST_F(MalformedDefinitions, AMissingRangeAllowsZeroOnly) {
   EXPECT_EQ(field<int32_t>(setting("FrontLRM"), "Min"), 0);
 }
 
-TEST_F(MalformedDefinitions, ARangeThatIsNoTextCountsAsMissing) {
+TEST_F(MalformedDefinitions, ARangeThatIsNotAStringCountsAsMissing) {
   for (id object : {static_cast<id>(list()), static_cast<id>(number())}) {
     ASSERT_NE(makeWith("Range", object), nil);
     EXPECT_EQ(field<int32_t>(setting("FrontLRM"), "Max"), 0);
   }
 }
 
-TEST_F(MalformedDefinitions, PartsTooManyAreIgnored) {
+TEST_F(MalformedDefinitions, ExtraPartsAreIgnored) {
   ASSERT_NE(makeWith("Range", @"-5:6:7"), nil);
   EXPECT_EQ(field<int32_t>(setting("FrontLRM"), "Min"), -5);
   EXPECT_EQ(field<int32_t>(setting("FrontLRM"), "Max"), 6);
@@ -84,21 +84,21 @@ TEST_F(MalformedDefinitions, ADefaultMayBeANumber) {
   EXPECT_EQ(value("FrontLRM"), 7);
 }
 
-TEST_F(MalformedDefinitions, ADefaultThatIsNeitherTextNorNumberCountsAsMissing) {
+TEST_F(MalformedDefinitions, ADefaultThatIsNeitherStringNorNumberCountsAsMissing) {
   ASSERT_NE(makeWith("DefaultValue", list()), nil);
   EXPECT_EQ(value("FrontLRM"), 0);
   ASSERT_NE(makeWith("DefaultValue", nil), nil);
   EXPECT_EQ(value("FrontLRM"), 0);
 }
 
-TEST_F(MalformedDefinitions, ANameThatIsNoTextIsIgnored) {
+TEST_F(MalformedDefinitions, ANameThatIsNotAStringIsIgnored) {
   ASSERT_NE(makeWith("SettingName", number()), nil);
   EXPECT_EQ(setting("FrontLRM"), nil);
   ASSERT_NE(makeWith("SettingName", list()), nil);
   EXPECT_EQ(setting("FrontLRM"), nil);
 }
 
-TEST_F(MalformedDefinitions, ARecordThatIsNoDictionaryIsIgnored) {
+TEST_F(MalformedDefinitions, ARecordThatIsNotADictionaryIsIgnored) {
   for (id object : {static_cast<id>(@"FrontLRM"), static_cast<id>(number()),
                     static_cast<id>([NSArray arrayWithObject:definition("FrontLRM")]),
                     static_cast<id>([NSData data])}) {
@@ -113,7 +113,7 @@ TEST_F(MalformedDefinitions, ARecordThatIsNoDictionaryIsIgnored) {
   }
 }
 
-TEST_F(MalformedDefinitions, ATicketKeyThatIsNoTextCountsAsMissing) {
+TEST_F(MalformedDefinitions, ATicketKeyThatIsNotAStringCountsAsMissing) {
   for (id object : {static_cast<id>(list()), static_cast<id>(number()), static_cast<id>(nil)}) {
     ASSERT_NE(makeWith("TicketKey", object), nil);
     settings->forgetCalls();
@@ -125,7 +125,7 @@ TEST_F(MalformedDefinitions, ATicketKeyThatIsNoTextCountsAsMissing) {
   }
 }
 
-TEST_F(MalformedDefinitions, ASummaryNameThatIsNoTextCountsAsMissing) {
+TEST_F(MalformedDefinitions, ASummaryNameThatIsNotAStringCountsAsMissing) {
   for (id object : {static_cast<id>(list()), static_cast<id>(number()), static_cast<id>(nil)}) {
     ASSERT_NE(makeWith("SummaryInfoName", object), nil);
     EXPECT_EQ([setting("FrontLRM") getSummaryInfoName], nil);
@@ -139,7 +139,7 @@ TEST_F(MalformedDefinitions, RulesOfWrongTypesAreSkipped) {
   NSMutableDictionary *table =
       rules({{"", "PPD", "AdjustDuplexPositionSupport", "true", "FrontLRM", "Value", "5"},
              {"FrontTBM", "Setting", "Value", "0", "BackLRM", "Value", "6"}});
-  [table setObject:@"a text" forKey:@"2"];
+  [table setObject:@"a string" forKey:@"2"];
   [table setObject:number() forKey:@"3"];
   [table setObject:list() forKey:@"4"];
   NSMutableDictionary *odd = [NSMutableDictionary dictionary];
@@ -160,11 +160,11 @@ TEST_F(MalformedDefinitions, RulesOfWrongTypesAreSkipped) {
   [controller CBSCInitializeView];
   [controller prepareForShow];
   [controller notifyUI];
-  EXPECT_EQ(value("BackLRM"), 6) << "the sound rule among them holds";
+  EXPECT_EQ(value("BackLRM"), 6) << "the valid rule among them is applied";
   EXPECT_EQ(value("BackTBM"), 0);
 }
 
-TEST_F(MalformedDefinitions, NothingWrongIsLoggedForSoundDefinitions) {
+TEST_F(MalformedDefinitions, NoErrorIsLoggedForValidDefinitions) {
   writeBundle();
   ASSERT_NE(make(), nil);
   EXPECT_THAT(logWithoutTraces(), IsEmpty());

@@ -1,5 +1,5 @@
-// Controllers with the real view, real settings and real rules, in sequence: print settings that
-// fail, and hosts that answer nothing.
+// Sequences of calls to controllers with the real view, real settings and real rules, also with
+// print settings that fail and hosts that return null.
 #import "ControllerFixture.h"
 #include "PanelModel.hpp"
 #import "TestPool.h"
@@ -108,7 +108,7 @@ protected:
   PanelModel model;
 };
 
-// What one use does.
+// The effects of one call.
 
 TEST_F(PanelUse, ShowingTakesTheStoredValues) {
   makeWithView();
@@ -119,7 +119,7 @@ TEST_F(PanelUse, ShowingTakesTheStoredValues) {
   EXPECT_EQ([check() state], 1);
   EXPECT_EQ(cxxString([label("BackLRM") stringValue]), "Back left-right");
   EXPECT_EQ(cxxString([rangeLabel("BackLRM") stringValue]), "-20 to 20");
-  EXPECT_EQ(cxxString([check() title]), "Own offsets for the back");
+  EXPECT_EQ(cxxString([check() title]), "Separate offsets for the back");
   EXPECT_EQ(cxxString([get<NSButton *>("btnRestore2Defalut") title]), "Back to zero");
   expectLikeTheModel();
 }
@@ -138,7 +138,7 @@ TEST_F(PanelUse, SavingWritesEachValueUnderItsKeyAndTheFlag) {
   EXPECT_EQ(settings->text(kEnableKey), "True");
 }
 
-TEST_F(PanelUse, AnEditReachesThePrintSettingsAtOnce) {
+TEST_F(PanelUse, AnEditIsWrittenToThePrintSettingsAtOnce) {
   makeWithView();
   show();
   [text("FrontLRM") setStringValue:@"-3"];
@@ -171,7 +171,7 @@ TEST_F(PanelUse, StepsWithoutPrintSettingsStayPendingInTheStepper) {
   EXPECT_EQ(value("BackLRM"), 2);
 }
 
-TEST_F(PanelUse, TheCheckboxReachesThePrintSettingsOnlyWhenSaved) {
+TEST_F(PanelUse, TheCheckboxIsWrittenToThePrintSettingsOnlyWhenSaved) {
   makeWithView();
   show();
   [check() setState:1];
@@ -183,7 +183,7 @@ TEST_F(PanelUse, TheCheckboxReachesThePrintSettingsOnlyWhenSaved) {
   EXPECT_EQ(settings->text(kEnableKey), "True");
 }
 
-TEST_F(PanelUse, ForbiddenWithTheBoxCheckedEverythingIsDisabledAndTheBoxStaysChecked) {
+TEST_F(PanelUse, WhenForbiddenEverythingIsDisabledAndACheckedBoxStaysChecked) {
   makeWithView();
   putAll();
   ppd->mark("Duplex", "None");
@@ -196,7 +196,7 @@ TEST_F(PanelUse, ForbiddenWithTheBoxCheckedEverythingIsDisabledAndTheBoxStaysChe
   EXPECT_EQ(cxxString([label("FrontLRM") stringValue]), "Front left-right");
 }
 
-TEST_F(PanelUse, RestoringDefaultsLeavesThePrintSettingsUntilTheNextRefresh) {
+TEST_F(PanelUse, RestoringDefaultsDoesNotWritePrintSettingsUntilTheNextRefresh) {
   makeWithView();
   putAll();
   show();
@@ -213,7 +213,7 @@ TEST_F(PanelUse, RestoringDefaultsLeavesThePrintSettingsUntilTheNextRefresh) {
   EXPECT_EQ(settings->text(kEnableKey), "False");
 }
 
-TEST_F(PanelUse, RestoringDefaultsIgnoresTheDefinitionsDefault) {
+TEST_F(PanelUse, RestoringDefaultsIgnoresTheDefaultInTheDefinition) {
   NSMutableDictionary *record = definition("FrontLRM");
   [record setObject:@"9" forKey:@"DefaultValue"];
   NSMutableDictionary *all = fourDefinitions();
@@ -243,7 +243,7 @@ TEST_F(PanelUse, RestoringDefaultsOutsideTheRangeShowsZeroFirstAndThenTheNearest
   get<id>("FrontTBMText") = real;
   [before release];
   EXPECT_EQ(lines.front(), "field.setStringValue:0");
-  EXPECT_EQ(shown("FrontTBM"), "5") << "which the setting put there, through its own item";
+  EXPECT_EQ(shown("FrontTBM"), "5") << "the setting showed it through its item";
   EXPECT_EQ(value("FrontTBM"), 5);
 }
 
@@ -256,7 +256,7 @@ TEST_F(PanelUse, ADefaultRuleDecidesWhatIsFirstShownForASettingThatIsNotStored) 
   EXPECT_EQ(settings->text("BackTBMTicket"), "4");
 }
 
-TEST_F(PanelUse, AStoredValueReplacesWhatAValueRuleJustSet) {
+TEST_F(PanelUse, AStoredValueReplacesTheValueThatARuleJustSet) {
   writeBundle(fourDefinitions(),
               rules({{"FrontTBM", "Setting", "Value", "9", "BackTBM", "Value", "4"}}));
   makeWithView();
@@ -287,7 +287,7 @@ TEST_F(PanelUse, ARangeThatARuleChangedShowsAtTheNextRefreshAndNotInTheEntryFiel
   EXPECT_EQ(field<int32_t>(text("FrontTBM"), "Max"), 20);
 }
 
-TEST_F(PanelUse, AnEntryFieldThatARuleMadeUnusableStaysLightGray) {
+TEST_F(PanelUse, AnEntryFieldThatARuleDisabledStaysLightGray) {
   writeBundle(fourDefinitions(), mixedRules());
   makeWithView();
   settings->put(kEnableKey, "True");
@@ -304,8 +304,8 @@ TEST_F(PanelUse, AnEntryFieldThatARuleMadeUnusableStaysLightGray) {
 
 class PanelUseFailing : public PanelUse {
 protected:
-  /// Runs the use once for each of its reads and writes, of which that one fails, and compares what
-  /// is left with the model.
+  /// Runs the use once for each of its reads and writes, which fails in that run, and compares the
+  /// result with the model.
   template <class Real, class Modelled> void failEachAccess(Real real, Modelled modelled) {
     for (bool failsRead : {true, false}) {
       for (int n = 1;; ++n) {
@@ -351,7 +351,7 @@ protected:
   }
 };
 
-TEST_F(PanelUseFailing, ShowingLosesOnlyWhatItCouldNotReadOrWrite) {
+TEST_F(PanelUseFailing, FailureWhileShowingLosesOnlyTheFailedAccess) {
   failEachAccess(
       [this] {
         [controller prepareForShow];
@@ -365,7 +365,7 @@ TEST_F(PanelUseFailing, ShowingLosesOnlyWhatItCouldNotReadOrWrite) {
       });
 }
 
-TEST_F(PanelUseFailing, AnActionLosesOnlyWhatItCouldNotReadOrWrite) {
+TEST_F(PanelUseFailing, FailureInAnActionLosesOnlyTheFailedAccess) {
   failEachAccess(
       [this] {
         [text("BackLRM") setStringValue:@"9"];
@@ -379,8 +379,8 @@ TEST_F(PanelUseFailing, AnActionLosesOnlyWhatItCouldNotReadOrWrite) {
       });
 }
 
-TEST_F(PanelUseFailing, SavingLosesOnlyWhatItCouldNotReadOrWrite) {
-  // A write that fails is followed by a read: save twice, so that reads can be counted too.
+TEST_F(PanelUseFailing, FailureWhileSavingLosesOnlyTheFailedAccess) {
+  // A failed write is followed by a read: save twice, so that reads can be counted too.
   failEachAccess(
       [this] {
         [controller notifyUI];
@@ -394,7 +394,7 @@ TEST_F(PanelUseFailing, SavingLosesOnlyWhatItCouldNotReadOrWrite) {
       });
 }
 
-TEST_F(PanelUseFailing, RestoringLosesOnlyWhatItCouldNotReadOrWrite) {
+TEST_F(PanelUseFailing, FailureWhileRestoringLosesOnlyTheFailedAccess) {
   failEachAccess(
       [this] {
         [controller getTicket];
@@ -408,7 +408,7 @@ TEST_F(PanelUseFailing, RestoringLosesOnlyWhatItCouldNotReadOrWrite) {
       });
 }
 
-TEST_F(PanelUse, AWriteThatFailsShowsWhatIsStored) {
+TEST_F(PanelUse, AFailedWriteShowsTheStoredValue) {
   makeWithView();
   putAll();
   show();
@@ -420,7 +420,7 @@ TEST_F(PanelUse, AWriteThatFailsShowsWhatIsStored) {
   EXPECT_THAT(logWithoutTraces(), testing::Not(testing::Contains(kFlagNotWritten)));
 }
 
-TEST_F(PanelUse, AWriteThatFailsForASettingThatIsNotStoredShowsItsDefault) {
+TEST_F(PanelUse, AFailedWriteOfASettingThatIsNotStoredShowsItsDefault) {
   makeWithView();
   settings->failWritesOf("FrontLRMTicket");
   show();
@@ -429,16 +429,16 @@ TEST_F(PanelUse, AWriteThatFailsForASettingThatIsNotStoredShowsItsDefault) {
   EXPECT_EQ(shown("FrontLRM"), "0");
 }
 
-// A host that answers nothing.
+// A host that returns null.
 
-TEST_F(PanelUse, EachRequestForPrintSettingsMayGoUnanswered) {
+TEST_F(PanelUse, EachRequestForPrintSettingsMayReturnNull) {
   putAll();
   for (int n = 1;; ++n) {
     SCOPED_TRACE(n);
     Pool pool;
     makeWithView();
     host->settingsRequests = 0;
-    host->settingsRequestWithoutAnswer = n;
+    host->failingSettingsRequest = n;
     [controller prepareForShow];
     [controller getTicket];
     [controller saveTicket];
@@ -454,14 +454,14 @@ TEST_F(PanelUse, EachRequestForPrintSettingsMayGoUnanswered) {
   }
 }
 
-TEST_F(PanelUse, AHostThatNeverAnswersLeavesThePanelUsable) {
+TEST_F(PanelUse, AHostThatAlwaysReturnsNullLeavesThePanelUsable) {
   host->settings = nullptr;
   makeWithView();
   [controller prepareForShow];
   EXPECT_FALSE([controller getTicket]);
   EXPECT_FALSE([controller saveTicket]);
   EXPECT_EQ([[controller getSummaryInfo] count], 6U);
-  EXPECT_EQ(cxxString([check() title]), "Own offsets for the back");
+  EXPECT_EQ(cxxString([check() title]), "Separate offsets for the back");
   EXPECT_EQ(shown("FrontLRM"), "0");
   EXPECT_TRUE([text("FrontLRM") isEnabled]);
 }

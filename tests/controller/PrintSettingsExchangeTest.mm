@@ -1,5 +1,5 @@
-// How values and the enable flag travel between the job's print settings, the settings and the
-// checkbox: which call follows which, and what the log is told.
+// Transfer of the values and the enable flag between the job's print settings, the settings and the
+// checkbox: the order of calls, and what is logged.
 #import "ControllerFixture.h"
 
 using namespace imageposition::test;
@@ -38,7 +38,7 @@ Lines onAll(const std::string &operation) {
 
 // Reading.
 
-TEST_F(Exchange, ReadingTakesTheFlagThenTheValuesThenLooksAtAvailability) {
+TEST_F(Exchange, ReadingTakesTheFlagThenTheValuesThenUpdatesAvailability) {
   EXPECT_EQ([controller getTicket], YES);
   EXPECT_EQ(upTo("self.grayUI"),
             (Lines{"self.getTicket", "host.printSettings", "self.getEnableImgPstAdjTicket:settings",
@@ -46,14 +46,14 @@ TEST_F(Exchange, ReadingTakesTheFlagThenTheValuesThenLooksAtAvailability) {
              onAll("getTicket:settings")));
 }
 
-TEST_F(Exchange, ReadingWithoutPrintSettingsAnswersFalseAndOnlyLooksAtAvailability) {
+TEST_F(Exchange, ReadingWithoutPrintSettingsReturnsFalseAndOnlyUpdatesAvailability) {
   host->settings = nullptr;
   EXPECT_EQ([controller getTicket], NO);
   EXPECT_EQ(upTo("self.grayUI"), (Lines{"self.getTicket", "host.printSettings"}));
   EXPECT_THAT(logWithoutTraces(), IsEmpty());
 }
 
-TEST_F(Exchange, ReadingWithoutAHostAnswersFalseAndOnlyLooksAtAvailability) {
+TEST_F(Exchange, ReadingWithoutAHostReturnsFalseAndOnlyUpdatesAvailability) {
   id callback = get<id>("PDECallback");
   get<id>("PDECallback") = nil;
   EXPECT_EQ([controller getTicket], NO);
@@ -62,7 +62,7 @@ TEST_F(Exchange, ReadingWithoutAHostAnswersFalseAndOnlyLooksAtAvailability) {
   get<id>("PDECallback") = callback;
 }
 
-TEST_F(Exchange, ReadingLooksAtAvailabilityOnce) {
+TEST_F(Exchange, ReadingUpdatesAvailabilityOnce) {
   [controller getTicket];
   const Lines lines = journal.take();
   EXPECT_EQ(std::count(lines.begin(), lines.end(), "self.grayUI"), 1);
@@ -75,7 +75,7 @@ TEST_F(Exchange, ReadingWritesNothing) {
 }
 
 struct FlagRow {
-  const char *stored; // null: no such entry
+  const char *stored; // null if there is no such entry
   int state;
   Lines log;
 };
@@ -86,7 +86,7 @@ std::ostream &operator<<(std::ostream &out, const FlagRow &row) {
 
 class ExchangeFlag : public Exchange, public testing::WithParamInterface<FlagRow> {};
 
-TEST_P(ExchangeFlag, ChecksTheBoxOnlyForTrueAndLogsEveryFlagThatItRead) {
+TEST_P(ExchangeFlag, ChecksTheBoxOnlyForTrueAndLogsEverySuccessfulRead) {
   if (GetParam().stored)
     settings->put(kEnableKey, GetParam().stored);
   check()->stateValue = 1 - GetParam().state;
@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FlagRow{"True ", 0, {kFlagRead}}, FlagRow{"1", 0, {kFlagRead}},
                     FlagRow{"", 0, {kFlagRead}}, FlagRow{nullptr, 0, {}}));
 
-TEST_F(Exchange, AFlagThatIsNoTextUnchecksTheBox) {
+TEST_F(Exchange, AFlagThatIsNotAStringUnchecksTheBox) {
   settings->putObject(kEnableKey, [NSNumber numberWithInt:1]);
   check()->stateValue = 1;
   [controller getEnableImgPstAdjTicket:settings->handle()];
@@ -111,7 +111,7 @@ TEST_F(Exchange, AFlagThatIsNoTextUnchecksTheBox) {
   EXPECT_THAT(log->lines(), ElementsAre(kFlagRead));
 }
 
-TEST_F(Exchange, AFlagReadAsNoValueUnchecksTheBox) {
+TEST_F(Exchange, AFlagReadAsNullUnchecksTheBox) {
   settings->putNothing(kEnableKey);
   check()->stateValue = 1;
   [controller getEnableImgPstAdjTicket:settings->handle()];
@@ -134,7 +134,7 @@ TEST_F(Exchange, WithoutTheFlagReadingUnchecksTheBoxAndLogsNothing) {
   EXPECT_THAT(logWithoutTraces(), IsEmpty());
 }
 
-TEST_F(Exchange, ReadingLogsTheFlagBeforeItLooksAtAvailability) {
+TEST_F(Exchange, ReadingLogsTheFlagBeforeItUpdatesAvailability) {
   settings->put(kEnableKey, "False");
   [controller getTicket];
   EXPECT_THAT(log->lines(), ElementsAre(kFlagRead, kCheckTrace));
@@ -150,14 +150,14 @@ TEST_F(Exchange, SavingWritesTheValuesThenTheFlag) {
   EXPECT_THAT(log->lines(), IsEmpty());
 }
 
-TEST_F(Exchange, SavingWithoutPrintSettingsAnswersFalseAndWritesNothing) {
+TEST_F(Exchange, SavingWithoutPrintSettingsReturnsFalseAndWritesNothing) {
   host->settings = nullptr;
   EXPECT_EQ([controller saveTicket], NO);
   EXPECT_THAT(journal.take(), ElementsAre("self.saveTicket", "host.printSettings"));
   EXPECT_THAT(log->lines(), IsEmpty());
 }
 
-TEST_F(Exchange, SavingWithoutAHostAnswersFalseAndWritesNothing) {
+TEST_F(Exchange, SavingWithoutAHostReturnsFalseAndWritesNothing) {
   id callback = get<id>("PDECallback");
   get<id>("PDECallback") = nil;
   EXPECT_EQ([controller saveTicket], NO);
@@ -173,7 +173,7 @@ struct SavedRow {
 
 class ExchangeSavedFlag : public Exchange, public testing::WithParamInterface<SavedRow> {};
 
-TEST_P(ExchangeSavedFlag, IsTrueForEveryStateButZeroAndNotLocked) {
+TEST_P(ExchangeSavedFlag, IsTrueForEveryStateExceptZeroAndNotLocked) {
   check()->stateValue = GetParam().state;
   [controller setEnableImgPstAdjTicket:settings->handle()];
   ASSERT_EQ(settings->calls().size(), 1U);
@@ -203,12 +203,12 @@ TEST_F(Exchange, ALockedFlagIsLoggedAsNotWritten) {
   EXPECT_THAT(log->lines(), ElementsAre(kFlagNotWritten));
 }
 
-TEST_F(Exchange, SavingDoesNotLookAtAvailability) {
+TEST_F(Exchange, SavingDoesNotUpdateAvailability) {
   [controller saveTicket];
   EXPECT_THAT(journal.take(), testing::Not(testing::Contains("self.grayUI")));
 }
 
-// Getting ready.
+// Preparing to show.
 
 class ExchangeOrder : public Exchange {
 protected:
@@ -269,7 +269,7 @@ TEST_F(ExchangeOrder, ANameDefinedTwiceIsPreparedTwice) {
   EXPECT_EQ(upTo("self.notifyUI").size(), 5U);
 }
 
-TEST_F(ExchangeOrder, WithoutPrintSettingsTheSettingsArePreparedWithNone) {
+TEST_F(ExchangeOrder, WithoutPrintSettingsTheSettingsArePreparedWithNull) {
   useDefinitions(definitions({definition("FrontTBM")}));
   host->settings = nullptr;
   [controller prepareForShow];
@@ -277,7 +277,7 @@ TEST_F(ExchangeOrder, WithoutPrintSettingsTheSettingsArePreparedWithNone) {
                                           "FrontTBM.getTicket:null"}));
 }
 
-TEST_F(ExchangeOrder, WithoutAHostTheSettingsArePreparedWithNone) {
+TEST_F(ExchangeOrder, WithoutAHostTheSettingsArePreparedWithNull) {
   useDefinitions(definitions({definition("FrontTBM")}));
   id callback = get<id>("PDECallback");
   get<id>("PDECallback") = nil;
@@ -287,7 +287,7 @@ TEST_F(ExchangeOrder, WithoutAHostTheSettingsArePreparedWithNone) {
   get<id>("PDECallback") = callback;
 }
 
-TEST_F(ExchangeOrder, GettingReadyEndsWithOneRefresh) {
+TEST_F(ExchangeOrder, PreparingEndsWithOneRefresh) {
   useDefinitions(definitions({definition("FrontTBM")}));
   [controller prepareForShow];
   const Lines lines = journal.take();
@@ -296,7 +296,7 @@ TEST_F(ExchangeOrder, GettingReadyEndsWithOneRefresh) {
   EXPECT_EQ(std::count(lines.begin(), lines.end(), "host.printSettings"), 2);
 }
 
-TEST_F(ExchangeOrder, GettingReadyLeavesTheFlagAlone) {
+TEST_F(ExchangeOrder, PreparingDoesNotReadTheFlag) {
   useDefinitions(fourDefinitions());
   settings->put(kEnableKey, "True");
   [controller prepareForShow];

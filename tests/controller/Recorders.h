@@ -1,5 +1,5 @@
-/// Stand-ins for what the controller's fields hold. Each writes what is asked of it into a journal,
-/// as "NAME.operation" with the argument behind the colon.
+/// Stand-ins for the objects in the controller's fields. Each records its calls in a journal as
+/// "NAME.method", with the argument after the colon.
 #ifndef IMAGEPOSITION_TESTS_CONTROLLER_RECORDERS_H
 #define IMAGEPOSITION_TESTS_CONTROLLER_RECORDERS_H
 
@@ -9,7 +9,7 @@
 
 #include <string>
 
-/// What all of them share. `release` is written down when `recordsReleases` is set.
+/// The base class. Records `release` if `recordsReleases` is set.
 @interface Recorder : NSObject {
 @public
   imageposition::test::Journal *journal;
@@ -20,8 +20,8 @@
 - (void)record:(const std::string &)operation;
 @end
 
-/// An entry field, stepper, label, checkbox or button. Colours are written "black", "lightGray" or
-/// by their description.
+/// An entry field, stepper, label, checkbox or button. Colours are recorded as "black", "lightGray"
+/// or their description.
 @interface RecordingControl : Recorder {
 @public
   NSInteger stateValue;
@@ -30,11 +30,11 @@
 - (void)catchEventCall;
 @end
 
-/// A control on which a person acts.
+/// A control that the user operates.
 @interface RecordingActor : RecordingControl <ActionInterface>
 @end
 
-/// A setting. The print settings that it is handed are written "settings", or "null".
+/// A setting. Print settings are recorded as "settings" or "null".
 @interface RecordingSetting : Recorder {
 @public
   std::string *value;
@@ -43,12 +43,13 @@
 }
 @end
 
-/// A bundle whose text for KEY is "[KEY]"; a look-up with a default value or a table says so.
+/// A bundle whose string for KEY is "[KEY]"; a look-up with a default value or a table returns a
+/// complaint.
 @interface RecordingStrings : Recorder
 @end
 
-/// The controller, writing down its own operations as they are called, "self.grayUI". The journal
-/// is the class's, because construction already calls some.
+/// A controller that records calls of its own methods as "self.grayUI". The journal belongs to the
+/// class, because the initializer already calls some.
 @interface RecordingController : MorvaADPSettingsCollectorRV2
 + (void)recordInto:(imageposition::test::Journal *)journal;
 @end

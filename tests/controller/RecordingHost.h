@@ -1,4 +1,4 @@
-/// A print dialog for tests, as far as the plug-in sees one.
+/// The plug-in's view of a print dialog, for tests.
 #ifndef IMAGEPOSITION_TESTS_CONTROLLER_RECORDINGHOST_H
 #define IMAGEPOSITION_TESTS_CONTROLLER_RECORDINGHOST_H
 
@@ -6,7 +6,7 @@
 
 #include "Journal.hpp"
 
-/// Writes "host.ppdFile" and "host.printSettings" into its journal, when it has one.
+/// Writes "host.ppdFile" and "host.printSettings" to its journal, if it has one.
 @interface RecordingHost : NSObject <MorvaADPPdeCallbackRV2> {
 @public
   imageposition::test::Journal *journal;
@@ -14,8 +14,8 @@
   PMPrintSettings settings;
   int ppdRequests;
   int settingsRequests;
-  /// That request for print settings, counted from 1 since the test set it, is answered with null.
-  int settingsRequestWithoutAnswer;
+  /// The request for print settings (from 1, counted since the test set this) that returns null.
+  int failingSettingsRequest;
 }
 + (RecordingHost *)hostWithPpd:(ppd_file_t *)ppd settings:(PMPrintSettings)settings;
 @end

@@ -20,7 +20,7 @@
   ++settingsRequests;
   if (journal != nullptr)
     journal->add("host.printSettings");
-  if (settingsRequestWithoutAnswer > 0 && --settingsRequestWithoutAnswer == 0)
+  if (failingSettingsRequest > 0 && --failingSettingsRequest == 0)
     return nullptr;
   return settings;
 }

@@ -1,4 +1,4 @@
-// What the print dialog's summary is given.
+// The entries for the print dialog's summary.
 #import "ControllerFixture.h"
 #import "SilentBundle.h"
 
@@ -29,7 +29,7 @@ protected:
 
   RecordingControl *check() { return control("chkEnableImagePositionAdjust"); }
 
-  /// What happens after the print settings were read and availability was looked at a second time.
+  /// The calls after reading the print settings and checking availability a second time.
   Lines afterTheCheck() {
     const Lines lines = journal.take();
     auto last = std::find(lines.rbegin(), lines.rend(), "self.checkImagePositionAdjustValid");
@@ -63,7 +63,7 @@ TEST_F(SummaryCalls, ReadsTheCheckboxTheValuesAndTheStateThenTheTitles) {
                           "strings.localize:EnableImgPstAdj"));
 }
 
-TEST_F(SummaryCalls, UncheckedTheFrontTitlesArePlain) {
+TEST_F(SummaryCalls, WhileUncheckedTheFrontTitlesNameNoSide) {
   [controller getSummaryInfo];
   EXPECT_THAT(afterTheCheck(),
               ElementsAre("check.stringValue", "FrontLRM.getValueString", "FrontTBM.getValueString",
@@ -74,7 +74,7 @@ TEST_F(SummaryCalls, UncheckedTheFrontTitlesArePlain) {
                           "strings.localize:EnableImgPstAdj"));
 }
 
-TEST_F(SummaryCalls, CheckedAllValuesStandUnderTheirSummaryNames) {
+TEST_F(SummaryCalls, WhileCheckedAllValuesHaveTheirSummaryNames) {
   settings->put(kEnableKey, "True");
   NSDictionary *summary = [controller getSummaryInfo];
   EXPECT_EQ([summary count], 6U);
@@ -87,7 +87,7 @@ TEST_F(SummaryCalls, CheckedAllValuesStandUnderTheirSummaryNames) {
                           "[BackLRMSummary]", "[BackTBMSummary]"));
 }
 
-TEST_F(SummaryCalls, UncheckedTheFrontValuesStandUnderThePlainTitles) {
+TEST_F(SummaryCalls, WhileUncheckedTheFrontValuesHaveTitlesWithoutASide) {
   NSDictionary *summary = [controller getSummaryInfo];
   EXPECT_EQ([summary count], 6U);
   EXPECT_EQ(at(summary, "[LRM]"), "FrontLRM's value");
@@ -98,7 +98,7 @@ TEST_F(SummaryCalls, UncheckedTheFrontValuesStandUnderThePlainTitles) {
                                           "[BackTBMSummary]"));
 }
 
-TEST_F(SummaryCalls, ForbiddenItIsEmptyButThere) {
+TEST_F(SummaryCalls, WhenForbiddenItIsEmptyButNotNull) {
   ppd->mark("Duplex", "None");
   NSDictionary *summary = [controller getSummaryInfo];
   ASSERT_NE(summary, nil);
@@ -108,12 +108,12 @@ TEST_F(SummaryCalls, ForbiddenItIsEmptyButThere) {
   EXPECT_EQ(lines.back(), "self.checkImagePositionAdjustValid");
 }
 
-TEST_F(SummaryCalls, WithoutPrintSettingsItTellsWhatTheSettingsHold) {
+TEST_F(SummaryCalls, WithoutPrintSettingsItHasTheSettingsValues) {
   host->settings = nullptr;
   EXPECT_EQ(at([controller getSummaryInfo], "[BackTBMSummary]"), "BackTBM's value");
 }
 
-TEST_F(SummaryCalls, EachCallMakesADictionaryOfItsOwn) {
+TEST_F(SummaryCalls, EachCallReturnsANewDictionary) {
   EXPECT_NE([controller getSummaryInfo], [controller getSummaryInfo]);
 }
 
@@ -127,28 +127,28 @@ protected:
   }
 };
 
-TEST_F(Summary, ShowsWhatThePrintSettingsHold) {
+TEST_F(Summary, ShowsTheValuesInThePrintSettings) {
   [controller prepareView];
   settings->put(kEnableKey, "True");
   settings->put("FrontLRMTicket", "-3");
   settings->put("BackTBMTicket", "7");
   NSDictionary *summary = [controller getSummaryInfo];
-  EXPECT_EQ(at(summary, "Own offsets for the back"), "1");
+  EXPECT_EQ(at(summary, "Separate offsets for the back"), "1");
   EXPECT_EQ(at(summary, "Front left-right shift"), "-3");
   EXPECT_EQ(at(summary, "Front top-bottom shift"), "0");
   EXPECT_EQ(at(summary, "Back left-right shift"), "0");
   EXPECT_EQ(at(summary, "Back top-bottom shift"), "7");
-  EXPECT_THAT(order(summary), ElementsAre("Own offsets for the back", "Front left-right shift",
+  EXPECT_THAT(order(summary), ElementsAre("Separate offsets for the back", "Front left-right shift",
                                           "Front top-bottom shift", "Back left-right shift",
                                           "Back top-bottom shift"));
 }
 
-TEST_F(Summary, AnUncheckedBoxSaysZero) {
+TEST_F(Summary, AnUncheckedBoxHasTheValueZero) {
   [controller prepareView];
   settings->put("FrontLRMTicket", "-3");
   NSDictionary *summary = [controller getSummaryInfo];
   EXPECT_EQ([summary count], 6U);
-  EXPECT_EQ(at(summary, "Own offsets for the back"), "0");
+  EXPECT_EQ(at(summary, "Separate offsets for the back"), "0");
   EXPECT_EQ(at(summary, "Left-right"), "-3");
   EXPECT_EQ(at(summary, "Top-bottom"), "0");
 }
@@ -164,18 +164,19 @@ TEST_F(Summary, SettingsThatAreNotStoredShowTheirDefaults) {
   EXPECT_EQ(at([controller getSummaryInfo], "Back left-right shift"), "4");
 }
 
-TEST_F(Summary, BeforeTheViewIsThereTheBoxCountsAsOff) {
+TEST_F(Summary, BeforeTheViewIsLoadedTheBoxCountsAsUnchecked) {
   settings->put(kEnableKey, "True");
   settings->put("FrontLRMTicket", "-3");
   NSDictionary *summary = [controller getSummaryInfo];
   EXPECT_EQ([summary count], 6U);
-  EXPECT_EQ(at(summary, "Own offsets for the back"), "0");
+  EXPECT_EQ(at(summary, "Separate offsets for the back"), "0");
   EXPECT_EQ(at(summary, "Left-right"), "-3");
-  EXPECT_THAT(order(summary), ElementsAre("Own offsets for the back", "Left-right", "Top-bottom",
-                                          "Back left-right shift", "Back top-bottom shift"));
+  EXPECT_THAT(order(summary),
+              ElementsAre("Separate offsets for the back", "Left-right", "Top-bottom",
+                          "Back left-right shift", "Back top-bottom shift"));
 }
 
-TEST_F(Summary, AskingForItDoesNotLoadTheView) {
+TEST_F(Summary, DoesNotLoadTheView) {
   [controller getSummaryInfo];
   EXPECT_EQ(get<id>("ImagePositionPrintView"), nil);
 }
@@ -187,7 +188,7 @@ TEST_F(Summary, WritesNothing) {
   EXPECT_EQ(settings->count(TestPrintSettings::Access::Set), 0U);
 }
 
-TEST_F(Summary, TitlesWithoutTextsAreTheKeys) {
+TEST_F(Summary, WithoutLocalizedStringsTheSummaryTitlesAreTheKeys) {
   TestBundle plain;
   plain.writePropertyList("SettingInfo", fourDefinitions());
   plain.writePropertyList("ConstraintInfo", [NSDictionary dictionary]);
@@ -211,7 +212,7 @@ TEST_F(Summary, EqualTitlesShareOneEntryWithoutHarm) {
   EXPECT_EQ(order(summary).size(), 5U);
 }
 
-// The key stands in for a text that is missing; here there is no key either.
+// The key replaces a missing string; here there is no key either.
 TEST_F(Summary, AValueWithoutATitleHasNoEntry) {
   NSMutableDictionary *records = fourDefinitions();
   [[records objectForKey:@"2"] removeObjectForKey:@"SummaryInfoName"];
@@ -226,7 +227,7 @@ TEST_F(Summary, AValueWithoutATitleHasNoEntry) {
   EXPECT_THAT(order(summary), ElementsAre("EnableImgPstAdj", "LRM", "TBM", "BackTBMSummary"));
 }
 
-// A missing setting has neither a name nor a value, and the rest of the summary stands.
+// A missing setting has neither name nor value; the rest of the summary is complete.
 TEST_F(Summary, MissingSettingsDoNoHarm) {
   writeBundle(definitions({definition("FrontLRM")}));
   ASSERT_NE(make(), nil);

@@ -1,4 +1,4 @@
-// What a person's actions and the dialog's refreshes set off.
+// The effects of the user's actions and the dialog's refreshes.
 #import "ControllerFixture.h"
 
 using namespace imageposition::test;
@@ -13,15 +13,15 @@ protected:
     makeHollow();
   }
 
-  /// The journal up to the availability pass, which has tests of its own.
+  /// The journal up to the update of availability, which AvailabilityTest covers.
   Lines beforeGraying() {
     Lines lines = journal.take();
     const auto graying = std::find(lines.begin(), lines.end(), "self.grayUI");
-    EXPECT_NE(graying, lines.end()) << "availability was not looked at";
+    EXPECT_NE(graying, lines.end()) << "availability was not updated";
     return Lines(lines.begin(), graying);
   }
 
-  /// How often the availability pass ran, and what came after the last one.
+  /// How often availability was updated, and the calls after the last update.
   static std::size_t gray(const Lines &lines) {
     return std::count(lines.begin(), lines.end(), "self.grayUI");
   }
@@ -37,7 +37,7 @@ Lines onAll(const std::string &operation) {
 const Lines kTitles = {"strings.localize:EnableImgPstAdj", "check.setTitle:[EnableImgPstAdj]",
                        "strings.localize:RestoreDefaults", "button.setTitle:[RestoreDefaults]"};
 
-/// Without the look-ups of texts.
+/// The lines without look-ups of strings.
 Lines withoutStrings(const Lines &lines) {
   Lines kept;
   for (const std::string &line : lines)
@@ -46,19 +46,19 @@ Lines withoutStrings(const Lines &lines) {
   return kept;
 }
 
-TEST_F(UserAction, ARefreshTakesAllValuesThenAppliesAllRulesThenLooksAtAvailability) {
+TEST_F(UserAction, ARefreshTakesAllValuesThenAppliesAllRulesThenUpdatesAvailability) {
   [controller notifyUI];
   EXPECT_EQ(beforeGraying(), (Lines{"self.notifyUI", "host.printSettings"} + kTitles +
                               onAll("checkUI:settings") + onAll("applyUIConstraint:settings")));
 }
 
-TEST_F(UserAction, ARefreshWithoutPrintSettingsSetsTheTitlesAndLooksAtAvailability) {
+TEST_F(UserAction, ARefreshWithoutPrintSettingsSetsTheTitlesAndUpdatesAvailability) {
   host->settings = nullptr;
   [controller notifyUI];
   EXPECT_EQ(beforeGraying(), (Lines{"self.notifyUI", "host.printSettings"} + kTitles));
 }
 
-TEST_F(UserAction, ARefreshWithoutAHostSetsTheTitlesAndLooksAtAvailability) {
+TEST_F(UserAction, ARefreshWithoutAHostSetsTheTitlesAndUpdatesAvailability) {
   id callback = get<id>("PDECallback");
   get<id>("PDECallback") = nil;
   [controller notifyUI];
@@ -66,7 +66,7 @@ TEST_F(UserAction, ARefreshWithoutAHostSetsTheTitlesAndLooksAtAvailability) {
   get<id>("PDECallback") = callback;
 }
 
-TEST_F(UserAction, ARefreshLooksAtAvailabilityOnceAndLast) {
+TEST_F(UserAction, ARefreshUpdatesAvailabilityOnceAndLast) {
   [controller notifyUI];
   const Lines lines = journal.take();
   EXPECT_EQ(gray(lines), 1U);
@@ -74,13 +74,13 @@ TEST_F(UserAction, ARefreshLooksAtAvailabilityOnceAndLast) {
   EXPECT_EQ(lines.back(), "BackTBMRangeLabel.setTextColor:lightGray");
 }
 
-TEST_F(UserAction, ARefreshAsksForPrintSettingsEachTime) {
+TEST_F(UserAction, ARefreshRequestsThePrintSettingsEachTime) {
   [controller notifyUI];
   [controller notifyUI];
   EXPECT_EQ(host->settingsRequests, 2);
 }
 
-TEST_F(UserAction, AnActionIsHeardThenThePanelIsRefreshedThenTheValuesAreChecked) {
+TEST_F(UserAction, AnActionNotifiesTheSenderThenRefreshesThePanelThenChecksTheValues) {
   [controller UIItemActionListener:get<id>("BackLRMStepper")];
   const Lines lines = journal.take();
   EXPECT_EQ(Lines(lines.begin(), lines.begin() + 4),
@@ -91,7 +91,7 @@ TEST_F(UserAction, AnActionIsHeardThenThePanelIsRefreshedThenTheValuesAreChecked
   EXPECT_EQ(gray(lines), 1U);
 }
 
-TEST_F(UserAction, EverySettingIsRefreshedWhicheverControlActed) {
+TEST_F(UserAction, EverySettingIsRefreshedWhicheverControlSentTheAction) {
   [controller UIItemActionListener:get<id>("FrontTBMText")];
   const Lines lines = journal.take();
   for (const std::string &line : onAll("checkUI:settings") + onAll("checkValue"))
@@ -106,8 +106,8 @@ TEST_F(UserAction, AnActionWithoutASenderStillRefreshes) {
   EXPECT_EQ(lines.back(), "BackTBM.checkValue");
 }
 
-TEST_F(UserAction, ASenderThatIsNoActionItemIsNotToldButThePanelIsRefreshed) {
-  // It answers the operation all the same; only the protocol counts.
+TEST_F(UserAction, ASenderWithoutTheProtocolIsNotNotifiedButThePanelIsRefreshed) {
+  // It implements the method, but only the protocol counts.
   [controller UIItemActionListener:get<id>("chkEnableImagePositionAdjust")];
   const Lines lines = journal.take();
   EXPECT_EQ(lines[0], "self.UIItemActionListener:");
@@ -115,17 +115,17 @@ TEST_F(UserAction, ASenderThatIsNoActionItemIsNotToldButThePanelIsRefreshed) {
   EXPECT_EQ(lines.back(), "BackTBM.checkValue");
 }
 
-TEST_F(UserAction, ASenderThatAnswersNothingDoesNoHarm) {
+TEST_F(UserAction, ASenderWithoutMethodsDoesNoHarm) {
   [controller UIItemActionListener:[[[NSObject alloc] init] autorelease]];
   EXPECT_EQ(journal.take().back(), "BackTBM.checkValue");
 }
 
-TEST_F(UserAction, CheckingTheValuesAsksEachSettingInOrder) {
+TEST_F(UserAction, CheckingTheValuesCallsEachSettingInOrder) {
   [controller checkSettingsValue];
   EXPECT_EQ(journal.take(), (Lines{"self.checkSettingsValue"} + onAll("checkValue")));
 }
 
-TEST_F(UserAction, TheCheckboxLooksAtAvailabilityAndNothingElse) {
+TEST_F(UserAction, TheCheckboxUpdatesAvailabilityAndNothingElse) {
   [controller clickEnableImgPositionAdjust:get<id>("chkEnableImagePositionAdjust")];
   const Lines clicked = journal.take();
   [controller grayUI];
@@ -134,7 +134,7 @@ TEST_F(UserAction, TheCheckboxLooksAtAvailabilityAndNothingElse) {
   EXPECT_TRUE(settings->calls().empty());
 }
 
-TEST_F(UserAction, RestoringDefaultsUnchecksAndZeroesTwiceThenLooksAtAvailability) {
+TEST_F(UserAction, RestoringDefaultsUnchecksAndZeroesTwiceThenUpdatesAvailability) {
   [controller restoreDefaults];
   Lines texts;
   for (const std::string &name : kNames)
@@ -161,7 +161,7 @@ TEST_F(UserAction, TheButtonRestoresTheDefaults) {
   EXPECT_EQ(clicked, journal.take());
 }
 
-TEST_F(UserAction, AfterTheButtonTheBackIsUnusableAndTheFrontNamedPlainly) {
+TEST_F(UserAction, AfterTheButtonTheBackIsDisabledAndTheFrontNamesNameNoSide) {
   control("chkEnableImagePositionAdjust")->stateValue = 1;
   [controller clickbtnReasto2Default:nil];
   const Lines lines = journal.take();
@@ -170,14 +170,14 @@ TEST_F(UserAction, AfterTheButtonTheBackIsUnusableAndTheFrontNamedPlainly) {
   EXPECT_THAT(lines, testing::Contains("FrontLRMText.setEnabled:1"));
 }
 
-TEST_F(UserAction, TheOtherRestoreOperationDoesNothingAtAll) {
+TEST_F(UserAction, TheOtherRestoreActionDoesNothing) {
   [controller clickRestore2Default:get<id>("btnRestore2Defalut")];
   [controller clickRestore2Default:nil];
   EXPECT_TRUE(journal.take().empty());
   EXPECT_TRUE(log->lines().empty());
 }
 
-TEST_F(UserAction, WithoutTextsTheTitlesAreTheKeys) {
+TEST_F(UserAction, WithoutLocalizedStringsTheTitlesAreTheKeys) {
   TestBundle empty;
   id strings = get<id>("Bundle");
   get<id>("Bundle") = empty.bundle();
@@ -198,7 +198,7 @@ TEST_F(UserAction, MissingSettingsAreSkipped) {
   get<id>("FrontTBMSettings") = missing;
 }
 
-TEST_F(ControllerFixture, EveryOperationIsHarmlessBeforeTheViewIsThere) {
+TEST_F(ControllerFixture, EveryMethodIsHarmlessBeforeTheViewIsLoaded) {
   writeBundle();
   ASSERT_NE(make(), nil);
   [controller UIItemActionListener:nil];

@@ -7,7 +7,7 @@
 #include <regex>
 #include <sstream>
 
-/// Fails when everything is connected.
+/// Raises once everything is connected.
 @interface RaisingLabel : NSTextField
 @end
 
@@ -51,7 +51,7 @@ protected:
     return field<NSMutableArray *>(setting(name), "HandlingTarget");
   }
 
-  /// Everything that the dialog or a person can set off, which must do no harm whatever is missing.
+  /// Everything that the dialog or a user can trigger; it must do no harm, whatever is missing.
   void useEverything() {
     [controller prepareForShow];
     [controller getTicket];
@@ -82,7 +82,7 @@ TEST_F(ViewBinding, ConnectsAllOutletsWithTheItemsOfTheirClasses) {
   EXPECT_TRUE([get<id>("btnRestore2Defalut") isKindOfClass:[NSButton class]]);
 }
 
-TEST_F(ViewBinding, AnswersTheViewOfTheInterfaceFile) {
+TEST_F(ViewBinding, ReturnsTheViewOfTheInterfaceFile) {
   writeInterfaceFile();
   NSView *view = [controller prepareView];
   EXPECT_EQ(view, get<id>("ImagePositionPrintView"));
@@ -101,14 +101,14 @@ TEST_F(ViewBinding, BindsEachSettingToItsFourItemsInOrder) {
   }
 }
 
-TEST_F(ViewBinding, BindsEachSettingToTheOneListOfAll) {
+TEST_F(ViewBinding, BindsEachSettingToTheListOfAllSettings) {
   writeInterfaceFile();
   [controller prepareView];
   for (const std::string &name : kNames)
     EXPECT_EQ(field<NSArray *>(setting(name), "RelatedSettings"), get<NSArray *>("SettingsList"));
 }
 
-TEST_F(ViewBinding, TellsTheEntryFieldsTheirRange) {
+TEST_F(ViewBinding, PassesTheEntryFieldsTheirRange) {
   writeInterfaceFile();
   [controller prepareView];
   for (const std::string &name : kNames) {
@@ -117,7 +117,7 @@ TEST_F(ViewBinding, TellsTheEntryFieldsTheirRange) {
   }
 }
 
-TEST_F(ViewBinding, TheSecondTimeAnswersTheSameViewAndLoadsNothing) {
+TEST_F(ViewBinding, TheSecondCallReturnsTheSameViewAndLoadsNothing) {
   writeInterfaceFile();
   NSView *first = [controller prepareView];
   id field = get<id>("FrontLRMText");
@@ -128,7 +128,7 @@ TEST_F(ViewBinding, TheSecondTimeAnswersTheSameViewAndLoadsNothing) {
   EXPECT_EQ(targets("FrontLRM"), bound);
 }
 
-TEST_F(ViewBinding, TheSecondTimeDoesNotBindAgain) {
+TEST_F(ViewBinding, TheSecondCallDoesNotBindAgain) {
   writeInterfaceFile();
   makeRecording();
   [controller prepareView];
@@ -137,7 +137,7 @@ TEST_F(ViewBinding, TheSecondTimeDoesNotBindAgain) {
   EXPECT_EQ(std::count(lines.begin(), lines.end(), "self.CBSCInitializeView"), 1);
 }
 
-TEST_F(ViewBinding, ReadsNoPrintSettingsAndLooksAtNoAvailability) {
+TEST_F(ViewBinding, ReadsNoPrintSettingsAndDoesNotUpdateAvailability) {
   writeInterfaceFile();
   log->clear();
   [controller prepareView];
@@ -145,7 +145,7 @@ TEST_F(ViewBinding, ReadsNoPrintSettingsAndLooksAtNoAvailability) {
   EXPECT_THAT(log->lines(), testing::IsEmpty());
 }
 
-TEST_F(ViewBinding, TheControlsActThroughTheControllersOperations) {
+TEST_F(ViewBinding, TheControlsSendTheControllersActions) {
   writeInterfaceFile();
   [controller prepareView];
   for (const std::string &name : kNames)
@@ -162,7 +162,7 @@ TEST_F(ViewBinding, TheControlsActThroughTheControllersOperations) {
   EXPECT_STREQ(sel_getName([button action]), "clickbtnReasto2Default:");
 }
 
-TEST_F(ControllerFixture, BindingHandsEachSettingItsItemsInTheOrderOfTheSettings) {
+TEST_F(ControllerFixture, BindingPassesEachSettingItsItemsInTheOrderOfTheSettings) {
   makeHollow();
   [controller CBSCInitializeView];
   EXPECT_THAT(journal.take(),
@@ -182,14 +182,14 @@ TEST_F(ControllerFixture, BindingHandsEachSettingItsItemsInTheOrderOfTheSettings
   EXPECT_EQ([lists count], 4U) << "each list of items is a new one";
 }
 
-// Interface files that are not as they should be.
+// Damaged interface files.
 
-TEST_F(ViewBinding, WithoutAnInterfaceFileThereIsNoView) {
+TEST_F(ViewBinding, WithoutAnInterfaceFileTheViewIsNull) {
   EXPECT_EQ([controller prepareView], nil);
   useEverything();
 }
 
-TEST_F(ViewBinding, AnInterfaceFileThatAppearsLaterIsLoadedThen) {
+TEST_F(ViewBinding, AnInterfaceFileThatAppearsLaterIsLoaded) {
   EXPECT_EQ([controller prepareView], nil);
   writeInterfaceFile();
   EXPECT_NE([controller prepareView], nil);
@@ -206,13 +206,13 @@ TEST_P(ViewBindingOfBytes, DoesNoHarm) {
 
 INSTANTIATE_TEST_SUITE_P(
     Contents, ViewBindingOfBytes,
-    testing::Values("", " ", "\n", "no interface file at all", "<", "<?xml version=\"1.0\"?>",
+    testing::Values("", " ", "\n", "not an interface file", "<", "<?xml version=\"1.0\"?>",
                     "<document/>", "<plist version=\"1.0\"><dict></dict></plist>",
                     "<document type=\"com.apple.InterfaceBuilder3.Cocoa.XIB\" version=\"3.0\"/>",
                     "<document><objects><nonsense/></objects></document>", "\xff\xfe\x01\x02",
                     "bplist00\x01"));
 
-TEST_F(ViewBinding, AnInterfaceFileThatEndsAnywhereDoesNoHarm) {
+TEST_F(ViewBinding, ATruncatedInterfaceFileDoesNoHarm) {
   const std::string whole = realInterfaceFile();
   ASSERT_GT(whole.size(), 1000U);
   for (std::size_t part = 1; part < 40; ++part) {
@@ -224,7 +224,7 @@ TEST_F(ViewBinding, AnInterfaceFileThatEndsAnywhereDoesNoHarm) {
   }
 }
 
-TEST_F(ViewBinding, AnOutletThatIsMissingDoesNoHarm) {
+TEST_F(ViewBinding, AMissingOutletDoesNoHarm) {
   const std::string whole = realInterfaceFile();
   for (const std::string &name : outletNames()) {
     SCOPED_TRACE(name);
@@ -244,7 +244,7 @@ TEST_F(ViewBinding, AnOutletThatIsMissingDoesNoHarm) {
   }
 }
 
-TEST_F(ViewBinding, AnOutletThatTheControllerLacksDoesNoHarm) {
+TEST_F(ViewBinding, AnUnknownOutletDoesNoHarm) {
   std::string file = realInterfaceFile();
   file = std::regex_replace(file, std::regex("property=\"FrontLRMText\""),
                             "property=\"NoSuchOutlet\"");
@@ -253,7 +253,7 @@ TEST_F(ViewBinding, AnOutletThatTheControllerLacksDoesNoHarm) {
   useEverything();
 }
 
-TEST_F(ViewBinding, AClassThatDoesNotExistDoesNoHarm) {
+TEST_F(ViewBinding, AnUnknownClassDoesNoHarm) {
   std::string file = realInterfaceFile();
   file = std::regex_replace(file, std::regex("customClass=\"MorvaADPStepperItemRV2\""),
                             "customClass=\"NoSuchStepper\"");
@@ -262,7 +262,7 @@ TEST_F(ViewBinding, AClassThatDoesNotExistDoesNoHarm) {
   useEverything();
 }
 
-TEST_F(ViewBinding, AFailureAfterTheConnectionsDoesNoHarm) {
+TEST_F(ViewBinding, AnExceptionAfterTheConnectionsDoesNoHarm) {
   std::string file = realInterfaceFile();
   file = std::regex_replace(file, std::regex("customClass=\"MorvaADPLabelItemRV2\""),
                             "customClass=\"RaisingLabel\"");
@@ -277,7 +277,7 @@ TEST_F(ViewBinding, AFailureAfterTheConnectionsDoesNoHarm) {
   EXPECT_EQ([[[controller prepareView] subviews] count], 18U);
 }
 
-/// The real interface file with the outlet of the view connected to that other object of it.
+/// The real interface file with the view's outlet connected to another object in it.
 std::string interfaceFileWithViewOutletTo(const std::string &identifier) {
   const std::string whole = realInterfaceFile();
   const std::regex outlet("property=\"ImagePositionPrintView\" destination=\"[^\"]*\"");
@@ -287,7 +287,7 @@ std::string interfaceFileWithViewOutletTo(const std::string &identifier) {
   return changed;
 }
 
-TEST_F(ViewBinding, AViewInsideAnotherOneStaysThatOnes) {
+TEST_F(ViewBinding, AViewInsideAnotherOneStaysItsSubview) {
   const LiveObjects alive;
   int labels = 0;
   {
@@ -303,7 +303,7 @@ TEST_F(ViewBinding, AViewInsideAnotherOneStaysThatOnes) {
   EXPECT_EQ(LiveObjects::count("MorvaADPLabelItemRV2"), labels);
 }
 
-TEST_F(ViewBinding, AViewOutletToSomethingElseDoesNoHarm) {
+TEST_F(ViewBinding, AViewOutletToAnotherObjectDoesNoHarm) {
   const LiveObjects alive;
   int cells = 0;
   {
@@ -315,10 +315,11 @@ TEST_F(ViewBinding, AViewOutletToSomethingElseDoesNoHarm) {
     EXPECT_NO_THROW([controller release]);
     controller = nil;
   }
-  EXPECT_GE(LiveObjects::count("NSTextFieldCell"), cells) << "the file's, which nobody owns here";
+  EXPECT_GE(LiveObjects::count("NSTextFieldCell"), cells)
+      << "top-level objects of the file, which nobody owns here";
 }
 
-TEST_F(ViewBinding, ItemsOfThePlainPlatformClassesAreCarriedAndIgnored) {
+TEST_F(ViewBinding, ItemsOfPlainAppKitClassesAreKeptAndIgnored) {
   std::string file = realInterfaceFile();
   file = std::regex_replace(
       file, std::regex("customClass=\"MorvaADP(Label|Stepper|IntegerTextField)ItemRV2\""), "");

@@ -1,4 +1,4 @@
-/// Copies of the plug-in's bundle, to be damaged and given to the program.
+/// Copies of the plug-in's bundle that tests damage and the program loads.
 #ifndef IMAGEPOSITION_TESTS_FAULTS_BROKENBUNDLE_HPP
 #define IMAGEPOSITION_TESTS_FAULTS_BROKENBUNDLE_HPP
 
@@ -8,14 +8,14 @@
 
 namespace imageposition::test {
 
-/// With a ticket and its options that must not be lost, whatever becomes of the plug-in.
+/// Also has a ticket and its options, which must survive whatever happens to the plug-in.
 class BrokenBundle : public Window {
 protected:
   using Damage = std::pair<std::string, std::function<void(const std::string &path)>>;
 
   void SetUp() override { restore(); }
 
-  /// A sound copy in place of the one before, and the ticket as it was.
+  /// Restores an undamaged copy, and the original ticket.
   void restore() {
     std::filesystem::remove_all(bundle);
     std::filesystem::copy(IMAGE_POSITION_PLUGIN, bundle, std::filesystem::copy_options::recursive);
@@ -25,7 +25,7 @@ protected:
 
   std::string resource(const std::string &name) const { return bundle + "/Resources/" + name; }
 
-  /// In a language that reads the resource, where it is one language's.
+  /// The environment for a localized resource's language, so that the program reads it.
   static Words languageOf(const std::string &resourceName) {
     const std::size_t end = resourceName.find(".lproj/");
     if (end == std::string::npos)
@@ -34,7 +34,7 @@ protected:
     return {"LANGUAGE=" + (language == "zh-Hans" ? "zh_CN" : language), "LC_ALL=C.UTF-8"};
   }
 
-  /// The panel set and its values written to the ticket, within the given seconds.
+  /// Runs the panel and writes its values to the ticket; fails after `patience` seconds.
   ProcessResult use(const Words &environment, int patience = 30) const {
     return Process({PRINT_DIALOG, "--batch", "--ppd", sample("duplex-shift.ppd"), "--plugin",
                     bundle, "--ticket", ticket, "--summary"},
@@ -42,8 +42,8 @@ protected:
         .wait();
   }
 
-  /// Either done, with what was in the ticket before, or refused with a message that names the
-  /// bundle and with the files as they were.
+  /// Expects either success, with the former contents of the ticket kept, or a message that names
+  /// the bundle, with unchanged files.
   void expectSafe(const ProcessResult &result) const {
     if (result.status == kDone) {
       EXPECT_THAT(contentOf(ticket), testing::HasSubstr("\"Foreign\": \"kept\""));

@@ -1,4 +1,4 @@
-// The real program with a bundle of which one resource is damaged.
+// The real program with a bundle in which one resource is damaged.
 #include "BrokenBundle.hpp"
 
 #include <iostream>
@@ -35,18 +35,18 @@ protected:
            fs::remove(path);
            fs::create_directory(path);
          }},
-        {"a link to nowhere",
+        {"a dangling link",
          [](const std::string &path) {
            fs::remove(path);
            fs::create_symlink("nowhere", path);
          }},
         {"a list", [](const std::string &path) { overwrite(path, "(\"a\", \"b\")"); }},
-        {"a text", [](const std::string &path) { overwrite(path, "\"%s%n%@\""); }},
+        {"a string", [](const std::string &path) { overwrite(path, "\"%s%n%@\""); }},
         {"a list in XML",
          [](const std::string &path) {
            overwrite(path, "<?xml version=\"1.0\"?><plist version=\"1.0\"><array/></plist>");
          }},
-        {"no text at all",
+        {"binary data",
          [](const std::string &path) { overwrite(path, std::string("\0\xff\xfe\x80\n\0{", 7)); }},
         {"bplist00 only", [](const std::string &path) { overwrite(path, "bplist00"); }}};
     for (const int percent : {1, 10, 25, 50, 75, 90, 99})
@@ -57,7 +57,7 @@ protected:
   }
 };
 
-TEST_F(BrokenResource, IsAMessageOrASafeResultForEachOfThem) {
+TEST_F(BrokenResource, EveryDamageGivesAMessageOrASafeResult) {
   std::map<int, int> outcomes;
   for (const std::string &name : resources()) {
     for (const auto &[how, damage] : damages()) {

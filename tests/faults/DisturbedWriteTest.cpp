@@ -1,4 +1,4 @@
-// Programs that are killed, or whose disk fails, at each step of writing a file.
+// The program is killed, or its disk fails, at each step of writing a file.
 #include "DialogFixture.hpp"
 
 #include <chrono>
@@ -14,8 +14,8 @@ using namespace imageposition::test;
 using testing::AnyOf;
 using testing::HasSubstr;
 
-/// What changes anything on the disk, one kind after the other: strace counts each kind for itself.
-/// A slash begins a pattern: calls have variants.
+/// The system calls that change the disk, each kind separately, because strace counts them
+/// separately. A slash begins a pattern that matches the variants of a call.
 constexpr const char *kCalls[] = {"write",    "fsync", "fchmod",  "/^rename", "/^link",
                                   "/^unlink", "flock", "/^mkdir", "ftruncate"};
 
@@ -28,14 +28,15 @@ protected:
     return condition();
   }
 
-  /// As it was, as it is to be.
+  /// The file's contents before and after.
   struct File {
     std::string path;
     std::string before;
     std::string after;
   };
 
-  /// Runs the program once for each of its calls, with that one disturbed; how often that was.
+  /// Runs the program once for each of its system calls and disturbs that call. Returns the number
+  /// of runs.
   int disturbEach(const std::string &how, const Words &program, const Words &environment,
                   std::vector<File> files) {
     for (const File &file : files)
@@ -64,10 +65,10 @@ protected:
     return traceHas("INJECTED") || traceHas("killed by SIGKILL");
   }
 
-  /// `when`: the count of the call, and "+" behind it for all that follow, too.
+  /// `when` is the number of the call, followed by "+" to include all later ones.
   Words disturbed(const std::string &call, const std::string &how, const std::string &when,
                   const Words &program) const {
-    // A leak checker, in a build that has one, cannot look at a program that is traced.
+    // LeakSanitizer, in a build that has it, does not work in a traced program.
     Words words{"strace", "-qq",
                 "-E",     "LSAN_OPTIONS=detect_leaks=0",
                 "-o",     trace,
@@ -115,7 +116,7 @@ protected:
 
 TEST_F(DisturbedWrite, KillingTheProgramAtAnyMomentLeavesTicketsWhole) {
   const int times = disturbEach("signal=SIGKILL", ticketWriter(), {}, ticketFiles());
-  EXPECT_GE(times, 10); // two files, each written, made safe, put in its place, and that made safe
+  EXPECT_GE(times, 10); // two files, each written, synced and renamed, then the folder synced
   RecordProperty("times", times);
 }
 
@@ -145,23 +146,23 @@ TEST_F(DisturbedWrite, ADiskThatIsFullOrFailsAtAnyStepLosesNoPreset) {
   }
 }
 
-TEST_F(DisturbedWrite, WhenTheTicketCannotTakeItsPlaceItsOptionsStayAsTheyWere) {
+TEST_F(DisturbedWrite, WhenTheTicketCannotBeRenamedItsOptionsStayUnchanged) {
   for (const File &file : ticketFiles())
     writeFile(file.path, file.before);
   const auto result = runProcess(disturbed("/^rename", "error=EIO", "2", ticketWriter()));
   EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
   for (const File &file : ticketFiles())
     EXPECT_EQ(contentOf(file.path), file.before) << file.path;
-  EXPECT_EQ(folder.fileCount(), 3U) << "more than these and the trace";
+  EXPECT_EQ(folder.fileCount(), 3U) << "there are more files than these and the trace";
 }
 
-TEST_F(DisturbedWrite, WhenANewTicketCannotTakeItsPlaceThereAreNoOptionsEither) {
+TEST_F(DisturbedWrite, WhenANewTicketCannotBeRenamedNoOptionsAreLeft) {
   const auto result = runProcess(disturbed("/^rename", "error=EIO", "2", ticketWriter()));
   EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
-  EXPECT_EQ(folder.fileCount(), 1U) << "more than the trace";
+  EXPECT_EQ(folder.fileCount(), 1U) << "there are more files than the trace";
 }
 
-TEST_F(DisturbedWrite, OptionsThatCannotBeTakenBackAreNamed) {
+TEST_F(DisturbedWrite, OptionsThatCannotBeRestoredAreNamed) {
   for (const File &file : ticketFiles())
     writeFile(file.path, file.before);
   const auto result = runProcess(disturbed("/^rename", "error=EIO", "2+", ticketWriter()));
@@ -176,8 +177,8 @@ pid_t programUnder(const Process &strace) {
   return std::stoi(contentOf("/proc/" + id + "/task/" + id + "/children"));
 }
 
-// lpoptions(1) reads the file, and writes it anew, whenever it likes.
-TEST_F(DisturbedWrite, WhatAnotherProgramWritesWhileAPresetIsSavedIsKept) {
+// lpoptions(1) may read and rewrite the file at any time.
+TEST_F(DisturbedWrite, ChangesByAnotherProgramWhileAPresetIsSavedAreKept) {
   const File file = presetFiles().front();
   writeFile(file.path, file.before);
   Process saving(disturbed("fsync", "signal=SIGSTOP", "1", presetWriter), presetEnvironment());
@@ -190,7 +191,7 @@ TEST_F(DisturbedWrite, WhatAnotherProgramWritesWhileAPresetIsSavedIsKept) {
             file.before + theirs + "Dest office/other Duplex=DuplexNoTumble\n");
 }
 
-/// Without the rights over all files that root has.
+/// Runs without root's permissions for all files.
 class WithoutRights : public DisturbedWrite {
 protected:
   static Words withoutRootsRights(Words program) {

@@ -1,4 +1,4 @@
-// The real program with a bundle whose resources are well-formed and made to do harm.
+// The real program with a bundle whose resources are well-formed but hostile.
 #include "BrokenBundle.hpp"
 
 #include <regex>
@@ -9,7 +9,7 @@ using namespace imageposition::test;
 using testing::HasSubstr;
 using testing::Not;
 
-/// Texts as a ".strings" file or an XML property list has them.
+/// A string as a ".strings" file and as an XML property list write it.
 struct HostileText {
   const char *name;
   std::string strings;
@@ -34,7 +34,7 @@ const std::vector<HostileText> kHostile{
      "\xE2\x80\xAE"
      "abc"},
     {"combining marks", "e" + times(300, "\xCC\x81"), "e" + times(300, "\xCC\x81")},
-    {"half a pair", "\\UD83D x \\UDE00", "\xED\xA0\xBD"},
+    {"lone surrogates", "\\UD83D x \\UDE00", "\xED\xA0\xBD"},
     {"markup", "<b>&amp;</b>&lt;$(touch acted)`touch acted`", "&lt;b&gt;$(touch acted)"},
     {"ten thousand characters", times(10000, "W"), times(10000, "W")},
     {"a long line of words", times(2000, "word "), times(2000, "word ")},
@@ -42,7 +42,7 @@ const std::vector<HostileText> kHostile{
 
 class HostileResource : public BrokenBundle {
 protected:
-  /// Each text of the file, by key, in place of what it was.
+  /// Replaces each string of the file, by key.
   void writeStrings(const std::string &text) {
     std::string content = contentOf(resource("en.lproj/Localizable.strings"));
     const std::regex entry("(\"[^\"]+\" = \")[^\"]*(\";)");
@@ -95,7 +95,7 @@ TEST_F(HostileResource, ATranslationIsOnlyEverShownInTheWindowToo) {
   }
 }
 
-TEST_F(HostileResource, ADefinitionIsReadOrRefused) {
+TEST_F(HostileResource, ADefinitionIsReadOrRejected) {
   for (const char *key : {"SettingName", "TicketKey", "SummaryInfoName", "Range",
                           "RangeLabelWording", "DefaultValue"}) {
     for (const HostileText &text : kHostile) {
@@ -107,21 +107,21 @@ TEST_F(HostileResource, ADefinitionIsReadOrRefused) {
   }
 }
 
-TEST_F(HostileResource, ATranslationIsNoFormat) {
+TEST_F(HostileResource, ATranslationIsNotAFormatString) {
   const std::string text = kHostile.front().strings;
   writeStrings(text);
   EXPECT_THAT(use({"LANGUAGE=en"}).output, HasSubstr(text));
 }
 
-// A line of its own would be an option of its own for whoever reads the file.
-TEST_F(HostileResource, ATicketKeyAddsNoOptionThatIsNotItsOwn) {
+// Readers of the file would take a separate line as a separate option.
+TEST_F(HostileResource, ATicketKeyCannotAddAnotherOption) {
   writeDefinition("TicketKey", "a=b&#10;Injected=yes");
   expectSafe(use({"LANGUAGE=en"}));
   EXPECT_THAT(contentOf(folder.path("job.options")), Not(HasSubstr("\nInjected=")));
   EXPECT_THAT(contentOf(folder.path("job.options")), Not(HasSubstr(" Injected=")));
 }
 
-TEST_F(HostileResource, ARangeOfAMegabyteIsReadOrRefused) {
+TEST_F(HostileResource, ARangeOfAMegabyteIsReadOrRejected) {
   for (const std::string &range :
        {times(500000, "1") + ":" + times(500000, "2"), times(1000000, ":"), times(1000000, "-"),
         "-5:" + times(1000000, " ") + "5", times(1000000, "x")}) {
@@ -135,7 +135,7 @@ TEST_F(HostileResource, ARangeOfAMegabyteIsReadOrRefused) {
   }
 }
 
-/// Tables that no driver has.
+/// Tables larger than any driver's.
 class EnormousTable : public HostileResource {
 protected:
   void writeTable(const std::string &name, int count,
@@ -164,20 +164,20 @@ TEST_F(EnormousTable, OfRulesIsUsed) {
   EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
 }
 
-TEST_F(EnormousTable, OfNoRulesIsPassedOver) {
+TEST_F(EnormousTable, OfInvalidRulesIsIgnored) {
   writeTable("ConstraintInfo.plist", 200000, [](std::ostream &file, int) { file << "x"; });
   const auto result = use({"LANGUAGE=en"}, 300);
   expectSafe(result);
   EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
 }
 
-TEST_F(EnormousTable, OfDefinitionsIsPassedOver) {
+TEST_F(EnormousTable, OfDefinitionsIsIgnored) {
   writeTable("SettingInfo.plist", 200000,
              [](std::ostream &file, int) { file << "{SettingName=x;}"; });
   expectSafe(use({"LANGUAGE=en"}, 300));
 }
 
-TEST_F(EnormousTable, OfTextsIsUsed) {
+TEST_F(EnormousTable, OfStringsIsUsed) {
   std::ofstream file(resource("en.lproj/Localizable.strings"), std::ios::binary);
   for (int i = 0; i < 200000; i++)
     file << "\"key" << i << "\"=\"x\";\n";

@@ -1,4 +1,4 @@
-// Names that others choose, given to the real program: they are texts, and nothing else.
+// The real program treats names that others choose as plain text, whatever they contain.
 #include "WindowFixture.hpp"
 
 #include <unistd.h>
@@ -10,10 +10,10 @@ using testing::HasSubstr;
 
 namespace fs = std::filesystem;
 
-/// What a shell would run, a format would read or write through, and markup would take as its own.
+/// Text that a shell would run, a format function would interpret, and a markup parser would parse.
 const std::string kHostile = "$(touch acted)`touch acted`;touch acted|%s%n%@%1000000d<b>&amp;'\"";
 
-/// Which the program's list of attributes marks.
+/// The same without the quotes, which the program's list of attributes escapes.
 const std::string kWithoutQuotes = kHostile.substr(0, kHostile.size() - 2);
 
 class HostileText : public QueueWindow {
@@ -24,7 +24,7 @@ protected:
     fs::current_path(folder.path());
   }
   void TearDown() override {
-    EXPECT_FALSE(fs::exists("acted")) << "something was run";
+    EXPECT_FALSE(fs::exists("acted")) << "a command was run";
     fs::current_path(before_);
     QueueWindow::TearDown();
   }
@@ -46,7 +46,7 @@ TEST_F(HostileText, TheNameOfADocumentIsTheTitleOfItsJob) {
   EXPECT_THAT(result.output, HasSubstr("job-name (nameWithoutLanguage) = " + kWithoutQuotes));
 }
 
-TEST_F(HostileText, TitlesAndOptionsAreSentAsTheyAre) {
+TEST_F(HostileText, TitlesAndOptionsAreSentUnchanged) {
   const std::string document = folder.write("plain.ps", "%!PS\n");
   const auto result = dialog({"--batch", "--dry-run", "-d", "office", "-t", kHostile, "-o",
                               "Strange='%s%n$(touch acted)'", document},
@@ -56,20 +56,20 @@ TEST_F(HostileText, TitlesAndOptionsAreSentAsTheyAre) {
   EXPECT_THAT(result.output, HasSubstr("Strange (nameWithoutLanguage) = %s%n$(touch acted)\n"));
 }
 
-TEST_F(HostileText, TicketsAreKeptAsTheyAre) {
+TEST_F(HostileText, TicketsAreKeptUnchanged) {
   folder.write("job.json",
                R"x({"printer": "%n", "settings": {"Foreign%n": "%s$(touch acted)`x` 'y'"}})x");
   const auto result = batch(sample("duplex-shift.ppd"), {"--ticket", ticket});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_THAT(contentOf(ticket), HasSubstr(R"x("Foreign%n": "%s$(touch acted)`x` 'y'")x"));
-  // As a person hands it to lp, whose words the shell does not look at again.
+  // As a user passes it to lp: the shell does not interpret the result of a substitution again.
   const auto echoed =
       runProcess({"sh", "-c", "printf %s \"$(cat job.options)\" && test ! -e acted"});
   EXPECT_EQ(echoed.status, 0);
   EXPECT_THAT(echoed.output, HasSubstr("Foreign%n="));
 }
 
-TEST_F(HostileText, WhateverIsRefusedIsRepeatedAsItIs) {
+TEST_F(HostileText, RejectedArgumentsAreRepeatedUnchanged) {
   for (const Words &words : {Words{"--batch", "-d", kHostile}, Words{"--batch", "--ppd", kHostile},
                              Words{"--batch", "-d", "office", "--plugin", kHostile},
                              Words{"--batch", "-d", "office", "--set", kHostile + "=1"},
@@ -84,7 +84,7 @@ TEST_F(HostileText, WhateverIsRefusedIsRepeatedAsItIs) {
   }
 }
 
-TEST_F(HostileText, WhatAServerCallsItsPrintersIsOnlyEverShown) {
+TEST_F(HostileText, AServersPrinterNamesAreOnlyEverShown) {
   const std::string queue = "evil$(touch${IFS}acted)%n%s%@";
   const auto added = cups->run({"lpadmin", "-p", queue, "-E", "-v", "file:///dev/null", "-P",
                                 sample("duplex-shift.ppd"), "-D", kHostile, "-L",
@@ -115,7 +115,7 @@ TEST_F(HostileText, APresetOfAnyNameIsKeptAndFound) {
   EXPECT_THAT(result.output, HasSubstr("LeftRightMargin (nameWithoutLanguage) = 7\n"));
 }
 
-TEST_F(HostileText, ADescriptionsWordsAreOnlyEverShown) {
+TEST_F(HostileText, TextsInAPpdAreOnlyEverShown) {
   const std::string ppd =
       contentOf(sample("duplex-shift.ppd")) +
       "*OpenUI *Evil%n/%s%n%@$(touch acted)<b>: PickOne\n*DefaultEvil%n: %s\n"

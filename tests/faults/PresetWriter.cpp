@@ -1,5 +1,5 @@
-// preset_writer PRINTER NAME KEYWORD=VALUE: saves a preset as the dialog does, to be disturbed
-// meanwhile.
+// preset_writer PRINTER NAME KEYWORD=VALUE: saves a preset as the dialog does, while a test
+// disturbs it.
 #include "ExitCode.hpp"
 #include "OptionText.hpp"
 #include "Presets.hpp"

@@ -1,4 +1,5 @@
-// Another's panel that raises, in the window; without one see PluginLoadingTest.
+// Another plug-in's panel that raises, in the window. PluginLoadingTest covers this without a
+// window.
 #include "WindowFixture.hpp"
 
 namespace {
@@ -14,7 +15,7 @@ protected:
          {"FIXTURE_BEHAVIOUR=" + behaviour, "FIXTURE_JOURNAL=" + journal});
   }
 
-  /// The one that raised is named, and the job still goes with the other one's panel.
+  /// Expects a message that names the panel that raised, and a job with the other panel's values.
   void expectLeftOut(const std::string &operation) {
     ASSERT_TRUE(says("failed in \"" + operation + "\"")) << dialogProcess->errorsSoFar();
     EXPECT_THAT(dialogProcess->errorsSoFar(), HasSubstr("Fixture.plugin\""));
@@ -27,7 +28,7 @@ protected:
   }
 };
 
-TEST_F(RaisingPanel, IsLeftOutWhereItIsLoaded) {
+TEST_F(RaisingPanel, IsLeftOutWhenItRaisesWhileLoading) {
   for (const char *how : {"raise ", "throw ", "throw-number "})
     for (const char *operation : {"initWithBundle:", "PDEPanelsForType:withHostInfo:", "panelKind",
                                   "panelName", "supportedPPDOptionKeys", "panelView", "willShow"}) {
@@ -37,7 +38,7 @@ TEST_F(RaisingPanel, IsLeftOutWhereItIsLoaded) {
     }
 }
 
-TEST_F(RaisingPanel, IsLeftOutWhereItPrints) {
+TEST_F(RaisingPanel, IsLeftOutWhenItRaisesWhilePrinting) {
   for (const char *how : {"raise ", "throw ", "throw-number "})
     for (const char *operation : {"shouldPrint", "saveValuesAndReturnError:"}) {
       SCOPED_TRACE(std::string(how) + operation);
@@ -47,14 +48,14 @@ TEST_F(RaisingPanel, IsLeftOutWhereItPrints) {
     }
 }
 
-TEST_F(RaisingPanel, IsLeftOutWhereItIsSummedUp) {
+TEST_F(RaisingPanel, IsLeftOutWhenItRaisesInTheSummary) {
   openBoth("raise summaryInfo");
   goTo(kPanes);
   press({"space", "Down", "Down", "Down", "Return"});
   expectLeftOut("summaryInfo");
 }
 
-TEST_F(RaisingPanel, DoesNotKeepAnybodyFromCancelling) {
+TEST_F(RaisingPanel, DoesNotPreventCancelling) {
   openBoth("raise restoreValuesAndReturnError:");
   press({"Escape"});
   EXPECT_EQ(ended().status, kCancelled) << testing::PrintToString(ended());

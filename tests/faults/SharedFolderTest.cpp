@@ -1,4 +1,4 @@
-// Files that others have laid, in a folder where they may write, in the way of what is written.
+// Files that other users have placed, in a folder that they can write, where the program writes.
 #include "DialogFixture.hpp"
 
 #include <sys/stat.h>
@@ -11,8 +11,8 @@ using testing::HasSubstr;
 
 namespace fs = std::filesystem;
 
-/// A folder for all, "drop", and beside it what is the user's alone. Where the tests run as root,
-/// what `lay...` makes belongs to another user.
+/// "drop" is a folder that everybody can write; the rest belongs to the user. If the tests run as
+/// root, the files that `lay...` creates belong to another user.
 class SharedFolder : public DialogFixture {
 protected:
   static constexpr uid_t kOther = 54321;
@@ -51,8 +51,8 @@ protected:
     EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
     EXPECT_THAT(result.errors, HasSubstr("\"" + path + "\""));
     EXPECT_EQ(contentOf(folder.path("home/.profile")), kProfile);
-    EXPECT_FALSE(fs::is_regular_file(fs::symlink_status(ticket))) << "half of it was written";
-    EXPECT_LE(filesInDrop(), 2) << "a temporary file stayed";
+    EXPECT_FALSE(fs::is_regular_file(fs::symlink_status(ticket))) << "a partial file was written";
+    EXPECT_LE(filesInDrop(), 2) << "a temporary file was left";
   }
   int filesInDrop() const {
     const fs::directory_iterator files(folder.path("drop"));
@@ -69,7 +69,7 @@ TEST_F(SharedFolder, OptionsAreNotWrittenThroughALink) {
   EXPECT_TRUE(fs::is_symlink(options));
 }
 
-TEST_F(SharedFolder, ASettingWhoseNameAShellWouldRunIsRefused) {
+TEST_F(SharedFolder, ASettingWhoseNameAShellWouldRunIsRejected) {
   layLink("job.options", "../home/.profile");
   const std::string json = R"({"settings": {"touch$IFS$HOME/acted;A": "1"}})";
   lay("job.json", json);
@@ -105,7 +105,7 @@ TEST_F(SharedFolder, OptionsDoNotReplaceAFileThatPrintDialogDidNotWrite) {
   }
 }
 
-TEST_F(SharedFolder, OptionsReplaceTheirOwnFormerForm) {
+TEST_F(SharedFolder, OptionsReplaceAnEarlierVersionOfThemselves) {
   const std::string account = "Account='a \"b\" \\ $c\nd'";
   ASSERT_EQ(writeTicket({"-o", account}).status, kDone);
   const std::string before = contentOf(options);
@@ -158,7 +158,7 @@ TEST_F(SharedFolder, TheUsersOwnLinkIsFollowedAsAFolderOnTheWay) {
   EXPECT_TRUE(fs::exists(folder.path("drop/sub/job.options")));
 }
 
-TEST_F(SharedFolder, LinksInACircleAreNamed) {
+TEST_F(SharedFolder, LinksInALoopAreNamed) {
   fs::create_directory_symlink("b", folder.path("drop/a"));
   fs::create_directory_symlink("a", folder.path("drop/b"));
   const auto result =
@@ -167,22 +167,22 @@ TEST_F(SharedFolder, LinksInACircleAreNamed) {
   EXPECT_THAT(result.errors, HasSubstr("drop/a/job.json\""));
 }
 
-TEST_F(SharedFolder, ALinkToNowhereIsNoPlaceForOptions) {
+TEST_F(SharedFolder, OptionsAreNotWrittenThroughADanglingLink) {
   layLink("job.options", "../home/.pam_environment");
   expectRefused(writeTicket(), options);
   EXPECT_FALSE(fs::exists(folder.path("home/.pam_environment")));
 }
 
-TEST_F(SharedFolder, AHardLinkKeepsTheFileThatItIsAnotherNameOf) {
+TEST_F(SharedFolder, TheFileBehindAHardLinkStaysUnchanged) {
   ASSERT_EQ(link(folder.path("home/.profile").c_str(), options.c_str()), 0);
   expectRefused(writeTicket(), options);
   ASSERT_EQ(link(folder.path("home/.profile").c_str(), ticket.c_str()), 0);
   unlink(options.c_str());
-  EXPECT_EQ(writeTicket().status, kTicket); // it is read first, and no ticket
+  EXPECT_EQ(writeTicket().status, kTicket); // it is read first, and is not a ticket
   EXPECT_EQ(contentOf(folder.path("home/.profile")), kProfile);
 }
 
-TEST_F(SharedFolder, APipeInTheWayIsNamedAndNotWaitedFor) {
+TEST_F(SharedFolder, APipeInTheWayIsNamedWithoutBlocking) {
   ASSERT_EQ(mkfifo(options.c_str(), 0666), 0);
   giveAway(options);
   expectRefused(writeTicket(), options);
@@ -193,7 +193,7 @@ TEST_F(SharedFolder, AFolderInTheWayIsNamed) {
   expectRefused(writeTicket(), options);
 }
 
-TEST_F(SharedFolder, NewFilesTakeNoRightsOverFromSomebodyElsesFile) {
+TEST_F(SharedFolder, NewFilesInheritNoPermissionsFromAnotherUsersFile) {
   const std::string path = lay("job.json", R"({"settings": {}})");
   chmod(path.c_str(), 06777);
   ASSERT_EQ(writeTicket().status, kDone);
@@ -205,8 +205,8 @@ TEST_F(SharedFolder, NewFilesTakeNoRightsOverFromSomebodyElsesFile) {
   }
 }
 
-/// The places that a user may name by mistake.
-TEST_F(SharedFolder, APlaceThatIsNoFileIsNamed) {
+/// Paths that a user may name by mistake.
+TEST_F(SharedFolder, APlaceThatIsNotAFileIsNamed) {
   for (const std::string name : {"", ".", "..", "new/", "new/..", ".keep/job.json"}) {
     SCOPED_TRACE(name);
     const auto result =
@@ -239,8 +239,8 @@ TEST_F(SharedFolder, AFileThatMayNotBeWrittenIsNotReplaced) {
   EXPECT_FALSE(fs::exists(options));
 }
 
-// As where `ulimit -f 0` stands, which sends a signal that ends a program that does not expect it.
-TEST_F(SharedFolder, WhereFilesMayNotGrowTheFileIsNamedAndNothingStays) {
+// As under `ulimit -f 0`, which sends a signal that kills a program that does not handle it.
+TEST_F(SharedFolder, WhenTheFileSizeLimitIsExceededTheFileIsNamedAndNothingIsLeft) {
   for (const char *limit : {"0", "1"}) { // of 512 or 1024 bytes
     SCOPED_TRACE(limit);
     const auto result = runProcess({"bash", "-c", "ulimit -f $0 && exec \"$@\"", limit,
@@ -252,7 +252,7 @@ TEST_F(SharedFolder, WhereFilesMayNotGrowTheFileIsNamedAndNothingStays) {
   }
 }
 
-TEST_F(SharedFolder, AFailureAfterTheTicketWasWrittenNamesWhatWas) {
+TEST_F(SharedFolder, AFailureAfterTheTicketWasWrittenSaysWhatWasWritten) {
   const auto result =
       runProcess({"sh", "-c", "exec \"$0\" \"$@\" >/dev/full", PRINT_DIALOG, "--batch", "--ppd",
                   sample("duplex-shift.ppd"), "--summary", "-s", "--ticket", ticket});

@@ -1,4 +1,4 @@
-// The whole panel with its real view, used as a print dialog does, while what it depends on fails.
+// The whole panel with its real view, used like a print dialog does, while its dependencies fail.
 #import "ControllerFixture.h"
 #import "TestPool.h"
 
@@ -23,7 +23,7 @@ protected:
 
   void TearDown() override {
     [panel release];
-    controller = nil; // the panel's
+    controller = nil; // owned by the panel
     ControllerFixture::TearDown();
   }
 
@@ -34,7 +34,7 @@ protected:
     controller = field<id>(panel, "SettingItems");
   }
 
-  /// A job that has offsets already, and an entry that is nobody's business here.
+  /// A job that already has offsets and an unrelated entry.
   void newJob() {
     settings = std::make_unique<TestPrintSettings>();
     host->settings = settings->handle();
@@ -53,7 +53,7 @@ protected:
     [controller UIItemActionListener:entry];
   }
 
-  /// All that happens between a dialog and its panel, in order.
+  /// All steps between a dialog and its panel, in order.
   std::vector<Step> protocol() {
     return {
         [this] { [panel panelKind]; },
@@ -88,7 +88,7 @@ protected:
     }
   }
 
-  /// Nothing is left of what failed: the next use works as the first one would have.
+  /// Checks that the failure has no lasting effect: the next use works normally.
   void expectWhole() {
     settings->stopFailing();
     host->settings = settings->handle();
@@ -133,7 +133,7 @@ TEST_F(PanelFaults, EachReadOrWriteOfTheSettingsMayFail) {
   }
 }
 
-TEST_F(PanelFaults, EachRequestForTheSettingsMayGoUnanswered) {
+TEST_F(PanelFaults, EachRequestForTheSettingsMayReturnNull) {
   int requests = 1;
   for (int n = 1; n <= requests; ++n) {
     SCOPED_TRACE(n);
@@ -141,7 +141,7 @@ TEST_F(PanelFaults, EachRequestForTheSettingsMayGoUnanswered) {
     newJob();
     makePanel();
     host->settingsRequests = 0;
-    host->settingsRequestWithoutAnswer = n;
+    host->failingSettingsRequest = n;
     useFrom(0, 100);
     requests = host->settingsRequests;
     expectWhole();
@@ -149,7 +149,7 @@ TEST_F(PanelFaults, EachRequestForTheSettingsMayGoUnanswered) {
   EXPECT_GT(requests, 10);
 }
 
-TEST_F(PanelFaults, TheSettingsMayGoAndComeBetweenAnyTwoSteps) {
+TEST_F(PanelFaults, TheSettingsMayDisappearAndReturnBetweenAnyTwoSteps) {
   const std::size_t count = protocol().size();
   for (std::size_t gone = 0; gone < count; ++gone) {
     for (std::size_t back = gone + 1; back <= count; ++back) {
@@ -167,7 +167,7 @@ TEST_F(PanelFaults, TheSettingsMayGoAndComeBetweenAnyTwoSteps) {
   }
 }
 
-TEST_F(PanelFaults, ThePrinterMayGoOrBeAnotherBetweenAnyTwoSteps) {
+TEST_F(PanelFaults, ThePrinterMayDisappearOrChangeBetweenAnyTwoSteps) {
   TestPpd other(TestPpd::option("Duplex", {"None", "DuplexTumble"}));
   TestPpd bare;
   for (ppd_file_t *replacement : {static_cast<ppd_file_t *>(nullptr), other.get(), bare.get()}) {
@@ -184,14 +184,14 @@ TEST_F(PanelFaults, ThePrinterMayGoOrBeAnotherBetweenAnyTwoSteps) {
   }
 }
 
-TEST_F(PanelFaults, WithoutAPrinterThereIsNoPanel) {
+TEST_F(PanelFaults, WithoutAPpdThereIsNoPanel) {
   host->ppd = nullptr;
   EXPECT_EQ([[MorvaADPPdePanelRV2 alloc] initWithCallback:host Bundle:bundle->bundle()], nil);
 }
 
-// An interface file whose outlets lead somewhere else.
+// An interface file whose outlets are connected to the wrong objects.
 
-TEST_F(PanelFaults, AnOutletThatLeadsToAnythingElseCountsAsNotConnected) {
+TEST_F(PanelFaults, AnOutletToAnUnsuitableObjectCountsAsNotConnected) {
   const std::string sound = [] {
     std::ifstream file(IMAGEPOSITION_RESOURCES "/ImagePositionAdjustPrint.xib", std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), {});
@@ -202,7 +202,7 @@ TEST_F(PanelFaults, AnOutletThatLeadsToAnythingElseCountsAsNotConnected) {
     SCOPED_TRACE(outlet);
     Pool pool;
     std::string damaged = sound;
-    // Elsewhere in the file: the view has no operations of a control, and a cell is no view.
+    // Other objects in the file: the view lacks a control's methods, and a cell is not a view.
     const std::string elsewhere = outlet == "ImagePositionPrintView"
                                       ? idOf(sound, "<textFieldCell ")
                                       : idOf(sound, "<customView ");
@@ -222,7 +222,7 @@ TEST_F(PanelFaults, AnOutletThatLeadsToAnythingElseCountsAsNotConnected) {
 
 } // namespace
 
-/// A bundle that gives a text of the moment, as the platform does for one that it marks as not
+/// A bundle that returns temporary strings, as Foundation does for one that it marks as not
 /// translated.
 @interface FleetingBundle : NSBundle
 @end
@@ -233,13 +233,13 @@ TEST_F(PanelFaults, AnOutletThatLeadsToAnythingElseCountsAsNotConnected) {
                               table:(NSString *)table {
   (void)value;
   (void)table;
-  return [NSString stringWithFormat:@"a text of its own for %@, longer than a pointer", key];
+  return [NSString stringWithFormat:@"a temporary string for %@, longer than a pointer", key];
 }
 @end
 
 namespace {
 
-TEST_F(PanelFaults, TheNameStaysWhenTheBundleDoesNotKeepIt) {
+TEST_F(PanelFaults, TheNameStaysValidIfTheBundleDoesNotKeepIt) {
   newJob();
   makePanel();
   id fleeting = [FleetingBundle alloc];
@@ -252,7 +252,7 @@ TEST_F(PanelFaults, TheNameStaysWhenTheBundleDoesNotKeepIt) {
   }
   field<id>(panel, "PDEBundle") = own;
   EXPECT_EQ([panel panelName], name) << "looked up once";
-  EXPECT_EQ(cxxString(name), "a text of its own for PluginName, longer than a pointer");
+  EXPECT_EQ(cxxString(name), "a temporary string for PluginName, longer than a pointer");
 }
 
 } // namespace

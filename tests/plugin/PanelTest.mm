@@ -1,4 +1,4 @@
-// The panel: what it answers, and in which order it forwards the dialog's requests.
+// The panel: what it returns, and in which order it forwards the dialog's calls.
 #import "ClassTable.h"
 #import "ControllerFixture.h"
 #import "LiveObjects.h"
@@ -12,12 +12,12 @@ using namespace imageposition::test;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// In place of the panel's controller.
+/// Replaces the panel's controller.
 @interface RecordingCollector : Recorder {
 @public
   NSView *view;
   NSDictionary *summary;
-  BOOL answer;
+  BOOL result;
 }
 @end
 
@@ -31,11 +31,11 @@ using testing::IsEmpty;
 }
 - (BOOL)getTicket {
   [self record:"getTicket"];
-  return answer;
+  return result;
 }
 - (BOOL)saveTicket {
   [self record:"saveTicket"];
-  return answer;
+  return result;
 }
 - (void)notifyUI {
   [self record:"notifyUI"];
@@ -65,7 +65,7 @@ protected:
     ControllerFixture::TearDown();
   }
 
-  /// Puts a recorder in place of the controller.
+  /// Replaces the controller by a recorder.
   void recordCalls() {
     collector = [[RecordingCollector alloc] initWithName:"items" journal:&journal];
     [field<id>(panel, "SettingItems") release];
@@ -79,12 +79,12 @@ protected:
 
 // The class.
 
-TEST(PanelInterface, DerivesFromTheRootClass) {
+TEST(PanelInterface, DerivesFromNSObject) {
   EXPECT_EQ([MorvaADPPdePanelRV2 superclass], [NSObject class]);
 }
 
-// macOS has none to adopt.
-TEST(PanelInterface, NamesNoProtocol) {
+// macOS has no such protocol.
+TEST(PanelInterface, DeclaresNoProtocol) {
   EXPECT_FALSE([MorvaADPPdePanelRV2 conformsToProtocol:@protocol(PDEPanel)]);
 }
 
@@ -94,7 +94,7 @@ TEST(PanelInterface, HasItsFieldsInOrder) {
                    "SettingItems @", "supportedOptions @"}));
 }
 
-TEST(PanelInterface, CarriesOutItsOperationsItself) {
+TEST(PanelInterface, ImplementsItsMethodsItself) {
   const auto operations = operationsOf([MorvaADPPdePanelRV2 class]);
   for (const char *name :
        {"initWithCallback:Bundle:", "dealloc", "panelView", "panelName", "panelKind",
@@ -114,19 +114,19 @@ TEST(PanelInterface, BooleansAreOneByte) {
   }
 }
 
-// Coming and going.
+// Construction and deallocation.
 
 TEST_F(Panel, NeedsAHostAndABundle) {
   EXPECT_EQ([[MorvaADPPdePanelRV2 alloc] initWithCallback:nil Bundle:bundle->bundle()], nil);
   EXPECT_EQ([[MorvaADPPdePanelRV2 alloc] initWithCallback:host Bundle:nil], nil);
 }
 
-TEST_F(Panel, DoesNotExistWithoutItsBase) {
+TEST_F(Panel, CannotBeBuiltIfItsSuperclassRefuses) {
   const RefusingInit refusing([MorvaADPPdePanelRV2 class]);
   EXPECT_EQ([[MorvaADPPdePanelRV2 alloc] initWithCallback:host Bundle:bundle->bundle()], nil);
 }
 
-TEST_F(Panel, WithoutAControllerDoesNotExistAndLetsGoOfEverything) {
+TEST_F(Panel, WithoutAControllerCannotBeBuiltAndReleasesEverything) {
   bundle->remove("SettingInfo.plist");
   LiveObjects alive;
   const int before = alive.count([MorvaADPPdePanelRV2 class]);
@@ -143,7 +143,7 @@ TEST_F(Panel, WithoutAControllerDoesNotExistAndLetsGoOfEverything) {
   EXPECT_EQ([resources retainCount], bundleReferences);
 }
 
-TEST_F(Panel, StartsUnshownWithAControllerOfItsOwn) {
+TEST_F(Panel, StartsUnshownWithANewController) {
   EXPECT_EQ(field<id>(panel, "PDEPluginCallbackObject"), host);
   EXPECT_EQ(field<NSBundle *>(panel, "PDEBundle"), bundle->bundle());
   EXPECT_EQ(field<id>(panel, "PDEName"), nil);
@@ -155,7 +155,7 @@ TEST_F(Panel, StartsUnshownWithAControllerOfItsOwn) {
   EXPECT_EQ(field<NSBundle *>(field<id>(panel, "SettingItems"), "Bundle"), bundle->bundle());
 }
 
-TEST_F(Panel, LetsGoOfWhatItOwnsInOrder) {
+TEST_F(Panel, ReleasesWhatItOwnsInOrder) {
   recordCalls();
   collector->recordsReleases = YES;
   [panel panelName];
@@ -173,13 +173,13 @@ TEST_F(Panel, LetsGoOfWhatItOwnsInOrder) {
   collector->recordsReleases = NO;
 }
 
-// What it answers.
+// What it returns.
 
-TEST_F(Panel, AnswersItsKind) {
+TEST_F(Panel, ReturnsItsKind) {
   EXPECT_EQ(cxxString([panel panelKind]), "com.morva.print.pde.ImagePositionRV1");
 }
 
-TEST_F(Panel, AnswersTrueToShouldShowHelpAndToShouldHide) {
+TEST_F(Panel, ReturnsTrueForShouldShowHelpAndShouldHide) {
   EXPECT_EQ([panel shouldShowHelp], 1);
   EXPECT_EQ([panel shouldHide], 1);
   [panel willShow];
@@ -196,11 +196,11 @@ TEST_F(Panel, LooksItsNameUpOnce) {
   EXPECT_EQ([panel panelName], name);
   EXPECT_THAT(journal.take(), ElementsAre("strings.localize:PluginName"));
   field<id>(panel, "PDEBundle") = original;
-  EXPECT_EQ([panel panelName], name) << "whatever the bundle says now";
+  EXPECT_EQ([panel panelName], name) << "whatever the bundle returns now";
   [strings release];
 }
 
-TEST_F(Panel, TakesNoReferenceToItsName) {
+TEST_F(Panel, DoesNotRetainItsName) {
   NSString *name = [[NSString alloc] initWithFormat:@"a name of %d", 1];
   field<id>(panel, "PDEName") = name;
   EXPECT_EQ([panel panelName], name);
@@ -211,11 +211,9 @@ TEST_F(Panel, TakesNoReferenceToItsName) {
   [name release];
 }
 
-TEST_F(Panel, IsCalledByTheLocalizedName) {
-  EXPECT_EQ(cxxString([panel panelName]), "Image Position");
-}
+TEST_F(Panel, HasTheLocalizedName) { EXPECT_EQ(cxxString([panel panelName]), "Image Position"); }
 
-TEST_F(Panel, WithoutALocalizedNameIsCalledByTheKey) {
+TEST_F(Panel, WithoutALocalizedNameItsNameIsTheKey) {
   TestBundle nameless;
   nameless.writePropertyList("SettingInfo", fourDefinitions());
   nameless.writePropertyList("ConstraintInfo", [NSDictionary dictionary]);
@@ -224,8 +222,8 @@ TEST_F(Panel, WithoutALocalizedNameIsCalledByTheKey) {
   EXPECT_EQ(cxxString([other panelName]), "PluginName");
 }
 
-// Until there is one.
-TEST_F(Panel, HasNoNameFromABundleThatGivesNone) {
+// It looks for the name until there is one.
+TEST_F(Panel, HasNoNameIfTheBundleReturnsNull) {
   NSBundle *original = field<NSBundle *>(panel, "PDEBundle");
   SilentBundle *strings = [[SilentBundle alloc] init];
   field<id>(panel, "PDEBundle") = strings;
@@ -235,7 +233,7 @@ TEST_F(Panel, HasNoNameFromABundleThatGivesNone) {
   [strings release];
 }
 
-TEST_F(Panel, AnnouncesTheSameFiveOptionKeysEachTimeAndLogsThemEachTime) {
+TEST_F(Panel, ReturnsTheSameFiveOptionKeysEachTimeAndLogsThemEachTime) {
   NSArray *keys = [panel supportedPPDOptionKeys];
   ASSERT_EQ([keys count], 5U);
   EXPECT_EQ(cxxString([keys objectAtIndex:0]), "LeftRightMargin");
@@ -245,12 +243,12 @@ TEST_F(Panel, AnnouncesTheSameFiveOptionKeysEachTimeAndLogsThemEachTime) {
   EXPECT_EQ(cxxString([keys objectAtIndex:4]), "MVAdjustDuplexPosition");
   const std::string line = "supportedPPDOptionKeys:=NSArray(" + cxxString([keys description]) + ")";
   EXPECT_THAT(log->lines(), ElementsAre(line));
-  EXPECT_EQ([panel supportedPPDOptionKeys], keys) << "the same object";
+  EXPECT_EQ([panel supportedPPDOptionKeys], keys) << "not the same object";
   EXPECT_EQ([keys count], 5U);
   EXPECT_THAT(log->lines(), ElementsAre(line, line));
 }
 
-TEST_F(Panel, TheOptionKeysAreThePanelsOwn) {
+TEST_F(Panel, OwnsAMutableListOfOptionKeys) {
   Pool pool;
   NSArray *keys = [panel supportedPPDOptionKeys];
   EXPECT_EQ(keys, field<id>(panel, "supportedOptions"));
@@ -292,8 +290,8 @@ TEST_P(PanelForwarding, AfterThePaneWasShown) {
   EXPECT_EQ(journal.take(), GetParam().shown);
 }
 
-TEST_P(PanelForwarding, IgnoresWhatTheControllerAnswers) {
-  collector->answer = YES;
+TEST_P(PanelForwarding, IgnoresTheControllersResults) {
+  collector->result = YES;
   GetParam().request(panel);
   EXPECT_EQ(journal.take(), GetParam().unshown);
 }
@@ -329,7 +327,7 @@ INSTANTIATE_TEST_SUITE_P(
         ForwardingRow{"shouldShowHelp", [](auto panel) { [panel shouldShowHelp]; }, {}, {}}),
     [](const auto &row) { return std::string(row.param.name); });
 
-TEST_F(Panel, ForwardsTheRequestForItsViewShownOrNot) {
+TEST_F(Panel, RequestsItsViewFromTheControllerShownOrNot) {
   recordCalls();
   NSView *view = [[[NSView alloc] initWithFrame:NSZeroRect] autorelease];
   collector->view = view;
@@ -340,14 +338,14 @@ TEST_F(Panel, ForwardsTheRequestForItsViewShownOrNot) {
   EXPECT_THAT(journal.take(), ElementsAre("items.prepareView"));
 }
 
-TEST_F(Panel, AnswersTheControllersSummaryUnchanged) {
+TEST_F(Panel, ReturnsTheControllersSummaryUnchanged) {
   recordCalls();
   NSDictionary *summary = [NSDictionary dictionaryWithObject:@"b" forKey:@"a"];
   collector->summary = summary;
   EXPECT_EQ([panel summaryInfo], summary);
 }
 
-TEST_F(Panel, IsShownFromTheFirstShowOnForEver) {
+TEST_F(Panel, StaysShownAfterTheFirstShow) {
   recordCalls();
   [panel willShow];
   EXPECT_EQ(field<BOOL>(panel, "PanelShown"), YES);
@@ -356,7 +354,7 @@ TEST_F(Panel, IsShownFromTheFirstShowOnForEver) {
   EXPECT_EQ(field<BOOL>(panel, "PanelShown"), YES);
 }
 
-TEST_F(Panel, NothingButShowingShowsIt) {
+TEST_F(Panel, OnlyWillShowMarksItAsShown) {
   recordCalls();
   [panel panelView];
   [panel shouldPrint];
@@ -365,7 +363,7 @@ TEST_F(Panel, NothingButShowingShowsIt) {
   EXPECT_EQ(field<BOOL>(panel, "PanelShown"), NO);
 }
 
-TEST_F(Panel, TakesThePrinterAnewEachTimeItIsShown) {
+TEST_F(Panel, TakesThePpdAgainEachTimeItIsShown) {
   recordCalls();
   [panel willShow];
   EXPECT_EQ(field<ppd_file_t *>(panel, "ppd"), ppd->get());
@@ -378,7 +376,7 @@ TEST_F(Panel, TakesThePrinterAnewEachTimeItIsShown) {
   EXPECT_EQ(field<ppd_file_t *>(panel, "ppd"), nullptr);
 }
 
-TEST_F(Panel, LeavesErrorOutputsAsTheyAre) {
+TEST_F(Panel, LeavesErrorOutputsUnchanged) {
   NSError *error = (NSError *)host;
   for (int shown = 0; shown < 2; ++shown) {
     EXPECT_EQ([panel saveValuesAndReturnError:&error], 1);
@@ -403,7 +401,7 @@ TEST_F(Panel, SavingAndRestoringBeforeTheFirstShowChangeNothing) {
   EXPECT_EQ(settings->size(), 1U);
 }
 
-TEST_F(Panel, PrintingThroughAPaneThatWasNeverOpenedWritesEverything) {
+TEST_F(Panel, PrintingWithAPaneThatWasNeverShownWritesEverything) {
   writeInterfaceFile();
   [panel panelView];
   settings->put("FrontLRMTicket", "-3");
@@ -417,7 +415,7 @@ TEST_F(Panel, PrintingThroughAPaneThatWasNeverOpenedWritesEverything) {
   EXPECT_EQ(settings->text(kEnableKey), "True");
 }
 
-TEST_F(Panel, PrintingThroughAPaneWithoutAViewWritesTheValuesToo) {
+TEST_F(Panel, PrintingWithAPaneWithoutAViewWritesTheValuesToo) {
   settings->put("FrontLRMTicket", "-3");
   EXPECT_EQ([panel shouldPrint], 1);
   EXPECT_EQ(settings->text("FrontLRMTicket"), "-3");

@@ -51,12 +51,12 @@ TEST(PluginInterface, DerivesFromTheRootClassAndHasOneField) {
   EXPECT_EQ(fieldsOf([MorvaADPPdePluginRV2 class]), Lines{"Bundle @"});
 }
 
-// macOS has none to adopt.
-TEST(PluginInterface, NamesNoProtocol) {
+// macOS has no such protocol.
+TEST(PluginInterface, DeclaresNoProtocol) {
   EXPECT_FALSE([MorvaADPPdePluginRV2 conformsToProtocol:@protocol(PDEPlugIn)]);
 }
 
-TEST(PluginInterface, CarriesOutItsOperationsItself) {
+TEST(PluginInterface, ImplementsItsMethodsItself) {
   const auto operations = operationsOf([MorvaADPPdePluginRV2 class]);
   for (const char *name : {"initWithBundle:", "dealloc",
                            "PDEPanelsForType:withHostInfo:", "isSupportAdjustImagePosition:"})
@@ -78,7 +78,7 @@ TEST(PluginInterface, PublishesTheAttributeAndItsOneValue) {
 
 // The bundle.
 
-TEST_F(Plugin, TakesOneReferenceToItsBundleAndLetsGoOfIt) {
+TEST_F(Plugin, RetainsItsBundleOnceAndReleasesIt) {
   NSBundle *given = bundle->bundle();
   const NSUInteger before = [given retainCount];
   MorvaADPPdePluginRV2 *other = [MorvaADPPdePluginRV2 alloc];
@@ -89,7 +89,7 @@ TEST_F(Plugin, TakesOneReferenceToItsBundleAndLetsGoOfIt) {
   EXPECT_EQ([given retainCount], before);
 }
 
-TEST_F(Plugin, WithoutABundleAnswersTrueAndNoPanelCanBeBuilt) {
+TEST_F(Plugin, WithoutABundleInitReturnsTrueAndNoPanelCanBeBuilt) {
   MorvaADPPdePluginRV2 *other = [MorvaADPPdePluginRV2 alloc];
   EXPECT_EQ([other initWithBundle:nil], 1);
   EXPECT_EQ(field<NSBundle *>(other, "Bundle"), nil);
@@ -111,7 +111,7 @@ TEST_F(Plugin, WithoutABundleOtherDialogsAndPrintersStillGetAnEmptyArray) {
 
 class PluginForType : public Plugin, public testing::WithParamInterface<const char *> {};
 
-TEST_P(PluginForType, OffersNothingToOtherDialogsWithoutAskingForThePrinter) {
+TEST_P(PluginForType, OffersNothingToOtherDialogsWithoutRequestingThePpd) {
   NSArray *offered = panels(nsString(GetParam()));
   ASSERT_NE(offered, nil);
   EXPECT_EQ([offered count], 0U);
@@ -137,19 +137,17 @@ TEST_F(Plugin, OffersOnePanelToAPrintDialogForASupportingPrinter) {
   EXPECT_EQ([[offered objectAtIndex:0] class], [MorvaADPPdePanelRV2 class]);
 }
 
-TEST_F(Plugin, KnowsThePrintDialogByTheTypesTextNotItsObject) {
+TEST_F(Plugin, ComparesTheDialogTypeAsAString) {
   EXPECT_EQ([panels([NSMutableString stringWithString:kPrintDialog]) count], 1U);
 }
 
-TEST_F(Plugin, GivesThePanelTheHostAndTheBundle) {
+TEST_F(Plugin, PassesThePanelTheHostAndTheBundle) {
   id panel = [panels() objectAtIndex:0];
   EXPECT_EQ(field<id>(panel, "PDEPluginCallbackObject"), host);
   EXPECT_EQ(field<NSBundle *>(panel, "PDEBundle"), bundle->bundle());
 }
 
-TEST_F(Plugin, TheArrayIsTheCallersToExtend) {
-  EXPECT_TRUE([panels() isKindOfClass:[NSMutableArray class]]);
-}
+TEST_F(Plugin, TheArrayIsMutable) { EXPECT_TRUE([panels() isKindOfClass:[NSMutableArray class]]); }
 
 // The printer.
 
@@ -195,7 +193,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "*AdjustDuplexPositionSupport B/B: \"true\""},
                    false}));
 
-TEST_F(Plugin, APrinterDescriptionThatIsNotThereIsNotSupported) {
+TEST_F(Plugin, ANullPpdIsNotSupported) {
   EXPECT_EQ([plugin isSupportAdjustImagePosition:nullptr], NO);
   host->ppd = nullptr;
   NSArray *offered = panels();
@@ -203,7 +201,7 @@ TEST_F(Plugin, APrinterDescriptionThatIsNotThereIsNotSupported) {
   EXPECT_EQ([offered count], 0U);
 }
 
-TEST_F(Plugin, AHostThatIsNotThereGetsAnEmptyArray) {
+TEST_F(Plugin, ANullHostGetsAnEmptyArray) {
   NSArray *offered = [plugin PDEPanelsForType:kPrintDialog withHostInfo:nil];
   ASSERT_NE(offered, nil);
   EXPECT_EQ([offered count], 0U);
@@ -224,13 +222,13 @@ TEST_F(Plugin, AValueThatIsNotUtf8IsNotSupported) {
   EXPECT_EQ([plugin isSupportAdjustImagePosition:ppd->get()], NO);
 }
 
-TEST_F(Plugin, WhetherThePrinterForbidsTheAdjustmentNowIsNotAsked) {
+TEST_F(Plugin, OffersAPanelEvenIfTheMarkedChoicesForbidTheAdjustment) {
   ppd->mark("Duplex", "None");
   ppd->mark("MVBannerPagePrint", "True");
   EXPECT_EQ([panels() count], 1U);
 }
 
-TEST_F(Plugin, AsksForThePrinterEachTime) {
+TEST_F(Plugin, RequestsThePpdEachTime) {
   EXPECT_EQ([panels() count], 1U);
   usePrinter(duplexPrinter());
   EXPECT_EQ([panels() count], 0U);
@@ -238,14 +236,14 @@ TEST_F(Plugin, AsksForThePrinterEachTime) {
 
 // Panels.
 
-TEST_F(Plugin, EachRequestMakesAPanelAndAControllerOfItsOwn) {
+TEST_F(Plugin, EachRequestMakesANewPanelAndController) {
   id first = [panels() objectAtIndex:0];
   id second = [panels() objectAtIndex:0];
   EXPECT_NE(first, second);
   EXPECT_NE(field<id>(first, "SettingItems"), field<id>(second, "SettingItems"));
 }
 
-TEST_F(Plugin, EachRequestReadsTheDefinitionsAfresh) {
+TEST_F(Plugin, EachRequestReadsTheDefinitionsAgain) {
   panels();
   NSMutableDictionary *record = definition("FrontLRM");
   [record setObject:@"9" forKey:@"DefaultValue"];
@@ -267,7 +265,7 @@ TEST_F(Plugin, APanelThatCannotBeBuiltIsNullAndNotAnEmptyArray) {
   EXPECT_EQ(panels(), nil);
 }
 
-TEST_F(Plugin, LogsNothingOfItsOwn) {
+TEST_F(Plugin, LogsNothingItself) {
   usePrinter(duplexPrinter());
   panels();
   panels(@"page setup");
@@ -288,7 +286,7 @@ TEST_F(Plugin, KeepsNeitherTheArrayNorThePanel) {
       Pool inner;
       EXPECT_EQ([offered count], 1U);
     }
-    EXPECT_EQ([[offered objectAtIndex:0] retainCount], 1U) << "the array's is the only one";
+    EXPECT_EQ([[offered objectAtIndex:0] retainCount], 1U) << "only the array retains the panel";
     [offered release];
   }
   EXPECT_EQ(alive.count([MorvaADPPdePanelRV2 class]), before);

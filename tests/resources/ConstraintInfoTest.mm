@@ -1,4 +1,4 @@
-// The shipped rules, against the settings that they act on.
+// Checks the shipped rules against the settings that they act on.
 #import "ResourceFiles.h"
 
 #import "Keys.h"
@@ -31,8 +31,7 @@ ValueRange entryRangeOf(const std::string &settingName) {
   return readInterval(definitionOf(settingName).at("Range")).value();
 }
 
-// The rules that change the same thing of the same setting, for a printer that has these
-// attributes.
+// The rules with the same action on the same setting, for a printer that has these attributes.
 std::vector<Record> firing(const std::string &settingName, const std::string &pattern,
                            const std::string &attribute, const std::string &value) {
   std::vector<Record> result;
@@ -48,7 +47,7 @@ const std::vector<std::string> kSettings = {"FrontLRM", "FrontTBM", "BackLRM", "
 
 } // namespace
 
-TEST(ConstraintInfo, EveryRuleHasTheKeysOfAPrinterRuleAndNoOther) {
+TEST(ConstraintInfo, EveryRuleHasExactlyTheKeysOfAPpdRule) {
   const std::set<std::string> expected = {
       cxxString(kRuleConditionType),  cxxString(kRuleConditionPattern),
       cxxString(kRuleConditionValue), cxxString(kRuleActionObj),
@@ -64,7 +63,7 @@ TEST(ConstraintInfo, EveryRuleHasTheKeysOfAPrinterRuleAndNoOther) {
   }
 }
 
-// A rule that the code reads as one that does nothing is a slip of the pen.
+// A rule that does nothing is a mistake in the file.
 TEST(ConstraintInfo, EveryRuleDoesSomethingToAnExistingSetting) {
   const SettingRules read(propertyList("ConstraintInfo.plist"));
   std::size_t found = 0;
@@ -77,14 +76,14 @@ TEST(ConstraintInfo, EveryRuleDoesSomethingToAnExistingSetting) {
   EXPECT_EQ(found, rules().size());
 }
 
-// Whether an offset is usable is decided after the rules, so such a rule would be undone.
-TEST(ConstraintInfo, NoRuleDecidesAvailabilityOrOverridesWhatThePersonTyped) {
+// The controller updates availability after the rules, and would undo the effect of such a rule.
+TEST(ConstraintInfo, NoRuleSetsAvailabilityOrOverridesWhatTheUserTyped) {
   for (const Record &rule : rules())
     EXPECT_THAT(rule.at("ActionPattern"), testing::AnyOf("Range", "Default"));
 }
 
-// The entry field never learns of a rule's range: beyond its own it would refuse what the range
-// label offers.
+// The entry field does not receive a rule's range. It would reject numbers outside its own range
+// that the range label offers.
 TEST(ConstraintInfo, RangesContainZeroAndStayWithinWhatTheEntryFieldAccepts) {
   for (const Record &rule : rules()) {
     if (rule.at("ActionPattern") != "Range")
@@ -98,7 +97,7 @@ TEST(ConstraintInfo, RangesContainZeroAndStayWithinWhatTheEntryFieldAccepts) {
   }
 }
 
-TEST(ConstraintInfo, DefaultsFitIntoEveryRange) {
+TEST(ConstraintInfo, DefaultsAreWithinEveryRange) {
   for (const Record &rule : rules()) {
     if (rule.at("ActionPattern") != "Default")
       continue;
@@ -120,7 +119,7 @@ TEST(ConstraintInfo, ShiftRangesApplyToAllFourSettings) {
       ASSERT_EQ(found.size(), 1u) << setting << " " << value;
       EXPECT_EQ(found[0].at("ActionValue"), range);
     }
-    // The panel is offered only where this attribute is "true", so this rule always fires.
+    // The plug-in offers the panel only if this attribute is "true", so this rule always fires.
     const std::vector<Record> always =
         firing(setting, "Range", "AdjustDuplexPositionSupport", "true");
     ASSERT_EQ(always.size(), 1u) << setting;
@@ -128,8 +127,8 @@ TEST(ConstraintInfo, ShiftRangesApplyToAllFourSettings) {
   }
 }
 
-// Later rules win.
-TEST(ConstraintInfo, WhatEveryPrinterCanDoComesBeforeWhatAPrinterNames) {
+// Later rules override earlier ones.
+TEST(ConstraintInfo, RulesForEveryPrinterPrecedeRulesForSomePrinters) {
   bool named = false;
   for (const Record &rule : rules()) {
     const bool general = rule.at("ConditionPattern") == "AdjustDuplexPositionSupport";
@@ -138,7 +137,7 @@ TEST(ConstraintInfo, WhatEveryPrinterCanDoComesBeforeWhatAPrinterNames) {
   }
 }
 
-TEST(ConstraintInfo, OnlyTheBackSideHasDefaultsAndTheyAreWhatTheAttributeSays) {
+TEST(ConstraintInfo, OnlyTheBackSideHasDefaultsAndTheyEqualTheAttribute) {
   const std::map<std::string, std::string> attributes = {{"BackLRM", "MVBackLeftRightDefault"},
                                                          {"BackTBM", "MVBackTopBottomDefault"}};
   std::map<std::string, std::set<std::string>> offered;

@@ -1,4 +1,5 @@
-// The interface file as Xcode's document, against the classes that it instantiates and connects.
+// Checks the interface file, as an Xcode document, against the classes that it instantiates and
+// connects.
 #import "ResourceFiles.h"
 
 #import "MorvaADPSettingsCollectorRV2.h"
@@ -29,14 +30,14 @@ protected:
     ASSERT_NE(document_, nil);
   }
 
-  // Null when there are none.
+  // Null if there are none.
   NSArray *nodes(const std::string &path) {
     return [document_ nodesForXPath:nsString(path) error:NULL];
   }
 
   std::size_t count(const std::string &path) { return [nodes(path) count]; }
 
-  // The texts of the attributes at that path, in the order of the document.
+  // The values of the attributes at that path, in document order.
   Names values(const std::string &path) {
     Names result;
     NSEnumerator *found = [nodes(path) objectEnumerator];
@@ -81,7 +82,7 @@ TEST_F(InterfaceFile, IsInXcodesFormatForTheOldestSystemWithoutConstraints) {
   EXPECT_EQ(count("//constraints"), 0u);
 }
 
-TEST_F(InterfaceFile, EveryIdentifierIsUniqueAndEveryReferenceLeadsSomewhere) {
+TEST_F(InterfaceFile, EveryIdentifierIsUniqueAndEveryReferenceExists) {
   const Names list = values("//@id");
   const std::set<std::string> ids(list.begin(), list.end());
   EXPECT_EQ(ids.size(), list.size());
@@ -120,13 +121,13 @@ TEST_F(InterfaceFile, OutletsAndActionsAreMarkedAsSuchInTheControllersHeader) {
     EXPECT_THAT(header, testing::HasSubstr("- (IBAction)" + action + "(id)sender;"));
 }
 
-TEST_F(InterfaceFile, HasOneViewAtTheTopWhichIsThePanels) {
+TEST_F(InterfaceFile, HasOneTopLevelViewWhichIsThePanels) {
   EXPECT_EQ(values("/document/objects/*[not(self::customObject)]/@id"),
             Names{idOf("ImagePositionPrintView")});
   EXPECT_EQ(value("/document/objects/customView/@id"), idOf("ImagePositionPrintView"));
 }
 
-// A control that is not connected would show a word that nobody translates.
+// A control that is not connected would show an untranslated string.
 TEST_F(InterfaceFile, HoldsTheEighteenConnectedControlsAndNothingElse) {
   const Names controls = values("//subviews/*/@id");
   EXPECT_EQ(controls.size(), 18u);
@@ -156,7 +157,7 @@ TEST_F(InterfaceFile, ItemsAreOfTheClassesAndElementsThatTheControllerExpects) {
   EXPECT_EQ(value(element("chkEnableImagePositionAdjust") + "/buttonCell/@type"), "check");
 }
 
-TEST_F(InterfaceFile, RangeLabelsAloneHaveTheTagOfARangeLabel) {
+TEST_F(InterfaceFile, OnlyRangeLabelsHaveTheTagOfARangeLabel) {
   for (const std::string &setting : kSettings) {
     EXPECT_EQ(value(element(setting + "RangeLabel") + "/@tag"), "1");
     for (const char *item : {"Text", "Stepper", "Label"})
@@ -174,7 +175,7 @@ TEST_F(InterfaceFile, ControlsSendTheirActionsToTheController) {
   EXPECT_EQ(count("//action"), 10u);
 }
 
-TEST_F(InterfaceFile, EntryFieldsAreEditedAndTellWhenEditingEnds) {
+TEST_F(InterfaceFile, EntryFieldsAreEditableAndSendTheirActionWhenEditingEnds) {
   for (const std::string &setting : kSettings) {
     const std::string cell = element(setting + "Text") + "/textFieldCell";
     EXPECT_EQ(value(cell + "/@editable"), "YES");
@@ -184,7 +185,7 @@ TEST_F(InterfaceFile, EntryFieldsAreEditedAndTellWhenEditingEnds) {
   }
 }
 
-// GNUstep's text fields are editable unless told otherwise.
+// GNUstep's text fields are editable by default.
 TEST_F(InterfaceFile, LabelsCanBeNeitherEditedNorSelected) {
   for (const std::string &setting : kSettings) {
     for (const char *label : {"Label", "RangeLabel"}) {
@@ -195,8 +196,8 @@ TEST_F(InterfaceFile, LabelsCanBeNeitherEditedNorSelected) {
   }
 }
 
-// A stepper counts clicks around 0; at an end it would swallow them.
-TEST_F(InterfaceFile, SteppersCountByOneInBothDirectionsWithoutEnd) {
+// A stepper counts clicks from 0; at a limit it would lose them.
+TEST_F(InterfaceFile, SteppersCountByOneInBothDirectionsWithoutLimit) {
   for (const std::string &setting : kSettings) {
     const std::string cell = element(setting + "Stepper") + "/stepperCell";
     EXPECT_LE(std::stoi(value(cell + "/@minValue")), -100000);
@@ -225,8 +226,8 @@ TEST_F(InterfaceFile, TabGoesThroughAllControlsInReadingOrder) {
         << expected[i];
 }
 
-// GNUstep takes the size of a font that names none from memory that nobody has set.
-TEST_F(InterfaceFile, EveryFontStatesItsSize) {
+// GNUstep leaves the size of a font without one uninitialized.
+TEST_F(InterfaceFile, EveryFontHasAnExplicitSize) {
   EXPECT_GT(count("//font"), 0u);
   EXPECT_EQ(count("//font[not(@size)]"), 0u);
 }

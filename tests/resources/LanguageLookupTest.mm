@@ -1,4 +1,4 @@
-// Which of the bundle's languages a person gets, by the name that their system gives the language.
+// Which of the bundle's languages a user gets, by the system's name for the language.
 #import "ResourceFiles.h"
 
 #import "TestBundle.h"
@@ -40,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair("zh_CN", "zh-Hans"), std::pair("zh-Hans", "zh-Hans"),
                     std::pair("SimplifiedChinese", "zh-Hans"), std::pair("Klingon", "en")));
 
-TEST_P(LanguageLookup, FindsTheTexts) {
+TEST_P(LanguageLookup, FindsTheStrings) {
   EXPECT_EQ(cxxString([bundle_.bundle() localizedStringForKey:@"PluginName" value:nil table:nil]),
-            texts(GetParam().second).at("PluginName"));
+            localizedStrings(GetParam().second).at("PluginName"));
 }

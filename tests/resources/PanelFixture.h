@@ -1,4 +1,4 @@
-/// The panel of the bundle as it was built, loaded the way a print dialog loads it.
+/// The built bundle's panel, loaded as a print dialog does.
 #ifndef IMAGEPOSITION_TESTS_RESOURCES_PANELFIXTURE_H
 #define IMAGEPOSITION_TESTS_RESOURCES_PANELFIXTURE_H
 
@@ -25,11 +25,11 @@ protected:
   PanelFixture();
   ~PanelFixture() override;
 
-  /// Shows the panel on a printer that has the adjustment and these further PPD lines, as a pane of
-  /// a window.
+  /// Shows the panel in a window, for a printer that has the adjustment and these further PPD
+  /// lines.
   void show(const std::vector<std::string> &ppdLines = {}, bool backSideOn = false);
 
-  /// The control behind an outlet of the controller.
+  /// The control of one of the controller's outlets.
   id control(const std::string &outlet) const;
   NSTextField *field(const std::string &setting) const { return control(setting + "Text"); }
   NSTextField *nameLabel(const std::string &setting) const { return control(setting + "Label"); }
@@ -38,14 +38,14 @@ protected:
   }
   NSView *view() const { return view_; }
 
-  /// The text is typed into the field, which is then left.
+  /// Types the text into the field and leaves the field.
   void enter(const std::string &setting, const std::string &text);
 
   std::string shown(NSTextField *field) const;
 
-  /// The language that this process runs in, by the name of its folder.
+  /// The folder name of this process's language.
   static std::string language();
-  /// The bundle's text for the key, as the panel finds it.
+  /// The bundle's string for the key, as the panel finds it.
   static std::string localized(const std::string &key);
 
   TestPrintSettings settings_;

@@ -33,7 +33,7 @@ NSBundle *loadedBundle() {
   return bundle;
 }
 
-// One for the whole process, as in a dialog: its code is never unloaded.
+// One for the whole process, as in a dialog; its code is never unloaded.
 id<PDEPlugIn> plugIn() {
   static id instance = nil;
   if (instance == nil) {

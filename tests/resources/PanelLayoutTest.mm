@@ -1,6 +1,5 @@
-// The panel as it is laid out and labelled in the language of this process: nothing clipped,
-// nothing overlapping, everything in line. It is measured with the font that the panel is drawn
-// with.
+// The layout of the panel and its labels in this process's language: nothing is clipped, nothing
+// overlaps, everything is aligned. Measures with the fonts that draw the panel.
 #import "PanelFixture.h"
 #import "ResourceFiles.h"
 
@@ -15,7 +14,7 @@ using namespace imageposition::test;
 
 namespace {
 
-// The widest numbers of any printer, and the narrowest.
+// The widest and the narrowest numbers of any printer.
 const std::vector<std::string> kRangeNames = {"Wide", "Narrow"};
 
 struct State {
@@ -48,7 +47,7 @@ protected:
 
   NSRect frame(const std::string &outlet) const { return [control(outlet) frame]; }
 
-  // The text in its font, against the room that the cell leaves it.
+  // The size of the text in its font, compared with the space that the cell has for it.
   void expectFits(NSTextField *label, NSString *text) {
     NSDictionary *attributes = [NSDictionary dictionaryWithObject:[label font]
                                                            forKey:NSFontAttributeName];
@@ -79,8 +78,8 @@ INSTANTIATE_TEST_SUITE_P(States, PanelLayout,
                                          State{"Narrow", false}, State{"Narrow", true}),
                          testName);
 
-TEST_P(PanelLayout, SpeaksTheLanguageOfThePerson) {
-  const auto expected = texts(language());
+TEST_P(PanelLayout, UsesTheUsersLanguage) {
+  const auto expected = localizedStrings(language());
   const bool on = GetParam().backSideOn;
   EXPECT_EQ(localized("PluginName"), expected.at("PluginName"));
   EXPECT_EQ(shown(nameLabel("FrontLRM")), expected.at(on ? "FrontLRM" : "LRM"));
@@ -112,7 +111,7 @@ TEST_P(PanelLayout, NoTextIsClipped) {
   expectFits(control("btnRestore2Defalut"));
 }
 
-TEST_P(PanelLayout, EverythingLiesWithinTheView) {
+TEST_P(PanelLayout, EverythingIsWithinTheView) {
   for (const std::string &outlet : outlets())
     EXPECT_TRUE(NSContainsRect([view() bounds], frame(outlet))) << outlet;
 }
@@ -125,7 +124,7 @@ TEST_P(PanelLayout, NothingOverlaps) {
   }
 }
 
-TEST_P(PanelLayout, TheItemsOfAnOffsetStandInOneRow) {
+TEST_P(PanelLayout, TheItemsOfAnOffsetAreInOneRow) {
   for (const std::string &setting : kSettingNames) {
     const NSRect entry = frame(setting + "Text");
     for (const char *item : {"Label", "RangeLabel", "Stepper"})
@@ -137,7 +136,7 @@ TEST_P(PanelLayout, TheItemsOfAnOffsetStandInOneRow) {
   }
 }
 
-TEST_P(PanelLayout, TheRowsStandInColumnsAtEqualDistances) {
+TEST_P(PanelLayout, TheRowsAreAlignedInColumnsAtEqualDistances) {
   for (const char *item : {"Text", "Stepper", "Label", "RangeLabel"}) {
     const NSRect first = frame("FrontLRM" + std::string(item));
     for (const std::string &setting : kSettingNames) {
@@ -173,7 +172,7 @@ TEST_P(PanelLayout, TabGoesFromEntryFieldToEntryField) {
   EXPECT_EQ([control("btnRestore2Defalut") nextValidKeyView], field("FrontLRM"));
 }
 
-TEST_P(PanelLayout, LabelsTakeNoKeys) {
+TEST_P(PanelLayout, LabelsAcceptNoKeyboardFocus) {
   for (const std::string &setting : kSettingNames) {
     for (NSTextField *label : {nameLabel(setting), rangeLabel(setting)})
       EXPECT_FALSE([label canBecomeKeyView]) << setting;

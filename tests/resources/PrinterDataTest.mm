@@ -1,4 +1,4 @@
-// What the shipped definitions and rules make of a printer's description, as the person sees it.
+// The effects of the shipped definitions and rules for several PPDs, as the user sees them.
 #import "PanelFixture.h"
 
 #include <gmock/gmock.h>
@@ -18,7 +18,7 @@ protected:
     }
   }
 
-  // Every value that the range label offers can be typed; the one beyond it becomes the nearest.
+  // Every value in the range label can be typed; one outside becomes the nearest bound.
   void expectEntryUpTo(int max) {
     for (const std::string &setting : kSettingNames) {
       for (int sign : {1, -1}) {
@@ -47,7 +47,7 @@ TEST_F(PrinterData, ANarrowPrinterOffersFiveMillimetres) {
   expectEntryUpTo(50);
 }
 
-TEST_F(PrinterData, AWidePrinterOffersTwentyMillimetresToTypeAsWell) {
+TEST_F(PrinterData, AWidePrinterOffersTwentyMillimetresInTheEntryFieldsToo) {
   show({"*MVDuplexShiftRange: \"Wide\""}, true);
   expectRange("-200", "200");
   expectEntryUpTo(200);
@@ -64,7 +64,7 @@ TEST_F(PrinterData, AllOffsetsStartAtZero) {
     EXPECT_EQ(shown(field(setting)), "0");
 }
 
-TEST_F(PrinterData, TheBackSideStartsWhereThePrinterSaysUntilTheJobHoldsAValue) {
+TEST_F(PrinterData, TheBackSideHasThePrintersDefaultUntilTheJobHasAValue) {
   show({"*MVBackLeftRightDefault: \"5\"", "*MVBackTopBottomDefault: \"-10\""}, true);
   EXPECT_EQ(shown(field("FrontLRM")), "0");
   EXPECT_EQ(shown(field("FrontTBM")), "0");
@@ -72,7 +72,7 @@ TEST_F(PrinterData, TheBackSideStartsWhereThePrinterSaysUntilTheJobHoldsAValue) 
   EXPECT_EQ(shown(field("BackTBM")), "-10");
 }
 
-TEST_F(PrinterData, AValueOfTheJobWinsOverThePrintersDefault) {
+TEST_F(PrinterData, AValueInTheJobOverridesThePrintersDefault) {
   settings_.put("BackLeftRightMargin", "7");
   show({"*MVBackLeftRightDefault: \"5\""}, true);
   EXPECT_EQ(shown(field("BackLRM")), "7");

@@ -1,4 +1,4 @@
-/// Property lists in XML, looked at as they are written.
+/// Checks the XML of property lists.
 #ifndef IMAGEPOSITION_TESTS_RESOURCES_PROPERTYLISTFORM_H
 #define IMAGEPOSITION_TESTS_RESOURCES_PROPERTYLISTFORM_H
 
@@ -7,10 +7,9 @@
 
 namespace imageposition::test {
 
-/// What a strict reader would refuse, and what a lenient one would lose: another beginning than
-/// that of a property list, elements that one does not have or not there, text between elements, a
-/// dictionary whose keys and values do not alternate, a key that comes twice. Empty when it is
-/// fine.
+/// Returns everything that a strict parser would reject or a lenient one would drop: a header that
+/// is not a property list's, unknown or misplaced elements, text between elements, a dictionary
+/// whose keys and values do not alternate, a duplicate key. Empty if there is nothing wrong.
 std::vector<std::string> propertyListFaults(const std::string &bytes);
 
 } // namespace imageposition::test

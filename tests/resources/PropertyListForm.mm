@@ -18,10 +18,10 @@ using Nodes = std::vector<NSXMLNode *>;
 const std::set<std::string> kLeaves = {"string", "integer", "real", "date", "data", "key"};
 const std::set<std::string> kMarks = {"true", "false"};
 
-/// Collects the faults of one document.
+/// Collects the errors in one document.
 class Form {
 public:
-  /// `element` is a value: the one in the list, an entry's, an array's.
+  /// Checks a value: the root's, an entry's or an array's.
   void lookAtValue(NSXMLElement *element) {
     const std::string name = cxxString([element name]);
     if ([[element attributes] count] > 0)
@@ -32,7 +32,7 @@ public:
     else if (name == "array")
       lookAtValues(children);
     else if (kLeaves.count(name) + kMarks.count(name) == 0 || name == "key")
-      add("<" + name + "> is no value");
+      add("<" + name + "> is not a value");
     else if (!children.empty())
       add("<" + name + "> has elements in it");
   }
@@ -50,7 +50,7 @@ public:
       if ([child kind] == NSXMLElementKind)
         elements.push_back(child);
       else if ([child kind] == NSXMLTextKind && !mayHaveText && !isBlank([child stringValue]))
-        add("text stands in <" + cxxString([element name]) + ">: " + cxxString(child));
+        add("there is text in <" + cxxString([element name]) + ">: " + cxxString(child));
     }
     return elements;
   }
@@ -71,7 +71,7 @@ private:
       if (cxxString([children[i] name]) != "key")
         add("a dictionary has a value without a key: " + key);
       else if (!keys.insert(key).second)
-        add("the key \"" + key + "\" comes twice in one dictionary");
+        add("the key \"" + key + "\" is duplicated in one dictionary");
       if (i + 1 == children.size())
         add("the key \"" + key + "\" has no value");
       else
@@ -86,11 +86,11 @@ private:
 
 std::vector<std::string> propertyListFaults(const std::string &bytes) {
   if (bytes.compare(0, sizeof kBeginning - 1, kBeginning) != 0)
-    return {"it does not begin as property lists do"};
+    return {"it does not begin like a property list"};
   static const std::regex kOtherEntity("&(?!(?:amp|lt|gt|quot|apos);)[^;]*;?");
-  std::smatch entity; // the platform's documents raise when they come to one
+  std::smatch entity; // GNUstep's XML documents raise at an entity
   if (std::regex_search(bytes, entity, kOtherEntity))
-    return {"it has an entity of its own: " + entity.str()};
+    return {"it declares an entity: " + entity.str()};
   NSData *data = [NSData dataWithBytes:bytes.data() length:bytes.size()];
   NSXMLDocument *document = [[[NSXMLDocument alloc] initWithData:data options:0
                                                            error:NULL] autorelease];
@@ -99,15 +99,15 @@ std::vector<std::string> propertyListFaults(const std::string &bytes) {
   Form form;
   const auto values = form.elementsOf([document rootElement], false);
   if (values.size() != 1)
-    form.add("a property list is one value");
+    form.add("a property list has one root value");
   form.lookAtValues(values);
-  // The platform's reader raises at some of these faults.
+  // GNUstep's reader raises at some of these errors.
   if (form.faults().empty() &&
       [NSPropertyListSerialization propertyListWithData:data
                                                 options:NSPropertyListImmutable
                                                  format:NULL
                                                   error:NULL] == nil)
-    form.add("the platform cannot read it");
+    form.add("Foundation cannot read it");
   return form.faults();
 }
 

@@ -21,7 +21,7 @@ Record record(id dictionary, const std::string &where) {
   for (id key = [keys nextObject]; key != nil; key = [keys nextObject]) {
     id value = [dictionary objectForKey:key];
     if (![value isKindOfClass:[NSString class]])
-      throw std::runtime_error(where + " has a value that is not a text");
+      throw std::runtime_error(where + " has a value that is not a string");
     result[cxxString(key)] = cxxString(value);
   }
   return result;
@@ -65,7 +65,7 @@ const std::vector<std::string> &languages() {
   return all;
 }
 
-std::vector<std::pair<std::string, std::string>> orderedTexts(const std::string &language) {
+std::vector<std::pair<std::string, std::string>> orderedStrings(const std::string &language) {
   const std::string name = language + ".lproj/Localizable.strings";
   const std::string bytes = fileBytes(resourcePath(name));
   if (bytes.compare(0, 3, kByteOrderMark) != 0)
@@ -79,8 +79,8 @@ std::vector<std::pair<std::string, std::string>> orderedTexts(const std::string 
   }
 }
 
-std::map<std::string, std::string> texts(const std::string &language) {
-  const auto ordered = orderedTexts(language);
+std::map<std::string, std::string> localizedStrings(const std::string &language) {
+  const auto ordered = orderedStrings(language);
   return {ordered.begin(), ordered.end()};
 }
 

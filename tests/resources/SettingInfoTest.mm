@@ -1,4 +1,4 @@
-// The definitions of the four settings, against what the code and the print dialog know of them.
+// Checks the definitions of the four settings against the code and the print dialog.
 #import "ResourceFiles.h"
 
 #import "Keys.h"
@@ -40,18 +40,18 @@ std::vector<std::string> parts(const std::string &text) {
 
 } // namespace
 
-TEST(SettingInfo, DefinesTheFourSettingsOfTheControllerInItsOrder) {
+TEST(SettingInfo, DefinesTheControllersFourSettingsInOrder) {
   EXPECT_THAT(column("SettingName"),
               ElementsAre(cxxString(kSettingFrontLRM), cxxString(kSettingFrontTBM),
                           cxxString(kSettingBackLRM), cxxString(kSettingBackTBM)));
 }
 
-TEST(SettingInfo, StoresTheOffsetsUnderTheOptionKeysThatTheDriverAnnounces) {
+TEST(SettingInfo, StoresTheOffsetsUnderTheSupportedOptionKeys) {
   EXPECT_THAT(column("TicketKey"), ElementsAre("LeftRightMargin", "TopBottomMargin",
                                                "BackLeftRightMargin", "BackTopBottomMargin"));
 }
 
-TEST(SettingInfo, EveryDefinitionHasEveryKeyAndNoOther) {
+TEST(SettingInfo, EveryDefinitionHasExactlyTheKeys) {
   const std::set<std::string> expected = {
       cxxString(kRecordTicketKey),         cxxString(kRecordSettingName),
       cxxString(kRecordSummaryInfoName),   cxxString(kRecordRange),
@@ -80,7 +80,7 @@ TEST(SettingInfo, DefaultsAreDecimalNumbersWithinTheirRange) {
   }
 }
 
-// Restoring the defaults sets 0, whatever the definition says.
+// Restoring the defaults sets 0, whatever the definition's default.
 TEST(SettingInfo, RangesAreNotInvertedAndContainZero) {
   for (const Record &definition : definitions()) {
     const auto range = readInterval(definition.at("Range"));
@@ -91,11 +91,12 @@ TEST(SettingInfo, RangesAreNotInvertedAndContainZero) {
   }
 }
 
-TEST(SettingInfo, RangeLabelsNameTwoMarksAndATemplate) {
+TEST(SettingInfo, RangeLabelsHaveTwoPlaceholdersAndATemplate) {
   for (const Record &definition : definitions()) {
     const std::vector<std::string> wording = parts(definition.at("RangeLabelWording"));
     ASSERT_EQ(wording.size(), 3u) << definition.at("RangeLabelWording");
-    // A mark inside the other one, or in the numbers that replace it, would garble the text.
+    // A placeholder inside the other one, or in the numbers that replace it, would garble the
+    // label.
     EXPECT_THAT(wording[0], testing::Not(testing::HasSubstr(wording[1])));
     EXPECT_THAT(wording[1], testing::Not(testing::HasSubstr(wording[0])));
     for (const std::string &mark : {wording[0], wording[1]})

@@ -1,4 +1,4 @@
-// The bundle's files of data as they are written, for what a platform's reader passes over.
+// Strict checks of the bundle's data files, for errors that Foundation's readers ignore.
 #import "PropertyListForm.h"
 #import "ResourceFiles.h"
 #include "TextEntries.hpp"
@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 const std::string kPlugin = IMAGEPOSITION_PLUGIN_FILES;
 
-/// Whatever its name says is a property list, also one whose version is still to be filled in.
+/// All files named as property lists, including a template whose version CMake fills in.
 std::vector<std::string> propertyLists() {
   std::vector<std::string> paths;
   for (const char *folder : {IMAGEPOSITION_RESOURCES, IMAGEPOSITION_PLUGIN_FILES})
@@ -54,7 +54,7 @@ NSDictionary *platformReading(const std::string &bytes) {
   return [nsString(bytes) propertyListFromStringsFileFormat];
 }
 
-/// The places that something is put into: %@, %1$d, {min}. In an order that does not depend on the
+/// The placeholders in a string (%@, %1$d, {min}), in an order that does not depend on the
 /// language.
 std::multiset<std::string> places(const std::string &text) {
   static const std::regex kPlace(R"(%[0-9.$#+ -]*[A-Za-z@%]|\{[^}]*\})");
@@ -66,7 +66,7 @@ std::multiset<std::string> places(const std::string &text) {
 
 } // namespace
 
-TEST(PropertyListFiles, AreReadToTheLetterAndHaveNoKeyTwice) {
+TEST(PropertyListFiles, AreStrictlyValidAndHaveNoDuplicateKeys) {
   const std::vector<std::string> files = propertyLists();
   EXPECT_GE(files.size(), 4u);
   for (const std::string &file : files) {
@@ -78,17 +78,17 @@ TEST(PropertyListFiles, AreReadToTheLetterAndHaveNoKeyTwice) {
   }
 }
 
-TEST(PropertyListFiles, AnyFaultWouldBeNamed) {
+TEST(PropertyListFiles, EveryFaultIsReported) {
   EXPECT_THAT(faultsOf("<dict><key>a</key><string>1</string></dict>"), IsEmpty());
   EXPECT_THAT(propertyListFaults("<plist version=\"1.0\">\n<dict/>\n</plist>\n"),
-              ElementsAre("it does not begin as property lists do"));
+              ElementsAre("it does not begin like a property list"));
   for (const char *content :
        {"<dict><key>a</key>", "<dict><key>a</key><string>1</dict>", "<dict>&nothing;</dict>", ""})
     EXPECT_FALSE(faultsOf(content).empty()) << content;
   EXPECT_THAT(faultsOf("<dict><key>a</key><string>1</string><key>a</key><string>2</string></dict>"),
-              ElementsAre("the key \"a\" comes twice in one dictionary"));
+              ElementsAre("the key \"a\" is duplicated in one dictionary"));
   EXPECT_THAT(faultsOf("<dict><key>a</key><strnig>1</strnig></dict>"),
-              testing::Contains("<strnig> is no value"));
+              testing::Contains("<strnig> is not a value"));
   EXPECT_THAT(faultsOf("<dict><key>a</key><string>1</string>b</dict>"), testing::SizeIs(1));
   EXPECT_THAT(faultsOf("<dict><key>a</key><string x=\"y\">1</string></dict>"),
               ElementsAre("<string> has an attribute"));
@@ -97,26 +97,26 @@ TEST(PropertyListFiles, AnyFaultWouldBeNamed) {
   EXPECT_FALSE(faultsOf("<dict/><dict/>").empty());
 }
 
-TEST(TextFiles, AnyFaultWouldBeNamedWithItsLine) {
+TEST(TextFiles, EveryFaultIsReportedWithItsLine) {
   EXPECT_EQ(faultOf(stringsEntries, "/* a */\n\"A\" = \"b \\\"c\\\" \\\\ \\n\";\n"), "");
   for (const auto &[text, fault] : std::vector<std::pair<const char *, const char *>>{
-           {"\"A\" = \"b\";\n\"A\" = \"c\";", "line 2: the key \"A\" comes twice"},
-           {"\"A\" = \"b\";\"A\"=\"c\";", "line 1: the key \"A\" comes twice"},
+           {"\"A\" = \"b\";\n\"A\" = \"c\";", "line 2: the key \"A\" is duplicated"},
+           {"\"A\" = \"b\";\"A\"=\"c\";", "line 1: the key \"A\" is duplicated"},
            {"\"A\" = \"b\"\n\"B\" = \"c\";", "line 2: ';' is missing"},
            {"\"A\" \"b\";", "line 1: '=' is missing"},
-           {"A = \"b\";", "line 1: a text is missing"},
-           {"\n\"A\" = \"b;\n", "line 2: a text has no end"},
-           {"\"A\" = \"\\q\";", "line 1: a backslash has no meaning"},
+           {"A = \"b\";", "line 1: a string is missing"},
+           {"\n\"A\" = \"b;\n", "line 2: a string has no end"},
+           {"\"A\" = \"\\q\";", "line 1: an unknown escape sequence"},
            {"/* \"A\" = \"b\";", "line 1: a comment has no end"},
            {"\"A\" = \"b\"; }", "line 1: something follows the last entry"}})
     EXPECT_EQ(faultOf(stringsEntries, text), fault) << text;
-  EXPECT_EQ(faultOf(braceEntries, "{ A = b; \"A\" = c; }"), "line 1: the key \"A\" comes twice");
+  EXPECT_EQ(faultOf(braceEntries, "{ A = b; \"A\" = c; }"), "line 1: the key \"A\" is duplicated");
   EXPECT_EQ(faultOf(braceEntries, "{ A = b; "), "line 1: '}' is missing");
 }
 
-TEST(StringsFiles, ReadToTheLetterAreWhatThePlatformReads) {
+TEST(StringsFiles, StrictReadingMatchesFoundations) {
   for (const std::string &language : languages()) {
-    const auto entries = texts(language);
+    const auto entries = localizedStrings(language);
     NSDictionary *read =
         platformReading(fileBytes(resourcePath(language + ".lproj/Localizable.strings")).substr(3));
     EXPECT_EQ([read count], entries.size()) << language;
@@ -125,15 +125,15 @@ TEST(StringsFiles, ReadToTheLetterAreWhatThePlatformReads) {
   }
 }
 
-TEST(StringsFiles, EachTextHasThePlacesOfTheEnglishOne) {
+TEST(StringsFiles, EachStringHasThePlaceholdersOfTheEnglishOne) {
   EXPECT_EQ(places("50 %: %@ of %1$d, {min}"), (std::multiset<std::string>{"%@", "%1$d", "{min}"}));
   for (const std::string &language : languages())
-    for (const auto &[key, text] : texts("en"))
-      EXPECT_EQ(places(texts(language).at(key)), places(text)) << language << " " << key;
+    for (const auto &[key, text] : localizedStrings("en"))
+      EXPECT_EQ(places(localizedStrings(language).at(key)), places(text)) << language << " " << key;
 }
 
-// One for each system that the bundle is for.
-TEST(BundleDescriptions, NameTheSameBundle) {
+// One for GNUstep and one for macOS.
+TEST(BundleDescriptions, DescribeTheSameBundle) {
   const TextEntries list = braceEntries(fileBytes(kPlugin + "/Info-gnustep.plist"));
   const std::map<std::string, std::string> here(list.begin(), list.end());
   std::string bytes = fileBytes(kPlugin + "/Info.plist.in");

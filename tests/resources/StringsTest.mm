@@ -1,4 +1,5 @@
-// The panel's texts in every language, against the keys that the code and the definitions use.
+// Checks the panel's strings in every language against the keys that the code and the definitions
+// use.
 #import "ResourceFiles.h"
 
 #import "Keys.h"
@@ -65,7 +66,7 @@ std::string testName(const testing::TestParamInfo<std::string> &language) {
 
 class Strings : public testing::TestWithParam<std::string> {
 protected:
-  std::map<std::string, std::string> texts_ = texts(GetParam());
+  std::map<std::string, std::string> strings_ = localizedStrings(GetParam());
 };
 
 } // namespace
@@ -77,24 +78,24 @@ TEST(StringsFolders, TheBundleIsBuiltWithSevenLanguages) {
               testing::UnorderedElementsAre("en", "de", "fr", "es", "it", "ja", "zh-Hans"));
 }
 
-TEST_P(Strings, HasEveryKeyInUseAndNoOther) {
+TEST_P(Strings, HasExactlyTheKeysInUse) {
   std::set<std::string> keys;
-  for (const auto &[key, text] : texts_)
+  for (const auto &[key, text] : strings_)
     keys.insert(key);
   EXPECT_EQ(keys, keysInUse());
 }
 
-TEST_P(Strings, KeysStandInTheSameOrderAsInEnglish) {
+TEST_P(Strings, KeysAreInTheSameOrderAsInEnglish) {
   std::vector<std::string> keys, english;
-  for (const auto &[key, text] : orderedTexts(GetParam()))
+  for (const auto &[key, text] : orderedStrings(GetParam()))
     keys.push_back(key);
-  for (const auto &[key, text] : orderedTexts("en"))
+  for (const auto &[key, text] : orderedStrings("en"))
     english.push_back(key);
   EXPECT_EQ(keys, english);
 }
 
-TEST_P(Strings, NoTextIsEmptyItsKeyOrPadded) {
-  for (const auto &[key, text] : texts_) {
+TEST_P(Strings, NoStringIsEmptyItsKeyOrPadded) {
+  for (const auto &[key, text] : strings_) {
     ASSERT_FALSE(text.empty()) << key;
     EXPECT_NE(text, key);
     EXPECT_NE(text.front(), ' ') << key;
@@ -105,31 +106,32 @@ TEST_P(Strings, NoTextIsEmptyItsKeyOrPadded) {
 TEST_P(Strings, NothingIsLeftInEnglish) {
   if (GetParam() == "en")
     return;
-  for (const auto &[key, text] : texts("en"))
-    EXPECT_NE(texts_.at(key), text) << key;
+  for (const auto &[key, text] : localizedStrings("en"))
+    EXPECT_NE(strings_.at(key), text) << key;
 }
 
-// Two equal titles would be one entry of the summary.
+// Two equal titles would share one entry in the summary.
 TEST_P(Strings, SummaryTitlesAreDistinctWithTheCheckboxOnAndOff) {
-  EXPECT_EQ(distinct(texts_, {"EnableImgPstAdj", "FrontLRMSummary", "FrontTBMSummary",
-                              "BackLRMSummary", "BackTBMSummary"})
+  EXPECT_EQ(distinct(strings_, {"EnableImgPstAdj", "FrontLRMSummary", "FrontTBMSummary",
+                                "BackLRMSummary", "BackTBMSummary"})
                 .size(),
             5u);
-  EXPECT_EQ(distinct(texts_, {"EnableImgPstAdj", "LRM", "TBM", "BackLRMSummary", "BackTBMSummary"})
-                .size(),
-            5u);
+  EXPECT_EQ(
+      distinct(strings_, {"EnableImgPstAdj", "LRM", "TBM", "BackLRMSummary", "BackTBMSummary"})
+          .size(),
+      5u);
 }
 
 TEST_P(Strings, NameLabelsAreDistinctWithTheCheckboxOnAndOff) {
-  EXPECT_EQ(distinct(texts_, {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM"}).size(),
+  EXPECT_EQ(distinct(strings_, {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM"}).size(),
             6u);
 }
 
-// The titles of the front offsets in the panel are also titles in the summary, where the dialog
-// adds its own colon.
+// The front offsets' titles in the panel are also titles in the summary, where the dialog adds a
+// colon.
 TEST_P(Strings, NoNameEndsWithAColon) {
   for (const char *key : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM"})
-    EXPECT_THAT(texts_.at(key),
+    EXPECT_THAT(strings_.at(key),
                 Not(testing::AnyOf(testing::EndsWith(":"), testing::EndsWith("："))))
         << key;
 }
@@ -139,12 +141,12 @@ TEST_P(Strings, EveryNameAndSummaryTitleShowsTheUnit) {
   const bool hasPoint = GetParam() == "en" || GetParam() == "ja" || GetParam() == "zh-Hans";
   for (const char *key : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM",
                           "FrontLRMSummary", "FrontTBMSummary", "BackLRMSummary", "BackTBMSummary"})
-    EXPECT_THAT(texts_.at(key), HasSubstr((hasPoint ? "0.1 " : "0,1 ") + unit)) << key;
+    EXPECT_THAT(strings_.at(key), HasSubstr((hasPoint ? "0.1 " : "0,1 ") + unit)) << key;
 }
 
-TEST_P(Strings, RangeTextsShowBothNumbersAndNoMark) {
+TEST_P(Strings, RangeStringsShowBothNumbersAndNoPlaceholder) {
   for (const Wording &wording : wordings()) {
-    const std::string &text = texts_.at(wording.templateKey);
+    const std::string &text = strings_.at(wording.templateKey);
     EXPECT_THAT(text, HasSubstr(wording.minMark));
     EXPECT_THAT(text, HasSubstr(wording.maxMark));
     const std::string composed =
@@ -155,9 +157,9 @@ TEST_P(Strings, RangeTextsShowBothNumbersAndNoMark) {
   }
 }
 
-TEST_P(Strings, RangeTextsOfTheTwoDirectionsDiffer) {
+TEST_P(Strings, RangeStringsOfTheTwoDirectionsDiffer) {
   const std::vector<Wording> all = wordings();
   EXPECT_EQ(all.at(0).templateKey, all.at(2).templateKey);
   EXPECT_EQ(all.at(1).templateKey, all.at(3).templateKey);
-  EXPECT_NE(texts_.at(all.at(0).templateKey), texts_.at(all.at(1).templateKey));
+  EXPECT_NE(strings_.at(all.at(0).templateKey), strings_.at(all.at(1).templateKey));
 }

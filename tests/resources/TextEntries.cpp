@@ -18,7 +18,7 @@ public:
       const std::string key = word();
       if (std::any_of(result.begin(), result.end(),
                       [&](auto &known) { return known.first == key; }))
-        fail("the key \"" + key + "\" comes twice");
+        fail("the key \"" + key + "\" is duplicated");
       take('=');
       std::string value = word();
       result.emplace_back(key, std::move(value));
@@ -70,7 +70,7 @@ private:
            std::isalnum(static_cast<unsigned char>(text_[at_])) != 0)
       ++at_;
     if (at_ == start)
-      fail("a text is missing");
+      fail("a string is missing");
     return std::string(text_.substr(start, at_ - start));
   }
 
@@ -83,11 +83,11 @@ private:
       }
       const std::string_view escaped = text_.substr(++at_, 1);
       if (escaped != "\"" && escaped != "\\" && escaped != "n")
-        fail("a backslash has no meaning");
+        fail("an unknown escape sequence");
       result += escaped == "n" ? '\n' : escaped.front();
     }
     if (at_ == text_.size() || text_[at_] != '"')
-      fail("a text has no end");
+      fail("a string has no end");
     ++at_;
     return result;
   }

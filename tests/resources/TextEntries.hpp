@@ -1,5 +1,5 @@
-/// Files of texts by their keys, read to the letter: a platform's reader takes the last of two
-/// texts with one key, and says nothing.
+/// Strict readers of files with strings under keys. Foundation's reader silently takes the last of
+/// two strings with the same key.
 #ifndef IMAGEPOSITION_TESTS_RESOURCES_TEXTENTRIES_HPP
 #define IMAGEPOSITION_TESTS_RESOURCES_TEXTENTRIES_HPP
 
@@ -12,13 +12,13 @@ namespace imageposition::test {
 
 using TextEntries = std::vector<std::pair<std::string, std::string>>;
 
-/// The entries of a strings file, each `"key" = "text";`, in their order. Comments are between
-/// entries, and backslashes before a quote, a backslash or an n. Throws a `std::runtime_error` that
-/// gives the line of anything else, and of a key that was there before.
+/// Reads the entries of a strings file, each `"key" = "text";`, in order. Allows comments between
+/// entries, and backslashes before a quote, a backslash or an n. Throws std::runtime_error with the
+/// line of anything else, and of a duplicate key.
 TextEntries stringsEntries(std::string_view utf8);
 
-/// The same for a property list in the older form, a dictionary of texts: in braces, and words may
-/// stand without quotes.
+/// The same for a dictionary of strings in an old-style property list: in braces, and words need no
+/// quotes.
 TextEntries braceEntries(std::string_view utf8);
 
 } // namespace imageposition::test

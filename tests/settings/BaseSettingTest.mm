@@ -1,7 +1,7 @@
 #import "RefusingInit.h"
 #import "SettingFixture.h"
 
-/// An item that decides anew each time what it conforms to.
+/// An item that decides each time what it conforms to.
 @interface ChangingItem : RecordingItem {
 @public
   Protocol *conformsTo;
@@ -52,7 +52,7 @@ TEST_F(BaseSetting, KeepsWhatItWasBuiltFrom) {
   EXPECT_TRUE(field<NSArray *>(setting, "RelatedSettings") == nil);
 }
 
-TEST_F(BaseSetting, BorrowsTheTextsOfItsRecord) {
+TEST_F(BaseSetting, BorrowsTheStringsOfItsRecord) {
   NSDictionary *definition = dictionary(record());
   MorvaADPSettingRV2 *setting = base(definition);
   EXPECT_TRUE(field<NSString *>(setting, "TicketKey") == [definition objectForKey:@"TicketKey"]);
@@ -68,7 +68,7 @@ TEST_F(BaseSetting, WithoutARecordIsNamedUIItemCollectorAndHasNoKeyOrSummaryName
   EXPECT_TRUE([setting getSummaryInfoName] == nil);
 }
 
-TEST_F(BaseSetting, EachMissingTextLeavesItsFieldAbsent) {
+TEST_F(BaseSetting, EachMissingEntryLeavesItsFieldNull) {
   for (const char *key : {"TicketKey", "SettingName", "SummaryInfoName"}) {
     Texts texts = record();
     texts.erase(key);
@@ -82,7 +82,7 @@ TEST_F(BaseSetting, EachMissingTextLeavesItsFieldAbsent) {
   }
 }
 
-TEST_F(BaseSetting, EntriesThatAreNoTextsCountAsAbsent) {
+TEST_F(BaseSetting, EntriesThatAreNotStringsCountAsAbsent) {
   NSMutableDictionary *definition = [NSMutableDictionary dictionary];
   [definition setObject:[NSNumber numberWithInt:5] forKey:@"TicketKey"];
   [definition setObject:[NSArray array] forKey:@"SettingName"];
@@ -94,7 +94,7 @@ TEST_F(BaseSetting, EntriesThatAreNoTextsCountAsAbsent) {
   EXPECT_TRUE([setting getSummaryInfoName] == nil);
 }
 
-TEST_F(BaseSetting, DoesNotExistWithoutRulesBundleOrPrinter) {
+TEST_F(BaseSetting, CannotBeBuiltWithoutRulesBundleOrPrinter) {
   NSDictionary *definition = dictionary(record());
   NSDictionary *rules = [NSDictionary dictionary];
   for (Class type : {[MorvaADPSettingRV2 class], [MorvaADPIntegerSettingRV2 class]}) {
@@ -115,13 +115,14 @@ TEST_F(BaseSetting, DoesNotExistWithoutRulesBundleOrPrinter) {
   }
 }
 
-TEST_F(BaseSetting, DoesNotExistWithoutItsBase) {
+TEST_F(BaseSetting, CannotBeBuiltIfItsSuperclassRefuses) {
   {
     const RefusingInit refusing([MorvaADPSettingRV2 class]);
     EXPECT_EQ(base(dictionary(record())), nil);
   }
   {
-    const RefusingInit refusing([MorvaADPSettingRV2 class]); // not what the other one inherits
+    const RefusingInit refusing(
+        [MorvaADPSettingRV2 class]); // but not the integer setting's superclass
     EXPECT_NE(make(), nil);
   }
   EXPECT_NE(base(dictionary(record())), nil);
@@ -135,7 +136,7 @@ TEST_F(BaseSetting, BeforeBindingViewStateChangesNothing) {
   EXPECT_EQ(journal.lines(), Lines());
 }
 
-TEST_F(BaseSetting, ViewStateGoesToEveryItemThatCanBeMadeUnusableInOrder) {
+TEST_F(BaseSetting, ViewStateGoesToEveryItemThatCanBeDisabledInOrder) {
   MorvaADPSettingRV2 *setting = base(dictionary(record()));
   bind(setting, {item("a", kViewAvailable), item("b", kLocalizable | kAction | kTextField),
                  item("c", kEntryField), item("d", kNone), item("e", kStepperItem)});
@@ -147,7 +148,7 @@ TEST_F(BaseSetting, ViewStateGoesToEveryItemThatCanBeMadeUnusableInOrder) {
             (Lines{"a.setViewAvailable:1", "c.setViewAvailable:1", "e.setViewAvailable:1"}));
 }
 
-TEST_F(BaseSetting, ItemThatConformsToNothingIsCarriedAndIgnored) {
+TEST_F(BaseSetting, ItemThatConformsToNothingIsKeptAndIgnored) {
   MorvaADPSettingRV2 *setting = base(dictionary(record()));
   RecordingItem *silent = item("silent", kNone);
   bind(setting, {silent});
@@ -172,14 +173,14 @@ TEST_F(BaseSetting, ViewStateByTagThatNoItemHasChangesNothing) {
   EXPECT_EQ(journal.take(), (Lines{"a.tag", "b.tag"}));
 }
 
-TEST_F(BaseSetting, ViewStateByTagReadsTheTagOnlyOfItemsThatCanBeMadeUnusable) {
+TEST_F(BaseSetting, ViewStateByTagReadsTheTagOnlyOfItemsThatCanBeDisabled) {
   MorvaADPSettingRV2 *setting = base(dictionary(record()));
   bind(setting, {item("a", kLocalizable | kTextField | kStepper, 4), item("b", kViewAvailable, 4)});
   [setting setViewStateByTag:YES TagInfo:4];
   EXPECT_EQ(journal.take(), (Lines{"b.tag", "b.setViewAvailable:1"}));
 }
 
-TEST_F(BaseSetting, ViewStateByTagWidensTheTagWithItsSign) {
+TEST_F(BaseSetting, ViewStateByTagSignExtendsTheTag) {
   MorvaADPSettingRV2 *setting = base(dictionary(record()));
   const NSInteger wide = sizeof(NSInteger) > 4 ? NSInteger(0x1FFFFFFFFLL) : 5;
   bind(setting, {item("minus", kViewAvailable, -1), item("wide", kViewAvailable, wide),
@@ -192,7 +193,7 @@ TEST_F(BaseSetting, ViewStateByTagWidensTheTagWithItsSign) {
             (Lines{"minus.tag", "wide.tag", "smallest.tag", "smallest.setViewAvailable:0"}));
 }
 
-TEST_F(BaseSetting, BindingKeepsTheListOfSettingsAndCopiesThatOfItems) {
+TEST_F(BaseSetting, BindingKeepsTheListOfSettingsAndCopiesTheListOfItems) {
   for (Class type : {[MorvaADPSettingRV2 class], [MorvaADPIntegerSettingRV2 class]}) {
     MorvaADPSettingRV2 *setting = make(type, dictionary(record()), [NSDictionary dictionary]);
     id own = field<NSMutableArray *>(setting, "HandlingTarget");
@@ -228,7 +229,7 @@ TEST_F(BaseSetting, BindingToNothingEmptiesTheItems) {
   }
 }
 
-TEST_F(BaseSetting, WalksCountTheItemsAgainAfterEachOne) {
+TEST_F(BaseSetting, LoopsCountTheItemsAgainAfterEachOne) {
   MorvaADPSettingRV2 *setting = base(dictionary(record()));
   RecordingItem *first = item("first", kViewAvailable);
   RecordingItem *second = item("second", kViewAvailable);
@@ -242,7 +243,7 @@ TEST_F(BaseSetting, WalksCountTheItemsAgainAfterEachOne) {
   EXPECT_EQ(journal.take(), (Lines{"first.setViewAvailable:0", "second.setViewAvailable:0"}));
 }
 
-TEST_F(BaseSetting, EachItemIsAskedEachTimeWhatItConformsTo) {
+TEST_F(BaseSetting, ConformanceOfEachItemIsCheckedEachTime) {
   for (Class type : {[MorvaADPSettingRV2 class], [MorvaADPIntegerSettingRV2 class]}) {
     MorvaADPSettingRV2 *setting = make(type, dictionary(record()), [NSDictionary dictionary]);
     ChangingItem *changing = static_cast<ChangingItem *>([ChangingItem itemNamed:"changing"
@@ -264,7 +265,7 @@ TEST_F(BaseSetting, EachItemIsAskedEachTimeWhatItConformsTo) {
   }
 }
 
-TEST_F(BaseSetting, HasNoTextAndNoCondition) {
+TEST_F(BaseSetting, HasNoValueStringAndNoCondition) {
   MorvaADPSettingRV2 *setting = base(dictionary(record()));
   bind(setting, {item("entry", kEntryField)});
   EXPECT_TRUE([setting getValueString] == nil);
@@ -274,7 +275,7 @@ TEST_F(BaseSetting, HasNoTextAndNoCondition) {
   EXPECT_FALSE([setting checkUIConstraintCondition:nil]);
 }
 
-TEST_F(BaseSetting, IgnoresTheOperationsOfAValue) {
+TEST_F(BaseSetting, IgnoresTheMethodsForAValue) {
   store.put("LeftRightMargin", "5");
   MorvaADPSettingRV2 *setting = make(
       [MorvaADPSettingRV2 class], dictionary(record()),

@@ -3,7 +3,7 @@
 namespace imageposition::test {
 namespace {
 
-/// Conditions of rules that are given to a setting directly, as plain dictionaries.
+/// Conditions of rules that are passed to a setting directly, as plain dictionaries.
 class ConstraintCondition : public SettingTest {
 protected:
   MorvaADPIntegerSettingRV2 *setting(const char *name, int32_t number) {
@@ -12,11 +12,11 @@ protected:
     [made setIntValue:number];
     return made;
   }
-  /// Asked of a setting "A" with that value, its own relative.
+  /// Whether it holds for a setting "A" with that value, which is related to itself.
   bool holdsFor(int32_t number, const Texts &rule) {
-    MorvaADPIntegerSettingRV2 *asked = setting("A", number);
-    relate({asked});
-    return [asked checkUIConstraintCondition:dictionary(rule)];
+    MorvaADPIntegerSettingRV2 *tested = setting("A", number);
+    relate({tested});
+    return [tested checkUIConstraintCondition:dictionary(rule)];
   }
   static Texts onSetting(const std::string &pattern, const std::string &expected) {
     return {{"ConditionType", "Setting"},
@@ -32,16 +32,16 @@ protected:
     return rule;
   }
   bool holdsAtPrinter(TestPpd &ppd, const Texts &rule) {
-    MorvaADPIntegerSettingRV2 *asked =
+    MorvaADPIntegerSettingRV2 *tested =
         [[[MorvaADPIntegerSettingRV2 alloc] initWithSettingInfo:dictionary(record())
                                                  ConstraintInfo:[NSDictionary dictionary]
                                                      BundleInfo:resources.bundle()
                                                             PPD:ppd] autorelease];
-    return [asked checkUIConstraintCondition:dictionary(rule)];
+    return [tested checkUIConstraintCondition:dictionary(rule)];
   }
 };
 
-TEST_F(ConstraintCondition, RangeHoldsAtBothEndsAndBetween) {
+TEST_F(ConstraintCondition, RangeHoldsAtBothBoundsAndBetween) {
   for (int32_t number : {-10, 0, 10})
     EXPECT_TRUE(holdsFor(number, onSetting("Range", "-10:10"))) << number;
   for (int32_t number : {-11, 11, INT32_MIN, INT32_MAX})
@@ -64,7 +64,7 @@ TEST_F(ConstraintCondition, RangeWithoutColonIsFalse) {
   }
 }
 
-TEST_F(ConstraintCondition, ValueIsATextComparison) {
+TEST_F(ConstraintCondition, ValuesAreComparedAsStrings) {
   EXPECT_TRUE(holdsFor(5, onSetting("Value", "5")));
   EXPECT_TRUE(holdsFor(-3, onSetting("Value", "-3")));
   EXPECT_TRUE(holdsFor(0, onSetting("Value", "0")));
@@ -73,7 +73,7 @@ TEST_F(ConstraintCondition, ValueIsATextComparison) {
   EXPECT_FALSE(holdsFor(0, onSetting("Value", "-0")));
 }
 
-TEST_F(ConstraintCondition, AbsentExpectationsAreNeverAValueAndZeroToZeroAsARange) {
+TEST_F(ConstraintCondition, AbsentConditionValueNeverEqualsAndIsZeroToZeroAsARange) {
   for (int32_t number : {-1, 0, 1}) {
     EXPECT_FALSE(holdsFor(number, without(onSetting("Value", ""), "ConditionValue")));
     EXPECT_EQ(holdsFor(number, without(onSetting("Range", ""), "ConditionValue")), number == 0);
@@ -91,103 +91,103 @@ TEST_F(ConstraintCondition, UnknownAndMissingTypesAndPatternsAreFalse) {
   }
 }
 
-TEST_F(ConstraintCondition, NoRuleIsFalse) {
-  MorvaADPIntegerSettingRV2 *asked = setting("A", 0);
-  relate({asked});
-  EXPECT_FALSE([asked checkUIConstraintCondition:nil]);
-  EXPECT_FALSE([asked checkUIConstraintCondition:[NSDictionary dictionary]]);
+TEST_F(ConstraintCondition, NullRuleIsFalse) {
+  MorvaADPIntegerSettingRV2 *tested = setting("A", 0);
+  relate({tested});
+  EXPECT_FALSE([tested checkUIConstraintCondition:nil]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:[NSDictionary dictionary]]);
 }
 
-TEST_F(ConstraintCondition, EntriesThatAreNoTextsCountAsAbsent) {
-  MorvaADPIntegerSettingRV2 *asked = setting("A", 5);
-  relate({asked});
+TEST_F(ConstraintCondition, EntriesThatAreNotStringsCountAsAbsent) {
+  MorvaADPIntegerSettingRV2 *tested = setting("A", 5);
+  relate({tested});
   for (NSString *key : {@"ConditionType", @"ConditionObj", @"ConditionPattern"}) {
     NSMutableDictionary *rule =
         [NSMutableDictionary dictionaryWithDictionary:dictionary(onSetting("Value", "5"))];
     [rule setObject:[NSNumber numberWithInt:5] forKey:key];
-    EXPECT_FALSE([asked checkUIConstraintCondition:rule]) << cxxString(key);
+    EXPECT_FALSE([tested checkUIConstraintCondition:rule]) << cxxString(key);
   }
   NSMutableDictionary *number =
       [NSMutableDictionary dictionaryWithDictionary:dictionary(onSetting("Value", "5"))];
   [number setObject:[NSNumber numberWithInt:5] forKey:@"ConditionValue"];
-  EXPECT_FALSE([asked checkUIConstraintCondition:number]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:number]);
   [number setObject:@"Range" forKey:@"ConditionPattern"]; // an absent interval is 0:0
-  EXPECT_FALSE([asked checkUIConstraintCondition:number]);
-  [asked setIntValue:0];
-  EXPECT_TRUE([asked checkUIConstraintCondition:number]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:number]);
+  [tested setIntValue:0];
+  EXPECT_TRUE([tested checkUIConstraintCondition:number]);
 }
 
 TEST_F(ConstraintCondition, SettingThatIsNotRelatedIsFalse) {
-  MorvaADPIntegerSettingRV2 *asked = setting("B", 5);
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]); // unbound
-  relate({asked});
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
-  [asked setRelatedSettings:[NSArray array] HandlingTarget:nil];
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+  MorvaADPIntegerSettingRV2 *tested = setting("B", 5);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]); // unbound
+  relate({tested});
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+  [tested setRelatedSettings:[NSArray array] HandlingTarget:nil];
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
 }
 
-TEST_F(ConstraintCondition, SettingItselfCountsOnlyWhenItIsRelated) {
+TEST_F(ConstraintCondition, SettingItselfCountsOnlyIfItIsRelated) {
   MorvaADPIntegerSettingRV2 *a = setting("A", 5);
   MorvaADPIntegerSettingRV2 *b = setting("B", 5);
   [a setRelatedSettings:array({b}) HandlingTarget:nil];
   EXPECT_FALSE([a checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
 }
 
-TEST_F(ConstraintCondition, AnySettingOfTheNameSuffices) {
-  MorvaADPIntegerSettingRV2 *asked = setting("B", 0);
+TEST_F(ConstraintCondition, OneOfSeveralSettingsWithTheNameSuffices) {
+  MorvaADPIntegerSettingRV2 *tested = setting("B", 0);
   for (const auto &[first, second] :
        std::vector<std::pair<int32_t, int32_t>>{{5, 6}, {6, 5}, {5, 5}}) {
     MorvaADPIntegerSettingRV2 *firstA = setting("A", first);
     MorvaADPIntegerSettingRV2 *secondA = setting("A", second);
-    relate({firstA, asked, secondA});
-    EXPECT_TRUE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
-    EXPECT_TRUE([asked checkUIConstraintCondition:dictionary(onSetting("Range", "5:5"))]);
+    relate({firstA, tested, secondA});
+    EXPECT_TRUE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+    EXPECT_TRUE([tested checkUIConstraintCondition:dictionary(onSetting("Range", "5:5"))]);
   }
-  relate({setting("A", 6), asked, setting("A", 7)});
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+  relate({setting("A", 6), tested, setting("A", 7)});
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
 }
 
-TEST_F(ConstraintCondition, ListOfRelatedSettingsIsLookedAtAsItIsNow) {
-  MorvaADPIntegerSettingRV2 *asked = setting("B", 0);
+TEST_F(ConstraintCondition, ListOfRelatedSettingsIsReadEachTime) {
+  MorvaADPIntegerSettingRV2 *tested = setting("B", 0);
   NSMutableArray *settings = [NSMutableArray array];
-  [asked setRelatedSettings:settings HandlingTarget:nil];
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+  [tested setRelatedSettings:settings HandlingTarget:nil];
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
   MorvaADPIntegerSettingRV2 *a = setting("A", 5);
   [settings addObject:a];
-  EXPECT_TRUE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+  EXPECT_TRUE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
   [a setIntValue:6];
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
   [a setIntValue:5];
   [settings removeAllObjects];
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "5"))]);
 }
 
-TEST_F(ConstraintCondition, RelatedBaseSettingHasNoTextAndReadsAsZero) {
+TEST_F(ConstraintCondition, RelatedBaseSettingHasNoValueStringAndCountsAsZero) {
   MorvaADPSettingRV2 *base =
       make([MorvaADPSettingRV2 class], dictionary(record({{"SettingName", "A"}})),
            [NSDictionary dictionary]);
-  MorvaADPIntegerSettingRV2 *asked = setting("B", 0);
-  relate({base, asked});
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", "0"))]);
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Value", ""))]);
-  EXPECT_TRUE([asked checkUIConstraintCondition:dictionary(onSetting("Range", "0:0"))]);
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onSetting("Range", "1:9"))]);
+  MorvaADPIntegerSettingRV2 *tested = setting("B", 0);
+  relate({base, tested});
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", "0"))]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Value", ""))]);
+  EXPECT_TRUE([tested checkUIConstraintCondition:dictionary(onSetting("Range", "0:0"))]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onSetting("Range", "1:9"))]);
 }
 
-TEST_F(ConstraintCondition, SettingWithoutANameIsNeverMeant) {
+TEST_F(ConstraintCondition, SettingWithoutANameNeverMatches) {
   Texts nameless = record({{"DefaultValue", "5"}});
   nameless.erase("SettingName");
-  MorvaADPIntegerSettingRV2 *asked = make(nameless);
-  relate({asked});
+  MorvaADPIntegerSettingRV2 *tested = make(nameless);
+  relate({tested});
   Texts rule = onSetting("Value", "5");
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(without(rule, "ConditionObj"))]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(without(rule, "ConditionObj"))]);
   rule["ConditionObj"] = "";
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(rule)]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(rule)]);
   rule["ConditionObj"] = "UIItemCollector";
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(rule)]);
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(rule)]);
 }
 
-TEST_F(ConstraintCondition, AttributeMustEqualTheExpectedTextByteForByte) {
+TEST_F(ConstraintCondition, AttributeMustEqualTheExpectedStringByteForByte) {
   TestPpd ppd({"*ShiftRange: \"Wide\"", "*ShiftEmpty: \"\"", "*ShiftAccent: \"<E9>\""});
   EXPECT_TRUE(holdsAtPrinter(ppd, onAttribute("ShiftRange", "Wide")));
   for (const char *other : {"wide", "WIDE", "Wide ", " Wide", "Wid", ""})
@@ -210,7 +210,7 @@ TEST_F(ConstraintCondition, AttributeThatThePrinterLacksIsFalse) {
   EXPECT_FALSE(holdsAtPrinter(ppd, without(onAttribute("", "Wide"), "ConditionPattern")));
 }
 
-TEST_F(ConstraintCondition, FirstOfSeveralAttributesOfTheKeywordCounts) {
+TEST_F(ConstraintCondition, FirstOfSeveralAttributesWithTheKeywordCounts) {
   TestPpd ppd({"*ShiftRange First: \"Narrow\"", "*ShiftRange Second: \"Wide\""});
   ppd_attr_t *first = ppdFindAttr(ppd, "ShiftRange", nullptr);
   ASSERT_NE(first, nullptr);
@@ -220,7 +220,7 @@ TEST_F(ConstraintCondition, FirstOfSeveralAttributesOfTheKeywordCounts) {
       holdsAtPrinter(ppd, onAttribute("ShiftRange", value == "Narrow" ? "Wide" : "Narrow")));
 }
 
-TEST_F(ConstraintCondition, AttributeConditionWithoutAnExpectationIsFalse) {
+TEST_F(ConstraintCondition, AttributeConditionWithoutAValueIsFalse) {
   TestPpd ppd({"*ShiftRange: \"Wide\"", "*ShiftEmpty: \"\""});
   EXPECT_FALSE(holdsAtPrinter(ppd, without(onAttribute("ShiftRange", ""), "ConditionValue")));
   EXPECT_FALSE(holdsAtPrinter(ppd, without(onAttribute("ShiftEmpty", ""), "ConditionValue")));
@@ -236,24 +236,24 @@ TEST_F(ConstraintCondition, AttributeWithoutAValueIsFalse) {
   attribute->value = value;
 }
 
-TEST_F(ConstraintCondition, PrinterThatIsGoneHasNoAttributes) {
-  MorvaADPIntegerSettingRV2 *asked = setting("A", 5);
-  field<ppd_file_t *>(asked, "PPD") = nullptr;
-  EXPECT_FALSE([asked checkUIConstraintCondition:dictionary(onAttribute("ShiftRange", "Wide"))]);
+TEST_F(ConstraintCondition, WithoutAPrinterThereAreNoAttributes) {
+  MorvaADPIntegerSettingRV2 *tested = setting("A", 5);
+  field<ppd_file_t *>(tested, "PPD") = nullptr;
+  EXPECT_FALSE([tested checkUIConstraintCondition:dictionary(onAttribute("ShiftRange", "Wide"))]);
 }
 
-TEST_F(ConstraintCondition, DecidingChangesNothing) {
-  MorvaADPIntegerSettingRV2 *asked = make(record());
-  field<int32_t>(asked, "Value") = 99;
-  bind(asked, {item("entry", kEntryField), item("range", kLabel, 1)});
-  [asked checkUIConstraintCondition:dictionary({{"ConditionType", "Setting"},
-                                                {"ConditionObj", "FrontLRM"},
-                                                {"ConditionPattern", "Value"},
-                                                {"ConditionValue", "99"},
-                                                {"ActionObj", "FrontLRM"},
-                                                {"ActionPattern", "Value"},
-                                                {"ActionValue", "5"}})];
-  EXPECT_EQ(value(asked), 99);
+TEST_F(ConstraintCondition, CheckingAConditionChangesNothing) {
+  MorvaADPIntegerSettingRV2 *tested = make(record());
+  field<int32_t>(tested, "Value") = 99;
+  bind(tested, {item("entry", kEntryField), item("range", kLabel, 1)});
+  [tested checkUIConstraintCondition:dictionary({{"ConditionType", "Setting"},
+                                                 {"ConditionObj", "FrontLRM"},
+                                                 {"ConditionPattern", "Value"},
+                                                 {"ConditionValue", "99"},
+                                                 {"ActionObj", "FrontLRM"},
+                                                 {"ActionPattern", "Value"},
+                                                 {"ActionValue", "5"}})];
+  EXPECT_EQ(value(tested), 99);
   EXPECT_EQ(journal.take(), Lines());
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::array<const char *, 4> kNames = {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"};
 
-/// Rule tables in which most rules make sense and the others are wrong in every known way.
+/// Rule tables in which most rules are valid and the others are wrong in every known way.
 class Tables {
 public:
   explicit Tables(unsigned seed) : random_(seed) {}
@@ -25,7 +25,7 @@ public:
   }
 
   unsigned below(unsigned bound) { return random_() % bound; }
-  // Mostly small, so that texts are often equal and intervals often hold.
+  // Mostly small, so that strings are often equal and intervals often hold.
   int32_t number() {
     const int32_t reach = below(6) == 0 ? 30 : 4;
     return static_cast<int32_t>(below(2 * reach + 1)) - reach;
@@ -69,7 +69,7 @@ private:
     return rule;
   }
 
-  // Now and then an entry is missing, or no text.
+  // Now and then an entry is missing or not a string.
   void put(NSMutableDictionary *rule, NSString *key, NSString *text) {
     switch (below(40)) {
     case 0:
@@ -144,7 +144,7 @@ protected:
     EXPECT_EQ(journal.lines(), reference.calls);
   }
 
-  /// Edits and walks at random, the same in both.
+  /// Random edits and walks, the same in both.
   void play(Tables &random, NSDictionary *rules) {
     const auto settings = panel(rules);
     LiteralRules reference(rules, ppd_);
@@ -160,14 +160,14 @@ protected:
       }
       expectSame(settings, reference);
     }
-    heard_ += reference.calls.size() - edits;
+    calls_ += reference.calls.size() - edits;
   }
 
   TestPpd ppd_;
-  std::size_t heard_ = 0; // calls that rules made
+  std::size_t calls_ = 0; // made by rules
 };
 
-TEST_F(ConstraintReference, RandomTablesDoWhatALiteralWalkDoes) {
+TEST_F(ConstraintReference, RandomTablesMatchALiteralWalk) {
   Tables random(20240607);
   for (int round = 0; round < 3000 && !HasFailure(); ++round) {
     Pool pool;
@@ -176,11 +176,11 @@ TEST_F(ConstraintReference, RandomTablesDoWhatALiteralWalkDoes) {
     if (HasFailure())
       ADD_FAILURE() << "round " << round << " with " << cxxString(rules);
   }
-  // Were hardly any rule to fire, the comparison would say nothing.
-  EXPECT_GT(heard_, 5000u);
+  // If hardly any rule fired, the comparison would prove nothing.
+  EXPECT_GT(calls_, 5000u);
 }
 
-TEST_F(ConstraintReference, EveryRuleAloneDecidesAsALiteralReadingDoes) {
+TEST_F(ConstraintReference, EverySingleRuleMatchesALiteralReading) {
   Tables random(31);
   for (int round = 0; round < 1500 && !HasFailure(); ++round) {
     Pool pool;
@@ -190,7 +190,7 @@ TEST_F(ConstraintReference, EveryRuleAloneDecidesAsALiteralReadingDoes) {
       id rule = [rules objectForKey:nsString(std::to_string(i))];
       if (![rule isKindOfClass:[NSDictionary class]])
         continue;
-      // As a rule of its own, which sets the default when it fires.
+      // As the only rule, which sets the default if it fires.
       NSMutableDictionary *question = [NSMutableDictionary dictionaryWithDictionary:rule];
       [question setObject:@"FrontLRM" forKey:@"ActionObj"];
       [question setObject:@"Default" forKey:@"ActionPattern"];

@@ -9,21 +9,21 @@ namespace imageposition {
 namespace {
 
 using Subject = Condition::Subject;
-using Text = std::optional<std::string>;
+using String = std::optional<std::string>;
 
-Condition condition(Text type, Text pattern, Text value) {
-  RuleTexts texts;
-  texts.conditionType = std::move(type);
-  texts.conditionPattern = std::move(pattern);
-  texts.conditionValue = std::move(value);
-  return Condition::fromTexts(texts);
+Condition condition(String type, String pattern, String value) {
+  RuleStrings rule;
+  rule.conditionType = std::move(type);
+  rule.conditionPattern = std::move(pattern);
+  rule.conditionValue = std::move(value);
+  return Condition::fromStrings(rule);
 }
 
-Condition onAttribute(Text keyword, Text value) {
+Condition onAttribute(String keyword, String value) {
   return condition("PPD", std::move(keyword), std::move(value));
 }
 
-Condition onSetting(Text pattern, Text value) {
+Condition onSetting(String pattern, String value) {
   return condition("Setting", std::move(pattern), std::move(value));
 }
 
@@ -42,12 +42,12 @@ TEST(ConstraintRuleCondition, AttributeWithoutAValueIsFalse) {
   EXPECT_FALSE(onAttribute("NoValue", "").isSatisfiedByAttribute(nullptr));
 }
 
-TEST(ConstraintRuleCondition, AttributeConditionWithoutKeywordOrValueIsOnNothing) {
+TEST(ConstraintRuleCondition, AttributeConditionWithoutKeywordOrValueHasNoSubject) {
   EXPECT_EQ(onAttribute(std::nullopt, "Wide").subject(), Subject::Nothing);
   EXPECT_EQ(onAttribute("ShiftRange", std::nullopt).subject(), Subject::Nothing);
 }
 
-TEST(ConstraintRuleCondition, UnknownOrMissingTypeIsOnNothing) {
+TEST(ConstraintRuleCondition, ConditionOfUnknownOrMissingTypeHasNoSubject) {
   for (const char *type : {"ppd", "setting", "Settings", "", "PPD "})
     EXPECT_EQ(condition(type, "Value", "5").subject(), Subject::Nothing) << type;
   EXPECT_EQ(condition(std::nullopt, "Value", "5").subject(), Subject::Nothing);
@@ -63,7 +63,7 @@ TEST(ConstraintRuleCondition, UnknownOrMissingPatternReadsNoValue) {
   EXPECT_FALSE(onSetting(std::nullopt, "5").readsValue());
 }
 
-TEST(ConstraintRuleCondition, ValueIsComparedAsText) {
+TEST(ConstraintRuleCondition, ValueIsComparedAsString) {
   const auto holds = [](const char *expected, std::int32_t value) {
     const Condition tested = onSetting("Value", expected);
     EXPECT_EQ(tested.isSatisfiedBy(value), tested.isSatisfiedBy(std::to_string(value)))
@@ -84,14 +84,14 @@ TEST(ConstraintRuleCondition, ValueIsComparedAsText) {
   EXPECT_FALSE(holds("-2147483649", INT32_MIN));
 }
 
-TEST(ConstraintRuleCondition, TextOfASettingMayBeAny) {
+TEST(ConstraintRuleCondition, ValueOfASettingMayBeAnyString) {
   EXPECT_TRUE(onSetting("Value", "five").isSatisfiedBy("five"));
   EXPECT_TRUE(onSetting("Value", "05").isSatisfiedBy("05"));
   EXPECT_FALSE(onSetting("Value", "5").isSatisfiedBy("05"));
   EXPECT_TRUE(onSetting("Range", "5:5").isSatisfiedBy(" 05x"));
 }
 
-TEST(ConstraintRuleCondition, SettingWithoutTextHasNoValueAndReadsAsZero) {
+TEST(ConstraintRuleCondition, SettingWithoutValueEqualsNoValueAndCountsAsZeroInARange) {
   EXPECT_FALSE(onSetting("Value", "").isSatisfiedBy(std::nullopt));
   EXPECT_FALSE(onSetting("Value", "0").isSatisfiedBy(std::nullopt));
   EXPECT_FALSE(onSetting("Value", std::nullopt).isSatisfiedBy(std::nullopt));
@@ -114,12 +114,12 @@ TEST(ConstraintRuleCondition, RangeIncludesBothEnds) {
     EXPECT_FALSE(onSetting("Range", "-10:10").isSatisfiedBy(value)) << value;
 }
 
-TEST(ConstraintRuleCondition, InvertedRangeHoldsForNothing) {
+TEST(ConstraintRuleCondition, InvertedRangeNeverHolds) {
   for (std::int32_t value : {3, 5, 7, 10, 20})
     EXPECT_FALSE(onSetting("Range", "10:5").isSatisfiedBy(value)) << value;
 }
 
-TEST(ConstraintRuleCondition, RangeWithoutColonReadsTheValueAndIsFalse) {
+TEST(ConstraintRuleCondition, RangeWithoutColonReadsTheValueAndNeverHolds) {
   for (const char *text : {"5", "0", "", "abc"}) {
     EXPECT_TRUE(onSetting("Range", text).readsValue()) << text;
     for (std::int32_t value : {0, 5})
@@ -127,17 +127,17 @@ TEST(ConstraintRuleCondition, RangeWithoutColonReadsTheValueAndIsFalse) {
   }
 }
 
-Action action(std::optional<std::string> pattern, std::optional<std::string> value) {
-  RuleTexts texts;
-  texts.actionPattern = std::move(pattern);
-  texts.actionValue = std::move(value);
-  return Action::fromTexts(texts);
+Action action(String pattern, String value) {
+  RuleStrings rule;
+  rule.actionPattern = std::move(pattern);
+  rule.actionValue = std::move(value);
+  return Action::fromStrings(rule);
 }
 
-TEST(ConstraintRuleAction, ValueKeepsItsTextAsItIs) {
+TEST(ConstraintRuleAction, ValueIsKeptAsGiven) {
   for (const char *text : {"5", "12abc", "", " 7", "abc"}) {
     EXPECT_EQ(action("Value", text).kind, Action::Kind::SetValue) << text;
-    EXPECT_EQ(action("Value", text).text, text);
+    EXPECT_EQ(action("Value", text).value, text);
   }
 }
 
@@ -160,7 +160,7 @@ TEST(ConstraintRuleAction, RangeKeepsItsBoundsAsGiven) {
   EXPECT_EQ(more.range.max, 8);
 }
 
-TEST(ConstraintRuleAction, AbsentRangeIsZeroToZeroAndOneWithoutColonNothing) {
+TEST(ConstraintRuleAction, AbsentRangeIsZeroToZeroAndOneWithoutColonDoesNothing) {
   const Action absent = action("Range", std::nullopt);
   EXPECT_EQ(absent.kind, Action::Kind::SetRange);
   EXPECT_EQ(absent.range.min, 0);
@@ -177,12 +177,12 @@ TEST(ConstraintRuleAction, DefaultIsReadAsAnInteger) {
   }
 }
 
-TEST(ConstraintRuleAction, AbsentValueOfTheOthersIsNothing) {
+TEST(ConstraintRuleAction, OtherActionsWithoutValueDoNothing) {
   for (const char *pattern : {"Value", "View", "Default"})
     EXPECT_EQ(action(pattern, std::nullopt).kind, Action::Kind::Nothing) << pattern;
 }
 
-TEST(ConstraintRuleAction, UnknownOrMissingPatternIsNothing) {
+TEST(ConstraintRuleAction, UnknownOrMissingPatternDoesNothing) {
   for (const char *pattern : {"value", "VIEW", "range", "Default ", "", "Max"})
     EXPECT_EQ(action(pattern, "5").kind, Action::Kind::Nothing) << pattern;
   EXPECT_EQ(action(std::nullopt, "5").kind, Action::Kind::Nothing);

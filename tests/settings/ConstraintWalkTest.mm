@@ -3,7 +3,7 @@
 namespace imageposition::test {
 namespace {
 
-/// What applying a whole rule table does to a setting.
+/// The effects of a whole rule table on a setting.
 class ConstraintWalk : public SettingTest {
 protected:
   RecordingItem *entry = item("entry", kEntryField);
@@ -71,7 +71,7 @@ TEST_F(ConstraintWalk, KeysOneToThreeVisitOneAndTwoOnly) {
   EXPECT_EQ(field<int32_t>(setting, "Default"), 2);
 }
 
-TEST_F(ConstraintWalk, KeyOfAnotherFormCountsButIsNotVisited) {
+TEST_F(ConstraintWalk, KeyThatIsNotAPlainIndexCountsButIsNotVisited) {
   NSMutableDictionary *rules = [NSMutableDictionary dictionary];
   [rules setObject:dictionary(rule("Value", "9")) forKey:@"00"];
   [rules setObject:dictionary(rule("Value", "8")) forKey:@"+1"];
@@ -95,7 +95,7 @@ TEST_F(ConstraintWalk, RulesAreVisitedInNumericOrder) {
   EXPECT_EQ(journal.take(), expected);
 }
 
-TEST_F(ConstraintWalk, EntryThatIsNoRuleIsSkipped) {
+TEST_F(ConstraintWalk, EntryThatIsNotARuleIsSkipped) {
   NSMutableDictionary *rules = [NSMutableDictionary dictionary];
   [rules setObject:@"text" forKey:@"0"];
   [rules setObject:[NSNumber numberWithInt:5] forKey:@"1"];
@@ -107,7 +107,7 @@ TEST_F(ConstraintWalk, EntryThatIsNoRuleIsSkipped) {
   EXPECT_EQ(value(setting), 5);
 }
 
-TEST_F(ConstraintWalk, KeysThatAreNoTextsCountButAreNotVisited) {
+TEST_F(ConstraintWalk, KeysThatAreNotStringsCountButAreNotVisited) {
   NSMutableDictionary *rules = [NSMutableDictionary dictionary];
   [rules setObject:dictionary(rule("Value", "9")) forKey:[NSNumber numberWithInt:0]];
   [rules setObject:dictionary(rule("Value", "5")) forKey:@"1"];
@@ -116,7 +116,7 @@ TEST_F(ConstraintWalk, KeysThatAreNoTextsCountButAreNotVisited) {
   EXPECT_EQ(value(setting), 5);
 }
 
-TEST_F(ConstraintWalk, EachSettingTakesItsOwnRulesOnly) {
+TEST_F(ConstraintWalk, EachSettingAppliesOnlyItsOwnRules) {
   NSDictionary *rules = ruleTable({acting("BackTBM", "Value", "7")});
   MorvaADPIntegerSettingRV2 *front =
       make([MorvaADPIntegerSettingRV2 class], dictionary(record()), rules);
@@ -158,7 +158,7 @@ TEST_F(ConstraintWalk, ValueIsSetClampedAndShown) {
   EXPECT_EQ(value(applied({rule("Value", "")})), 0);
 }
 
-TEST_F(ConstraintWalk, AbsentActionValueOfTheOthersChangesNothing) {
+TEST_F(ConstraintWalk, OtherActionsWithoutValueChangeNothing) {
   for (const char *pattern : {"Value", "View", "Default"})
     expectUntouched(applied({without(rule(pattern, ""), "ActionValue")}));
 }
@@ -169,7 +169,7 @@ TEST_F(ConstraintWalk, UnknownOrMissingActionPatternChangesNothing) {
   expectUntouched(applied({without(rule("Value", "5"), "ActionPattern")}));
 }
 
-TEST_F(ConstraintWalk, ViewOffPutsTheDefaultBackAndMakesTheItemsUnusable) {
+TEST_F(ConstraintWalk, ViewOffRestoresTheDefaultAndDisablesTheItems) {
   MorvaADPIntegerSettingRV2 *setting = bound(ruleTable({rule("View", "OFF")}));
   [setting setIntValue:9];
   journal.clear();
@@ -178,7 +178,7 @@ TEST_F(ConstraintWalk, ViewOffPutsTheDefaultBackAndMakesTheItemsUnusable) {
   EXPECT_EQ(journal.take(), (Lines{"entry.setStringValue:3", "entry.setViewAvailable:0"}));
 }
 
-TEST_F(ConstraintWalk, ViewOnMakesTheItemsUsable) {
+TEST_F(ConstraintWalk, ViewOnEnablesTheItems) {
   MorvaADPIntegerSettingRV2 *setting = bound(ruleTable({rule("View", "ON")}));
   [setting setIntValue:9];
   journal.clear();
@@ -187,7 +187,7 @@ TEST_F(ConstraintWalk, ViewOnMakesTheItemsUsable) {
   EXPECT_EQ(journal.take(), (Lines{"entry.setViewAvailable:1"}));
 }
 
-TEST_F(ConstraintWalk, OtherViewTextsChangeNothing) {
+TEST_F(ConstraintWalk, OtherViewValuesChangeNothing) {
   for (const char *text : {"on", "off", "On", "", "1", "0", "ON ", "YES"})
     expectUntouched(applied({rule("View", text)}));
 }
@@ -249,7 +249,7 @@ TEST_F(ConstraintWalk, DefaultIsReadAsAnIntegerAndTheValueStays) {
   }
 }
 
-TEST_F(ConstraintWalk, ActionEntriesThatAreNoTextsCountAsAbsent) {
+TEST_F(ConstraintWalk, ActionEntriesThatAreNotStringsCountAsAbsent) {
   for (const char *key : {"ActionObj", "ActionPattern", "ActionValue"}) {
     NSMutableDictionary *texts =
         [NSMutableDictionary dictionaryWithDictionary:dictionary(rule("Value", "5"))];
@@ -271,13 +271,13 @@ TEST_F(ConstraintWalk, NoRuleStopsTheWalkAndTheHighestIndexWins) {
   EXPECT_EQ(field<int32_t>(setting, "Min"), -9);
 }
 
-TEST_F(ConstraintWalk, RuleOnItsOwnValueSeesWhatEarlierRulesMadeOfIt) {
+TEST_F(ConstraintWalk, RuleOnItsOwnValueSeesTheEffectOfEarlierRules) {
   EXPECT_EQ(value(applied({when("3", rule("Value", "4")), when("4", rule("Value", "5")),
                            when("3", rule("Value", "6"))})),
             5);
 }
 
-TEST_F(ConstraintWalk, RuleSeesThatAnEarlierOnePutTheDefaultBack) {
+TEST_F(ConstraintWalk, RuleSeesThatAnEarlierOneRestoredTheDefault) {
   MorvaADPIntegerSettingRV2 *setting = bound(
       ruleTable({rule("Default", "8"), rule("View", "OFF"), when("8", rule("Default", "1"))}));
   [setting applyUIConstraint:store.handle()];
@@ -308,7 +308,7 @@ TEST_F(ConstraintWalk, EveryCallStartsWithTheFirstRule) {
   EXPECT_EQ(value(setting), 6);
 }
 
-TEST_F(ConstraintWalk, RulesFollowTheOtherSettingsFromCallToCall) {
+TEST_F(ConstraintWalk, EachCallSeesTheCurrentValuesOfOtherSettings) {
   NSDictionary *rules = ruleTable({when("8", acting("BackLRM", "Value", "5"))});
   MorvaADPIntegerSettingRV2 *front =
       make([MorvaADPIntegerSettingRV2 class], dictionary(record()), rules);
@@ -322,8 +322,8 @@ TEST_F(ConstraintWalk, RulesFollowTheOtherSettingsFromCallToCall) {
   EXPECT_EQ(value(back), 5);
 }
 
-TEST_F(ConstraintWalk, ConditionAskedWhileAnActionShowsItsValueSeesTheSettingsOfThatMoment) {
-  // The entry field relates the setting anew while it is shown the value.
+TEST_F(ConstraintWalk, ConditionCheckedWhileAnActionShowsItsValueSeesTheCurrentSettings) {
+  // The entry field changes the related settings while the value is shown in it.
   MorvaADPIntegerSettingRV2 *setting = bound(ruleTable({rule("Value", "5"), rule("Value", "6")}));
   MorvaADPIntegerSettingRV2 *other = make(record({{"SettingName", "B"}}));
   NSArray *others = array({other});
@@ -344,7 +344,7 @@ TEST_F(ConstraintWalk, ConditionAskedWhileAnActionShowsItsValueSeesTheSettingsOf
   EXPECT_EQ(value(setting), 5); // "FrontLRM" is no longer among the related settings
 }
 
-TEST_F(ConstraintWalk, NextRuleSeesTheSettingsThatWereRelatedAfterAConditionWasAskedInAnAction) {
+TEST_F(ConstraintWalk, NextRuleSeesSettingsThatWereRelatedAfterAConditionWasCheckedInAnAction) {
   MorvaADPIntegerSettingRV2 *setting = bound(ruleTable({rule("Value", "5"), rule("Value", "6")}));
   MorvaADPIntegerSettingRV2 *other = make(record({{"SettingName", "B"}}));
   NSArray *others = array({other});
@@ -362,7 +362,7 @@ TEST_F(ConstraintWalk, NextRuleSeesTheSettingsThatWereRelatedAfterAConditionWasA
   EXPECT_EQ(value(setting), 5); // "FrontLRM" is no longer among the related settings
 }
 
-TEST_F(ConstraintWalk, AttributeRulesFollowThePrinter) {
+TEST_F(ConstraintWalk, AttributeRulesDependOnThePrinter) {
   TestPpd narrow({"*ShiftRange: \"Narrow\""});
   TestPpd wide({"*ShiftRange: \"Wide\""});
   Texts texts = rule("Range", "-5:5");

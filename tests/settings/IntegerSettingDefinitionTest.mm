@@ -19,7 +19,7 @@ protected:
     [definition setObject:entry forKey:key];
     return make([MorvaADPIntegerSettingRV2 class], definition, [NSDictionary dictionary]);
   }
-  /// One line that names the setting and the entry, and no setting.
+  /// Expects one log line that names the setting and the entry, and no setting.
   void expectRefused(const Texts &definition, const char *key) {
     LogCapture log;
     EXPECT_TRUE(make(definition) == nil);
@@ -101,7 +101,7 @@ TEST_F(IntegerSettingDefinition, MissingRangeClampsEveryValueToZeroSilently) {
   EXPECT_EQ(log.lines(), Lines());
 }
 
-TEST_F(IntegerSettingDefinition, RangeThatIsNoTextCountsAsMissing) {
+TEST_F(IntegerSettingDefinition, RangeThatIsNotAStringCountsAsMissing) {
   for (id entry : {(id)[NSNumber numberWithInt:20], (id)array({@"-20", @"20"})}) {
     MorvaADPIntegerSettingRV2 *setting = makeWith(@"Range", entry);
     ASSERT_TRUE(setting != nil);
@@ -110,24 +110,24 @@ TEST_F(IntegerSettingDefinition, RangeThatIsNoTextCountsAsMissing) {
   }
 }
 
-TEST_F(IntegerSettingDefinition, RangeWithoutColonIsLoggedAndRefused) {
+TEST_F(IntegerSettingDefinition, RangeWithoutColonIsLoggedAndRejected) {
   for (const char *text : {"", "20", "-20 20", "abc"})
     expectRefused(record({{"Range", text}}), "Range");
 }
 
-TEST_F(IntegerSettingDefinition, WordingOfFewerThanThreePartsIsLoggedAndRefused) {
+TEST_F(IntegerSettingDefinition, WordingOfFewerThanThreePartsIsLoggedAndRejected) {
   for (const char *text : {"", "MIN", "MIN:MAX", ":"})
     expectRefused(record({{"RangeLabelWording", text}}), "RangeLabelWording");
 }
 
-TEST_F(IntegerSettingDefinition, MissingWordingIsLoggedAndRefused) {
+TEST_F(IntegerSettingDefinition, MissingWordingIsLoggedAndRejected) {
   expectRefused(without("RangeLabelWording"), "RangeLabelWording");
   LogCapture log;
   EXPECT_TRUE(makeWith(@"RangeLabelWording", [NSNumber numberWithInt:1]) == nil);
   EXPECT_EQ(log.lines().size(), 1u);
 }
 
-TEST_F(IntegerSettingDefinition, MalformedRangeOfANamelessSettingIsRefusedAsWell) {
+TEST_F(IntegerSettingDefinition, MalformedRangeOfASettingWithoutANameIsRejectedToo) {
   Texts texts = without("SettingName");
   texts["Range"] = "5";
   LogCapture log;
@@ -135,7 +135,7 @@ TEST_F(IntegerSettingDefinition, MalformedRangeOfANamelessSettingIsRefusedAsWell
   EXPECT_EQ(log.lines().size(), 1u);
 }
 
-TEST_F(IntegerSettingDefinition, DefaultTextIsReadAsAnIntegerAndNotClamped) {
+TEST_F(IntegerSettingDefinition, DefaultStringIsReadAsAnIntegerAndNotClamped) {
   struct Row {
     const char *text;
     int32_t number;
@@ -168,7 +168,7 @@ TEST_F(IntegerSettingDefinition, DefaultMayBeANumber) {
   }
 }
 
-TEST_F(IntegerSettingDefinition, DefaultThatIsMissingOrNeitherTextNorNumberIsZero) {
+TEST_F(IntegerSettingDefinition, DefaultThatIsMissingOrNeitherStringNorNumberIsZero) {
   EXPECT_EQ(read(make(without("DefaultValue")), "Default"), 0);
   EXPECT_EQ(read(make(without("DefaultValue")), "Value"), 0);
   for (id entry : {(id)array({@"5"}), (id)[NSData data], (id)[NSDictionary dictionary]}) {
@@ -177,7 +177,7 @@ TEST_F(IntegerSettingDefinition, DefaultThatIsMissingOrNeitherTextNorNumberIsZer
   }
 }
 
-TEST_F(IntegerSettingDefinition, BindingGivesTheRangeMaximumFirstToItemsThatWantIt) {
+TEST_F(IntegerSettingDefinition, BindingPassesTheRangeMaximumFirstToItemsThatTakeOne) {
   MorvaADPIntegerSettingRV2 *setting = make(record({{"Range", "-7:20"}}));
   [setting setRelatedSettings:nil
                HandlingTarget:array({item("label", kLabel, 1), item("first", kInteger),
@@ -185,7 +185,7 @@ TEST_F(IntegerSettingDefinition, BindingGivesTheRangeMaximumFirstToItemsThatWant
   EXPECT_EQ(journal.take(), (Lines{"first.setRange:20 Min:-7", "entry.setRange:20 Min:-7"}));
 }
 
-TEST_F(IntegerSettingDefinition, BindingGivesTheBoundsAsTheyAre) {
+TEST_F(IntegerSettingDefinition, BindingPassesTheBoundsUnchanged) {
   MorvaADPIntegerSettingRV2 *setting = make(record({{"Range", "10:5"}}));
   [setting setRelatedSettings:nil HandlingTarget:array({item("entry", kEntryField)})];
   EXPECT_EQ(journal.take(), (Lines{"entry.setRange:5 Min:10"}));

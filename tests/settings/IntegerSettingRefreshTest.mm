@@ -1,6 +1,6 @@
 #import "SettingFixture.h"
 
-/// An item that conforms to something else each time.
+/// An item that conforms to a different protocol each time.
 @interface FickleItem : RecordingItem {
 @public
   Protocol *conformsTo;
@@ -36,11 +36,11 @@ protected:
     bind(setting, {range});
     [setting checkUI:store.handle()];
     const Lines lines = journal.take();
-    return lines.size() > 1 ? lines[1] : "no range text";
+    return lines.size() > 1 ? lines[1] : "no range label";
   }
 };
 
-TEST_F(IntegerSettingRefresh, AsksTheItemsInOrderThenWritesThenReads) {
+TEST_F(IntegerSettingRefresh, ReadsTheItemsInOrderThenWritesThenReadsTheTicket) {
   resources.writeStrings({{"RangeText", "MIN to MAX mm"}});
   entry->number = 5;
   MorvaADPIntegerSettingRV2 *setting = bound();
@@ -52,7 +52,7 @@ TEST_F(IntegerSettingRefresh, AsksTheItemsInOrderThenWritesThenReads) {
   EXPECT_EQ(value(setting), 5);
 }
 
-TEST_F(IntegerSettingRefresh, AnItemThatAnswersForItselfIsAskedEachTimeWhatItConformsTo) {
+TEST_F(IntegerSettingRefresh, ItemThatOverridesConformanceIsCheckedEachTime) {
   FickleItem *fickle = static_cast<FickleItem *>([FickleItem itemNamed:"fickle"
                                                           capabilities:kNone
                                                                journal:&journal]);
@@ -80,7 +80,7 @@ TEST_F(IntegerSettingRefresh, EntryFieldThatShowsTheValueIsReadOnce) {
                                    "entry.setStringValue:3"}));
 }
 
-TEST_F(IntegerSettingRefresh, SecondReadingOfTheEntryFieldCounts) {
+TEST_F(IntegerSettingRefresh, SecondReadOfTheEntryFieldCounts) {
   entry->number = 5;
   MorvaADPIntegerSettingRV2 *setting = make();
   bind(setting, {entry});
@@ -134,7 +134,7 @@ TEST_F(IntegerSettingRefresh, StepsWrapAt32Bits) {
   EXPECT_EQ(value(setting), INT32_MAX);
 }
 
-TEST_F(IntegerSettingRefresh, StepperBeforeTheFieldIsOverruledByANewNumber) {
+TEST_F(IntegerSettingRefresh, NewNumberInTheFieldOverridesAnEarlierStepper) {
   entry->number = 9;
   stepper->steps = 2;
   MorvaADPIntegerSettingRV2 *setting = make();
@@ -143,8 +143,8 @@ TEST_F(IntegerSettingRefresh, StepperBeforeTheFieldIsOverruledByANewNumber) {
   EXPECT_EQ(value(setting), 9);
 }
 
-TEST_F(IntegerSettingRefresh, FieldsAreComparedWithTheValueFromBeforeTheWalk) {
-  // The stepper has moved the value away from 3, but a field that shows 3 was not edited.
+TEST_F(IntegerSettingRefresh, FieldsAreComparedWithTheValueFromBeforeTheLoop) {
+  // The stepper has changed the value from 3, but a field that shows 3 was not edited.
   entry->number = 3;
   stepper->steps = 2;
   MorvaADPIntegerSettingRV2 *setting = make();
@@ -166,7 +166,7 @@ TEST_F(IntegerSettingRefresh, FieldsAreComparedWithTheValueFromBeforeTheWalk) {
   EXPECT_EQ(value(setting), 10);
 }
 
-TEST_F(IntegerSettingRefresh, ItemWithEveryCapabilityIsFieldThenStepperThenLabel) {
+TEST_F(IntegerSettingRefresh, ItemWithEveryProtocolIsReadAsFieldThenStepperThenLabel) {
   RecordingItem *all = item("all", 63, 0);
   all->number = 7;
   all->steps = 2;
@@ -179,14 +179,14 @@ TEST_F(IntegerSettingRefresh, ItemWithEveryCapabilityIsFieldThenStepperThenLabel
                    "set LeftRightMargin=9", "get LeftRightMargin", "all.setStringValue:9"}));
 }
 
-TEST_F(IntegerSettingRefresh, OtherItemsAreNotAsked) {
+TEST_F(IntegerSettingRefresh, OtherItemsAreNotCalled) {
   MorvaADPIntegerSettingRV2 *setting = make();
   bind(setting, {item("a", kNone, 0), item("b", kAction | kViewAvailable | kInteger, 1)});
   [setting checkUI:store.handle()];
   EXPECT_EQ(journal.take(), (Lines{"set LeftRightMargin=3", "get LeftRightMargin"}));
 }
 
-TEST_F(IntegerSettingRefresh, LabelsWithOtherTagsAreLeftAlone) {
+TEST_F(IntegerSettingRefresh, LabelsWithOtherTagsStayUnchanged) {
   MorvaADPIntegerSettingRV2 *setting = make();
   NSInteger wide = sizeof(NSInteger) > 4 ? NSInteger(0x100000000LL) : 9;
   bind(setting, {item("minus", kLabel, -1), item("two", kLabel, 2), item("wide", kLabel, wide)});
@@ -195,7 +195,7 @@ TEST_F(IntegerSettingRefresh, LabelsWithOtherTagsAreLeftAlone) {
                                    "get LeftRightMargin"}));
 }
 
-TEST_F(IntegerSettingRefresh, AllLabelsOfARoleGetTheirText) {
+TEST_F(IntegerSettingRefresh, AllLabelsWithATagAreSet) {
   MorvaADPIntegerSettingRV2 *setting = make();
   bind(setting, {range, name, item("again", kLocalizable, 1)});
   [setting checkUI:store.handle()];
@@ -204,24 +204,24 @@ TEST_F(IntegerSettingRefresh, AllLabelsOfARoleGetTheirText) {
                                    "set LeftRightMargin=3", "get LeftRightMargin"}));
 }
 
-TEST_F(IntegerSettingRefresh, RangeTextPutsTheBoundsIntoTheLocalizedTemplate) {
+TEST_F(IntegerSettingRefresh, RangeLabelInsertsTheBoundsIntoTheLocalizedTemplate) {
   resources.writeStrings({{"RangeText", "min-mark to max-mark"}});
   EXPECT_EQ(rangeTextOf(record({{"RangeLabelWording", "min-mark:max-mark:RangeText"}})),
             "range.setRangeStrings:-20 to 20");
 }
 
-TEST_F(IntegerSettingRefresh, RangeTextReplacesEveryMarkMaximumFirst) {
+TEST_F(IntegerSettingRefresh, RangeLabelReplacesEveryPlaceholderMaximumFirst) {
   resources.writeStrings({{"RangeText", "X Y X"}});
   EXPECT_EQ(rangeTextOf(record({{"Range", "5:10"}, {"RangeLabelWording", "1:X:RangeText"}})),
             "range.setRangeStrings:50 Y 50");
 }
 
-TEST_F(IntegerSettingRefresh, MissingTemplateShowsTheKeyWithItsMarksReplaced) {
+TEST_F(IntegerSettingRefresh, MissingTemplateShowsTheKeyWithItsPlaceholdersReplaced) {
   EXPECT_EQ(rangeTextOf(record({{"RangeLabelWording", "MIN:MAX:from MIN up to MAX, MAX"}})),
             "range.setRangeStrings:from -20 up to 20, 20");
 }
 
-TEST_F(IntegerSettingRefresh, EmptyMarksReplaceNothing) {
+TEST_F(IntegerSettingRefresh, EmptyPlaceholdersReplaceNothing) {
   resources.writeStrings({{"RangeText", "some text"}});
   EXPECT_EQ(rangeTextOf(record({{"RangeLabelWording", "::RangeText"}})),
             "range.setRangeStrings:some text");
@@ -256,12 +256,12 @@ TEST_F(IntegerSettingRefresh, ChangedRangeShowsAtTheNextRefreshButDoesNotReachTh
                    "set LeftRightMargin=8", "get LeftRightMargin", "entry.setStringValue:8"}));
 }
 
-TEST_F(IntegerSettingRefresh, RangeTextShowsInvertedBoundsAsTheyAre) {
+TEST_F(IntegerSettingRefresh, RangeLabelShowsInvertedBoundsUnchanged) {
   resources.writeStrings({{"RangeText", "MIN..MAX"}});
   EXPECT_EQ(rangeTextOf(record({{"Range", "10:5"}})), "range.setRangeStrings:10..5");
 }
 
-TEST_F(IntegerSettingRefresh, WalkCountsTheItemsAgainAfterEachOne) {
+TEST_F(IntegerSettingRefresh, LoopCountsTheItemsAgainAfterEachOne) {
   MorvaADPIntegerSettingRV2 *setting = make();
   NSMutableArray *const own = field<NSMutableArray *>(setting, "HandlingTarget");
   bind(setting, {stepper, name});
@@ -287,7 +287,7 @@ TEST_F(IntegerSettingRefresh, StepsAreTakenOnce) {
   EXPECT_EQ(value(setting), 5);
 }
 
-TEST_F(IntegerSettingRefresh, SettingWithoutANameGivesItsLabelNone) {
+TEST_F(IntegerSettingRefresh, SettingWithoutANamePassesNullToItsLabel) {
   Texts texts = record();
   texts.erase("SettingName");
   MorvaADPIntegerSettingRV2 *setting = make(texts);

@@ -18,7 +18,7 @@ protected:
   }
 };
 
-TEST_F(IntegerSettingTicket, WritesTheClampedValueAsUnlockedDecimalText) {
+TEST_F(IntegerSettingTicket, WritesTheClampedValueAsAnUnlockedDecimalString) {
   MorvaADPIntegerSettingRV2 *setting = bound();
   for (const auto &[number, text] :
        std::map<int32_t, std::string>{{-3, "-3"}, {0, "0"}, {99, "20"}, {-99, "-20"}}) {
@@ -41,7 +41,7 @@ TEST_F(IntegerSettingTicket, SuccessfulWriteShowsAndReadsNothing) {
   EXPECT_EQ(journal.take(), (Lines{"set LeftRightMargin=3"}));
 }
 
-TEST_F(IntegerSettingTicket, FailedWriteReadsAgainAndShowsWhatIsStored) {
+TEST_F(IntegerSettingTicket, FailedWriteReadsAgainAndShowsTheStoredValue) {
   store.put(kKey, "7");
   store.failWritesOf(kKey);
   MorvaADPIntegerSettingRV2 *setting = bound();
@@ -62,7 +62,7 @@ TEST_F(IntegerSettingTicket, WriteToALockedEntryReadsAgain) {
   EXPECT_EQ(value(setting), 7);
 }
 
-TEST_F(IntegerSettingTicket, FailedWriteOfAnAbsentKeyGoesBackToTheDefault) {
+TEST_F(IntegerSettingTicket, FailedWriteOfAnAbsentKeyRestoresTheDefault) {
   store.failWritesOf(kKey);
   MorvaADPIntegerSettingRV2 *setting = bound();
   [setting setIntValue:9];
@@ -81,7 +81,7 @@ TEST_F(IntegerSettingTicket, ReadsShowsAndDoesNotWrite) {
   EXPECT_EQ(journal.take(), (Lines{"get LeftRightMargin", "entry.setStringValue:-12"}));
 }
 
-TEST_F(IntegerSettingTicket, StoredTextIsReadAsAnIntegerAndClamped) {
+TEST_F(IntegerSettingTicket, StoredStringIsReadAsAnIntegerAndClamped) {
   struct Row {
     const char *stored;
     int32_t after;
@@ -97,7 +97,7 @@ TEST_F(IntegerSettingTicket, StoredTextIsReadAsAnIntegerAndClamped) {
   }
 }
 
-TEST_F(IntegerSettingTicket, TextThatIsNoNumberBecomesZeroAndThenTheNearestBound) {
+TEST_F(IntegerSettingTicket, StringThatIsNotANumberBecomesZeroAndThenTheNearestBound) {
   store.put(kKey, "abc");
   MorvaADPIntegerSettingRV2 *setting = bound(record({{"Range", "5:9"}}));
   [setting getTicket:store.handle()];
@@ -155,7 +155,7 @@ TEST_F(IntegerSettingTicket, SuccessfulReadOfNoValueIsZeroAndNotTheDefault) {
   EXPECT_EQ(value(setting), 0);
 }
 
-TEST_F(IntegerSettingTicket, StoredNumberIsReadAsOneAndAnythingElseAsZero) {
+TEST_F(IntegerSettingTicket, StoredNumberIsReadAsANumberAndAnythingElseAsZero) {
   struct Row {
     id stored;
     int32_t after;
@@ -178,7 +178,7 @@ TEST_F(IntegerSettingTicket, StoredNumberIsReadAsOneAndAnythingElseAsZero) {
   }
 }
 
-TEST_F(IntegerSettingTicket, EachEntryFieldIsOneTurnOfShowingTheValueInAll) {
+TEST_F(IntegerSettingTicket, ValueIsShownInAllFieldsOncePerField) {
   store.put(kKey, "99");
   MorvaADPIntegerSettingRV2 *setting = make();
   bind(setting, {item("a", kEntryField), item("stepper", kStepperItem), item("b", kTextField)});
@@ -235,7 +235,7 @@ TEST_F(IntegerSettingTicket, RefreshWhoseReadFailsShowsTheDefault) {
   EXPECT_EQ(store.text(kKey), "8");
 }
 
-TEST_F(IntegerSettingTicket, RefreshWhoseWriteFailsReadsTwiceAndShowsWhatIsStored) {
+TEST_F(IntegerSettingTicket, RefreshWhoseWriteFailsReadsTwiceAndShowsTheStoredValue) {
   entry->number = 8;
   store.put(kKey, "5");
   MorvaADPIntegerSettingRV2 *setting = bound();

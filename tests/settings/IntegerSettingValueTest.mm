@@ -15,7 +15,7 @@ protected:
   }
 };
 
-TEST_F(IntegerSettingValue, CheckValueBringsTheValueIntoTheRangeAndShowsNothing) {
+TEST_F(IntegerSettingValue, CheckValueClampsTheValueAndShowsNothing) {
   struct Row {
     const char *range;
     int32_t before;
@@ -62,7 +62,7 @@ TEST_F(IntegerSettingValue, SetStringValueWithoutAStringSetsZeroAndClamps) {
   EXPECT_EQ(journal.take(), (Lines{"entry.setStringValue:5"}));
 }
 
-TEST_F(IntegerSettingValue, NumberIsReadOutOfATextThatUtf8CannotHold) {
+TEST_F(IntegerSettingValue, NumberIsReadFromAStringThatUtf8CannotRepresent) {
   MorvaADPIntegerSettingRV2 *setting = bound();
   const char16_t lone = 0xD800;
   [setting setStringValue:uncheckedString({u'1', u'2', lone, u'3'})];
@@ -85,7 +85,7 @@ TEST_F(IntegerSettingValue, SetIntValueClampsAndShows) {
   }
 }
 
-TEST_F(IntegerSettingValue, EveryEntryFieldIsShownTheValueInOrderAndNothingElseIs) {
+TEST_F(IntegerSettingValue, ValueIsShownInEveryEntryFieldInOrderAndNowhereElse) {
   MorvaADPIntegerSettingRV2 *setting = make();
   bind(setting, {item("a", kTextField), item("label", kLabel, 0), item("stepper", kStepperItem),
                  item("integer", kInteger), item("b", kEntryField)});
@@ -127,7 +127,7 @@ TEST_F(IntegerSettingValue, SetDefaultChangesTheDefaultOnly) {
   EXPECT_EQ(journal.take(), Lines());
 }
 
-TEST_F(IntegerSettingValue, MadeUnavailableTheValueGoesBackToTheDefaultAndIsShownFirst) {
+TEST_F(IntegerSettingValue, MakingItUnavailableRestoresAndShowsTheDefaultFirst) {
   MorvaADPIntegerSettingRV2 *setting = make();
   bind(setting, {item("entry", kEntryField), item("stepper", kStepperItem), item("name", kLabel, 0),
                  item("bare", kTextField)});
@@ -140,7 +140,7 @@ TEST_F(IntegerSettingValue, MadeUnavailableTheValueGoesBackToTheDefaultAndIsShow
                    "stepper.setViewAvailable:0", "name.setViewAvailable:0"}));
 }
 
-TEST_F(IntegerSettingValue, DefaultIsClampedWhenTheValueGoesBackToIt) {
+TEST_F(IntegerSettingValue, DefaultIsClampedWhenItIsRestored) {
   MorvaADPIntegerSettingRV2 *setting = bound(record({{"DefaultValue", "99"}}));
   [setting setViewState:NO];
   EXPECT_EQ(value(setting), 20);
@@ -148,7 +148,7 @@ TEST_F(IntegerSettingValue, DefaultIsClampedWhenTheValueGoesBackToIt) {
   EXPECT_EQ(journal.take(), (Lines{"entry.setStringValue:20", "entry.setViewAvailable:0"}));
 }
 
-TEST_F(IntegerSettingValue, MadeAvailableTheValueStays) {
+TEST_F(IntegerSettingValue, MakingItAvailableKeepsTheValue) {
   MorvaADPIntegerSettingRV2 *setting = bound();
   field<int32_t>(setting, "Value") = 99; // not even clamped
   [setting setViewState:YES];
@@ -156,7 +156,7 @@ TEST_F(IntegerSettingValue, MadeAvailableTheValueStays) {
   EXPECT_EQ(journal.take(), (Lines{"entry.setViewAvailable:1"}));
 }
 
-TEST_F(IntegerSettingValue, ChangedDefaultIsWhatTheValueGoesBackTo) {
+TEST_F(IntegerSettingValue, ChangedDefaultIsRestored) {
   MorvaADPIntegerSettingRV2 *setting = bound();
   [setting setDefault:7];
   EXPECT_EQ(value(setting), 3);
@@ -167,7 +167,7 @@ TEST_F(IntegerSettingValue, ChangedDefaultIsWhatTheValueGoesBackTo) {
   EXPECT_EQ(value(setting), 8);
 }
 
-TEST_F(IntegerSettingValue, ViewStateByTagLeavesTheValue) {
+TEST_F(IntegerSettingValue, ViewStateByTagKeepsTheValue) {
   MorvaADPIntegerSettingRV2 *setting = make();
   bind(setting, {item("entry", kEntryField, 5)});
   [setting setIntValue:9];
@@ -177,7 +177,7 @@ TEST_F(IntegerSettingValue, ViewStateByTagLeavesTheValue) {
   EXPECT_EQ(journal.take(), (Lines{"entry.tag", "entry.setViewAvailable:0"}));
 }
 
-TEST_F(IntegerSettingValue, WalksCountTheItemsAgainAfterEachOne) {
+TEST_F(IntegerSettingValue, LoopsCountTheItemsAgainAfterEachOne) {
   MorvaADPIntegerSettingRV2 *setting = make();
   RecordingItem *first = item("first", kEntryField);
   RecordingItem *later = item("later", kEntryField);

@@ -44,7 +44,7 @@ TEST(IntegerText, StopsAtTheFirstOtherCharacter) {
               {"1e3", 1}});
 }
 
-TEST(IntegerText, TextWithoutLeadingDigitsReadsAsZero) {
+TEST(IntegerText, StringWithoutLeadingDigitsReadsAsZero) {
   expectRows({{"", 0},
               {"abc", 0},
               {"-", 0},
@@ -75,7 +75,7 @@ TEST(IntegerText, SkipsLeadingWhiteSpaceOnly) {
               {"_5", 0}});
 }
 
-TEST(IntegerText, WhiteSpaceIsThatOfUnicode) {
+TEST(IntegerText, SkipsAllUnicodeWhiteSpace) {
   const std::u16string white = u"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004"
                                u"\u2005\u2006\u2007\u2008\u2009\u200A\u2028\u2029\u202F\u205F"
                                u"\u3000";
@@ -91,7 +91,7 @@ TEST(IntegerText, WhiteSpaceIsThatOfUnicode) {
   }
 }
 
-TEST(IntegerText, DigitsOfOtherScriptsAreNoDigits) {
+TEST(IntegerText, DigitsOfOtherScriptsAreNotDigits) {
   expectRows({{"\xEF\xBC\x95", 0},       // fullwidth five
               {"1\xD9\xA2", 1},          // one, Arabic-Indic two
               {"\xE2\x88\x92\x35", 0}}); // mathematical minus, five
@@ -116,11 +116,11 @@ TEST(IntegerText, NumberBeyond32BitsReadsAsTheNearestLimit) {
               {"-2147483647", kSmallest + 1}});
 }
 
-TEST(IntegerText, EndsWithTheTextEvenWhenDigitsFollowInMemory) {
+TEST(IntegerText, StopsAtTheEndOfTheStringEvenIfDigitsFollowInMemory) {
   EXPECT_EQ(readInteger(std::string_view("12345").substr(0, 2)), 12);
 }
 
-TEST(IntegerText, ZeroByteIsAnotherCharacter) {
+TEST(IntegerText, ZeroByteEndsTheNumber) {
   EXPECT_EQ(readInteger(std::string_view("1\0002", 3)), 1);
   EXPECT_EQ(readInteger(std::string_view("\0002", 2)), 0);
 }
@@ -132,12 +132,12 @@ TEST(IntegerText, ReadsUtf16AsItReadsUtf8) {
   EXPECT_EQ(readInteger(std::u16string_view(u"")), 0);
 }
 
-TEST(IntegerText, Utf16UnitWhoseLowByteIsADigitIsNone) {
+TEST(IntegerText, Utf16UnitWhoseLowByteIsADigitIsNotADigit) {
   EXPECT_EQ(readInteger(std::u16string_view(u"1\u0135")), 1);
   EXPECT_EQ(readInteger(std::u16string_view(u"\u0135")), 0);
 }
 
-TEST(IntegerText, LoneSurrogateIsAnotherCharacter) {
+TEST(IntegerText, LoneSurrogateEndsTheNumber) {
   const char16_t units[] = {u'4', 0xD800, u'2'};
   EXPECT_EQ(readInteger(std::u16string_view(units, 3)), 4);
   EXPECT_EQ(readInteger(std::u16string_view(units + 1, 2)), 0);

@@ -1,5 +1,5 @@
-/// A second, slow and literal reading of rule tables, against which the settings are compared: it
-/// walks the raw dictionaries with the platform's own operations and keeps nothing.
+/// A second, literal implementation of rule tables, with which the settings are compared: it walks
+/// the raw dictionaries with Foundation's methods and caches nothing.
 #ifndef IMAGEPOSITION_TESTS_SETTINGS_LITERALRULES_H
 #define IMAGEPOSITION_TESTS_SETTINGS_LITERALRULES_H
 
@@ -13,7 +13,7 @@
 
 namespace imageposition::test {
 
-/// What a literal walk makes of one setting.
+/// The state of one setting in a literal walk.
 struct LiteralSetting {
   explicit LiteralSetting(NSString *settingName) : name(settingName) {}
 
@@ -37,7 +37,7 @@ public:
   void apply(std::size_t index);
 
   std::vector<LiteralSetting> models;
-  /// What reached the entry fields, as a `RecordingItem` of the setting's name writes it.
+  /// The calls to the entry fields, as a `RecordingItem` with the setting's name records them.
   std::vector<std::string> calls;
 
 private:
@@ -48,7 +48,7 @@ private:
   ppd_file_t *ppd_;
 };
 
-/// As integers are read everywhere, from ASCII.
+/// Reads an integer from ASCII, by the same rules as the plug-in.
 std::int32_t literalInteger(NSString *text);
 
 } // namespace imageposition::test

@@ -1,4 +1,4 @@
-/// An integer setting whose class overrides every operation, for tests of who hears what.
+/// An integer setting whose class overrides every method, to test which ones are called.
 #ifndef IMAGEPOSITION_TESTS_SETTINGS_OBSERVEDSETTING_H
 #define IMAGEPOSITION_TESTS_SETTINGS_OBSERVEDSETTING_H
 
@@ -13,19 +13,19 @@
 
 namespace imageposition::test {
 
-/// What an observed setting does besides what its base does.
+/// What an observed setting does in addition to its base.
 struct Observation {
-  /// Gets "NAME.setTicket:", "NAME.setStringValue:5", "NAME.checkUIConstraintCondition:" with the
-  /// rule's "ActionValue", and so on; null for nothing.
+  /// Receives "NAME.setTicket:", "NAME.setStringValue:5", "NAME.checkUIConstraintCondition:" with
+  /// the rule's "ActionValue", and so on; may be null.
   Journal *journal = nullptr;
   std::string name;
-  /// Whether `getSettingName` and `getValueString` stand in the journal as well.
-  bool recordsQuestions = false;
-  /// Called with each recorded operation, without the name, before the base's.
+  /// Whether to record `getSettingName` and `getValueString` as well.
+  bool recordsGetters = false;
+  /// Called with each recorded method, without the name, before the base's method.
   std::function<void(const std::string &)> onOperation;
-  /// Operations ("setTicket:") that the class does not hand on to its base.
-  std::set<std::string> swallowed;
-  /// What the operations answer in place of what their base does.
+  /// Methods ("setTicket:") that the class does not pass on to its base.
+  std::set<std::string> suppressed;
+  /// Results that replace the base's.
   std::optional<bool> condition;
   std::optional<std::string> settingName;
   std::optional<std::string> valueString;

@@ -21,7 +21,7 @@ Observation &observe(ObservedSetting *setting) {
 
 namespace {
 
-// Records the operation; false when the base is not to hear of it.
+// Records the method; returns false if it is not to be passed on to the base.
 bool record(ObservedSetting *setting, const std::string &operation,
             const std::string &argument = {}) {
   Observation &observation = observe(setting);
@@ -29,7 +29,7 @@ bool record(ObservedSetting *setting, const std::string &operation,
     observation.journal->add(observation.name + "." + operation + argument);
   if (observation.onOperation)
     observation.onOperation(operation + argument);
-  return observation.swallowed.count(operation) == 0;
+  return observation.suppressed.count(operation) == 0;
 }
 
 } // namespace
@@ -83,14 +83,14 @@ bool record(ObservedSetting *setting, const std::string &operation,
 
 - (NSString *)getSettingName {
   Observation &own = observe(self);
-  if (own.recordsQuestions)
+  if (own.recordsGetters)
     record(self, "getSettingName");
   return own.settingName ? nsString(*own.settingName) : [super getSettingName];
 }
 
 - (NSString *)getValueString {
   Observation &own = observe(self);
-  if (own.recordsQuestions)
+  if (own.recordsGetters)
     record(self, "getValueString");
   if (own.hasNoValueString)
     return nil;

@@ -1,4 +1,4 @@
-/// What a test of settings needs: a bundle, a printer, print settings, items, and one journal.
+/// The fixture for tests of settings: a bundle, a PPD, print settings, items and one journal.
 #ifndef IMAGEPOSITION_TESTS_SETTINGS_SETTINGFIXTURE_H
 #define IMAGEPOSITION_TESTS_SETTINGS_SETTINGFIXTURE_H
 
@@ -25,26 +25,26 @@ namespace imageposition::test {
 using Texts = std::map<std::string, std::string>;
 using Lines = std::vector<std::string>;
 
-/// A dictionary of texts.
+/// A dictionary of strings.
 NSDictionary *dictionary(const Texts &texts);
 /// A rule table: the rules under "0", "1", and so on.
 NSDictionary *ruleTable(const std::vector<Texts> &rules);
 NSArray *array(std::initializer_list<id> elements);
 
-/// A definition record whose texts are those of a usable setting, except for the given ones.
+/// The definition record of a usable setting, with the given changes.
 Texts record(const Texts &changes = {});
 
 class SettingTest : public testing::Test {
 protected:
   SettingTest() { store.recordInto(&journal); }
 
-  /// A setting that nobody in the test has to release.
+  /// An autoreleased setting.
   MorvaADPIntegerSettingRV2 *make(const Texts &definition = record(),
                                   const std::vector<Texts> &rules = {});
   MorvaADPIntegerSettingRV2 *make(Class type, NSDictionary *definition, NSDictionary *rules);
-  /// Bound to itself as the only related setting.
+  /// Binds the setting to the items, with itself as the only related setting.
   void bind(MorvaADPSettingRV2 *setting, std::initializer_list<id> items);
-  /// Unconnected settings know each other as the panel's do.
+  /// Relates the settings to each other, as the panel does, without items.
   void relate(std::initializer_list<MorvaADPSettingRV2 *> settings);
 
   RecordingItem *item(const char *name, unsigned capabilities, NSInteger tag = -1);

@@ -1,7 +1,7 @@
 #import "ObservedSetting.h"
 #import "SettingFixture.h"
 
-/// Keeps the rules that it is asked about, and may ask its base about another value.
+/// Records the rules whose condition is checked, and may pass another value on to its base.
 @interface RuleReadingSetting : MorvaADPIntegerSettingRV2 {
 @public
   NSMutableArray *seen;
@@ -29,7 +29,7 @@
 namespace imageposition::test {
 namespace {
 
-/// Subclasses that override an operation are heard by every operation that goes through it.
+/// Every method that goes through another one calls a subclass's override of it.
 class SettingOverriding : public SettingTest {
 protected:
   RecordingItem *entry = item("entry", kEntryField);
@@ -59,7 +59,7 @@ protected:
   }
 };
 
-TEST_F(SettingOverriding, RefreshWritesAndReadsThroughTheSettingsOwnOperations) {
+TEST_F(SettingOverriding, RefreshWritesAndReadsThroughTheOverriddenMethods) {
   entry->number = 25;
   ObservedSetting *setting = observed();
   [setting checkUI:store.handle()];
@@ -74,13 +74,13 @@ TEST_F(SettingOverriding, RefreshReadsEvenWhenTheClassWritesNothing) {
   entry->number = 9;
   store.put("LeftRightMargin", "4");
   ObservedSetting *setting = observed();
-  observe(setting).swallowed = {"setTicket:"};
+  observe(setting).suppressed = {"setTicket:"};
   [setting checkUI:store.handle()];
   EXPECT_EQ(value(setting), 4);
   EXPECT_EQ(store.text("LeftRightMargin"), "4");
 }
 
-TEST_F(SettingOverriding, FailedWriteReadsThroughTheSettingsOwnGetTicket) {
+TEST_F(SettingOverriding, FailedWriteReadsThroughTheOverriddenGetTicket) {
   ObservedSetting *setting = observed();
   store.failWrite(1);
   [setting setTicket:store.handle()];
@@ -90,15 +90,15 @@ TEST_F(SettingOverriding, FailedWriteReadsThroughTheSettingsOwnGetTicket) {
                    "FrontLRM.checkValue", "entry.setStringValue:3"}));
 }
 
-TEST_F(SettingOverriding, WritingClampsThroughTheSettingsOwnCheckValue) {
+TEST_F(SettingOverriding, WritingClampsThroughTheOverriddenCheckValue) {
   ObservedSetting *setting = observed();
-  observe(setting).swallowed = {"checkValue"};
+  observe(setting).suppressed = {"checkValue"};
   field<int32_t>(setting, "Value") = 99;
   [setting setTicket:store.handle()];
   EXPECT_EQ(store.text("LeftRightMargin"), "99");
 }
 
-TEST_F(SettingOverriding, CheckValueOfTheClassDecidesWhatIsShownAndWritten) {
+TEST_F(SettingOverriding, OverriddenCheckValueDecidesWhatIsShownAndWritten) {
   ObservedSetting *setting = observed();
   observe(setting).onOperation = [setting](const std::string &operation) {
     if (operation == "checkValue")
@@ -113,7 +113,7 @@ TEST_F(SettingOverriding, CheckValueOfTheClassDecidesWhatIsShownAndWritten) {
   EXPECT_EQ(store.text("LeftRightMargin"), "10");
 }
 
-TEST_F(SettingOverriding, ReadingShowsThroughTheSettingsOwnSetStringValueOnceForEachField) {
+TEST_F(SettingOverriding, ReadingShowsThroughTheOverriddenSetStringValueOncePerField) {
   store.put("LeftRightMargin", "99");
   ObservedSetting *setting = observed();
   bind(setting, {item("a", kEntryField), item("label", kLabel, 5), item("b", kTextField)});
@@ -128,14 +128,14 @@ TEST_F(SettingOverriding, ReadingShowsThroughTheSettingsOwnSetStringValueOnceFor
 TEST_F(SettingOverriding, ReadingTakesTheNumberEvenWhenTheClassShowsNothing) {
   store.put("LeftRightMargin", "99");
   ObservedSetting *setting = observed();
-  observe(setting).swallowed = {"setStringValue:"};
+  observe(setting).suppressed = {"setStringValue:"};
   [setting getTicket:store.handle()];
   EXPECT_EQ(value(setting), 99);
   EXPECT_EQ(journal.take(),
             (Lines{"FrontLRM.getTicket:", "get LeftRightMargin", "FrontLRM.setStringValue:99"}));
 }
 
-TEST_F(SettingOverriding, MadeUnavailableTheDefaultGoesThroughTheSettingsOwnSetIntValue) {
+TEST_F(SettingOverriding, MakingItUnavailableSetsTheDefaultThroughTheOverriddenSetIntValue) {
   ObservedSetting *setting = observed(record({{"DefaultValue", "99"}}));
   [setting setViewState:NO];
   EXPECT_EQ(journal.take(),
@@ -145,9 +145,9 @@ TEST_F(SettingOverriding, MadeUnavailableTheDefaultGoesThroughTheSettingsOwnSetI
   EXPECT_EQ(journal.take(), (Lines{"FrontLRM.setViewState:1", "entry.setViewAvailable:1"}));
 }
 
-TEST_F(SettingOverriding, MadeUnavailableTheItemsFollowEvenWhenTheClassKeepsItsValue) {
+TEST_F(SettingOverriding, MakingItUnavailableDisablesTheItemsEvenIfTheClassKeepsItsValue) {
   ObservedSetting *setting = observed();
-  observe(setting).swallowed = {"setIntValue:"};
+  observe(setting).suppressed = {"setIntValue:"};
   field<int32_t>(setting, "Value") = 9;
   [setting setViewState:NO];
   EXPECT_EQ(value(setting), 9);
@@ -155,7 +155,7 @@ TEST_F(SettingOverriding, MadeUnavailableTheItemsFollowEvenWhenTheClassKeepsItsV
                                    "entry.setViewAvailable:0"}));
 }
 
-TEST_F(SettingOverriding, TextOfTheClassIsNotWhatIsWrittenOrShown) {
+TEST_F(SettingOverriding, OverriddenValueStringIsNeitherWrittenNorShown) {
   ObservedSetting *setting = observed();
   observe(setting).valueString = "999";
   [setting setTicket:store.handle()];
@@ -164,7 +164,7 @@ TEST_F(SettingOverriding, TextOfTheClassIsNotWhatIsWrittenOrShown) {
   EXPECT_EQ(shownBy(entry), "4");
 }
 
-TEST_F(SettingOverriding, RulesAskTheSettingsOwnConditionOnceEachInIndexOrder) {
+TEST_F(SettingOverriding, EachRuleCallsTheOverriddenConditionOnceInIndexOrder) {
   Texts other = firing("Value", "other");
   other["ActionObj"] = "BackLRM";
   Texts none = firing("Value", "none");
@@ -179,7 +179,7 @@ TEST_F(SettingOverriding, RulesAskTheSettingsOwnConditionOnceEachInIndexOrder) {
                    "FrontLRM.checkUIConstraintCondition:c"}));
 }
 
-TEST_F(SettingOverriding, ConditionOfTheClassDecides) {
+TEST_F(SettingOverriding, OverriddenConditionDecides) {
   ObservedSetting *setting = observed(record(), {notFiring("7"), firing("Value", "8")});
   observe(setting).condition = true;
   [setting applyUIConstraint:store.handle()];
@@ -190,12 +190,12 @@ TEST_F(SettingOverriding, ConditionOfTheClassDecides) {
   EXPECT_EQ(value(setting), 1);
 }
 
-TEST_F(SettingOverriding, ActionsGoThroughTheSettingsOwnOperations) {
+TEST_F(SettingOverriding, ActionsGoThroughTheOverriddenMethods) {
   ObservedSetting *setting =
       observed(record(), {firing("Value", " 12abc"), firing("Default", "7x"), firing("View", "OFF"),
                           firing("View", "ON"), firing("Range", "1:2")});
   observe(setting).condition = true;
-  observe(setting).swallowed = {"setStringValue:", "setDefault:", "setViewState:"};
+  observe(setting).suppressed = {"setStringValue:", "setDefault:", "setViewState:"};
   [setting applyUIConstraint:store.handle()];
   EXPECT_EQ(journal.take(),
             (Lines{"FrontLRM.applyUIConstraint:", "FrontLRM.checkUIConstraintCondition: 12abc",
@@ -209,7 +209,7 @@ TEST_F(SettingOverriding, ActionsGoThroughTheSettingsOwnOperations) {
   EXPECT_EQ(field<int32_t>(setting, "Max"), 2);
 }
 
-TEST_F(SettingOverriding, ConditionIsGivenTheRuleAsTheTableHasIt) {
+TEST_F(SettingOverriding, ConditionGetsTheTablesDictionary) {
   const std::vector<Texts> rules = {notFiring("a"), firing("Value", "5")};
   RuleReadingSetting *setting = static_cast<RuleReadingSetting *>(
       make([RuleReadingSetting class], dictionary(record()), ruleTable(rules)));
@@ -228,8 +228,8 @@ TEST_F(SettingOverriding, ConditionIsGivenTheRuleAsTheTableHasIt) {
   }
 }
 
-TEST_F(SettingOverriding, BaseDecidesTheRuleThatTheClassHandsOn) {
-  // The class asks about 9 whatever the rule says.
+TEST_F(SettingOverriding, BaseDecidesTheRuleThatTheClassPassesOn) {
+  // The class checks for 9 whatever the rule says.
   Texts rule = firing("Value", "5");
   rule["ConditionPattern"] = "Value";
   rule["ConditionValue"] = "3";
@@ -244,7 +244,7 @@ TEST_F(SettingOverriding, BaseDecidesTheRuleThatTheClassHandsOn) {
   EXPECT_EQ(value(setting), 5);
 }
 
-TEST_F(SettingOverriding, NameOfTheClassDecidesWhichRulesActOnIt) {
+TEST_F(SettingOverriding, OverriddenNameDecidesWhichRulesActOnIt) {
   Texts other = firing("Value", "5");
   other["ActionObj"] = "Renamed";
   ObservedSetting *setting = observed(record(), {firing("Value", "4"), other});
@@ -257,7 +257,7 @@ TEST_F(SettingOverriding, NameOfTheClassDecidesWhichRulesActOnIt) {
   EXPECT_EQ(value(setting), 4);
 }
 
-TEST_F(SettingOverriding, ConditionAsksEveryRelatedSettingItsNameAndThoseNamedTheirText) {
+TEST_F(SettingOverriding, ConditionReadsTheNameOfEveryRelatedSettingAndTheValueOfMatchingOnes) {
   ObservedSetting *a = observed(record({{"SettingName", "A"}}));
   ObservedSetting *b = observed(record({{"SettingName", "B"}}));
   ObservedSetting *second = observed(record({{"SettingName", "A"}}));
@@ -265,7 +265,7 @@ TEST_F(SettingOverriding, ConditionAsksEveryRelatedSettingItsNameAndThoseNamedTh
   MorvaADPIntegerSettingRV2 *plain = make(record({{"SettingName", "C"}}));
   relate({a, b, second, plain});
   for (ObservedSetting *setting : {a, b, second})
-    observe(setting).recordsQuestions = true;
+    observe(setting).recordsGetters = true;
   const Lines expected = {"A.getSettingName", "A.getValueString", "B.getSettingName",
                           "A2.getSettingName", "A2.getValueString"};
   for (const char *pattern : {"Value", "Range"}) {
@@ -279,13 +279,13 @@ TEST_F(SettingOverriding, ConditionAsksEveryRelatedSettingItsNameAndThoseNamedTh
   }
 }
 
-TEST_F(SettingOverriding, ConditionThatCannotHoldAsksTheRelatedSettingsAllTheSame) {
+TEST_F(SettingOverriding, ConditionThatCannotHoldReadsTheRelatedSettingsAllTheSame) {
   ObservedSetting *a = observed(record({{"SettingName", "A"}}));
   ObservedSetting *b = observed(record({{"SettingName", "B"}}));
   MorvaADPIntegerSettingRV2 *plain = make(record({{"SettingName", "C"}}));
   relate({a, b, plain});
   for (ObservedSetting *setting : {a, b})
-    observe(setting).recordsQuestions = true;
+    observe(setting).recordsGetters = true;
   const Lines names = {"A.getSettingName", "B.getSettingName"};
   const Lines namesAndValue = {"A.getSettingName", "A.getValueString", "B.getSettingName"};
   const std::vector<std::pair<Texts, Lines>> table = {
@@ -305,16 +305,16 @@ TEST_F(SettingOverriding, ConditionThatCannotHoldAsksTheRelatedSettingsAllTheSam
   }
 }
 
-TEST_F(SettingOverriding, AttributeConditionAsksNoSetting) {
+TEST_F(SettingOverriding, AttributeConditionReadsNoSetting) {
   ObservedSetting *setting = observed();
-  observe(setting).recordsQuestions = true;
+  observe(setting).recordsGetters = true;
   EXPECT_FALSE([setting checkUIConstraintCondition:dictionary({{"ConditionType", "PPD"},
                                                                {"ConditionPattern", "None"},
                                                                {"ConditionValue", "x"}})]);
   EXPECT_EQ(journal.take(), (Lines{"FrontLRM.checkUIConstraintCondition:(null)"}));
 }
 
-TEST_F(SettingOverriding, TextOfARelatedClassIsWhatConditionsCompare) {
+TEST_F(SettingOverriding, ConditionsCompareTheOverriddenValueStringOfARelatedSetting) {
   ObservedSetting *other = observed(record({{"SettingName", "B"}}));
   MorvaADPIntegerSettingRV2 *plain = make(record({{"SettingName", "A"}}));
   relate({plain, other});
@@ -335,7 +335,7 @@ TEST_F(SettingOverriding, TextOfARelatedClassIsWhatConditionsCompare) {
   EXPECT_TRUE(holds("Range", "0:0"));
 }
 
-TEST_F(SettingOverriding, NameOfARelatedClassIsWhatConditionsCompare) {
+TEST_F(SettingOverriding, ConditionsCompareTheOverriddenNameOfARelatedSetting) {
   ObservedSetting *other = observed(record({{"SettingName", "B"}}));
   MorvaADPIntegerSettingRV2 *plain = make(record({{"SettingName", "A"}}));
   relate({plain, other});
@@ -356,7 +356,7 @@ TEST_F(SettingOverriding, SettingsThatAreRelatedDuringTheWalkAreVisited) {
   MorvaADPIntegerSettingRV2 *plain = make(record({{"SettingName", "A"}}));
   NSMutableArray *settings = [NSMutableArray arrayWithObject:other];
   [plain setRelatedSettings:settings HandlingTarget:nil];
-  observe(other).recordsQuestions = true;
+  observe(other).recordsGetters = true;
   observe(other).onOperation = [=](const std::string &operation) {
     if (operation == "getSettingName" && [settings count] == 1)
       [settings addObject:late];
@@ -367,8 +367,8 @@ TEST_F(SettingOverriding, SettingsThatAreRelatedDuringTheWalkAreVisited) {
                                                             {"ConditionValue", "3"}})]);
 }
 
-TEST_F(SettingOverriding, RuleSeesWhatTheClassChangedWhenItHeardOfAnEarlierAction) {
-  // Whenever A is set, its class sets B as well, which the next rule asks about.
+TEST_F(SettingOverriding, RuleSeesWhatTheClassChangedDuringAnEarlierAction) {
+  // Whenever A is set, its class sets B as well, which the next rule's condition reads.
   Texts ask = firing("Default", "11");
   ask["ConditionObj"] = "B";
   ask["ConditionPattern"] = "Value";
@@ -384,7 +384,7 @@ TEST_F(SettingOverriding, RuleSeesWhatTheClassChangedWhenItHeardOfAnEarlierActio
   EXPECT_EQ(field<int32_t>(a, "Default"), 11);
 }
 
-TEST_F(SettingOverriding, RuleSeesWhatAConditionOfTheClassChanged) {
+TEST_F(SettingOverriding, RuleSeesWhatAnOverriddenConditionChanged) {
   Texts ask = firing("Default", "11");
   ask["ConditionObj"] = "B";
   ask["ConditionPattern"] = "Value";

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-/// Says when it is retained, released and gone.
+/// Records when it is retained, released and deallocated.
 @interface CountedDictionary : NSDictionary {
 @public
   NSDictionary *entries;
@@ -93,7 +93,7 @@ protected:
   }
 };
 
-TEST_F(SettingOwnership, RulesAndBundleAreHeldForTheSettingsLife) {
+TEST_F(SettingOwnership, RulesAndBundleAreRetainedForTheSettingsLife) {
   for (Class type : types()) {
     NSDictionary *rules = [ruleTable(someRules()) retain];
     NSBundle *bundle = resources.bundle();
@@ -112,7 +112,7 @@ TEST_F(SettingOwnership, RulesAndBundleAreHeldForTheSettingsLife) {
   }
 }
 
-TEST_F(SettingOwnership, RecordItsTextsAndTheRelatedSettingsAreBorrowed) {
+TEST_F(SettingOwnership, RecordItsStringsAndTheRelatedSettingsAreBorrowed) {
   for (Class type : types()) {
     NSDictionary *definition = dictionary(record());
     NSArray *related = [NSArray arrayWithObject:@"anything"];
@@ -137,7 +137,7 @@ TEST_F(SettingOwnership, RecordItsTextsAndTheRelatedSettingsAreBorrowed) {
   }
 }
 
-TEST_F(SettingOwnership, ItemsAreHeldUntilTheyAreReplacedOrTheSettingIsGone) {
+TEST_F(SettingOwnership, ItemsAreRetainedUntilTheyAreReplacedOrTheSettingIsDeallocated) {
   for (Class type : types()) {
     RecordingItem *first = item("first", kViewAvailable);
     RecordingItem *second = item("second", kViewAvailable);
@@ -176,7 +176,7 @@ TEST_F(SettingOwnership, RulesThenBundleThenItemsAreReleased) {
                                         BundleInfo:bundle
                                                PPD:printer];
     {
-      Pool binding; // an enumerator may hold the list until the pool is gone
+      Pool binding; // an enumerator may retain the list until the pool is drained
       [setting setRelatedSettings:nil HandlingTarget:[NSArray arrayWithObject:last]];
     }
     releases.clear();
@@ -190,7 +190,7 @@ TEST_F(SettingOwnership, RulesThenBundleThenItemsAreReleased) {
   }
 }
 
-TEST_F(SettingOwnership, WordingIsHeldByTheSettingAlone) {
+TEST_F(SettingOwnership, OnlyTheSettingRetainsTheWording) {
   id setting =
       alloc([MorvaADPIntegerSettingRV2 class], dictionary(record()), [NSDictionary dictionary]);
   NSArray *wording = nil;
@@ -204,7 +204,7 @@ TEST_F(SettingOwnership, WordingIsHeldByTheSettingAlone) {
   [wording release];
 }
 
-TEST_F(SettingOwnership, RefusedSettingLetsGoOfEverything) {
+TEST_F(SettingOwnership, SettingThatCannotBeBuiltReleasesEverything) {
   NSDictionary *rules = [ruleTable(someRules()) retain];
   NSBundle *bundle = resources.bundle();
   const NSUInteger rulesBefore = [rules retainCount];
@@ -234,7 +234,7 @@ TEST_F(SettingOwnership, PrinterDescriptionIsLeftOpen) {
   EXPECT_NE(ppdFindOption(printer, "PageSize"), nullptr);
 }
 
-TEST_F(SettingOwnership, WholeLivesLeaveNoObjectBehind) {
+TEST_F(SettingOwnership, WholeLifeCyclesLeakNoObject) {
   resources.writeStrings({{"RangeText", "MIN to MAX"}});
   const auto live = [this] {
     Pool pool;
@@ -260,7 +260,7 @@ TEST_F(SettingOwnership, WholeLivesLeaveNoObjectBehind) {
     store.forgetCalls();
     journal.clear();
   };
-  live(); // what the platform keeps from a first use is no loss
+  live(); // objects that GNUstep caches on first use are not leaks
   GSDebugAllocationActive(YES);
   live();
   std::map<std::string, int> before;

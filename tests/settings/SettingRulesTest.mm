@@ -26,13 +26,13 @@ TEST(SettingRules, FindsTheRulesOfASettingInIndexOrder) {
   EXPECT_EQ(actingOn(rules, @"D"), Numbers());
 }
 
-TEST(SettingRules, OfNoTableAreNone) {
+TEST(SettingRules, NullTableHasNoRules) {
   const SettingRules rules(nil);
   EXPECT_EQ(actingOn(rules, @"A"), Numbers());
   EXPECT_EQ(rules.find(nil), nullptr);
 }
 
-TEST(SettingRules, WithoutASettingToActOnAreNobodys) {
+TEST(SettingRules, RulesWithoutASettingActOnNothing) {
   Texts nobodys = rule("", "2");
   nobodys.erase("ActionObj");
   const SettingRules rules(ruleTable({rule("", "1"), nobodys}));
@@ -40,23 +40,23 @@ TEST(SettingRules, WithoutASettingToActOnAreNobodys) {
   EXPECT_EQ(actingOn(rules, nil), Numbers());
 }
 
-TEST(SettingRules, AreFoundByTheirOwnDictionaryAlone) {
+TEST(SettingRules, RulesAreFoundOnlyByTheirOwnDictionary) {
   NSDictionary *table = ruleTable({rule("A", "1"), rule("A", "2")});
   const SettingRules rules(table);
   NSDictionary *second = [table objectForKey:@"1"];
   ASSERT_NE(rules.find(second), nullptr);
   EXPECT_EQ(rules.find(second)->action.number, 2);
   EXPECT_EQ(rules.find(second)->dictionary, second);
-  EXPECT_EQ(rules.find(dictionary(rule("A", "2"))), nullptr) << "equal, but another";
+  EXPECT_EQ(rules.find(dictionary(rule("A", "2"))), nullptr) << "equal, but not identical";
 }
 
-TEST(SettingRules, OneDictionaryMayBeSeveralRules) {
+TEST(SettingRules, OneDictionaryMayBeUnderSeveralIndexes) {
   NSDictionary *one = dictionary(rule("A", "1"));
   const SettingRules rules([NSDictionary dictionaryWithObjectsAndKeys:one, @"0", one, @"1", nil]);
   EXPECT_EQ(actingOn(rules, @"A"), (Numbers{1, 1}));
 }
 
-TEST(SettingRules, DoNotFollowLaterChangesOfTheTable) {
+TEST(SettingRules, LaterChangesOfTheTableHaveNoEffect) {
   NSMutableDictionary *table =
       [NSMutableDictionary dictionaryWithDictionary:ruleTable({rule("A", "1")})];
   const SettingRules rules(table);

@@ -22,7 +22,7 @@ void expectClamped(std::initializer_list<ClampRow> rows) {
         << row.value << " in " << row.range.min << ":" << row.range.max;
 }
 
-TEST(ValueRange, IsZeroToZeroUnlessGiven) {
+TEST(ValueRange, IsZeroToZeroByDefault) {
   EXPECT_EQ(ValueRange().min, 0);
   EXPECT_EQ(ValueRange().max, 0);
   EXPECT_EQ(ValueRange().clamp(5), 0);
@@ -44,7 +44,7 @@ TEST(ValueRange, ClampsToTheNearestBound) {
                  {{kSmallest, kLargest}, kSmallest, kSmallest}});
 }
 
-TEST(ValueRange, InvertedBoundsClampToTheMaximumAboveItAndElseToTheMinimum) {
+TEST(ValueRange, InvertedBoundsClampToTheMaximumAboveItAndOtherwiseToTheMinimum) {
   expectClamped({{{10, 5}, 7, 5},
                  {{10, 5}, 20, 5},
                  {{10, 5}, 10, 5},
@@ -95,12 +95,12 @@ TEST(ValueRange, IntervalIsLowerColonUpper) {
   }
 }
 
-TEST(ValueRange, TextWithoutColonIsNoInterval) {
+TEST(ValueRange, StringWithoutColonIsNotAnInterval) {
   for (const char *text : {"", "5", "-20 20", "-20;20", "abc", "1-2"})
     EXPECT_FALSE(readInterval(text).has_value()) << text;
 }
 
-TEST(ValueRange, FullwidthColonSeparatesNothing) {
+TEST(ValueRange, FullwidthColonIsNotASeparator) {
   EXPECT_FALSE(readInterval("1\xEF\xBC\x9A"
                             "2")
                    .has_value());

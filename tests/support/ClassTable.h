@@ -1,4 +1,4 @@
-/// What the runtime knows of a class, as lists that a test can compare with a table.
+/// What the Objective-C runtime knows about a class, as lists that a test can compare with a table.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_CLASSTABLE_H
 #define IMAGEPOSITION_TESTS_SUPPORT_CLASSTABLE_H
 
@@ -12,8 +12,8 @@
 
 namespace imageposition::test {
 
-/// The class's own fields, in declared order, each as "name encoding". An object's encoding is "@"
-/// alone, because compilers differ in whether they add its class.
+/// The fields that the class itself declares, in order, each as "name encoding". An object's
+/// encoding is just "@", because compilers differ in whether they add its class.
 inline std::vector<std::string> fieldsOf(Class type) {
   std::vector<std::string> fields;
   unsigned count = 0;
@@ -31,7 +31,7 @@ inline std::vector<std::string> fieldsOf(Class type) {
   return fields;
 }
 
-/// The names of the operations that the class carries out itself.
+/// The names of the methods that the class itself implements.
 inline std::set<std::string> operationsOf(Class type) {
   std::set<std::string> operations;
   unsigned count = 0;

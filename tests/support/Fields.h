@@ -15,7 +15,7 @@
 
 namespace imageposition::test {
 
-/// How the runtime describes a field of type `T`; a description ends where its detail begins.
+/// The runtime's type encoding of a field of type `T`, up to its details.
 template <class T> std::string fieldType() {
   if constexpr (std::is_same_v<T, std::int32_t>)
     return @encode(std::int32_t);
@@ -31,8 +31,8 @@ template <class T> std::string fieldType() {
   }
 }
 
-/// The field itself, to read or to assign; nothing is retained or released. Throws when the
-/// object's class and its bases have no field of that name, or one of another type.
+/// A reference to the field, to read or to assign; does not retain or release. Throws if the
+/// object's class and its superclasses have no field of that name, or one of another type.
 template <class T> T &field(id object, const char *name) {
   if (object == nil)
     throw std::logic_error(std::string("no object to read the field ") + name + " of");
@@ -48,7 +48,7 @@ template <class T> T &field(id object, const char *name) {
   return *reinterpret_cast<T *>(reinterpret_cast<char *>(object) + ivar_getOffset(variable));
 }
 
-/// The names of the fields that a class itself declares, in their declared order.
+/// The names of the fields that the class itself declares, in order.
 inline std::vector<std::string> fieldNames(Class type) {
   unsigned count = 0;
   Ivar *variables = class_copyIvarList(type, &count);

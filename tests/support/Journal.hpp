@@ -1,5 +1,5 @@
-/// What happened, in order, as lines of text: items, print settings and settings of a test write
-/// into one journal, so that a test sees their order across objects.
+/// A log of events, one line each. A test's items, print settings and settings write to one
+/// journal, so that the test sees the order of events across objects.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_JOURNAL_HPP
 #define IMAGEPOSITION_TESTS_SUPPORT_JOURNAL_HPP
 
@@ -15,7 +15,7 @@ public:
   const std::vector<std::string> &lines() const { return lines_; }
   void clear() { lines_.clear(); }
 
-  /// The lines so far, which the journal forgets.
+  /// Returns the lines so far and clears the journal.
   std::vector<std::string> take() { return std::exchange(lines_, {}); }
 
 private:

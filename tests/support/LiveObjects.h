@@ -1,4 +1,4 @@
-/// Counts the objects that are alive, by class.
+/// Counts the live objects of each class.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_LIVEOBJECTS_H
 #define IMAGEPOSITION_TESTS_SUPPORT_LIVEOBJECTS_H
 
@@ -8,14 +8,14 @@
 #include <map>
 #include <string>
 
-// The platform hides its own bookkeeping from optimised builds, which still have it.
+// GNUstep declares these only in debugging builds, but optimised builds have them as well.
 extern "C" BOOL GSDebugAllocationActive(BOOL active);
 extern "C" int GSDebugAllocationCount(Class type);
 extern "C" Class *GSDebugAllocationClassList();
 
 namespace imageposition::test {
 
-/// While one lives, objects that are made and that go are counted.
+/// While an instance lives, GNUstep counts allocations and deallocations.
 class LiveObjects {
 public:
   LiveObjects() : wasActive_(GSDebugAllocationActive(YES)) {}
@@ -23,12 +23,12 @@ public:
   LiveObjects(const LiveObjects &) = delete;
   LiveObjects &operator=(const LiveObjects &) = delete;
 
-  /// Objects of exactly that class, not of its subclasses; compare two answers.
+  /// The objects of exactly that class, not of its subclasses. Only differences are meaningful.
   static int count(Class type) { return GSDebugAllocationCount(type); }
   static int count(const std::string &name) {
     return GSDebugAllocationCount(NSClassFromString([NSString stringWithUTF8String:name.c_str()]));
   }
-  /// By the name of the class, of all that had objects since counting began.
+  /// The counts by class name, for all classes that had objects since counting began.
   static std::map<std::string, int> counts() {
     std::map<std::string, int> result;
     Class *const types = GSDebugAllocationClassList();

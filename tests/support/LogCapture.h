@@ -1,4 +1,4 @@
-/// Catches what is written to the system log.
+/// Captures what NSLog writes.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_LOGCAPTURE_H
 #define IMAGEPOSITION_TESTS_SUPPORT_LOGCAPTURE_H
 
@@ -9,8 +9,8 @@
 
 namespace imageposition::test {
 
-/// While one lives, nothing reaches the log; captures may be nested. The texts come in order,
-/// without the time and process that the log puts before each.
+/// While an instance lives, nothing reaches the log; captures may be nested. The lines are in
+/// order, without the time and process that NSLog adds.
 class LogCapture {
 public:
   LogCapture();

@@ -18,7 +18,7 @@ LogCapture::~LogCapture() {
 
 void LogCapture::receive(NSString *line) {
   std::string text = cxxString(line);
-  // "date time program[process:thread] text", with a line end that the log adds where none was.
+  // "date time program[process:thread] text", with a line end that NSLog adds if there is none.
   const std::size_t prefix = text.find("] ");
   if (prefix != std::string::npos)
     text.erase(0, prefix + 2);

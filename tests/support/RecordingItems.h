@@ -1,4 +1,4 @@
-/// View items for tests that are no views: they record what is asked of them.
+/// View items for tests. They are not views, but record the calls that they receive.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_RECORDINGITEMS_H
 #define IMAGEPOSITION_TESTS_SUPPORT_RECORDINGITEMS_H
 
@@ -11,7 +11,7 @@
 
 namespace imageposition::test {
 
-/// The capability protocols that an item conforms to; combine with `|`.
+/// The protocols that an item conforms to; combine with `|`.
 enum Capability : unsigned {
   kNone = 0,
   kViewAvailable = 1,
@@ -20,7 +20,7 @@ enum Capability : unsigned {
   kTextField = 8,
   kInteger = 16,
   kStepper = 32,
-  /// What the items on the panel have.
+  /// The protocols of the panel's items.
   kEntryField = kAction | kViewAvailable | kTextField | kInteger,
   kStepperItem = kAction | kViewAvailable | kStepper,
   kLabel = kViewAvailable | kLocalizable,
@@ -28,22 +28,22 @@ enum Capability : unsigned {
 
 } // namespace imageposition::test
 
-/// Answers every operation that a setting could send, whatever protocols it conforms to, so that
-/// one which should not have been sent stands in the journal: "NAME.getInt", "NAME.getSteps",
+/// Implements every method that a setting could call, whatever protocols it conforms to, so that
+/// the journal shows calls that should not have been made: "NAME.getInt", "NAME.getSteps",
 /// "NAME.getString", "NAME.tag", "NAME.setString:TEXT", "NAME.setStringValue:TEXT",
 /// "NAME.setRange:MAX Min:MIN", "NAME.setViewAvailable:1", "NAME.setRangeStrings:TEXT",
 /// "NAME.applyLocalizableStrings:KEY BundleInfo:PATH", "NAME.catchEventCall".
 @interface RecordingItem : NSObject {
 @public
-  /// `getInt` answers this; `setStringValue:` does not change it.
+  /// `getInt` returns this; `setStringValue:` does not change it.
   int32_t number;
-  /// The steps that the next `getSteps` answers; 0 afterwards.
+  /// The steps that the next `getSteps` returns; 0 afterwards.
   int32_t steps;
   NSInteger tagValue;
   void *state; ///< Used by the functions below.
 }
-/// An item of a class that conforms to exactly these protocols, or of the receiver when that is a
-/// subclass; the caller does not own it.
+/// An autoreleased item of a class that conforms to exactly these protocols, or of the receiver if
+/// that is a subclass.
 + (RecordingItem *)itemNamed:(const char *)name
                 capabilities:(unsigned)capabilities
                      journal:(imageposition::test::Journal *)journal;
@@ -51,11 +51,11 @@ enum Capability : unsigned {
 
 namespace imageposition::test {
 
-/// What `setString:` or `setStringValue:` gave the item last.
+/// The last argument of `setString:` or `setStringValue:`.
 std::string shownBy(RecordingItem *item);
 
-/// `action` is called in every operation of the item, with its line in the journal without the
-/// item's name, after it was recorded and before it answers.
+/// Calls `action` in every method of the item, after recording it and before returning, with its
+/// line in the journal without the item's name.
 void onEachOperationOf(RecordingItem *item, std::function<void(const std::string &)> action);
 
 } // namespace imageposition::test

@@ -32,8 +32,7 @@ void onEachOperationOf(RecordingItem *item, std::function<void(const std::string
 
 namespace {
 
-// Conformance is a property of a class, and whoever asks may ask the class: each combination is
-// one.
+// Conformance is a property of a class, so each combination needs a class.
 Class classWith(unsigned capabilities) {
   const std::string name = "RecordingItem" + std::to_string(capabilities);
   if (Class known = objc_lookUpClass(name.c_str()))
@@ -62,7 +61,7 @@ Class classWith(unsigned capabilities) {
 + (RecordingItem *)itemNamed:(const char *)itemName
                 capabilities:(unsigned)capabilities
                      journal:(Journal *)itemJournal {
-  // A subclass of a test's own says itself what it conforms to.
+  // A subclass that a test declares decides itself what it conforms to.
   Class type = self == [RecordingItem class] ? imageposition::test::classWith(capabilities) : self;
   RecordingItem *item = [[type alloc] init];
   stateOf(item)->journal = itemJournal;

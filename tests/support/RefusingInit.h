@@ -1,4 +1,4 @@
-/// A base class whose initializer answers nothing, which the platform's own never do.
+/// A superclass whose initializer returns null, which GNUstep's classes never do.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_REFUSINGINIT_H
 #define IMAGEPOSITION_TESTS_SUPPORT_REFUSINGINIT_H
 
@@ -10,8 +10,8 @@
 
 namespace imageposition::test {
 
-/// While it lives, the `init` that `Class` inherits releases and answers nothing for its instances,
-/// and is as before for all others. One at a time.
+/// While an instance lives, the `init` that `Class` inherits releases its instances and returns
+/// null. It is unchanged for all other classes. Only one instance may live at a time.
 class RefusingInit {
 public:
   explicit RefusingInit(Class type)
@@ -20,7 +20,7 @@ public:
       throw std::logic_error("another class is refused already");
     refused() = type;
     original() = reinterpret_cast<Init>(method_getImplementation(method_));
-    method_setImplementation(method_, reinterpret_cast<IMP>(answer));
+    method_setImplementation(method_, reinterpret_cast<IMP>(refuse));
   }
   ~RefusingInit() {
     method_setImplementation(method_, reinterpret_cast<IMP>(original()));
@@ -32,7 +32,7 @@ public:
 private:
   using Init = id (*)(id, SEL);
 
-  static id answer(id self, SEL selector) {
+  static id refuse(id self, SEL selector) {
     if (object_getClass(self) != refused())
       return original()(self, selector);
     [self release];

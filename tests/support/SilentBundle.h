@@ -1,4 +1,4 @@
-/// In place of a bundle: has no texts, not even their keys.
+/// Replaces a bundle; returns null for every localized string, not its key.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_SILENTBUNDLE_H
 #define IMAGEPOSITION_TESTS_SUPPORT_SILENTBUNDLE_H
 

@@ -10,8 +10,8 @@
 
 namespace imageposition::test {
 
-/// Starts without any resource. The folder goes with it; the platform forgets the bundle once
-/// nobody else has a reference.
+/// Starts without resources. The destructor removes the folder; GNUstep drops the bundle with its
+/// last reference.
 class TestBundle {
 public:
   TestBundle();
@@ -19,19 +19,18 @@ public:
   TestBundle(const TestBundle &) = delete;
   TestBundle &operator=(const TestBundle &) = delete;
 
-  /// A resource, byte for byte: "SettingInfo.plist", "ja.lproj/Localizable.strings".
+  /// Writes a resource ("SettingInfo.plist", "ja.lproj/Localizable.strings") byte for byte.
   void write(const std::string &resource, const std::string &bytes);
-  /// The property list "NAME.plist".
+  /// Writes the property list "NAME.plist".
   void writePropertyList(const std::string &name, id propertyList);
-  /// "Localizable.strings" for every language, or for one ("ja").
+  /// Writes "Localizable.strings" for every language, or for one ("ja").
   void writeStrings(const std::map<std::string, std::string> &strings,
                     const std::string &language = {});
-  /// Copies a file or folder in among the resources.
+  /// Copies a file or folder to the resources.
   void copy(const std::filesystem::path &source);
   void remove(const std::string &resource);
 
-  /// The bundle; it looks for resources at the time they are asked for, except languages' tables,
-  /// which it keeps.
+  /// The bundle. It looks for resources on each request, but caches the strings tables.
   NSBundle *bundle();
   std::filesystem::path path() const { return path_; }
 

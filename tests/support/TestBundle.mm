@@ -59,7 +59,7 @@ void TestBundle::writePropertyList(const std::string &name, id propertyList) {
 
 void TestBundle::writeStrings(const std::map<std::string, std::string> &strings,
                               const std::string &language) {
-  std::string text = "\xEF\xBB\xBF"; // the mark by which the platform knows UTF-8 in any locale
+  std::string text = "\xEF\xBB\xBF"; // GNUstep needs the byte order mark to detect UTF-8
   for (const auto &[key, value] : strings)
     text += quoted(key) + " = " + quoted(value) + ";\n";
   write((language.empty() ? "" : language + ".lproj/") + "Localizable.strings", text);

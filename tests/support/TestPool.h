@@ -1,4 +1,4 @@
-/// An autorelease pool for the scope that it stands in.
+/// An autorelease pool for the enclosing scope.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_TESTPOOL_H
 #define IMAGEPOSITION_TESTS_SUPPORT_TESTPOOL_H
 

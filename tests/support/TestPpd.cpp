@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <stdexcept>
 
-// PPD files are deprecated in libcups as a whole; they are what the printers of this plug-in have.
+// libcups has deprecated its PPD functions, but the plug-in's printers have PPDs.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace imageposition::test {
@@ -56,7 +56,7 @@ TestPpd::TestPpd(const std::vector<std::string> &lines) {
     int line = 0;
     const ppd_status_t status = ppdLastError(&line);
     throw std::runtime_error("line " + std::to_string(line) +
-                             " of the test's printer description: " + ppdErrorString(status));
+                             " of the test's PPD: " + ppdErrorString(status));
   }
   ppdMarkDefaults(ppd_);
 }

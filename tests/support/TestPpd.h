@@ -1,4 +1,4 @@
-/// A printer description for tests.
+/// A PPD for tests.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_TESTPPD_H
 #define IMAGEPOSITION_TESTS_SUPPORT_TESTPPD_H
 
@@ -9,7 +9,7 @@
 
 namespace imageposition::test {
 
-/// A small valid description plus the given lines of PPD text, its default choices marked.
+/// A small valid PPD plus the given lines, with its default choices marked.
 class TestPpd {
 public:
   explicit TestPpd(const std::vector<std::string> &lines = {});
@@ -22,7 +22,7 @@ public:
 
   void mark(const std::string &option, const std::string &choice);
 
-  /// The lines of an option with these choices, the first of which is the default.
+  /// The lines of an option with these choices; the first is the default.
   static std::vector<std::string> option(const std::string &keyword,
                                          const std::vector<std::string> &choices);
 

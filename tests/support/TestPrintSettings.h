@@ -1,4 +1,4 @@
-/// Print settings of a job for tests: they keep a record of every access and fail on demand.
+/// Print settings of a job for tests; they record every access and fail on demand.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_TESTPRINTSETTINGS_H
 #define IMAGEPOSITION_TESTS_SUPPORT_TESTPRINTSETTINGS_H
 
@@ -13,12 +13,13 @@
 
 namespace imageposition::test {
 
-/// The executable that links this defines `PMPrintSettingsGetValue` and `PMPrintSettingsSetValue`
-/// with it. A handle of which no store is alive fails the test.
+/// Defines `PMPrintSettingsGetValue` and `PMPrintSettingsSetValue` for the executable. Using a
+/// handle without a live store fails the test.
 class TestPrintSettings {
 public:
   enum class Access { Get, Set };
-  /// One call of the two functions. `value` is what was read or written, "(null)" for none.
+  /// One call of the two functions. `value` is the value read or written, "(null)" if there is
+  /// none.
   struct Call {
     Access access;
     std::string key;
@@ -34,14 +35,14 @@ public:
 
   PMPrintSettings handle() const;
 
-  // The test's own access: neither recorded nor failing.
+  // Access by the test: not recorded, and never failing.
   void put(const std::string &key, const std::string &text);
   void putObject(const std::string &key, id value);
-  /// An entry that reads successfully, as no value at all.
+  /// Adds an entry that is read successfully as null.
   void putNothing(const std::string &key);
   void lock(const std::string &key);
   void remove(const std::string &key);
-  /// None when there is no such entry; the printed form of a value that is not a text.
+  /// Nothing if there is no such entry; the description of a value that is not a string.
   std::optional<std::string> text(const std::string &key) const;
   id object(const std::string &key) const;
   std::size_t size() const;
@@ -49,10 +50,10 @@ public:
   const std::vector<Call> &calls() const { return calls_; }
   std::size_t count(Access access) const;
   void forgetCalls() { calls_.clear(); }
-  /// Also writes "get KEY" and "set KEY=VALUE" (" locked" after it) into the journal.
+  /// Also writes "get KEY" and "set KEY=VALUE" (with " locked" appended) to the journal.
   void recordInto(Journal *journal) { journal_ = journal; }
 
-  /// The n-th read or write from now, counted from 1, fails, once.
+  /// Lets the n-th read or write from now (from 1) fail, once.
   void failRead(int n) { readsUntilFailure_ = n; }
   void failWrite(int n) { writesUntilFailure_ = n; }
   void failReadsOf(const std::string &key) { unreadable_.insert(key); }

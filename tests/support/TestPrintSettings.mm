@@ -9,7 +9,7 @@
 namespace imageposition::test {
 namespace {
 
-// What a failed access answers; which number it is means nothing to the callers.
+// The status of a failed access; the callers only test for zero.
 constexpr OSStatus kFailed = -50;
 
 std::vector<TestPrintSettings *> &liveStores() {

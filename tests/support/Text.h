@@ -1,4 +1,4 @@
-/// Platform strings from and to test literals, without the code under test.
+/// Converts between NSString and test literals without the code under test.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_TEXT_H
 #define IMAGEPOSITION_TESTS_SUPPORT_TEXT_H
 
@@ -12,7 +12,7 @@ inline NSString *nsString(const std::string &utf8) {
   return [NSString stringWithUTF8String:utf8.c_str()];
 }
 
-/// "(null)" for null; the printed form of what is not a string.
+/// Returns "(null)" for null, and the description of an object that is not a string.
 inline std::string cxxString(id object) {
   if (object == nil)
     return "(null)";

@@ -1,4 +1,4 @@
-/// Strings that the platform's own initializers may refuse to make.
+/// Strings that NSString's initializers may refuse to make.
 #ifndef IMAGEPOSITION_TESTS_SUPPORT_UNCHECKEDSTRING_H
 #define IMAGEPOSITION_TESTS_SUPPORT_UNCHECKEDSTRING_H
 
@@ -8,7 +8,7 @@
 
 namespace imageposition::test {
 
-/// A string of just these UTF-16 units, lone surrogates included; the caller does not own it.
+/// An autoreleased string of exactly these UTF-16 units, lone surrogates included.
 NSString *uncheckedString(const std::u16string &units);
 
 } // namespace imageposition::test

@@ -1,5 +1,5 @@
-// The main program of a test executable. Each test runs in an autorelease pool of its own, and a
-// test that an exception of the platform ends says which.
+// The main program of a test executable. Runs each test in a separate autorelease pool, and prints
+// the exception if an Objective-C exception ends a test.
 #import <Foundation/Foundation.h>
 
 #import "Text.h"
@@ -21,7 +21,7 @@ namespace {
 std::string lastRaised;
 void (*raiseAsBefore)(id, SEL);
 
-// g++ cannot look at an exception that it catches in Objective-C++; it is looked at when raised.
+// g++ cannot inspect an exception that it catches in Objective-C++, so record it when it is raised.
 void raiseAndRemember(id exception, SEL selector) {
   using imageposition::test::cxxString;
   lastRaised = cxxString([exception name]) + ": " + cxxString([exception reason]);

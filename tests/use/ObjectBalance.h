@@ -1,4 +1,4 @@
-/// The objects of every class, at one moment and at a later one.
+/// Compares the number of objects of every class at two points in time.
 #ifndef IMAGEPOSITION_TESTS_USE_OBJECTBALANCE_H
 #define IMAGEPOSITION_TESTS_USE_OBJECTBALANCE_H
 
@@ -7,14 +7,14 @@
 
 namespace imageposition::test {
 
-/// Made before something that is to leave no object behind. Objects count while a LiveObjects
-/// lives; those in an autorelease pool that is not drained yet count too.
+/// Create it before an action that should leak no object. Needs a LiveObjects that lives meanwhile.
+/// Objects in an undrained autorelease pool count too.
 class ObjectBalance {
 public:
   ObjectBalance();
 
-  /// Names the classes that there are more objects of now, with how many, or fewer; empty when
-  /// there are none. The platform's own loss with each interface file is left out.
+  /// Lists the classes with more or fewer objects than before, and the difference; empty if there
+  /// are none. Leaves out GNUstep's own leak with each interface file.
   std::string difference() const;
 
 private:

@@ -11,8 +11,8 @@ std::string ObjectBalance::difference() const {
   for (const auto &[name, count] : before_)
     more[name] -= count;
 
-  // GNUstep's reader of interface files never releases the document that it reads: the document,
-  // its root, and the list that holds the root.
+  // GNUstep never releases the document of an interface file, its root, and the list that holds the
+  // root.
   const int documents = more["NSXMLDocument"];
   for (const char *name : {"NSXMLDocument", "NSXMLDocumentInternal", "NSXMLElement",
                            "NSXMLElementInternal", "GSMutableArray"})

@@ -1,4 +1,4 @@
-/// The panel as it is seen, against the model.
+/// Compares the visible state of a panel with the model.
 #ifndef IMAGEPOSITION_TESTS_USE_PANELCOMPARISON_H
 #define IMAGEPOSITION_TESTS_USE_PANELCOMPARISON_H
 
@@ -10,7 +10,7 @@
 
 namespace imageposition::test {
 
-/// The controls of one offset; each null before there is a view.
+/// The controls of one offset; null before the view is loaded.
 struct OffsetControls {
   NSTextField *text;
   NSStepper *stepper;
@@ -18,7 +18,7 @@ struct OffsetControls {
   NSTextField *rangeLabel;
 };
 
-/// What lies behind a panel.
+/// Access to a panel's controller, settings and controls.
 class PanelParts {
 public:
   explicit PanelParts(MorvaADPPdePanelRV2 *panel);
@@ -33,10 +33,10 @@ private:
   MorvaADPSettingsCollectorRV2 *controller_;
 };
 
-/// The first state of the controls, which is the interface file's to choose.
+/// Copies the initial state of the controls, which the interface file defines, to the model.
 void takeControls(const PanelParts &parts, PanelModel &model);
 
-/// The first difference, or nothing.
+/// Returns the first difference; empty if there is none.
 std::string compare(const PanelParts &parts, const PanelModel &model);
 std::string compare(const TestPrintSettings &settings, const PanelModel &model);
 std::string compare(NSDictionary *summary, const PanelModel::Summary &expected);

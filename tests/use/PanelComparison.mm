@@ -11,7 +11,7 @@ class Difference {
 public:
   void expect(const std::string &what, const std::string &is, const std::string &expected) {
     if (text_.empty() && is != expected)
-      text_ = what + " is \"" + is + "\" in place of \"" + expected + "\"";
+      text_ = what + " is \"" + is + "\" instead of \"" + expected + "\"";
   }
   void expect(const std::string &what, long is, long expected) {
     expect(what, std::to_string(is), std::to_string(expected));

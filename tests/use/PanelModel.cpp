@@ -10,7 +10,7 @@ namespace {
 constexpr const char *kFlag = "com.morva.printsettings.19AImagePositionEnable";
 constexpr const char *kCheckTrace = "@@@Check on checkbox Enable Image Position Adjust!";
 
-// A long is wider than the numbers here, or ends where they do.
+// std::strtol() saturates at limits that are at least as wide as 32 bits.
 std::int32_t number(const std::string &text) {
   return static_cast<std::int32_t>(std::clamp<long long>(std::strtoll(text.c_str(), nullptr, 10),
                                                          std::numeric_limits<std::int32_t>::min(),
@@ -28,7 +28,7 @@ struct Interval {
   std::int32_t upper = 0;
 };
 
-// None is 0 to 0; a text without a colon is no interval.
+// An absent interval is 0 to 0; a string without a colon is not an interval.
 std::optional<Interval> interval(const PanelRule::Part &text) {
   if (!text)
     return Interval{};
@@ -98,7 +98,7 @@ void PanelModel::set(Offset &offset, std::int32_t value) {
 
 void PanelModel::setAvailable(Offset &offset, bool available) {
   if (available)
-    return; // of which availability, decided last, leaves nothing to be seen
+    return; // the update of availability at the end hides the effect
   set(offset, offset.defaultValue);
   offset.fieldIsGray = offset.fieldIsGray || hasView;
 }
@@ -139,7 +139,7 @@ bool PanelModel::holds(const PanelRule &rule) const {
     const auto attribute = printer->attributes.find(rule.conditionPattern.value_or(""));
     return attribute != printer->attributes.end() && rule.conditionValue == attribute->second;
   }
-  // Before there is a view, no setting knows of any.
+  // Settings are related to each other only once the view is loaded.
   if (rule.conditionType != "Setting" || !hasView)
     return false;
   const auto named = std::find_if(offsets.begin(), offsets.end(), [&](const Offset &offset) {
@@ -258,7 +258,7 @@ void PanelModel::checkSettingsValue() {
     clamp(offset);
 }
 
-// A person.
+// The user.
 
 void PanelModel::type(Offset &offset, const std::u16string &text) {
   std::string kept;

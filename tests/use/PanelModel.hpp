@@ -1,5 +1,5 @@
-/// What a panel of four offsets must do, written a second time and as plainly as can be, so that
-/// long uses of the real one can be compared with it. It shares no code with the plug-in.
+/// A second, simple implementation of a panel with four offsets, with which long uses of the real
+/// one are compared. It shares no code with the plug-in.
 #ifndef IMAGEPOSITION_TESTS_USE_PANELMODEL_HPP
 #define IMAGEPOSITION_TESTS_USE_PANELMODEL_HPP
 
@@ -14,7 +14,7 @@
 
 namespace imageposition::test {
 
-/// What a panel reads of a printer description.
+/// What a panel reads from a PPD.
 struct PrinterFacts {
   std::map<std::string, std::string> attributes;
   std::optional<std::string> duplex; ///< The marked choices.
@@ -25,11 +25,11 @@ struct PrinterFacts {
 struct StoredValue {
   enum class Kind { Text, Number, Foreign };
 
-  std::string text; ///< Its printed form, of a number as well.
+  std::string text; ///< Its description, for a number as well.
   Kind kind = Kind::Text;
 };
 
-/// A rule, text by text; what it lacks is absent.
+/// The strings of a rule, as far as it has them.
 struct PanelRule {
   using Part = std::optional<std::string>;
   Part conditionObj, conditionType, conditionPattern, conditionValue;
@@ -41,7 +41,7 @@ public:
   enum Name { FrontLRM, FrontTBM, BackLRM, BackTBM };
 
   struct Offset {
-    // The definition, and what rules change of it.
+    // The definition, including what rules change in it.
     std::string name;
     std::string ticketKey;
     std::string summaryName;
@@ -76,12 +76,12 @@ public:
   std::vector<PanelRule> rules;
   std::map<std::string, std::string> strings;
 
-  // The printer, as it was when the panel was made; never null.
+  // The printer when the panel was created; never null.
   std::shared_ptr<PrinterFacts> printer = std::make_shared<PrinterFacts>();
 
-  // The view, once there is one.
+  // The view, once it is loaded.
   bool hasView = false;
-  bool isColoured = false; ///< The labels have colours of their own until availability is decided.
+  bool isColoured = false; ///< Whether availability has set the labels' colours.
   bool checked = false;
   bool checkEnabled = true;
   bool buttonEnabled = true;
@@ -94,28 +94,28 @@ public:
   std::set<std::string> unreadable;
   std::set<std::string> unwritable;
   std::set<std::string> locked;
-  /// The n-th read, write or request for the settings from now fails, once.
+  /// The number (from 1) of the next read, write or request for the settings that fails, once.
   int failRead = 0;
   int failWrite = 0;
   int failRequest = 0;
 
   std::vector<std::string> log;
 
-  // What a person does.
+  // The user's actions.
   void type(Offset &offset, const std::u16string &text);
   void action();
   void clickCheckbox();
   void restoreDefaults();
 
-  // What the panel is asked for.
-  void loadView(); ///< The controls' first state is the interface file's.
+  // Calls to the panel.
+  void loadView(); ///< The interface file defines the controls' initial state.
   void willShow();
   void shouldPrint();
   void saveValues();
   void restoreValues();
   Summary summary();
 
-  // What the controller is asked for.
+  // Calls to the controller.
   void prepareForShow();
   void notifyUI();
   bool getTicket();

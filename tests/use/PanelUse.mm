@@ -22,7 +22,7 @@ constexpr const char *kFlag = "com.morva.printsettings.19AImagePositionEnable";
 constexpr const char *kPrintDialog = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
 constexpr const char *kKeysTrace = "supportedPPDOptionKeys:=NSArray(";
 
-/// What a step finds to be wrong.
+/// A difference that a step finds.
 struct Difference : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
@@ -34,7 +34,7 @@ void expect(bool holds, const std::string &what) {
 
 void expectNothing(const std::string &difference) { expect(difference.empty(), difference); }
 
-/// As the application does when a person has used the control.
+/// Does what the application does after the user has operated the control.
 void actOn(NSControl *control) { [control sendAction:[control action] to:[control target]]; }
 
 std::u16string drawText(Choices &choices) {
@@ -44,7 +44,7 @@ std::u16string drawText(Choices &choices) {
   const unsigned which = choices.below(std::size(kTexts) + 3);
   if (which < std::size(kTexts))
     return kTexts[which];
-  std::u16string units; // any, lone surrogates included
+  std::u16string units; // any units, lone surrogates included
   for (unsigned count = choices.below(6); count > 0; --count)
     units += static_cast<char16_t>(choices.byte() | (choices.below(4) == 3 ? 0xD800 : 0));
   return units;
@@ -57,7 +57,7 @@ public:
       made_ = drawBundle(choices_);
     bundle_ = made_ ? made_->bundle() : shippedBundle();
     plugIn_ = [MorvaADPPdePluginRV2 alloc];
-    expect([plugIn_ initWithBundle:bundle_], "the plug-in refuses its bundle");
+    expect([plugIn_ initWithBundle:bundle_], "the plug-in does not accept its bundle");
     host_ = [[RecordingHost hostWithPpd:nullptr settings:settings_.handle()] retain];
     changePrinter(false);
   }
@@ -94,11 +94,11 @@ private:
     else if (which >= 9)
       askPanel(which - 9);
     else
-      actAsPerson(which);
+      actAsUser(which);
   }
 
-  // A person can use a control that is enabled.
-  void actAsPerson(unsigned which) {
+  // The user can operate only enabled controls.
+  void actAsUser(unsigned which) {
     if (!model_.hasView)
       return askPanel(0);
     const PanelParts parts(panel_);
@@ -129,7 +129,7 @@ private:
     [field textDidChange:[NSNotification notificationWithName:NSTextDidChangeNotification
                                                        object:field]];
     if (choices_.below(4) == 3)
-      return; // and goes on later
+      return; // the user continues later
     model_.action();
     actOn(field);
   }
@@ -181,7 +181,8 @@ private:
     NSView *view = [panel_ panelView];
     expect([view isKindOfClass:[NSView class]], "the panel has no view");
     const PanelParts parts(panel_);
-    expect(field<id>(parts.controller(), "ImagePositionPrintView") == view, "it is another view");
+    expect(field<id>(parts.controller(), "ImagePositionPrintView") == view,
+           "panelView is not the controller's view");
     if (model_.hasView)
       return;
     model_.loadView();
@@ -189,17 +190,19 @@ private:
   }
 
   void askConstants() {
-    expect([[panel_ panelKind] isEqual:@"com.morva.print.pde.ImagePositionRV1"], "another kind");
+    expect([[panel_ panelKind] isEqual:@"com.morva.print.pde.ImagePositionRV1"],
+           "the kind differs");
     expect([[panel_ panelName] isEqual:[bundle_ localizedStringForKey:@"PluginName"
                                                                 value:nil
                                                                 table:nil]],
-           "another name");
-    expect([panel_ shouldShowHelp] && [panel_ shouldHide], "another answer than yes");
+           "the name differs");
+    expect([panel_ shouldShowHelp] && [panel_ shouldHide],
+           "shouldShowHelp and shouldHide are not both true");
     NSArray *keys =
         [NSArray arrayWithObjects:@"LeftRightMargin", @"TopBottomMargin", @"BackLeftRightMargin",
                                   @"BackTopBottomMargin", @"MVAdjustDuplexPosition", nil];
     model_.log.emplace_back(kKeysTrace);
-    expect([[panel_ supportedPPDOptionKeys] isEqual:keys], "other option keys");
+    expect([[panel_ supportedPPDOptionKeys] isEqual:keys], "the option keys differ");
   }
 
   void askController(unsigned which) {
@@ -214,9 +217,9 @@ private:
       model_.grayUI();
       return [controller grayUI];
     case 3:
-      return expect(([controller getTicket] != NO) == model_.getTicket(), "getTicket's answer");
+      return expect(([controller getTicket] != NO) == model_.getTicket(), "getTicket's result");
     default:
-      return expect(([controller saveTicket] != NO) == model_.saveTicket(), "saveTicket's answer");
+      return expect(([controller saveTicket] != NO) == model_.saveTicket(), "saveTicket's result");
     }
   }
 
@@ -235,8 +238,8 @@ private:
       host_->settings = model_.settingsThere ? settings_.handle() : nullptr;
       return;
     case 5:
-      host_->settingsRequestWithoutAnswer = model_.failRequest = choices_.below(4);
-      return note("request " + std::to_string(model_.failRequest) + " is not answered");
+      host_->failingSettingsRequest = model_.failRequest = choices_.below(4);
+      return note("request " + std::to_string(model_.failRequest) + " returns null");
     case 6:
     case 7:
       note("mark another choice");
@@ -246,7 +249,7 @@ private:
     case 8:
       return changePrinter(choices_.below(4) == 3);
     default:
-      // A panel with its view takes long to make.
+      // Creating a panel with its view is slow.
       if (panel_ == nil || choices_.below(4) == 3)
         openDialog();
     }
@@ -276,7 +279,7 @@ private:
   void failForKey() {
     const std::string key = drawKey();
     const unsigned how = choices_.below(4);
-    note("fail " + key + " in the way " + std::to_string(how));
+    note("fail " + key + " in way " + std::to_string(how));
     if (how == 0) {
       model_.unreadable.insert(key);
       settings_.failReadsOf(key);
@@ -294,7 +297,7 @@ private:
     }
   }
 
-  // The panel that there is keeps the printer that it was made for.
+  // An existing panel keeps the printer that it was created for.
   void changePrinter(bool toNone) {
     hostPrinter_ = toNone ? nullptr : drawPrinter(choices_);
     note(toNone ? "no printer" : "another printer");
@@ -313,8 +316,8 @@ private:
       newModel();
     NSArray *panels = [plugIn_ PDEPanelsForType:otherType ? @"another" : nsString(kPrintDialog)
                                    withHostInfo:host_];
-    expect(panels != nil, "the plug-in does not answer");
-    expect([panels count] == (supported && !otherType ? 1 : 0), "another number of panels");
+    expect(panels != nil, "the plug-in returns null");
+    expect([panels count] == (supported && !otherType ? 1 : 0), "the number of panels differs");
     if ([panels count] == 0)
       return;
     [panel_ release];
@@ -337,7 +340,7 @@ private:
     model.failRequest = model_.failRequest;
     model.log = model_.log;
     model_ = model;
-    model_.grayUI(); // without a view, which leaves its trace in the log
+    model_.grayUI(); // without a view it only logs
   }
 
   void checkAll() {
@@ -349,7 +352,7 @@ private:
       is += (line.rfind(kKeysTrace, 0) == 0 ? kKeysTrace : line) + "\n";
     for (const std::string &line : model_.log)
       expected += line + "\n";
-    expect(is == expected, "the log is\n" + is + "in place of\n" + expected);
+    expect(is == expected, "the log is\n" + is + "instead of\n" + expected);
     log_.clear();
     model_.log.clear();
     settings_.forgetCalls();
@@ -363,7 +366,7 @@ private:
   TestPrintSettings settings_;
   std::unique_ptr<TestBundle> made_;
   NSBundle *bundle_ = nil;
-  std::vector<std::shared_ptr<Printer>> printers_; // as long as a panel may read them
+  std::vector<std::shared_ptr<Printer>> printers_; // kept while a panel may read them
   std::shared_ptr<Printer> hostPrinter_;
   std::shared_ptr<Printer> panelPrinter_;
   PanelModel model_;
@@ -388,8 +391,7 @@ std::string use(Choices &choices) {
 std::string usePanel(const std::uint8_t *bytes, std::size_t count) {
   static const LiveObjects kCounting;
   std::string left;
-  // What the platform, or a constant, makes once for all is there the second time; what is lost is
-  // lost again.
+  // Objects that GNUstep or a constant creates only once exist after the first time; leaks recur.
   for (int times = 0; times < 2; ++times) {
     const ObjectBalance balance;
     Choices choices(bytes, count);

@@ -1,6 +1,6 @@
-// Random uses of the plug-in, each compared with the model after every step: as many as the
-// variable IMAGEPOSITION_PANEL_USES says, or some hundreds. The fuzzer `panel` runs the same uses
-// without end.
+// Random uses of the plug-in, each compared with the model after every step. The variable
+// IMAGEPOSITION_PANEL_USES sets their number, which is some hundreds by default. The fuzzer `panel`
+// runs the same kind of uses.
 #import "PanelUse.h"
 
 #include <gtest/gtest.h>
@@ -12,18 +12,18 @@
 namespace imageposition::test {
 namespace {
 
-constexpr unsigned kParts = 12; // tests, so that a failing use is found soon
-constexpr unsigned kUses = 400; // of all parts together
+constexpr unsigned kParts = 12; // test cases, so that ctest shows a failure early
+constexpr unsigned kUses = 400; // in all parts together
 
 unsigned usesOfEachPart() {
-  const char *wanted = std::getenv("IMAGEPOSITION_PANEL_USES");
-  const long uses = wanted ? std::strtol(wanted, nullptr, 10) : kUses;
+  const char *variable = std::getenv("IMAGEPOSITION_PANEL_USES");
+  const long uses = variable ? std::strtol(variable, nullptr, 10) : kUses;
   return uses > static_cast<long>(kParts) ? static_cast<unsigned>(uses) / kParts : 1;
 }
 
 class RandomPanelUse : public testing::TestWithParam<unsigned> {};
 
-TEST_P(RandomPanelUse, StaysLikeTheModelAndLeavesNothingBehind) {
+TEST_P(RandomPanelUse, MatchesTheModelAndLeaksNothing) {
   const unsigned uses = usesOfEachPart();
   for (unsigned seed = GetParam() * uses; seed < (GetParam() + 1) * uses; ++seed) {
     std::mt19937 generator(seed);

@@ -1,4 +1,4 @@
-/// What a panel is given: bundles, printers and foreign values, shipped ones and made-up ones.
+/// The environment of a panel: shipped and invented bundles, printers and values.
 #ifndef IMAGEPOSITION_TESTS_USE_PANELWORLD_H
 #define IMAGEPOSITION_TESTS_USE_PANELWORLD_H
 
@@ -11,7 +11,7 @@
 
 namespace imageposition::test {
 
-/// A printer description, and what a panel may find in it.
+/// A PPD, and what a panel reads from it.
 struct Printer {
   std::unique_ptr<TestPpd> ppd;
   std::shared_ptr<PrinterFacts> facts;
@@ -22,17 +22,16 @@ struct Printer {
 
 std::shared_ptr<Printer> drawPrinter(Choices &choices);
 
-/// The bundle as it is shipped, from the folder of its resources: one for all uses.
+/// The shipped bundle, from its resources; one for all uses.
 NSBundle *shippedBundle();
 
-/// A bundle with made-up definitions and rules.
+/// A bundle with invented definitions and rules.
 std::unique_ptr<TestBundle> drawBundle(Choices &choices);
 
-/// Reads a bundle's definitions, rules and texts into the model, with the platform's operations
-/// alone.
+/// Reads a bundle's definitions, rules and strings into the model, using Foundation only.
 void readBundle(NSBundle *bundle, PanelModel &model);
 
-/// A value for the print settings, the platform's and the model's.
+/// Draws a value for the print settings; sets `value` to the model's form of it.
 id drawValue(Choices &choices, StoredValue &value);
 
 } // namespace imageposition::test

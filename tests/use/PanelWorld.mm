@@ -142,7 +142,7 @@ std::shared_ptr<Printer> drawPrinter(Choices &choices) {
 }
 
 NSBundle *shippedBundle() {
-  // To the end of the program and beyond: the platform is no longer there when statics go.
+  // Never destroyed, because GNUstep is gone before static objects are.
   static TestBundle &bundle = *new TestBundle;
   static NSBundle *shipped = nil;
   if (shipped == nil) {
@@ -164,7 +164,7 @@ std::unique_ptr<TestBundle> drawBundle(Choices &choices) {
   for (unsigned count = choices.below(8); count > 0; --count)
     [rules addObject:drawRule(choices)];
   bundle->writePropertyList("ConstraintInfo", indexed(rules));
-  bundle->writeStrings({{"EnableImgPstAdj", "Own offsets for the back"},
+  bundle->writeStrings({{"EnableImgPstAdj", "Separate offsets for the back"},
                         {"FrontLRM", "Front left-right"},
                         {"LRM", "Left-right"},
                         {"BackTBM", "%s%n"},

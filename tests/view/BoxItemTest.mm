@@ -29,16 +29,16 @@ TEST_F(BoxItem, MadeUnavailableIsShown) {
   EXPECT_EQ(field<BOOL>(box, "ViewState"), NO);
 }
 
-TEST_F(BoxItem, ShowsTheLocalizedTextAsItsTitle) {
-  FixtureStrings *strings = [FixtureStrings stringsAnswering:@"Vorderseite"];
+TEST_F(BoxItem, ShowsTheLocalizedStringAsItsTitle) {
+  FixtureStrings *strings = [FixtureStrings stringsReturning:@"Vorderseite"];
   [box applyLocalizableStrings:@"Front" BundleInfo:(NSBundle *)strings];
   EXPECT_EQ(text([box title]), "Vorderseite");
-  EXPECT_EQ(text([strings asked]), "Front|(null)|(null)");
+  EXPECT_EQ(text([strings lastLookup]), "Front|(null)|(null)");
 }
 
-TEST_F(BoxItem, ShowsTheKeyWhenTheLookupAnswersNothing) {
+TEST_F(BoxItem, ShowsTheKeyWhenTheLookupReturnsNull) {
   [box applyLocalizableStrings:@"Front"
-                    BundleInfo:(NSBundle *)[FixtureStrings stringsAnswering:nil]];
+                    BundleInfo:(NSBundle *)[FixtureStrings stringsReturning:nil]];
   EXPECT_EQ(text([box title]), "Front");
 }
 

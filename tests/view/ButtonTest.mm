@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-/// Receives what `changeState:` does to its receiver. The root class declares not even the link to
-/// an object's class, which therefore comes first here.
+/// Records the effect of `changeState:`. The root class does not even declare `isa`, so it comes
+/// first here.
 @interface ButtonTestReceiver : MorvaADPButtonRV2 {
 @public
   Class isa;
@@ -31,10 +31,10 @@ TEST(Button, IsARootClass) {
   EXPECT_EQ(class_getSuperclass(objc_getClass("MorvaADPButtonRV2")), Nil);
 }
 
-TEST(Button, HasOneOperationAndNothingElse) {
+TEST(Button, HasOneMethodAndNothingElse) {
   Class button = objc_getClass("MorvaADPButtonRV2");
   EXPECT_EQ(operationsOf(button), std::set<std::string>{"changeState:"});
-  // This runtime lets a root class itself answer what its instances answer.
+  // On this runtime a root class itself also responds to its instance methods.
   for (const std::string &name : operationsOf(object_getClass(reinterpret_cast<id>(button)))) {
     EXPECT_EQ(name, "changeState:");
   }
@@ -46,7 +46,7 @@ TEST(Button, HasNoProtocols) {
   EXPECT_EQ(count, 0U);
 }
 
-TEST(Button, HasNoFieldsBesideTheRuntimesOwn) {
+TEST(Button, HasNoInstanceVariablesExceptIsa) {
   Class button = objc_getClass("MorvaADPButtonRV2");
   for (const std::string &field : fieldsOf(button)) {
     EXPECT_EQ(field.rfind("isa ", 0), 0U) << field;
@@ -55,7 +55,7 @@ TEST(Button, HasNoFieldsBesideTheRuntimesOwn) {
 
 class ButtonChangeState : public testing::TestWithParam<std::pair<const char *, bool>> {};
 
-TEST_P(ButtonChangeState, SetsTheReceiversEnabledFlagToTheBooleanReading) {
+TEST_P(ButtonChangeState, SetsTheReceiversEnabledFlagToTheBooleanValue) {
   ButtonTestReceiver *receiver = static_cast<ButtonTestReceiver *>(
       class_createInstance(objc_getClass("ButtonTestReceiver"), 0));
   receiver->enabled = !GetParam().second;
@@ -65,7 +65,7 @@ TEST_P(ButtonChangeState, SetsTheReceiversEnabledFlagToTheBooleanReading) {
   object_dispose(receiver);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, ButtonChangeState,
+INSTANTIATE_TEST_SUITE_P(Strings, ButtonChangeState,
                          testing::Values(std::pair<const char *, bool>{"1", true},
                                          std::pair<const char *, bool>{"YES", true},
                                          std::pair<const char *, bool>{"0", false},

@@ -1,4 +1,4 @@
-// The entry field with the platform's own editor in it, as while a person types.
+// The entry field with AppKit's field editor, as while a user types.
 #import "ItemFixture.h"
 
 #import "MorvaADPIntegerTextFieldItemRV2.h"
@@ -15,7 +15,7 @@ protected:
         autorelease];
     [entry setRange:100 Min:-100];
     [[window contentView] addSubview:entry];
-    // A window off the screen draws nothing, and a field that was never drawn is not being edited.
+    // A field can be edited only after it was drawn, so the window must be on the screen.
     [window makeKeyAndOrderFront:nil];
     if ([entry currentEditor] == nil) {
       ASSERT_TRUE([window makeFirstResponder:entry]);
@@ -25,7 +25,7 @@ protected:
 
   NSTextView *editor() { return (NSTextView *)[entry currentEditor]; }
 
-  /// The editor with `before|after` in it, the bar for the insertion point.
+  /// Fills the editor with `before|after`, where the bar is the insertion point.
   void put(const std::string &marked) {
     const size_t bar = marked.find('|');
     [editor()
@@ -40,7 +40,7 @@ protected:
     }
   }
 
-  /// The editor's text, the insertion point as a bar, a selection between two.
+  /// The editor's text, with the insertion point as a bar or the selection between two bars.
   std::string seen() {
     std::string shown = text([editor() string]);
     const NSRange selected = [editor() selectedRange];
@@ -71,26 +71,26 @@ TEST_F(EntryFieldTyping, EachKeyFollowsTheOneBefore) {
   EXPECT_EQ(seen(), "-42|");
 }
 
-TEST_F(EntryFieldTyping, ADroppedCharacterLeavesTheInsertionPointWhereItWas) {
+TEST_F(EntryFieldTyping, ADroppedCharacterDoesNotMoveTheInsertionPoint) {
   put("1|2");
   type("x");
   EXPECT_EQ(seen(), "1|2");
 }
 
-TEST_F(EntryFieldTyping, ADigitInTheMiddleLeavesTheInsertionPointBehindIt) {
+TEST_F(EntryFieldTyping, ADigitInTheMiddleMovesTheInsertionPointBehindIt) {
   [entry setRange:1000 Min:-1000];
   put("1|2");
   type("3");
   EXPECT_EQ(seen(), "13|2");
 }
 
-TEST_F(EntryFieldTyping, AMinusAtTheFrontLeavesTheInsertionPointBehindIt) {
+TEST_F(EntryFieldTyping, AMinusAtTheFrontMovesTheInsertionPointBehindIt) {
   put("|42");
   type("-");
   EXPECT_EQ(seen(), "-|42");
 }
 
-TEST_F(EntryFieldTyping, ANumberBeyondTheRangeLeavesTheInsertionPointAtTheEnd) {
+TEST_F(EntryFieldTyping, ANumberBeyondTheRangeMovesTheInsertionPointToTheEnd) {
   put("10|");
   type("1");
   EXPECT_EQ(seen(), "100|");
@@ -102,7 +102,7 @@ TEST_F(EntryFieldTyping, StrayMinusAtTheEndIsDropped) {
   EXPECT_EQ(seen(), "72|");
 }
 
-TEST_F(EntryFieldTyping, LeadingZeroGivesWayToTheDigit) {
+TEST_F(EntryFieldTyping, ADigitReplacesALeadingZero) {
   put("0|");
   type("7");
   EXPECT_EQ(seen(), "7|");

@@ -21,7 +21,7 @@ void expectRows(const ValueRange &range, std::initializer_list<Row> rows) {
   }
 }
 
-TEST(EntryFilter, ShowsTheWorkedResultsForMinusTenToTen) {
+TEST(EntryFilter, FiltersEntriesForMinusTenToTen) {
   expectRows({-10, 10}, {{u"12", "12", "10"},
                          {u"-15", "-15", "-10"},
                          {u"-3", "-3", "-3"},
@@ -65,7 +65,7 @@ TEST(EntryFilter, LoneMinusBecomesTheBoundWhenZeroIsOutOfRange) {
   expectRows({-10, -1}, {{u"-", "-", "-1"}, {u"-0", "-0", "-1"}, {u"", "", "-1"}});
 }
 
-TEST(EntryFilter, BeforeARangeIsSetEverythingButABeginningMinusShowsZero) {
+TEST(EntryFilter, BeforeARangeIsSetEverythingButALeadingMinusShowsZero) {
   expectRows({0, 0}, {{u"12", "12", "0"},
                       {u"-12", "-12", "0"},
                       {u"abc", "", "0"},
@@ -79,7 +79,7 @@ TEST(EntryFilter, InvertedRangeTestsTheMaximumFirst) {
   expectRows({10, 5}, {{u"7", "7", "5"}, {u"20", "20", "5"}, {u"3", "3", "10"}, {u"-", "-", "10"}});
 }
 
-TEST(EntryFilter, MinusHiddenAmongOtherCharactersCountsWhereItStands) {
+TEST(EntryFilter, MinusAmongOtherCharactersKeepsItsPosition) {
   expectRows({-10, 10}, {{u"a-b4c", "-4", "-4"}, {u"x-", "-", "-"}, {u" - 0 ", "-0", "-0"}});
 }
 
@@ -94,7 +94,7 @@ TEST(EntryFilter, OnlyAsciiDigitsAndMinusAreKept) {
 }
 
 TEST(EntryFilter, UnitWhoseLowByteIsADigitOrMinusIsDropped) {
-  // Were units cut to bytes, these would read "1", "9" and "-".
+  // Truncated to bytes, these units would read "1", "9" and "-".
   expectRows({-10, 10}, {{u"\u0131\u3039\u012D", "", "0"}, {u"\u3031", "", "0"}});
 }
 
@@ -109,18 +109,18 @@ TEST(EntryFilter, SurrogatesAreDroppedInPairsAndAlone) {
   }
 }
 
-TEST(EntryFilter, ZeroUnitDoesNotEndTheText) {
+TEST(EntryFilter, ZeroUnitDoesNotEndTheString) {
   EXPECT_EQ(keepDigitsAndMinus(std::u16string_view(u"1\0002", 3)), "12");
 }
 
-TEST(EntryFilter, EveryUnitButElevenIsDropped) {
+TEST(EntryFilter, EveryUnitExceptElevenIsDropped) {
   int kept = 0;
   for (unsigned unit = 0; unit <= 0xFFFF; ++unit)
     kept += static_cast<int>(keepDigitsAndMinus(std::u16string(1, char16_t(unit))).size());
   EXPECT_EQ(kept, 11);
 }
 
-TEST(EntryFilter, WhatItShowsStaysWhenFilteredAgain) {
+TEST(EntryFilter, FilteringTwiceChangesNothing) {
   std::mt19937 random(7);
   const std::u16string alphabet = u"0123456789--- +ax\u0131";
   for (int i = 0; i < 20000; ++i) {
@@ -155,7 +155,7 @@ TEST(EntryFilter, InsertionPointStaysBeforeTheCharactersThatFollowedIt) {
         << testing::PrintToString(row.text) << " at " << row.before << ", shown " << row.shown;
 }
 
-TEST(EntryFilter, InsertionPointBeyondTheTextCountsAsItsEnd) {
+TEST(EntryFilter, InsertionPointBeyondTheEndCountsAsTheEnd) {
   EXPECT_EQ(caretAfterFilter(u"12", 99, "12"), 2u);
   EXPECT_EQ(caretAfterFilter(u"", 5, "0"), 1u);
 }

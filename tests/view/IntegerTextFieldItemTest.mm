@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-/// Notes every text that the field is given through its own operation.
+/// Records every string that the field receives through `setString:`.
 @interface RecordingEntryField : MorvaADPIntegerTextFieldItemRV2 {
   NSMutableArray *given;
 }
@@ -29,7 +29,7 @@
 }
 @end
 
-/// A text of any UTF-16 units, lone surrogates too, which the platform's own initializers refuse.
+/// A string of any UTF-16 units, lone surrogates included, which NSString's initializers refuse.
 @interface UnitsString : NSString {
   unichar units[16];
   NSUInteger count;
@@ -58,7 +58,7 @@
 }
 @end
 
-/// An entry field that holds such a text.
+/// An entry field that contains such a string.
 @interface UnitsEntryField : RecordingEntryField {
 @public
   NSString *held;
@@ -91,7 +91,7 @@ protected:
     return [[(NSView *)[type alloc] initWithFrame:NSMakeRect(0, 0, 80, 22)] autorelease];
   }
 
-  /// What the field shows once `typed` stands in it and it is told of the edit.
+  /// What the field shows after the text was changed to `typed`.
   std::string shownAfter(const std::string &typed) {
     [entry setStringValue:[NSString stringWithUTF8String:typed.c_str()]];
     [entry textDidChange:nil];
@@ -101,7 +101,7 @@ protected:
   RecordingEntryField *entry = nil;
 };
 
-TEST_F(EntryField, MadeInCodeHasTheRangeZeroToZero) {
+TEST_F(EntryField, CreatedInCodeHasTheRangeZeroToZero) {
   MorvaADPIntegerTextFieldItemRV2 *made =
       [[[MorvaADPIntegerTextFieldItemRV2 alloc] init] autorelease];
   ASSERT_NE(made, nil);
@@ -109,7 +109,7 @@ TEST_F(EntryField, MadeInCodeHasTheRangeZeroToZero) {
   EXPECT_EQ(field<int32_t>(made, "Min"), 0);
 }
 
-TEST_F(EntryField, InitialisedAgainForgetsItsRange) {
+TEST_F(EntryField, SecondInitResetsTheRange) {
   MorvaADPIntegerTextFieldItemRV2 *made = [MorvaADPIntegerTextFieldItemRV2 alloc];
   field<int32_t>(made, "Max") = 7;
   field<int32_t>(made, "Min") = -7;
@@ -141,7 +141,7 @@ TEST_F(EntryField, StoresInvertedBoundsAsGiven) {
   EXPECT_EQ(field<int32_t>(entry, "Min"), 5);
 }
 
-TEST_F(EntryField, SettingTheRangeLeavesTheTextAlone) {
+TEST_F(EntryField, SettingTheRangeKeepsTheText) {
   [entry setStringValue:@"99"];
   [entry setRange:10 Min:-10];
   EXPECT_EQ(text([entry stringValue]), "99");
@@ -165,7 +165,7 @@ TEST_P(EntryFieldEdit, ShowsTheFilteredText) {
   EXPECT_EQ(shownAfter(GetParam().typed), GetParam().shown);
 }
 
-INSTANTIATE_TEST_SUITE_P(WorkedResults, EntryFieldEdit,
+INSTANTIATE_TEST_SUITE_P(MinusTenToTen, EntryFieldEdit,
                          testing::Values(EditRow{-10, 10, "12", "10"},
                                          EditRow{-10, 10, "-15", "-10"},
                                          EditRow{-10, 10, "-3", "-3"}, EditRow{-10, 10, "0x5", "5"},
@@ -174,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(WorkedResults, EntryFieldEdit,
                                          EditRow{-10, 10, "abc", "0"}));
 
 INSTANTIATE_TEST_SUITE_P(
-    Texts, EntryFieldEdit,
+    OtherEntries, EntryFieldEdit,
     testing::Values(EditRow{-10, 100, "1a2b3", "100"}, EditRow{-10, 10, "+5", "5"},
                     EditRow{-10, 10, "007", "7"}, EditRow{-10, 10, "5-", "5"},
                     EditRow{-10, 10, "-05", "-5"}, EditRow{-10, 10, "", "0"},
@@ -184,7 +184,7 @@ INSTANTIATE_TEST_SUITE_P(
                     EditRow{-10, 10, " 4 ", "4"}, EditRow{-100, 100, "1.5", "15"},
                     EditRow{-100, 100, "1,5", "15"}, EditRow{-10, 10, "\n3\t", "3"}));
 
-// No digits, minuses or signs but ASCII's, whatever their UTF-8 form contains.
+// Only ASCII digits and the ASCII minus count, whatever bytes other characters have in UTF-8.
 INSTANTIATE_TEST_SUITE_P(
     OtherScripts, EntryFieldEdit,
     testing::Values(EditRow{-10, 10, "\xd9\xa3", "0"},         // Arabic-Indic three
@@ -227,20 +227,20 @@ TEST_F(EntryField, MinusZeroStaysUntilTheNextEditMakesItANumber) {
   EXPECT_EQ(shownAfter("-05"), "-5");
 }
 
-TEST_F(EntryField, BeforeItsRangeIsSetOnlyTheBeginningsOfANumberAreKept) {
+TEST_F(EntryField, BeforeItsRangeIsSetOnlyTheBeginningOfANumberIsKept) {
   EXPECT_EQ(shownAfter("5"), "0");
   EXPECT_EQ(shownAfter("-"), "-");
   EXPECT_EQ(shownAfter("-0"), "-0");
 }
 
-TEST_F(EntryField, ShowsAnEditsResultThroughItsOwnOperationOnce) {
+TEST_F(EntryField, ShowsTheResultOfAnEditThroughSetStringOnce) {
   [entry setRange:10 Min:-10];
   shownAfter("12");
   ASSERT_EQ([[entry given] count], 1U);
   EXPECT_EQ(text([[entry given] objectAtIndex:0]), "10");
 }
 
-TEST_F(EntryField, SetsTheTextEvenWhenItIsTheOldOne) {
+TEST_F(EntryField, SetsTheTextEvenIfItIsUnchanged) {
   [entry setRange:10 Min:-10];
   shownAfter("5");
   shownAfter("-");
@@ -249,7 +249,7 @@ TEST_F(EntryField, SetsTheTextEvenWhenItIsTheOldOne) {
   EXPECT_EQ(text([[entry given] objectAtIndex:1]), "-");
 }
 
-TEST_F(EntryField, KeepsTheEditToItself) {
+TEST_F(EntryField, PostsNoNotificationOfAnEdit) {
   FixtureListener *listener = [FixtureListener listenerFor:NSControlTextDidChangeNotification
                                                     object:entry];
   [entry setRange:10 Min:-10];
@@ -257,7 +257,7 @@ TEST_F(EntryField, KeepsTheEditToItself) {
   EXPECT_EQ([listener count], 0);
   [[NSNotificationCenter defaultCenter] postNotificationName:NSControlTextDidChangeNotification
                                                       object:entry];
-  EXPECT_EQ([listener count], 1) << "the listener hears such notifications";
+  EXPECT_EQ([listener count], 1) << "the listener receives such notifications";
 }
 
 struct UnitsRow {
@@ -267,7 +267,7 @@ struct UnitsRow {
 
 class EntryFieldUnits : public EntryField, public testing::WithParamInterface<UnitsRow> {};
 
-TEST_P(EntryFieldUnits, DropsHalvesOfCharacters) {
+TEST_P(EntryFieldUnits, DropsLoneSurrogates) {
   UnitsEntryField *broken = make([UnitsEntryField class]);
   [broken setRange:1000 Min:-1000];
   broken->held = [UnitsString stringWithUnits:GetParam().units];
@@ -284,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(LoneSurrogates, EntryFieldUnits,
                                          UnitsRow{{u'5', 0xD83D, 0xDE00, u'6'}, "56"},
                                          UnitsRow{{0xD83D, 0xD830, 0xDC39}, "0"}));
 
-TEST_F(EntryField, AnswersItsTextAsItIs) {
+TEST_F(EntryField, ReturnsItsTextUnchanged) {
   [entry setStringValue:@"0x5"];
   EXPECT_EQ(text([entry getString]), "0x5");
 }
@@ -346,7 +346,7 @@ TEST_F(EntryField, MadeUnavailableThenAvailableIsEnabledButStillLightGray) {
   EXPECT_TRUE(isLightGray([entry textColor]));
 }
 
-TEST_F(EntryField, HearingOfAnEventChangesNothing) {
+TEST_F(EntryField, CatchEventCallChangesNothing) {
   [entry setStringValue:@"0x5"];
   [entry catchEventCall];
   EXPECT_EQ(text([entry stringValue]), "0x5");

@@ -1,5 +1,5 @@
-/// What the tests of the view items share: an application with a window, and bundles that answer as
-/// told.
+/// The fixture for tests of view items: an application with a window, and bundles with given
+/// results.
 #ifndef IMAGEPOSITION_TESTS_VIEW_ITEMFIXTURE_H
 #define IMAGEPOSITION_TESTS_VIEW_ITEMFIXTURE_H
 
@@ -12,17 +12,17 @@
 
 @class MorvaADPIntegerTextFieldItemRV2;
 
-/// Stands for a bundle with one answer to every look-up, and remembers what was asked last.
+/// Replaces a bundle; returns one string for every look-up, and records the last look-up.
 @interface FixtureStrings : NSObject {
-  NSString *answer;
-  NSString *asked;
+  NSString *result;
+  NSString *lastLookup;
 }
-+ (FixtureStrings *)stringsAnswering:(NSString *)answer;
++ (FixtureStrings *)stringsReturning:(NSString *)result;
 /// "key|value|table" of the last look-up.
-- (NSString *)asked;
+- (NSString *)lastLookup;
 @end
 
-/// Counts the notifications of one name from one object, as long as it lives.
+/// Counts the notifications with one name from one object.
 @interface FixtureListener : NSObject {
   int count;
 }
@@ -34,10 +34,10 @@ namespace imageposition::test {
 
 bool isLightGray(NSColor *colour);
 
-/// Presses and releases the left button on the view, at a point of its window.
+/// Presses and releases the left mouse button on the view, at a point of its window.
 void clickInside(NSView *view, NSPoint pointInWindow);
 
-/// The one entry field of this folder's interface file.
+/// The entry field in this folder's interface file.
 MorvaADPIntegerTextFieldItemRV2 *entryFieldFromInterfaceFile();
 
 class ItemFixture : public testing::Test {

@@ -3,25 +3,25 @@
 #import "MorvaADPIntegerTextFieldItemRV2.h"
 
 @implementation FixtureStrings
-+ (FixtureStrings *)stringsAnswering:(NSString *)text {
++ (FixtureStrings *)stringsReturning:(NSString *)text {
   FixtureStrings *strings = [[[FixtureStrings alloc] init] autorelease];
-  strings->answer = [text copy];
+  strings->result = [text copy];
   return strings;
 }
 - (void)dealloc {
-  [answer release];
-  [asked release];
+  [result release];
+  [lastLookup release];
   [super dealloc];
 }
 - (NSString *)localizedStringForKey:(NSString *)key
                               value:(NSString *)value
                               table:(NSString *)table {
-  [asked release];
-  asked = [[NSString alloc] initWithFormat:@"%@|%@|%@", key, value, table];
-  return answer;
+  [lastLookup release];
+  lastLookup = [[NSString alloc] initWithFormat:@"%@|%@|%@", key, value, table];
+  return result;
 }
-- (NSString *)asked {
-  return asked;
+- (NSString *)lastLookup {
+  return lastLookup;
 }
 @end
 
@@ -29,7 +29,7 @@
 + (FixtureListener *)listenerFor:(NSString *)name object:(id)object {
   FixtureListener *listener = [[[FixtureListener alloc] init] autorelease];
   [[NSNotificationCenter defaultCenter] addObserver:listener
-                                           selector:@selector(hear:)
+                                           selector:@selector(receive:)
                                                name:name
                                              object:object];
   return listener;
@@ -38,7 +38,7 @@
   [[NSNotificationCenter defaultCenter] removeObserver:self];
   [super dealloc];
 }
-- (void)hear:(NSNotification *)notification {
+- (void)receive:(NSNotification *)notification {
   (void)notification;
   ++count;
 }
@@ -65,7 +65,7 @@ static NSEvent *mouseEvent(NSEventType type, NSWindow *window, NSPoint point) {
 
 void clickInside(NSView *view, NSPoint point) {
   NSWindow *window = [view window];
-  // The press follows the pointer until it meets the release, which therefore waits in the queue.
+  // The control tracks the mouse from the press to the release, which must already be in the queue.
   [NSApp postEvent:mouseEvent(NSLeftMouseUp, window, point) atStart:YES];
   [view mouseDown:mouseEvent(NSLeftMouseDown, window, point)];
   [NSApp discardEventsMatchingMask:NSAnyEventMask beforeEvent:nil];

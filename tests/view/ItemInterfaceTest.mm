@@ -1,5 +1,5 @@
-// What each view item is to the code that meets it through the runtime: its base, its protocols,
-// its fields and its operations.
+// Each view item as the Objective-C runtime describes it: its superclass, protocols, fields and
+// methods.
 #import "MorvaADPBoxItemRV2.h"
 #import "MorvaADPButtonRV2.h"
 #import "MorvaADPIntegerTextFieldItemRV2.h"
@@ -34,11 +34,11 @@ protected:
   Class itemClass() { return objc_getClass(GetParam().name); }
 };
 
-TEST_P(ViewItemClass, DerivesFromThePlatformsControl) {
+TEST_P(ViewItemClass, DerivesFromTheAppKitControl) {
   EXPECT_STREQ(class_getName(class_getSuperclass(itemClass())), GetParam().base);
 }
 
-TEST_P(ViewItemClass, ConformsToItsProtocolsAndToNoOther) {
+TEST_P(ViewItemClass, ConformsToExactlyItsProtocols) {
   for (const char *name : kAllProtocols) {
     bool expected = false;
     for (const char *own : GetParam().protocols) {
@@ -52,7 +52,7 @@ TEST_P(ViewItemClass, ConformsToItsProtocolsAndToNoOther) {
 
 TEST_P(ViewItemClass, HasItsFieldsInOrder) { EXPECT_EQ(fieldsOf(itemClass()), GetParam().fields); }
 
-TEST_P(ViewItemClass, CarriesOutItsOperationsItself) {
+TEST_P(ViewItemClass, ImplementsItsMethodsItself) {
   const auto operations = operationsOf(itemClass());
   for (const char *name : GetParam().operations) {
     EXPECT_EQ(operations.count(name), 1U) << name;
@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
                             {"setViewAvailable:", "applyLocalizableStrings:BundleInfo:"}}),
     [](const auto &row) { return std::string(row.param.name); });
 
-TEST(ItemProtocols, AFlagIsOneByte) {
+TEST(ItemProtocols, FlagsAreOneByte) {
   struct objc_method_description description = protocol_getMethodDescription(
       @protocol(ViewAvailableInterface), @selector(setViewAvailable:), YES, YES);
   NSMethodSignature *signature = [NSMethodSignature signatureWithObjCTypes:description.types];
@@ -95,7 +95,7 @@ TEST(ItemProtocols, AFlagIsOneByte) {
   EXPECT_EQ(size, 1U);
 }
 
-TEST(ItemProtocols, RangeAndStepsAre32Bit) {
+TEST(ItemProtocols, RangesAndStepsAre32Bit) {
   NSMethodSignature *range =
       [MorvaADPIntegerTextFieldItemRV2 instanceMethodSignatureForSelector:@selector(setRange:Min:)];
   EXPECT_STREQ([range getArgumentTypeAtIndex:2], @encode(int32_t));
@@ -108,7 +108,7 @@ TEST(ItemProtocols, RangeAndStepsAre32Bit) {
   EXPECT_STREQ([steps methodReturnType], @encode(int32_t));
 }
 
-TEST(ItemProtocols, OnlyLabelsTakeRangeTexts) {
+TEST(ItemProtocols, OnlyLabelsTakeRangeStrings) {
   EXPECT_TRUE([MorvaADPLabelItemRV2 instancesRespondToSelector:@selector(setRangeStrings:)]);
   EXPECT_FALSE(
       [MorvaADPIntegerTextFieldItemRV2 instancesRespondToSelector:@selector(setRangeStrings:)]);

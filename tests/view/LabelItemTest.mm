@@ -40,23 +40,23 @@ TEST_F(LabelItem, MadeUnavailableThenAvailableIsEnabledButStillLightGray) {
   EXPECT_EQ(field<BOOL>(label, "ViewState"), YES);
 }
 
-TEST_F(LabelItem, RecordsTheFlagThatItWasGivenLast) {
+TEST_F(LabelItem, RecordsTheLastFlag) {
   EXPECT_EQ(field<BOOL>(label, "ViewState"), NO);
   [label setViewAvailable:YES];
   [label setViewAvailable:NO];
   EXPECT_EQ(field<BOOL>(label, "ViewState"), NO);
 }
 
-TEST_F(LabelItem, ShowsTheLocalizedTextOfAKey) {
-  FixtureStrings *strings = [FixtureStrings stringsAnswering:@"Links-rechts"];
+TEST_F(LabelItem, ShowsTheLocalizedStringOfAKey) {
+  FixtureStrings *strings = [FixtureStrings stringsReturning:@"Links-rechts"];
   [label applyLocalizableStrings:@"LRM" BundleInfo:(NSBundle *)strings];
   EXPECT_EQ(text([label stringValue]), "Links-rechts");
-  EXPECT_EQ(text([strings asked]), "LRM|(null)|(null)");
+  EXPECT_EQ(text([strings lastLookup]), "LRM|(null)|(null)");
 }
 
-TEST_F(LabelItem, ShowsTheKeyWhenTheLookupAnswersNothing) {
+TEST_F(LabelItem, ShowsTheKeyWhenTheLookupReturnsNull) {
   [label applyLocalizableStrings:@"LRM"
-                      BundleInfo:(NSBundle *)[FixtureStrings stringsAnswering:nil]];
+                      BundleInfo:(NSBundle *)[FixtureStrings stringsReturning:nil]];
   EXPECT_EQ(text([label stringValue]), "LRM");
 }
 
@@ -70,12 +70,12 @@ TEST_F(LabelItem, ShowsTheKeyWithoutABundle) {
   EXPECT_EQ(text([label stringValue]), "LRM");
 }
 
-TEST_F(LabelItem, ShowsARangeTextUnchanged) {
+TEST_F(LabelItem, ShowsARangeStringUnchanged) {
   [label setRangeStrings:@" -20 to 20: MAX %d "];
   EXPECT_EQ(text([label stringValue]), " -20 to 20: MAX %d ");
 }
 
-TEST_F(LabelItem, LocalizingLeavesUsabilityAlone) {
+TEST_F(LabelItem, LocalizingDoesNotEnableOrDisable) {
   [label setViewAvailable:NO];
   [label applyLocalizableStrings:@"LRM" BundleInfo:[NSBundle mainBundle]];
   EXPECT_FALSE([label isEnabled]);

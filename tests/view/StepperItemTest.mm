@@ -28,7 +28,7 @@ protected:
   MorvaADPStepperItemRV2 *stepper = nil;
 };
 
-TEST_F(StepperItem, CountsTwoUpClicksAndIsThenEmpty) {
+TEST_F(StepperItem, CountsTwoUpClicksAndResetsTheCount) {
   stepUp();
   stepUp();
   EXPECT_EQ([stepper getSteps], 2);
@@ -74,13 +74,13 @@ TEST_F(StepperItem, MadeUnavailableIsDisabledAndKeepsItsCount) {
   EXPECT_EQ([stepper getSteps], 1);
 }
 
-TEST_F(StepperItem, AnUnusableStepperIgnoresClicks) {
+TEST_F(StepperItem, ADisabledStepperIgnoresClicks) {
   [stepper setViewAvailable:NO];
   stepUp();
   EXPECT_EQ([stepper getSteps], 0);
 }
 
-TEST_F(StepperItem, HearingOfAnEventChangesNothing) {
+TEST_F(StepperItem, CatchEventCallChangesNothing) {
   stepUp();
   [stepper catchEventCall];
   EXPECT_EQ([stepper getSteps], 1);

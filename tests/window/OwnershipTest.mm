@@ -1,4 +1,4 @@
-// After the dialog let go, nothing that the plug-in made is left.
+// Once the dialog has released them, all objects that the plug-in created are deallocated.
 #import "LiveObjects.h"
 #import "PanelWindow.h"
 #import "TestPool.h"
@@ -18,7 +18,7 @@ constexpr const char *kOwn[] = {"MorvaADPPdePluginRV2",
                                 "MorvaADPIntegerTextFieldItemRV2",
                                 "MorvaADPStepperItemRV2",
                                 "MorvaADPLabelItemRV2"};
-// The other objects of the interface file.
+// The other objects in the interface file.
 constexpr const char *kPlatform[] = {"NSView", "NSButton", "NSButtonCell", "NSStepperCell",
                                      "NSTextFieldCell"};
 
@@ -39,7 +39,7 @@ public:
     settings_ = std::make_unique<TestPrintSettings>();
     host = [[RecordingHost hostWithPpd:ppd_->get() settings:settings_->handle()] retain];
     counting_ = std::make_unique<LiveObjects>();
-    // What the platform makes once for all.
+    // Lets GNUstep create the objects that it caches.
     useOnce(&Ownership::everything);
     before = alive();
     hostReferences = [host retainCount];
@@ -47,7 +47,7 @@ public:
 
   void TearDown() override { [host release]; }
 
-  /// Makes a plug-in and a panel, does that with the panel, and lets go of both.
+  /// Creates a plug-in and a panel, calls the function with the panel, and releases both.
   void useOnce(void (Ownership::*use)(id panel)) {
     Pool pool;
     id plugin = newPlugin();
@@ -93,7 +93,7 @@ public:
     [window close];
     [window release];
   }
-  /// A dialog that keeps the view longer than the panel, and a person who still clicks on it.
+  /// A dialog that keeps the view longer than the panel, and a user who still clicks on it.
   void viewOutlives(id panel) {
     {
       Pool pool;
@@ -137,46 +137,46 @@ TEST_F(Ownership, APanelIsCountedWhileItLives) {
   [plugin release];
 }
 
-TEST_F(Ownership, APanelThatWasOnlyMadeIsGone) {
+TEST_F(Ownership, APanelThatWasOnlyCreatedIsDeallocated) {
   useOnce(&Ownership::nothing);
   expectNothingLeft();
 }
 
-TEST_F(Ownership, APanelWhoseViewWasLoadedIsGoneWithTheView) {
+TEST_F(Ownership, APanelIsDeallocatedWithItsLoadedView) {
   useOnce(&Ownership::view);
   expectNothingLeft();
 }
 
-TEST_F(Ownership, AskingForTheViewAgainKeepsNothing) {
+TEST_F(Ownership, RequestingTheViewAgainLeaksNothing) {
   useOnce(&Ownership::viewTwice);
   expectNothingLeft();
 }
 
-TEST_F(Ownership, APanelThatWasUsedIsGone) {
+TEST_F(Ownership, APanelThatWasUsedIsDeallocated) {
   useOnce(&Ownership::everything);
   expectNothingLeft();
 }
 
-TEST_F(Ownership, APanelThatPrintedWithoutAViewIsGone) {
+TEST_F(Ownership, APanelThatPrintedWithoutAViewIsDeallocated) {
   useOnce(&Ownership::unshownPrint);
   expectNothingLeft();
 }
 
-TEST_F(Ownership, APanelThatStoodInAWindowIsGone) {
-  // The first window of a program makes views that the platform keeps.
+TEST_F(Ownership, APanelThatWasInAWindowIsDeallocated) {
+  // The first window of a program creates views that GNUstep caches.
   useOnce(&Ownership::inWindow);
   before["NSView"] = alive().at("NSView");
   useOnce(&Ownership::inWindow);
   expectNothingLeft();
 }
 
-TEST_F(Ownership, AHundredPanelsAreGone) {
+TEST_F(Ownership, AHundredPanelsAreDeallocated) {
   for (int i = 0; i < 100; ++i)
     useOnce(&Ownership::everything);
   expectNothingLeft();
 }
 
-TEST_F(Ownership, AViewThatTheDialogKeepsOutlivesThePanelAndActsOnNothing) {
+TEST_F(Ownership, AViewThatTheDialogRetainsOutlivesThePanelAndHasNoTarget) {
   useOnce(&Ownership::viewOutlives);
   ASSERT_NE(kept_, nil);
   {

@@ -1,11 +1,11 @@
-/// The whole panel of the built bundle, in a window of a dialog made for a test.
+/// The whole panel of the built bundle, in a test dialog's window.
 #ifndef IMAGEPOSITION_TESTS_WINDOW_PANELWINDOW_H
 #define IMAGEPOSITION_TESTS_WINDOW_PANELWINDOW_H
 
 #import "Fields.h"
 #import "LogCapture.h"
-#import "Person.h"
 #import "RecordingHost.h"
+#import "SimulatedUser.h"
 #import "TestPpd.h"
 #import "TestPrintSettings.h"
 #import "Text.h"
@@ -23,9 +23,9 @@ inline constexpr const char *kEnableFlag = "com.morva.printsettings.19AImagePosi
 
 /// The built bundle, loaded.
 NSBundle *pluginBundle();
-/// A new plug-in object of it; the caller's.
+/// A new plug-in object from the bundle; the caller owns it.
 id newPlugin();
-/// A printer that supports the adjustment and allows it now.
+/// The PPD lines of a printer that supports the adjustment and whose marked choices allow it.
 std::vector<std::string> supportingPrinter();
 
 class PanelWindow : public testing::Test {
@@ -41,19 +41,19 @@ protected:
   NSButton *check() { return static_cast<NSButton *>(control("chkEnableImagePositionAdjust")); }
   NSButton *button() { return static_cast<NSButton *>(control("btnRestore2Defalut")); }
 
-  /// What the person reads there.
+  /// What the user sees in the entry field.
   std::string shown(const std::string &name);
   std::string label(const std::string &name);
-  /// The bundle's text for a key.
+  /// The bundle's string for a key.
   static std::string localized(const std::string &key);
-  /// What the job's print settings hold for that offset, "(null)" for nothing.
+  /// The offset's value in the job's print settings; "(null)" if there is none.
   std::string stored(const std::string &ticketKey);
   std::string flag() { return stored(kEnableFlag); }
 
-  /// The name of the control that has the keyboard; "" for none.
+  /// The name of the control with the keyboard focus; "" if there is none.
   std::string focused();
 
-  /// Selects what a field shows, as a person does who wants to replace it.
+  /// Selects the text of a field, like a user who wants to replace it.
   void select(const std::string &name);
   void expectSeen(const std::function<bool()> &condition, const char *what);
 
@@ -65,10 +65,10 @@ protected:
   id panel = nil;
   NSView *view = nil;
   NSWindow *window = nil;
-  std::unique_ptr<Person> person;
+  std::unique_ptr<SimulatedUser> user;
 };
 
-/// Waits until a person would see that the condition holds.
+/// Waits until the condition holds, and fails if it does not.
 #define EXPECT_SEEN(condition) expectSeen([&] { return (condition); }, #condition)
 
 } // namespace imageposition::test

@@ -24,7 +24,7 @@ constexpr const char *kControls[] = {"FrontLRMText",
                                      "chkEnableImagePositionAdjust",
                                      "btnRestore2Defalut"};
 
-// What lets Command-V reach the field, as in any dialog's program.
+// The menu lets Command-V reach the field, as in any application.
 void makeMenu() {
   if ([NSApp mainMenu] != nil)
     return;
@@ -57,7 +57,7 @@ NSBundle *pluginBundle() {
 id newPlugin() {
   id plugin = [[pluginBundle() principalClass] alloc];
   if (![(id<PDEPlugIn>)plugin initWithBundle:pluginBundle()])
-    throw std::runtime_error("the plug-in refuses its bundle");
+    throw std::runtime_error("the plug-in does not accept its bundle");
   return plugin;
 }
 
@@ -70,7 +70,7 @@ std::vector<std::string> supportingPrinter() {
 }
 
 void PanelWindow::SetUp() {
-  // A control that follows the pointer for ever ends the program, not only the test.
+  // A control that never stops tracking the mouse ends the whole program, not only the test.
   alarm(60);
   log = std::make_unique<LogCapture>();
   launchOnce();
@@ -95,7 +95,7 @@ void PanelWindow::SetUp() {
   [window setTitle:[panel panelName]];
   [panel willShow];
   [window makeKeyAndOrderFront:nil];
-  person = std::make_unique<Person>();
+  user = std::make_unique<SimulatedUser>();
   ASSERT_TRUE(runUntil([this] { return [window isKeyWindow] && [window isVisible]; }));
 }
 
@@ -138,7 +138,7 @@ std::string PanelWindow::stored(const std::string &ticketKey) {
 
 std::string PanelWindow::focused() {
   id responder = [window firstResponder];
-  // While a field is edited, its editor has the keyboard, on its behalf.
+  // While a field is edited, its field editor is the first responder.
   if ([responder isKindOfClass:[NSText class]])
     responder = [responder delegate];
   for (const char *name : kControls) {
@@ -149,10 +149,10 @@ std::string PanelWindow::focused() {
 }
 
 void PanelWindow::select(const std::string &name) {
-  person->click(text(name));
+  user->click(text(name));
   expectSeen([&] { return [text(name) currentEditor] != nil; }, "the field has the keyboard");
-  person->press("End");
-  person->press("Home", "Shift_L");
+  user->press("End");
+  user->press("Home", "Shift_L");
   expectSeen(
       [&] {
         NSText *editor = [text(name) currentEditor];

@@ -1,4 +1,4 @@
-// The panel as a person uses it.
+// The panel in a user's hands.
 #import "PanelWindow.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-TEST_F(PanelWindow, ShowsZerosAndTheFrontAloneUsable) {
+TEST_F(PanelWindow, ShowsZerosAndOnlyTheFrontIsUsable) {
   for (const char *name : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"})
     EXPECT_EQ(shown(name), "0") << name;
   EXPECT_TRUE([text("FrontLRM") isEnabled]);
@@ -21,49 +21,49 @@ TEST_F(PanelWindow, ShowsZerosAndTheFrontAloneUsable) {
 
 TEST_F(PanelWindow, MinusThenThreeShowsMinusThreeAndReachesThePrintSettings) {
   select("FrontLRM");
-  person->type("-");
+  user->type("-");
   EXPECT_SEEN(shown("FrontLRM") == "-");
-  person->type("3");
+  user->type("3");
   EXPECT_SEEN(shown("FrontLRM") == "-3");
-  person->press("Return");
+  user->press("Return");
   EXPECT_SEEN(stored("LeftRightMargin") == "-3");
   EXPECT_EQ(shown("FrontLRM"), "-3");
   EXPECT_EQ(shown("FrontTBM"), "0");
   EXPECT_EQ(stored("TopBottomMargin"), "0");
 }
 
-TEST_F(PanelWindow, AClickPutsTheInsertionPointWhereItWas) {
+TEST_F(PanelWindow, AClickPlacesTheInsertionPoint) {
   select("FrontLRM");
-  person->type("12");
-  person->press("Return");
+  user->type("12");
+  user->press("Return");
   EXPECT_SEEN(stored("LeftRightMargin") == "12");
-  person->click(text("FrontTBM"));
+  user->click(text("FrontTBM"));
   EXPECT_SEEN(focused() == "FrontTBMText");
-  person->click(text("FrontLRM"), 0.95);
-  person->type("0");
+  user->click(text("FrontLRM"), 0.95);
+  user->type("0");
   EXPECT_SEEN(shown("FrontLRM") == "120");
 }
 
 TEST_F(PanelWindow, AMinusBehindADigitIsDroppedAtOnce) {
   select("FrontLRM");
-  person->type("7-2");
+  user->type("7-2");
   EXPECT_SEEN(shown("FrontLRM") == "72");
-  person->press("Return");
+  user->press("Return");
   EXPECT_SEEN(stored("LeftRightMargin") == "72");
 }
 
 TEST_F(PanelWindow, LettersDoNotAppear) {
   select("FrontTBM");
-  person->type("a4b2c");
+  user->type("a4b2c");
   EXPECT_EQ(shown("FrontTBM"), "42");
 }
 
 TEST_F(PanelWindow, PastedTextIsFiltered) {
   ClipboardOwner clipboard("1a2b3");
   select("FrontLRM");
-  person->press("v", "Alt_L");
+  user->press("v", "Alt_L");
   EXPECT_SEEN(shown("FrontLRM") == "123");
-  person->press("Return");
+  user->press("Return");
   EXPECT_SEEN(shown("FrontLRM") == "100");
   EXPECT_EQ(stored("LeftRightMargin"), "100");
 }
@@ -71,34 +71,34 @@ TEST_F(PanelWindow, PastedTextIsFiltered) {
 TEST_F(PanelWindow, PastedSevenMinusTwoIsSeven) {
   ClipboardOwner clipboard("7-2");
   select("FrontLRM");
-  person->press("v", "Alt_L");
+  user->press("v", "Alt_L");
   EXPECT_SEEN(shown("FrontLRM") == "7");
 }
 
 TEST_F(PanelWindow, ANumberBeyondTheRangeBecomesItsBound) {
   select("FrontLRM");
-  person->type("999999999999");
+  user->type("999999999999");
   EXPECT_EQ(shown("FrontLRM"), "200") << "the widest range of all printers, while typing";
-  person->press("Return");
+  user->press("Return");
   EXPECT_SEEN(shown("FrontLRM") == "100");
   EXPECT_EQ(stored("LeftRightMargin"), "100") << "this printer's range, once it is entered";
   select("FrontLRM");
-  person->type("-101");
-  person->press("Return");
+  user->type("-101");
+  user->press("Return");
   EXPECT_SEEN(shown("FrontLRM") == "-100");
   EXPECT_EQ(stored("LeftRightMargin"), "-100");
 }
 
-TEST_F(PanelWindow, LeavingAFieldEntersItsNumber) {
+TEST_F(PanelWindow, LeavingAFieldCommitsItsNumber) {
   select("FrontLRM");
-  person->type("8");
-  person->press("Tab");
+  user->type("8");
+  user->press("Tab");
   EXPECT_SEEN(stored("LeftRightMargin") == "8");
 }
 
 TEST_F(PanelWindow, ClickingAStepperThreeTimesCountsThreeUp) {
   for (int clicks = 1; clicks <= 3; ++clicks) {
-    person->click(stepper("FrontTBM"), 0.5, 0.75);
+    user->click(stepper("FrontTBM"), 0.5, 0.75);
     EXPECT_SEEN(shown("FrontTBM") == std::to_string(clicks));
   }
   EXPECT_EQ(shown("FrontTBM"), "3");
@@ -109,72 +109,72 @@ TEST_F(PanelWindow, ClickingAStepperThreeTimesCountsThreeUp) {
 
 TEST_F(PanelWindow, AStepperCountsDownBelowZero) {
   for (int clicks = 1; clicks <= 3; ++clicks) {
-    person->click(stepper("FrontLRM"), 0.5, 0.25);
+    user->click(stepper("FrontLRM"), 0.5, 0.25);
     EXPECT_SEEN(shown("FrontLRM") == std::to_string(-clicks));
   }
   EXPECT_EQ(stored("LeftRightMargin"), "-3");
 }
 
-TEST_F(PanelWindow, AStepperGoesOnFromWhatIsBeingTyped) {
+TEST_F(PanelWindow, AStepperContinuesFromTheNumberBeingTyped) {
   select("FrontLRM");
-  person->type("-5");
+  user->type("-5");
   EXPECT_SEEN(shown("FrontLRM") == "-5");
-  person->click(stepper("FrontLRM"), 0.5, 0.75);
+  user->click(stepper("FrontLRM"), 0.5, 0.75);
   EXPECT_SEEN(stored("LeftRightMargin") == "-4");
   EXPECT_EQ(shown("FrontLRM"), "-4");
 }
 
 TEST_F(PanelWindow, AStepperStopsAtTheBound) {
   select("FrontLRM");
-  person->type("99");
-  person->press("Return");
+  user->type("99");
+  user->press("Return");
   EXPECT_SEEN(stored("LeftRightMargin") == "99");
   for (int clicks = 0; clicks < 3; ++clicks) {
-    person->click(stepper("FrontLRM"), 0.5, 0.75);
+    user->click(stepper("FrontLRM"), 0.5, 0.75);
   }
   EXPECT_EQ(shown("FrontLRM"), "100");
   EXPECT_EQ(stored("LeftRightMargin"), "100");
 }
 
-TEST_F(PanelWindow, TheCheckboxGivesTheBackOffsetsOfItsOwn) {
-  person->click(check(), 0.05);
+TEST_F(PanelWindow, TheCheckboxEnablesSeparateBackOffsets) {
+  user->click(check(), 0.05);
   EXPECT_SEEN([check() state] == 1);
   EXPECT_SEEN([text("BackLRM") isEnabled] && [stepper("BackTBM") isEnabled]);
   EXPECT_EQ(label("FrontLRM"), localized("FrontLRM"));
   EXPECT_EQ(label("FrontTBM"), localized("FrontTBM"));
   EXPECT_EQ(flag(), "False") << "until the dialog saves";
   select("BackLRM");
-  person->type("-9");
-  person->press("Return");
+  user->type("-9");
+  user->press("Return");
   EXPECT_SEEN(stored("BackLeftRightMargin") == "-9");
   [panel saveValuesAndReturnError:nullptr];
   EXPECT_EQ(flag(), "True");
-  person->click(check(), 0.05);
+  user->click(check(), 0.05);
   EXPECT_SEEN([check() state] == 0);
   EXPECT_SEEN(![text("BackLRM") isEnabled]);
   EXPECT_EQ(label("FrontLRM"), localized("LRM"));
-  EXPECT_EQ(shown("BackLRM"), "-9") << "kept for when it is switched on again";
+  EXPECT_EQ(shown("BackLRM"), "-9") << "kept until it is enabled again";
 }
 
-TEST_F(PanelWindow, WhatIsDisabledTakesNeitherKeysNorClicks) {
-  person->click(text("BackLRM"));
-  person->type("5");
-  person->click(stepper("BackLRM"), 0.5, 0.75);
+TEST_F(PanelWindow, DisabledControlsAcceptNeitherKeysNorClicks) {
+  user->click(text("BackLRM"));
+  user->type("5");
+  user->click(stepper("BackLRM"), 0.5, 0.75);
   EXPECT_EQ(shown("BackLRM"), "0");
   EXPECT_EQ(stored("BackLeftRightMargin"), "0");
 }
 
 TEST_F(PanelWindow, TheButtonSetsEverythingToZero) {
-  person->click(check(), 0.05);
+  user->click(check(), 0.05);
   EXPECT_SEEN([text("BackLRM") isEnabled]);
   for (const char *name : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"}) {
     select(name);
-    person->type("-7");
-    person->press("Return");
+    user->type("-7");
+    user->press("Return");
     EXPECT_SEEN(shown(name) == "-7");
   }
   EXPECT_SEEN(stored("BackTopBottomMargin") == "-7");
-  person->click(button());
+  user->click(button());
   EXPECT_SEEN([check() state] == 0);
   for (const char *name : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM"})
     EXPECT_EQ(shown(name), "0") << name;
@@ -188,26 +188,26 @@ TEST_F(PanelWindow, TheButtonSetsEverythingToZero) {
   EXPECT_EQ(flag(), "False");
 }
 
-TEST_F(PanelWindow, ForbiddenNothingCanBeUsed) {
+TEST_F(PanelWindow, WhenForbiddenNothingIsUsable) {
   ppd->mark("Duplex", "None");
   [panel willShow];
   for (const char *name : {"FrontLRM", "BackLRM"}) {
-    person->click(text(name));
-    person->type("5");
-    person->click(stepper(name), 0.5, 0.75);
+    user->click(text(name));
+    user->type("5");
+    user->click(stepper(name), 0.5, 0.75);
   }
-  person->click(check(), 0.05);
-  person->click(button());
+  user->click(check(), 0.05);
+  user->click(button());
   EXPECT_EQ(shown("FrontLRM"), "0");
   EXPECT_EQ([check() state], 0);
   EXPECT_FALSE([check() isEnabled]);
   EXPECT_FALSE([button() isEnabled]);
 }
 
-// The keyboard alone.
+// Keyboard only.
 
-/// Where the keyboard is after each Tab, once around. Steppers follow the pointer only, as on most
-/// platforms: the keyboard has the entry fields.
+/// The focused control after each Tab, for one cycle. Steppers accept only the mouse, as on most
+/// systems; keyboard users have the entry fields.
 Lines tabOrder(bool back) {
   Lines order = {"FrontLRMText", "FrontTBMText", "chkEnableImagePositionAdjust"};
   if (back)
@@ -220,7 +220,7 @@ class PanelWindowByKeyboard : public PanelWindow {
 protected:
   void SetUp() override {
     PanelWindow::SetUp();
-    person->click(text("FrontLRM"));
+    user->click(text("FrontLRM"));
     ASSERT_TRUE(runUntil([this] { return focused() == "FrontLRMText"; }));
   }
 
@@ -228,7 +228,7 @@ protected:
     for (int tabs = 0; focused() != name; ++tabs) {
       ASSERT_LT(tabs, 12) << name << " cannot be reached";
       const std::string before = focused();
-      person->press("Tab");
+      user->press("Tab");
       EXPECT_SEEN(focused() != before);
       ASSERT_FALSE(HasFailure());
     }
@@ -238,22 +238,22 @@ protected:
     Lines order;
     for (std::size_t i = 0; i < times; ++i) {
       order.push_back(focused());
-      person->press("Tab", held);
+      user->press("Tab", held);
     }
-    EXPECT_EQ(focused(), order[0]) << "once around";
+    EXPECT_EQ(focused(), order[0]) << "after one cycle";
     return order;
   }
 };
 
-TEST_F(PanelWindowByKeyboard, TabVisitsEveryControlThatCanBeUsed) {
+TEST_F(PanelWindowByKeyboard, TabVisitsEveryUsableControl) {
   const Lines expected = tabOrder(false);
   EXPECT_EQ(tabAround(expected.size()), expected);
 }
 
 TEST_F(PanelWindowByKeyboard, TabVisitsTheBackToo) {
-  person->click(check(), 0.05);
+  user->click(check(), 0.05);
   EXPECT_SEEN([text("BackLRM") isEnabled]);
-  person->click(text("FrontLRM"));
+  user->click(text("FrontLRM"));
   EXPECT_SEEN(focused() == "FrontLRMText");
   const Lines expected = tabOrder(true);
   EXPECT_EQ(tabAround(expected.size()), expected);
@@ -267,33 +267,33 @@ TEST_F(PanelWindowByKeyboard, ShiftTabGoesBackwards) {
 
 TEST_F(PanelWindowByKeyboard, SpaceTogglesTheCheckbox) {
   tabTo("chkEnableImagePositionAdjust");
-  person->press("space");
+  user->press("space");
   EXPECT_SEEN([check() state] == 1);
   EXPECT_SEEN([text("BackLRM") isEnabled]);
-  person->press("space");
+  user->press("space");
   EXPECT_SEEN([check() state] == 0);
   EXPECT_SEEN(![text("BackLRM") isEnabled]);
 }
 
 TEST_F(PanelWindowByKeyboard, SpacePressesTheButton) {
   select("FrontLRM");
-  person->type("42");
+  user->type("42");
   tabTo("btnRestore2Defalut");
   EXPECT_EQ(shown("FrontLRM"), "42");
-  person->press("space");
+  user->press("space");
   EXPECT_SEEN(shown("FrontLRM") == "0");
 }
 
 TEST_F(PanelWindowByKeyboard, AWholeAdjustmentNeedsNoPointer) {
   tabTo("FrontTBMText");
-  person->type("-12");
+  user->type("-12");
   tabTo("chkEnableImagePositionAdjust");
-  person->press("space");
+  user->press("space");
   EXPECT_SEEN([text("BackLRM") isEnabled]);
   tabTo("BackLRMText");
-  person->type("5");
+  user->type("5");
   tabTo("BackTBMText");
-  person->type("-6");
+  user->type("-6");
   tabTo("btnRestore2Defalut");
   [panel shouldPrint];
   EXPECT_EQ(stored("LeftRightMargin"), "0");
@@ -303,9 +303,9 @@ TEST_F(PanelWindowByKeyboard, AWholeAdjustmentNeedsNoPointer) {
   EXPECT_EQ(flag(), "True");
 }
 
-TEST_F(PanelWindowByKeyboard, PrintingTakesWhatIsStillBeingTyped) {
+TEST_F(PanelWindowByKeyboard, PrintingTakesTheNumberStillBeingTyped) {
   select("FrontLRM");
-  person->type("17");
+  user->type("17");
   EXPECT_SEEN(shown("FrontLRM") == "17");
   [panel shouldPrint];
   EXPECT_EQ(stored("LeftRightMargin"), "17");

@@ -1,7 +1,7 @@
-# Completion of print-dialog for bash. What a printer has is asked of CUPS, once a key, for a second at
-# most, and without a word when there is none.
+# Bash completion for print-dialog. Asks CUPS for the printers and their options on each Tab, for a second
+# at most, and offers none without a message if CUPS does not respond.
 
-# The words before the cursor, with what bash splits at "=" and ":" put together again.
+# Sets `words` to the words before the cursor, joining what bash splits at "=" and ":".
 _print_dialog_read_line() {
   local line=${COMP_LINE:0:COMP_POINT} index
   words=()
@@ -17,20 +17,20 @@ _print_dialog_read_line() {
   done
 }
 
-# What was said with the option whose names are $2 and on; the last one, into the variable $1.
-_print_dialog_said() {
-  local -n said=$1
+# Sets the variable $1 to the last argument of the option with the names $2 and on.
+_print_dialog_argument() {
+  local -n argument=$1
   local index name
-  said=
+  argument=
   for ((index = 1; index < ${#words[@]} - 1; index++)); do
     for name in "${@:2}"; do
       if [[ ${words[index]} == "$name" ]]; then
-        said=${words[index + 1]}
+        argument=${words[index + 1]}
       elif [[ $name == --* && ${words[index]} == "$name="* ]]; then
-        said=${words[index]#*=}
+        argument=${words[index]#*=}
       elif [[ $name == -? && ${words[index]} == "$name"?* ]]; then
-        # shellcheck disable=SC2034 # a name for the variable of the caller
-        said=${words[index]:2}
+        # shellcheck disable=SC2034 # a reference to the caller's variable
+        argument=${words[index]:2}
       fi
     done
   done
@@ -38,17 +38,17 @@ _print_dialog_said() {
 
 _print_dialog_ask() {
   local server
-  _print_dialog_said server -h
+  _print_dialog_argument server -h
   if type -P timeout >/dev/null; then
     ${server:+env "CUPS_SERVER=$server"} timeout 1 "$@" 2>/dev/null </dev/null
   fi
 }
 
-# A line "name choice choice ..." for each option of the printer.
+# Prints a line "name choice choice ..." for each option of the printer.
 _print_dialog_options() {
   local queue ppd
-  _print_dialog_said queue -d --queue
-  _print_dialog_said ppd --ppd
+  _print_dialog_argument queue -d --queue
+  _print_dialog_argument ppd --ppd
   if [[ $ppd ]]; then
     [[ -f ${ppd/#\~\//$HOME/} ]] || return
     tr '\r' '\n' <"${ppd/#\~\//$HOME/}" 2>/dev/null | awk '
@@ -61,9 +61,8 @@ _print_dialog_options() {
   fi
 }
 
-# The candidates in $2 and on that begin with $1, which bash has split before its last "=" or ":". They
-# are names that others gave, and stand in a command line afterwards: what the shell would act on is
-# quoted.
+# Offers the candidates in $2 and on that begin with $1, which bash has split before its last "=" or ":".
+# They are names that others chose and go into a command line, so quotes what the shell would act on.
 _print_dialog_offer() {
   local typed=$1 candidate split=
   shift
@@ -91,12 +90,12 @@ _print_dialog_offer_settings() {
   [[ ${COMPREPLY[*]} != *= ]] || compopt -o nospace
 }
 
-# Files and folders that match the pattern $2, or all.
+# Offers files that match the pattern $2 (all by default), and folders.
 _print_dialog_offer_files() {
   local file typed=${1/#\~\//$HOME/}
   compopt -o filenames
   while IFS= read -r file; do
-    [[ -e $file ]] || continue # a part of a name of several lines
+    [[ -e $file ]] || continue # part of a name with line breaks
     # shellcheck disable=SC2053 # a pattern
     if [[ -d $file || ${file##*/} == ${2-*} ]]; then COMPREPLY+=("$file"); fi
   done < <(compgen -f -- "$typed")

@@ -19,7 +19,7 @@ TEST(PrintSettingsStore, StartsEmpty) {
   EXPECT_THAT(store.get("Duplex"), IsNull());
 }
 
-TEST(PrintSettingsStore, AnswersWhatWasStoredLast) {
+TEST(PrintSettingsStore, ReturnsTheValueStoredLast) {
   PrintSettingsStore store;
   EXPECT_EQ(store.set("LeftRightMargin", "-3"), Outcome::Stored);
   EXPECT_THAT(store.get("LeftRightMargin"), StrEq("-3"));
@@ -36,7 +36,7 @@ TEST(PrintSettingsStore, NamesMatchWithoutRegardToCaseAsInCups) {
   EXPECT_THAT(store.get("LEFTRIGHTMARGIN"), StrEq("2"));
 }
 
-TEST(PrintSettingsStore, GivesCupsItsOwnListOfOptions) {
+TEST(PrintSettingsStore, ProvidesAnOptionListForCups) {
   PrintSettingsStore store;
   store.set("Duplex", "None");
   store.set("BackLeftRightMargin", "7");
@@ -72,8 +72,8 @@ TEST(PrintSettingsStore, AnEntryCanBeLockedLater) {
   EXPECT_THAT(store.get("Duplex"), StrEq("DuplexTumble"));
 }
 
-// CUPS drops the one of the two quality options when the other is added.
-TEST(PrintSettingsStore, ALockedEntryIsNotDisplacedByAnotherThatMeansTheSame) {
+// Adding one of the two quality options makes CUPS remove the other.
+TEST(PrintSettingsStore, ALockedEntryIsNotDisplacedByItsSynonym) {
   PrintSettingsStore store;
   store.set("cupsPrintQuality", "High", true);
   EXPECT_EQ(store.set("print-quality", "3"), Outcome::Locked);
@@ -92,14 +92,14 @@ TEST(PrintSettingsStore, RemovesAnEntryOnce) {
   EXPECT_EQ(store.optionCount(), 2);
 }
 
-TEST(PrintSettingsStore, EmptyingItOverAndOverTakesNoMoreMemory) {
+TEST(PrintSettingsStore, EmptyingItRepeatedlyLeaksNothing) {
   const auto emptyOften = [] {
     for (int i = 0; i < 10000; ++i) {
       PrintSettingsStore store;
       store.set("copies", "2");
       store.remove("copies");
       store.set("print-quality", "5");
-      store.set("cupsPrintQuality", "High"); // in place of the other
+      store.set("cupsPrintQuality", "High"); // replaces the other
     }
   };
   emptyOften();
@@ -133,7 +133,7 @@ struct HostileText {
   std::string text;
 };
 
-TEST(PrintSettingsStore, NamesThatNoJobCanCarryAreRefused) {
+TEST(PrintSettingsStore, UnusableNamesAreRejected) {
   const HostileText rows[] = {
       {"empty", ""},
       {"with an equals sign", "a=b"},
@@ -171,7 +171,7 @@ TEST(PrintSettingsStore, NamesThatNoJobCanCarryAreRefused) {
   }
 }
 
-TEST(PrintSettingsStore, NamesOfCupsIppAndPrinterDescriptionsAreTaken) {
+TEST(PrintSettingsStore, NamesOfCupsIppAndPpdOptionsAreAccepted) {
   for (const char *name :
        {"com.morva.printsettings.19AImagePositionEnable", "notify-recipient-uri", "N-up", "copies",
         "HPOption_Duplexer", "com.apple.print.PrintSettings.PMColorSpaceModel..n.", "Foreign%n",
@@ -189,7 +189,7 @@ TEST(PrintSettingsStore, TheLongestNameAndValueAreStoredWhole) {
   EXPECT_EQ(store.get(name), value);
 }
 
-TEST(PrintSettingsStore, ValuesThatCupsWouldCutOrCouldNotSendAreRefused) {
+TEST(PrintSettingsStore, ValuesThatCupsWouldCutOrCouldNotSendAreRejected) {
   const HostileText rows[] = {
       {"with NUL", std::string("1\0002", 3)},
       {"too long", std::string(PrintSettingsStore::kLongestValue + 1, 'v')},
@@ -209,7 +209,7 @@ TEST(PrintSettingsStore, ValuesThatCupsWouldCutOrCouldNotSendAreRefused) {
   }
 }
 
-TEST(PrintSettingsStore, ValuesInAnyScriptAndWithAnySignAreStored) {
+TEST(PrintSettingsStore, ValuesInAnyScriptAndWithAnyPunctuationAreStored) {
   for (const char *value : {"a=b", "a b, c", "{x}", "\"quoted\"", "back\\slash", "l1\nl2",
                             "\xE5\xB7\xA6\xE5\x8F\xB3", "\xF0\x9F\x96\xA8"}) {
     SCOPED_TRACE(value);

@@ -21,7 +21,7 @@ protected:
     return PMPrintSettingsSetValue(handle.get(), cf(key), (CFTypeRef)value, locked);
   }
 
-  /// What is stored, or "(status)" when reading failed.
+  /// The stored value, or "(status)" if reading failed.
   std::string get(NSString *key) {
     CFTypeRef value = nullptr;
     const OSStatus status = PMPrintSettingsGetValue(handle.get(), cf(key), &value);
@@ -32,13 +32,13 @@ protected:
   PrintSettingsHandle handle{store};
 };
 
-TEST_F(PrintSettings, AWrittenTextIsReadBack) {
+TEST_F(PrintSettings, AWrittenStringIsReadBack) {
   EXPECT_EQ(set(@"LeftRightMargin", @"-3"), 0);
   EXPECT_EQ(get(@"LeftRightMargin"), "-3");
   EXPECT_STREQ(store.get("LeftRightMargin"), "-3");
 }
 
-TEST_F(PrintSettings, AMissingKeyFailsAndLeavesTheOutputAlone) {
+TEST_F(PrintSettings, AMissingKeyFailsAndLeavesTheOutputUnchanged) {
   int marker = 0;
   CFTypeRef value = &marker;
   EXPECT_NE(PMPrintSettingsGetValue(handle.get(), cf(@"Missing"), &value), 0);
@@ -63,14 +63,14 @@ TEST_F(PrintSettings, AWriteToALockedEntryFailsAndChangesNothing) {
   EXPECT_EQ(get(@"Duplex"), "None");
 }
 
-TEST_F(PrintSettings, ANumberIsStoredAsItsText) {
+TEST_F(PrintSettings, ANumberIsStoredAsAString) {
   EXPECT_EQ(set(@"A", [NSNumber numberWithInt:-42]), 0);
   EXPECT_EQ(get(@"A"), "-42");
   EXPECT_EQ(set(@"B", [NSNumber numberWithUnsignedInt:4000000000U]), 0);
   EXPECT_EQ(get(@"B"), "4000000000");
 }
 
-TEST_F(PrintSettings, ObjectsWithoutATextAreRefused) {
+TEST_F(PrintSettings, OtherObjectsAreRejected) {
   set(@"Key", @"1");
   EXPECT_NE(set(@"Key", [NSArray array]), 0);
   EXPECT_NE(set(@"Key", [NSDictionary dictionary]), 0);
@@ -79,7 +79,7 @@ TEST_F(PrintSettings, ObjectsWithoutATextAreRefused) {
   EXPECT_EQ(get(@"Key"), "1");
 }
 
-TEST_F(PrintSettings, KeysAndValuesThatNoJobCanCarryAreRefused) {
+TEST_F(PrintSettings, UnusableKeysAndValuesAreRejected) {
   const unichar withNul[] = {'a', 0, 'b'};
   NSString *const nul = [NSString stringWithCharacters:withNul length:3];
   EXPECT_NE(set(@"", @"1"), 0);
@@ -110,15 +110,15 @@ TEST_F(PrintSettings, AnUnchangedEntryIsReadAsTheSameObject) {
 }
 
 TEST_F(PrintSettings, AValueThatWasReadOutlivesAChangeUntilThePoolIsDrained) {
-  set(@"Key", @"before, and long enough to be an object of its own");
+  set(@"Key", @"before, and too long for a tagged pointer");
   CFTypeRef before = nullptr;
   PMPrintSettingsGetValue(handle.get(), cf(@"Key"), &before);
   set(@"Key", @"after");
   EXPECT_EQ(get(@"Key"), "after");
-  EXPECT_EQ(toText((NSString *)before), "before, and long enough to be an object of its own");
+  EXPECT_EQ(toText((NSString *)before), "before, and too long for a tagged pointer");
 }
 
-TEST_F(PrintSettings, AChangeThroughTheStoreIsSeen) {
+TEST_F(PrintSettings, AChangeThroughTheStoreIsVisible) {
   set(@"Key", @"1");
   EXPECT_EQ(get(@"Key"), "1");
   store.set("Key", "2");
@@ -127,15 +127,15 @@ TEST_F(PrintSettings, AChangeThroughTheStoreIsSeen) {
   EXPECT_EQ(get(@"Key"), "(failed)");
 }
 
-TEST_F(PrintSettings, TextsInAnyScriptComeBackAsTheyWere) {
+TEST_F(PrintSettings, StringsInAnyScriptAreReadBackUnchanged) {
   NSString *const text = toString("\xE5\xB7\xA6 \xF0\x9F\x96\xA8 \xC3\xA4");
   EXPECT_EQ(set(@"Key", text), 0);
   EXPECT_EQ(get(@"Key"), toText(text));
 }
 
-TEST(PrintSettingsHandle, LetsGoOfWhatWasReadWhenItGoes) {
+TEST(PrintSettingsHandle, ReleasesTheValuesThatWereReadWhenDestroyed) {
   PrintSettingsStore store;
-  store.set("Key", "a value, long enough to be an object of its own");
+  store.set("Key", "a value, too long for a tagged pointer");
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   auto handle = std::make_unique<PrintSettingsHandle>(store);
   CFTypeRef value = nullptr;

@@ -23,7 +23,7 @@ const std::pair<const char *, const char16_t *> kTexts[] = {
     {"e\xCC\x81", u"e\u0301"}, // stays decomposed
 };
 
-TEST(TextBridge, TextCrossesBothWaysUnchanged) {
+TEST(TextBridge, StringsConvertBothWaysUnchanged) {
   for (const auto &[utf8, utf16] : kTexts) {
     EXPECT_EQ(toText(units(utf16)), utf8);
     EXPECT_EQ(toUtf16(units(utf16)), utf16);
@@ -37,7 +37,7 @@ TEST(TextBridge, NullIsEmpty) {
   EXPECT_EQ(toUtf16(nil), u"");
 }
 
-TEST(TextBridge, EmptyTextIsAString) {
+TEST(TextBridge, EmptyStringConvertsToAnEmptyString) {
   EXPECT_TRUE(toString("") != nil);
   EXPECT_EQ([toString("") length], 0u);
   EXPECT_EQ([toString(std::string_view()) length], 0u);
@@ -52,7 +52,7 @@ TEST(TextBridge, ZeroIsACharacterLikeAnyOther) {
   EXPECT_EQ(toUtf16(string), std::u16string(u"a\0b", 3));
 }
 
-TEST(TextBridge, LoneSurrogateBecomesAMarkInUtf8AndStaysInUtf16) {
+TEST(TextBridge, LoneSurrogateIsReplacedInUtf8AndStaysInUtf16) {
   for (char16_t surrogate :
        {char16_t(0xD800), char16_t(0xDBFF), char16_t(0xDC00), char16_t(0xDFFF)}) {
     NSString *string = uncheckedString({u'1', surrogate, u'2'});
@@ -64,7 +64,7 @@ TEST(TextBridge, LoneSurrogateBecomesAMarkInUtf8AndStaysInUtf16) {
   EXPECT_EQ(toText(uncheckedString({char16_t(0xD83D), char16_t(0xDDA8)})), "\xF0\x9F\x96\xA8");
 }
 
-TEST(TextBridge, MalformedUtf8BecomesAStringWithMarks) {
+TEST(TextBridge, MalformedUtf8BecomesAStringWithReplacementCharacters) {
   for (const auto &[bytes, text] : std::initializer_list<std::pair<const char *, const char16_t *>>{
            {"a\xFF"
             "b",
@@ -78,7 +78,7 @@ TEST(TextBridge, MalformedUtf8BecomesAStringWithMarks) {
   }
 }
 
-TEST(TextBridge, OnlyStringsAreOptionalTexts) {
+TEST(TextBridge, OnlyStringsConvertToOptionalStrings) {
   EXPECT_EQ(toOptionalText(@"5"), "5");
   EXPECT_EQ(toOptionalText(@""), "");
   EXPECT_EQ(toOptionalText([NSMutableString stringWithString:@"x"]), "x");
@@ -90,7 +90,7 @@ TEST(TextBridge, OnlyStringsAreOptionalTexts) {
   EXPECT_EQ(toOptionalText([NSDate date]), std::nullopt);
 }
 
-TEST(TextBridge, LongTextsCrossWhole) {
+TEST(TextBridge, LongStringsConvertCompletely) {
   std::string text;
   for (int i = 0; i < 5000; ++i)
     text += "0123456789\xC3\xBC";

@@ -7,12 +7,12 @@
 namespace imageposition {
 namespace {
 
-// U+FFFD, which stands for what is malformed.
+// U+FFFD, which replaces malformed input.
 const std::string kMark8 = "\xEF\xBF\xBD";
 
 std::u16string marks(std::size_t count) { return std::u16string(count, u'\uFFFD'); }
 
-TEST(Utf, WellFormedTextConvertsBothWays) {
+TEST(Utf, WellFormedStringsConvertBothWays) {
   const std::pair<const char *, const char16_t *> rows[] = {
       {"", u""},
       {"plain", u"plain"},
@@ -39,7 +39,7 @@ TEST(Utf, ZeroIsACharacterLikeAnyOther) {
   EXPECT_EQ(utf8FromUtf16(std::u16string_view(u"a\0b", 3)), std::string("a\0b", 3));
 }
 
-TEST(Utf, LoneSurrogateBecomesAMark) {
+TEST(Utf, LoneSurrogateIsReplaced) {
   const char16_t high = 0xD83D;
   const char16_t low = 0xDDA8;
   EXPECT_EQ(utf8FromUtf16(std::u16string{high}), kMark8);
@@ -56,7 +56,7 @@ struct Malformed {
   std::u16string text;
 };
 
-TEST(Utf, EachByteThatBeginsNoWellFormedSequenceBecomesAMark) {
+TEST(Utf, EachByteThatDoesNotBeginAWellFormedSequenceIsReplaced) {
   const Malformed rows[] = {
       {"\x80", marks(1)},
       {"\xBF\xBF", marks(2)},
@@ -85,7 +85,7 @@ TEST(Utf, OverlongFormsAreMalformed) {
   EXPECT_EQ(utf16FromUtf8("\xF0\x8F\xBF\xBF"), marks(4));
 }
 
-TEST(Utf, SurrogatesAndNumbersBeyondUnicodeAreMalformedInUtf8) {
+TEST(Utf, SurrogatesAndCodesBeyondUnicodeAreMalformedInUtf8) {
   EXPECT_EQ(utf16FromUtf8("\xED\xA0\x80"), marks(3));
   EXPECT_EQ(utf16FromUtf8("\xED\xBF\xBF"), marks(3));
   EXPECT_EQ(utf16FromUtf8("\xED\xA0\xBD\xED\xB6\xA8"), marks(6));
@@ -108,14 +108,14 @@ TEST(Utf, EveryCharacterSurvivesBothConversions) {
   }
 }
 
-TEST(Utf, ArbitraryBytesNeverMakeALoneSurrogate) {
+TEST(Utf, ArbitraryBytesNeverBecomeALoneSurrogate) {
   std::mt19937 random(3);
   for (int i = 0; i < 20000; ++i) {
     std::string bytes;
     for (unsigned length = random() % 12; length > 0; --length)
       bytes += static_cast<char>(random() % 3 ? 0x80 + random() % 128 : random() % 128);
     const std::u16string text = utf16FromUtf8(bytes);
-    // Whatever is well formed converts back to itself.
+    // Well-formed text converts back to itself.
     EXPECT_EQ(utf16FromUtf8(utf8FromUtf16(text)), text) << testing::PrintToString(bytes);
   }
 }

@@ -1,5 +1,5 @@
-/// The calls of macOS's AppKit that the plug-in makes, and no other, each with the version that
-/// brought it, from the platform's public documentation. For compiling where there is no macOS.
+/// The part of macOS's AppKit that the plug-in calls, for compiling without macOS. The version that
+/// introduced each call is from Apple's public documentation.
 #ifndef IMAGEPOSITION_TOOLS_MACOS_APPKIT_H
 #define IMAGEPOSITION_TOOLS_MACOS_APPKIT_H
 
@@ -56,7 +56,7 @@ SINCE(10.0) @interface NSBox : NSView
 @end
 
 SINCE(10.0) @interface NSBundle(NSNibLoading)
-// Deprecated later, in 10.8; its successor came with that version.
+// Deprecated in 10.8, which introduced its successor.
 + (BOOL)loadNibNamed:(NSString *)name owner:(id)owner SINCE(10.0);
 @end
 

@@ -1,4 +1,5 @@
-/// The calls of macOS's print settings that the plug-in makes, with the version that brought them.
+/// The part of macOS's print-settings interface that the plug-in calls, for compiling without
+/// macOS.
 #ifndef IMAGEPOSITION_TOOLS_MACOS_APPLICATIONSERVICES_H
 #define IMAGEPOSITION_TOOLS_MACOS_APPLICATIONSERVICES_H
 

@@ -1,5 +1,5 @@
-/// The calls of macOS's Foundation that the plug-in makes, and no other, each with the version that
-/// brought it, from the platform's public documentation. For compiling where there is no macOS.
+/// The part of macOS's Foundation that the plug-in calls, for compiling without macOS. The version
+/// that introduced each call is from Apple's public documentation.
 #ifndef IMAGEPOSITION_TOOLS_MACOS_FOUNDATION_H
 #define IMAGEPOSITION_TOOLS_MACOS_FOUNDATION_H
 
@@ -70,7 +70,7 @@ SINCE(10.0) @interface NSString : NSObject<NSCopying>
 - (const char *)UTF8String SINCE(10.0);
 @end
 
-// The class of literals, which the linker looks for by name.
+// The class of string literals, which the compiler references by name.
 SINCE(10.0) @interface NSSimpleCString : NSString {
 @protected
   char *bytes;

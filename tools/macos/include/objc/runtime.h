@@ -1,10 +1,10 @@
-/// What the plug-in needs of macOS's Objective-C runtime, with the version that brought it.
+/// The part of macOS's Objective-C runtime that the plug-in uses, for compiling without macOS.
 #ifndef IMAGEPOSITION_TOOLS_MACOS_OBJC_RUNTIME_H
 #define IMAGEPOSITION_TOOLS_MACOS_OBJC_RUNTIME_H
 
 #include <Availability.h>
 
-typedef signed char BOOL; // a boolean of its own only on arm64
+typedef signed char BOOL; // bool only on arm64
 typedef struct objc_class *Class;
 typedef struct objc_object {
   Class isa;

@@ -1,4 +1,4 @@
-#import "Person.h"
+#import "SimulatedUser.h"
 
 #import "TestPool.h"
 
@@ -13,7 +13,7 @@
 #include <csignal>
 #include <stdexcept>
 
-// The X server's headers and the platform's both define these.
+// X11's headers and GNUstep's both define these.
 #define BOOL XlibBOOL
 #define Cursor XlibCursor
 #include <X11/Xlib.h>
@@ -29,7 +29,7 @@ namespace {
 
 constexpr double kDeadline = 10; // seconds
 
-// The next event, or none, and what is to be done before it is handled.
+// Handles the next event, if there is one; calls `before` first.
 void handleEvent(const std::function<void(NSEvent *)> &before = {}) {
   Pool pool;
   NSEvent *event = [NSApp nextEventMatchingMask:NSAnyEventMask
@@ -66,9 +66,9 @@ bool runUntil(const std::function<bool()> &condition) {
   return true;
 }
 
-constexpr unsigned long kReleaseDelay = 20; // milliseconds by the X server's clock
+constexpr unsigned long kReleaseDelay = 20; // in milliseconds of the X server's clock
 
-struct Person::Server {
+struct SimulatedUser::Server {
   Display *display = XOpenDisplay(nullptr);
 
   KeyCode code(const std::string &name) {
@@ -85,18 +85,18 @@ struct Person::Server {
     XFlush(display);
   }
 
-  // The platform calls a window visible before the server shows it.
+  // AppKit reports a window as visible before the X server shows it.
   bool pointerIsIn(NSWindow *window) {
-    const auto wanted = reinterpret_cast<Window>(
+    const auto target = reinterpret_cast<Window>(
         [GSServerForWindow(window) windowDevice:static_cast<int>([window windowNumber])]);
     Window root, child = DefaultRootWindow(display);
     int rootX, rootY, x, y;
     unsigned int buttons;
-    while (child != None && child != wanted) {
+    while (child != None && child != target) {
       if (!XQueryPointer(display, child, &root, &child, &rootX, &rootY, &x, &y, &buttons))
         return false;
     }
-    return child == wanted;
+    return child == target;
   }
 
   void button(bool down, unsigned long delay) {
@@ -109,20 +109,20 @@ struct Person::Server {
   }
 };
 
-Person::Person() : server_(std::make_unique<Server>()) {
+SimulatedUser::SimulatedUser() : server_(std::make_unique<Server>()) {
   if (server_->display == nullptr)
     throw std::runtime_error("no display");
 }
 
-Person::~Person() { XCloseDisplay(server_->display); }
+SimulatedUser::~SimulatedUser() { XCloseDisplay(server_->display); }
 
-void Person::click(NSView *view, double x, double y) {
+void SimulatedUser::click(NSView *view, double x, double y) {
   const NSRect bounds = [view bounds];
   const double up = [view isFlipped] ? 1 - y : y;
   const NSPoint inView =
       NSMakePoint(NSMinX(bounds) + x * NSWidth(bounds), NSMinY(bounds) + up * NSHeight(bounds));
   NSWindow *const window = [view window];
-  // Where the window is can change until its manager has placed it.
+  // The window's position can change until the window manager has placed it.
   handleUntil("pointer in the window",
               [&] {
                 server_->moveTo([window convertBaseToScreen:[view convertPoint:inView toView:nil]],
@@ -131,9 +131,9 @@ void Person::click(NSView *view, double x, double y) {
               },
               {});
   server_->button(true, CurrentTime);
-  // The window manager sees each press first and holds the pointer meanwhile; and the platform
-  // turns around a press and a release that it finds waiting together. So the release comes when
-  // the press is about to be handled, which may last until then.
+  // The window manager receives each press first and grabs the pointer meanwhile, and GNUstep swaps
+  // a press and a release that wait in the queue together. So send the release when the press is
+  // about to be handled; handling it may take until the release arrives.
   bool pressed = false;
   try {
     handleUntil(
@@ -145,24 +145,24 @@ void Person::click(NSView *view, double x, double y) {
           server_->button(false, kReleaseDelay);
         });
   } catch (...) {
-    server_->button(false, CurrentTime); // for whoever clicks next
+    server_->button(false, CurrentTime); // for the next click
     throw;
   }
   settle();
 }
 
-void Person::type(const std::string &text) {
+void SimulatedUser::type(const std::string &text) {
   for (const char character : text)
     hit(character == '-' ? "minus" : std::string(1, character), {});
   settle();
 }
 
-void Person::press(const std::string &key, const std::string &held) {
+void SimulatedUser::press(const std::string &key, const std::string &held) {
   hit(key, held);
   settle();
 }
 
-void Person::hit(const std::string &key, const std::string &held) {
+void SimulatedUser::hit(const std::string &key, const std::string &held) {
   if (!held.empty())
     server_->key(held, true);
   server_->key(key, true);
@@ -172,8 +172,8 @@ void Person::hit(const std::string &key, const std::string &held) {
   XFlush(server_->display);
 }
 
-// Events arrive in their order: when this key has been pressed and released, so has all before it.
-void Person::settle() {
+// Events arrive in order: once this key was pressed and released, all earlier events were handled.
+void SimulatedUser::settle() {
   server_->key("Control_L", true);
   server_->key("Control_L", false);
   XFlush(server_->display);
@@ -197,7 +197,7 @@ ClipboardOwner::ClipboardOwner(const std::string &text) {
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_adddup2(&actions, ends[0], 0);
-  posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0); // its commentary
+  posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0); // discard its messages
   posix_spawn_file_actions_addclose(&actions, ends[0]);
   posix_spawn_file_actions_addclose(&actions, ends[1]);
   const char *const arguments[] = {"xclip", "-quiet", "-selection", "clipboard", nullptr};
