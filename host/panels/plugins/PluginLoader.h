@@ -1,6 +1,6 @@
 /// Loads plug-in bundles and asks them for panels.
-#ifndef IMAGEPOSITION_HOST_PLUGINLOADER_H
-#define IMAGEPOSITION_HOST_PLUGINLOADER_H
+#ifndef IMAGEPOSITION_PANELS_PLUGINS_PLUGINLOADER_H
+#define IMAGEPOSITION_PANELS_PLUGINS_PLUGINLOADER_H
 
 #import "PanelDriver.h"
 
@@ -10,20 +10,20 @@
 
 namespace imageposition {
 
-/// One loaded plug-in; its code stays in the process for good.
+/// One loaded plug-in. Its code stays in the process for good.
 class Plugin {
 public:
-  /// Checks each step: that the path exists, that nobody else could have changed what is there,
-  /// that it is a bundle with code, that the code loads, that its principal class is there and
-  /// answers the operations of a print-dialog extension, and that it starts. Throws a `Failure`
-  /// with `ExitCode::Plugin` that names the step.
+  /// Checks each step: that the path exists, that no other user could have changed what is there,
+  /// that it is a bundle with code, that the code loads, that its principal class exists and
+  /// implements a print-dialog extension, and that it starts. Throws a `Failure` with
+  /// `ExitCode::Plugin` that names the step.
   explicit Plugin(const std::string &path);
   ~Plugin();
   Plugin(const Plugin &) = delete;
   Plugin &operator=(const Plugin &) = delete;
 
-  /// The panels for the print dialog, each with its view; none when the printer has none of them.
-  /// Throws a `Failure` when one could not be built.
+  /// New panels for the print dialog, each with its view; none if the plug-in has none for the
+  /// printer of `hostInfo`. Throws a `Failure` if one cannot be built.
   std::vector<std::unique_ptr<PanelDriver>> panels(id hostInfo);
 
 private:
