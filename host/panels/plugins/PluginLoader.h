@@ -2,8 +2,10 @@
 #ifndef IMAGEPOSITION_PANELS_PLUGINS_PLUGINLOADER_H
 #define IMAGEPOSITION_PANELS_PLUGINS_PLUGINLOADER_H
 
+#include "ExitCode.hpp"
 #import "PanelDriver.h"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,6 +31,18 @@ public:
 private:
   std::string path_;
   id<PDEPlugIn> plugin_ = nil; // retained
+};
+
+/// Loads each plug-in once, and keeps it.
+class LoadedPlugins {
+public:
+  /// The plug-in at `path`, which the first call loads. Throws the same `Failure` each time for one
+  /// that failed, without trying again: its code may be in the process already.
+  Plugin &at(const std::string &path);
+
+private:
+  std::map<std::string, std::unique_ptr<Plugin>> plugins_; // by the bundle's identity
+  std::map<std::string, Failure> failures_;
 };
 
 } // namespace imageposition

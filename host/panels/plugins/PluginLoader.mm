@@ -1,8 +1,8 @@
 #import "PluginLoader.h"
 
-#include "ExitCode.hpp"
 #import "Guard.h"
 #include "LibraryFile.hpp"
+#include "PluginFolders.hpp"
 #include "PluginLibraries.hpp"
 #include "PluginTexts.hpp"
 
@@ -134,6 +134,21 @@ std::vector<std::unique_ptr<PanelDriver>> Plugin::panels(id hostInfo) {
   for (NSUInteger i = 0; i < [answer count]; i++)
     panels.push_back(std::make_unique<PanelDriver>([answer objectAtIndex:i], path_));
   return panels;
+}
+
+Plugin &LoadedPlugins::at(const std::string &path) {
+  const std::string bundle = bundleIdentity(path);
+  if (const auto failure = failures_.find(bundle); failure != failures_.end())
+    throw failure->second;
+  std::unique_ptr<Plugin> &plugin = plugins_[bundle];
+  try {
+    if (!plugin)
+      plugin = std::make_unique<Plugin>(path);
+  } catch (const Failure &failure) {
+    failures_.emplace(bundle, failure);
+    throw;
+  }
+  return *plugin;
 }
 
 } // namespace imageposition
