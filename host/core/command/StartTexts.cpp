@@ -4,7 +4,6 @@
 #include "ExitCode.hpp"
 #include "Utf.hpp"
 
-#include <algorithm>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -34,11 +33,11 @@ void refuseForeignArguments(const std::vector<std::string> &words) {
 }
 
 void leaveOutForeignVariables() {
-  char **end = environ;
-  while (*end != nullptr)
-    end++;
-  *std::remove_if(environ, end, [](const char *variable) { return !isWellFormedUtf8(variable); }) =
-      nullptr;
+  char **kept = environ;
+  for (char **variable = environ; *variable != nullptr; variable++)
+    if (isWellFormedUtf8(*variable))
+      *kept++ = *variable;
+  *kept = nullptr;
 }
 
 std::optional<UntrustedPart> leaveOutPlatformVariables() {
