@@ -13,17 +13,16 @@ std::string configurationUntrusted(const std::string &part) {
               "variable, or have it name a file that only you can change, in such a folder.")
       .with(part);
 }
-std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins) {
-  if (plugins.empty())
-    return text("No plug-in was found for \"{1}\". Name one with --plugin BUNDLE.").with(printer);
-  return text("No plug-in has a panel for \"{1}\" (asked: {2}). Choose a printer that supports "
-              "one, or name another plug-in with --plugin BUNDLE.")
-      .with(printer, inOrder(plugins));
+std::string moduleMissing(const std::string &path) {
+  return text("The file \"{1}\" of print-dialog is missing. Install print-dialog again.")
+      .with(path);
 }
-std::string jobSentUnsaid(const std::string &job) {
-  return text("CUPS has the job {1}, but standard output cannot be written; do not print it again.")
-      .with(job);
+std::string moduleNotLoadable(const std::string &path, const std::string &reason) {
+  return text(
+             "\"{1}\", a part of print-dialog, could not be loaded{2}. Install print-dialog again, "
+             "with the packages that it needs.")
+      .with(path, because(reason));
 }
-const Text kCancelled = text("Cancelled; nothing was written.");
+const Text kCutShort = text("its end is missing");
 
 } // namespace imageposition::messages

@@ -18,18 +18,11 @@ bool isFolder(const fs::path &path) {
   return fs::is_directory(path, ignored);
 }
 
-/// The same bundle may be named twice, by different paths.
-std::string canonical(const fs::path &path) {
-  std::error_code failed;
-  const fs::path real = fs::canonical(path, failed);
-  return failed ? path.string() : real.string();
-}
-
 std::vector<std::string> withoutRepetition(const std::vector<std::string> &paths) {
   std::vector<std::string> result;
   std::set<std::string> known;
   for (const std::string &path : paths)
-    if (known.insert(canonical(path)).second)
+    if (known.insert(bundleIdentity(path)).second)
       result.push_back(path);
   return result;
 }
@@ -82,6 +75,12 @@ std::vector<std::string> findPlugins(const PluginNames &names,
       return withoutRepetition(bundles);
   }
   return {};
+}
+
+std::string bundleIdentity(const std::string &path) {
+  std::error_code failed;
+  const fs::path real = fs::canonical(path, failed);
+  return failed ? path : real.string();
 }
 
 std::vector<std::string> pluginFolders() {

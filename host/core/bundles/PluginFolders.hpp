@@ -23,6 +23,9 @@ struct PluginNames {
 std::vector<std::string> findPlugins(const PluginNames &names,
                                      const std::vector<std::string> &folders);
 
+/// The same string for each path that leads to the same bundle.
+std::string bundleIdentity(const std::string &path);
+
 /// The folders in which plug-ins are looked for: beside the running program, then where they are
 /// installed with it, then where the build expected that to be.
 std::vector<std::string> pluginFolders();

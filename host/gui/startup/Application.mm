@@ -21,8 +21,8 @@ namespace {
 
 id doNothing(id, SEL, ...) { return nil; }
 
-/// Loading ImageMagick takes longer than showing the dialog, which has no image that needs it. The
-/// platform asks for the class as soon as it deals with images.
+/// Loading ImageMagick takes longer than showing the dialog, which has no image that needs it.
+/// GNUstep asks for the class as soon as it deals with images.
 void leaveOutImageLoaders() {
   const Class magick = NSClassFromString(@"GSImageMagickImageRep");
   if (magick == Nil)
@@ -31,8 +31,8 @@ void leaveOutImageLoaders() {
   [NSImageRep unregisterImageRepClass:magick];
 }
 
-/// The platform turns these signals into a wish to quit that a modal dialog never hears. Nothing
-/// needs saving: a ticket is written whole or not at all.
+/// GNUstep turns these signals into a request to terminate, which a modal dialog never handles.
+/// Nothing needs saving: a ticket is written whole or not at all.
 void letSignalsEndTheProgram() {
   for (const int signal : {SIGTERM, SIGINT, SIGHUP})
     std::signal(signal, SIG_DFL);

@@ -23,29 +23,29 @@ Operations &operations() {
   return those;
 }
 
-id answerNothing(id, SEL, ...) { return nil; }
+id returnNil(id, SEL, ...) { return nil; }
 
-/// The platform's name for what is selected, as other programs' middle button pastes it.
+/// GNUstep's name for the selection that the middle button pastes into other programs.
 bool isSelection(NSString *name) { return [name isEqualToString:@"Selection"]; }
 
-void letDaemonsIn() {
+void allowDaemons() {
   operations().defaultCentre.restore();
   operations().centreForType.restore();
   operations().generalPasteboard.restore();
 }
 
-id generalPasteboardAtLast(id owner, SEL) {
-  letDaemonsIn();
+id generalPasteboardOnDemand(id owner, SEL) {
+  allowDaemons();
   return [owner generalPasteboard];
 }
 
-id namedPasteboardAtLast(id owner, SEL operation, NSString *name) {
+id namedPasteboardOnDemand(id owner, SEL operation, NSString *name) {
   if (isSelection(name))
     return nil;
-  letDaemonsIn();
+  allowDaemons();
   id const pasteboard =
       operations().namedPasteboard.before<id(id, SEL, NSString *)>()(owner, operation, name);
-  if (pasteboard == nil) // where there is no server to start; cutting to it would lose the text
+  if (pasteboard == nil) // no daemon could be started; cutting would lose the text
     [NSException raise:NSPasteboardCommunicationException format:@"no pasteboard server"];
   return pasteboard;
 }
@@ -53,18 +53,18 @@ id namedPasteboardAtLast(id owner, SEL operation, NSString *name) {
 } // namespace
 
 void leaveOutNotificationDaemon() {
-  operations().defaultCentre.by(answerNothing);
-  operations().centreForType.by(answerNothing);
+  operations().defaultCentre.by(returnNil);
+  operations().centreForType.by(returnNil);
 }
 
 void leaveOutPasteboardDaemon() {
-  operations().generalPasteboard.by(answerNothing);
-  operations().namedPasteboard.by(answerNothing);
+  operations().generalPasteboard.by(returnNil);
+  operations().namedPasteboard.by(returnNil);
 }
 
 void startPasteboardOnDemand() {
-  operations().generalPasteboard.by(generalPasteboardAtLast);
-  operations().namedPasteboard.by(namedPasteboardAtLast);
+  operations().generalPasteboard.by(generalPasteboardOnDemand);
+  operations().namedPasteboard.by(namedPasteboardOnDemand);
 }
 
 } // namespace imageposition

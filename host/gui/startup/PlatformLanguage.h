@@ -1,12 +1,12 @@
-/// The language that the platform and the program's own texts share.
-#ifndef IMAGEPOSITION_HOST_PLATFORMLANGUAGE_H
-#define IMAGEPOSITION_HOST_PLATFORMLANGUAGE_H
+/// The language that GNUstep and the program's own texts share.
+#ifndef IMAGEPOSITION_GUI_STARTUP_PLATFORMLANGUAGE_H
+#define IMAGEPOSITION_GUI_STARTUP_PLATFORMLANGUAGE_H
 
 namespace imageposition {
 
-/// The person's default NSLanguages, from the file of defaults, decides for all; else
-/// the environment does, for bundles too. The platform by itself knows only a locale that is
-/// generated on the machine.
+/// Chooses one language for the program, CUPS, GNUstep and bundles: by the user default
+/// NSLanguages, or else by the environment. By itself GNUstep knows only a locale that is generated
+/// on the machine.
 void agreeOnLanguage();
 
 } // namespace imageposition

@@ -13,12 +13,10 @@ namespace imageposition {
 namespace {
 
 NSString *const kLanguages = @"NSLanguages";
-/// The platform's own domain, which comes before all others and has the languages it has worked
-/// out.
+/// GNUstep's domain of the languages that it has worked out. It comes before all others.
 NSString *const kPrimaryDomain = @"GSPrimaryDomain";
 
-/// The words of the person's own default; the platform's answer includes what it made of the
-/// locale.
+/// The user's own default. `stringArrayForKey:` would include what GNUstep made of the locale.
 std::vector<std::string> languagesInDefaults(NSUserDefaults *defaults) {
   NSDictionary *const domains[] = {
       [defaults persistentDomainForName:[[NSProcessInfo processInfo] processName]],

@@ -1,16 +1,16 @@
 /// What GNUstep learns about this process, and what code it may bring into it.
-#ifndef IMAGEPOSITION_HOST_PLATFORMPROCESS_H
-#define IMAGEPOSITION_HOST_PLATFORMPROCESS_H
+#ifndef IMAGEPOSITION_GUI_STARTUP_PLATFORMPROCESS_H
+#define IMAGEPOSITION_GUI_STARTUP_PLATFORMPROCESS_H
 
 namespace imageposition {
 
-/// Call before anything else of GNUstep. GNUstep takes every argument that begins with a hyphen for
-/// a user default, even after "--", and some defaults name code to load; from here on it knows the
-/// program's name as the only argument, and the environment as it is now.
+/// Leaves GNUstep the program's name as its only argument. It would take every argument that begins
+/// with a hyphen for a user default, even after "--", and some defaults name code to load. Call
+/// this before anything else of GNUstep.
 void hideArgumentsFromPlatform();
 
-/// Has GNUstep load a bundle (a theme, a back end, a bundle that a user default names) only if
-/// nobody else could have changed it. One that is not loaded is named on standard error.
+/// Makes GNUstep load a bundle (a theme, a back end, one that a user default names) only if no
+/// other user could have changed it. Names each that is not loaded on standard error.
 void refuseUntrustedBundles();
 
 } // namespace imageposition

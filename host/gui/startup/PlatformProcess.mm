@@ -40,7 +40,8 @@ void hideArgumentsFromPlatform() {
   std::string name = "print-dialog"; // also names the program's user defaults
   char *arguments[] = {name.data(), nullptr};
   [NSProcessInfo initializeWithArguments:arguments count:1 environment:environ];
-  [[[NSProcessInfo processInfo] debugSet] removeAllObjects]; // was filled from the arguments
+  // GNUstep filled it from the arguments while it was loaded.
+  [[[NSProcessInfo processInfo] debugSet] removeAllObjects];
 }
 
 void refuseUntrustedBundles() { loading().by(loadIfTrusted); }

@@ -26,7 +26,7 @@ Replaced &sleeping() {
   return it;
 }
 
-/// Whoever waits this way at the start looks again, with a deadline of its own.
+/// Every caller that waits this way at the start checks again, and has its own deadline.
 void sleepShortly(id, SEL, NSDate *date) {
   constexpr NSTimeInterval kLongest = 0.0002;
   const NSTimeInterval wanted = [date timeIntervalSinceNow];

@@ -1,6 +1,6 @@
-/// What is said when there is no display.
-#ifndef IMAGEPOSITION_HOST_STARTUPTEXTS_HPP
-#define IMAGEPOSITION_HOST_STARTUPTEXTS_HPP
+/// Messages about the display.
+#ifndef IMAGEPOSITION_GUI_STARTUP_STARTUPTEXTS_HPP
+#define IMAGEPOSITION_GUI_STARTUP_STARTUPTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,7 +8,6 @@
 
 namespace imageposition::messages {
 
-// The display.
 std::string displayUnreachable(const std::string &name);
 
 } // namespace imageposition::messages

@@ -1,6 +1,6 @@
 /// The dialog without a window.
-#ifndef IMAGEPOSITION_HOST_BATCHRUN_H
-#define IMAGEPOSITION_HOST_BATCHRUN_H
+#ifndef IMAGEPOSITION_PANELS_BATCH_BATCHRUN_H
+#define IMAGEPOSITION_PANELS_BATCH_BATCHRUN_H
 
 #include "BatchRequest.hpp"
 #import "PanelSession.h"
@@ -13,10 +13,10 @@
 
 namespace imageposition {
 
-/// Shows each panel (to nobody), uses its controls as asked, and prints: the job's settings then
-/// hold what the window would have left there. Answers the panels' summary. What a panel makes of a
-/// value that it does not take as it is goes to `notes`. `ppd` has the job's choices marked. Throws
-/// a `Failure`; a panel that raises is one.
+/// Puts each panel into a window that is never shown, and uses its controls as `request` says: the
+/// job's settings then hold what the window would have left there. Returns the panels' summaries.
+/// Writes a line to `notes` for each value that a panel changed. `ppd` has the job's choices
+/// marked. Throws a `Failure`, also if a panel raises.
 std::vector<SummarySection> runBatch(const PanelSession &session, ppd_file_t *ppd,
                                      const BatchRequest &request, std::ostream &notes);
 

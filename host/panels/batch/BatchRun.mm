@@ -45,7 +45,8 @@ struct UnseenPanel {
 
 using UnseenPanels = std::vector<std::unique_ptr<UnseenPanel>>;
 
-/// Runs what makes a panel's own code run, so that what it raises is a failure of its plug-in.
+/// Runs `body`, which calls the panel's code, and turns what that raises into a failure of its
+/// plug-in.
 template <typename Body> void actingOn(const PanelDriver &panel, const char *act, Body &&body) {
   std::optional<Failure> failure;
   const auto raised = whatIsRaisedBy([&] {

@@ -24,7 +24,7 @@ std::string fieldUnavailable(const std::string &name, const std::string &reason)
                                      .with(name);
   if (reason.empty())
     return sentences(
-        {offByPanel, text("The back side may have no offsets of its own (--back on).")});
+        {offByPanel, text("Separate offsets for the back side may be off (--back on).")});
   return sentences({offByPanel, reason});
 }
 const Text kNoSwitch = text("No panel has exactly one checkbox for --back.");

@@ -1,6 +1,6 @@
-/// Uses the controls of panels as a person does, but by name.
-#ifndef IMAGEPOSITION_HOST_PANELCONTROLS_H
-#define IMAGEPOSITION_HOST_PANELCONTROLS_H
+/// Uses the controls of panels as a user does, but by name.
+#ifndef IMAGEPOSITION_PANELS_BATCH_PANELCONTROLS_H
+#define IMAGEPOSITION_PANELS_BATCH_PANELCONTROLS_H
 
 #import <AppKit/AppKit.h>
 
@@ -12,13 +12,12 @@ namespace imageposition {
 
 /// The controls of a panel's view.
 ///
-/// Values that are set without a window take the way of typed ones: into the entry field, key by
-/// key, then Return. So the panel's filters, ranges, rules and switched-off controls have their
-/// say, and the job gets what the same keys in the window would give it; writing to the job's
-/// settings directly would go past all of them.
+/// Values are typed into the entry field, character by character, then Return. So the panel's
+/// filters, ranges, rules and disabled controls apply, and the job gets what the same keys in the
+/// window would give it; writing to the job's settings directly would bypass all of them.
 ///
-/// A panel's controls are known to the dialog as views only. Their names are those of the outlets
-/// to which its interface file connects them, in the object that receives their actions.
+/// The dialog knows a panel's controls only as views. It names them after the outlets that refer to
+/// them in the object that receives their actions.
 class PanelControls {
 public:
   /// The view must be in a window, shown or not.
@@ -29,18 +28,20 @@ public:
     std::string name;
   };
 
-  /// The editable entry fields in reading order; those without an outlet have no name.
+  /// The editable entry fields in the order of the view's subviews. A field without an outlet has
+  /// an empty name.
   const std::vector<Field> &fields() const noexcept { return fields_; }
-  /// Those of that name, or else those whose name begins so.
+  /// The field of that name, or else all whose names begin with it.
   std::vector<Field> fieldsNamed(const std::string &name) const;
 
   /// The checkboxes.
   const std::vector<NSButton *> &switches() const noexcept { return switches_; }
 
-  /// Replaces the content; answers what the field shows afterwards. None when the field is switched
-  /// off.
+  /// Replaces the content, and returns what the field shows afterwards. None if the field is
+  /// disabled.
   static std::optional<std::string> type(const Field &field, const std::string &text);
-  /// Clicks it unless it is so already. False when it would have to, and is switched off.
+  /// Clicks the button unless it is in that state already. False if it would have to, but the
+  /// button is disabled.
   static bool flip(NSButton *button, bool on);
 
 private:

@@ -16,7 +16,7 @@ bool holdsObject(Ivar variable) {
 }
 
 /// The name of the instance variable of `owner` that points to `object`; empty when there is none.
-/// Variables are compared, never followed: they may hold anything.
+/// Compares the variables without dereferencing them: they may hold anything.
 std::string outletOf(id owner, id object) {
   for (Class c = [owner class]; c != Nil; c = class_getSuperclass(c)) {
     unsigned int count = 0;
@@ -73,8 +73,8 @@ std::vector<PanelControls::Field> PanelControls::fieldsNamed(const std::string &
 
 std::optional<std::string> PanelControls::type(const Field &field, const std::string &text) {
   NSWindow *const window = [field.field window];
-  // A cell asks the field's editor for its text only once it knows the field, and learns that when
-  // it is drawn, which in a window that nobody sees it never is.
+  // A cell takes the editor's text only once it knows its field. It learns that when it is drawn,
+  // which never happens in a window that is not shown.
   [[field.field cell] setControlView:field.field];
   if (![field.field isEnabled] || ![window makeFirstResponder:field.field])
     return std::nullopt;

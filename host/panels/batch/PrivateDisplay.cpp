@@ -27,7 +27,7 @@ namespace {
 constexpr int kPatienceInMilliseconds = 20000;
 constexpr std::size_t kLongestReason = 1000;
 
-/// The first Xvfb on PATH that nobody else could change or replace; empty when there is none. A
+/// The first Xvfb on PATH that no other user could change or replace; empty if there is none. A
 /// part of PATH that depends on the current folder does not count: that may be anybody's.
 std::string findServer() {
   const char *const path = std::getenv("PATH");
@@ -41,9 +41,9 @@ std::string findServer() {
   return {};
 }
 
-/// Where the server and this program read what a client has to say; empty when that fails. Without
-/// it every user of the computer could connect, look at the panel and type into it. It is in memory
-/// alone, and only this user's programs can open it.
+/// The path of the key that a client of the server needs; empty on failure. Without it every user
+/// of the computer could connect, look at the panel and type into it. The key is in memory alone,
+/// and only this user's programs can read it.
 std::string makeAuthority() {
   // As Xau(3) describes it: any address, any display, the method's name, the cookie.
   std::string entry("\xFF\xFF\0\0\0\0\0\x12MIT-MAGIC-COOKIE-1\0\x10", 28);
@@ -58,7 +58,7 @@ std::string makeAuthority() {
   return "/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(descriptor);
 }
 
-/// In the child: becomes the server, or ends. Only calls that are safe after fork.
+/// Becomes the server, or ends. For the child: calls only what is safe after fork.
 [[noreturn]] void becomeServer(const char *program, int announcement, int errors, pid_t parent,
                                const char *authority) {
   prctl(PR_SET_PDEATHSIG, SIGTERM);
@@ -77,7 +77,7 @@ std::string makeAuthority() {
   _exit(127);
 }
 
-/// The display's number as the server announces it; empty when it ends or takes too long.
+/// The number of the display, as the server announces it; empty if it ends or takes too long.
 std::string awaitNumber(int announcement) {
   std::string number;
   pollfd waiting{announcement, POLLIN, 0};
@@ -95,7 +95,7 @@ std::string awaitNumber(int announcement) {
   return {};
 }
 
-/// What the server has written, as one line.
+/// The server's messages as one line.
 std::string reasonIn(const Descriptor &errors) {
   std::string written(kLongestReason, '\0');
   const ssize_t length = pread(errors.get(), written.data(), written.size(), 0);

@@ -1,18 +1,19 @@
-/// A display for views that nobody looks at.
-#ifndef IMAGEPOSITION_HOST_PRIVATEDISPLAY_HPP
-#define IMAGEPOSITION_HOST_PRIVATEDISPLAY_HPP
+/// A display for views that are never shown.
+#ifndef IMAGEPOSITION_PANELS_BATCH_PRIVATEDISPLAY_HPP
+#define IMAGEPOSITION_PANELS_BATCH_PRIVATEDISPLAY_HPP
 
 namespace imageposition {
 
-/// Whether DISPLAY names anything at all.
+/// Whether DISPLAY is set, and not empty.
 bool isDisplayNamed();
 
-/// Starts an Xvfb of this process's own, from an absolute part of PATH in which nobody else could
-/// have put it, waits until it answers, and names it in DISPLAY, and in
-/// XAUTHORITY what to say to it: other users' programs cannot connect. It ends
-/// when this process does and not before: the platform's connection to it is never closed, and
-/// losing it would end the process. Throws a `Failure` with `ExitCode::Display`,
-/// which has what Xvfb said.
+/// Starts an Xvfb for this process alone and waits until it is ready. Sets DISPLAY to it, and
+/// XAUTHORITY to its key, without which other users' programs cannot connect. The program is the
+/// first Xvfb in an absolute folder of PATH that no other user could have changed.
+///
+/// The server ends with this process and not before: GNUstep never closes its connection, and would
+/// end the process if it lost it. Throws a `Failure` with `ExitCode::Display` and Xvfb's own
+/// message.
 void startPrivateDisplay();
 
 } // namespace imageposition

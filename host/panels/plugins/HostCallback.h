@@ -1,19 +1,19 @@
-/// What panels may ask of the dialog.
-#ifndef IMAGEPOSITION_HOST_HOSTCALLBACK_H
-#define IMAGEPOSITION_HOST_HOSTCALLBACK_H
+/// What panels may ask the dialog for.
+#ifndef IMAGEPOSITION_PANELS_PLUGINS_HOSTCALLBACK_H
+#define IMAGEPOSITION_PANELS_PLUGINS_HOSTCALLBACK_H
 
 #import "MorvaADPPdeCallbackRV2.h"
 
-/// Answers with what the dialog owns. A plug-in that keeps it longer than the dialog lives gets
-/// null.
+/// Returns what the dialog owns, or null to a plug-in that keeps this object longer than the dialog
+/// lives.
 @interface HostCallback : NSObject <MorvaADPPdeCallbackRV2> {
   ppd_file_t *ppd;
   PMPrintSettings settings;
 }
 
-/// Owns neither.
+/// Borrows both.
 - (id)initWithPpd:(ppd_file_t *)printer settings:(PMPrintSettings)job;
-/// From now on both answers are null.
+/// Returns null for both from now on.
 - (void)forget;
 
 @end

@@ -1,8 +1,8 @@
 #import "PluginLoader.h"
 
-#include "ExitCode.hpp"
 #import "Guard.h"
 #include "LibraryFile.hpp"
+#include "PluginFolders.hpp"
 #include "PluginLibraries.hpp"
 #include "PluginTexts.hpp"
 
@@ -44,7 +44,7 @@ NSBundle *bundleAt(const std::string &path) {
   if (!std::filesystem::exists(path, failed) && !failed)
     refuse(messages::pluginMissing(path));
   checkTrust(path, path);
-  // Nobody else can redirect the path any more.
+  // No other user can redirect the path from here on.
   const std::string real = std::filesystem::canonical(path, failed).string();
   if (failed)
     refuse(messages::pluginUnexamined(path, path, systemReason(failed.value())));
@@ -53,8 +53,8 @@ NSBundle *bundleAt(const std::string &path) {
   NSString *const code = [bundle executablePath];
   if (code == nil || ![[NSFileManager defaultManager] isReadableFileAtPath:code])
     refuse(messages::pluginNotBundle(path));
-  checkTrust(toText(code), path); // which a bundle may say is elsewhere
-  // For a second copy of a bundle the platform answers the first one.
+  checkTrust(toText(code), path); // a bundle may name code outside itself
+  // For a second copy of a bundle GNUstep returns the first one.
   if (!std::filesystem::equivalent(real, toText([bundle bundlePath]), failed))
     refuse(messages::pluginClassTaken(
         path,
@@ -62,7 +62,7 @@ NSBundle *bundleAt(const std::string &path) {
   return bundle;
 }
 
-/// The platform says why only in its log; the loader says it again when asked.
+/// GNUstep writes the reason only to its log; the dynamic loader gives it again.
 std::string loadingTrouble(NSBundle *bundle) {
   const char *reason = nullptr;
   if (dlopen(toText([bundle executablePath]).c_str(), RTLD_NOW | RTLD_LOCAL) == nullptr)
@@ -106,7 +106,7 @@ Plugin::Plugin(const std::string &path) : path_(path) {
   BOOL started = NO;
   const auto raised = whatIsRaisedBy([&] {
     plugin_ = [principal alloc];
-    // A one-byte boolean and not the object.
+    // Returns a one-byte boolean instead of the object.
     started = [plugin_ initWithBundle:bundle];
   });
   if (raised)
@@ -134,6 +134,21 @@ std::vector<std::unique_ptr<PanelDriver>> Plugin::panels(id hostInfo) {
   for (NSUInteger i = 0; i < [answer count]; i++)
     panels.push_back(std::make_unique<PanelDriver>([answer objectAtIndex:i], path_));
   return panels;
+}
+
+Plugin &LoadedPlugins::at(const std::string &path) {
+  const std::string bundle = bundleIdentity(path);
+  if (const auto failure = failures_.find(bundle); failure != failures_.end())
+    throw failure->second;
+  std::unique_ptr<Plugin> &plugin = plugins_[bundle];
+  try {
+    if (!plugin)
+      plugin = std::make_unique<Plugin>(path);
+  } catch (const Failure &failure) {
+    failures_.emplace(bundle, failure);
+    throw;
+  }
+  return *plugin;
 }
 
 } // namespace imageposition

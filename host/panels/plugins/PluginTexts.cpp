@@ -8,7 +8,7 @@ std::string pluginMissing(const std::string &path) {
   return text("The plug-in \"{1}\" does not exist. Check the path.").with(path);
 }
 std::string pluginNotBundle(const std::string &path) {
-  return text("\"{1}\" is not a plug-in: it is no bundle with code in it. Check the path, or "
+  return text("\"{1}\" is not a plug-in: it is not a bundle with code. Check the path, or "
               "install it again.")
       .with(path);
 }
@@ -75,7 +75,7 @@ std::string pluginClassTaken(const std::string &path, const std::string &classNa
       .with(path, className);
 }
 std::string pluginWithoutOperation(const std::string &path, const std::string &operation) {
-  return text("The plug-in \"{1}\" is no print-dialog extension: its principal class lacks "
+  return text("The plug-in \"{1}\" is not a print-dialog extension: its principal class lacks "
               "\"{2}\". Ask its maker for another version.")
       .with(path, operation);
 }

@@ -1,6 +1,6 @@
-/// What is said about plug-ins that cannot be used.
-#ifndef IMAGEPOSITION_HOST_PLUGINTEXTS_HPP
-#define IMAGEPOSITION_HOST_PLUGINTEXTS_HPP
+/// Messages about plug-ins that cannot be used.
+#ifndef IMAGEPOSITION_PANELS_PLUGINS_PLUGINTEXTS_HPP
+#define IMAGEPOSITION_PANELS_PLUGINS_PLUGINTEXTS_HPP
 
 #include "PluginTrust.hpp"
 #include "Text.hpp"
@@ -9,7 +9,6 @@
 
 namespace imageposition::messages {
 
-// Plug-ins.
 std::string pluginMissing(const std::string &path);
 std::string pluginNotBundle(const std::string &path);
 /// `part` is the bundle, something in it, or a folder on the way.
@@ -18,13 +17,13 @@ std::string pluginOwnedByOthers(const std::string &path, const std::string &part
 /// `part` is also a library's place that `pluginLoadsCode` is about.
 std::string pluginUnexamined(const std::string &path, const std::string &part,
                              const std::string &reason);
-/// `library` is the file that has the loader look in `place`, which other users may change.
+/// `library` is the file that makes the loader look in `place`, which other users may change.
 std::string pluginLoadsCode(const std::string &path, const std::string &library,
                             const std::string &place);
-/// As before; the place depends on the current folder.
+/// The same for a place that depends on the current folder.
 std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &library,
                                     const std::string &place);
-/// The one of these three that is about `part`.
+/// The message of the above that fits `part`.
 std::string pluginUntrusted(const std::string &path, const UntrustedPart &part);
 extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);

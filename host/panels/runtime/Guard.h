@@ -1,6 +1,6 @@
-/// Calls into foreign code, with whatever it raises caught and put into words.
-#ifndef IMAGEPOSITION_HOST_GUARD_H
-#define IMAGEPOSITION_HOST_GUARD_H
+/// Calls into code that may raise: catches what it raises, and describes it.
+#ifndef IMAGEPOSITION_PANELS_RUNTIME_GUARD_H
+#define IMAGEPOSITION_PANELS_RUNTIME_GUARD_H
 
 #import <Foundation/Foundation.h>
 
@@ -8,8 +8,8 @@
 extern "C" {
 #endif
 
-/// Runs `body`; null when it raised nothing, else the name and reason of what it raised. Plain
-/// Objective-C: this runtime's C++ front end hands over no usable exception object.
+/// Runs `body`. Returns the name and reason of what it raised, or null. In plain Objective-C,
+/// because g++ passes no usable exception object to a `@catch` in Objective-C++.
 NSString *IPWhatIsRaisedBy(void (*body)(void *context), void *context);
 
 #ifdef __cplusplus
@@ -23,7 +23,7 @@ NSString *IPWhatIsRaisedBy(void (*body)(void *context), void *context);
 
 namespace imageposition {
 
-/// The same for any callable, C++ exceptions of any type included; none when nothing was raised.
+/// The same for any callable, and for C++ exceptions of any type. None if nothing was raised.
 template <typename Body> std::optional<std::string> whatIsRaisedBy(Body &&body) {
   struct Call {
     Body &body;
@@ -37,7 +37,7 @@ template <typename Body> std::optional<std::string> whatIsRaisedBy(Body &&body) 
       inner.exception = exception.what();
     }
   };
-  // Catching everything there would catch what Objective-C raises, without a word of it.
+  // A catch-all in `callBody` would also catch Objective-C exceptions, without a description.
   try {
     NSString *const raised = IPWhatIsRaisedBy(callBody, &call);
     return raised != nil ? toText(raised) : call.exception;

@@ -1,13 +1,13 @@
-/// The platform's pool of objects that somebody has finished with.
-#ifndef IMAGEPOSITION_HOST_POOL_H
-#define IMAGEPOSITION_HOST_POOL_H
+/// An autorelease pool for a scope.
+#ifndef IMAGEPOSITION_PANELS_RUNTIME_POOL_H
+#define IMAGEPOSITION_PANELS_RUNTIME_POOL_H
 
 #import <Foundation/Foundation.h>
 
 namespace imageposition {
 
-/// For one step of the start: what the step leaves behind is used again by the next. Objects that
-/// the step answers must be somebody's own.
+/// For one step of the start: the next step reuses the memory that this one frees. An object that
+/// the step returns must be retained.
 class Pool {
 public:
   Pool() = default;

@@ -1,12 +1,12 @@
-/// An operation of the platform whose implementation is another, for a while or for good.
-#ifndef IMAGEPOSITION_HOST_REPLACED_H
-#define IMAGEPOSITION_HOST_REPLACED_H
+/// Replaces the implementation of one of GNUstep's methods, for a while or for good.
+#ifndef IMAGEPOSITION_PANELS_RUNTIME_REPLACED_H
+#define IMAGEPOSITION_PANELS_RUNTIME_REPLACED_H
 
 #include <objc/runtime.h>
 
 namespace imageposition {
 
-/// Does nothing where the platform has no such operation.
+/// Does nothing if GNUstep has no such method.
 class Replaced {
 public:
   static Replaced classOperation(Class owner, SEL operation) {
@@ -16,7 +16,7 @@ public:
     return Replaced(class_getInstanceMethod(owner, operation));
   }
 
-  /// With a function of the operation's own arguments and answer.
+  /// `other` takes the method's arguments, `self` and `_cmd` included, and returns its type.
   template <typename Function> void by(Function *other) {
     if (method_ != nullptr && before_ == nullptr)
       before_ =
@@ -27,7 +27,7 @@ public:
       method_setImplementation(method_, before_);
     before_ = nullptr;
   }
-  /// The platform's own, while it is replaced.
+  /// The original implementation, while it is replaced.
   template <typename Function> Function *before() const {
     return reinterpret_cast<Function *>(reinterpret_cast<void *>(before_));
   }

@@ -21,9 +21,9 @@ public:
   PanelSession(const PanelSession &) = delete;
   PanelSession &operator=(const PanelSession &) = delete;
 
-  /// Loads each plug-in and takes its panels. One that fails is left out, with its message among
-  /// the troubles.
-  void load(const std::vector<std::string> &plugins);
+  /// Asks the plug-in at each path for its panels. One that fails is left out, with its message
+  /// among the troubles. `loaded` outlives the session.
+  void load(const std::vector<std::string> &paths, LoadedPlugins &loaded);
 
   /// Makes entered values of the panels' options into plain numbers, as panels read them: where the
   /// panels were missing, these options could be entered as the printer's own. For settings that
@@ -47,7 +47,6 @@ private:
   const PrintSettingsStore before_;
   PrintSettingsHandle handle_;
   HostCallback *callback_; // owned
-  std::vector<std::unique_ptr<Plugin>> plugins_;
   std::vector<std::unique_ptr<PanelDriver>> panels_;
   std::vector<std::string> troubles_;
 };

@@ -14,17 +14,14 @@ PanelSession::PanelSession(PrinterDescription &printer, PrintSettingsStore &sett
 
 PanelSession::~PanelSession() {
   panels_.clear();
-  plugins_.clear();
   [callback_ forget];
   [callback_ release];
 }
 
-void PanelSession::load(const std::vector<std::string> &plugins) {
-  for (const std::string &path : plugins) {
+void PanelSession::load(const std::vector<std::string> &paths, LoadedPlugins &loaded) {
+  for (const std::string &path : paths) {
     try {
-      auto plugin = std::make_unique<Plugin>(path);
-      auto panels = plugin->panels(callback_);
-      plugins_.push_back(std::move(plugin));
+      auto panels = loaded.at(path).panels(callback_);
       std::move(panels.begin(), panels.end(), std::back_inserter(panels_));
     } catch (const Failure &failure) {
       troubles_.push_back(failure.what());

@@ -32,6 +32,7 @@ public:
 
 private:
   PrintJob &job_;
+  LoadedPlugins loaded_; // also those that only earlier printers named
   std::vector<std::string> plugins_;
   std::unique_ptr<PanelSession> panels_; // refers to the job's printer and settings
 };

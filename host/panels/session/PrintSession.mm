@@ -13,7 +13,7 @@ void PrintSession::loadPanels() {
       findPlugins({job_.arguments().plugins, job_.printer().attributeValues("APDialogExtension")},
                   pluginFolders());
   panels_ = std::make_unique<PanelSession>(job_.printer(), job_.settings());
-  panels_->load(plugins_);
+  panels_->load(plugins_, loaded_);
 }
 
 void PrintSession::chooseQueue(const std::string &queue) {

@@ -58,12 +58,13 @@ TEST_P(Hardening, ItsFunctionsAreMarkedWhereTheyBegin) {
 #endif
 
 std::string nameOf(const testing::TestParamInfo<const char *> &info) {
-  static const char *const kNames[] = {"Program", "PrintCore", "Plugin"};
+  static const char *const kNames[] = {"Program", "Module", "PrintCore", "Plugin"};
   return kNames[info.index];
 }
 
 const std::vector<const char *> kCode{
     PRINT_DIALOG,
+    CODE_OF_MODULE,
     CODE_OF_PRINT_CORE,
     CODE_OF_PLUGIN,
 };

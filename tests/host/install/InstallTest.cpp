@@ -15,11 +15,19 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
+const char *const kModule = "print-dialog-gnustep.so";
+
 /// `before` is what runs the command.
 void install(const std::string &prefix, std::vector<std::string> before = {}) {
   before.insert(before.end(), {CMAKE, "--install", IMAGEPOSITION_BINARY, "--prefix", prefix});
   const auto result = runProcess(before);
   ASSERT_EQ(result.status, 0) << testing::PrintToString(result);
+}
+
+/// What needs the module.
+std::vector<std::string> panelRun(const std::string &program) {
+  return {program, "--batch",     "--ppd",    IMAGEPOSITION_SAMPLES "/duplex-shift.ppd",
+          "--set", "FrontLRM=-3", "--summary"};
 }
 
 class Install : public testing::Test {
@@ -34,7 +42,8 @@ protected:
 
   static std::string prefix() { return folder->path("moved"); }
   static std::string program() { return prefix() + "/bin/print-dialog"; }
-  /// The only folder of that name, wherever this system has its libraries.
+  static ProcessResult setPanel() { return runProcess(panelRun(program())); }
+  /// The only file or folder of that name, wherever this system has its libraries.
   static std::string find(const std::string &name) {
     for (const auto &entry : std::filesystem::recursive_directory_iterator(prefix()))
       if (entry.path().filename() == name)
@@ -56,6 +65,7 @@ TEST_F(Install, PutsEverythingWhereOthersLookForIt) {
         "share/locale/de/LC_MESSAGES/print-dialog.mo"})
     EXPECT_TRUE(std::filesystem::is_regular_file(prefix() + "/" + name)) << name;
   EXPECT_THAT(find("MorvaADPImagePosition.plugin"), HasSubstr("/print-dialog/plugins/"));
+  EXPECT_THAT(find(kModule), HasSubstr("/print-dialog/"));
 }
 
 TEST_F(Install, TheProgramRuns) {
@@ -65,10 +75,7 @@ TEST_F(Install, TheProgramRuns) {
 }
 
 TEST_F(Install, ThePlugInIsFoundWithTheProgram) {
-  const std::vector<std::string> line{
-      program(), "--batch",     "--ppd",    IMAGEPOSITION_SAMPLES "/duplex-shift.ppd",
-      "--set",   "FrontLRM=-3", "--summary"};
-  const auto result = runProcess(line);
+  const auto result = setPanel();
   EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
   EXPECT_THAT(result.output, HasSubstr("LeftRightMargin=-3\n"));
   EXPECT_THAT(result.output, HasSubstr("Left-right offset (\xC3\x97 0.1 mm): -3\n"));
@@ -76,7 +83,7 @@ TEST_F(Install, ThePlugInIsFoundWithTheProgram) {
   const std::string plugin = find("MorvaADPImagePosition.plugin");
   std::filesystem::rename(plugin, plugin + ".away");
   std::filesystem::create_directory(plugin);
-  const auto emptied = runProcess(line);
+  const auto emptied = setPanel();
   std::filesystem::remove(plugin);
   std::filesystem::rename(plugin + ".away", plugin);
   EXPECT_THAT(emptied.errors, HasSubstr(std::filesystem::canonical(plugin).string()));
@@ -97,9 +104,58 @@ TEST_F(Install, TheCataloguesAreFoundWithTheProgram) {
 TEST_F(Install, ALinkToTheProgramServesAsWell) {
   const std::string link = folder->path("link");
   std::filesystem::create_symlink(program(), link);
-  const auto result = runProcess(
-      {link, "--batch", "--ppd", IMAGEPOSITION_SAMPLES "/duplex-shift.ppd", "--set", "FrontLRM=1"});
+  const auto result = runProcess(panelRun(link));
   EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
+}
+
+/// The module that is installed, spoilt.
+class InstallOfTheModule : public Install {
+protected:
+  void SetUp() override { std::filesystem::copy_file(module, kept); }
+  void TearDown() override {
+    std::filesystem::rename(kept, module);
+    EXPECT_EQ(setPanel().status, 0);
+  }
+
+  void expectFailure(const std::string &reason) const {
+    const auto result = runProcess(panelRun(program()), {"FIXTURE_JOURNAL=/dev/null"});
+    EXPECT_EQ(result.status, 10) << testing::PrintToString(result);
+    EXPECT_THAT(result.errors, HasSubstr(module));
+    EXPECT_THAT(result.errors, HasSubstr(reason));
+    EXPECT_THAT(result.errors, HasSubstr("Install print-dialog"));
+    EXPECT_EQ(runProcess({program(), "--version"}).status, 0);
+  }
+
+  const std::string module = std::filesystem::canonical(find(kModule)).string();
+  const std::string kept = module + ".kept";
+};
+
+TEST_F(InstallOfTheModule, ThatIsMissingIsSaid) {
+  std::filesystem::remove(module);
+  expectFailure("is missing");
+}
+
+TEST_F(InstallOfTheModule, ThatIsCutShortIsSaid) {
+  std::filesystem::resize_file(module, 100000);
+  expectFailure("its end is missing");
+}
+
+TEST_F(InstallOfTheModule, ThatIsNoCodeIsSaidWithTheLoadersReason) {
+  std::filesystem::resize_file(module, 0);
+  std::ofstream(module) << "no code";
+  expectFailure("could not be loaded (");
+}
+
+TEST_F(InstallOfTheModule, ThatIsAnotherLibraryIsSaid) {
+  std::filesystem::remove(module);
+  buildLibrary(module, "another", {});
+  expectFailure("printDialogRun");
+}
+
+TEST_F(InstallOfTheModule, ThatOtherUsersMayChangeIsRefused) {
+  std::filesystem::permissions(module, std::filesystem::perms::others_write,
+                               std::filesystem::perm_options::add);
+  expectFailure("another user could change");
 }
 
 /// The program in a folder where everybody may have files, as in /tmp.
@@ -125,10 +181,11 @@ protected:
 
 TEST_F(InstallAmongOthers, TheProgramTakesNoLibraryFromBesideIt) {
   const std::string journal = folder.path("journal");
-  for (const char *name : {"libGL.so.1", "libcups.so.2", "libPrintCore.so"}) {
+  for (const char *name :
+       {"libGL.so.1", "libcups.so.2", "libPrintCore.so", "libgnustep-gui.so.0.29", kModule}) {
     buildLibrary(place + "/" + name, name, {std::string("-Wl,-soname,") + name});
     giveAway(place + "/" + name);
-    const auto result = runProcess({program, "--version"}, {"FIXTURE_JOURNAL=" + journal});
+    const auto result = runProcess(panelRun(program), {"FIXTURE_JOURNAL=" + journal});
     EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
     EXPECT_THAT(contentOf(journal), IsEmpty());
     std::filesystem::remove(place + "/" + name);

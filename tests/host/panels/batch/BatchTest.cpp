@@ -140,7 +140,7 @@ TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreOffToo) {
 TEST_F(Batch, TheBackSidesFieldsNeedTheCheckbox) {
   const auto result = batch(shift, {"--set", "BackLRM=1"});
   EXPECT_EQ(result.status, kValue);
-  EXPECT_THAT(result.errors, HasSubstr("off. The back side may have"));
+  EXPECT_THAT(result.errors, HasSubstr("off. Separate offsets for the back side"));
   EXPECT_EQ(batch(shift, {"--set", "BackLRM=1", "--back", "on"}).status, kDone);
 }
 

@@ -96,13 +96,13 @@ TEST_F(PluginLoading, APanelThatRefusesTheJobStopsIt) {
 
 TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
   expectLeftOut(load(folder.path("none.plugin"), ""), "does not exist");
-  expectLeftOut(load(folder.write("file.plugin", "text"), ""), "no bundle");
+  expectLeftOut(load(folder.write("file.plugin", "text"), ""), "not a bundle with code");
   fs::create_directory(folder.path("empty.plugin"));
-  expectLeftOut(load(folder.path("empty.plugin"), ""), "no bundle");
+  expectLeftOut(load(folder.path("empty.plugin"), ""), "not a bundle with code");
 
   const std::string withoutCode = copy("withoutCode.plugin");
   fs::remove(withoutCode + "/Fixture");
-  expectLeftOut(load(withoutCode, ""), "no bundle");
+  expectLeftOut(load(withoutCode, ""), "not a bundle with code");
 
   const std::string damaged = copy("damaged.plugin");
   std::ofstream(damaged + "/Fixture") << "no code";

@@ -1,0 +1,101 @@
+#include "CommandLine.hpp"
+#include "ExitStatus.hpp"
+#include "GnustepModule.hpp"
+#include "Language.hpp"
+#include "OptionConflicts.hpp"
+#include "OptionList.hpp"
+#include "PasswordQuestion.hpp"
+#include "Phrases.hpp"
+#include "PrintJob.hpp"
+#include "ProgramTexts.hpp"
+#include "StandardDescriptors.hpp"
+#include "StandardOutput.hpp"
+#include "StartTexts.hpp"
+#include "VisibleText.hpp"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <unistd.h>
+#include <utility>
+
+using namespace imageposition;
+
+namespace {
+
+void checkDocument(const std::string &path) {
+  std::error_code ignored;
+  const bool isFolder = std::filesystem::is_directory(path, ignored);
+  if (isFolder || access(path.c_str(), R_OK) != 0)
+    throw Failure(ExitCode::Usage,
+                  messages::documentUnreadable(path, systemReason(isFolder ? EISDIR : errno)));
+}
+
+/// For every thread: libcups keeps what its own functions set for one thread alone.
+void takeOverEnvironment(const Arguments &arguments) {
+  const std::pair<const char *, std::string> variables[] = {
+      {"CUPS_SERVER", arguments.server},
+      {"CUPS_USER", arguments.user},
+      {"CUPS_ENCRYPTION", arguments.isEncrypted ? "Required" : ""},
+      {"PRINT_DIALOG_APPEARANCE", arguments.appearance},
+      {"PRINT_DIALOG_TEXT_SCALE", arguments.textScale}};
+  for (const auto &[name, value] : variables)
+    if (!value.empty())
+      setenv(name, value.c_str(), 1);
+}
+
+ExitCode listOptions(const Arguments &arguments) {
+  PrintJob job(arguments);
+  std::cout << writeOptionList(PrinterOptions(job.printer(), job.settings()).all());
+  constexpr std::size_t kMostConflicts = 20;
+  OptionConflicts conflicts(job.printer(), job.settings());
+  for (const std::string &sentence : conflicts.sentences(kMostConflicts))
+    std::cerr << messages::kProgram << sentence << '\n';
+  requireOutput();
+  return ExitCode::Done;
+}
+
+/// With everything that GNUstep must not see taken away before it is loaded.
+ExitCode runOnGnustep(const Arguments &arguments) {
+  leaveOutForeignVariables();
+  if (const auto part = leaveOutPlatformVariables())
+    std::cerr << messages::kProgram << messages::configurationUntrusted(part->path) << '\n';
+  return loadGnustepModule()(arguments);
+}
+
+ExitCode run(const std::vector<std::string> &words) {
+  const auto request = readCommandLine(words);
+  if (const auto *answer = std::get_if<Answer>(&request)) {
+    std::cout << answer->text;
+    requireOutput();
+    return ExitCode::Done;
+  }
+  const Arguments &arguments = std::get<Arguments>(request);
+  takeOverEnvironment(arguments);
+  const TerminalWarning warning(std::cerr);
+  for (const std::string &path : arguments.documents)
+    if (path != "-")
+      checkDocument(path);
+  return arguments.isListingOptions ? listOptions(arguments) : runOnGnustep(arguments);
+}
+
+ExitCode runProgram(int argc, char **argv) {
+  const std::string catalogues = catalogueFolder();
+  speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  refuseForeignArguments(words);
+  return run(words);
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  keepStandardDescriptors();
+  const VisibleStream output(std::cout), errors(std::cerr);
+  // A write beyond the limit for files then fails instead of ending the program. Programs that it
+  // starts do not inherit the handler, and end as ever.
+  std::signal(SIGXFSZ, [](int) {});
+  return static_cast<int>(exitCodeOf([=] { return runProgram(argc, argv); }, std::cerr));
+}
