@@ -140,12 +140,13 @@ std::optional<std::string> nearestValue(const CustomOption &option, const std::s
 /// Of a value that the option does not take.
 FittedSetting fitOther(ppd_file_t *ppd, const ppd_option_t &option, const std::string &value) {
   const std::string text = textOrKeyword(option.text, option.keyword);
+  const bool isHidden = isHiddenValue(ppd, option.keyword, value);
   const auto custom = customOption(ppd, option.keyword);
-  if (!custom || !readCustomValue(*custom, value)) {
-    const bool isHidden = isHiddenValue(ppd, option.keyword, value);
+  if (!custom || !readCustomValue(*custom, value))
     return {std::nullopt, messages::misfitChoice(text, isHidden ? kHiddenValue : value)};
-  }
-  if (const auto nearest = nearestValue(*custom, value))
+  // Any other PIN or password is a wrong one.
+  const auto nearest = isHidden ? std::nullopt : nearestValue(*custom, value);
+  if (nearest)
     return {nearest, messages::broughtIntoRange(
                          text, withoutCustomPrefix(value), withoutCustomPrefix(*nearest),
                          rangeText(custom->parameters.front(), LengthUnit::Point))};

@@ -44,10 +44,11 @@ struct FittedSetting {
   std::string change;               ///< In a sentence; empty when the value stays as it is.
 };
 
-/// A value that the printer takes stays, and a number out of its range becomes the nearest in it;
-/// any other is left out. Names that the PPD does not have stay when `isKept`. Two kinds of them
-/// always stay: CUPS's own ("copies", "number-up", ...), which have no capital letter, and those
-/// with a dot ("com.example.Shift"), which only panels have: the panel decides on its values.
+/// A value that the printer takes stays, and a number out of its range becomes the nearest in it,
+/// unless nobody else may read it; any other is left out. Names that the PPD does not have stay
+/// when `isKept`. Two kinds of them always stay: CUPS's own ("copies", "number-up", ...), which
+/// have no capital letter, and those with a dot ("com.example.Shift"), which only panels have: the
+/// panel decides on its values.
 FittedSetting fitSetting(ppd_file_t *ppd, const std::string &name, const std::string &value,
                          bool isKept);
 

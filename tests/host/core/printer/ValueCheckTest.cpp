@@ -10,7 +10,9 @@ namespace {
 
 using namespace imageposition;
 using imageposition::test::optionsPrinter;
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 using testing::Optional;
 
 class ValueCheck : public testing::Test {
@@ -52,6 +54,20 @@ TEST_F(ValueCheck, AcceptsWhatCanBeChosen) {
       EXPECT_EQ(options.choose(keyword, value), isAccepted);
       EXPECT_EQ(fitted(keyword, value).change.empty(), isAccepted);
     }
+}
+
+TEST_F(ValueCheck, NeitherChangesNorRepeatsAPinThatIsOutOfRange) {
+  const PrinterDescription locked = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
+*OpenUI *UserPin/PIN: PickOne
+*DefaultUserPin: None
+*UserPin None/None: ""
+*CloseUI: *UserPin
+*CustomUserPin True: "pop"
+*ParamCustomUserPin Pin/PIN: 1 int 0 9999
+)ppd");
+  const FittedSetting pin = fitSetting(locked.ppd(), "UserPin", "Custom.12345", false);
+  EXPECT_FALSE(pin.value);
+  EXPECT_THAT(pin.change, AllOf(HasSubstr("PIN"), Not(HasSubstr("12345"))));
 }
 
 TEST_F(ValueCheck, KeepsNamesThatTheDescriptionDoesNotHaveWhereTheyMayBeKnown) {
