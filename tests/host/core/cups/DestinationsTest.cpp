@@ -147,7 +147,7 @@ TEST_F(PrinterList, LetsGoOfAnOpenQuestion) {
   const auto start = std::chrono::steady_clock::now();
   {
     Destinations printers;
-    printers.refresh(std::chrono::milliseconds(500));
+    printers.refresh({}, std::chrono::milliseconds(500));
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
 }
