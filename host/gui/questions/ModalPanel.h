@@ -12,6 +12,10 @@ namespace imageposition {
 
 constexpr CGFloat kPanelMargin = 20;
 
+/// In place of NSAlert and NSSavePanel, which in GNUstep do not close on Escape and have no keys
+/// for their buttons; an alert's title is always "Alert", and a save panel is a browser from the
+/// root of the file system that does not speak the user's language.
+///
 /// A window with a button that confirms and, if that has a title, one that cancels. The space from
 /// `bottom` on is for other views.
 class ModalPanel {

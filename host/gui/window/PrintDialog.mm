@@ -84,7 +84,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)buildParts {
-  message = [[MessageView alloc] initWithFrame:NSMakeRect(0, 0, 100, 100)];
+  message = [[MessageView alloc] initWithFrame:NSZeroRect];
   picture = [[PreviewView alloc] initWithFrame:NSZeroRect];
   printers = [[PrinterRow alloc] initWithDialog:self wake:*state->wake];
   presets = [[PresetRow alloc] initWithDialog:self];

@@ -6,6 +6,10 @@
 #include <csignal>
 #include <cstdlib>
 
+#include <chrono>
+#include <future>
+#include <memory>
+
 namespace {
 
 using namespace imageposition;
@@ -140,6 +144,26 @@ TEST_F(PrinterList, TellsWhetherSomethingIsNew) {
   printers.refresh();
   ASSERT_TRUE(comesTrue([&] { return printers.takeAnswer(); }));
   EXPECT_EQ(printers.list().find("office")->stateText, "Stopped: paused");
+}
+
+TEST_F(PrinterList, SignalsAnAnswerOnceItCanBeTaken) {
+  Destinations printers;
+  std::promise<void> answered;
+  printers.refresh([&] { answered.set_value(); });
+  ASSERT_EQ(answered.get_future().wait_for(std::chrono::seconds(30)), std::future_status::ready);
+  EXPECT_TRUE(printers.takeAnswer());
+  EXPECT_NE(printers.list().find("office"), nullptr);
+}
+
+TEST_F(PrinterList, SignalsAnAnswerEvenAfterNobodyWantsIt) {
+  cups().send(SIGSTOP);
+  auto answered = std::make_shared<std::promise<void>>();
+  {
+    Destinations printers;
+    printers.refresh([answered] { answered->set_value(); });
+  }
+  cups().send(SIGCONT);
+  EXPECT_EQ(answered->get_future().wait_for(std::chrono::seconds(30)), std::future_status::ready);
 }
 
 TEST_F(PrinterList, LetsGoOfAnOpenQuestion) {
