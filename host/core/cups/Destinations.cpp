@@ -193,15 +193,17 @@ struct Destinations::Answer {
 Destinations::Destinations() = default;
 Destinations::~Destinations() = default;
 
-void Destinations::refresh(std::chrono::milliseconds patience) {
+void Destinations::refresh(std::function<void()> answered, std::chrono::milliseconds patience) {
   if (answer_)
     return;
   answer_ = std::make_shared<Answer>();
   // Looking up a server's name can take longer than any patience; nobody waits for this thread.
   try {
-    std::thread([answer = answer_, patience] {
+    std::thread([answer = answer_, answered = std::move(answered), patience] {
       answer->list = readDestinations(patience);
       answer->isThere = true;
+      if (answered)
+        answered();
     }).detach();
   } catch (const std::system_error &) { // too many processes; there may be fewer at the next call
     answer_.reset();

@@ -5,6 +5,7 @@
 #include "PrintSettingsStore.hpp"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -58,11 +59,14 @@ public:
   /// Empty without a reason before the first answer.
   const DestinationList &list() const noexcept { return list_; }
 
-  /// Asks anew; nothing happens while an earlier question is open, or where no thread can be had.
-  void refresh(std::chrono::milliseconds patience = std::chrono::seconds(5));
+  /// Asks CUPS again; does nothing while an earlier question is open, or where no thread can be
+  /// had. `answered` is called on the other thread once `takeAnswer` has something to take, perhaps
+  /// after this object is gone.
+  void refresh(std::function<void()> answered = {},
+               std::chrono::milliseconds patience = std::chrono::seconds(5));
   bool isRefreshing() const noexcept { return answer_ != nullptr; }
 
-  /// For a timer: takes the answer when there is one. True when the list differs from before.
+  /// Takes the answer if there is one. True when the list differs from before.
   bool takeAnswer();
 
 private:

@@ -1,6 +1,6 @@
 /// An option's choices in a pop-up.
-#ifndef IMAGEPOSITION_HOST_CHOICEPOPUP_H
-#define IMAGEPOSITION_HOST_CHOICEPOPUP_H
+#ifndef IMAGEPOSITION_GUI_WIDGETS_CHOICEPOPUP_H
+#define IMAGEPOSITION_GUI_WIDGETS_CHOICEPOPUP_H
 
 #import <AppKit/AppKit.h>
 
@@ -11,8 +11,8 @@
 
 namespace imageposition {
 
-/// Shows the choices and which of them holds. Where a value can be entered one more item, the last,
-/// leads to entering it. Answers the choices' keywords; an item beyond them is that one.
+/// Shows the choices and selects the one that holds. Where the user can enter a value, one more
+/// item, the last, leads there. Returns the choices' keywords in the order of the items.
 std::vector<std::string> showChoices(NSPopUpButton *popUp, const PrinterOption &option);
 
 } // namespace imageposition

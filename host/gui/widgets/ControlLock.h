@@ -1,6 +1,6 @@
-/// Controls that nobody can use for a while.
-#ifndef IMAGEPOSITION_HOST_CONTROLLOCK_H
-#define IMAGEPOSITION_HOST_CONTROLLOCK_H
+/// Disables controls for a while.
+#ifndef IMAGEPOSITION_GUI_WIDGETS_CONTROLLOCK_H
+#define IMAGEPOSITION_GUI_WIDGETS_CONTROLLOCK_H
 
 #import <AppKit/AppKit.h>
 
@@ -8,8 +8,8 @@
 
 namespace imageposition {
 
-/// Disables what a person can change or press in a view; at its end the same controls, and no
-/// others, can be used again. Scrollers stay usable. Main thread.
+/// Disables what a user can change or press in a view, and enables the same controls, and no
+/// others, when it is destroyed. Scrollers stay enabled. Main thread.
 class ControlLock {
 public:
   /// All below `root` but `exception`.

@@ -4,7 +4,7 @@ namespace imageposition {
 
 namespace {
 
-/// What is only looked at keeps its colour.
+/// Labels are not disabled, and so keep their colour.
 bool canBeUsed(NSView *view) {
   if (![view isKindOfClass:[NSControl class]] || [view isKindOfClass:[NSScroller class]] ||
       ![(NSControl *)view isEnabled])

@@ -1,14 +1,15 @@
 /// A list that scrolls, by keys as well.
-#ifndef IMAGEPOSITION_HOST_KEYSCROLLVIEW_H
-#define IMAGEPOSITION_HOST_KEYSCROLLVIEW_H
+#ifndef IMAGEPOSITION_GUI_WIDGETS_KEYSCROLLVIEW_H
+#define IMAGEPOSITION_GUI_WIDGETS_KEYSCROLLVIEW_H
 
 #import <AppKit/AppKit.h>
 
-/// Takes the focus where its content does not fit; then the arrow keys, Page Up, Page Down, Home
-/// and End move it. It scrolls up and down only.
+/// Takes the focus when its content does not fit; then the arrow keys, Page Up, Page Down, Home and
+/// End move the content. Scrolls up and down only.
 @interface KeyScrollView : NSScrollView
-/// Shows rows from the top; `rows` is flipped and as high as they are.
+/// Shows `rows`, a flipped view as high as its content, from the top.
 - (void)showRows:(NSView *)rows;
+/// Whether some of the content is out of sight.
 - (BOOL)hasMore;
 @end
 

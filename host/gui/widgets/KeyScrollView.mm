@@ -47,7 +47,7 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
   [[self verticalScroller] setArrowsPosition:NSScrollerArrowsNone]; // the theme draws none
 }
 
-/// The platform brings it along with hiding scrollers.
+/// GNUstep adds one when scrollers hide by themselves.
 - (void)setHasHorizontalScroller:(BOOL)has {
   (void)has;
 }

@@ -74,20 +74,29 @@ BOOL movesFocus(NSEvent *event) {
   return [characters isEqualToString:@"\t"] || [characters isEqualToString:@"\x19"];
 }
 
-/// The view that a click is on, or that a key is for; null for other events.
-NSView *actedOn(NSEvent *event, NSWindow *window) {
-  if ([event type] == NSLeftMouseDown)
+constexpr NSUInteger kMouseEvents =
+    NSLeftMouseDownMask | NSLeftMouseUpMask | NSLeftMouseDraggedMask | NSRightMouseDownMask |
+    NSRightMouseUpMask | NSRightMouseDraggedMask | NSOtherMouseDownMask | NSOtherMouseUpMask |
+    NSOtherMouseDraggedMask | NSMouseMovedMask | NSScrollWheelMask;
+
+/// The view that an event is for; null where it is for none.
+NSView *targetOf(NSEvent *event, KeyWindow *window) {
+  const NSUInteger mask = NSEventMaskFromType([event type]);
+  if ((mask & kMouseEvents) != 0)
     return [[window contentView] hitTest:[event locationInWindow]];
-  if ([event type] != NSKeyDown || movesFocus(event))
-    return nil;
-  id const focus = [window firstResponder];
-  return [focus isKindOfClass:[NSView class]] ? focus : nil;
+  return (mask & (NSKeyDownMask | NSKeyUpMask)) != 0 ? [window focusedView] : nil;
+}
+
+/// Whether the user may have changed something with it.
+bool isAct(NSEvent *event) {
+  return [event type] == NSLeftMouseDown || ([event type] == NSKeyDown && !movesFocus(event));
 }
 
 /// The letter of Alt and a letter, in lower case; null for other keys. What AltGr types into a
-/// field is none: then the key has typed something else than its letter.
+/// field does not count: then the key has typed something else than its letter.
 NSString *letterOf(NSEvent *event) {
-  constexpr NSUInteger kAlt = NSAlternateKeyMask | NSCommandKeyMask; // either, by the platform
+  constexpr NSUInteger kAlt =
+      NSAlternateKeyMask | NSCommandKeyMask; // GNUstep maps the key to either
   if (([event modifierFlags] & kAlt) == 0 || ([event modifierFlags] & NSControlKeyMask) != 0)
     return nil;
   NSString *const letter = [[event charactersIgnoringModifiers] lowercaseString];
@@ -103,12 +112,14 @@ bool canBeReached(NSView *control) {
 } // namespace
 
 @interface KeyWindow ()
-/// Whether a control is reached so.
+/// Whether a control is reached this way.
 - (BOOL)reachControl:(NSEvent *)event;
-/// The event in the way of every window, after the dialog's own keys; whether it was one of them.
-- (BOOL)handleEvent:(NSEvent *)event;
+/// Handles the dialog's own keys, and other events as every window does.
+- (void)handleEvent:(NSEvent *)event;
 /// Whether the key was the dialog's own.
 - (BOOL)handleKey:(NSEvent *)event;
+/// Tells the delegate of an exception.
+- (void)report:(NSString *)what in:(NSView *)view;
 @end
 
 @implementation KeyWindow
@@ -129,10 +140,14 @@ bool canBeReached(NSView *control) {
   controlKeys->push_back({imageposition::toText(lower), control});
 }
 
-// What has the focus is seen, also in something that scrolls, and what had it shows it no longer: a
-// text field by itself redraws only its text.
+// Scrolls to what gets the focus. Redraws both views whole: a text field by itself redraws only its
+// text. The view that loses the focus may send its action here, and so runs code.
 - (BOOL)makeFirstResponder:(NSResponder *)responder {
+  NSView *const before = running;
+  if (NSView *const leaving = [self focusedView])
+    running = [[leaving retain] autorelease];
   const BOOL isTaken = [super makeFirstResponder:responder];
+  running = before;
   NSView *const view = [self focusedView];
   [focusShown setNeedsDisplay:YES];
   [view setNeedsDisplay:YES];
@@ -143,9 +158,16 @@ bool canBeReached(NSView *control) {
   return isTaken;
 }
 
+- (void)focus:(NSView *)view {
+  if ([self firstResponder] != view)
+    [self makeFirstResponder:view];
+}
+
 - (NSView *)focusedView {
   id const responder = [self firstResponder];
-  id const owner = [responder isKindOfClass:[NSText class]] ? [responder delegate] : responder;
+  const bool isFieldEditor =
+      [responder isKindOfClass:[NSText class]] && [(NSText *)responder isFieldEditor];
+  id const owner = isFieldEditor ? [responder delegate] : responder;
   return [owner isKindOfClass:[NSView class]] ? owner : nil;
 }
 
@@ -170,39 +192,61 @@ bool canBeReached(NSView *control) {
   return YES;
 }
 
-- (void)sendEvent:(NSEvent *)event {
-  if ([event type] == NSApplicationDefined &&
-      [[self delegate] respondsToSelector:@selector(wake)]) {
-    [(id<KeyWindowDelegate>)[self delegate] wake];
-    return;
-  }
-  KeyWindow *const window = self;
-  id<KeyWindowDelegate> const person = (id<KeyWindowDelegate>)[self delegate];
-  NSView *const view = actedOn(event, self);
-  bool wasOurs = false;
-  bool *const ours = &wasOurs;
-  const auto raised = imageposition::whatIsRaisedBy([=] { *ours = [window handleEvent:event]; });
-  NSString *const what = raised ? imageposition::toString(*raised) : nil;
-  if ([what hasPrefix:NSPasteboardCommunicationException])
-    [person pasteboardRaised:what];
-  else if (raised)
-    [person eventRaised:what];
-  else if (!wasOurs && view != nil && [person respondsToSelector:@selector(personActedOn:)])
-    [person personActedOn:view];
+- (BOOL)protect:(const std::function<void()> &)code {
+  NSView *const before = running;
+  running = nil;
+  const auto raised = imageposition::whatIsRaisedBy(code);
+  NSView *const culprit = [[running retain] autorelease];
+  running = before;
+  if (raised)
+    [self report:imageposition::toString(*raised) in:culprit];
+  return !raised;
 }
 
-- (BOOL)handleEvent:(NSEvent *)event {
+- (void)report:(NSString *)what in:(NSView *)view {
+  id<KeyWindowDelegate> const owner = (id<KeyWindowDelegate>)[self delegate];
+  const auto raised = imageposition::whatIsRaisedBy([=] {
+    if ([what hasPrefix:NSPasteboardCommunicationException])
+      [owner pasteboardFailed:what];
+    else
+      [owner exception:what in:view];
+  });
+  if (raised) // there is nobody left to tell
+    NSLog(@"%@; then %@", what, imageposition::toString(*raised));
+}
+
+- (void)sendEvent:(NSEvent *)event {
+  KeyWindow *const window = self;
+  [self protect:[=] { [window handleEvent:event]; }];
+}
+
+- (void)handleEvent:(NSEvent *)event {
+  id<KeyWindowDelegate> const owner = (id<KeyWindowDelegate>)[self delegate];
+  if ([event type] == NSApplicationDefined && [owner respondsToSelector:@selector(wake)]) {
+    [owner wake];
+    return;
+  }
+  NSView *const target = [[targetOf(event, self) retain] autorelease]; // it may go with the event
   if ([event type] == NSKeyDown && [self handleKey:event])
-    return YES;
+    return;
+  running = target;
   [super sendEvent:event];
-  return NO;
+  running = nil;
+  if (target != nil && isAct(event) && [owner respondsToSelector:@selector(userActedOn:)])
+    [owner userActedOn:target];
 }
 
 // The default button would otherwise take Return before the control that has the focus.
 - (BOOL)performKeyEquivalent:(NSEvent *)event {
   if (keyOf(event) != Key::Other)
     return NO;
-  return [super performKeyEquivalent:event] || ([self isKeyWindow] && [self reachControl:event]);
+  if ([super performKeyEquivalent:event])
+    return YES;
+  if (![self isKeyWindow])
+    return NO;
+  KeyWindow *const window = self; // AppKit may ask before it sends the event
+  BOOL isReached = NO;
+  return ![self protect:[&] { isReached = [window reachControl:event]; }] || isReached;
 }
 
 - (BOOL)handleKey:(NSEvent *)event {
@@ -211,14 +255,16 @@ bool canBeReached(NSView *control) {
     return NO;
   const SEL editing = editingOperationOf(event);
   if (editing != nullptr && [focus isKindOfClass:[NSText class]]) {
+    running = [self focusedView];
     [focus performSelector:editing withObject:self];
     return YES;
   }
   switch (keyOf(event)) {
   case Key::Confirm:
-    if (isPushButton(focus))
+    if (isPushButton(focus)) {
+      running = focus;
       [focus performClick:self];
-    else
+    } else
       [(id<KeyWindowDelegate>)[self delegate] confirm];
     return YES;
   case Key::Dismiss:

@@ -1,6 +1,6 @@
-/// Plain texts in a window.
-#ifndef IMAGEPOSITION_HOST_LABELS_H
-#define IMAGEPOSITION_HOST_LABELS_H
+/// Labels in a window.
+#ifndef IMAGEPOSITION_GUI_WIDGETS_LABELS_H
+#define IMAGEPOSITION_GUI_WIDGETS_LABELS_H
 
 #import <AppKit/AppKit.h>
 
@@ -8,23 +8,24 @@
 
 namespace imageposition {
 
-/// A text that nobody edits, as large as it needs to be. Not owned by the caller.
+/// A label in one line, as large as its text. The caller does not own it.
 NSTextField *makeLabel(const std::string &text, bool bold = false);
 
-/// Makes a new field into such a text.
+/// Makes a new field into such a label.
 void makeIntoLabel(NSTextField *field, const std::string &text, bool bold);
 
-/// The text, or of one that is longer its beginning and its end with an ellipsis between: the
-/// platform lays a text out whole, however little of it is seen.
+/// The string; one with more than `most` characters loses its middle to an ellipsis, since AppKit
+/// lays out all of a string, however little of it is visible.
 NSString *cutTo(NSUInteger most, NSString *text);
 
-/// In lines of that width, as high as they need to be; very long texts are cut.
+/// A label in lines of that width, as high as its text; very long texts are cut. The caller does
+/// not own it.
 NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold = false);
 /// The height that the text of such a field needs.
 CGFloat paragraphHeight(NSString *text, NSFont *font, CGFloat width);
 
-/// Shows a text of one line in a label of that width: what does not fit is left out of its middle,
-/// with an ellipsis, and the whole of it, unless it is very long, in a tooltip.
+/// Shows a string on one line of that width. One that does not fit loses its middle to an ellipsis,
+/// and a tooltip shows it whole, unless it is very long.
 void showCut(NSTextField *label, const std::string &text, CGFloat width);
 
 } // namespace imageposition

@@ -1,10 +1,10 @@
-/// What the dialog says, however long it is.
-#ifndef IMAGEPOSITION_HOST_MESSAGEVIEW_H
-#define IMAGEPOSITION_HOST_MESSAGEVIEW_H
+/// A message of any length.
+#ifndef IMAGEPOSITION_GUI_WIDGETS_MESSAGEVIEW_H
+#define IMAGEPOSITION_GUI_WIDGETS_MESSAGEVIEW_H
 
 #import "KeyScrollView.h"
 
-/// A text in lines; it scrolls when it is higher than the view.
+/// Wraps its text, and scrolls when that is higher than the view.
 @interface MessageView : KeyScrollView {
   NSTextField *label; ///< The view's.
 }

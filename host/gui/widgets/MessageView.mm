@@ -27,6 +27,12 @@
   return self;
 }
 
+- (void)setFrameSize:(NSSize)size {
+  [super setFrameSize:size];
+  if (label != nil) // not while the superclass initializes
+    [self setStringValue:[label stringValue]];
+}
+
 - (void)setStringValue:(NSString *)whole {
   constexpr NSUInteger kLongest = 10000;
   NSString *const text = imageposition::cutTo(kLongest, whole);

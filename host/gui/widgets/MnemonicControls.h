@@ -1,6 +1,6 @@
-/// Texts and buttons that show which letter reaches a control.
-#ifndef IMAGEPOSITION_HOST_MNEMONICCONTROLS_H
-#define IMAGEPOSITION_HOST_MNEMONICCONTROLS_H
+/// Titles and buttons that underline the letter that reaches a control.
+#ifndef IMAGEPOSITION_GUI_WIDGETS_MNEMONICCONTROLS_H
+#define IMAGEPOSITION_GUI_WIDGETS_MNEMONICCONTROLS_H
 
 #import "KeyWindow.h"
 
@@ -8,12 +8,12 @@
 
 namespace imageposition {
 
-// Nothing that is made here is the caller's. Texts have the markers of host/Mnemonic.hpp.
+// The caller owns nothing that these functions return. Mnemonic.hpp says how strings are marked.
 
 /// A control's title, as large as it needs to be, with its letter underlined.
 NSTextField *makeTitle(const std::string &marked);
 
-/// A push button, as wide as buttons are or its title needs; `kButtonHeight` high.
+/// A push button, at least `kButtonWidth` wide, and `kButtonHeight` high.
 NSButton *makeButton(const std::string &marked, id target, SEL action);
 
 /// A checkbox.

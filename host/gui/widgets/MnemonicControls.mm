@@ -14,10 +14,10 @@ using imageposition::toString;
 
 namespace {
 
-/// Where a line goes below one letter of a text.
+/// The line below one letter of a title.
 struct Underline {
   CGFloat left;
-  CGFloat width; ///< 0: there is none.
+  CGFloat width; ///< 0 without a line.
 };
 
 Underline underlineOf(const MnemonicText &mnemonic, NSFont *font) {
@@ -31,7 +31,7 @@ Underline underlineOf(const MnemonicText &mnemonic, NSFont *font) {
   return {width(upToKey) - width(mnemonic.key), width(mnemonic.key)};
 }
 
-/// On whole pixels, one below the baseline of a text that fills `text` in a flipped view.
+/// On whole pixels, one below the baseline of a title that fills `text` in a flipped view.
 void drawUnderline(const Underline &line, NSRect text, NSFont *font, NSColor *color) {
   if (line.width <= 0)
     return;

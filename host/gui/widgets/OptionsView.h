@@ -1,6 +1,6 @@
-/// The pane of the options that have no place elsewhere in the dialog.
-#ifndef IMAGEPOSITION_HOST_OPTIONSVIEW_H
-#define IMAGEPOSITION_HOST_OPTIONSVIEW_H
+/// The pane of the options that the dialog does not show elsewhere.
+#ifndef IMAGEPOSITION_GUI_WIDGETS_OPTIONSVIEW_H
+#define IMAGEPOSITION_GUI_WIDGETS_OPTIONSVIEW_H
 
 #import "KeyScrollView.h"
 
@@ -9,14 +9,15 @@
 #include <string>
 #include <vector>
 
+/// What the user does with an option's control, which is `sender`.
 @protocol OptionsViewOwner <NSObject>
-/// A person chose. `sender` is the pop-up.
+/// Chose an item of the pop-up.
 - (void)option:(const std::string &)keyword
      wasChosen:(const std::string &)choice
             by:(NSView *)sender;
-/// The item of the pop-up that leads to entering a value.
+/// Chose the item that leads to entering a value.
 - (void)option:(const std::string &)keyword wantsValueBy:(NSView *)sender;
-/// A check box of an option that takes several choices.
+/// Ticked a check box of an option that takes several choices, or took the tick away.
 - (void)option:(const std::string &)keyword
         choice:(const std::string &)choice
      wasTicked:(bool)on
@@ -27,17 +28,17 @@ namespace imageposition {
 struct OptionsViewRow;
 }
 
-/// A heading for each group, and a pop-up for each option, or a check box for each choice of one
-/// that takes several; it scrolls when they do not fit, and follows the focus.
+/// A heading for each group, and a pop-up for each option, or a check box for each choice of an
+/// option that takes several. Scrolls when they do not fit, and follows the focus.
 @interface OptionsView : KeyScrollView {
-  id<OptionsViewOwner> owner; ///< Not owned.
-  std::vector<imageposition::OptionsViewRow> *rows;
-  std::string *shape; ///< Of the groups shown: all options and check boxes.
+  id<OptionsViewOwner> owner;                       ///< Not owned.
+  std::vector<imageposition::OptionsViewRow> *rows; ///< Owned.
+  std::string *shape; ///< The options and check boxes that are shown; owned.
 }
 
 - (id)initWithFrame:(NSRect)frame owner:(id<OptionsViewOwner>)theOwner;
-/// Keeps the controls where they are for the options that are shown already. Of more than some
-/// hundreds the first are shown, and how many are left out.
+/// Reuses the controls when the same options are shown already. Shows the first 500 options, and
+/// how many it leaves out.
 - (void)showGroups:(std::vector<imageposition::OptionGroup>)groups;
 
 @end

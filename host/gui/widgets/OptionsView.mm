@@ -18,13 +18,13 @@ namespace imageposition {
 struct OptionsViewRow {
   std::string keyword;
   std::vector<std::string> choices;
-  NSPopUpButton *popUp;             // the view's; null where there are check boxes
+  NSPopUpButton *popUp;             // the view's; null with check boxes
   std::vector<NSButton *> switches; // the view's; one for each choice
 };
 
 namespace {
 
-/// Making a control takes the platform a fifth of a millisecond.
+/// GNUstep takes a fifth of a millisecond to make a control.
 constexpr std::size_t kMostRows = 500;
 
 constexpr CGFloat kMargin = 12;
@@ -93,13 +93,13 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
   [super dealloc];
 }
 
-/// Its controls do.
+/// Its controls take the focus.
 - (BOOL)acceptsFirstResponder {
   return NO;
 }
 
 - (void)choose:(id)sender {
-  const OptionsViewRow row = rows->at([sender tag]); // what is called may show others
+  const OptionsViewRow row = rows->at([sender tag]); // a copy: the owner may have other rows shown
   const NSInteger chosen = [sender indexOfSelectedItem];
   if (chosen >= static_cast<NSInteger>(row.choices.size()))
     [owner option:row.keyword wantsValueBy:sender];
@@ -128,7 +128,7 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
   return popUp;
 }
 
-/// One below the other; answers the lower edge.
+/// Puts them one below the other; returns the lower edge.
 - (CGFloat)addSwitchesFor:(const PrinterOption &)option to:(NSView *)document frame:(NSRect)frame {
   OptionsViewRow row{option.keyword, {}, nil, {}};
   for (const OptionChoice &choice : option.choices) {

@@ -1,6 +1,6 @@
-/// The pane that lists what will be printed how.
-#ifndef IMAGEPOSITION_HOST_SUMMARYVIEW_H
-#define IMAGEPOSITION_HOST_SUMMARYVIEW_H
+/// The pane that lists what will be printed, and how.
+#ifndef IMAGEPOSITION_GUI_WIDGETS_SUMMARYVIEW_H
+#define IMAGEPOSITION_GUI_WIDGETS_SUMMARYVIEW_H
 
 #import "KeyScrollView.h"
 
@@ -8,7 +8,7 @@
 
 #include <vector>
 
-/// Two columns of text under a heading for each panel; it scrolls when they do not fit.
+/// Two columns under a heading for each section; scrolls when they do not fit.
 @interface SummaryView : KeyScrollView
 
 - (void)showSections:(const std::vector<imageposition::SummarySection> &)sections;

@@ -25,14 +25,14 @@ using imageposition::SummarySection;
 
 namespace {
 
-/// Of each section; each is two views.
+/// Of each section; a line is two views.
 constexpr std::size_t kMostLines = 500;
 
 constexpr CGFloat kMargin = 12;
 constexpr CGFloat kLineGap = 5;
 constexpr CGFloat kColumnGap = 12;
 
-/// Before the title of what differs from the printer's default, whose value is bold as well.
+/// Before the title of a line that differs from the printer's default; its value is bold.
 constexpr const char *kMark = "\u2022 ";
 
 std::string titleOf(const SummaryLine &line) {
@@ -43,7 +43,7 @@ std::size_t shownLines(const SummarySection &section) {
   return std::min(section.lines.size(), kMostLines);
 }
 
-/// As wide as the widest title, as long as there is room for the values.
+/// As wide as the widest title, but leaves room for the values.
 CGFloat titleColumn(const std::vector<SummarySection> &sections, CGFloat width) {
   CGFloat widest = 0;
   for (const SummarySection &section : sections)
@@ -53,7 +53,7 @@ CGFloat titleColumn(const std::vector<SummarySection> &sections, CGFloat width) 
   return std::min<CGFloat>(widest, std::floor(width * 0.6));
 }
 
-/// Writes from the top; titles end where the values begin.
+/// Adds lines from the top; titles end where the values begin.
 class Writer {
 public:
   Writer(NSView *rows, CGFloat width, CGFloat column)

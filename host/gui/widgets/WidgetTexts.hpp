@@ -1,6 +1,6 @@
-/// Texts of the window's own kinds of controls.
-#ifndef IMAGEPOSITION_HOST_WIDGETTEXTS_HPP
-#define IMAGEPOSITION_HOST_WIDGETTEXTS_HPP
+/// Texts of the window's controls and views.
+#ifndef IMAGEPOSITION_GUI_WIDGETS_WIDGETTEXTS_HPP
+#define IMAGEPOSITION_GUI_WIDGETS_WIDGETTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,13 +8,12 @@
 
 namespace imageposition::messages {
 
-// What a window has no room for.
+// When there is too much to show.
 std::string optionsNotShown(std::size_t count);
 std::string linesNotShown(std::size_t count);
 
-// The same in the summary.
 extern const Text kEnterValue;
-extern const Text kDifferingLegend; ///< What the mark beside some lines of the summary means.
+extern const Text kDifferingLegend; ///< Explains the mark beside lines of the summary.
 
 } // namespace imageposition::messages
 

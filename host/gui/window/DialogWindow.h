@@ -1,6 +1,6 @@
-/// The dialog's window.
-#ifndef IMAGEPOSITION_HOST_DIALOGWINDOW_H
-#define IMAGEPOSITION_HOST_DIALOGWINDOW_H
+/// Runs the print dialog.
+#ifndef IMAGEPOSITION_GUI_WINDOW_DIALOGWINDOW_H
+#define IMAGEPOSITION_GUI_WINDOW_DIALOGWINDOW_H
 
 #import "PrintSession.h"
 
@@ -8,9 +8,9 @@
 
 namespace imageposition {
 
-/// Shows the window and waits. True when the person printed, and CUPS has the job or its settings
-/// are written; false when they cancelled. What goes wrong meanwhile is said in the window and in
-/// `errors`, and the window stays.
+/// Shows the window and waits. True when the user printed, and CUPS has the job or its settings are
+/// written; false when the user cancelled. Messages go to the window and to `errors`, and the
+/// window stays after a failure. The session's panels are loaded.
 bool runDialog(PrintSession &session, std::ostream &errors);
 
 } // namespace imageposition

@@ -8,23 +8,6 @@ namespace imageposition::messages {
 const Text kNoPanelHere = text(
     "No plug-in has a panel for this printer. You can print with everything that is shown here. To "
     "move the image, choose a printer that supports it, or name a plug-in with --plugin BUNDLE.");
-const Text kCopyAndPaste = text("Copy and paste");
-std::string pasteboardFolderOfOthers(const std::string &path) {
-  return text("Copy and paste do not work: the folder \"{1}\" belongs to another user. Ask the "
-              "system's administrator to remove it.")
-      .with(path);
-}
-std::string pasteboardFolderUnusable(const std::string &path) {
-  return text("Copy and paste do not work: \"{1}\" is not a folder that you may write to. Name "
-              "another folder in the variable TEMP.")
-      .with(path);
-}
-std::string pasteboardUnreachable(const std::string &reason) {
-  return text("Copy and paste do not work: GNUstep's pasteboard server (gpbs) cannot be "
-              "reached{1}. It is part of the package gnustep-gui-runtime; log in again once it is "
-              "installed.")
-      .with(because(reason));
-}
 std::string presetsNotListed(std::size_t count) {
   // Translators: the last, grey item of a menu of presets.
   return counted(static_cast<long>(count), "{1} more preset", "{1} more presets");
@@ -40,17 +23,10 @@ const Text kMediaRow = text("&Media:");
 const Text kPaneRow = text("&Settings:");
 const Text kCollate = text("C&ollate");
 const Text kPageRange = text("Range");
-const Text kSaveAsTicket = text("Save as ticket");
-const Text kUnitRow = text("&Unit:");
-const Text kMillimetres = text("Millimetres");
-const Text kInches = text("Inches");
-const Text kPoints = text("Points");
 const Text kNotOffered = text("Not offered");
 const Text kSummaryTitle = text("Summary");
 const Text kResolve = text("Resol&ve");
-const Text kCancel = text("Cancel");
 const Text kPrint = text("Print");
-const Text kOk = text("OK");
 const Text kNoPresetChosen = text("None");
 const Text kSavePreset = text("Save as preset…");
 const Text kRenamePreset = text("Rename this preset…");
@@ -59,27 +35,7 @@ const Text kPresetNameQuestion = text("Name of the preset:");
 std::string presetSaved(const std::string &lpName) {
   return text("The preset is saved; lp -d {1} prints with it too.").with(lpName);
 }
-const Text kTicketQuestion = text("File for the job's settings:");
-const Text kSave = text("Save");
-const Text kReplace = text("Replace");
-std::string ticketExists(const std::string &path) {
-  return text("\"{1}\" is there already. Replace it?").with(path);
-}
 const Text kJobWaits = text("The job waits");
-const Text kPasswordWindow = text("Password");
-const Text kWrongPasswordWindow = text("Wrong password");
-const Text kUserRow = text("&User name:");
-const Text kPasswordRow = text("&Password:");
-std::string passwordWanted(const std::string &printer) {
-  return text("CUPS prints on \"{1}\" for users that it knows. Enter your name and password there.")
-      .with(printer);
-}
-std::string wrongPassword(const std::string &printer) {
-  return text("CUPS did not take that name and password for \"{1}\". Try again, or cancel to go "
-              "back "
-              "to the settings.")
-      .with(printer);
-}
 const Text kStateUnknown = text("Asking for the printers…");
 std::string printerState(const std::string &state, const std::string &location) {
   return location.empty() ? state : state + " · " + location;
@@ -90,6 +46,9 @@ std::string copiesNotUnderstood(const std::string &typed) {
 }
 const Text kNothingToPrint = text(
     "There is no document to print. Name one: print-dialog FILE. Or choose \"Save as ticket\".");
+const Text kPrintAnywayWindow = text("Print anyway?");
+const Text kPrintAnyway = text("Print anyway");
+const Text kGoBack = text("Go back");
 std::string sending(const std::string &sent, const std::string &total) {
   return total.empty() ? text("Sending: {1}").with(sent)
                        : text("Sending: {1} of {2}").with(sent, total);

@@ -134,7 +134,8 @@ std::vector<SummarySection> runBatch(const PanelSession &session, ppd_file_t *pp
       throw Failure(ExitCode::Cancelled, messages::panelRefusedJob(panel->panel.name()));
   std::vector<SummarySection> summary;
   for (const auto &panel : panels) {
-    panel->panel.save();
+    if (const auto refusal = panel->panel.save())
+      throw Failure(ExitCode::Plugin, *refusal);
     summary.push_back(panel->panel.summary());
   }
   return summary;

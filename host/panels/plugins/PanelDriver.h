@@ -7,6 +7,7 @@
 #include "Summary.hpp"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,8 +18,8 @@ namespace imageposition {
 /// A panel without a view is asked for nothing else: it may keep values in its controls, and would
 /// store those of controls that do not exist.
 ///
-/// Every operation throws a `Failure` with `ExitCode::Plugin` when the panel raises; the panel is
-/// then not asked again by its owner. Main thread only.
+/// Every operation throws a `Failure` with `ExitCode::Plugin` when the panel raises; its owner then
+/// leaves the panel out. Main thread only.
 class PanelDriver {
 public:
   /// Asks for kind, name, option keys and view, in this order. The view comes before everything
@@ -41,14 +42,20 @@ public:
   const std::string &pluginPath() const noexcept { return pluginPath_; }
 
   void willShow();
-  void save();
-  void restore();
+  /// Has the panel write its values to the job's settings. None when it did; otherwise why not, as
+  /// a sentence with the panel's name and, where it gave a reason, its own words.
+  std::optional<std::string> save();
+  /// The same for reading its values from the job's settings.
+  std::optional<std::string> restore();
   /// False when the panel does not allow the job.
   bool mayPrint();
   SummarySection summary();
 
 private:
   void guarded(const char *operation, const std::function<void()> &body);
+  std::optional<std::string>
+  refusalOf(const char *operation, const std::function<BOOL(NSError **)> &body,
+            std::string (*sentence)(const std::string &panel, const std::string &reason));
 
   id<PDEPanel> panel_; // retained
   std::string pluginPath_;

@@ -66,6 +66,17 @@ std::vector<SummaryLine> linesOf(id info) {
   return lines;
 }
 
+/// Ends what is being typed in a field of the view, without the field's action: the field would
+/// send it as soon as it loses the focus.
+void abandonEditing(NSView *view) {
+  id const focus = [[view window] firstResponder];
+  if (![focus isKindOfClass:[NSText class]] || ![focus isDescendantOf:view])
+    return;
+  id const field = [focus delegate];
+  if ([field respondsToSelector:@selector(abortEditing)])
+    [field abortEditing];
+}
+
 } // namespace
 
 PanelDriver::PanelDriver(id panel, std::string pluginPath)
@@ -90,8 +101,9 @@ PanelDriver::PanelDriver(id panel, std::string pluginPath)
 }
 
 PanelDriver::~PanelDriver() {
-  // A panel that raises while it goes has no one left to tell.
+  // A panel that raises here is gone anyway.
   whatIsRaisedBy([this] {
+    abandonEditing(view_);
     [view_ removeFromSuperview];
     [view_ release];
     [(id)panel_ release];
@@ -114,18 +126,32 @@ void PanelDriver::willShow() {
   guarded("willShow", [this] { [panel_ willShow]; });
 }
 
-void PanelDriver::save() {
-  guarded("saveValuesAndReturnError:", [this] {
+std::optional<std::string> PanelDriver::refusalOf(
+    const char *operation, const std::function<BOOL(NSError **)> &body,
+    std::string (*sentence)(const std::string &panel, const std::string &reason)) {
+  std::optional<std::string> refusal;
+  guarded(operation, [&] {
     NSError *error = nil;
-    [panel_ saveValuesAndReturnError:&error];
+    if (body(&error))
+      return;
+    const bool hasReason = [error isKindOfClass:[NSError class]];
+    refusal = sentence(name_, hasReason ? toText([error localizedDescription]) : "");
   });
+  return refusal;
 }
 
-void PanelDriver::restore() {
-  guarded("restoreValuesAndReturnError:", [this] {
-    NSError *error = nil;
-    [panel_ restoreValuesAndReturnError:&error];
-  });
+std::optional<std::string> PanelDriver::save() {
+  return refusalOf(
+      "saveValuesAndReturnError:",
+      [this](NSError **error) { return [panel_ saveValuesAndReturnError:error]; },
+      messages::panelNotSaved);
+}
+
+std::optional<std::string> PanelDriver::restore() {
+  return refusalOf(
+      "restoreValuesAndReturnError:",
+      [this](NSError **error) { return [panel_ restoreValuesAndReturnError:error]; },
+      messages::panelNotRestored);
 }
 
 bool PanelDriver::mayPrint() {

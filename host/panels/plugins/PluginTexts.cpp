@@ -106,5 +106,15 @@ std::string panelWithoutView(const std::string &path) {
 std::string panelRefusedJob(const std::string &panel) {
   return text("\"{1}\" does not allow the job to be printed. Look at its settings.").with(panel);
 }
+std::string panelNotSaved(const std::string &panel, const std::string &reason) {
+  if (reason.empty())
+    return text("\"{1}\" could not add its settings to the job. Look at its settings.").with(panel);
+  return text("\"{1}\" could not add its settings to the job: {2}").with(panel, reason);
+}
+std::string panelNotRestored(const std::string &panel, const std::string &reason) {
+  if (reason.empty())
+    return text("\"{1}\" could not read the job's settings. Look at its settings.").with(panel);
+  return text("\"{1}\" could not read the job's settings: {2}").with(panel, reason);
+}
 
 } // namespace imageposition::messages

@@ -37,6 +37,9 @@ std::string panelNotBuilt(const std::string &path);
 std::string panelWithoutOperation(const std::string &path, const std::string &operation);
 std::string panelWithoutView(const std::string &path);
 std::string panelRefusedJob(const std::string &panel);
+/// `reason` is in the panel's own words; may be empty.
+std::string panelNotSaved(const std::string &panel, const std::string &reason);
+std::string panelNotRestored(const std::string &panel, const std::string &reason);
 
 } // namespace imageposition::messages
 

@@ -1,21 +1,32 @@
 /// The panels of all plug-ins for one printer and job.
-#ifndef IMAGEPOSITION_HOST_PANELSESSION_H
-#define IMAGEPOSITION_HOST_PANELSESSION_H
+#ifndef IMAGEPOSITION_PANELS_SESSION_PANELSESSION_H
+#define IMAGEPOSITION_PANELS_SESSION_PANELSESSION_H
 
 #import "HostCallback.h"
 #import "PluginLoader.h"
 #import "PrintCore.h"
 #include "PrinterDescription.hpp"
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace imageposition {
 
+/// What came of asking every panel, in sentences that name the panel or its plug-in.
+struct PanelReplies {
+  std::vector<std::string> failures; ///< Of panels that raised, which are left out from now on.
+  std::vector<std::string> refusals; ///< Of panels that said no, which stay.
+
+  bool areAllYes() const noexcept { return failures.empty() && refusals.empty(); }
+};
+
+/// Main thread only.
 class PanelSession {
 public:
-  /// Both outlive the session. Panels read and write `settings` directly.
+  /// Borrows both for its lifetime. Panels read and write `settings` directly.
   PanelSession(PrinterDescription &printer, PrintSettingsStore &settings);
   ~PanelSession();
   PanelSession(const PanelSession &) = delete;
@@ -25,23 +36,36 @@ public:
   /// among the troubles. `loaded` outlives the session.
   void load(const std::vector<std::string> &paths, LoadedPlugins &loaded);
 
-  /// Makes entered values of the panels' options into plain numbers, as panels read them: where the
-  /// panels were missing, these options could be entered as the printer's own. For settings that
-  /// come from elsewhere, before the panels read them; `load` and `revert` see to theirs.
+  /// Makes custom values of the panels' options into plain numbers, which is how panels read them:
+  /// while the panels were missing, the user could enter these options as the printer's own. Call
+  /// it for settings that come from elsewhere, before the panels read them; `load` and `revert` do
+  /// so.
   void takePlainNumbers();
+
+  /// The PPD options that the panels handle.
+  std::vector<std::string> optionKeys() const;
 
   /// In the order of the plug-ins.
   const std::vector<std::unique_ptr<PanelDriver>> &panels() const noexcept { return panels_; }
   /// Messages of the plug-ins and panels that were left out.
   const std::vector<std::string> &troubles() const noexcept { return troubles_; }
 
+  /// Asks every panel whether it allows the job.
+  PanelReplies askToPrint();
+  /// Has every panel write its values to the settings.
+  PanelReplies save();
+  /// Has every panel read its values from the settings.
+  PanelReplies restore();
   /// Puts the settings back as they were when the session began, and has the panels read them.
   void revert();
 
-  /// Leaves a panel out that failed later on.
+  /// Leaves out a panel that failed; `panel` is invalid afterwards.
   void drop(const PanelDriver *panel, const std::string &trouble);
 
 private:
+  /// `question` returns why the panel said no, or none.
+  PanelReplies ask(const std::function<std::optional<std::string>(PanelDriver &)> &question);
+
   ppd_file_t *ppd_;
   PrintSettingsStore &settings_;
   const PrintSettingsStore before_;

@@ -2,6 +2,7 @@
 
 #include "CustomValue.hpp"
 #include "ExitCode.hpp"
+#include "PluginTexts.hpp"
 
 #include <algorithm>
 #include <iterator>
@@ -31,21 +32,51 @@ void PanelSession::load(const std::vector<std::string> &paths, LoadedPlugins &lo
 }
 
 void PanelSession::takePlainNumbers() {
+  for (const std::string &keyword : optionKeys())
+    makePlainNumber(ppd_, keyword, settings_);
+}
+
+std::vector<std::string> PanelSession::optionKeys() const {
+  std::vector<std::string> keys;
   for (const auto &panel : panels_)
-    for (const std::string &keyword : panel->optionKeys())
-      makePlainNumber(ppd_, keyword, settings_);
+    keys.insert(keys.end(), panel->optionKeys().begin(), panel->optionKeys().end());
+  return keys;
+}
+
+PanelReplies
+PanelSession::ask(const std::function<std::optional<std::string>(PanelDriver &)> &question) {
+  PanelReplies replies;
+  for (std::size_t i = 0; i < panels_.size();) {
+    try {
+      if (auto refusal = question(*panels_[i]))
+        replies.refusals.push_back(std::move(*refusal));
+      i++;
+    } catch (const Failure &failure) {
+      replies.failures.push_back(failure.what());
+      drop(panels_[i].get(), failure.what());
+    }
+  }
+  return replies;
+}
+
+PanelReplies PanelSession::askToPrint() {
+  return ask([](PanelDriver &panel) {
+    return panel.mayPrint() ? std::nullopt : std::optional(messages::panelRefusedJob(panel.name()));
+  });
+}
+
+PanelReplies PanelSession::save() {
+  return ask([](PanelDriver &panel) { return panel.save(); });
+}
+
+PanelReplies PanelSession::restore() {
+  return ask([](PanelDriver &panel) { return panel.restore(); });
 }
 
 void PanelSession::revert() {
   settings_ = before_;
   takePlainNumbers();
-  for (const auto &panel : panels_) {
-    try {
-      panel->restore();
-    } catch (const Failure &failure) {
-      troubles_.push_back(failure.what());
-    }
-  }
+  restore();
 }
 
 void PanelSession::drop(const PanelDriver *panel, const std::string &trouble) {

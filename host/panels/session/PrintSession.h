@@ -1,8 +1,9 @@
-/// The print job that is being set up, with its panels: what the window shows, and what is printed
-/// without one.
+/// The print job that the user sets up, with its panels: what the window shows, and what is printed
+/// without a window.
 #ifndef IMAGEPOSITION_PANELS_SESSION_PRINTSESSION_H
 #define IMAGEPOSITION_PANELS_SESSION_PRINTSESSION_H
 
+#include "Destinations.hpp"
 #import "PanelSession.h"
 #include "PrintJob.hpp"
 
@@ -21,17 +22,21 @@ public:
   PrintJob &job() noexcept { return job_; }
   /// Loads the plug-ins and their panels. Needs the application.
   void loadPanels();
-  /// Other ones after each `chooseQueue`. There are none before `loadPanels`.
+  /// Another session after each `chooseQueue`. Not before `loadPanels`.
   PanelSession &panels() noexcept { return *panels_; }
   /// The paths of the plug-ins that the printer and the command line name.
   const std::vector<std::string> &plugins() const noexcept { return plugins_; }
 
-  /// Takes another queue, with its panels and those of the job's settings that the printer can
-  /// have. Throws a `Failure`, and then nothing has changed.
+  /// Takes another queue, with its panels and those of the job's settings that fit its printer.
+  /// Throws a `Failure`, and then nothing has changed.
   void chooseQueue(const std::string &queue);
+
+  /// The printers that CUPS has, as it answered last.
+  Destinations &destinations() noexcept { return destinations_; }
 
 private:
   PrintJob &job_;
+  Destinations destinations_;
   LoadedPlugins loaded_; // also those that only earlier printers named
   std::vector<std::string> plugins_;
   std::unique_ptr<PanelSession> panels_; // refers to the job's printer and settings

@@ -6,6 +6,10 @@
 #include <csignal>
 #include <cstdlib>
 
+#include <chrono>
+#include <future>
+#include <memory>
+
 namespace {
 
 using namespace imageposition;
@@ -142,12 +146,32 @@ TEST_F(PrinterList, TellsWhetherSomethingIsNew) {
   EXPECT_EQ(printers.list().find("office")->stateText, "Stopped: paused");
 }
 
+TEST_F(PrinterList, SignalsAnAnswerOnceItCanBeTaken) {
+  Destinations printers;
+  std::promise<void> answered;
+  printers.refresh([&] { answered.set_value(); });
+  ASSERT_EQ(answered.get_future().wait_for(std::chrono::seconds(30)), std::future_status::ready);
+  EXPECT_TRUE(printers.takeAnswer());
+  EXPECT_NE(printers.list().find("office"), nullptr);
+}
+
+TEST_F(PrinterList, SignalsAnAnswerEvenAfterNobodyWantsIt) {
+  cups().send(SIGSTOP);
+  auto answered = std::make_shared<std::promise<void>>();
+  {
+    Destinations printers;
+    printers.refresh([answered] { answered->set_value(); });
+  }
+  cups().send(SIGCONT);
+  EXPECT_EQ(answered->get_future().wait_for(std::chrono::seconds(30)), std::future_status::ready);
+}
+
 TEST_F(PrinterList, LetsGoOfAnOpenQuestion) {
   cups().send(SIGSTOP);
   const auto start = std::chrono::steady_clock::now();
   {
     Destinations printers;
-    printers.refresh(std::chrono::milliseconds(500));
+    printers.refresh({}, std::chrono::milliseconds(500));
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
 }

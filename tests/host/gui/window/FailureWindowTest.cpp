@@ -204,6 +204,17 @@ TEST_F(Failing, WhileADocumentIsSentNothingButCancelCanBeUsedAndThenEverythingAs
   EXPECT_TRUE(window.becomes([&](const Screen &) { return window.field("Copies:") == "3"; }));
 }
 
+TEST_F(Failing, AClockThatIsSetBackMeanwhileDoesNotKeepTheWindowFromEnding) {
+  const std::string setBack = folder.path("set back");
+  PrintWindow window({"-d", "office", JobFixture::document(kLarge)},
+                     {"LD_PRELOAD=" CLOCK, "CLOCK_FILE=" + setBack});
+  window.click("Print");
+  ASSERT_TRUE(stopsCupsHalfWay());
+  folder.write("set back", "");
+  cups().send(SIGCONT);
+  EXPECT_EQ(printed(jobOf(window.ended())).bytes, kLarge);
+}
+
 TEST_F(Failing, APanelWithoutAViewSaysSoInItsPaneAndIsAskedForNothingElse) {
   const std::string journal = folder.path("journal");
   PrintWindow window({"--plugin", FIXTURE_PLUGIN, "-d", "office", document()},

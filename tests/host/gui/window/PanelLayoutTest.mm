@@ -4,12 +4,15 @@
 #import "KeyWindow.h"
 #import "Labels.h"
 #import "NamePanel.h"
+#import "NotePanel.h"
 #import "PasswordPanel.h"
 #import "Theme.h"
 #import "ValuePanel.h"
 
 #include "Language.hpp"
+#include "PluginTexts.hpp"
 #include "PrinterTexts.hpp"
+#include "QuestionTexts.hpp"
 #include "TemporaryFolder.hpp"
 #import "TextBridge.h"
 #include "WindowTexts.hpp"
@@ -20,7 +23,7 @@
 
 using namespace imageposition;
 
-/// Answers every modal window after a look at it, the one after the `confirmed` first ones with no.
+/// Looks at every modal window, confirms the first `confirmed` ones and cancels the others.
 @interface ModalVisitor : NSObject {
 @public
   int confirmed;
@@ -141,6 +144,12 @@ TEST_F(PanelLayout, TheQuestionsForATicketsFileHaveRoomForTheirTexts) {
   confirmFirst();
   askForTicket(parent_, folder.path("report.json"));
   EXPECT_EQ(visited(), 2); // the second asks whether to replace it
+}
+
+TEST_F(PanelLayout, TheQuestionWhetherToPrintAnywayHasRoomForItsTexts) {
+  isConfirmed(parent_, {messages::kPrintAnywayWindow, messages::panelNotSaved("Image Position", ""),
+                        messages::kPrintAnyway, messages::kGoBack});
+  EXPECT_EQ(visited(), 1);
 }
 
 } // namespace

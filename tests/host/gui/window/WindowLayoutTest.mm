@@ -1,8 +1,7 @@
 // The window as it is laid out in the language of this process: no text clipped, nothing
 // overlapping.
-#import "DialogViews.h"
+#import "PrintDialog.h"
 
-#include "JobTexts.hpp"
 #include "Language.hpp"
 #include "PictureTexts.hpp"
 #import "PreviewDrawing.h"
@@ -13,6 +12,8 @@
 
 #include <cstdlib>
 #include <numeric>
+#include <sstream>
+#include <vector>
 
 using namespace imageposition;
 
@@ -24,35 +25,49 @@ const NSSize kWide = {2000, 1200};
 const NSSize kLargeTextOnSmallScreen = {848, 656}; // points, of 1280 by 1024 pixels at 1.5
 const NSSize kSmallScreen = {1016, 728};
 
+Arguments argumentsForPlainPrinter() {
+  Arguments arguments;
+  arguments.ppd = IMAGEPOSITION_SAMPLES "/duplex-plain.ppd"; // without a panel
+  arguments.documents = {"report.pdf"};
+  return arguments;
+}
+
 class WindowLayout : public testing::TestWithParam<NSSize> {
 protected:
   void SetUp() override {
     const auto wanted = wantedLanguages(std::getenv);
     speak(chosenLanguage(wanted, IMAGEPOSITION_CATALOGUES), IMAGEPOSITION_CATALOGUES);
-    views_ = buildDialog(NSMakeSize(560, 247), GetParam(), "report.pdf", DialogActions{});
-    fill(views_.printers, {messages::kSaveAsTicket});
-    fill(views_.presets, {messages::kNoPresetChosen, messages::kSavePreset, messages::kRenamePreset,
-                          messages::kDeletePreset});
-    fill(views_.pages,
-         {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange});
-    fill(views_.twoSided, {messages::kNotOffered});
-    fill(views_.panes, {messages::kOptionsPane, messages::kSummaryTitle});
-    [views_.resolve setHidden:NO];
+    session_.loadPanels();
+    dialog_ = [[PrintDialog alloc] initWithSession:&session_
+                                            errors:&errors_
+                                              pane:NSMakeSize(560, 247)
+                                              room:GetParam()];
+    showResolve();
   }
 
-  void TearDown() override {
-    [views_.window close];
-    [views_.window release];
+  void TearDown() override { [dialog_ release]; }
+
+  NSArray *placed() const { return [[[dialog_ window] contentView] subviews]; }
+
+  template <typename View> std::vector<View *> placedOf(Class kind) const {
+    std::vector<View *> found;
+    for (NSUInteger i = 0; i < [placed() count]; i++)
+      if ([[placed() objectAtIndex:i] isKindOfClass:kind])
+        found.push_back([placed() objectAtIndex:i]);
+    return found;
   }
 
-  static void fill(NSPopUpButton *popUp, const std::vector<Text> &titles) {
-    for (const Text &title : titles)
-      [[popUp menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
+  /// As when there is a conflict.
+  void showResolve() {
+    for (NSButton *button : placedOf<NSButton>([NSButton class]))
+      [button setHidden:NO];
   }
 
-  NSArray *placed() const { return [[views_.window contentView] subviews]; }
-
-  DialogViews views_{};
+  const Arguments arguments_ = argumentsForPlainPrinter();
+  PrintJob job_{arguments_};
+  PrintSession session_{job_};
+  std::ostringstream errors_;
+  PrintDialog *dialog_ = nil;
 };
 
 TEST_P(WindowLayout, ClipsNoTitle) {
@@ -60,7 +75,7 @@ TEST_P(WindowLayout, ClipsNoTitle) {
     NSView *const view = [placed() objectAtIndex:i];
     // A stepper has no title, and measuring one destroys the stack of 32-bit systems.
     if (![view isKindOfClass:[NSControl class]] || [view isKindOfClass:[NSPopUpButton class]] ||
-        [view isKindOfClass:[NSStepper class]] || view == views_.hint)
+        [view isKindOfClass:[NSStepper class]] || [[(NSControl *)view cell] wraps])
       continue;
     NSControl *const control = (NSControl *)view;
     EXPECT_LE([[control cell] cellSize].width, NSWidth([control frame]) + 0.5)
@@ -69,19 +84,25 @@ TEST_P(WindowLayout, ClipsNoTitle) {
 }
 
 TEST_P(WindowLayout, ClipsNoChoiceOfItsPopUps) {
-  NSFont *const font = [views_.pages font];
-  for (NSPopUpButton *const popUp :
-       {views_.printers, views_.presets, views_.pages, views_.twoSided, views_.panes})
+  for (NSPopUpButton *const popUp : placedOf<NSPopUpButton>([NSPopUpButton class]))
     for (NSInteger i = 0; i < [popUp numberOfItems]; i++) {
       const std::string title = toText([popUp itemTitleAtIndex:i]);
-      EXPECT_LE(widthOf(title, font) + kArrowsOfPopUp, NSWidth([popUp frame])) << title;
+      EXPECT_LE(widthOf(title, [popUp font]) + kArrowsOfPopUp, NSWidth([popUp frame])) << title;
     }
+}
+
+TEST_P(WindowLayout, HasRoomForWhatItsPopUpsMayOffer) {
+  NSPopUpButton *const presets = placedOf<NSPopUpButton>([NSPopUpButton class]).at(1);
+  for (const Text &title : {messages::kSavePreset, messages::kRenamePreset, messages::kDeletePreset,
+                            messages::kNotOffered})
+    EXPECT_LE(widthOf(title.str(), [presets font]) + kArrowsOfPopUp, NSWidth([presets frame]))
+        << title.str();
 }
 
 TEST_P(WindowLayout, PutsNothingOnTopOfAnother) {
   for (NSUInteger i = 0; i < [placed() count]; i++) {
     NSView *const one = [placed() objectAtIndex:i];
-    EXPECT_TRUE(NSContainsRect([[views_.window contentView] bounds], [one frame]))
+    EXPECT_TRUE(NSContainsRect([[[dialog_ window] contentView] bounds], [one frame]))
         << toText([one description]);
     for (NSUInteger j = i + 1; j < [placed() count]; j++) {
       NSView *const other = [placed() objectAtIndex:j];
@@ -124,16 +145,17 @@ TEST_P(WindowLayout, HasRoomForTheWordsOfThePicture) {
 }
 
 TEST_P(WindowLayout, IsNoLargerThanItsRoom) {
-  const NSSize size = [[views_.window contentView] frame].size;
+  const NSSize size = [[[dialog_ window] contentView] frame].size;
   EXPECT_LE(size.width, GetParam().width);
   EXPECT_LE(size.height, GetParam().height);
 }
 
 TEST_P(WindowLayout, LeavesMuchOfAPanelInSight) {
-  EXPECT_GE(NSHeight([views_.paneArea frame]), 160);
+  EXPECT_GE(NSHeight([placedOf<PaneArea>([PaneArea class]).at(0) frame]), 160);
 }
 
 TEST_P(WindowLayout, ScrollsAPaneThatIsHigherThanItsAreaToTheControlWithTheFocus) {
+  PaneArea *const area = placedOf<PaneArea>([PaneArea class]).at(0);
   NSView *const pane = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, 500, 800)] autorelease];
   NSTextField *const lowest =
       [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 10, 80, 22)] autorelease];
@@ -141,16 +163,15 @@ TEST_P(WindowLayout, ScrollsAPaneThatIsHigherThanItsAreaToTheControlWithTheFocus
       [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 768, 80, 22)] autorelease];
   [pane addSubview:lowest];
   [pane addSubview:highest];
-  showInPaneArea(views_, pane);
-  for (int twice = 0; twice < 2; twice++, showInPaneArea(views_, pane)) {
-    EXPECT_EQ([[views_.paneArea subviews] count], 1u);
-    [views_.window makeFirstResponder:highest];
+  for (int twice = 0; twice < 2; twice++) {
+    [area showPane:pane];
+    EXPECT_EQ([[area subviews] count], 1u);
+    [[dialog_ window] makeFirstResponder:highest];
     EXPECT_TRUE(NSContainsRect([pane visibleRect], [highest frame]));
     EXPECT_FALSE(NSIntersectsRect([pane visibleRect], [lowest frame]));
-    [views_.window makeFirstResponder:lowest];
+    [[dialog_ window] makeFirstResponder:lowest];
     EXPECT_TRUE(NSContainsRect([pane visibleRect], [lowest frame]));
   }
-  EXPECT_EQ([views_.panes nextKeyView], highest);
 }
 
 } // namespace

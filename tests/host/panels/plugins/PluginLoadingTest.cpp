@@ -53,6 +53,22 @@ TEST_F(PluginLoading, WrongTypesCountAsNothing) {
   EXPECT_THAT(result.output, HasSubstr("Not available"));
 }
 
+TEST_F(PluginLoading, APanelThatDoesNotSaveStopsTheJobInItsOwnWords) {
+  const auto result = behave("say no to save");
+  EXPECT_EQ(result.status, kPlugin) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, HasSubstr("\"Fixture Panel\""));
+  EXPECT_THAT(result.errors, HasSubstr("The tray is locked."));
+  EXPECT_THAT(result.output, IsEmpty());
+  EXPECT_FALSE(fs::exists(folder.path("job.json")));
+}
+
+TEST_F(PluginLoading, APanelThatDoesNotSaveWithoutAWordIsNamed) {
+  const auto result = behave("say no without a word to save");
+  EXPECT_EQ(result.status, kPlugin) << testing::PrintToString(result);
+  EXPECT_THAT(result.errors, HasSubstr("\"Fixture Panel\" could not add its settings"));
+  EXPECT_FALSE(fs::exists(folder.path("job.json")));
+}
+
 TEST_F(PluginLoading, WhateverIsRaisedLeavesThePluginOutWithItsOperationNamed) {
   for (const char *operation : {"initWithBundle:", "PDEPanelsForType:withHostInfo:", "panelKind",
                                 "panelName", "supportedPPDOptionKeys", "panelView", "willShow",

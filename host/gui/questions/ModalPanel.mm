@@ -1,0 +1,117 @@
+#import "ModalPanel.h"
+
+#import "MnemonicControls.h"
+#import "NotePanel.h"
+#include "PasteboardTrouble.hpp"
+#include "QuestionTexts.hpp"
+#import "TextBridge.h"
+
+#include <algorithm>
+#include <cmath>
+
+@interface ModalPanelController : NSObject <KeyWindowDelegate> {
+@public
+  KeyWindow *window;                       ///< Not owned.
+  const std::function<bool()> *mayConfirm; ///< Borrowed while the panel runs.
+}
+@end
+
+@implementation ModalPanelController
+
+- (void)confirm {
+  if (mayConfirm != nullptr && *mayConfirm && !(*mayConfirm)())
+    return;
+  [NSApp stopModalWithCode:NSOKButton];
+}
+
+- (void)dismiss {
+  [NSApp stopModalWithCode:NSCancelButton];
+}
+
+- (BOOL)windowShouldClose:(id)sender {
+  (void)sender;
+  [self dismiss];
+  return NO;
+}
+
+/// No plug-in's code runs here.
+- (void)exception:(NSString *)what in:(NSView *)view {
+  (void)view;
+  imageposition::showNote(window, imageposition::messages::kDialogFault,
+                          imageposition::messages::dialogFailed(imageposition::toText(what)));
+}
+
+- (void)pasteboardFailed:(NSString *)what {
+  imageposition::showNote(window, imageposition::messages::kCopyAndPaste,
+                          imageposition::pasteboardTrouble(imageposition::toText(what)));
+}
+
+@end
+
+namespace imageposition {
+
+ModalPanel::ModalPanel(const std::string &title, CGFloat width, CGFloat height,
+                       const std::string &confirmTitle, const std::string &cancelTitle)
+    : window_([[KeyWindow alloc]
+          initWithContentRect:NSMakeRect(0, 0, width, height + kButtonHeight + 3 * kPanelMargin)
+                    styleMask:NSTitledWindowMask | NSClosableWindowMask
+                      backing:NSBackingStoreBuffered
+                        defer:NO]),
+      controller_([[ModalPanelController alloc] init]), confirm_(nil), cancel_(nil) {
+  [window_ setReleasedWhenClosed:NO];
+  [window_ setTitle:toString(title)];
+  static_cast<ModalPanelController *>(controller_)->window = window_;
+  [window_ setDelegate:controller_];
+  confirm_ = makeButton(confirmTitle, controller_, @selector(confirm));
+  CGFloat left = width - kPanelMargin - NSWidth([confirm_ frame]);
+  [confirm_ setFrameOrigin:NSMakePoint(left, kPanelMargin)];
+  [window_ reach:confirm_ by:confirmTitle];
+  if (!cancelTitle.empty()) {
+    cancel_ = makeButton(cancelTitle, controller_, @selector(dismiss));
+    left -= kPanelMargin / 2 + NSWidth([cancel_ frame]);
+    [cancel_ setFrameOrigin:NSMakePoint(left, kPanelMargin)];
+    [window_ reach:cancel_ by:cancelTitle];
+    add(cancel_);
+  }
+  add(confirm_);
+  [window_ setDefaultButtonCell:[confirm_ cell]];
+}
+
+ModalPanel::~ModalPanel() {
+  [window_ setDelegate:nil];
+  [window_ close];
+  [window_ release];
+  [controller_ release];
+}
+
+CGFloat ModalPanel::bottom() const noexcept { return 2 * kPanelMargin + kButtonHeight; }
+
+void ModalPanel::add(NSView *view) { [[window_ contentView] addSubview:view]; }
+
+bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first,
+                     const std::function<bool()> &mayConfirm) {
+  static_cast<ModalPanelController *>(controller_)->mayConfirm = &mayConfirm;
+  std::vector<NSView *> loop = order;
+  if (cancel_ != nil)
+    loop.push_back(cancel_);
+  loop.push_back(confirm_);
+  for (std::size_t i = 0; i < loop.size(); i++)
+    [loop[i] setNextKeyView:loop[(i + 1) % loop.size()]];
+  if (first == nil)
+    first = order.empty() ? confirm_ : order.front();
+  [window_ setInitialFirstResponder:first];
+  const NSRect frame = [parent frame];
+  const NSSize size = [window_ frame].size;
+  [window_ setFrameOrigin:NSMakePoint(std::round(NSMidX(frame) - size.width / 2),
+                                      std::round(NSMidY(frame) - size.height / 2))];
+  [window_ makeKeyAndOrderFront:nil];
+  [window_ makeFirstResponder:first];
+  const NSInteger answer = [NSApp runModalForWindow:window_];
+  static_cast<ModalPanelController *>(controller_)->mayConfirm = nullptr;
+  [window_ makeFirstResponder:nil];
+  [window_ orderOut:nil];
+  [parent makeKeyAndOrderFront:nil];
+  return answer == NSOKButton;
+}
+
+} // namespace imageposition

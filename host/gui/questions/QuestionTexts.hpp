@@ -1,0 +1,49 @@
+/// Texts of the small windows that ask.
+#ifndef IMAGEPOSITION_GUI_QUESTIONS_QUESTIONTEXTS_HPP
+#define IMAGEPOSITION_GUI_QUESTIONS_QUESTIONTEXTS_HPP
+
+#include "Text.hpp"
+
+#include <string>
+
+namespace imageposition::messages {
+
+// Buttons.
+extern const Text kCancel;
+extern const Text kOk;
+
+// Faults of the dialog.
+extern const Text kDialogFault; ///< A window's title.
+/// `what` is the exception in words.
+std::string dialogFailed(const std::string &what);
+
+// Copy and paste.
+extern const Text kCopyAndPaste;
+std::string pasteboardFolderOfOthers(const std::string &path);
+std::string pasteboardFolderUnusable(const std::string &path);
+std::string pasteboardUnreachable(const std::string &reason);
+
+// Tickets.
+extern const Text kSaveAsTicket;
+extern const Text kTicketQuestion;
+extern const Text kSave;
+extern const Text kReplace;
+std::string ticketExists(const std::string &path);
+
+// Passwords.
+extern const Text kPasswordWindow;
+extern const Text kWrongPasswordWindow;
+extern const Text kUserRow;
+extern const Text kPasswordRow;
+std::string passwordWanted(const std::string &printer);
+std::string wrongPassword(const std::string &printer);
+
+// Values.
+extern const Text kUnitRow;
+extern const Text kMillimetres;
+extern const Text kInches;
+extern const Text kPoints;
+
+} // namespace imageposition::messages
+
+#endif

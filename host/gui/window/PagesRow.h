@@ -1,0 +1,24 @@
+/// Which pages are printed.
+#ifndef IMAGEPOSITION_GUI_WINDOW_PAGESROW_H
+#define IMAGEPOSITION_GUI_WINDOW_PAGESROW_H
+
+#import "DialogLayout.h"
+#import "DialogServices.h"
+
+@interface PagesRow : NSObject {
+  id<DialogServices> dialog; ///< Not owned.
+  NSPopUpButton *pages;      ///< Owned; so below.
+  NSTextField *ranges;
+}
+
+- (id)initWithDialog:(id<DialogServices>)theDialog;
+- (imageposition::DialogRow)row;
+/// Shows what the job's settings say.
+- (void)refresh;
+/// Takes the pages into the job's settings. NO, with a message and the focus there, when the ranges
+/// are not understood.
+- (BOOL)takeEntry;
+
+@end
+
+#endif

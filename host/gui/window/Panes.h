@@ -1,0 +1,59 @@
+/// The panes: the panels of plug-ins, the printer's options and the summary.
+#ifndef IMAGEPOSITION_GUI_WINDOW_PANES_H
+#define IMAGEPOSITION_GUI_WINDOW_PANES_H
+
+#import "DialogLayout.h"
+#import "DialogServices.h"
+#import "OptionsView.h"
+#import "PaneArea.h"
+#import "SummaryView.h"
+
+#include <string>
+#include <vector>
+
+/// Drives the panels, too: has them save and restore, and leaves out those that fail, with a
+/// message.
+@interface Panes : NSObject {
+  id<DialogServices> dialog; ///< Not owned; so is the next.
+  id<OptionsViewOwner> optionsOwner;
+  NSPopUpButton *popUp; ///< Owned; so below.
+  PaneArea *area;
+  OptionsView *options; ///< Null before it is first shown; so is the next.
+  SummaryView *summary;
+  NSView *after;                                     ///< The window's.
+  std::vector<imageposition::PanelDriver *> *listed; ///< The session's, in the order of the pop-up.
+  imageposition::PanelDriver *shown; ///< The session's; null while another pane is shown.
+  BOOL isRefusalShown;               ///< Whether the message is about what `shown` did not save.
+}
+
+/// `theOwner` carries out what the user does in the options pane.
+- (id)initWithDialog:(id<DialogServices>)theDialog optionsOwner:(id<OptionsViewOwner>)theOwner;
+- (imageposition::DialogRow)row;
+- (NSView *)area;
+/// Tab leads from the pane's last control to `view`.
+- (void)linkBefore:(NSView *)view;
+/// The first control of the pane; null where it has none.
+- (NSView *)firstControl;
+
+/// Lists the session's panels and the dialog's own panes, and chooses the first.
+- (void)list;
+/// Shows the chosen pane with what the job's settings say; lists the panes anew if a panel has
+/// gone.
+- (void)refresh;
+
+/// Has every panel save. NO when one failed.
+- (BOOL)save;
+/// The same, and NO also when one did not save.
+- (BOOL)saveAll;
+/// Asks every panel whether it allows the job, and has it save. When one does not save, the user
+/// decides whether to print anyway.
+- (BOOL)allowPrinting;
+/// Has the shown panel save after an act of the user on one of its views, so that the picture shows
+/// what it does. What is being typed is left alone.
+- (void)userActedOn:(NSView *)view;
+/// Leaves out the shown panel if the view, whose code raised `what`, is the panel's. NO if not.
+- (BOOL)leaveOutPanelOf:(NSView *)view because:(const std::string &)what;
+
+@end
+
+#endif

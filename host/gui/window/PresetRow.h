@@ -1,0 +1,34 @@
+/// The presets: choosing, saving, renaming and deleting them.
+#ifndef IMAGEPOSITION_GUI_WINDOW_PRESETROW_H
+#define IMAGEPOSITION_GUI_WINDOW_PRESETROW_H
+
+#import "DialogLayout.h"
+#import "DialogServices.h"
+
+#include "Presets.hpp"
+
+#include <string>
+#include <vector>
+
+namespace imageposition {
+struct PresetRowState;
+}
+
+/// The pop-up lists: none; this printer's presets; those of other printers; save, rename, delete.
+@interface PresetRow : NSObject {
+  id<DialogServices> dialog;            ///< Not owned.
+  NSPopUpButton *popUp;                 ///< Owned.
+  imageposition::PresetRowState *state; ///< Owned.
+}
+
+/// The preset that the job's queue names is the chosen one.
+- (id)initWithDialog:(id<DialogServices>)theDialog;
+- (imageposition::DialogRow)row;
+/// Lists the presets anew.
+- (void)list;
+/// The same for another printer, of which no preset is chosen.
+- (void)printerChanged;
+
+@end
+
+#endif

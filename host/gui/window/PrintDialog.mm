@@ -1,0 +1,292 @@
+#import "PrintDialog.h"
+
+#include "DocumentNames.hpp"
+#include "ExitCode.hpp"
+#import "HelpPanel.h"
+#include "HelpTexts.hpp"
+#import "Labels.h"
+#import "MnemonicControls.h"
+#import "NotePanel.h"
+#include "PasteboardTrouble.hpp"
+#include "Phrases.hpp"
+#import "Pool.h"
+#include "QuestionTexts.hpp"
+#import "RunLoopWake.h"
+#import "TextBridge.h"
+#include "WindowTexts.hpp"
+
+#include <ostream>
+
+using namespace imageposition;
+
+@interface PrintDialog ()
+- (void)refreshPicture;
+@end
+
+namespace {
+
+/// Redraws the picture whenever the job's settings change, in the middle of an event, too.
+struct PictureRedrawing final : PrintSettingsStore::Observer {
+  void settingsChanged() override { [dialog refreshPicture]; }
+  PrintDialog *dialog = nil;
+};
+
+} // namespace
+
+struct imageposition::PrintDialogState {
+  PrintSession *session;
+  std::ostream *errors;
+  PictureRedrawing redrawing;
+  std::unique_ptr<RunLoopWake> wake;
+};
+
+@interface PrintDialog ()
+- (void)buildParts;
+- (void)buildWindowForPane:(NSSize)pane room:(NSSize)room;
+- (NSView *)firstControl;
+- (void)keepFocus;
+- (void)look;
+- (void)sayTroubles;
+- (void)show;
+@end
+
+@implementation PrintDialog
+
+- (id)initWithSession:(PrintSession *)theSession
+               errors:(std::ostream *)theErrors
+                 pane:(NSSize)pane
+                 room:(NSSize)room {
+  if ((self = [super init]) == nil)
+    return nil;
+  PrintDialog *const dialog = self;
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr};
+  state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
+  [self buildParts];
+  [self buildWindowForPane:pane room:room];
+  [printers refresh];
+  [presets list];
+  [panes list];
+  state->redrawing.dialog = self;
+  theSession->job().settings().setObserver(&state->redrawing);
+  return self;
+}
+
+- (void)dealloc {
+  state->session->job().settings().setObserver(nullptr);
+  [printers stopAsking];
+  [window setDelegate:nil];
+  [window close];
+  for (id part : {(id)printers, (id)presets, (id)copies, (id)pages, (id)options, (id)panes,
+                  (id)sending, (id)message, (id)picture, (id)window})
+    [part release];
+  delete state;
+  [super dealloc];
+}
+
+- (void)buildParts {
+  message = [[MessageView alloc] initWithFrame:NSZeroRect];
+  picture = [[PreviewView alloc] initWithFrame:NSZeroRect];
+  printers = [[PrinterRow alloc] initWithDialog:self wake:*state->wake];
+  presets = [[PresetRow alloc] initWithDialog:self];
+  copies = [[CopiesRow alloc] initWithDialog:self];
+  pages = [[PagesRow alloc] initWithDialog:self];
+  options = [[PrinterOptionRows alloc] initWithDialog:self];
+  panes = [[Panes alloc] initWithDialog:self optionsOwner:options];
+}
+
+- (void)buildWindowForPane:(NSSize)pane room:(NSSize)room {
+  NSButton *const help = makeButton(messages::kHelpButton, self, @selector(help));
+  NSButton *const cancel = makeButton(messages::kCancel, self, @selector(dismiss));
+  NSButton *const print = makeButton(messages::kPrint, self, @selector(confirm));
+  sending = [[Sending alloc] initWithDialog:self
+                               cancelButton:cancel
+                                       wake:*state->wake
+                                     errors:state->errors];
+  const std::string document = documentsInWords(state->session->job().documents());
+  NSTextField *const documentName = makeLabel("");
+  std::vector<DialogRow> rows = [printers rows];
+  if (!document.empty())
+    rows.push_back({messages::kDocumentRow, {{documentName, true}}});
+  rows.insert(rows.end(), {[presets row], [copies row], [pages row]});
+  for (DialogRow &row : [options rows])
+    rows.push_back(std::move(row));
+  rows.push_back([panes row]);
+  NSButton *const resolve = [options resolveButton];
+  window = layOutDialog({rows, picture, [panes area], [options hint], resolve, message,
+                         [sending progressView], help, cancel, print},
+                        pane, room);
+  [window setDelegate:(id)self];
+  [window reach:resolve by:messages::kResolve];
+  [window reach:help by:messages::kHelpButton];
+  [window reach:cancel by:messages::kCancel];
+  [window reach:print by:messages::kPrint];
+  [panes linkBefore:resolve];
+  showCut(documentName, document, NSWidth([documentName frame]));
+}
+
+- (KeyWindow *)window {
+  return window;
+}
+
+- (PrintSession &)session {
+  return *state->session;
+}
+
+- (void)show:(const std::string &)text {
+  [message setStringValue:toString(text)];
+}
+
+- (void)say:(const std::string &)text {
+  [self show:text];
+  if (!text.empty())
+    *state->errors << text << std::endl;
+}
+
+- (BOOL)savePanels {
+  return [panes save];
+}
+
+- (BOOL)takeEntries {
+  return [copies takeEntry] && [pages takeEntry] && [panes saveAll];
+}
+
+- (void)chooseQueue:(const std::string &)queue {
+  if (![self savePanels])
+    return;
+  try {
+    state->session->chooseQueue(queue);
+    [self say:""];
+  } catch (const Failure &failure) {
+    [self say:failure.what()];
+  }
+  [presets printerChanged];
+  [panes list];
+  [self refresh];
+}
+
+- (void)refresh {
+  [copies refresh];
+  [pages refresh];
+  [self refreshOptions];
+}
+
+- (void)refreshOptions {
+  [options refresh];
+  [panes refresh];
+  [self refreshPicture];
+  [self keepFocus];
+}
+
+/// Called at every change of a setting.
+- (void)refreshPicture {
+  PrintJob &job = state->session->job();
+  PreviewView *const view = picture;
+  [window protect:[&] { // it may be a panel that has changed the setting
+    [view showPreview:makePreview(job.settings(), job.printer().ppd())];
+  }];
+}
+
+- (NSView *)firstControl {
+  NSView *const first = [panes firstControl];
+  return first != nil ? first : [[window defaultButtonCell] controlView];
+}
+
+/// The view that had the focus may have gone with its pane.
+- (void)keepFocus {
+  if ([window focusedView] == nil)
+    [window makeFirstResponder:[self firstControl]];
+}
+
+- (void)confirm {
+  if ([sending isUnderWay])
+    return;
+  NSView *const focused = [window focusedView];
+  [window makeFirstResponder:nil];
+  if ([copies takeEntry] && [pages takeEntry] && [panes allowPrinting])
+    [sending startWithFocus:focused];
+}
+
+- (void)dismiss {
+  if ([sending isUnderWay])
+    [sending cancel];
+  else
+    [NSApp stopModalWithCode:NSCancelButton];
+}
+
+- (void)help {
+  if (![sending isUnderWay]) // whose end would end the help
+    showHelp(window);
+}
+
+- (void)wake {
+  [options askForChosenValue];
+  [sending askForPassword];
+}
+
+/// Another thread has found something.
+- (void)look {
+  PrinterRow *const printerRow = printers;
+  Sending *const sender = sending;
+  [window protect:[=] {
+    [sender look];
+    [printerRow takeAnswer];
+  }];
+}
+
+- (void)userActedOn:(NSView *)view {
+  if (![sending isUnderWay])
+    [panes userActedOn:view];
+}
+
+- (BOOL)windowShouldClose:(id)sender {
+  (void)sender;
+  [self dismiss];
+  return NO;
+}
+
+- (void)exception:(NSString *)what in:(NSView *)view {
+  if (![panes leaveOutPanelOf:view because:toText(what)])
+    [self say:messages::dialogFailed(toText(what))];
+}
+
+- (void)pasteboardFailed:(NSString *)what {
+  [self say:pasteboardTrouble(toText(what))];
+}
+
+- (void)sayTroubles {
+  PanelSession &session = state->session->panels();
+  std::string troubles;
+  for (const std::string &trouble : session.troubles())
+    troubles += (troubles.empty() ? "" : "\n") + trouble;
+  if (troubles.empty() && session.panels().empty())
+    troubles = messages::kNoPanelHere;
+  if (!troubles.empty())
+    [self say:troubles];
+  const auto &misfits = state->session->job().misfits(); // standard error has them already
+  if (!misfits.empty())
+    [self show:messages::sentences({troubles, messages::sentences(misfits)})];
+}
+
+- (void)show {
+  const Pool pool;
+  [printers startAsking];
+  [self sayTroubles];
+  [self refresh];
+  [window center];
+  [window setInitialFirstResponder:[self firstControl]];
+  [window makeFirstResponder:[self firstControl]];
+  [NSApp finishLaunching]; // no keys arrive before
+  [NSApp activateIgnoringOtherApps:YES];
+  [window makeKeyAndOrderFront:nil];
+}
+
+- (BOOL)run {
+  [self show];
+  const NSInteger answer = [NSApp runModalForWindow:window];
+  if (const std::string note = [sending note]; !note.empty()) // desktops hide standard error
+    showNote(window, messages::kJobWaits, note);
+  [window orderOut:nil];
+  return answer == NSOKButton;
+}
+
+@end

@@ -1,0 +1,136 @@
+#import "PrinterRow.h"
+
+#import "Labels.h"
+#include "QuestionTexts.hpp"
+#import "RunLoopWake.h"
+#import "TextBridge.h"
+#include "WindowTexts.hpp"
+
+#include <algorithm>
+#include <string>
+
+using namespace imageposition;
+
+struct imageposition::PrinterRowState {
+  const RunLoopWake &wake;
+  std::vector<std::string> names; // full names, in the order of the pop-up
+};
+
+namespace {
+
+constexpr NSTimeInterval kBetweenQuestions = 5;
+
+std::string titleOf(const Destination &destination) {
+  const std::string name = destination.fullName();
+  return destination.description.empty() || destination.description == name
+             ? name
+             : destination.description + " (" + name + ")";
+}
+
+} // namespace
+
+@interface PrinterRow ()
+- (void)ask:(NSTimer *)asking;
+- (void)showState;
+- (void)printerChosen:(id)sender;
+@end
+
+@implementation PrinterRow
+
+- (id)initWithDialog:(id<DialogServices>)theDialog wake:(const RunLoopWake &)wake {
+  if ((self = [super init]) == nil)
+    return nil;
+  dialog = theDialog;
+  state = new PrinterRowState{wake, {}};
+  popUp = [makePopUp(self, @selector(printerChosen:)) retain];
+  stateLabel = [makeLabel("") retain];
+  return self;
+}
+
+- (void)dealloc {
+  [popUp setTarget:nil];
+  [popUp release];
+  [stateLabel release];
+  delete state;
+  [super dealloc];
+}
+
+- (std::vector<DialogRow>)rows {
+  return {{messages::kPrinterRow, {{popUp}}}, {"", {{stateLabel, true}}}};
+}
+
+- (void)startAsking {
+  [self ask:nil];
+  timer = [NSTimer timerWithTimeInterval:kBetweenQuestions
+                                  target:self
+                                selector:@selector(ask:)
+                                userInfo:nil
+                                 repeats:YES];
+  for (NSString *mode : {NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode})
+    [[NSRunLoop currentRunLoop] addTimer:timer forMode:mode];
+}
+
+- (void)stopAsking {
+  [timer invalidate];
+  timer = nil;
+}
+
+- (void)ask:(NSTimer *)asking {
+  (void)asking;
+  [dialog session].destinations().refresh(state->wake.signal());
+}
+
+- (void)takeAnswer {
+  if ([dialog session].destinations().takeAnswer())
+    [self refresh];
+}
+
+- (void)refresh {
+  PrintJob &job = [dialog session].job();
+  std::vector<std::string> &names = state->names;
+  names.clear();
+  [popUp removeAllItems];
+  for (const Destination &destination : [dialog session].destinations().list().destinations) {
+    if (!destination.instance.empty() && destination.fullName() != job.queue())
+      continue; // presets have their own pop-up
+    names.push_back(destination.fullName());
+    addItem(popUp, titleOf(destination));
+  }
+  auto current = std::find(names.begin(), names.end(), job.queue());
+  if (!job.queue().empty() && current == names.end()) {
+    current = names.insert(names.end(), job.queue());
+    addItem(popUp, job.queue());
+  }
+  addItem(popUp, messages::kSaveAsTicket);
+  const auto item = job.isSubmitted() ? current : names.end(); // the ticket's is the last
+  [popUp selectItemAtIndex:item - names.begin()];
+  [self showState];
+}
+
+- (void)showState {
+  PrintJob &job = [dialog session].job();
+  const DestinationList &list = [dialog session].destinations().list();
+  const Destination *const destination = list.find(job.queue());
+  std::string text;
+  if (!job.isSubmitted())
+    text = job.printer().name();
+  else if (destination != nullptr)
+    text = messages::printerState(destination->stateText, destination->location);
+  else
+    text = list.reason.empty() ? messages::kStateUnknown : list.reason;
+  showCut(stateLabel, text, NSWidth([stateLabel frame]));
+}
+
+- (void)printerChosen:(id)sender {
+  [(KeyWindow *)[sender window] focus:popUp];
+  PrintJob &job = [dialog session].job();
+  const auto chosen = static_cast<std::size_t>([popUp indexOfSelectedItem]);
+  const bool isTicket = chosen >= state->names.size();
+  const std::string queue = isTicket ? job.queue() : state->names.at(chosen);
+  if (queue != job.queue())
+    [dialog chooseQueue:queue];
+  job.setSubmitted(!isTicket && queue == job.queue());
+  [self refresh];
+}
+
+@end

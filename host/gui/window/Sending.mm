@@ -1,0 +1,170 @@
+#import "Sending.h"
+
+#import "ControlLock.h"
+#include "JobSubmission.hpp"
+#import "KeyWindow.h"
+#import "NamePanel.h"
+#import "PasswordPanel.h"
+#import "RunLoopWake.h"
+#include "TicketName.hpp"
+#include "WindowTexts.hpp"
+
+#include <iostream>
+#include <memory>
+
+using namespace imageposition;
+
+struct imageposition::SendingState {
+  SendingState(const RunLoopWake &theWake, std::ostream &theErrors)
+      : wake(theWake), errors(theErrors) {}
+
+  const RunLoopWake &wake;
+  std::ostream &errors;
+  std::unique_ptr<JobSubmission> submission;
+  std::unique_ptr<ControlLock> lock; // while there is a submission
+  NSView *focused = nil;             // the window's
+  bool isAsking = false;             // for a password
+  std::string note;
+};
+
+@interface Sending ()
+- (void)showSending:(BOOL)sending;
+- (void)showProgress;
+- (void)finish;
+@end
+
+@implementation Sending
+
+- (id)initWithDialog:(id<DialogServices>)theDialog
+        cancelButton:(NSButton *)theButton
+                wake:(const RunLoopWake &)wake
+              errors:(std::ostream *)errors {
+  if ((self = [super init]) == nil)
+    return nil;
+  dialog = theDialog;
+  cancelButton = [theButton retain];
+  progress = [[NSProgressIndicator alloc] initWithFrame:NSZeroRect];
+  [progress setIndeterminate:NO];
+  [progress setMaxValue:1];
+  [progress setHidden:YES];
+  state = new SendingState(wake, *errors);
+  return self;
+}
+
+- (void)dealloc {
+  delete state;
+  [progress release];
+  [cancelButton release];
+  [super dealloc];
+}
+
+- (NSProgressIndicator *)progressView {
+  return progress;
+}
+
+- (BOOL)isUnderWay {
+  return state->submission != nullptr;
+}
+
+- (std::string)note {
+  return state->note;
+}
+
+- (void)startWithFocus:(NSView *)focused {
+  PrintJob &job = [dialog session].job();
+  if (job.isSubmitted() && !job.hasDocument()) {
+    [dialog say:messages::kNothingToPrint];
+    return;
+  }
+  try {
+    std::string ticket = job.arguments().ticket;
+    if (!job.isSubmitted() && ticket.empty()) {
+      const auto named = askForTicket([progress window], suggestedTicket(job.documents()));
+      if (!named)
+        return;
+      ticket = *named;
+    }
+    state->submission =
+        job.print([dialog session].destinations().list(), ticket, state->wake.signal());
+  } catch (const Failure &failure) {
+    [dialog say:failure.what()];
+    return;
+  }
+  if (![self isUnderWay]) {
+    [NSApp stopModalWithCode:NSOKButton];
+    return;
+  }
+  state->focused = focused;
+  [dialog show:""];
+  [progress setDoubleValue:0];
+  [self showSending:YES];
+}
+
+- (void)showSending:(BOOL)sending {
+  [progress setHidden:!sending];
+  if (sending) {
+    state->lock = std::make_unique<ControlLock>([[progress window] contentView], cancelButton);
+    return;
+  }
+  state->lock.reset();
+  [[progress window] makeFirstResponder:state->focused];
+}
+
+- (void)cancel {
+  if ([self isUnderWay])
+    state->submission->cancel();
+}
+
+- (void)look {
+  if (![self isUnderWay] || state->isAsking)
+    return;
+  if (state->submission->question()) {
+    wakeModalLoop([progress window]);
+    return;
+  }
+  [self showProgress];
+  if (state->submission->isDone())
+    [self finish];
+}
+
+- (void)showProgress {
+  const JobProgress now = state->submission->progress();
+  const auto total = now.total.value_or(0);
+  [progress
+      setDoubleValue:total == 0 ? 0 : static_cast<double>(now.sent) / static_cast<double>(total)];
+  [dialog show:messages::sending(messages::byteCount(now.sent),
+                                 total == 0 ? "" : messages::byteCount(total))];
+}
+
+- (void)finish {
+  const auto submission = std::move(state->submission);
+  [self showSending:NO];
+  try {
+    const SubmittedJob sent = submission->result();
+    [dialog session].job().report(sent, std::cout, state->errors);
+    state->note = sent.note;
+    [dialog show:""]; // "Sending" is over when the user reads the note
+    [NSApp stopModalWithCode:NSOKButton];
+    wakeModalLoop([progress window]);
+  } catch (const Failure &failure) {
+    [dialog say:failure.what()];
+  }
+}
+
+- (void)askForPassword {
+  if (![self isUnderWay] || state->isAsking)
+    return;
+  const auto question = state->submission->question();
+  if (!question)
+    return;
+  state->isAsking = true;
+  auto answer = imageposition::askForPassword([progress window],
+                                              [dialog session].job().printer().name(), *question);
+  state->isAsking = false;
+  if (!answer)
+    [self cancel];
+  state->submission->answer(std::move(answer));
+  [self look]; // what came meanwhile
+}
+
+@end

@@ -1,0 +1,39 @@
+// A window that nobody uses leaves the processor alone, and one that sends needs no clock.
+#include "WindowFixture.hpp"
+
+#include <fstream>
+
+namespace {
+
+using namespace imageposition::test;
+
+class IdleWindow : public QueueWindow {
+protected:
+  /// How often the main thread has gone to sleep, and so been woken.
+  long wakes() const {
+    const std::string id = std::to_string(dialogProcess->id());
+    std::ifstream status("/proc/" + id + "/task/" + id + "/status");
+    const std::string name = "voluntary_ctxt_switches:";
+    for (std::string line; std::getline(status, line);)
+      if (line.compare(0, name.size(), name) == 0)
+        return std::stol(line.substr(name.size()));
+    return -1;
+  }
+};
+
+TEST_F(IdleWindow, WakesForThePrintersAlone) {
+  openQueue();
+  goTo(kPanes);                                         // a pop-up, which has no caret
+  std::this_thread::sleep_for(std::chrono::seconds(2)); // what the start and the key had drawn
+  constexpr int kSeconds = 10;                          // in which the printers are read twice
+  int busySeconds = 0;
+  for (int second = 0; second < kSeconds; second++) {
+    const long before = wakes();
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    busySeconds += wakes() != before;
+  }
+  EXPECT_LE(busySeconds, 4); // an answer may come in the second after its question
+  EXPECT_GE(busySeconds, 1) << "the printers are not read";
+}
+
+} // namespace
