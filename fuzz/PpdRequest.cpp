@@ -1,5 +1,6 @@
 // Values that are entered for the options of any description, and what CUPS is sent of a job.
 #include "CheckText.hpp"
+#include "CupsHandles.hpp"
 #include "EntryCheck.hpp"
 #include "ExitCode.hpp"
 #include "JobRequest.hpp"
@@ -8,14 +9,11 @@
 #include "PpdChecks.hpp"
 #include "PrinterOptions.hpp"
 
-#include <memory>
 #include <strings.h>
 
 namespace imageposition::fuzz {
 
 namespace {
-
-using Ipp = std::unique_ptr<ipp_t, decltype(&ippDelete)>;
 
 /// An entry that the parameter should take: its lower end, or a text of as many letters.
 std::string smallestEntry(const CustomParameter &parameter) {
@@ -60,12 +58,12 @@ void checkEntered(PrinterDescription &printer, const PrintSettingsStore &job,
 }
 
 /// As CUPS receives it.
-Ipp sentAndReceived(const JobRequest &request, const PrintSettingsStore &options) {
-  const Ipp sent(newJobRequest(request, options), ippDelete);
+IppMessage sentAndReceived(const JobRequest &request, const PrintSettingsStore &options) {
+  const IppMessage sent(newJobRequest(request, options));
   const MemoryFile file("");
   check(ippWriteFile(file.descriptor(), sent.get()) == IPP_STATE_DATA, "a request can be sent");
   lseek(file.descriptor(), 0, SEEK_SET);
-  Ipp received(ippNew(), ippDelete);
+  IppMessage received(ippNew());
   check(ippReadFile(file.descriptor(), received.get()) == IPP_STATE_DATA, "and received");
   return received;
 }

@@ -1,11 +1,9 @@
 #include "PpdSize.hpp"
 
-#include <cups/cups.h>
-#include <cups/file.h>
+#include "CupsHandles.hpp"
 
 #include <algorithm>
 #include <map>
-#include <memory>
 #include <set>
 #include <string_view>
 #include <strings.h>
@@ -18,10 +16,6 @@ namespace {
 constexpr long long kMostComparisons = 60'000'000;
 constexpr long long kMostStatements = 100'000;
 constexpr long long kMostBytes = 16'000'000;
-
-struct Close {
-  void operator()(cups_file_t *file) const noexcept { cupsFileClose(file); }
-};
 
 bool startsWith(std::string_view text, std::string_view start) {
   return text.substr(0, start.size()) == start;
@@ -105,7 +99,7 @@ int countConstraints(const ppd_file_t &ppd) {
 } // namespace
 
 bool isReadSoon(const std::string &path) {
-  const std::unique_ptr<cups_file_t, Close> file(cupsFileOpen(path.c_str(), "r"));
+  const CupsFile file(cupsFileOpen(path.c_str(), "r"));
   if (!file)
     return true;
   Estimate estimate;
