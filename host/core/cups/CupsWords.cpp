@@ -37,6 +37,8 @@ std::string wordFor(const Queue &queue, Term term) {
   }
   // Its catalogue has its own messages as well as IPP's names.
   const std::string &name = term.message.empty() ? term.attribute : term.message;
+  if (name.empty())
+    return {};
   if (term.value.empty())
     return unlessSame(cupsLocalizeDestOption(http, destination, info, name.c_str()), name);
   return unlessSame(

@@ -139,7 +139,8 @@ Term ippTerm(ppd_file_t &ppd, const std::string &option, const std::string &choi
   Term term;
   const bool isSize = option == "PageSize" || option == "PageRegion";
   if (isSize && !choice.empty()) {
-    if (const ppd_size_t *const size = ppdPageSize(&ppd, choice.c_str()))
+    const ppd_size_t *const size = ppdPageSize(&ppd, choice.c_str());
+    if (size != nullptr && size->width > 0 && size->length > 0) // "Custom" has none
       term.size = toCupsSize(*size);
   } else if (const IppName *const name = findIppName(option, choice)) {
     term.attribute = name->attribute;
