@@ -9,13 +9,9 @@
 
 namespace imageposition::fuzz {
 
-inline bool isWellFormed(const std::string &text) {
-  return utf8FromUtf16(utf16FromUtf8(text)) == text;
-}
-
 /// A string for one line, which may be empty.
 inline void checkLine(const std::string &text, const std::string &property) {
-  check(isWellFormed(text), property + " is UTF-8: " + text);
+  check(isWellFormedUtf8(text), property + " is UTF-8: " + text);
   const std::u16string units = utf16FromUtf8(text);
   check(std::none_of(units.begin(), units.end(),
                      [](char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); }),

@@ -1,5 +1,6 @@
 // Custom values for the options of any PPD, and the request that CUPS receives for a job.
 #include "CheckText.hpp"
+#include "CupsHandles.hpp"
 #include "ExitCode.hpp"
 #include "JobRequest.hpp"
 #include "JobSummary.hpp"
@@ -9,13 +10,10 @@
 #include "Strings.hpp"
 #include "ValueCheck.hpp"
 
-#include <memory>
 
 namespace imageposition::fuzz {
 
 namespace {
-
-using Ipp = std::unique_ptr<ipp_t, decltype(&ippDelete)>;
 
 /// An entry that the parameter should accept: its minimum, or a string of minimum length.
 std::string smallestEntry(const CustomParameter &parameter) {
@@ -61,12 +59,12 @@ void checkEntered(PrinterDescription &printer, const PrintSettingsStore &job,
 }
 
 /// Returns the request as CUPS receives it.
-Ipp sentAndReceived(const JobRequest &request, const PrintSettingsStore &options) {
-  const Ipp sent(newJobRequest(request, options), ippDelete);
+IppMessage sentAndReceived(const JobRequest &request, const PrintSettingsStore &options) {
+  const IppMessage sent(newJobRequest(request, options));
   const MemoryFile file("");
   check(ippWriteFile(file.descriptor(), sent.get()) == IPP_STATE_DATA, "a request can be sent");
   lseek(file.descriptor(), 0, SEEK_SET);
-  Ipp received(ippNew(), ippDelete);
+  IppMessage received(ippNew());
   check(ippReadFile(file.descriptor(), received.get()) == IPP_STATE_DATA, "and received");
   return received;
 }

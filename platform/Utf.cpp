@@ -87,13 +87,33 @@ std::string utf8FromUtf16(std::u16string_view text) {
 }
 
 bool isWellFormedUtf8(std::string_view text) {
-  for (std::size_t at = 0; at < text.size();) {
-    const Sequence next = decodeAt(text, at);
-    if (next.code == kReplacement && next.length == 1) // a U+FFFD in the text has three bytes
+  while (!text.empty()) {
+    const std::size_t length = firstCharacterLength(text);
+    if (length == 0)
       return false;
-    at += next.length;
+    text.remove_prefix(length);
   }
   return true;
+}
+
+std::size_t firstCharacterLength(std::string_view utf8) {
+  if (utf8.empty())
+    return 0;
+  const Sequence first = decodeAt(utf8, 0);
+  const bool isMalformed =
+      first.code == kReplacement && first.length == 1; // U+FFFD has three bytes
+  return isMalformed ? 0 : first.length;
+}
+
+std::string_view utf8Prefix(std::string_view utf8, std::size_t most) {
+  std::size_t length = 0;
+  while (length < utf8.size()) {
+    const std::size_t next = length + decodeAt(utf8, length).length;
+    if (next > most)
+      break;
+    length = next;
+  }
+  return utf8.substr(0, length);
 }
 
 std::u16string utf16FromUtf8(std::string_view text) {

@@ -1,12 +1,12 @@
 #include "CupsWords.hpp"
 
 #include "CupsConnection.hpp"
+#include "CupsHandles.hpp"
 #include "PasswordQuestion.hpp"
 
 #include <algorithm>
 #include <future>
 #include <iterator>
-#include <memory>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -16,13 +16,6 @@ namespace imageposition {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-struct FreeDestination {
-  void operator()(cups_dest_t *destination) const noexcept { cupsFreeDests(1, destination); }
-};
-struct FreeInfo {
-  void operator()(cups_dinfo_t *info) const noexcept { cupsFreeDestInfo(info); }
-};
 
 /// What libcups wants to be given for each word.
 struct Queue {
@@ -44,6 +37,8 @@ std::string wordFor(const Queue &queue, Term term) {
   }
   // Its catalogue has its own messages as well as IPP's names.
   const std::string &name = term.message.empty() ? term.attribute : term.message;
+  if (name.empty())
+    return {};
   if (term.value.empty())
     return unlessSame(cupsLocalizeDestOption(http, destination, info, name.c_str()), name);
   return unlessSame(
@@ -58,11 +53,10 @@ std::vector<std::string> ask(const std::string &queue, const std::vector<Term> &
   if (!connection)
     return {};
   http_t *const http = connection->http();
-  const std::unique_ptr<cups_dest_t, FreeDestination> destination(
-      cupsGetNamedDest(http, queue.c_str(), nullptr));
+  const CupsDestination destination(cupsGetNamedDest(http, queue.c_str(), nullptr));
   if (!destination)
     return {};
-  const std::unique_ptr<cups_dinfo_t, FreeInfo> info(cupsCopyDestInfo(http, destination.get()));
+  const CupsDestinationInfo info(cupsCopyDestInfo(http, destination.get()));
   if (!info)
     return {};
   std::vector<std::string> words;

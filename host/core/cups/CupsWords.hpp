@@ -12,7 +12,7 @@
 namespace imageposition {
 
 /// What CUPS may have a word for: a message of its own, an attribute of IPP, a value of one, or a
-/// paper size. The first of these that is given counts.
+/// paper size. The first of these that is given counts; nothing has a word where none is.
 struct Term {
   std::optional<cups_size_t> size;
   std::string message;   ///< In CUPS's English: "Print Quality".

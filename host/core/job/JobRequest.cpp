@@ -1,5 +1,6 @@
 #include "JobRequest.hpp"
 
+#include "CupsHandles.hpp"
 #include "CustomValue.hpp"
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
@@ -9,7 +10,6 @@
 #include "VisibleText.hpp"
 
 #include <algorithm>
-#include <memory>
 #include <vector>
 
 namespace imageposition {
@@ -55,11 +55,6 @@ void sortPages(PrintSettingsStore &options) {
 bool isCompound(const JobRequest &request, const cups_option_t &option) {
   return option.value[0] == '{' && contains(request.compounds, option.name);
 }
-
-struct DeleteRequest {
-  void operator()(ipp_t *ipp) const noexcept { ippDelete(ipp); }
-};
-using Request = std::unique_ptr<ipp_t, DeleteRequest>;
 
 /// The longest value of IPP's type "name"; a text may be longer.
 constexpr std::size_t kLongestName = 255;
@@ -156,7 +151,7 @@ ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &option
 
 std::string writeRequestText(const JobRequest &request) {
   const PrintSettingsStore options = optionsToSend(request);
-  const Request ipp(newJobRequest(request, options));
+  const IppMessage ipp(newJobRequest(request, options));
   std::string text;
   for (ipp_attribute_t *attribute = ippFirstAttribute(ipp.get()); attribute != nullptr;
        attribute = ippNextAttribute(ipp.get()))

@@ -1,6 +1,7 @@
 #include "JobSubmission.hpp"
 
 #include "CupsConnection.hpp"
+#include "CupsHandles.hpp"
 #include "CupsTexts.hpp"
 #include "Destinations.hpp"
 #include "DocumentNames.hpp"
@@ -79,13 +80,6 @@ std::string nameOf(const std::string &path) {
   return path == "-" ? messages::kStandardInput : path;
 }
 
-struct FreeDestination {
-  void operator()(cups_dest_t *dest) const noexcept { cupsFreeDests(1, dest); }
-};
-struct FreeInfo {
-  void operator()(cups_dinfo_t *info) const noexcept { cupsFreeDestInfo(info); }
-};
-
 /// One job on its way.
 class Submission {
 public:
@@ -132,8 +126,8 @@ private:
   bool hasTimedOut_ = false;
   bool isAllSent_ = false; // every document, though CUPS may not have confirmed the last one
   std::unique_ptr<CupsConnection> connection_;
-  std::unique_ptr<cups_dest_t, FreeDestination> printer_;
-  std::unique_ptr<cups_dinfo_t, FreeInfo> info_;
+  CupsDestination printer_;
+  CupsDestinationInfo info_;
   int job_ = 0;
 };
 
@@ -209,8 +203,8 @@ void Submission::createJobWithCompounds() {
     failAsCups();
   JobRequest request = request_;
   request.printerUri = uri;
-  const std::unique_ptr<ipp_t, decltype(&ippDelete)> response(
-      cupsDoRequest(connection_->http(), newJobRequest(request, options_), resource), ippDelete);
+  const IppMessage response(
+      cupsDoRequest(connection_->http(), newJobRequest(request, options_), resource));
   ipp_attribute_t *const id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
   if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE || id == nullptr)
     failAsCups();

@@ -1,25 +1,21 @@
 #include "MissingTexts.hpp"
 
+#include "CupsHandles.hpp"
 #include "CupsWords.hpp"
+#include "Utf.hpp"
 
 #include <cups/cups.h>
-#include <cups/file.h>
 #include <cups/pwg.h>
 
 #include <algorithm>
 #include <cctype>
 #include <cstring>
-#include <memory>
 #include <string_view>
 #include <vector>
 
 namespace imageposition {
 
 namespace {
-
-struct Close {
-  void operator()(cups_file_t *file) const noexcept { cupsFileClose(file); }
-};
 
 bool isKeyword(const char *text, const char *keyword) {
   return *text == '\0' || std::strcmp(text, keyword) == 0;
@@ -143,7 +139,8 @@ Term ippTerm(ppd_file_t &ppd, const std::string &option, const std::string &choi
   Term term;
   const bool isSize = option == "PageSize" || option == "PageRegion";
   if (isSize && !choice.empty()) {
-    if (const ppd_size_t *const size = ppdPageSize(&ppd, choice.c_str()))
+    const ppd_size_t *const size = ppdPageSize(&ppd, choice.c_str());
+    if (size != nullptr && size->width > 0 && size->length > 0) // "Custom" has none
       term.size = toCupsSize(*size);
   } else if (const IppName *const name = findIppName(option, choice)) {
     term.attribute = name->attribute;
@@ -193,11 +190,9 @@ private:
 };
 
 void write(const std::string &text, char (&place)[PPD_MAX_TEXT]) {
-  std::size_t length = std::min(text.size(), sizeof place - 1);
-  while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
-    length--; // between characters
-  text.copy(place, length);
-  place[length] = '\0';
+  const std::string_view part = utf8Prefix(text, sizeof place - 1);
+  part.copy(place, part.size());
+  place[part.size()] = '\0';
 }
 
 } // namespace
@@ -214,7 +209,7 @@ bool isMissingTexts(const ppd_file_t &ppd) {
 }
 
 Translations readTranslations(const std::string &path) {
-  const std::unique_ptr<cups_file_t, Close> file(cupsFileOpen(path.c_str(), "r"));
+  const CupsFile file(cupsFileOpen(path.c_str(), "r"));
   Translations translations;
   char line[1024];
   while (file && cupsFileGets(file.get(), line, sizeof line) != nullptr)

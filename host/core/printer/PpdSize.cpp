@@ -1,13 +1,10 @@
 #include "PpdSize.hpp"
 
+#include "CupsHandles.hpp"
 #include "Strings.hpp"
-
-#include <cups/cups.h>
-#include <cups/file.h>
 
 #include <algorithm>
 #include <map>
-#include <memory>
 #include <set>
 #include <string_view>
 
@@ -20,9 +17,6 @@ constexpr long long kMostComparisons = 60'000'000;
 constexpr long long kMostStatements = 100'000;
 constexpr long long kMostBytes = 16'000'000;
 
-struct Close {
-  void operator()(cups_file_t *file) const noexcept { cupsFileClose(file); }
-};
 
 std::string_view wordOf(std::string_view text) {
   return text.substr(0, text.find_first_of(" \t:/\r\n"));
@@ -102,7 +96,7 @@ int countConstraints(const ppd_file_t &ppd) {
 } // namespace
 
 bool isReadSoon(const std::string &path) {
-  const std::unique_ptr<cups_file_t, Close> file(cupsFileOpen(path.c_str(), "r"));
+  const CupsFile file(cupsFileOpen(path.c_str(), "r"));
   if (!file)
     return true;
   Estimate estimate;

@@ -1,6 +1,7 @@
 #include "PrinterDescription.hpp"
 
 #include "ChoiceList.hpp"
+#include "CupsConnection.hpp"
 #include "ExitCode.hpp"
 #include "MissingTexts.hpp"
 #include "PpdSize.hpp"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <ctime>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -45,25 +47,20 @@ std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
 }
 
 bool isCupsReachable() {
-  constexpr int kPatienceInMilliseconds = 5000;
-  http_t *const connection = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                                          cupsEncryption(), 1, kPatienceInMilliseconds, nullptr);
-  httpClose(connection);
-  return connection != nullptr;
+  return CupsConnection::open(std::chrono::seconds(5), [] { return false; }) != nullptr;
 }
 
 /// What users chose with lpoptions, or an administrator for everybody. The list also has the
 /// queue's state and location; no PPD has options of those names, so that marking passes over them.
 PrintSettingsStore defaultsOf(const QueueName &queue) {
   PrintSettingsStore defaults;
-  cups_dest_t *const destination =
+  const CupsDestination destination(
       cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.printer.c_str(),
-                       queue.instance.empty() ? nullptr : queue.instance.c_str());
-  if (destination == nullptr)
+                       queue.instance.empty() ? nullptr : queue.instance.c_str()));
+  if (!destination)
     return defaults;
   for (int i = 0; i < destination->num_options; i++)
     defaults.set(destination->options[i].name, destination->options[i].value);
-  cupsFreeDests(1, destination);
   return defaults;
 }
 
@@ -78,7 +75,7 @@ void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Choices &marked) {
 
 } // namespace
 
-PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name)
+PrinterDescription::PrinterDescription(PpdFile ppd, std::string name)
     : ppd_(std::move(ppd)), name_(std::move(name)) {
   ppdMarkDefaults(ppd_.get());
   for (ppd_option_t *option = ppdFirstOption(ppd_.get()); option != nullptr;
@@ -93,15 +90,14 @@ PrinterDescription::PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, s
   lists_.erase(std::remove_if(lists_.begin(), lists_.end(), isOther), lists_.end());
 }
 
-std::unique_ptr<ppd_file_t, PrinterDescription::Close>
-PrinterDescription::open(const std::string &path, const std::string &shownPath) {
+PpdFile PrinterDescription::open(const std::string &path, const std::string &shownPath) {
   const mode_t kind = kindOf(path);
   if (kind == S_IFDIR)
     throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, systemReason(EISDIR)));
   if (kind == S_IFREG && !isReadSoon(path)) // a pipe can be read once only
     throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));
   errno = 0;
-  std::unique_ptr<ppd_file_t, Close> ppd(ppdOpenFile(path.c_str()));
+  PpdFile ppd(ppdOpenFile(path.c_str()));
   const int reason = errno;
   if (ppd && !isMarkedSoon(*ppd))
     throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));

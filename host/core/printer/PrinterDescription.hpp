@@ -2,13 +2,11 @@
 #ifndef IMAGEPOSITION_HOST_PRINTERDESCRIPTION_HPP
 #define IMAGEPOSITION_HOST_PRINTERDESCRIPTION_HPP
 
+#include "CupsHandles.hpp"
 #include "OptionConstraints.hpp"
 #include "PrintSettingsStore.hpp"
 
-#include <cups/ppd.h>
-
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -52,20 +50,15 @@ public:
   std::vector<std::string> attributeValues(const std::string &keyword) const;
 
 private:
-  struct Close {
-    void operator()(ppd_file_t *ppd) const noexcept { ppdClose(ppd); }
-  };
-
-  PrinterDescription(std::unique_ptr<ppd_file_t, Close> ppd, std::string name);
+  PrinterDescription(PpdFile ppd, std::string name);
 
   /// `queue` is empty for a file.
   void localize(const std::string &path, const std::string &queue);
   void markLists(const PrintSettingsStore &job);
 
-  static std::unique_ptr<ppd_file_t, Close> open(const std::string &path,
-                                                 const std::string &shownPath);
+  static PpdFile open(const std::string &path, const std::string &shownPath);
 
-  std::unique_ptr<ppd_file_t, Close> ppd_;
+  PpdFile ppd_;
   std::string name_;
   PrintSettingsStore queueDefaults_;
   std::vector<ppd_option_t *> lists_; ///< The options that take several choices; the PPD's.

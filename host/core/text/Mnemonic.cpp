@@ -12,16 +12,12 @@ namespace {
 /// Bytes of the character that begins there; 0 where no key can be: at the end, at a blank, at
 /// another ampersand or other ASCII punctuation, and at bytes that are no UTF-8.
 std::size_t keyLength(std::string_view text) {
-  if (text.empty())
-    return 0;
-  const auto lead = static_cast<unsigned char>(text.front());
-  if (lead < 0x80) {
-    const bool isKey = (lead >= '0' && lead <= '9') || (lead >= 'A' && lead <= 'Z') ||
-                       (lead >= 'a' && lead <= 'z');
-    return isKey ? 1 : 0;
-  }
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  return isWellFormedUtf8(text.substr(0, length)) ? length : 0;
+  const std::size_t length = firstCharacterLength(text);
+  if (length != 1)
+    return length;
+  const char c = text.front();
+  const bool isKey = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+  return isKey ? 1 : 0;
 }
 
 } // namespace

@@ -94,6 +94,30 @@ TEST(Utf, SurrogatesAndCodesBeyondUnicodeAreMalformedInUtf8) {
   EXPECT_EQ(utf16FromUtf8("\xF8\x88\x80\x80\x80"), marks(5));
 }
 
+TEST(Utf, TheFirstCharacterHasALengthWhereItIsWellFormed) {
+  const std::pair<std::string_view, std::size_t> kTexts[] = {{"", 0},
+                                                             {"a", 1},
+                                                             {"ab", 1},
+                                                             {"\xC3\xA9x", 2},
+                                                             {"\xE2\x82\xAC", 3},
+                                                             {"\xF0\x9F\x96\xA8", 4},
+                                                             {"\xEF\xBF\xBD", 3},
+                                                             {"\xE2\x82", 0},
+                                                             {"\x80", 0},
+                                                             {"\xFF", 0},
+                                                             {"\xC0\x80", 0}};
+  for (const auto &[text, length] : kTexts)
+    EXPECT_EQ(firstCharacterLength(text), length) << testing::PrintToString(text);
+}
+
+TEST(Utf, APrefixHasNoPartOfACharacter) {
+  const std::string_view text = "a\xC3\xA9\xE2\x82\xAC";
+  const std::size_t kLengths[] = {0, 1, 1, 3, 3, 3, 6, 6};
+  for (std::size_t most = 0; most < std::size(kLengths); ++most)
+    EXPECT_EQ(utf8Prefix(text, most), text.substr(0, kLengths[most])) << most;
+  EXPECT_EQ(utf8Prefix("\xFF\xFF", 1), "\xFF");
+}
+
 TEST(Utf, EveryCharacterSurvivesBothConversions) {
   for (char32_t character = 0; character <= 0x10FFFF; ++character) {
     if (character >= 0xD800 && character <= 0xDFFF)
