@@ -46,7 +46,6 @@ struct imageposition::PrintDialogState {
 - (NSView *)firstControl;
 - (void)keepFocus;
 - (void)look;
-- (void)sayTroubles;
 - (void)show;
 @end
 
@@ -253,21 +252,10 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-- (void)sayTroubles {
-  PanelSession &session = state->session->panels();
-  std::string troubles;
-  for (const std::string &trouble : session.troubles())
-    troubles += (troubles.empty() ? "" : "\n") + trouble;
-  if (troubles.empty() && session.panels().empty())
-    troubles = messages::kNoPanelHere;
-  if (!troubles.empty())
-    [self say:troubles];
-}
-
 - (void)show {
   const Pool pool;
   [printers startAsking];
-  [self sayTroubles];
+  [panes sayTroubles];
   [self refresh];
   [window center];
   [window setInitialFirstResponder:[self firstControl]];
