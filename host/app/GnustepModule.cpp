@@ -7,6 +7,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <string>
+#include <sys/stat.h>
 
 namespace imageposition {
 
@@ -17,15 +18,29 @@ constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEP
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Fault, message); }
 
-/// The permissions of the module are not checked: a user who could replace it could replace the
-/// program, too.
+/// Whether another user could have put the file there, for example beside a program in /tmp. Group
+/// permissions do not count: a group that can replace the module can replace the program, too.
+bool isStrangers(const std::string &path) {
+  struct stat module {
+  }, program{};
+  if (lstat(path.c_str(), &module) != 0 || stat("/proc/self/exe", &program) != 0)
+    return true;
+  const bool isOwned = module.st_uid == program.st_uid || module.st_uid == 0;
+  return !isOwned || (!S_ISLNK(module.st_mode) && (module.st_mode & S_IWOTH) != 0);
+}
+
 std::string moduleFile() {
+  std::string refused;
   std::error_code ignored;
-  const std::string built = besideProgram(kBesideProgram), installed = besideProgram(kInstalled);
-  for (const std::string &path : {built, installed})
-    if (!path.empty() && std::filesystem::exists(path, ignored))
+  const std::string installed = besideProgram(kInstalled);
+  for (const std::string &path : {besideProgram(kBesideProgram), installed}) {
+    if (path.empty() || !std::filesystem::exists(path, ignored))
+      continue;
+    if (!isStrangers(path))
       return path;
-  refuse(messages::moduleMissing(installed));
+    refused = messages::moduleUntrusted(path);
+  }
+  refuse(refused.empty() ? messages::moduleMissing(installed) : refused);
 }
 
 } // namespace

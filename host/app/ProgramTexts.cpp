@@ -14,13 +14,16 @@ std::string configurationUntrusted(const std::string &part) {
       .with(part);
 }
 std::string moduleMissing(const std::string &path) {
-  return text("The file \"{1}\" of print-dialog is missing. Install print-dialog again.")
+  return text("print-dialog's file \"{1}\" is missing. Reinstall print-dialog.").with(path);
+}
+std::string moduleUntrusted(const std::string &path) {
+  return text("print-dialog's file \"{1}\" was not loaded: another user could modify it. Reinstall "
+              "print-dialog.")
       .with(path);
 }
 std::string moduleNotLoadable(const std::string &path, const std::string &reason) {
-  return text(
-             "\"{1}\", a part of print-dialog, could not be loaded{2}. Install print-dialog again, "
-             "with the packages that it needs.")
+  return text("print-dialog's file \"{1}\" could not be loaded{2}. Reinstall print-dialog and the "
+              "packages that it depends on.")
       .with(path, because(reason));
 }
 const Text kCutShort = text("its end is missing");

@@ -15,6 +15,7 @@ std::string configurationUntrusted(const std::string &part);
 
 // The module that has the window and the panels. `path` is its file.
 std::string moduleMissing(const std::string &path);
+std::string moduleUntrusted(const std::string &path);
 /// `reason` is the loader's.
 std::string moduleNotLoadable(const std::string &path, const std::string &reason);
 extern const Text kCutShort;

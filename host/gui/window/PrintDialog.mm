@@ -46,7 +46,6 @@ struct imageposition::PrintDialogState {
 - (NSView *)firstControl;
 - (void)keepFocus;
 - (void)look;
-- (void)sayTroubles;
 - (void)show;
 @end
 
@@ -253,24 +252,13 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-- (void)sayTroubles {
-  PanelSession &session = state->session->panels();
-  std::string troubles;
-  for (const std::string &trouble : session.troubles())
-    troubles += (troubles.empty() ? "" : "\n") + trouble;
-  if (troubles.empty() && session.panels().empty())
-    troubles = messages::kNoPanelHere;
-  if (!troubles.empty())
-    [self say:troubles];
-  const auto &misfits = state->session->job().misfits(); // standard error has them already
-  if (!misfits.empty())
-    [self show:messages::sentences({troubles, messages::sentences(misfits)})];
-}
-
 - (void)show {
   const Pool pool;
   [printers startAsking];
-  [self sayTroubles];
+  [panes sayTroubles];
+  const auto &misfits = state->session->job().misfits(); // standard error has them already
+  if (!misfits.empty())
+    [self show:messages::sentences({toText([message stringValue]), messages::sentences(misfits)})];
   [self refresh];
   [window center];
   [window setInitialFirstResponder:[self firstControl]];

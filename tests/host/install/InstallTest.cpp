@@ -122,7 +122,7 @@ protected:
     EXPECT_EQ(result.status, 10) << testing::PrintToString(result);
     EXPECT_THAT(result.errors, HasSubstr(module));
     EXPECT_THAT(result.errors, HasSubstr(reason));
-    EXPECT_THAT(result.errors, HasSubstr("Install print-dialog"));
+    EXPECT_THAT(result.errors, HasSubstr("Reinstall print-dialog"));
     EXPECT_EQ(runProcess({program(), "--version"}).status, 0);
   }
 
@@ -155,7 +155,7 @@ TEST_F(InstallOfTheModule, ThatIsAnotherLibraryIsSaid) {
 TEST_F(InstallOfTheModule, ThatOtherUsersMayChangeIsRefused) {
   std::filesystem::permissions(module, std::filesystem::perms::others_write,
                                std::filesystem::perm_options::add);
-  expectFailure("another user could change");
+  expectFailure("another user could modify it");
 }
 
 /// The program in a folder where everybody may have files, as in /tmp.
