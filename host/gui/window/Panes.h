@@ -41,8 +41,6 @@
 /// gone.
 - (void)refresh;
 
-/// Says which plug-ins and panels were left out, or that there is no panel.
-- (void)sayTroubles;
 /// Has every panel save. NO when one failed.
 - (BOOL)save;
 /// The same, and NO also when one did not save.

@@ -181,17 +181,6 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
     [dialog refreshOptions];
 }
 
-- (void)sayTroubles {
-  const PanelSession &session = [dialog session].panels();
-  std::string troubles;
-  for (const std::string &trouble : session.troubles())
-    troubles += (troubles.empty() ? "" : "\n") + trouble;
-  if (troubles.empty() && session.panels().empty())
-    troubles = messages::kNoPanelHere;
-  if (!troubles.empty())
-    [dialog say:troubles];
-}
-
 - (BOOL)save {
   const PanelReplies replies = [dialog session].panels().save();
   [self tell:replies];

@@ -46,6 +46,7 @@ struct imageposition::PrintDialogState {
 - (NSView *)firstControl;
 - (void)keepFocus;
 - (void)look;
+- (void)sayTroubles;
 - (void)show;
 @end
 
@@ -154,7 +155,7 @@ struct imageposition::PrintDialogState {
     return;
   try {
     state->session->chooseQueue(queue);
-    [self say:""];
+    [self say:state->session->panels().troubleText()];
   } catch (const Failure &failure) {
     [self say:failure.what()];
   }
@@ -252,13 +253,24 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
+/// What is missing in the window, and which of the preset's settings the printer does not accept,
+/// which standard error has already.
+- (void)sayTroubles {
+  PanelSession &panels = state->session->panels();
+  const auto &misfits = state->session->job().misfits();
+  std::string troubles = panels.troubleText();
+  if (troubles.empty() && panels.panels().empty())
+    troubles = messages::kNoPanelHere;
+  if (!troubles.empty())
+    [self say:troubles];
+  if (!misfits.empty())
+    [self show:messages::sentences({troubles, messages::sentences(misfits)})];
+}
+
 - (void)show {
   const Pool pool;
   [printers startAsking];
-  [panes sayTroubles];
-  const auto &misfits = state->session->job().misfits(); // standard error has them already
-  if (!misfits.empty())
-    [self show:messages::sentences({toText([message stringValue]), messages::sentences(misfits)})];
+  [self sayTroubles];
   [self refresh];
   [window center];
   [window setInitialFirstResponder:[self firstControl]];

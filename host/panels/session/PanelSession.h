@@ -49,6 +49,8 @@ public:
   const std::vector<std::unique_ptr<PanelDriver>> &panels() const noexcept { return panels_; }
   /// Messages of the plug-ins and panels that were left out.
   const std::vector<std::string> &troubles() const noexcept { return troubles_; }
+  /// The same, a line each; empty without any.
+  std::string troubleText() const;
 
   /// Asks every panel whether it allows the job.
   PanelReplies askToPrint();

@@ -36,6 +36,13 @@ void PanelSession::takePlainNumbers() {
     makePlainNumber(ppd_, keyword, settings_);
 }
 
+std::string PanelSession::troubleText() const {
+  std::string text;
+  for (const std::string &trouble : troubles_)
+    text += (text.empty() ? "" : "\n") + trouble;
+  return text;
+}
+
 std::vector<std::string> PanelSession::optionKeys() const {
   std::vector<std::string> keys;
   for (const auto &panel : panels_)
