@@ -106,7 +106,7 @@ void checkSummary(const SummarySection &section) {
   checkWords(section.panelName, "a heading");
   for (const SummaryLine &line : section.lines) {
     checkWords(line.title, "a title of the summary");
-    check(isWellFormed(line.value), "a value of the summary is UTF-8"); // the job's, as it is
+    check(isWellFormedUtf8(line.value), "a value of the summary is UTF-8"); // the job's, as it is
   }
 }
 
@@ -138,12 +138,12 @@ void checkRequest(PrinterDescription &printer, const PrintSettingsStore &job) {
   checkSummary(sentSection(request));
   try {
     const PrintSettingsStore options = optionsToSend(request);
-    const Ipp known = sentAndReceived(request, options);
+    const IppMessage known = sentAndReceived(request, options);
     for (int i = 0; i < options.optionCount(); ++i)
       if (hasCapital(options.options()[i].name) &&
           !isForeignCollection(request, options.options()[i]))
         checkReceived(known.get(), options.options()[i]);
-    check(isWellFormed(writeRequestText(request)), "the request's text is UTF-8");
+    check(isWellFormedUtf8(writeRequestText(request)), "the request's text is UTF-8");
   } catch (const Failure &failure) {
     checkWords(failure.what(), "why a job cannot be sent");
   }
