@@ -106,7 +106,7 @@ void checkSummary(const SummarySection &section) {
   checkWords(section.panelName, "a heading");
   for (const SummaryLine &line : section.lines) {
     checkWords(line.title, "a title of the summary");
-    check(isWellFormed(line.value), "a value of the summary is UTF-8"); // unchanged from the job
+    check(isWellFormedUtf8(line.value), "a value of the summary is UTF-8"); // unchanged from the job
   }
 }
 
@@ -143,7 +143,7 @@ void checkRequest(PrinterDescription &printer, const PrintSettingsStore &job) {
       if (hasCapital(options.options()[i].name) &&
           !isForeignCollection(request, options.options()[i]))
         checkReceived(known.get(), options.options()[i]);
-    check(isWellFormed(writeRequestText(request)), "the printed request is UTF-8");
+    check(isWellFormedUtf8(writeRequestText(request)), "the printed request is UTF-8");
   } catch (const Failure &failure) {
     checkWords(failure.what(), "why a job cannot be sent");
   }

@@ -191,6 +191,14 @@ TEST_F(HostileCups, WithoutAnAnswerHasNoWordsForAnOption) {
                 ElementsAre("", ""));
 }
 
+TEST_F(HostileCups, HasNoWordForWhatHasNoName) {
+  Term unnamedSize;
+  unnamedSize.size = cups_size_t{};
+  const auto words = with(printer(), [&] { return wordsFor({unnamedSize, Term()}); });
+  ASSERT_THAT(words, SizeIs(2));
+  EXPECT_EQ(words[1], "");
+}
+
 /// A port of this machine that lets clients connect and tells them nothing.
 class SilentPort {
 public:
