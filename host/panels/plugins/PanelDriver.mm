@@ -77,6 +77,15 @@ void abandonEditing(NSView *view) {
     [field abortEditing];
 }
 
+/// A scroll view would keep a pointer to its document that has gone.
+void takeOut(NSView *view) {
+  NSScrollView *const scroll = [view enclosingScrollView];
+  if (scroll != nil && [scroll documentView] == view)
+    [scroll setDocumentView:nil];
+  else
+    [view removeFromSuperview];
+}
+
 } // namespace
 
 PanelDriver::PanelDriver(id panel, std::string pluginPath)
@@ -104,7 +113,7 @@ PanelDriver::~PanelDriver() {
   // A panel that raises here is gone anyway.
   whatIsRaisedBy([this] {
     abandonEditing(view_);
-    [view_ removeFromSuperview];
+    takeOut(view_);
     [view_ release];
     [(id)panel_ release];
   });
