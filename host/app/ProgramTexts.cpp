@@ -5,12 +5,12 @@
 namespace imageposition::messages {
 
 std::string documentUnreadable(const std::string &path, const std::string &reason) {
-  return text("The document \"{1}\" cannot be read: {2}. Check the name and its rights.")
+  return text("Cannot read the document \"{1}\": {2}. Check its name and permissions.")
       .with(path, reason);
 }
 std::string configurationUntrusted(const std::string &part) {
-  return text("GNUSTEP_CONFIG_FILE was ignored: another user could change \"{1}\". Unset the "
-              "variable, or have it name a file that only you can change, in such a folder.")
+  return text("Ignored GNUSTEP_CONFIG_FILE: another user could modify \"{1}\". Unset the variable, "
+              "or set it to a file and folder that only you can modify.")
       .with(part);
 }
 std::string moduleMissing(const std::string &path) {

@@ -12,7 +12,6 @@ namespace imageposition::messages {
 /// `plugins`: the paths of those that were asked.
 std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins);
 std::string jobSentUnsaid(const std::string &job);
-extern const Text kCancelled;
 
 } // namespace imageposition::messages
 

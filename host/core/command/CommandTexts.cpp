@@ -80,50 +80,51 @@ const char *const kHelpFooter =
     "  10 memory ran out, or there is a fault in print-dialog\n"
     "In batch, nothing is written unless the status is 0.";
 const Text kTwoPrintersNamed =
-    text("Name one printer: its description with --ppd FILE, or its queue with -d QUEUE.");
-const Text kOnlyInBatch = text("--set, --back and --summary need --batch.");
-const Text kInputNamedTwice = text("Standard input can be printed only once; name \"-\" one time.");
+    text("Specify one printer, either with --ppd FILE or with -d QUEUE.");
+const Text kOnlyInBatch = text("--set, --back and --summary require --batch.");
+const Text kInputNamedTwice = text("Standard input can be printed only once. Use \"-\" once.");
 std::string jobsAreNotChanged(const std::string &job) {
-  return text("Jobs that CUPS has already are not changed here. Change this one with lp -i {1}, or "
-              "remove it with cancel {1} and print again.")
+  return text("print-dialog does not change jobs that CUPS already has. Change this job with lp -i "
+              "{1}, or cancel it with cancel {1} and print again.")
       .with(job);
 }
 const Text kJobsAreNotRestarted =
-    text("Jobs that CUPS has already are not printed again from here. Use lp -i JOB -H restart.");
+    text("print-dialog does not restart jobs that CUPS already has. Use lp -i JOB -H restart.");
 std::string badHoldTime(const std::string &when) {
-  return text("-H takes hold, immediate, a UTC time such as 18:30, or a name such as night, and "
-              "not \"{1}\".")
+  return text("-H does not accept \"{1}\". Use hold, immediate, a UTC time such as 18:30, or a "
+              "name such as night.")
       .with(when);
 }
 std::string badAppearance(const std::string &appearance) {
-  return text("--appearance takes \"light\" or \"dark\", and not \"{1}\".").with(appearance);
+  return text("--appearance must be \"light\" or \"dark\", not \"{1}\".").with(appearance);
 }
 std::string badTextScale(const std::string &scale) {
-  return text("--text-scale takes a number above 0, such as 1.25, and not \"{1}\".").with(scale);
+  return text("--text-scale must be a number greater than 0, such as 1.25, not \"{1}\".")
+      .with(scale);
 }
 std::string argumentNotText(const std::string &argument) {
-  return text("The argument \"{1}\" is not UTF-8 text. Give the file another name, or name it by a "
-              "link.")
+  return text("The argument \"{1}\" is not valid UTF-8. Rename the file, or use a symbolic link to "
+              "it.")
       .with(argument);
 }
 std::string fileLikeOption(const std::string &argument) {
-  return text("\"{1}\" could be an option, and it is also the name of a file here. Write \"--\" "
-              "before the documents.")
+  return text("\"{1}\" is both an option and the name of a file here. Put \"--\" before the "
+              "documents.")
       .with(argument);
 }
 std::string emptyText(const std::string &option) {
-  return text("{1} was given an empty text.").with(option);
+  return text("{1} has an empty value.").with(option);
 }
 std::string badEntry(const std::string &argument) {
-  return text("--set takes NAME=TEXT, for example --set FrontLRM=-3, and not \"{1}\".")
+  return text("--set requires NAME=VALUE, for example --set FrontLRM=-3, not \"{1}\".")
       .with(argument);
 }
 std::string badSwitch(const std::string &argument) {
-  return text("--back takes \"on\" or \"off\", and not \"{1}\".").with(argument);
+  return text("--back must be \"on\" or \"off\", not \"{1}\".").with(argument);
 }
 std::string ticketNamesOptions(const std::string &path) {
-  return text("--ticket takes the JSON file; \"{1}\" is named like the file that is written beside "
-              "it. Give it the ending .json.")
+  return text("--ticket must name the JSON file. \"{1}\" is the name of the file written beside "
+              "it. Use the extension .json.")
       .with(path);
 }
 

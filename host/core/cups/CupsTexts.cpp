@@ -10,24 +10,25 @@ const Text kPrinterStopped = text("Stopped");
 std::string stateBecause(const std::string &state, const std::string &reasons) {
   return text("{1}: {2}").with(state, reasons);
 }
-std::string refusesJobs(const std::string &state) { return text("{1}; takes no jobs").with(state); }
-const Text kNoPrinters = text(
-    "CUPS has no printers. Add one in the system's settings or with lpadmin, or save the job's "
-    "settings as a ticket.");
+std::string refusesJobs(const std::string &state) {
+  return text("Not accepting jobs ({1})").with(state);
+}
+const Text kNoPrinters = text("CUPS has no printers. Add one in the system settings or with "
+                              "lpadmin, or save the job's settings as a ticket.");
 std::string noCups(const std::string &server, const std::string &reason) {
-  return text("CUPS does not answer at {1}{2}. Start it (systemctl start cups) and try again, or "
+  return text("CUPS is not responding at {1}{2}. Start it (systemctl start cups) and try again, or "
               "save the job's settings as a ticket.")
       .with(server, because(reason));
 }
-const Text kNoAnswer = text("no answer in time");
+const Text kNoAnswer = text("timed out");
 std::string printersNotListed(const std::string &reason) {
-  return text("CUPS does not say which printers it has{1}. Ask its administrator, or save the "
-              "job's settings as a ticket.")
+  return text("CUPS refused to list its printers{1}. Ask its administrator, or save the job's "
+              "settings as a ticket.")
       .with(because(reason));
 }
 std::string passwordExposed(const std::string &server) {
-  return text("The connection to CUPS at {1} is not encrypted: others on the network can read the "
-              "password on its way. To encrypt it, cancel and start print-dialog with -E.")
+  return text("The connection to CUPS at {1} is not encrypted, so others on the network could read "
+              "your password. To encrypt it, cancel and start print-dialog with -E.")
       .with(server);
 }
 

@@ -2,9 +2,9 @@
 
 namespace imageposition::messages {
 
-const Text kNotAnOrdinaryFile = text("it is not an ordinary file");
-const Text kLinkOfAnotherUser = text("it is a link that belongs to another user");
+const Text kNotAnOrdinaryFile = text("it is not a regular file");
+const Text kLinkOfAnotherUser = text("it is a symbolic link owned by another user");
 const Text kNotWrittenByPrintDialog =
-    text("what is there was not written by print-dialog for this user");
+    text("the existing file was not written by print-dialog for this user");
 
 } // namespace imageposition::messages

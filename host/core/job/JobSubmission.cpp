@@ -7,6 +7,7 @@
 #include "DocumentNames.hpp"
 #include "DocumentStream.hpp"
 #include "JobTexts.hpp"
+#include "Phrases.hpp"
 
 #include <atomic>
 #include <cerrno>
@@ -38,7 +39,7 @@ constexpr auto kPatience = std::chrono::seconds(30); // without a sign of life f
   throw SubmissionFailure(problem, code, message);
 }
 
-[[noreturn]] void failCancelled() { fail(JobProblem::Cancelled, messages::kSubmissionCancelled); }
+[[noreturn]] void failCancelled() { fail(JobProblem::Cancelled, messages::kCancelled); }
 
 /// What CUPS's status, which can be any number, means for a job.
 JobProblem problemOf(int status) {

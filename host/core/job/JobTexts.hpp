@@ -49,7 +49,6 @@ std::string jobLeftBehind(const std::string &message, const std::string &queue, 
 std::string jobTakenBack(const std::string &message, const std::string &queue, int job);
 /// When CUPS had all of the job, and may have begun to print it.
 std::string jobCancelled(const std::string &queue, int job);
-extern const Text kSubmissionCancelled;
 extern const Text kStandardInput;
 std::string waitsForPrinter(const std::string &queue, const std::string &state);
 std::string waitsForRelease(const std::string &queue, int job, const std::string &until);

@@ -17,7 +17,6 @@ constexpr long long kMostComparisons = 60'000'000;
 constexpr long long kMostStatements = 100'000;
 constexpr long long kMostBytes = 16'000'000;
 
-
 std::string_view wordOf(std::string_view text) {
   return text.substr(0, text.find_first_of(" \t:/\r\n"));
 }

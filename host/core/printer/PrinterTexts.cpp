@@ -21,34 +21,34 @@ std::string usage(const std::string &mistake) {
   return text("{1} See print-dialog --help.").with(sentence);
 }
 std::string badOption(const std::string &argument) {
-  return text("\"{1}\" is no job option; write it as NAME=VALUE.").with(argument);
+  return text("\"{1}\" is not a job option. Use NAME=VALUE.").with(argument);
 }
 std::string optionLocked(const std::string &name) {
-  return text("The ticket locks \"{1}\". Leave out -o {1}, or use another ticket.").with(name);
+  return text("The ticket locks \"{1}\". Omit -o {1}, or use another ticket.").with(name);
 }
 std::string ppdUnreadable(const std::string &path, const std::string &reason) {
-  return text("The printer description \"{1}\" cannot be read: {2}. Check the name and its rights.")
+  return text("Cannot read the printer description \"{1}\": {2}. Check its name and permissions.")
       .with(path, reason);
 }
 std::string ppdTooLarge(const std::string &path) {
-  return text("\"{1}\" is larger than any printer's description: reading it would take too long. "
-              "Use the one that comes with the printer's driver.")
+  return text("\"{1}\" is too large for a printer description and would take too long to read. Use "
+              "the one supplied with the printer driver.")
       .with(path);
 }
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason) {
-  return text("\"{1}\" is not a usable printer description: line {2}: {3}. Name a PPD file; "
-              "cupstestppd tells more about one.")
+  return text("\"{1}\" is not a valid printer description: line {2}: {3}. Specify a PPD file. "
+              "cupstestppd checks PPD files.")
       .with(path, line, reason);
 }
 std::string ppdOfQueue(const std::string &queue) { return text("PPD of queue {1}").with(queue); }
 std::string cupsUnreachable(const std::string &server, const std::string &queue) {
-  return text("CUPS, which knows the queue \"{1}\", cannot be reached at \"{2}\". Start it, or set "
-              "CUPS_SERVER; --ppd names a description file instead.")
+  return text("Cannot reach CUPS at \"{2}\" for the queue \"{1}\". Start CUPS, set CUPS_SERVER, or "
+              "use --ppd with a printer description.")
       .with(queue, server);
 }
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
-  return text("CUPS has no printer description for the queue \"{1}\": {2}. lpstat -e lists the "
-              "queues; --ppd names a description file instead.")
+  return text("CUPS has no printer description for the queue \"{1}\": {2}. List the queues with "
+              "lpstat -e, or use --ppd with a printer description.")
       .with(queue, withoutStop(reason));
 }
 std::string chosenOption(const std::string &option, const std::string &choice) {
@@ -67,35 +67,35 @@ std::string fromTo(const std::string &low, const std::string &high) {
 std::string digits(const std::string &count) { return text("Digits: {1}").with(count); }
 std::string letters(const std::string &count) { return text("Letters: {1}").with(count); }
 std::string entryNoNumber(const std::string &name, const std::string &range) {
-  return text("{1}: that is no number. Enter {2}.").with(name, range);
+  return text("{1} must be a number. Enter {2}.").with(name, range);
 }
 std::string entryNotWhole(const std::string &name, const std::string &range) {
-  return text("{1}: that is no whole number. Enter {2}.").with(name, range);
+  return text("{1} must be a whole number. Enter {2}.").with(name, range);
 }
 std::string entryOutOfRange(const std::string &name, const std::string &range) {
-  return text("{1}: that is out of range. Enter {2}.").with(name, range);
+  return text("{1} is out of range. Enter {2}.").with(name, range);
 }
 std::string entryLength(const std::string &name, const std::string &letters,
                         const std::string &range) {
   // Translators: {1} is the name of a field, such as "Password"; {2} a number, {3} one or "4 to
   // 16".
-  return text("{1}: that has a length of {2}. The printer takes {3}.").with(name, letters, range);
+  return text("{1} has a length of {2}. The printer accepts {3}.").with(name, letters, range);
 }
 std::string entryLengthInBytes(const std::string &name, const std::string &bytes,
                                const std::string &range) {
   // Translators: as above, for a text with letters of which UTF-8 makes several bytes.
-  return text("{1}: that has a length of {2}. The printer takes {3}; a letter such as é counts as "
+  return text("{1} has a length of {2}. The printer accepts {3}, and a letter such as é counts as "
               "two or more.")
       .with(name, bytes, range);
 }
 std::string entryNoDigits(const std::string &name) {
-  return text("{1}: enter digits only.").with(name);
+  return text("{1} must consist of digits.").with(name);
 }
 std::string entryHasBrackets(const std::string &name) {
-  return text("{1}: leave out curly brackets, which CUPS cannot carry there.").with(name);
+  return text("{1} must not contain curly brackets, which CUPS does not allow there.").with(name);
 }
 std::string entryUnusable(const std::string &name) {
-  return text("{1}: no job can carry that. Enter something else.").with(name);
+  return text("{1} has a value that a print job cannot hold. Enter another value.").with(name);
 }
 std::string conflict(const std::vector<std::string> &sides) {
   if (sides.size() == 1)
@@ -104,26 +104,26 @@ std::string conflict(const std::vector<std::string> &sides) {
 }
 std::string moreConflicts(std::size_t others) {
   // Translators: follows sentences such as "The printer cannot combine ...".
-  return counted(static_cast<long>(others), "There is {1} more such conflict.",
-                 "There are {1} more such conflicts.");
+  return counted(static_cast<long>(others), "There is {1} more conflict.",
+                 "There are {1} more conflicts.");
 }
 std::string conflictProposal(const std::vector<std::string> &changes) {
   return text("Change to {1}.").with(inWords(changes));
 }
 std::string misfitOption(const std::string &option, const std::string &value) {
-  return text("\"{1}\" ({2}) was left out: this printer has no such option.").with(option, value);
+  return text("Left out \"{1}\" ({2}): this printer has no such option.").with(option, value);
 }
 std::string misfitChoice(const std::string &option, const std::string &value) {
-  return text("\"{1}\" has this printer's default: the printer does not offer \"{2}\".")
+  return text("Set \"{1}\" to this printer's default: the printer does not offer \"{2}\".")
       .with(option, value);
 }
 std::string misfitEntered(const std::string &option, const std::string &problem) {
-  return text("\"{1}\" has this printer's default: {2}").with(option, problem);
+  return text("Set \"{1}\" to this printer's default: {2}").with(option, problem);
 }
 std::string broughtIntoRange(const std::string &option, const std::string &value,
                              const std::string &nearest, const std::string &range) {
   // Translators: {2} and {3} are numbers, {4} is a range such as "-50 to 50".
-  return text("\"{1}\" was set to {3} instead of {2}: this printer takes {4}.")
+  return text("Set \"{1}\" to {3} instead of {2}: this printer accepts {4}.")
       .with(option, value, nearest, range);
 }
 const Text kGeneralGroup = text("General");

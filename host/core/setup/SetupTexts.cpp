@@ -2,16 +2,16 @@
 
 namespace imageposition::messages {
 
-const Text kNoDefaultPrinter = text("There is no default printer. Name one with -d QUEUE (lpstat "
-                                    "-e lists the queues) or --ppd FILE.");
+const Text kNoDefaultPrinter = text("There is no default printer. Specify one with -d QUEUE "
+                                    "(lpstat -e lists the queues) or --ppd FILE.");
 std::string ticketWritten(const std::string &path, const std::string &optionPath) {
   return text("The job's settings are in {1} and {2}.").with(path, optionPath);
 }
 std::string outputUnwritable(const std::string &done) {
   if (done.empty())
-    return text("Standard output cannot be written. Send it elsewhere, or name a file with "
-                "--ticket.");
-  return text("Standard output cannot be written. {1}").with(done);
+    return text(
+        "Cannot write to standard output. Redirect it elsewhere, or specify a file with --ticket.");
+  return text("Cannot write to standard output. {1}").with(done);
 }
 // As lp says it in English: scripts read it.
 std::string jobSent(const std::string &printer, int id, std::size_t files) {

@@ -2,26 +2,25 @@
 
 namespace imageposition::messages {
 
-const Text kChooseTwoSided = text("Choose it, such as with -o Duplex=DuplexNoTumble.");
-const Text kSwitchBannerPagesOff = text("Switch them off with -o MVBannerPagePrint=False.");
+const Text kChooseTwoSided = text("Turn it on, for example with -o Duplex=DuplexNoTumble.");
+const Text kSwitchBannerPagesOff = text("Turn them off with -o MVBannerPagePrint=False.");
 const Text kTwoSidedOff = text("Two-sided printing is off.");
 const Text kBannerPagesOn = text("Banner pages are on.");
-const Text kPreviewSizeUnknown =
-    text("The printer does not say how large the page is; A4 is shown.");
+const Text kPreviewSizeUnknown = text("The printer does not report the page size. A4 is shown.");
 const Text kPreviewImageableUnknown =
-    text("The printer does not say where on the page it can print; the whole page is assumed.");
-const Text kPreviewNothingMoved = text("Neither side is moved.");
+    text("The printer does not report its printable area. The whole page is assumed.");
+const Text kPreviewNothingMoved = text("Neither side moves.");
 std::string previewFrontMoved(const std::string &directions) {
-  return text("The front is moved {1}.").with(directions);
+  return text("The front moves {1}.").with(directions);
 }
 std::string previewBackMoved(const std::string &directions) {
-  return text("The back is moved {1} as its reader sees it.").with(directions);
+  return text("The back moves {1}, as you look at the back.").with(directions);
 }
 std::string previewBothMoved(const std::string &directions) {
-  return text("Each side is moved {1} as its reader sees it.").with(directions);
+  return text("Each side moves {1}, as you look at that side.").with(directions);
 }
 std::string previewBackAgainstFront(const std::string &directions) {
-  return text("Held against the light, the back is moved {1} against the front.").with(directions);
+  return text("Held against the light, the back moves {1} relative to the front.").with(directions);
 }
 const Text kPreviewSidesCoincide =
     text("Held against the light, the back lies exactly behind the front.");

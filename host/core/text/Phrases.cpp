@@ -12,8 +12,9 @@ std::string summaryLine(const std::string &title, const std::string &value) {
 }
 std::string valueAdjusted(const std::string &name, const std::string &given,
                           const std::string &made) {
-  return text("The panel made \"{3}\" of \"{2}\" for {1}.").with(name, given, made);
+  return text("The panel changed {1} from \"{2}\" to \"{3}\".").with(name, given, made);
 }
+const Text kCancelled = text("Cancelled. Nothing was printed.");
 const char *const kProgram = "print-dialog: ";
 std::string inWords(const std::vector<std::string> &parts) {
   if (parts.size() < 2)

@@ -22,6 +22,8 @@ std::string valueAdjusted(const std::string &name, const std::string &given,
 
 // Before a message that ends the program.
 extern const char *const kProgram;
+/// The user cancelled, before or while the job was sent.
+extern const Text kCancelled;
 
 /// "a", "a and b", "a, b and c".
 std::string inWords(const std::vector<std::string> &parts);

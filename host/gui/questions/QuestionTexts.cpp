@@ -15,19 +15,18 @@ std::string dialogFailed(const std::string &what) {
 }
 const Text kCopyAndPaste = text("Copy and paste");
 std::string pasteboardFolderOfOthers(const std::string &path) {
-  return text("Copy and paste do not work: the folder \"{1}\" belongs to another user. Ask the "
-              "system's administrator to remove it.")
+  return text("Copy and paste do not work: another user owns the folder \"{1}\". Ask the system "
+              "administrator to remove it.")
       .with(path);
 }
 std::string pasteboardFolderUnusable(const std::string &path) {
-  return text("Copy and paste do not work: \"{1}\" is not a folder that you may write to. Name "
-              "another folder in the variable TEMP.")
+  return text("Copy and paste do not work: \"{1}\" is not a folder that you can write to. Set the "
+              "variable TEMP to another folder.")
       .with(path);
 }
 std::string pasteboardUnreachable(const std::string &reason) {
-  return text("Copy and paste do not work: GNUstep's pasteboard server (gpbs) cannot be "
-              "reached{1}. It is part of the package gnustep-gui-runtime; log in again once it is "
-              "installed.")
+  return text("Copy and paste do not work: cannot reach GNUstep's pasteboard server, gpbs{1}. "
+              "Install the package gnustep-gui-runtime and log in again.")
       .with(because(reason));
 }
 const Text kSaveAsTicket = text("Save as ticket");
@@ -35,20 +34,18 @@ const Text kTicketQuestion = text("File for the job's settings:");
 const Text kSave = text("Save");
 const Text kReplace = text("Replace");
 std::string ticketExists(const std::string &path) {
-  return text("\"{1}\" is there already. Replace it?").with(path);
+  return text("\"{1}\" already exists. Replace it?").with(path);
 }
 const Text kPasswordWindow = text("Password");
 const Text kWrongPasswordWindow = text("Wrong password");
 const Text kUserRow = text("&User name:");
 const Text kPasswordRow = text("&Password:");
 std::string passwordWanted(const std::string &printer) {
-  return text("CUPS prints on \"{1}\" for users that it knows. Enter your name and password there.")
-      .with(printer);
+  return text("Printing on \"{1}\" requires a user name and password.").with(printer);
 }
 std::string wrongPassword(const std::string &printer) {
-  return text("CUPS did not take that name and password for \"{1}\". Try again, or cancel to go "
-              "back "
-              "to the settings.")
+  return text("The user name or password for \"{1}\" is wrong. Try again, or cancel to go back to "
+              "the settings.")
       .with(printer);
 }
 const Text kUnitRow = text("&Unit:");

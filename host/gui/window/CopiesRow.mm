@@ -63,7 +63,7 @@ using namespace imageposition;
     [self store:*copies];
     return YES;
   }
-  [dialog say:messages::copiesNotUnderstood(typed)];
+  [dialog say:messages::copiesNotUnderstood()];
   [[field window] makeFirstResponder:field];
   return NO;
 }
@@ -103,7 +103,7 @@ using namespace imageposition;
   const std::string typed = toText([field stringValue]);
   const auto copies = readCopies(typed);
   if (!copies) {
-    [dialog say:messages::copiesNotUnderstood(typed)];
+    [dialog say:messages::copiesNotUnderstood()];
     return;
   }
   [stepper setIntValue:*copies];

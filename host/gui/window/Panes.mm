@@ -157,8 +157,7 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
       return;
     }
   }
-  sections.push_back(
-      optionSection(job.printer(), job.settings(), session.panels().optionKeys()));
+  sections.push_back(optionSection(job.printer(), job.settings(), session.panels().optionKeys()));
   sections.push_back(sentSection(job.request(session.destinations().list())));
   if (summary == nil)
     summary = [[SummaryView alloc] initWithFrame:[area bounds]];

@@ -159,7 +159,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 - (void)save {
   if (![dialog takeEntries])
     return;
-  const auto typed = askForName([popUp window], messages::kPresetNameQuestion, state->chosen);
+  const auto typed = askForName([popUp window], messages::kPresetNameQuestion, state -> chosen);
   if (!typed)
     return;
   PrintJob &job = [dialog session].job();
@@ -174,7 +174,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 }
 
 - (void)rename {
-  const auto typed = askForName([popUp window], messages::kPresetNameQuestion, state->chosen);
+  const auto typed = askForName([popUp window], messages::kPresetNameQuestion, state -> chosen);
   if (!typed || state->chosen.empty())
     return;
   const std::string name = Presets::usableName(*typed);

@@ -6,8 +6,8 @@
 namespace imageposition::messages {
 
 const Text kNoPanelHere = text(
-    "No plug-in has a panel for this printer. You can print with everything that is shown here. To "
-    "move the image, choose a printer that supports it, or name a plug-in with --plugin BUNDLE.");
+    "No plug-in has a panel for this printer. You can print with the settings shown here. To move "
+    "the image, choose a printer that supports it, or specify a plug-in with --plugin BUNDLE.");
 std::string presetsNotListed(std::size_t count) {
   // Translators: the last, grey item of a menu of presets.
   return counted(static_cast<long>(count), "{1} more preset", "{1} more presets");
@@ -23,7 +23,7 @@ const Text kMediaRow = text("&Media:");
 const Text kPaneRow = text("&Settings:");
 const Text kCollate = text("C&ollate");
 const Text kPageRange = text("Range");
-const Text kNotOffered = text("Not offered");
+const Text kNotOffered = text("Not available");
 const Text kSummaryTitle = text("Summary");
 const Text kResolve = text("Resol&ve");
 const Text kPrint = text("Print");
@@ -33,19 +33,18 @@ const Text kRenamePreset = text("Rename this preset…");
 const Text kDeletePreset = text("Delete this preset");
 const Text kPresetNameQuestion = text("Name of the preset:");
 std::string presetSaved(const std::string &lpName) {
-  return text("The preset is saved; lp -d {1} prints with it too.").with(lpName);
+  return text("The preset is saved. lp -d {1} prints with it too.").with(lpName);
 }
-const Text kJobWaits = text("The job waits");
-const Text kStateUnknown = text("Asking for the printers…");
+const Text kJobWaits = text("The job is waiting");
+const Text kStateUnknown = text("Looking for printers…");
 std::string printerState(const std::string &state, const std::string &location) {
   return location.empty() ? state : state + " · " + location;
 }
-std::string copiesNotUnderstood(const std::string &typed) {
-  return text("\"{1}\" is no number of copies. Enter a number from 1 to {2}.")
-      .with(typed, kMostCopies);
+std::string copiesNotUnderstood() {
+  return text("Enter a number of copies from 1 to {1}.").with(kMostCopies);
 }
 const Text kNothingToPrint = text(
-    "There is no document to print. Name one: print-dialog FILE. Or choose \"Save as ticket\".");
+    "There is no document to print. Start print-dialog with a file, or choose \"Save as ticket\".");
 const Text kPrintAnywayWindow = text("Print anyway?");
 const Text kPrintAnyway = text("Print anyway");
 const Text kGoBack = text("Go back");

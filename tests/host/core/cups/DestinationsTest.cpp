@@ -196,8 +196,8 @@ TEST(StateReasons, AreWords) {
                {"", ""},
                {"media-empty-error", "out of paper"},
                {"media-empty,toner-low-warning", "out of paper, little toner left"},
-               {"door-open-report,other", "a door is open"},
-               {"cover-open,interlock-open", "a cover is open"},
+               {"door-open-report,other", "door open"},
+               {"cover-open,interlock-open", "cover open"},
                {"maker-special-warning", "maker-special"}};
   for (const auto &row : kRows)
     EXPECT_EQ(stateReasonsInWords(row.reasons), row.words) << row.reasons;

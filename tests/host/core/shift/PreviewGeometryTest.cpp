@@ -307,7 +307,7 @@ TEST(PreviewSentences, SayWhereEachSideGoes) {
       {{},
        {},
        Turning::LongEdge,
-       {"Neither side is moved.",
+       {"Neither side moves.",
         "Held against the light, the back lies exactly behind the front."}},
       {{{25}, {-1}},
        {{-25}, {-1}},

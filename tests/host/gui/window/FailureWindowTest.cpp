@@ -47,9 +47,9 @@ protected:
   /// Closes the window that says why the job waits.
   static void closeNote(PrintWindow &window, const std::string &why, const std::string &key) {
     ASSERT_TRUE(window.becomes([&](const Screen &shown) {
-      return shown.keyWindow == "The job waits" && shown.says(why);
+      return shown.keyWindow == "The job is waiting" && shown.says(why);
     }));
-    ASSERT_TRUE(comesTrue([&] { return window.hasKeyboard("The job waits"); }));
+    ASSERT_TRUE(comesTrue([&] { return window.hasKeyboard("The job is waiting"); }));
     EXPECT_FALSE(window.screen().says("Sending")) << "that is over";
     EXPECT_FALSE(window.process().hasEnded());
     window.press(key);

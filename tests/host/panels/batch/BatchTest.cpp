@@ -133,7 +133,7 @@ TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreOffToo) {
     EXPECT_THAT(result.errors, HasSubstr(reason));
     result = batch(shift, {"-o", off, "--summary"});
     EXPECT_EQ(result.status, kDone);
-    EXPECT_THAT(result.output, HasSubstr("Not available with the present settings."));
+    EXPECT_THAT(result.output, HasSubstr("Not available with the current settings."));
   }
 }
 
