@@ -64,7 +64,9 @@ namespace {
 NSString *const kModes[] = {NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
                             NSEventTrackingRunLoopMode};
 
+/// As the run loop takes a descriptor.
 void *asData(int descriptor) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   return reinterpret_cast<void *>(static_cast<std::intptr_t>(descriptor));
 }
 
