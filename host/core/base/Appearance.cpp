@@ -13,8 +13,8 @@ namespace imageposition {
 
 namespace {
 
-constexpr double kSmallestScale = 0.75;
-constexpr double kLargestScale = 3;
+constexpr double kMinScale = 0.75;
+constexpr double kMaxScale = 3;
 
 std::string lowerCase(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(),
@@ -37,19 +37,19 @@ std::string configurationFolder() {
   return folder.empty() ? environment("HOME") + "/.config" : folder;
 }
 
-std::string withoutBlanks(std::string_view text) {
+std::string withoutWhitespace(std::string_view text) {
   std::string result;
   std::copy_if(text.begin(), text.end(), std::back_inserter(result),
                [](unsigned char c) { return std::isspace(c) == 0; });
   return result;
 }
 
-/// The value of a "key=value" line, blanks left out, in lower case; empty when there is none.
+/// The value of a "key=value" line, without whitespace and in lower case; empty if there is none.
 std::string settingOf(const std::string &file, const std::string &key) {
   std::size_t start = 0;
   while (start < file.size()) {
     const std::size_t end = std::min(file.find('\n', start), file.size());
-    const std::string line = withoutBlanks(std::string_view(file).substr(start, end - start));
+    const std::string line = withoutWhitespace(std::string_view(file).substr(start, end - start));
     if (line.compare(0, key.size() + 1, key + "=") == 0)
       return lowerCase(line.substr(key.size() + 1));
     start = end + 1;
@@ -57,7 +57,7 @@ std::string settingOf(const std::string &file, const std::string &key) {
   return {};
 }
 
-/// "Adwaita:dark" and "Adwaita-dark" alike.
+/// Accepts both "Adwaita:dark" and "Adwaita-dark".
 bool namesDarkTheme(const std::string &theme) {
   const std::string name = lowerCase(theme);
   return endsWith(name, ":dark") || endsWith(name, "-dark");
@@ -105,8 +105,8 @@ Surroundings readSurroundings() {
 }
 
 Appearance chosenAppearance(const Surroundings &surroundings) {
-  if (const auto told = readAppearance(surroundings.appearance))
-    return *told;
+  if (const auto requested = readAppearance(surroundings.appearance))
+    return *requested;
   if (!surroundings.gtkTheme.empty())
     return namesDarkTheme(surroundings.gtkTheme) ? Appearance::Dark : Appearance::Light;
   const bool isDark =
@@ -115,8 +115,7 @@ Appearance chosenAppearance(const Surroundings &surroundings) {
 }
 
 double chosenTextScale(const Surroundings &surroundings) {
-  return std::clamp(readTextScale(surroundings.textScale).value_or(1), kSmallestScale,
-                    kLargestScale);
+  return std::clamp(readTextScale(surroundings.textScale).value_or(1), kMinScale, kMaxScale);
 }
 
 } // namespace imageposition

@@ -1,6 +1,6 @@
-/// How the desktop is set up to look, as far as a dialog follows it.
-#ifndef IMAGEPOSITION_HOST_APPEARANCE_HPP
-#define IMAGEPOSITION_HOST_APPEARANCE_HPP
+/// The desktop's light or dark appearance and its text scale.
+#ifndef IMAGEPOSITION_CORE_BASE_APPEARANCE_HPP
+#define IMAGEPOSITION_CORE_BASE_APPEARANCE_HPP
 
 #include <optional>
 #include <string>
@@ -9,30 +9,31 @@ namespace imageposition {
 
 enum class Appearance { Light, Dark };
 
-/// "light" or "dark", in any case; none for everything else.
+/// Parses "light" or "dark" in any letter case. Returns nullopt for any other string.
 std::optional<Appearance> readAppearance(const std::string &text);
 
-/// A number above 0; none for everything else.
+/// Parses a number above 0. Returns nullopt for any other string.
 std::optional<double> readTextScale(const std::string &text);
 
-/// What a person's surroundings say about looks. The files are the text of their settings files,
-/// empty where there is none.
+/// The user's settings for the appearance. The last two are the contents of settings files, empty
+/// if there is no such file.
 struct Surroundings {
-  std::string appearance;  ///< $PRINT_DIALOG_APPEARANCE: "light" or "dark", stronger than the rest.
-  std::string textScale;   ///< $PRINT_DIALOG_TEXT_SCALE, else $GDK_DPI_SCALE.
+  std::string appearance;  ///< $PRINT_DIALOG_APPEARANCE: "light" or "dark"; overrides the rest.
+  std::string textScale;   ///< $PRINT_DIALOG_TEXT_SCALE or, if unset, $GDK_DPI_SCALE.
   std::string gtkTheme;    ///< $GTK_THEME: "Adwaita:dark".
   std::string gtkSettings; ///< gtk-3.0/settings.ini
   std::string kdeGlobals;  ///< kdeglobals
 };
 
-/// Reads the environment and at most two small files below $XDG_CONFIG_HOME (or ~/.config); no
-/// daemon is asked.
+/// Reads the environment and at most two small files below $XDG_CONFIG_HOME (or ~/.config). Does
+/// not contact any daemon.
 Surroundings readSurroundings();
 
-/// The first that says something, in the order of the members; light when none does.
+/// Uses `appearance` if it is valid, otherwise `gtkTheme`. If neither is set, returns dark if one
+/// of the files asks for it, otherwise light.
 Appearance chosenAppearance(const Surroundings &surroundings);
 
-/// How much larger than usual texts are to be: 1 when nothing says so, kept within 0.75 to 3.
+/// The scale factor for text: 1 if none is set, clamped to the range from 0.75 to 3.
 double chosenTextScale(const Surroundings &surroundings);
 
 } // namespace imageposition

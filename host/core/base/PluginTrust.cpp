@@ -14,16 +14,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kMostLinks = 40; // as Linux follows them
+constexpr int kMaxLinks = 40; // Linux's own limit
 constexpr gid_t kRootGroup = 0;
 
-/// With a list of rights beside the usual ones, the group's bits are no longer about the group.
+/// With an access control list, the group bits are the list's mask, not the group's permissions.
 bool hasAccessList(const std::string &path) {
   return getxattr(path.c_str(), "system.posix_acl_access", nullptr, 0) >= 0 ||
          (errno != ENODATA && errno != EOPNOTSUPP);
 }
 
-// Whatever write access a list of rights gives, the group's bits include it.
+// The mask of an access control list includes any write access that the list grants.
 bool othersMayWrite(const std::string &path, const struct stat &status) {
   if (status.st_mode & S_IWOTH)
     return true;
@@ -34,19 +34,19 @@ class Inspection {
 public:
   enum class Missing { Refused, Allowed };
 
-  explicit Inspection(const TrustedPeople &people) : people_(people) {}
+  explicit Inspection(const TrustedPeople &people) : trusted_(people) {}
 
-  /// Where the path leads, each folder and link on the way looked at; none when one of them is
-  /// untrusted, or missing.
+  /// Resolves the path, and checks each folder and link on it. Returns nullopt if one of them is
+  /// untrusted or missing.
   ///
-  /// It goes from the root down: what nobody else can rename stays what it is while the rest of
-  /// the path is looked at.
+  /// Works from the root down: nobody else can rename a part that has been checked while the rest
+  /// of the path is checked.
   std::optional<fs::path> follow(const fs::path &path, Missing missing) {
     std::error_code failed;
     const fs::path absolute = path.empty() ? path : fs::absolute(path, failed);
     std::deque<fs::path> names(absolute.begin(), absolute.end());
     if (failed || names.empty()) {
-      cannotExamine(path, failed ? failed.value() : ENOENT);
+      recordError(path, failed ? failed.value() : ENOENT);
       return std::nullopt;
     }
     fs::path here;
@@ -58,40 +58,40 @@ public:
       const fs::path next = name == ".." ? here.parent_path() : here / name;
       struct stat status {};
       if (lstat(next.c_str(), &status) != 0) {
-        notThere(here, next, missing);
+        checkMissing(here, next, missing);
         return std::nullopt;
       }
       check(next, status, Place::OnTheWay);
       if (!S_ISLNK(status.st_mode))
         here = next;
-      else if (++links > kMostLinks)
-        cannotExamine(next, ELOOP);
+      else if (++links > kMaxLinks)
+        recordError(next, ELOOP);
       else
         prepend(names, next);
     }
     return found_ ? std::nullopt : std::optional(here);
   }
 
-  void lookInto(const fs::path &path) {
+  void checkTree(const fs::path &path) {
     if (found_ || !seen_.insert(path.string()).second)
       return;
     struct stat status {};
     if (lstat(path.c_str(), &status) != 0) {
-      cannotExamine(path, errno);
+      recordError(path, errno);
     } else if (S_ISLNK(status.st_mode)) {
       if (const auto real = follow(path, Missing::Allowed))
-        lookInto(*real);
+        checkTree(*real);
     } else {
       check(path, status, Place::Inside);
       if (S_ISDIR(status.st_mode))
-        lookAtEntries(path);
+        checkEntries(path);
     }
   }
 
-  void lookAt(const fs::path &path) {
+  void checkAlone(const fs::path &path) {
     struct stat status {};
     if (lstat(path.c_str(), &status) != 0)
-      cannotExamine(path, errno);
+      recordError(path, errno);
     else
       check(path, status, Place::Inside);
   }
@@ -101,32 +101,32 @@ public:
 private:
   enum class Place { OnTheWay, Inside };
 
-  void lookAtEntries(const fs::path &folder) {
+  void checkEntries(const fs::path &folder) {
     std::error_code failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && !found_ && entry != end;
          entry.increment(failed))
-      lookInto(entry->path());
+      checkTree(entry->path());
     if (failed)
-      cannotExamine(folder, failed.value());
+      recordError(folder, failed.value());
   }
 
-  /// Puts where a link leads before the names that are left; an absolute target begins anew.
+  /// Inserts the link's target before the remaining names. An absolute target restarts at the root.
   void prepend(std::deque<fs::path> &names, const fs::path &link) {
     std::error_code failed;
     const fs::path target = fs::read_symlink(link, failed);
     if (failed)
-      cannotExamine(link, failed.value());
+      recordError(link, failed.value());
     names.insert(names.begin(), target.begin(), target.end());
   }
 
-  void notThere(const fs::path &folder, const fs::path &path, Missing missing) {
+  void checkMissing(const fs::path &folder, const fs::path &path, Missing missing) {
     if (errno == ENOENT && missing == Missing::Allowed)
-      lookAt(folder); // in which nobody else may create it
+      checkAlone(folder); // no other user may be able to create it there
     else
-      cannotExamine(path, errno);
+      recordError(path, errno);
   }
 
-  void cannotExamine(const fs::path &path, int error) {
+  void recordError(const fs::path &path, int error) {
     if (!found_)
       found_ = UntrustedPart{path.string(), UntrustedPart::Reason::Unknown, error};
   }
@@ -135,14 +135,14 @@ private:
     if (found_)
       return;
     const bool keepsOwners = place == Place::OnTheWay && (status.st_mode & S_ISVTX) != 0;
-    if (people_.owners.count(status.st_uid) == 0)
+    if (trusted_.owners.count(status.st_uid) == 0)
       found_ = UntrustedPart{path.string(), UntrustedPart::Reason::OthersOwnIt};
     else if (!S_ISLNK(status.st_mode) && !keepsOwners && othersMayWrite(path.string(), status))
       found_ = UntrustedPart{path.string(), UntrustedPart::Reason::OthersMayWrite};
   }
 
-  const TrustedPeople &people_;
-  std::set<std::string> seen_; // links may lead in circles
+  const TrustedPeople &trusted_;
+  std::set<std::string> seen_; // symbolic links can form cycles
   std::optional<UntrustedPart> found_;
 };
 
@@ -159,14 +159,14 @@ TrustedPeople TrustedPeople::here() {
 std::optional<UntrustedPart> untrustedPart(const std::string &path, const TrustedPeople &people) {
   Inspection inspection(people);
   if (const auto real = inspection.follow(path, Inspection::Missing::Refused))
-    inspection.lookInto(*real);
+    inspection.checkTree(*real);
   return inspection.found();
 }
 
 std::optional<UntrustedPart> untrustedPlace(const std::string &path, const TrustedPeople &people) {
   Inspection inspection(people);
   if (const auto real = inspection.follow(path, Inspection::Missing::Allowed))
-    inspection.lookAt(*real);
+    inspection.checkAlone(*real);
   return inspection.found();
 }
 
@@ -174,8 +174,8 @@ std::optional<UntrustedPart> untrustedPartOfFolder(const std::string &file,
                                                    const TrustedPeople &people) {
   Inspection inspection(people);
   if (const auto real = inspection.follow(file, Inspection::Missing::Refused)) {
-    inspection.lookAt(real->parent_path());
-    inspection.lookInto(*real);
+    inspection.checkAlone(real->parent_path());
+    inspection.checkTree(*real);
   }
   return inspection.found();
 }

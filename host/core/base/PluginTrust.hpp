@@ -1,6 +1,6 @@
-/// Who could have changed code before it is loaded.
-#ifndef IMAGEPOSITION_HOST_PLUGINTRUST_HPP
-#define IMAGEPOSITION_HOST_PLUGINTRUST_HPP
+/// Checks that no untrusted user could have modified code that is about to be loaded.
+#ifndef IMAGEPOSITION_CORE_BASE_PLUGINTRUST_HPP
+#define IMAGEPOSITION_CORE_BASE_PLUGINTRUST_HPP
 
 #include <optional>
 #include <set>
@@ -9,15 +9,15 @@
 
 namespace imageposition {
 
-/// Whose files may bring code into this program.
+/// The users whose files may be loaded as code.
 struct TrustedPeople {
   std::set<uid_t> owners;
 
-  /// The system, the user, and the program's owner, who could change the program as well.
+  /// Root, the current user, and the program's owner, who could modify the program anyway.
   static TrustedPeople here();
 };
 
-/// A file, folder or link that another user could change, or that cannot be examined.
+/// A file, folder or link that another user could modify, or that cannot be examined.
 struct UntrustedPart {
   enum class Reason { OthersMayWrite, OthersOwnIt, Unknown };
   std::string path; ///< Absolute; no folder in it is a symbolic link.
@@ -25,22 +25,24 @@ struct UntrustedPart {
   int error = 0; ///< For `Unknown`: the `errno` value that says why.
 };
 
-/// The first untrusted part of a file or bundle: of everything in it, of what its symbolic links
-/// lead to, and of each folder and link on the way to any of it, from the root on. Whatever is not
-/// there or cannot be read is a part with the reason `Unknown`.
+/// Returns the first untrusted part of a file or bundle. Checks everything inside it, the targets
+/// of its symbolic links, and every folder and link on the path to each of them, starting at the
+/// root. A part that cannot be read has the reason `Unknown`, as does a missing `path`. A link
+/// inside the bundle may point to nothing unless another user could create its target.
 ///
-/// Of groups only root's may write: who is in another one cannot be found out reliably. A folder
-/// that others may write to is fine on the way if it has the sticky bit, as /tmp does.
+/// The only group that may have write permission is root's, because the members of other groups
+/// cannot be determined reliably. Others may write to a folder on the path if it has the sticky
+/// bit, as /tmp does.
 ///
-/// What this function trusts stays so: only the trusted people can rename, replace or redirect any
-/// part of it, so that it can be loaded by the same path afterwards.
+/// A trusted path stays trusted: only trusted users can rename, replace or redirect any part of it.
+/// It is safe to load the code from that path afterwards.
 std::optional<UntrustedPart> untrustedPart(const std::string &path, const TrustedPeople &people);
 
-/// The same for a file or folder by itself, without what is in it. If it does not exist, it is
+/// Like `untrustedPart`, but ignores the contents of a folder. A path that does not exist is
 /// trusted unless another user could create it.
 std::optional<UntrustedPart> untrustedPlace(const std::string &path, const TrustedPeople &people);
-/// The same for a file that is read along with others of its folder: nobody else may add one there
-/// either, so that the sticky bit is not enough.
+/// Like `untrustedPart`, for a file that is read together with others in its folder. Other users
+/// must not be able to add files there, so the sticky bit is not enough.
 std::optional<UntrustedPart> untrustedPartOfFolder(const std::string &file,
                                                    const TrustedPeople &people);
 

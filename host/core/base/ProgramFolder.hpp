@@ -1,13 +1,13 @@
-/// Where the running program stands.
-#ifndef IMAGEPOSITION_HOST_PROGRAMFOLDER_HPP
-#define IMAGEPOSITION_HOST_PROGRAMFOLDER_HPP
+/// Finds files that are installed relative to the running program.
+#ifndef IMAGEPOSITION_CORE_BASE_PROGRAMFOLDER_HPP
+#define IMAGEPOSITION_CORE_BASE_PROGRAMFOLDER_HPP
 
 #include <string>
 
 namespace imageposition {
 
-/// `name` taken from the folder of the running program, links to it followed; so what is installed
-/// with it is found wherever the whole was put. Empty when the system does not say.
+/// Returns the path of `name`, relative to the folder of the running program. Symbolic links to the
+/// program are resolved. Returns an empty string if the program's path is unknown.
 std::string besideProgram(const std::string &name);
 
 } // namespace imageposition

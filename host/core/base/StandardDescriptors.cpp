@@ -7,7 +7,7 @@ namespace imageposition {
 
 void keepStandardDescriptors() {
   for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; descriptor++)
-    if (fcntl(descriptor, F_GETFD) < 0) // the lowest that is free, and so the one that is opened
+    if (fcntl(descriptor, F_GETFD) < 0) // open() returns the lowest free descriptor
       open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
 }
 

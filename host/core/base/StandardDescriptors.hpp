@@ -1,12 +1,12 @@
-/// The three descriptors that every program believes it has.
-#ifndef IMAGEPOSITION_HOST_STANDARDDESCRIPTORS_HPP
-#define IMAGEPOSITION_HOST_STANDARDDESCRIPTORS_HPP
+/// Reserves the descriptors of standard input, output and error.
+#ifndef IMAGEPOSITION_CORE_BASE_STANDARDDESCRIPTORS_HPP
+#define IMAGEPOSITION_CORE_BASE_STANDARDDESCRIPTORS_HPP
 
 namespace imageposition {
 
-/// Keeps the places of standard input, output and error, where they are closed, from the next file
-/// or connection that is opened: messages would go there. Reading and writing still fail. Comes
-/// before anything that opens a file.
+/// Opens /dev/null on each standard descriptor that is closed. Otherwise the next file or
+/// connection would get its number, and messages would go there. Reading standard input and writing
+/// to the other two still fail. Call this before opening any file.
 void keepStandardDescriptors();
 
 } // namespace imageposition

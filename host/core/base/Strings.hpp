@@ -1,6 +1,6 @@
-/// What is asked of strings in every room.
-#ifndef IMAGEPOSITION_HOST_STRINGS_HPP
-#define IMAGEPOSITION_HOST_STRINGS_HPP
+/// Functions for strings and names.
+#ifndef IMAGEPOSITION_CORE_BASE_STRINGS_HPP
+#define IMAGEPOSITION_CORE_BASE_STRINGS_HPP
 
 #include <string>
 #include <string_view>
@@ -10,15 +10,15 @@ namespace imageposition {
 
 bool startsWith(std::string_view string, std::string_view start) noexcept;
 bool endsWith(std::string_view string, std::string_view end) noexcept;
-/// Without the blanks around it.
+/// Removes the characters in `blanks` from both ends.
 std::string trimmed(std::string_view string, std::string_view blanks);
 
-// Names and keywords, which CUPS compares without regard to the case of ASCII letters.
+// For names and keywords: ignore the case of ASCII letters, as CUPS does.
 
 bool isSame(std::string_view left, std::string_view right) noexcept;
-/// Whether one of the names is the same.
+/// Whether one of the names is the same as `name`.
 bool contains(const std::vector<std::string> &names, std::string_view name) noexcept;
-/// Alphabetical order; of equal rank are those that are the same.
+/// Alphabetical order, for sorted containers.
 struct IgnoringCase {
   bool operator()(std::string_view left, std::string_view right) const noexcept;
 };

@@ -10,18 +10,18 @@ namespace imageposition {
 
 namespace {
 
-constexpr double kSecondsBetweenQuestions = 0.25;
+constexpr double kSecondsBetweenCallbacks = 0.25;
 
-int askWhetherToWait(http_t *, void *keepWaiting) {
+int onTimeout(http_t *, void *keepWaiting) {
   return (*static_cast<CupsConnection::KeepWaiting *>(keepWaiting))() ? 1 : 0;
 }
 
 } // namespace
 
-std::unique_ptr<CupsConnection> CupsConnection::open(std::chrono::milliseconds patience,
+std::unique_ptr<CupsConnection> CupsConnection::open(std::chrono::milliseconds timeout,
                                                      KeepWaiting keepWaiting) {
   http_t *const http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
-                                    1, static_cast<int>(patience.count()), nullptr);
+                                    1, static_cast<int>(timeout.count()), nullptr);
   if (http == nullptr)
     return nullptr;
   return std::unique_ptr<CupsConnection>(new CupsConnection(http, std::move(keepWaiting)));
@@ -29,7 +29,7 @@ std::unique_ptr<CupsConnection> CupsConnection::open(std::chrono::milliseconds p
 
 CupsConnection::CupsConnection(http_t *http, KeepWaiting keepWaiting)
     : http_(http), keepWaiting_(std::move(keepWaiting)) {
-  httpSetTimeout(http_, kSecondsBetweenQuestions, askWhetherToWait, &keepWaiting_);
+  httpSetTimeout(http_, kSecondsBetweenCallbacks, onTimeout, &keepWaiting_);
 }
 
 CupsConnection::~CupsConnection() { httpClose(http_); }
@@ -41,7 +41,7 @@ std::string cupsServerName() {
 
 std::string cupsReason() {
   const std::string reason = cupsLastErrorString();
-  // What is said of an answer that is not whole.
+  // libcups reports one of these for an incomplete response.
   const bool isNone = reason == ippErrorString(IPP_STATUS_OK) || reason == std::strerror(0);
   return isNone ? "" : visible(reason);
 }

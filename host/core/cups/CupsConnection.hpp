@@ -1,6 +1,6 @@
-/// A connection to CUPS that gives up.
-#ifndef IMAGEPOSITION_HOST_CUPSCONNECTION_HPP
-#define IMAGEPOSITION_HOST_CUPSCONNECTION_HPP
+/// A connection to CUPS with a timeout.
+#ifndef IMAGEPOSITION_CORE_CUPS_CUPSCONNECTION_HPP
+#define IMAGEPOSITION_CORE_CUPS_CUPSCONNECTION_HPP
 
 #include <cups/cups.h>
 
@@ -11,15 +11,16 @@
 
 namespace imageposition {
 
-/// To the server that CUPS_SERVER or client.conf names; this object's own, so that it serves any
-/// one thread.
+/// A connection to the server that CUPS_SERVER or client.conf names. It is separate from libcups's
+/// default connection. Use it on one thread at a time.
 class CupsConnection {
 public:
-  /// Asked about four times a second while the server lets us wait; false gives up. Must not throw.
+  /// Called about four times a second while waiting for the server. Returns false to give up. Must
+  /// not throw.
   using KeepWaiting = std::function<bool()>;
 
-  /// Null when the server cannot be reached; `cupsLastErrorString` or errno know why.
-  static std::unique_ptr<CupsConnection> open(std::chrono::milliseconds patience,
+  /// Returns null if the server cannot be reached; `cupsLastErrorString` or errno gives the reason.
+  static std::unique_ptr<CupsConnection> open(std::chrono::milliseconds timeout,
                                               KeepWaiting keepWaiting);
   ~CupsConnection();
   CupsConnection(const CupsConnection &) = delete;
@@ -34,11 +35,11 @@ private:
   KeepWaiting keepWaiting_;
 };
 
-/// Where CUPS is looked for, for a person.
+/// The address of the CUPS server, for messages.
 std::string cupsServerName();
 
-/// Why CUPS did not do what this thread asked last, on one line of UTF-8; empty where it gives no
-/// reason, or the one that all went well.
+/// Why the last CUPS operation on this thread failed, on one line of UTF-8. Empty if CUPS gives no
+/// reason, or reports success.
 std::string cupsReason();
 
 } // namespace imageposition

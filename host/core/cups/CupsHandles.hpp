@@ -1,6 +1,6 @@
-/// Owners of what libcups hands out.
-#ifndef IMAGEPOSITION_HOST_CUPSHANDLES_HPP
-#define IMAGEPOSITION_HOST_CUPSHANDLES_HPP
+/// Smart pointers to libcups objects.
+#ifndef IMAGEPOSITION_CORE_CUPS_CUPSHANDLES_HPP
+#define IMAGEPOSITION_CORE_CUPS_CUPSHANDLES_HPP
 
 #include <cups/cups.h>
 #include <cups/file.h>
@@ -18,7 +18,7 @@ struct CupsDeleter {
   void operator()(ppd_file_t *ppd) const noexcept { ppdClose(ppd); }
 };
 
-using CupsDestination = std::unique_ptr<cups_dest_t, CupsDeleter>; ///< One, not an array of them.
+using CupsDestination = std::unique_ptr<cups_dest_t, CupsDeleter>; ///< One, not an array.
 using CupsDestinationInfo = std::unique_ptr<cups_dinfo_t, CupsDeleter>;
 using CupsFile = std::unique_ptr<cups_file_t, CupsDeleter>;
 using IppMessage = std::unique_ptr<ipp_t, CupsDeleter>;

@@ -1,6 +1,6 @@
-/// What is said about the CUPS server and its printers.
-#ifndef IMAGEPOSITION_HOST_CUPSTEXTS_HPP
-#define IMAGEPOSITION_HOST_CUPSTEXTS_HPP
+/// Messages about the CUPS server and its printers.
+#ifndef IMAGEPOSITION_CORE_CUPS_CUPSTEXTS_HPP
+#define IMAGEPOSITION_CORE_CUPS_CUPSTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -19,8 +19,8 @@ std::string noCups(const std::string &server, const std::string &reason);
 extern const Text kNoAnswer;
 std::string printersNotListed(const std::string &reason);
 
-// Submission.
-/// Before a password is entered.
+// Passwords.
+/// Warns the user before entering a password.
 std::string passwordExposed(const std::string &server);
 
 } // namespace imageposition::messages

@@ -17,14 +17,14 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// What libcups wants to be given for each word.
+/// What libcups needs to translate a term.
 struct Queue {
   http_t *http;
   cups_dest_t *destination;
   cups_dinfo_t *info;
 };
 
-/// libcups returns what it has no word for.
+/// libcups returns the term if it has no translation.
 std::string unlessSame(const char *word, const std::string &term) {
   return word != nullptr && word != term ? word : "";
 }
@@ -35,7 +35,7 @@ std::string wordFor(const Queue &queue, Term term) {
     const char *const word = cupsLocalizeDestMedia(http, destination, info, 0, &*term.size);
     return word != nullptr ? word : "";
   }
-  // Its catalogue has its own messages as well as IPP's names.
+  // libcups's catalogue has its own messages as well as IPP names.
   const std::string &name = term.message.empty() ? term.attribute : term.message;
   if (name.empty())
     return {};
@@ -46,10 +46,10 @@ std::string wordFor(const Queue &queue, Term term) {
 }
 
 std::vector<std::string> ask(const std::string &queue, const std::vector<Term> &terms,
-                             std::chrono::milliseconds patience) {
-  const Clock::time_point deadline = Clock::now() + patience;
-  const PasswordQuestion nobodyAnswers;
-  const auto connection = CupsConnection::open(patience, [=] { return Clock::now() < deadline; });
+                             std::chrono::milliseconds timeout) {
+  const Clock::time_point deadline = Clock::now() + timeout;
+  const PasswordQuestion noPassword;
+  const auto connection = CupsConnection::open(timeout, [=] { return Clock::now() < deadline; });
   if (!connection)
     return {};
   http_t *const http = connection->http();
@@ -69,10 +69,9 @@ std::vector<std::string> ask(const std::string &queue, const std::vector<Term> &
 } // namespace
 
 std::vector<std::string> wordsOfCups(const std::string &queue, const std::vector<Term> &terms,
-                                     std::chrono::milliseconds patience) {
-  // libcups may fetch a printer's words over a connection of its own, which has no patience of
-  // ours.
-  std::packaged_task<std::vector<std::string>()> task([=] { return ask(queue, terms, patience); });
+                                     std::chrono::milliseconds timeout) {
+  // libcups may fetch a printer's translations over another connection, without our timeout.
+  std::packaged_task<std::vector<std::string>()> task([=] { return ask(queue, terms, timeout); });
   auto answer = task.get_future();
   try {
     std::thread(std::move(task)).detach();
@@ -80,7 +79,7 @@ std::vector<std::string> wordsOfCups(const std::string &queue, const std::vector
     return std::vector<std::string>(terms.size());
   }
   std::vector<std::string> words;
-  if (answer.wait_for(patience) == std::future_status::ready)
+  if (answer.wait_for(timeout) == std::future_status::ready)
     words = answer.get();
   words.resize(terms.size());
   return words;

@@ -1,6 +1,6 @@
-/// CUPS's words for what printers offer, in the user's language.
-#ifndef IMAGEPOSITION_HOST_CUPSWORDS_HPP
-#define IMAGEPOSITION_HOST_CUPSWORDS_HPP
+/// CUPS's translations of printer options.
+#ifndef IMAGEPOSITION_CORE_CUPS_CUPSWORDS_HPP
+#define IMAGEPOSITION_CORE_CUPS_CUPSWORDS_HPP
 
 #include <cups/cups.h>
 
@@ -11,22 +11,22 @@
 
 namespace imageposition {
 
-/// What CUPS may have a word for: a message of its own, an attribute of IPP, a value of one, or a
-/// paper size. The first of these that is given counts; nothing has a word where none is.
+/// A term that CUPS may translate: a paper size, a message of CUPS, an IPP attribute, or one of its
+/// values. Of `size`, `message` and `attribute`, only the first that is set is used.
 struct Term {
   std::optional<cups_size_t> size;
-  std::string message;   ///< In CUPS's English: "Print Quality".
+  std::string message;   ///< In English, as in CUPS's catalogue: "Print Quality".
   std::string attribute; ///< "output-bin".
   std::string value;     ///< Of that attribute, "face-up"; empty for the attribute itself.
 };
 
-/// One word for each term; empty where CUPS has none. A size that has no name is given by its
-/// measures.
+/// Returns one translation for each term, which is empty if CUPS has none. A size without a name is
+/// described by its dimensions.
 ///
-/// CUPS is asked about the queue, since a printer can bring words of its own. Waits for at most
-/// `patience`, and has no words then. Never throws. On any thread.
+/// Asks CUPS about the queue, because a printer can provide translations. Waits for at most
+/// `timeout`, then returns empty strings. Never throws. Can be called on any thread.
 std::vector<std::string> wordsOfCups(const std::string &queue, const std::vector<Term> &terms,
-                                     std::chrono::milliseconds patience = std::chrono::seconds(2));
+                                     std::chrono::milliseconds timeout = std::chrono::seconds(2));
 
 } // namespace imageposition
 

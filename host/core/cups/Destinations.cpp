@@ -23,14 +23,14 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 struct ReasonWords {
-  const char *reason; // without the severity at its end
+  const char *reason; // without the severity suffix
   Text words;
 };
 
-/// These tell a person nothing.
-constexpr const char *kSilentReasons[] = {"none", "other", "com.apple.print.recoverable"};
+/// These mean nothing to users.
+constexpr const char *kIgnoredReasons[] = {"none", "other", "com.apple.print.recoverable"};
 
-/// The keywords of RFC 8011, 5.4.12, and those of CUPS's own.
+/// The keywords of RFC 8011, section 5.4.12, and those that CUPS adds.
 constexpr ReasonWords kReasonWords[] = {
     // Translators: what is the matter with a printer; it follows its state, "Stopped: ".
     {"paused", text("paused")},
@@ -72,8 +72,8 @@ std::string withoutSeverity(const std::string &reason) {
 
 std::string wordsFor(const std::string &reason) {
   std::string bare = withoutSeverity(reason);
-  for (const char *silent : kSilentReasons)
-    if (bare == silent)
+  for (const char *ignored : kIgnoredReasons)
+    if (bare == ignored)
       return {};
   for (const ReasonWords &known : kReasonWords)
     if (bare == known.reason)
@@ -81,7 +81,7 @@ std::string wordsFor(const std::string &reason) {
   return bare;
 }
 
-/// CUPS puts what it knows of the printer among its options.
+/// CUPS includes attributes of the printer in a destination's options.
 bool isAboutPrinter(const std::string &option) {
   if (option == "printer-resolution")
     return false; // also a job's option
@@ -113,7 +113,7 @@ std::string stateInWords(const Destination &destination, const std::string &reas
   return destination.acceptsJobs ? state : messages::refusesJobs(state);
 }
 
-/// Why there is not one destination; empty where CUPS answered well.
+/// Why the list is empty.
 std::string reasonForNone(bool isTooLate) {
   if (isTooLate)
     return messages::noCups(cupsServerName(), messages::kNoAnswer);
@@ -125,7 +125,7 @@ std::string reasonForNone(bool isTooLate) {
   return messages::printersNotListed(cupsReason());
 }
 
-/// A name is shown and sent to CUPS, and so must be the same in both places.
+/// A name must be the same on the screen and in requests to CUPS.
 bool isShowable(const std::string &name) { return !name.empty() && visible(name) == name; }
 
 bool hasSameOptions(const PrintSettingsStore &left, const PrintSettingsStore &right) {
@@ -166,11 +166,11 @@ const Destination *DestinationList::find(const std::string &fullName) const {
   return nullptr;
 }
 
-DestinationList readDestinations(std::chrono::milliseconds patience) {
-  const Clock::time_point deadline = Clock::now() + patience;
+DestinationList readDestinations(std::chrono::milliseconds timeout) {
+  const Clock::time_point deadline = Clock::now() + timeout;
   const auto isInTime = [=] { return Clock::now() < deadline; };
-  const PasswordQuestion nobodyAnswers;
-  const auto connection = CupsConnection::open(patience, isInTime);
+  const PasswordQuestion noPassword;
+  const auto connection = CupsConnection::open(timeout, isInTime);
   if (!connection)
     return {{}, messages::noCups(cupsServerName(), systemReason(errno))};
   DestinationList list;
@@ -185,37 +185,37 @@ DestinationList readDestinations(std::chrono::milliseconds patience) {
   return list;
 }
 
-struct Destinations::Answer {
-  std::atomic<bool> isThere{false};
-  DestinationList list; // the asking thread's until `isThere`
+struct Destinations::Response {
+  std::atomic<bool> isReady{false};
+  DestinationList list; // belongs to the background thread until `isReady`
 };
 
 Destinations::Destinations() = default;
 Destinations::~Destinations() = default;
 
-void Destinations::refresh(std::function<void()> answered, std::chrono::milliseconds patience) {
-  if (answer_)
+void Destinations::refresh(std::function<void()> answered, std::chrono::milliseconds timeout) {
+  if (response_)
     return;
-  answer_ = std::make_shared<Answer>();
-  // Looking up a server's name can take longer than any patience; nobody waits for this thread.
+  response_ = std::make_shared<Response>();
+  // Looking up a server's name can exceed the timeout, so nothing waits for this thread.
   try {
-    std::thread([answer = answer_, answered = std::move(answered), patience] {
-      answer->list = readDestinations(patience);
-      answer->isThere = true;
+    std::thread([response = response_, answered = std::move(answered), timeout] {
+      response->list = readDestinations(timeout);
+      response->isReady = true;
       if (answered)
         answered();
     }).detach();
-  } catch (const std::system_error &) { // too many processes; there may be fewer at the next call
-    answer_.reset();
+  } catch (const std::system_error &) { // too many processes; a later call may succeed
+    response_.reset();
   }
 }
 
 bool Destinations::takeAnswer() {
-  if (!answer_ || !answer_->isThere)
+  if (!response_ || !response_->isReady)
     return false;
-  const bool differs = !(answer_->list == list_);
-  list_ = std::move(answer_->list);
-  answer_.reset();
+  const bool differs = !(response_->list == list_);
+  list_ = std::move(response_->list);
+  response_.reset();
   return differs;
 }
 

@@ -1,6 +1,6 @@
 /// The printers that CUPS knows.
-#ifndef IMAGEPOSITION_HOST_DESTINATIONS_HPP
-#define IMAGEPOSITION_HOST_DESTINATIONS_HPP
+#ifndef IMAGEPOSITION_CORE_CUPS_DESTINATIONS_HPP
+#define IMAGEPOSITION_CORE_CUPS_DESTINATIONS_HPP
 
 #include "PrintSettingsStore.hpp"
 
@@ -18,37 +18,36 @@ enum class DestinationState { Idle, Printing, Stopped };
 struct Destination {
   std::string name;
   std::string instance;    ///< Empty for the queue itself.
-  std::string description; ///< What its administrator calls it; may be empty.
+  std::string description; ///< Set by the administrator; may be empty.
   std::string location;    ///< May be empty.
-  std::string uri;         ///< Where its jobs go; may be empty.
+  std::string uri;         ///< For its jobs; may be empty.
   DestinationState state = DestinationState::Idle;
-  std::string stateText; ///< In words: "Ready", "Stopped: out of paper".
+  std::string stateText; ///< For display: "Ready", "Stopped: out of paper".
   bool acceptsJobs = true;
   bool isDefault = false;
-  /// Job options that hold unless a job says otherwise. Nothing about the printer itself is among
-  /// them.
+  /// Default job options, without attributes of the printer.
   PrintSettingsStore defaults;
 
-  /// "queue" or "queue/instance", as -d takes it.
+  /// "queue" or "queue/instance", as -d accepts it.
   std::string fullName() const;
 };
 
 struct DestinationList {
-  /// By name, a queue before its instances. Those whose names are not UTF-8 on one line are left
-  /// out.
+  /// Sorted by name, a queue before its instances. Omits destinations whose names are not UTF-8 on
+  /// one line.
   std::vector<Destination> destinations;
-  std::string reason; ///< Why CUPS was not asked or has none, with what to do; else empty.
+  std::string reason; ///< Why the list is empty, with what to do; otherwise empty.
 
-  /// Null when there is none of that full name.
+  /// Returns null if no destination has that full name.
   const Destination *find(const std::string &fullName) const;
 };
 
-/// Asks CUPS and waits for its answer, at most about that long. Never throws: whatever goes wrong
-/// is an empty list with a reason. On any thread.
-DestinationList readDestinations(std::chrono::milliseconds patience = std::chrono::seconds(5));
+/// Queries CUPS, and waits at most about `timeout` for the response. Never throws: on any error,
+/// returns an empty list with a reason. Can be called on any thread.
+DestinationList readDestinations(std::chrono::milliseconds timeout = std::chrono::seconds(5));
 
-/// The list of a window: asked for on a thread of its own, taken over when it is there. All calls
-/// on one thread, none of which waits, the destructor included.
+/// The list of printers in a window. A background thread queries CUPS. Call all methods on one
+/// thread; none of them waits, not even the destructor.
 class Destinations {
 public:
   Destinations();
@@ -56,35 +55,35 @@ public:
   Destinations(const Destinations &) = delete;
   Destinations &operator=(const Destinations &) = delete;
 
-  /// Empty without a reason before the first answer.
+  /// Empty without a reason until `takeAnswer` has taken a response.
   const DestinationList &list() const noexcept { return list_; }
 
-  /// Asks CUPS again; does nothing while an earlier question is open, or where no thread can be
-  /// had. `answered` is called on the other thread once `takeAnswer` has something to take, perhaps
-  /// after this object is gone.
+  /// Queries CUPS again. Does nothing while a query is running, or if no thread can be created.
+  /// Calls `answered` on the background thread once `takeAnswer` has a response, possibly after
+  /// this object was destroyed.
   void refresh(std::function<void()> answered = {},
-               std::chrono::milliseconds patience = std::chrono::seconds(5));
-  bool isRefreshing() const noexcept { return answer_ != nullptr; }
+               std::chrono::milliseconds timeout = std::chrono::seconds(5));
+  bool isRefreshing() const noexcept { return response_ != nullptr; }
 
-  /// Takes the answer if there is one. True when the list differs from before.
+  /// Updates the list if a response has arrived. Returns true if the list changed.
   bool takeAnswer();
 
 private:
-  struct Answer;
+  struct Response;
 
   DestinationList list_;
-  std::shared_ptr<Answer> answer_; // shared with the thread that asks; null when none does
+  std::shared_ptr<Response> response_; // shared with the background thread; null if there is none
 };
 
-/// From CUPS's own record, whose options tell the state.
+/// Converts libcups's destination, whose options include the printer's state.
 Destination toDestination(const cups_dest_t &dest);
 
-/// By value; what `Destinations` compares.
+/// Compare by value.
 bool operator==(const Destination &left, const Destination &right);
 bool operator==(const DestinationList &left, const DestinationList &right);
 
-/// The words for CUPS's printer-state-reasons, a list with commas between; a reason without words
-/// of its own stands as it is. "none" and what says nothing to a person are left out.
+/// Translates CUPS's printer-state-reasons, a comma-separated list. Leaves unknown reasons as they
+/// are. Omits "none" and other reasons that mean nothing to users.
 std::string stateReasonsInWords(const std::string &reasons);
 
 } // namespace imageposition

@@ -11,13 +11,13 @@ namespace imageposition {
 
 namespace {
 
-/// The server, where the password would reach another machine as it is; else empty. A digest
-/// is sent in its place where the server asks for that.
+/// The server, if the password would reach another machine as plain text; otherwise empty. With
+/// digest authentication only a hash is sent.
 std::string serverThatExposes(http_t *connection) {
   const bool isDigest =
       strncasecmp(httpGetField(connection, HTTP_FIELD_WWW_AUTHENTICATE), "Digest", 6) == 0;
   const bool isSafe = isDigest || httpIsEncrypted(connection) != 0 ||
-                      httpAddrLocalhost(httpGetAddress(connection)) != 0; // a local socket, too
+                      httpAddrLocalhost(httpGetAddress(connection)) != 0; // includes local sockets
   return isSafe ? "" : cupsServerName();
 }
 
@@ -58,9 +58,9 @@ const char *TerminalWarning::ask(const char *prompt, http_t *connection, const c
                                  const char *resource, void *self) {
   auto &warning = *static_cast<TerminalWarning *>(self);
   const std::string server = serverThatExposes(connection);
-  if (!server.empty() && !std::exchange(warning.isSaid_, true))
+  if (!server.empty() && !std::exchange(warning.hasWarned_, true))
     warning.errors_ << messages::kProgram << messages::passwordExposed(server) << std::endl;
-  cupsSetPasswordCB2(nullptr, nullptr); // libcups's own question
+  cupsSetPasswordCB2(nullptr, nullptr); // restores libcups's default prompt
   const char *const password = cupsGetPassword2(prompt, connection, method, resource);
   cupsSetPasswordCB2(ask, self);
   return password;

@@ -1,6 +1,6 @@
-/// Who answers when CUPS wants a password.
-#ifndef IMAGEPOSITION_HOST_PASSWORDQUESTION_HPP
-#define IMAGEPOSITION_HOST_PASSWORDQUESTION_HPP
+/// Handles password requests from CUPS.
+#ifndef IMAGEPOSITION_CORE_CUPS_PASSWORDQUESTION_HPP
+#define IMAGEPOSITION_CORE_CUPS_PASSWORDQUESTION_HPP
 
 #include <cups/cups.h>
 
@@ -12,9 +12,9 @@
 namespace imageposition {
 
 struct PasswordRequest {
-  std::string user;     ///< Whom CUPS knows the person as.
-  bool isAgain = false; ///< The last answer was wrong.
-  /// The server, where others could read the password on its way there; else empty.
+  std::string user;     ///< The name under which CUPS knows the user.
+  bool isAgain = false; ///< The last password was wrong.
+  /// The server, if others could read the password in transit; otherwise empty.
   std::string exposedTo = {};
 };
 
@@ -23,12 +23,12 @@ struct Credentials {
   std::string password;
 };
 
-/// Asked when CUPS wants a password. None gives up.
+/// Called when CUPS requires a password. Returns nullopt to give up.
 using PasswordCallback = std::function<std::optional<Credentials>(const PasswordRequest &)>;
 
-/// Has the callback answer for this thread while the object lives, or nobody without one: left to
-/// itself libcups asks on the terminal, which a window's process may not have. Another connection
-/// of the same work gets the last answer before the callback is asked again.
+/// Handles password requests on this thread during its lifetime: calls the callback, or gives up
+/// without one. By default libcups asks on the terminal, which a graphical program may not have. A
+/// new connection tries the last credentials before the callback is called again.
 class PasswordQuestion {
 public:
   explicit PasswordQuestion(PasswordCallback callback = {});
@@ -41,12 +41,13 @@ private:
   const char *answer(http_t *connection);
 
   PasswordCallback callback_;
-  std::optional<Credentials> credentials_; ///< Of the last answer.
-  http_t *connection_ = nullptr;           ///< Which had it.
+  std::optional<Credentials> credentials_; ///< The last ones that the callback returned.
+  http_t *connection_ = nullptr;           ///< Where they were last used.
 };
 
-/// While it lives, warns on `errors` before libcups asks on the terminal for a password that others
-/// could read on its way. For this thread, where no `PasswordQuestion` lives.
+/// During its lifetime, warns on `errors` before libcups asks on the terminal for a password that
+/// others could read in transit. Applies to this thread. Not to be combined with
+/// `PasswordQuestion`.
 class TerminalWarning {
 public:
   explicit TerminalWarning(std::ostream &errors);
@@ -58,7 +59,7 @@ private:
   static const char *ask(const char *prompt, http_t *, const char *, const char *, void *self);
 
   std::ostream &errors_;
-  bool isSaid_ = false;
+  bool hasWarned_ = false;
 };
 
 } // namespace imageposition

@@ -10,9 +10,9 @@ namespace imageposition {
 
 namespace {
 
-constexpr std::size_t kPiece = 65536;
+constexpr std::size_t kChunkSize = 65536;
 
-void checkOrdinary(const Descriptor &file) {
+void checkRegular(const Descriptor &file) {
   struct stat status {};
   if (fstat(file.get(), &status) != 0)
     throw FileTrouble(errno);
@@ -27,14 +27,14 @@ void checkOrdinary(const Descriptor &file) {
 FileTrouble::FileTrouble(int error) : std::runtime_error(systemReason(error)), error_(error) {}
 
 std::string contentOfFile(const Descriptor &file) {
-  checkOrdinary(file);
+  checkRegular(file);
   std::string content;
   for (;;) {
     const std::size_t before = content.size();
     if (before > kLargestContent)
       throw FileTrouble(EFBIG);
-    content.resize(before + kPiece);
-    const ssize_t count = read(file.get(), &content[before], kPiece);
+    content.resize(before + kChunkSize);
+    const ssize_t count = read(file.get(), &content[before], kChunkSize);
     if (count < 0 && errno != EINTR)
       throw FileTrouble(errno);
     content.resize(before + (count < 0 ? 0 : static_cast<std::size_t>(count)));

@@ -1,6 +1,6 @@
-/// Reads whole files, and says why one cannot be read or written.
-#ifndef IMAGEPOSITION_HOST_FILECONTENT_HPP
-#define IMAGEPOSITION_HOST_FILECONTENT_HPP
+/// Reads whole files.
+#ifndef IMAGEPOSITION_CORE_FILES_FILECONTENT_HPP
+#define IMAGEPOSITION_CORE_FILES_FILECONTENT_HPP
 
 #include <optional>
 #include <stdexcept>
@@ -10,21 +10,21 @@
 
 namespace imageposition {
 
-/// What stands in the way of reading or writing a file, as a clause without the file's name and
+/// Why a file cannot be read or written. The message is a clause without the file's name and
 /// without a full stop.
 class FileTrouble : public std::runtime_error {
 public:
   explicit FileTrouble(const std::string &reason) : std::runtime_error(reason) {}
-  /// In the system's words.
+  /// `error` is an `errno` value, whose message is used.
   explicit FileTrouble(int error);
-  /// The system's number; 0 where the reason is another.
+  /// The `errno` value; 0 for other reasons.
   int error() const noexcept { return error_; }
 
 private:
   int error_ = 0;
 };
 
-/// An open file, closed at the end. -1 for none.
+/// Owns a file descriptor, or -1 for none.
 class Descriptor {
 public:
   explicit Descriptor(int descriptor) noexcept : descriptor_(descriptor) {}
@@ -40,20 +40,20 @@ public:
 
   bool isOpen() const noexcept { return descriptor_ >= 0; }
   int get() const noexcept { return descriptor_; }
-  /// The caller closes it.
+  /// Gives up ownership: the caller closes the descriptor.
   int release() noexcept { return std::exchange(descriptor_, -1); }
 
 private:
   int descriptor_;
 };
 
-/// None when there is no such file. Throws a `FileTrouble`: for anything but an ordinary file, too,
-/// and for more than `kLargestContent` bytes. Waits for no pipe.
+/// Returns nullopt if there is no such file. Throws a `FileTrouble` if it cannot be read, is not a
+/// regular file, or has more than `kLargestContent` bytes. Never waits for a pipe.
 std::optional<std::string> contentOfFile(const std::string &path);
-/// The same for a file that is open for reading.
+/// The same for a file that is already open for reading.
 std::string contentOfFile(const Descriptor &file);
 
-/// Far beyond every file that this program writes.
+/// In bytes; far larger than any file that this program writes.
 constexpr std::size_t kLargestContent = std::size_t(64) << 20;
 
 } // namespace imageposition

@@ -17,10 +17,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kMostLinks = 40; // Linux's own limit
-constexpr int kMostNames = 100;
+constexpr int kMaxLinks = 40; // Linux's own limit
+constexpr int kMaxAttempts = 100;
 
-/// None where there is nothing.
+/// Returns nullopt if there is no such file.
 std::optional<struct stat> statusOf(int folder, const std::string &name) {
   struct stat status {};
   if (fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
@@ -32,7 +32,7 @@ std::optional<struct stat> statusOf(int folder, const std::string &name) {
 
 bool isUsers(const struct stat &status) { return status.st_uid == geteuid(); }
 
-/// Never through a link.
+/// Never follows a symbolic link.
 Descriptor openFolder(int start, const std::string &name) {
   Descriptor folder(openat(start, name.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
   if (!folder.isOpen())
@@ -40,8 +40,8 @@ Descriptor openFolder(int start, const std::string &name) {
   return folder;
 }
 
-/// None for anything but a link. Another user's link, in a folder where others may write, may lead
-/// to any file of the user's.
+/// Returns nullopt for anything but a symbolic link. Refuses another user's link, which could point
+/// to any of the user's files.
 std::optional<fs::path> targetOfLink(const Descriptor &folder, const std::string &name) {
   const Descriptor link(openat(folder.get(), name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
   struct stat status {};
@@ -69,7 +69,7 @@ void writeAll(const Descriptor &file, std::string_view content) {
 
 } // namespace
 
-/// Each link on the way is seen before it is followed.
+/// Resolves symbolic links itself, to check the owner of each one before following it.
 FileReplacement::Place FileReplacement::placeOf(const fs::path &path, LastLink lastLink) {
   std::deque<fs::path> names(path.begin(), path.end());
   Descriptor folder = openFolder(AT_FDCWD, ".");
@@ -81,7 +81,7 @@ FileReplacement::Place FileReplacement::placeOf(const fs::path &path, LastLink l
       break;
     if (!isLast || lastLink == LastLink::Followed) {
       if (const auto target = targetOfLink(folder, name)) {
-        if (++links > kMostLinks)
+        if (++links > kMaxLinks)
           throw FileTrouble(ELOOP);
         names.insert(names.begin(), target->begin(), target->end());
         continue;
@@ -128,7 +128,7 @@ void FileReplacement::writeContent(std::string_view content, Readers readers, Co
   const mode_t readable = readers == Readers::OwnerAlone ? S_IRWXU : S_IRWXU | S_IRWXG | S_IRWXO;
   const mode_t rights = (keepsRights ? former->st_mode : 0666) & readable;
   Descriptor file = createTemporary(rights);
-  if (keepsRights && fchmod(file.get(), rights) != 0) // creating it obeys the umask
+  if (keepsRights && fchmod(file.get(), rights) != 0) // openat() applied the umask
     throw FileTrouble(errno);
   writeAll(file, content);
   if (fsync(file.get()) != 0 || ::close(file.release()) != 0)
@@ -137,7 +137,7 @@ void FileReplacement::writeContent(std::string_view content, Readers readers, Co
 
 Descriptor FileReplacement::createTemporary(mode_t rights) {
   std::random_device random;
-  for (int tried = 0; tried < kMostNames; tried++) {
+  for (int attempt = 0; attempt < kMaxAttempts; attempt++) {
     char suffix[8];
     std::snprintf(suffix, sizeof suffix, ".%06x", random() & 0xFFFFFFU);
     const std::string name = place_.name + suffix;
@@ -158,7 +158,7 @@ void FileReplacement::commit() {
   if (renameat(folder, temporary_.c_str(), folder, place_.name.c_str()) != 0)
     throw FileTrouble(errno);
   temporary_.clear();
-  // The name is safe once its folder is on disk; a file system that cannot do that is no failure.
+  // Flush the folder entry too. Not every file system supports that, so ignore an error.
   const Descriptor readable(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (readable.isOpen())
     fsync(readable.get());

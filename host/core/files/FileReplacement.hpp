@@ -1,6 +1,6 @@
-/// A file that is written whole or not at all.
-#ifndef IMAGEPOSITION_HOST_FILEREPLACEMENT_HPP
-#define IMAGEPOSITION_HOST_FILEREPLACEMENT_HPP
+/// Replaces a file atomically.
+#ifndef IMAGEPOSITION_CORE_FILES_FILEREPLACEMENT_HPP
+#define IMAGEPOSITION_CORE_FILES_FILEREPLACEMENT_HPP
 
 #include "FileContent.hpp"
 
@@ -13,38 +13,39 @@ namespace imageposition {
 
 /// Who may read the new file.
 enum class Readers {
-  Same,      ///< As the user's file that it replaces, or as any new one.
-  OwnerAlone ///< Even where others could read the old one.
+  Same,      ///< As for the user's file that it replaces, or for any new file.
+  OwnerAlone ///< Even if others could read the old file.
 };
 
-/// Whether this program may have written that content.
+/// Whether this program could have written the content.
 using ContentCheck = bool (*)(std::string_view content);
 
-/// The new content of a file, first beside it under another name, on disk before it takes its
-/// place. It is safe in a folder where others may write: the folder is opened once, and a name in
-/// it is only ever created or replaced, never written through. Throws a `FileTrouble`; the file is
-/// then as it was.
+/// The new content of a file, written to a temporary file beside it and flushed to disk before it
+/// replaces the old file. Safe in a folder where others may write: the folder is opened once, and
+/// names in it are only created or replaced, never followed for writing. If an operation throws a
+/// `FileTrouble`, the file is unchanged.
 class FileReplacement {
 public:
-  /// Writes the content. Symbolic links that belong to the user or to root are followed, and others
-  /// refused, whether the file or a folder on the way; so is anything but an ordinary file that the
-  /// user may write.
+  /// Writes the temporary file. Follows symbolic links that belong to the user or to root, anywhere
+  /// in the path, and refuses other links. Also refuses to replace anything but a regular file that
+  /// the user may write.
   ///
-  /// With `isOurs`, for a file that the user did not name, a link in its place is never followed,
-  /// and a file is replaced only when it belongs to the user and has a content that this program
-  /// has written.
+  /// Pass `isOurs` for a file that the user did not name: a link in its place is never followed,
+  /// and a file is replaced only if it belongs to the user and `isOurs` returns true for its
+  /// content.
   FileReplacement(const std::string &path, std::string_view content,
                   Readers readers = Readers::Same, ContentCheck isOurs = nullptr);
-  /// Leaves nothing behind unless `commit` has succeeded.
+  /// Removes the temporary files.
   ~FileReplacement();
   FileReplacement(const FileReplacement &) = delete;
   FileReplacement &operator=(const FileReplacement &) = delete;
 
+  /// Replaces the file.
   void commit();
 
-  /// Called before `commit`, lets `revert` undo it.
+  /// Call before `commit` to let `revert` undo it.
   void keepFormer();
-  /// Puts the former file back, or takes the new one away where there was none. False when that
+  /// Restores the former file, or removes the new one if there was none. Returns false if that
   /// fails, as on a file system without hard links.
   bool revert();
 
@@ -62,8 +63,8 @@ private:
   Descriptor createTemporary(mode_t rights);
 
   Place place_;
-  std::string temporary_; // empty when there is none
-  std::string former_;    // the former file's second name; empty when there is none
+  std::string temporary_; // empty if there is none
+  std::string former_;    // a second link to the former file; empty if there is none
   bool isNew_ = false;
 };
 

@@ -1,6 +1,6 @@
-/// Why a file is neither read nor written.
-#ifndef IMAGEPOSITION_HOST_FILETEXTS_HPP
-#define IMAGEPOSITION_HOST_FILETEXTS_HPP
+/// Reasons why a file cannot be read or written.
+#ifndef IMAGEPOSITION_CORE_FILES_FILETEXTS_HPP
+#define IMAGEPOSITION_CORE_FILES_FILETEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,7 +8,7 @@
 
 namespace imageposition::messages {
 
-// Why a file cannot be read or written, after its name.
+// Clauses that follow the name of the file.
 extern const Text kNotAnOrdinaryFile;
 extern const Text kLinkOfAnotherUser;
 extern const Text kNotWrittenByPrintDialog;

@@ -14,7 +14,7 @@ std::optional<int> readCopies(const std::string &text) {
 }
 
 int nearestCopies(const std::string &text) {
-  // Before it becomes an int, which would take something else out of a large number.
+  // Clamp before converting to int, which would truncate a large number.
   return static_cast<int>(std::clamp<long>(std::strtol(text.c_str(), nullptr, 10), 1, kMostCopies));
 }
 

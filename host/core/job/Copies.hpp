@@ -1,18 +1,18 @@
-/// How many copies, as a text.
-#ifndef IMAGEPOSITION_HOST_COPIES_HPP
-#define IMAGEPOSITION_HOST_COPIES_HPP
+/// Parses the number of copies.
+#ifndef IMAGEPOSITION_CORE_JOB_COPIES_HPP
+#define IMAGEPOSITION_CORE_JOB_COPIES_HPP
 
 #include <optional>
 #include <string>
 
 namespace imageposition {
 
-constexpr int kMostCopies = 9999; ///< That CUPS takes.
+constexpr int kMostCopies = 9999; ///< The largest number that CUPS accepts.
 
-/// None unless the whole text is a number from 1 to `kMostCopies`.
+/// Returns nullopt unless the whole string is a number from 1 to `kMostCopies`.
 std::optional<int> readCopies(const std::string &text);
 
-/// What a text that may not be such a number comes closest to; 1 for one that is no number.
+/// Clamps the number to the range from 1 to `kMostCopies`. Returns 1 if the string is not a number.
 int nearestCopies(const std::string &text);
 
 } // namespace imageposition

@@ -12,10 +12,10 @@ namespace imageposition {
 
 namespace {
 
-constexpr std::size_t kPiece = 65536;
-constexpr int kMillisecondsBetweenQuestions = 250;
+constexpr std::size_t kChunkSize = 65536;
+constexpr int kMillisecondsBetweenCallbacks = 250;
 
-/// From where it stands to its end; 0 for a pipe.
+/// Bytes from the current position to the end; 0 for a pipe.
 std::uint64_t bytesAhead(int descriptor) {
   struct stat status {};
   const off_t position = lseek(descriptor, 0, SEEK_CUR);
@@ -42,8 +42,8 @@ std::optional<std::uint64_t> documentSize(const std::string &path) {
 }
 
 DocumentStream::DocumentStream(const std::string &path)
-    : descriptor_(STDIN_FILENO), isOwn_(path != "-"), buffer_(kPiece) {
-  if (isOwn_)
+    : descriptor_(STDIN_FILENO), ownsDescriptor_(path != "-"), buffer_(kChunkSize) {
+  if (ownsDescriptor_)
     descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor_ < 0)
     fail(errno);
@@ -51,13 +51,13 @@ DocumentStream::DocumentStream(const std::string &path)
 }
 
 DocumentStream::~DocumentStream() {
-  if (isOwn_)
+  if (ownsDescriptor_)
     close(descriptor_);
 }
 
 std::optional<std::string_view> DocumentStream::next(const std::function<bool()> &keepWaiting) {
   pollfd waiting{descriptor_, POLLIN, 0};
-  while (poll(&waiting, 1, kMillisecondsBetweenQuestions) <= 0)
+  while (poll(&waiting, 1, kMillisecondsBetweenCallbacks) <= 0)
     if (!keepWaiting())
       return std::nullopt;
   ssize_t count;

@@ -1,6 +1,6 @@
-/// A document, read piece by piece.
-#ifndef IMAGEPOSITION_HOST_DOCUMENTSTREAM_HPP
-#define IMAGEPOSITION_HOST_DOCUMENTSTREAM_HPP
+/// Reads a document in chunks.
+#ifndef IMAGEPOSITION_CORE_JOB_DOCUMENTSTREAM_HPP
+#define IMAGEPOSITION_CORE_JOB_DOCUMENTSTREAM_HPP
 
 #include <cstdint>
 #include <functional>
@@ -11,30 +11,30 @@
 
 namespace imageposition {
 
-/// Bytes in all of what `DocumentStream` would read, without opening it; none for a pipe. Throws a
-/// `std::system_error` when it cannot be read.
+/// The size of a document in bytes, without opening it; nullopt for a pipe. `path` is as for
+/// `DocumentStream`. Throws a `std::system_error` if the document cannot be read.
 std::optional<std::uint64_t> documentSize(const std::string &path);
 
 class DocumentStream {
 public:
-  /// A file, or standard input for "-". Throws a `std::system_error` when it cannot be read.
+  /// Opens a file, or standard input for "-". Throws a `std::system_error` if it cannot be read.
   explicit DocumentStream(const std::string &path);
   ~DocumentStream();
   DocumentStream(const DocumentStream &) = delete;
   DocumentStream &operator=(const DocumentStream &) = delete;
 
-  /// The next piece, valid until the next call; empty at the end. A pipe that has nothing yet is
-  /// waited for while `keepWaiting` says so, asked about four times a second; none when it does
-  /// not. Throws a `std::system_error`.
+  /// Returns the next chunk, valid until the next call; empty at the end. While a pipe has no data,
+  /// calls `keepWaiting` about four times a second, and returns nullopt once that returns false.
+  /// Throws a `std::system_error`.
   std::optional<std::string_view> next(const std::function<bool()> &keepWaiting);
 
-  /// Bytes that a file had when it was opened and that have not come; at its end, those by which it
-  /// has shrunk. 0 for a pipe.
+  /// The number of bytes not yet read, of those that a file had when it was opened. At its end, the
+  /// number of bytes by which it has shrunk. 0 for a pipe.
   std::uint64_t missing() const noexcept { return missing_; }
 
 private:
   int descriptor_;
-  bool isOwn_;
+  bool ownsDescriptor_;
   std::vector<char> buffer_;
   std::uint64_t missing_;
 };

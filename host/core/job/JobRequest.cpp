@@ -16,7 +16,7 @@ namespace imageposition {
 
 namespace {
 
-/// Names for one thing; the first in the job's settings decides, whatever the defaults call it.
+/// Synonymous options: a setting with one of the names overrides a default with another.
 const std::vector<std::vector<const char *>> kSynonyms = {
     {"sides", "Duplex"},
     {"media", "media-col", "PageSize", "PageRegion"},
@@ -27,7 +27,7 @@ const std::vector<std::vector<const char *>> kSynonyms = {
     {"printer-resolution", "Resolution"},
 };
 
-bool isDisplaced(const char *name, const PrintSettingsStore &settings) {
+bool isOverridden(const char *name, const PrintSettingsStore &settings) {
   for (const auto &synonyms : kSynonyms) {
     const auto isName = [=](const char *synonym) { return isSame(synonym, name); };
     if (std::none_of(synonyms.begin(), synonyms.end(), isName))
@@ -43,7 +43,7 @@ void add(PrintSettingsStore &options, const char *name, const std::string &value
     throw Failure(ExitCode::Usage, messages::unusableOption(name));
 }
 
-/// CUPS refuses ranges that are not ascending.
+/// CUPS refuses page ranges that are not ascending.
 void sortPages(PrintSettingsStore &options) {
   const char *const stored = options.get("page-ranges");
   const std::string pages = stored != nullptr ? stored : "";
@@ -56,7 +56,7 @@ bool isCompound(const JobRequest &request, const cups_option_t &option) {
   return option.value[0] == '{' && contains(request.compounds, option.name);
 }
 
-/// The longest value of IPP's type "name"; a text may be longer.
+/// The maximum length of IPP's type "name"; its type "text" allows more.
 constexpr std::size_t kLongestName = 255;
 
 void addCompounds(ipp_t *request, const JobRequest &job, const PrintSettingsStore &options) {
@@ -83,7 +83,7 @@ std::string groupName(ipp_tag_t group) {
 
 std::string valueText(ipp_attribute_t *attribute) {
   const std::size_t length = ippAttributeString(attribute, nullptr, 0);
-  std::string text(length + 1, '\0'); // with the terminator that is written
+  std::string text(length + 1, '\0'); // includes the terminating null
   ippAttributeString(attribute, &text[0], text.size());
   text.resize(length);
   return text;
@@ -108,7 +108,7 @@ PrintSettingsStore optionsToSend(const JobRequest &request) {
   PrintSettingsStore options;
   for (int i = 0; i < request.defaults.optionCount(); i++) {
     const cups_option_t &option = request.defaults.options()[i];
-    if (!isDisplaced(option.name, settings))
+    if (!isOverridden(option.name, settings))
       add(options, option.name, option.value);
   }
   for (int i = 0; i < settings.optionCount(); i++)
@@ -142,7 +142,7 @@ ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &option
       simple.remove(options.options()[i].name);
   for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION}) {
     cupsEncodeOptions2(ipp, simple.optionCount(), const_cast<cups_option_t *>(simple.options()),
-                       group); // only read
+                       group); // not modified
     if (group == IPP_TAG_JOB)
       addCompounds(ipp, request, options);
   }
@@ -155,7 +155,7 @@ std::string writeRequestText(const JobRequest &request) {
   std::string text;
   for (ipp_attribute_t *attribute = ippFirstAttribute(ipp.get()); attribute != nullptr;
        attribute = ippNextAttribute(ipp.get()))
-    if (ippGetName(attribute) != nullptr) // else it stands between two groups
+    if (ippGetName(attribute) != nullptr) // a separator between two groups has no name
       text += attributeText(request, attribute);
   return text;
 }

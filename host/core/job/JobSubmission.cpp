@@ -27,8 +27,8 @@ namespace imageposition {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr auto kBetweenReports = std::chrono::milliseconds(50);
-constexpr auto kPatience = std::chrono::seconds(30); // without a sign of life from CUPS
+constexpr auto kReportInterval = std::chrono::milliseconds(50);
+constexpr auto kTimeout = std::chrono::seconds(30); // without a response from CUPS
 
 [[noreturn]] void fail(JobProblem problem, const std::string &message) {
   ExitCode code = ExitCode::Job;
@@ -41,7 +41,7 @@ constexpr auto kPatience = std::chrono::seconds(30); // without a sign of life f
 
 [[noreturn]] void failCancelled() { fail(JobProblem::Cancelled, messages::kCancelled); }
 
-/// What CUPS's status, which can be any number, means for a job.
+/// Interprets CUPS's status, which can be any number.
 JobProblem problemOf(int status) {
   switch (status) {
   case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
@@ -81,16 +81,16 @@ std::string nameOf(const std::string &path) {
   return path == "-" ? messages::kStandardInput : path;
 }
 
-/// One job on its way.
+/// The submission of one job.
 class Submission {
 public:
   Submission(const JobRequest &request, const ProgressCallback &progress)
       : request_(request), options_(optionsToSend(request)), progress_(progress) {}
 
   SubmittedJob run(const JobDocuments &documents);
-  /// The time that a person took is not CUPS's.
-  void noticeAnswer() {
-    lastSign_ = Clock::now();
+  /// Restarts the timeout, which excludes the time that the user took to answer.
+  void restartTimeout() {
+    lastResponse_ = Clock::now();
     report();
   }
 
@@ -101,28 +101,28 @@ private:
   void findPrinter();
   void createJob();
   void createJobWithCompounds();
-  void lookAt(const JobDocuments &documents);
-  std::string_view firstPiece(DocumentStream &document);
+  void checkDocuments(const JobDocuments &documents);
+  std::string_view firstChunk(DocumentStream &document);
   void sendDocuments(const JobDocuments &documents);
   void sendAll(const JobDocuments &documents);
-  void clearUp(const SubmissionFailure &failure);
-  void sendDocument(DocumentStream &document, std::string_view piece, bool isLast);
+  void cleanUp(const SubmissionFailure &failure);
+  void sendDocument(DocumentStream &document, std::string_view chunk, bool isLast);
   void startDocument(bool isLast);
   void finishDocument();
   const char *format() const;
-  void sendPiece(std::string_view piece);
-  std::string_view nextPiece(DocumentStream &document);
+  void sendChunk(std::string_view chunk);
+  std::string_view nextChunk(DocumentStream &document);
   bool removeJob();
   std::string note() const;
-  [[noreturn]] void failAsCups();
+  [[noreturn]] void failWithCupsError();
   std::string messageFor(JobProblem problem, const std::string &reason) const;
 
   const JobRequest &request_;
   const PrintSettingsStore options_;
   const ProgressCallback &progress_;
-  std::string documentPath_; // of the one that is read
+  std::string documentPath_; // of the current document
   JobProgress state_;
-  Clock::time_point lastSign_ = Clock::now();
+  Clock::time_point lastResponse_ = Clock::now();
   bool isCancelled_ = false;
   bool hasTimedOut_ = false;
   bool isAllSent_ = false; // every document, though CUPS may not have confirmed the last one
@@ -138,12 +138,12 @@ bool Submission::report() {
 }
 
 bool Submission::keepWaiting() {
-  hasTimedOut_ = Clock::now() - lastSign_ >= kPatience;
+  hasTimedOut_ = Clock::now() - lastResponse_ >= kTimeout;
   return report() && !hasTimedOut_;
 }
 
-/// In the words of what CUPS said last.
-void Submission::failAsCups() {
+/// Throws for CUPS's last error.
+void Submission::failWithCupsError() {
   if (isCancelled_)
     failCancelled();
   if (hasTimedOut_ && job_ != 0)
@@ -178,7 +178,7 @@ std::string Submission::messageFor(JobProblem problem, const std::string &reason
 }
 
 void Submission::connect() {
-  connection_ = CupsConnection::open(kPatience, [this] { return keepWaiting(); });
+  connection_ = CupsConnection::open(kTimeout, [this] { return keepWaiting(); });
   if (!connection_)
     fail(JobProblem::NoCups, messages::noCups(cupsServerName(), systemReason(errno)));
 }
@@ -186,13 +186,13 @@ void Submission::connect() {
 void Submission::findPrinter() {
   printer_.reset(cupsGetNamedDest(connection_->http(), request_.printer.c_str(), nullptr));
   if (!printer_)
-    failAsCups();
+    failWithCupsError();
   info_.reset(cupsCopyDestInfo(connection_->http(), printer_.get()));
   if (!info_)
-    failAsCups();
+    failWithCupsError();
 }
 
-/// As cupsCreateDestJob does, whose request would lose a value.
+/// Does what cupsCreateDestJob does, which would lose a value in several parts.
 void Submission::createJobWithCompounds() {
   const char *const uri =
       cupsGetOption("printer-uri-supported", printer_->num_options, printer_->options);
@@ -201,14 +201,14 @@ void Submission::createJobWithCompounds() {
   if (uri == nullptr ||
       httpSeparateURI(HTTP_URI_CODING_ALL, uri, scheme, sizeof scheme, user, sizeof user, host,
                       sizeof host, &port, resource, sizeof resource) < HTTP_URI_STATUS_OK)
-    failAsCups();
+    failWithCupsError();
   JobRequest request = request_;
   request.printerUri = uri;
   const IppMessage response(
       cupsDoRequest(connection_->http(), newJobRequest(request, options_), resource));
   ipp_attribute_t *const id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
   if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE || id == nullptr)
-    failAsCups();
+    failWithCupsError();
   job_ = ippGetInteger(id, 0);
 }
 
@@ -219,13 +219,13 @@ void Submission::createJob() {
   }
   const int status = cupsCreateDestJob(
       connection_->http(), printer_.get(), info_.get(), &job_, request_.title.c_str(),
-      options_.optionCount(), const_cast<cups_option_t *>(options_.options())); // only read
+      options_.optionCount(), const_cast<cups_option_t *>(options_.options())); // not modified
   if (status > IPP_STATUS_OK_EVENTS_COMPLETE || job_ == 0)
-    failAsCups();
+    failWithCupsError();
 }
 
-/// Finds out how much there is to send, and what cannot be, while nothing has been.
-void Submission::lookAt(const JobDocuments &documents) {
+/// Determines the total size, and refuses unusable documents, before anything is sent.
+void Submission::checkDocuments(const JobDocuments &documents) {
   state_.total = 0;
   for (const std::string &path : documents) {
     documentPath_ = path;
@@ -236,18 +236,18 @@ void Submission::lookAt(const JobDocuments &documents) {
   }
 }
 
-std::string_view Submission::nextPiece(DocumentStream &document) {
-  const auto piece = document.next([this] { return report(); });
-  if (!piece)
+std::string_view Submission::nextChunk(DocumentStream &document) {
+  const auto chunk = document.next([this] { return report(); });
+  if (!chunk)
     failCancelled();
-  return *piece;
+  return *chunk;
 }
 
-std::string_view Submission::firstPiece(DocumentStream &document) {
-  const std::string_view piece = nextPiece(document);
-  if (piece.empty())
+std::string_view Submission::firstChunk(DocumentStream &document) {
+  const std::string_view chunk = nextChunk(document);
+  if (chunk.empty())
     fail(JobProblem::Document, messages::documentEmpty(nameOf(documentPath_)));
-  return piece;
+  return chunk;
 }
 
 const char *Submission::format() const {
@@ -261,47 +261,47 @@ void Submission::startDocument(bool isLast) {
   if (cupsStartDestDocument(connection_->http(), printer_.get(), info_.get(), job_,
                             documentName(documentPath_).c_str(), format(), 0, nullptr,
                             isLast ? 1 : 0) != HTTP_STATUS_CONTINUE)
-    failAsCups();
+    failWithCupsError();
 }
 
-void Submission::sendPiece(std::string_view piece) {
-  if (cupsWriteRequestData(connection_->http(), piece.data(), piece.size()) != HTTP_STATUS_CONTINUE)
-    failAsCups();
-  lastSign_ = Clock::now();
-  state_.sent += piece.size();
+void Submission::sendChunk(std::string_view chunk) {
+  if (cupsWriteRequestData(connection_->http(), chunk.data(), chunk.size()) != HTTP_STATUS_CONTINUE)
+    failWithCupsError();
+  lastResponse_ = Clock::now();
+  state_.sent += chunk.size();
 }
 
 void Submission::finishDocument() {
   const int status = cupsFinishDestDocument(connection_->http(), printer_.get(), info_.get());
-  // Where there is no answer, libcups returns the status of the request before.
+  // Without a response, libcups returns the status of the previous request.
   if (status > IPP_STATUS_OK_EVENTS_COMPLETE ||
       httpGetStatus(connection_->http()) != HTTP_STATUS_OK)
-    failAsCups();
+    failWithCupsError();
 }
 
-void Submission::sendDocument(DocumentStream &document, std::string_view piece, bool isLast) {
+void Submission::sendDocument(DocumentStream &document, std::string_view chunk, bool isLast) {
   startDocument(isLast);
-  while (!piece.empty()) {
+  while (!chunk.empty()) {
     if (!report())
       failCancelled();
-    sendPiece(piece);
-    piece = nextPiece(document);
+    sendChunk(chunk);
+    chunk = nextChunk(document);
   }
   if (document.missing() > 0)
     fail(JobProblem::Document, messages::documentShrank(nameOf(documentPath_)));
   if (!report())
     failCancelled();
-  lastSign_ = Clock::now();
+  lastResponse_ = Clock::now();
   isAllSent_ = isLast;
   finishDocument();
 }
 
-/// The first document is there before there is a job.
+/// Creates the job only after the first document has produced data.
 void Submission::sendDocuments(const JobDocuments &documents) {
   for (const std::string &path : documents) {
     documentPath_ = path;
     DocumentStream document(path);
-    const std::string_view piece = firstPiece(document);
+    const std::string_view chunk = firstChunk(document);
     if (job_ == 0) {
       if (!report())
         failCancelled();
@@ -309,11 +309,12 @@ void Submission::sendDocuments(const JobDocuments &documents) {
       findPrinter();
       createJob();
     }
-    sendDocument(document, piece, &path == &documents.back());
+    sendDocument(document, chunk, &path == &documents.back());
   }
 }
 
-/// A connection with half a document on it says nothing else: CUPS drops that half with it.
+/// Closes the connection, on which an incomplete document blocks other requests, and uses a new
+/// one. CUPS then discards the incomplete document.
 bool Submission::removeJob() {
   connection_.reset();
   isCancelled_ = false;
@@ -334,8 +335,9 @@ std::string Submission::note() const {
              : "";
 }
 
-/// Takes a job that failed back, and says what is left of it.
-void Submission::clearUp(const SubmissionFailure &failure) {
+/// Removes a job that failed. Throws another failure if the message must say what became of the
+/// job.
+void Submission::cleanUp(const SubmissionFailure &failure) {
   if (job_ == 0)
     return;
   if (!removeJob())
@@ -345,12 +347,12 @@ void Submission::clearUp(const SubmissionFailure &failure) {
     fail(JobProblem::NoAnswer, messages::jobTakenBack(failure.what(), request_.printer, job_));
   if (failure.problem() == JobProblem::Cancelled && isAllSent_)
     fail(JobProblem::Cancelled, messages::jobCancelled(request_.printer, job_));
-  if (failure.problem() == JobProblem::NoCups) // it is there, and broke off
+  if (failure.problem() == JobProblem::NoCups) // CUPS is still running
     fail(JobProblem::Spool, messages::kDocumentBrokenOff);
 }
 
 void Submission::sendAll(const JobDocuments &documents) try {
-  lookAt(documents);
+  checkDocuments(documents);
   sendDocuments(documents);
 } catch (const std::system_error &error) {
   fail(JobProblem::Document,
@@ -361,7 +363,7 @@ SubmittedJob Submission::run(const JobDocuments &documents) {
   try {
     sendAll(documents);
   } catch (const SubmissionFailure &failure) {
-    clearUp(failure);
+    cleanUp(failure);
     throw;
   }
   return {job_, note()};
@@ -374,9 +376,9 @@ SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
   Submission submission(request, progress);
   PasswordCallback asking;
   if (password)
-    asking = [&](const PasswordRequest &wanted) {
-      auto answer = password(wanted);
-      submission.noticeAnswer();
+    asking = [&](const PasswordRequest &asked) {
+      auto answer = password(asked);
+      submission.restartTimeout();
       return answer;
     };
   const PasswordQuestion question(asking);
@@ -391,17 +393,17 @@ struct JobSubmission::Work {
   std::shared_future<SubmittedJob> outcome;
   std::thread thread;
   Changed changed;
-  Clock::time_point told{}; // when `changed` was called last
+  Clock::time_point lastReport{};
 
-  std::mutex mutex; // of the following
+  std::mutex mutex; // guards the following members
   std::condition_variable answered;
   std::optional<PasswordRequest> question;
   std::optional<Credentials> credentials;
 
-  /// On the submission's thread: waits for the other one.
-  std::optional<Credentials> ask(const PasswordRequest &wanted) {
+  /// Called on the background thread: waits for `answer` or `cancel`.
+  std::optional<Credentials> ask(const PasswordRequest &asked) {
     std::unique_lock<std::mutex> lock(mutex);
-    question = wanted;
+    question = asked;
     changed();
     answered.wait(lock, [this] { return !question || isCancelled; });
     question.reset();
@@ -411,8 +413,8 @@ struct JobSubmission::Work {
   bool take(const JobProgress &progress) {
     sent = progress.sent;
     total = progress.total ? static_cast<std::int64_t>(*progress.total) : -1;
-    if (changed && Clock::now() - told >= kBetweenReports) {
-      told = Clock::now();
+    if (changed && Clock::now() - lastReport >= kReportInterval) {
+      lastReport = Clock::now();
       changed();
     }
     return !isCancelled;
@@ -421,13 +423,13 @@ struct JobSubmission::Work {
   SubmittedJob run(const JobRequest &request, const JobDocuments &documents) {
     PasswordCallback password;
     if (changed)
-      password = [this](const PasswordRequest &wanted) { return ask(wanted); };
+      password = [this](const PasswordRequest &asked) { return ask(asked); };
     return submitJob(
         request, documents, [this](const JobProgress &progress) { return take(progress); },
         password);
   }
 
-  /// The end is told of when the outcome is there.
+  /// Called once `outcome` is ready.
   void finish() {
     isDone = true;
     if (changed)
@@ -437,7 +439,7 @@ struct JobSubmission::Work {
 
 JobSubmission::JobSubmission(JobRequest request, JobDocuments documents, Changed changed)
     : work_(std::make_unique<Work>()) {
-  Work *const work = work_.get(); // outlives the thread, whose end the destructor awaits
+  Work *const work = work_.get(); // outlives the thread, which the destructor joins
   work->changed = std::move(changed);
   std::packaged_task<SubmittedJob()> task(
       [work, request = std::move(request), documents = std::move(documents)] {

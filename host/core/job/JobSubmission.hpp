@@ -1,6 +1,6 @@
-/// Hands a job to CUPS.
-#ifndef IMAGEPOSITION_HOST_JOBSUBMISSION_HPP
-#define IMAGEPOSITION_HOST_JOBSUBMISSION_HPP
+/// Submits jobs to CUPS.
+#ifndef IMAGEPOSITION_CORE_JOB_JOBSUBMISSION_HPP
+#define IMAGEPOSITION_CORE_JOB_JOBSUBMISSION_HPP
 
 #include "ExitCode.hpp"
 #include "JobRequest.hpp"
@@ -16,21 +16,22 @@
 namespace imageposition {
 
 enum class JobProblem {
-  NoCups,         ///< None answers, or it went away.
-  NoAnswer,       ///< CUPS has a job, and did not answer in time.
-  QueueGone,      ///< No queue of that name.
-  RefusesJobs,    ///< The queue exists and takes none.
-  Authentication, ///< A password is wanted, or this user may not print there.
-  BadOption,      ///< CUPS does not take an option's value.
-  Document,       ///< The file cannot be read, or not all that it had.
-  Format,         ///< CUPS cannot print this kind of file.
-  Spool,          ///< The document is too large, the disk is full, or too many jobs wait.
+  NoCups,         ///< CUPS is not responding, or closed the connection.
+  NoAnswer,       ///< CUPS created the job, but did not respond in time.
+  QueueGone,      ///< There is no queue with that name.
+  RefusesJobs,    ///< The queue exists, but does not accept jobs.
+  Authentication, ///< CUPS requires a password, or the user may not print there.
+  BadOption,      ///< CUPS does not accept an option's value.
+  Document,       ///< The file cannot be read, or not completely.
+  Format,         ///< CUPS cannot print this type of file.
+  Spool,          ///< The document is too large, the disk is full, or there are too many jobs.
   Cancelled,      ///< By the progress callback or `cancel`.
   Other,
 };
 
-/// The message is a sentence with what to do. No job is left that would print; `ExitCode::Job`, but
-/// for a document that cannot be read (`Usage`) and a cancelled one (`Cancelled`).
+/// The message is a sentence that says what to do. No job is left that would print. The code is
+/// `ExitCode::Job`, except for a document that cannot be read (`Usage`) and a cancelled job
+/// (`Cancelled`).
 class SubmissionFailure : public Failure {
 public:
   SubmissionFailure(JobProblem problem, ExitCode code, const std::string &message)
@@ -46,49 +47,48 @@ struct JobProgress {
   std::optional<std::uint64_t> total; ///< Bytes; unknown for a pipe.
 };
 
-/// What is printed, at least one and in this order: the file of that path, or standard input for
-/// "-".
+/// The paths of the documents, at least one, in the order of printing; "-" for standard input.
 using JobDocuments = std::vector<std::string>;
 
 struct SubmittedJob {
   int id = 0;       ///< lp's "printer-id".
-  std::string note; ///< Why it does not print at once (stopped, held) and what to do; else empty.
+  std::string note; ///< Why it does not print yet (stopped, held), with what to do; or empty.
 };
 
-/// Called before each piece, after the last, and while CUPS or a pipe lets us wait; false cancels.
-/// Must not throw.
+/// Called before each chunk, after the last one, and while waiting for CUPS or a pipe. Returns
+/// false to cancel. Must not throw.
 using ProgressCallback = std::function<bool(const JobProgress &)>;
 
-/// Submits the job on the caller's thread and returns when CUPS has all of it. The documents are
-/// streamed in small pieces. Both callbacks are called on this thread; without a password callback
-/// nobody is asked. Throws a `SubmissionFailure`, or what `optionsToSend` throws.
+/// Submits the job, and returns when CUPS has received all of it. Streams the documents in chunks.
+/// Calls both callbacks on the calling thread. Without a password callback, a job that requires a
+/// password fails. Throws a `SubmissionFailure`, or what `optionsToSend` throws.
 SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
                        const ProgressCallback &progress = {},
                        const PasswordCallback &password = {});
 
-/// Submits a job on another thread. All calls on one thread; none waits but `result` and the
-/// destructor.
+/// Submits a job on a background thread. Call all methods on one thread. Only `result` and the
+/// destructor wait.
 class JobSubmission {
 public:
-  /// Called on the other thread when there is something new: bytes sent (a few times a second), a
-  /// question, the end.
+  /// Called on the background thread after each change: bytes sent (at most every 50 ms), a
+  /// password request, or the end.
   using Changed = std::function<void()>;
 
-  /// Starts at once. Without `changed` CUPS's question for a password has no answer. Throws a
-  /// `SubmissionFailure` where no thread can be had.
+  /// Starts at once. Without `changed`, a job that requires a password fails. Throws a
+  /// `SubmissionFailure` if no thread can be created.
   JobSubmission(JobRequest request, JobDocuments documents, Changed changed = {});
-  /// Cancels what is under way and waits until that has happened.
+  /// Cancels the submission, and waits for its end.
   ~JobSubmission();
   JobSubmission(const JobSubmission &) = delete;
   JobSubmission &operator=(const JobSubmission &) = delete;
 
   JobProgress progress() const;
-  /// Takes effect between two pieces; too late once all has been sent.
+  /// Takes effect before the next chunk; too late once everything has been sent.
   void cancel();
   bool isDone() const;
-  /// While CUPS waits for a password: what it asks. `answer` lets it go on.
+  /// The password request that is waiting for `answer`, if any.
   std::optional<PasswordRequest> question() const;
-  /// None gives up.
+  /// Pass nullopt to give up.
   void answer(std::optional<Credentials> credentials);
   /// Waits for the end; throws what `submitJob` threw.
   SubmittedJob result();

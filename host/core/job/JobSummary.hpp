@@ -1,6 +1,6 @@
-/// What the summary says about a job besides what the panels say.
-#ifndef IMAGEPOSITION_HOST_JOBSUMMARY_HPP
-#define IMAGEPOSITION_HOST_JOBSUMMARY_HPP
+/// The sections of a summary that do not come from panels.
+#ifndef IMAGEPOSITION_CORE_JOB_JOBSUMMARY_HPP
+#define IMAGEPOSITION_CORE_JOB_JOBSUMMARY_HPP
 
 #include "JobRequest.hpp"
 #include "PrinterDescription.hpp"
@@ -15,12 +15,12 @@ namespace imageposition {
 SummarySection jobSection(const std::string &printer, const std::vector<std::string> &documents,
                           const PrintSettingsStore &job);
 
-/// The printer's options by their texts, without those that panels announce.
+/// The printer's options by their display names, except those in `announced`, which panels show.
 SummarySection optionSection(PrinterDescription &printer, PrintSettingsStore &job,
                              const std::vector<std::string> &announced);
 
-/// Every option as CUPS gets it, by the names and in the order of the request. What no request can
-/// have is in words in its place.
+/// All options as sent to CUPS, with the names and in the order of the request. If the request is
+/// invalid, the section contains the reason instead.
 SummarySection sentSection(const JobRequest &request);
 
 } // namespace imageposition

@@ -1,6 +1,6 @@
-/// What is said about a job, its documents, its pages and its ticket.
-#ifndef IMAGEPOSITION_HOST_JOBTEXTS_HPP
-#define IMAGEPOSITION_HOST_JOBTEXTS_HPP
+/// Messages about a job, its documents, its pages and its ticket.
+#ifndef IMAGEPOSITION_CORE_JOB_JOBTEXTS_HPP
+#define IMAGEPOSITION_CORE_JOB_JOBTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,7 +8,7 @@
 
 namespace imageposition::messages {
 
-// The window.
+// A panel in the summary.
 extern const Text kNothingToSummarize;
 
 // Tickets.
@@ -41,13 +41,13 @@ std::string formatRefused(const std::string &name, const std::string &reason);
 std::string spoolRefuses(const std::string &reason);
 extern const Text kDocumentBrokenOff;
 std::string connectionLost(const std::string &server, const std::string &reason);
-/// Follows with what became of the job: `jobTakenBack` or `jobLeftBehind`.
+/// `jobTakenBack` or `jobLeftBehind` adds what became of the job.
 std::string noAnswerToJob(const std::string &server);
 std::string jobNotTaken(const std::string &queue, const std::string &reason);
 std::string noRoomToSend(const std::string &reason);
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job);
 std::string jobTakenBack(const std::string &message, const std::string &queue, int job);
-/// When CUPS had all of the job, and may have begun to print it.
+/// For a job that CUPS received completely and may have started to print.
 std::string jobCancelled(const std::string &queue, int job);
 extern const Text kStandardInput;
 std::string waitsForPrinter(const std::string &queue, const std::string &state);
@@ -61,7 +61,7 @@ extern const Text kPageZero;
 std::string pageTooLarge(const std::string &number);
 std::string pagesBackwards(int first, int last);
 
-// The same in the summary.
+// The summary.
 extern const Text kPrinterTitle;
 extern const Text kDocumentTitle;
 extern const Text kCopiesTitle;
@@ -71,9 +71,9 @@ extern const Text kOddPages;
 extern const Text kEvenPages;
 extern const Text kOptionsPane;
 extern const Text kJobSection;
-extern const Text kSentSection; ///< The summary's list of options as CUPS gets them.
+extern const Text kSentSection; ///< Heads the list of options as sent to CUPS.
 
-/// A summary's value that is not the printer's default.
+/// A value in the summary that differs from the printer's default, `usual`.
 std::string differingValue(const std::string &value, const std::string &usual);
 std::string andMore(const std::string &document, std::size_t others);
 

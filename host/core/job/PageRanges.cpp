@@ -13,7 +13,7 @@ namespace {
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Usage, message); }
 
-/// What keyboards of other scripts, and programs that improve typing, put in place of ASCII.
+/// Characters that other keyboard layouts and smart punctuation produce instead of ASCII.
 struct Substitute {
   const char *written;
   char meant;
@@ -47,9 +47,9 @@ std::string plainText(std::string_view text) {
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-class Reader {
+class Parser {
 public:
-  explicit Reader(std::string_view text) : rest_(text) {}
+  explicit Parser(std::string_view text) : rest_(text) {}
 
   std::vector<PageRange> ranges() {
     std::vector<PageRange> ranges;
@@ -128,7 +128,7 @@ std::vector<PageRange> normalized(std::vector<PageRange> ranges) {
             [](const PageRange &a, const PageRange &b) { return a.first < b.first; });
   std::vector<PageRange> merged;
   for (const PageRange &range : ranges) {
-    // The sum of a last page and one fits: only the end itself is the largest integer.
+    // Adding 1 cannot overflow: only `kToTheEnd` is the largest integer.
     if (!merged.empty() &&
         (merged.back().last == PageRange::kToTheEnd || range.first <= merged.back().last + 1))
       merged.back().last = std::max(merged.back().last, range.last);
@@ -153,7 +153,7 @@ std::string written(const std::vector<PageRange> &ranges, const char *separator)
 constexpr const char *kRangesName = "page-ranges";
 constexpr const char *kSetName = "page-set";
 
-/// CUPS's filters write the end as the largest integer.
+/// CUPS's filters write an open end as the largest integer.
 std::string withOpenEnds(std::string value) {
   static const std::string kEnd = std::to_string(PageRange::kToTheEnd);
   const std::size_t at = value.find("-" + kEnd);
@@ -167,7 +167,7 @@ std::string withOpenEnds(std::string value) {
 PageRanges PageRanges::parse(std::string_view text) {
   const std::string plain = plainText(text);
   PageRanges pages;
-  pages.ranges_ = normalized(Reader(plain).ranges());
+  pages.ranges_ = normalized(Parser(plain).ranges());
   return pages;
 }
 
@@ -181,7 +181,7 @@ PageChoice readPageChoice(const PrintSettingsStore &job) {
     try {
       choice.ranges = PageRanges::parse(withOpenEnds(ranges));
     } catch (const Failure &) {
-      choice.ranges.reset(); // CUPS, too, prints all pages then
+      choice.ranges.reset(); // CUPS prints all pages, too
     }
   }
   const char *const set = job.get(kSetName);

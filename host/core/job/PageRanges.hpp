@@ -1,6 +1,6 @@
-/// Which pages of a document are printed.
-#ifndef IMAGEPOSITION_HOST_PAGERANGES_HPP
-#define IMAGEPOSITION_HOST_PAGERANGES_HPP
+/// The selection of pages to print.
+#ifndef IMAGEPOSITION_CORE_JOB_PAGERANGES_HPP
+#define IMAGEPOSITION_CORE_JOB_PAGERANGES_HPP
 
 #include "PrintSettingsStore.hpp"
 
@@ -22,17 +22,17 @@ struct PageRange {
   }
 };
 
-/// Pages as people write them: "1-3, 7", "5-" to the end, "-4" from the start. Ascending, without
-/// overlaps; neighbours are one range.
+/// Page ranges as users write them: "1-3, 7", "5-" to the end, "-4" from the start. They are
+/// sorted; overlapping and adjacent ranges are merged.
 class PageRanges {
 public:
-  /// Throws a `Failure` with `ExitCode::Usage` that says what is wrong and gives an example.
+  /// Throws a `Failure` with `ExitCode::Usage` that describes the error and gives an example.
   static PageRanges parse(std::string_view text);
 
   const std::vector<PageRange> &ranges() const noexcept { return ranges_; }
-  /// For people, "1-3, 7, 9-".
+  /// For display: "1-3, 7, 9-".
   std::string text() const;
-  /// For CUPS's `page-ranges`, "1-3,7,9-".
+  /// For CUPS's `page-ranges`: "1-3,7,9-".
   std::string optionValue() const;
 
 private:
@@ -43,14 +43,14 @@ enum class PageSet { All, Odd, Even };
 
 /// A job's choice of pages.
 struct PageChoice {
-  std::optional<PageRanges> ranges; ///< All pages without.
-  PageSet set = PageSet::All;       ///< Of those in the ranges.
+  std::optional<PageRanges> ranges; ///< If not set, all pages.
+  PageSet set = PageSet::All;       ///< Which of the pages in `ranges`.
 };
 
-/// From the job's `page-ranges` and `page-set`; what cannot be understood counts as all pages.
+/// Reads the job's `page-ranges` and `page-set`. An invalid value counts as all pages.
 PageChoice readPageChoice(const PrintSettingsStore &job);
 
-/// Sets and removes the two. Locked entries stay.
+/// Sets or removes the two options. Does not change locked entries.
 void storePageChoice(const PageChoice &choice, PrintSettingsStore &job);
 
 } // namespace imageposition

@@ -1,6 +1,6 @@
-/// What panels say about a job, line by line.
-#ifndef IMAGEPOSITION_HOST_SUMMARY_HPP
-#define IMAGEPOSITION_HOST_SUMMARY_HPP
+/// A summary of a job's settings.
+#ifndef IMAGEPOSITION_CORE_JOB_SUMMARY_HPP
+#define IMAGEPOSITION_CORE_JOB_SUMMARY_HPP
 
 #include <string>
 #include <vector>
@@ -10,16 +10,16 @@ namespace imageposition {
 struct SummaryLine {
   std::string title;
   std::string value;
-  bool differs = false; ///< From what the printer does unless told otherwise.
+  bool differs = false; ///< From the printer's default.
 };
 
-/// One panel's part; without lines when the panel has nothing to say.
+/// The part of one panel; has no lines if the panel has nothing to show.
 struct SummarySection {
   std::string panelName;
   std::vector<SummaryLine> lines;
 };
 
-/// "Panel" as a heading and "  Title: value" below it, for each section.
+/// Formats each section as a heading "Panel" with lines "  Title: value" below it.
 std::string writeSummary(const std::vector<SummarySection> &sections);
 
 } // namespace imageposition

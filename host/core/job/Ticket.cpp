@@ -16,14 +16,14 @@ namespace imageposition {
 namespace {
 
 using Json = nlohmann::json;
-using OrderedJson = nlohmann::ordered_json; // looks through an object for each name
+using OrderedJson = nlohmann::ordered_json; // searches an object from the start for each name
 
 [[noreturn]] void refuse(const std::string &source, const std::string &reason) {
   throw Failure(ExitCode::Ticket, messages::ticketMalformed(source, reason));
 }
 
-/// What the library says, without its own number for it and without what it last read, which may
-/// be a password.
+/// The library's message without its error number, and without the string that it last read, which
+/// may be a password.
 std::string reasonIn(const Json::exception &error) {
   const std::string text = error.what();
   const std::size_t end = text.find("] ");
@@ -66,8 +66,8 @@ std::string valueText(const std::string &name, const Json &value, const std::str
 
 using Member = std::pair<std::string, const Json *>;
 
-/// In the order of CUPS's list, in which each new entry is the last: CUPS moves all that follow
-/// one.
+/// Sorts members as CUPS sorts its list, so each new entry is appended: inserting one moves all
+/// that follow it.
 std::vector<Member> inOrderOfCups(const Json &object) {
   std::vector<Member> members;
   for (const auto &[name, value] : object.items())
@@ -97,12 +97,12 @@ void readSettings(const Json &object, const std::string &source, PrintSettingsSt
   }
 }
 
-/// Finds names that stand twice in an object, of which the library would silently take the last.
+/// Refuses objects with a duplicate name, of which the library would silently use the last.
 class NameCheck {
 public:
   explicit NameCheck(const std::string &source) : source_(source) {}
 
-  void look(Json::parse_event_t event, const Json &value) {
+  void check(Json::parse_event_t event, const Json &value) {
     if (event == Json::parse_event_t::object_start)
       objects_.emplace_back();
     else if (event == Json::parse_event_t::object_end)
@@ -114,20 +114,20 @@ public:
 
 private:
   const std::string &source_;
-  std::vector<std::set<std::string>> objects_; // the names of those that are open
+  std::vector<std::set<std::string>> objects_; // the names in each open object
 };
 
 Json parsed(const std::string &json, const std::string &source) try {
-  NameCheck check(source);
+  NameCheck names(source);
   return Json::parse(json, [&](int, Json::parse_event_t event, Json &value) {
-    check.look(event, value);
+    names.check(event, value);
     return true;
   });
 } catch (const Json::exception &error) {
   refuse(source, messages::ticketNotJson(reasonIn(error)));
 }
 
-/// What `act` returns; what stands in the way of writing the file becomes a `Failure`.
+/// Returns the result of `act`. Converts a `FileTrouble` to a `Failure`.
 template <typename Act> auto writing(const std::string &path, Act &&act) {
   try {
     return act();
@@ -140,7 +140,7 @@ FileReplacement ticketFile(const std::string &path, const std::string &text, Rea
   return writing(path, [&] { return FileReplacement(path, text, readers); });
 }
 
-/// Nobody has named it, so that nothing of the user's may be lost by it.
+/// The user did not name this file, so it must not replace any of the user's own.
 FileReplacement optionFile(const std::string &ticketPath, const std::string &text,
                            Readers readers) {
   const std::string path = optionTextPath(ticketPath);
@@ -181,7 +181,7 @@ std::string writeTicketText(const Ticket &ticket) {
   if (!locked.empty())
     object["locked"] = locked;
   object["settings"] = std::move(settings);
-  // A printer's or file's name may be in any encoding; the settings are always UTF-8.
+  // Names of printers and files may have any encoding; the settings are always UTF-8.
   return object.dump(2, ' ', false, OrderedJson::error_handler_t::replace) + '\n';
 }
 
@@ -203,7 +203,7 @@ void writeTicket(const Ticket &ticket, const std::string &path, Readers readers)
   options.keepFormer();
   writing(optionTextPath(path), [&] { options.commit(); });
   try {
-    json.commit(); // last: it is what is read again
+    json.commit(); // last, because this is the file that is read again
   } catch (const FileTrouble &trouble) {
     std::string message = messages::fileUnwritable(path, trouble.what());
     if (!options.revert())

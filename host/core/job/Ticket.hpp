@@ -1,6 +1,6 @@
-/// A job's settings on disk.
-#ifndef IMAGEPOSITION_HOST_TICKET_HPP
-#define IMAGEPOSITION_HOST_TICKET_HPP
+/// Reads and writes tickets, which store a job's settings.
+#ifndef IMAGEPOSITION_CORE_JOB_TICKET_HPP
+#define IMAGEPOSITION_CORE_JOB_TICKET_HPP
 
 #include "FileReplacement.hpp"
 #include "PrintSettingsStore.hpp"
@@ -11,38 +11,38 @@
 
 namespace imageposition {
 
-/// What Print writes and the next dialog reads again. As JSON:
+/// What Print writes and the next dialog reads, as JSON:
 ///
 ///     { "printer": "...", "document": "...", "locked": ["name"], "settings": { "name": "value" } }
 ///
-/// "settings" alone is required, and no name stands twice; several documents are a list,
-/// "documents". Values are texts; a whole number is read as its text. "locked" names settings that
-/// panels may not change.
+/// Only "settings" is required, and no name may appear twice. Several documents are a list,
+/// "documents". Values are strings; whole numbers are converted to strings. "locked" names settings
+/// that panels must not change.
 struct Ticket {
-  std::string printer;                ///< For the reader's information.
-  std::vector<std::string> documents; ///< For the reader's information; may be empty.
+  std::string printer;                ///< For information only.
+  std::vector<std::string> documents; ///< For information only; may be empty.
   PrintSettingsStore settings;
 };
 
-/// Throws a `Failure` with `ExitCode::Ticket` that says what is wrong where; `source` is named
-/// there.
+/// Throws a `Failure` with `ExitCode::Ticket` that describes the error and names `source`.
 Ticket readTicketText(const std::string &json, const std::string &source);
 std::string writeTicketText(const Ticket &ticket);
 
-/// None when there is no such file. Throws a `Failure`.
+/// Returns nullopt if there is no such file. Throws a `Failure`.
 std::optional<Ticket> readTicket(const std::string &path);
 
-/// Writes the JSON to `path` and the "name=value" form beside it, both or neither. Both texts are
-/// on disk before the first file changes. The one beside it, which nobody named, only ever replaces
-/// its own former form. Throws a `Failure`; it names a file that is written and cannot be taken
-/// back.
+/// Writes the JSON to `path` and the "name=value" form beside it: both files or neither. Both are
+/// on disk before the first file is replaced. The file beside `path`, which the user did not name,
+/// only replaces one that this program wrote. Throws a `Failure`, which names a file that was
+/// written and could not be restored.
 void writeTicket(const Ticket &ticket, const std::string &path, Readers readers = Readers::Same);
 
-/// Throws the `Failure` of `writeTicket` for a place where nothing can be written. Changes nothing.
+/// Throws the same `Failure` as `writeTicket` if the ticket cannot be written there. Changes
+/// nothing.
 void checkTicketPlace(const std::string &path);
 
-/// Where the "name=value" form of a ticket stands: "job.options" for "job.json", and for a name
-/// without ".json" the name with ".options" after it.
+/// The path of a ticket's "name=value" form: "job.options" for "job.json". Appends ".options" to a
+/// name without ".json".
 std::string optionTextPath(const std::string &ticketPath);
 
 } // namespace imageposition

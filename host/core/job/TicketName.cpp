@@ -8,7 +8,7 @@ namespace imageposition {
 
 namespace {
 
-constexpr const char *kEnding = ".json";
+constexpr const char *kExtension = ".json";
 
 } // namespace
 
@@ -16,7 +16,7 @@ std::string suggestedTicket(const std::vector<std::string> &documents) {
   std::string name;
   if (!documents.empty() && documents.front() != "-")
     name = std::filesystem::path(documents.front()).stem().string();
-  return (name.empty() ? "job" : name) + kEnding;
+  return (name.empty() ? "job" : name) + kExtension;
 }
 
 std::string ticketPath(const std::string &typed, const std::string &home) {
@@ -25,7 +25,7 @@ std::string ticketPath(const std::string &typed, const std::string &home) {
     path = home + path.substr(1);
   if (path.empty() || path.back() == '/' || std::filesystem::path(path).has_extension())
     return path;
-  return path + kEnding;
+  return path + kExtension;
 }
 
 } // namespace imageposition

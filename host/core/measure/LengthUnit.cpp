@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 constexpr double kMillimetresPerInch = 25.4;
-constexpr double kLargestWithDecimals = 1e15; // beyond it neighbouring numbers are whole
+constexpr double kLargestWithDecimals = 1e15; // larger doubles have no reliable decimals
 
 double pointsPer(LengthUnit unit) {
   switch (unit) {
@@ -28,7 +28,7 @@ double pointsPer(LengthUnit unit) {
   return 1;
 }
 
-/// A unit that CUPS knows, in one that people are offered.
+/// A unit that CUPS accepts, as a multiple of one in the user interface.
 struct NamedUnit {
   const char *name;
   LengthUnit unit;
@@ -56,7 +56,7 @@ std::optional<double> readNumber(const std::string &text) {
   const std::size_t comma = plain.find(',');
   if (comma != std::string::npos)
     plain[comma] = '.';
-  // Digits alone: neither "nan" nor "0x10", which the library would take.
+  // The library would also accept "nan" and "0x10".
   if (plain.empty() || plain.find_first_not_of("+-.0123456789") != std::string::npos)
     return std::nullopt;
   if (plain.front() == '+' && plain.find_first_of("+-", 1) == std::string::npos)

@@ -1,6 +1,6 @@
-/// Lengths as people enter them and as CUPS's option values carry them: a number with a unit.
-#ifndef IMAGEPOSITION_HOST_LENGTHUNIT_HPP
-#define IMAGEPOSITION_HOST_LENGTHUNIT_HPP
+/// Lengths with a unit, as users enter them and as CUPS's options contain them.
+#ifndef IMAGEPOSITION_CORE_MEASURE_LENGTHUNIT_HPP
+#define IMAGEPOSITION_CORE_MEASURE_LENGTHUNIT_HPP
 
 #include "Units.hpp"
 
@@ -10,7 +10,7 @@
 
 namespace imageposition {
 
-/// In the order in which a person is offered them.
+/// In the order of the user interface.
 enum class LengthUnit { Millimetre, Inch, Point };
 
 struct Length {
@@ -20,38 +20,39 @@ struct Length {
 
 Point toPoints(Length length) noexcept;
 
-/// Exact but for floating point; nothing is rounded.
+/// Does not round.
 Length convert(Length length, LengthUnit unit) noexcept;
 
-/// "100mm", "4.5in", "30", as CUPS reads them in any language: without a unit it is points. Also
-/// "cm", "m" and "ft", which become millimetres and inches. None unless the whole text is one.
+/// Parses "100mm", "4.5in" or "30", as CUPS does in any language. A number without a unit is in
+/// `otherwise`. Converts "cm" and "m" to millimetres, and "ft" to inches. Returns nullopt unless
+/// the whole string is a length.
 std::optional<Length> readLength(const std::string &text, LengthUnit otherwise = LengthUnit::Point);
 
-/// As `readLength` reads it back, with the decimals that `decimalsOf` the unit gives.
+/// Formats a length for `readLength`, with up to `decimalsOf` decimals.
 std::string writeLength(Length length);
 
-/// What CUPS writes behind the number; nothing for points.
+/// The unit as CUPS writes it after the number; empty for points.
 std::string unitSuffix(LengthUnit unit);
 
-/// 2 for millimetres and points, 3 for inches: finer than any printer is.
+/// 2 for millimetres and points, 3 for inches: more precise than any printer.
 int decimalsOf(LengthUnit unit) noexcept;
 
-/// The number as CUPS reads it, rounded to so many decimals, half away from zero, without zeros at
-/// its end.
+/// Formats a number for CUPS, rounded half away from zero to `decimals` decimals, without trailing
+/// zeros.
 std::string plainNumber(double number, int decimals);
 
-/// A number in the way of either this language or CUPS: "2.5" and "2,5". None unless the whole text
-/// is one that is finite.
+/// Parses a number with a decimal point or a decimal comma: "2.5" or "2,5". Returns nullopt unless
+/// the whole string is a finite number.
 std::optional<double> readNumber(const std::string &text);
 
-/// A number of CUPS's with the decimal sign of the person's language.
+/// Converts a number in CUPS's format to the decimal separator of the user's language.
 std::string numberInWords(const std::string &plain);
 
-/// "mm", "in", "pt", as people read them behind a number.
+/// Appends the translated "mm", "in" or "pt" to a number.
 std::string inUnit(const std::string &number, LengthUnit unit);
 
-/// Inches where the locale's country uses them, else millimetres. `environment` is `getenv`, or a
-/// test's.
+/// Inches if the locale's country uses them, otherwise millimetres. `environment` works like
+/// `getenv`.
 LengthUnit usualUnit(const std::function<const char *(const char *)> &environment);
 
 } // namespace imageposition

@@ -1,6 +1,6 @@
-/// How lengths are written.
-#ifndef IMAGEPOSITION_HOST_MEASURETEXTS_HPP
-#define IMAGEPOSITION_HOST_MEASURETEXTS_HPP
+/// Lengths with their unit, for display.
+#ifndef IMAGEPOSITION_CORE_MEASURE_MEASURETEXTS_HPP
+#define IMAGEPOSITION_CORE_MEASURE_MEASURETEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,10 +8,8 @@
 
 namespace imageposition::messages {
 
-// Values of a person's own. `name` is the parameter's, `range` what may be entered.
 std::string inInches(const std::string &number);
 std::string inPoints(const std::string &number);
-
 std::string inMillimetres(const std::string &number);
 
 } // namespace imageposition::messages

@@ -1,14 +1,14 @@
-/// Lengths on a page. A unit is a type, so that two are never mixed up.
-#ifndef IMAGEPOSITION_HOST_UNITS_HPP
-#define IMAGEPOSITION_HOST_UNITS_HPP
+/// Lengths on a page. Each unit is a type, which prevents mixing them up.
+#ifndef IMAGEPOSITION_CORE_MEASURE_UNITS_HPP
+#define IMAGEPOSITION_CORE_MEASURE_UNITS_HPP
 
 #include <cstdint>
 #include <string>
 
 namespace imageposition {
 
-/// Tenths of a millimetre: the unit of a job's offsets. Wide enough that the sum and the difference
-/// of any two offsets fit.
+/// Tenths of a millimetre: the unit of a job's offsets. The type can hold the sum and the
+/// difference of any two offsets.
 struct TenthMillimetre {
   std::int64_t count = 0;
 };
@@ -24,13 +24,13 @@ constexpr Point toPoints(TenthMillimetre length) noexcept {
   return {static_cast<double>(length.count) / kTenthMillimetresPerPoint};
 }
 
-/// The nearest whole tenth, halves away from zero. Lengths up to 10^15 points.
+/// Rounds to the nearest tenth, halves away from zero. For lengths up to 10^15 points.
 TenthMillimetre toTenthMillimetres(Point length) noexcept;
 
-/// "2.5", "-0.1", "10": millimetres, for people, with a decimal only where there is one.
+/// Millimetres for display, with a decimal only if it is not zero: "2.5", "-0.1", "10".
 std::string numberText(TenthMillimetre length);
 
-/// The same with its unit, "2.5 mm".
+/// The same with the unit: "2.5 mm".
 std::string lengthText(TenthMillimetre length);
 
 constexpr TenthMillimetre operator+(TenthMillimetre a, TenthMillimetre b) noexcept {

@@ -11,7 +11,7 @@
 #include <libintl.h>
 #include <system_error>
 
-/// The library's own count of changes, by which it forgets what it has found.
+/// gettext's change counter. Incrementing it discards cached translations.
 extern "C" int _nl_msg_cat_cntr; // NOLINT(readability-identifier-naming)
 
 namespace imageposition {
@@ -24,9 +24,9 @@ namespace {
 
 const char *const kEnglish = "en";
 
-/// The platform's old names of languages.
+/// GNUstep's traditional names of languages.
 struct Name {
-  const char *platform;
+  const char *gnustep;
   const char *catalogue;
 };
 const Name kNames[] = {
@@ -87,7 +87,7 @@ std::string catalogueName(const std::string &language) {
   std::string name = language.substr(0, language.find_first_of(".@"));
   std::replace(name.begin(), name.end(), '_', '-');
   for (const Name &known : kNames)
-    if (name == known.platform)
+    if (name == known.gnustep)
       return known.catalogue;
   std::string base = name.substr(0, name.find('-'));
   if (base != "zh")
@@ -126,7 +126,7 @@ std::string chosenLanguage(const std::vector<std::string> &wanted, const std::st
 
 void speak(const std::string &language, const std::string &folder) {
   setVariable("LANGUAGE", language);
-  // CUPS goes by the program's locale unless that is "C", and then by this variable first.
+  // In the "C" locale, CUPS reads this variable first.
   std::setlocale(LC_MESSAGES, "C");
   setVariable("LC_MESSAGES", language);
   bindtextdomain(kTextDomain, folder.c_str());
@@ -138,7 +138,7 @@ std::string catalogueFolder() {
   for (const char *name : {"locale", IMAGEPOSITION_LOCALES_FROM_PROGRAM}) {
     std::error_code ignored;
     std::string folder = besideProgram(name);
-    // gettext trusts what it reads, and the user what the dialog says.
+    // gettext does not validate catalogues, and the user trusts what the dialog says.
     if (!folder.empty() && fs::is_directory(folder, ignored) &&
         !untrustedPlace(folder, TrustedPeople::here()))
       return folder;

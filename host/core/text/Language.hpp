@@ -1,6 +1,6 @@
-/// Which language the program speaks.
-#ifndef IMAGEPOSITION_HOST_LANGUAGE_HPP
-#define IMAGEPOSITION_HOST_LANGUAGE_HPP
+/// Selects the language of the user interface.
+#ifndef IMAGEPOSITION_CORE_TEXT_LANGUAGE_HPP
+#define IMAGEPOSITION_CORE_TEXT_LANGUAGE_HPP
 
 #include <functional>
 #include <string>
@@ -8,31 +8,35 @@
 
 namespace imageposition {
 
-/// The catalogues' name.
+/// The gettext domain.
 extern const char *const kTextDomain;
 
+/// Looks up an environment variable, as `getenv` does.
 using Variables = std::function<const char *(const char *name)>;
 
-/// What the environment asks for, the best first, as catalogues are named: "de", "zh_CN". LANGUAGE
-/// comes before LC_ALL, LC_MESSAGES and LANG, unless these say "C": that is a wish for English.
+/// Returns the languages that the environment requests, the preferred one first, as catalogue
+/// names: "de", "zh_CN". LANGUAGE takes precedence over LC_ALL, LC_MESSAGES and LANG, unless these
+/// are "C", which means English.
 std::vector<std::string> wantedLanguages(const Variables &variables);
 
-/// The name of a language as catalogues are named, from the platform's ("Japanese", "zh-Hans") or a
-/// locale's ("de_DE.UTF-8"). Of the variants of a language only those of Chinese are kept.
+/// Converts GNUstep's name of a language ("Japanese", "zh-Hans") or a locale ("de_DE.UTF-8") to the
+/// name of a catalogue. Keeps regional variants only for Chinese.
 std::string catalogueName(const std::string &language);
 
-/// The name of a catalogue's language as the platform's bundles are named.
+/// Converts the name of a catalogue to the name of a bundle's .lproj folder.
 std::string bundleName(const std::string &language);
 
-/// The first of `wanted` that there is a catalogue for in `folder`, English without one included;
-/// the first at all when there is none.
+/// Returns the first of `wanted` that has a catalogue in `folder`; English needs none. Without a
+/// match, returns the first of `wanted`, or English if it is empty.
 std::string chosenLanguage(const std::vector<std::string> &wanted, const std::string &folder);
 
-/// Has texts looked up in `language` from now on, in this folder's catalogues, and CUPS's own texts
-/// and those of printer descriptions too. Sets environment variables: before other threads start.
+/// Translates strings to `language` from now on, with the catalogues in `folder`. Also sets the
+/// language of CUPS's messages and of printer descriptions. Sets environment variables, so it must
+/// be called before other threads start.
 void speak(const std::string &language, const std::string &folder);
 
-/// Where this program's catalogues are: beside it, or where they are installed with it.
+/// Returns the folder of the program's catalogues: relative to the program if there is one that can
+/// be trusted, otherwise where they are installed.
 std::string catalogueFolder();
 
 } // namespace imageposition

@@ -9,8 +9,8 @@ namespace imageposition {
 
 namespace {
 
-/// Bytes of the character that begins there; 0 where no key can be: at the end, at a blank, at
-/// another ampersand or other ASCII punctuation, and at bytes that are no UTF-8.
+/// Length in bytes of the first character if it can be a key; otherwise 0: at the end, and for
+/// blanks, ASCII punctuation and invalid UTF-8.
 std::size_t keyLength(std::string_view text) {
   const std::size_t length = firstCharacterLength(text);
   if (length != 1)
@@ -32,7 +32,7 @@ MnemonicText readMnemonic(std::string_view marked) {
     }
     marked.remove_prefix(1);
     const std::size_t length = keyLength(marked);
-    if (length == 0) { // of two ampersands the second is passed over
+    if (length == 0) { // skip the second of two ampersands
       mnemonic.text += '&';
       marked.remove_prefix(!marked.empty() && marked.front() == '&' ? 1 : 0);
     } else if (mnemonic.key.empty()) {

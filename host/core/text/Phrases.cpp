@@ -28,7 +28,7 @@ std::string inOrder(const std::string &first, const std::string &second) {
 std::string inOrder(const std::vector<std::string> &parts) {
   if (parts.size() < 2)
     return parts.empty() ? "" : parts.front();
-  // Half by half: one by one each would be copied as often as others follow.
+  // Joining halves avoids quadratic copying.
   const auto middle = parts.begin() + static_cast<std::ptrdiff_t>(parts.size() / 2);
   return inOrder(inOrder({parts.begin(), middle}), inOrder({middle, parts.end()}));
 }

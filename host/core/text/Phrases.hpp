@@ -1,6 +1,6 @@
-/// Phrases that several rooms build their sentences from.
-#ifndef IMAGEPOSITION_HOST_PHRASES_HPP
-#define IMAGEPOSITION_HOST_PHRASES_HPP
+/// Phrases and formats that several rooms use.
+#ifndef IMAGEPOSITION_CORE_TEXT_PHRASES_HPP
+#define IMAGEPOSITION_CORE_TEXT_PHRASES_HPP
 
 #include "Text.hpp"
 
@@ -9,18 +9,18 @@
 
 namespace imageposition::messages {
 
-/// A library's reason, to follow a clause in parentheses: with the space before them, and without
-/// its own full stop. Nothing for nothing.
+/// " (reason)", to follow a clause. Removes the full stop of a library's message. Empty for an
+/// empty reason.
 std::string because(std::string reason);
 
-// The window.
+/// A line of the job's summary, "title: value".
 std::string summaryLine(const std::string &title, const std::string &value);
 
-/// Of a value that a panel does not take as it is.
+/// For a value that a panel changed.
 std::string valueAdjusted(const std::string &name, const std::string &given,
                           const std::string &made);
 
-// Before a message that ends the program.
+/// Prefix of messages on standard error.
 extern const char *const kProgram;
 /// The user cancelled, before or while the job was sent.
 extern const Text kCancelled;
@@ -34,13 +34,12 @@ std::string inOrder(const std::vector<std::string> &parts);
 /// "name: value", for one of several values.
 std::string named(const std::string &name, const std::string &value);
 
-/// Sentences after each other, without the empty ones.
+/// Joins sentences, skipping empty ones.
 std::string sentences(const std::vector<std::string> &parts);
-/// "2.5" of "2" and "5".
+/// "2.5" for "2" and "5".
 std::string decimalNumber(const std::string &whole, const std::string &tenths);
 
-// The same in the summary.
-/// A title with what it has before a control or a value: "Paper:".
+/// The label of a control or value: "Paper:".
 std::string asLabel(const std::string &title);
 
 } // namespace imageposition::messages

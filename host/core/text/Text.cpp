@@ -11,9 +11,10 @@ namespace imageposition {
 
 namespace {
 
-/// While it lives, this thread's texts are looked up. The library takes the "C" locale for a wish
-/// to have English; "C.UTF-8" is the other locale that is always there. The rest of the program
-/// stays in "C", so that CUPS goes by the environment and numbers in files have a point.
+/// Enables translation on this thread during its lifetime. gettext does not translate in the "C"
+/// locale; "C.UTF-8" is the only other locale that always exists. The rest of the program stays in
+/// "C": CUPS then reads its language from the environment, and numbers in files have a decimal
+/// point.
 class Lookup {
 public:
   Lookup() : before_(locale() != nullptr ? uselocale(locale()) : nullptr) {}
@@ -55,11 +56,11 @@ std::string fill(std::string_view pattern, const std::vector<std::string> &value
 
 std::string_view Text::view() const {
   if (*english_ == '\0')
-    return {}; // which is how catalogues call their description
+    return {}; // for which gettext would return the catalogue's header
   const Lookup lookup;
   if (context_ == nullptr)
     return dgettext(kTextDomain, english_);
-  // As catalogues keep a text with its context.
+  // The key of a string with a context in a catalogue.
   const std::string key = std::string(context_) + '\004' + english_;
   const char *const found = dgettext(kTextDomain, key.c_str());
   return found == key.c_str() ? english_ : found;

@@ -1,11 +1,11 @@
-/// Texts for people, in the language of whoever runs the program.
+/// User-visible strings, translated to the user's language.
 ///
-/// A text is written in English where it belongs, by `text`, `textIn` or `counted`; the catalogues
-/// in host/po have it in other languages, and `tools/update-catalogues` finds it by these words.
-/// What differs from time to time is "{1}" to "{9}" in it, so that each language can order it as it
-/// needs to. A translation is only ever looked at for these marks, and is no `printf` format.
-#ifndef IMAGEPOSITION_HOST_TEXT_HPP
-#define IMAGEPOSITION_HOST_TEXT_HPP
+/// The sources contain the English strings, in calls of `text`, `textIn` or `counted`, which
+/// `tools/update-catalogues` extracts. The catalogues in host/core/text/po contain the
+/// translations. The placeholders "{1}" to "{9}" let each language choose the word order. A
+/// translation is never used as a `printf` format.
+#ifndef IMAGEPOSITION_CORE_TEXT_TEXT_HPP
+#define IMAGEPOSITION_CORE_TEXT_TEXT_HPP
 
 #include <string>
 #include <string_view>
@@ -13,25 +13,25 @@
 
 namespace imageposition {
 
-/// `pattern` with each "{1}" as the first value, "{2}" as the second, and so on. A mark without a
-/// value stays as it is; marks in a value are not looked at. A value is
-/// written as `visible` does: names that others chose stay within their place and line.
+/// Replaces "{1}" in `pattern` with the first value, "{2}" with the second, and so on. Leaves
+/// placeholders without a value as they are, and does not expand placeholders in values. Escapes
+/// values with `visible`, so that a name cannot start a new line or control the terminal.
 std::string fill(std::string_view pattern, const std::vector<std::string> &values);
 
-/// One text. It is looked up when it is used, and so can be a constant of a file.
+/// A translatable string. It is translated when it is used, so it can be a global constant.
 class Text {
 public:
   constexpr Text(const char *context, const char *english) : context_(context), english_(english) {}
 
-  /// In the chosen language, to the end of the program.
+  /// The translation, valid until the program ends.
   std::string_view view() const;
   std::string str() const { return std::string(view()); }
-  // NOLINTBEGIN(google-explicit-constructor): a constant stands where its text is wanted.
+  // NOLINTBEGIN(google-explicit-constructor): constants convert to strings.
   operator std::string_view() const { return view(); }
   operator std::string() const { return str(); }
   // NOLINTEND(google-explicit-constructor)
 
-  /// With its marks filled in; numbers are written by `std::to_string`.
+  /// The translation with its placeholders filled in. Numbers are formatted by `std::to_string`.
   template <typename... Values> std::string with(const Values &...values) const {
     return fill(view(), {written(values)...});
   }
@@ -46,15 +46,15 @@ private:
 
 constexpr Text text(const char *english) { return {nullptr, english}; }
 
-/// For an English text that other languages have several words for: `context` tells them apart.
+/// For an English string that has several translations; `context` tells them apart.
 constexpr Text textIn(const char *context, const char *english) { return {context, english}; }
 
-/// The text that goes with a number, which is its "{1}"; `more` are the following marks. English
-/// has two such texts, other languages have one or more.
+/// The plural form for `number`, which replaces "{1}"; `more` replaces the following placeholders.
+/// `one` and `several` are the English forms. Other languages have one or more.
 std::string counted(long number, const char *one, const char *several,
                     const std::vector<std::string> &more = {});
 
-/// The system's own words for an `errno` value.
+/// The system's message for an `errno` value, translated.
 std::string systemReason(int error);
 
 } // namespace imageposition

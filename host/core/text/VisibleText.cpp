@@ -13,7 +13,7 @@ bool isBetween(char16_t unit, char16_t first, char16_t last) {
   return unit >= first && unit <= last;
 }
 
-bool steersTerminal(char16_t unit) {
+bool controlsTerminal(char16_t unit) {
   return unit < u' ' || isBetween(unit, 0x7F, 0x9F) || // C0, DEL and C1
          isBetween(unit, 0x2028, 0x202E) ||            // separators, embeddings and overrides
          isBetween(unit, 0x2066, 0x2069);              // isolates
@@ -39,7 +39,7 @@ std::u16string escapeFor(char16_t unit) {
 std::string visible(std::string_view text) {
   std::u16string shown;
   for (const char16_t unit : utf16FromUtf8(text)) {
-    if (steersTerminal(unit))
+    if (controlsTerminal(unit))
       shown += escapeFor(unit);
     else
       shown += unit;

@@ -1,6 +1,6 @@
-/// Text that a terminal shows and does not obey.
-#ifndef IMAGEPOSITION_HOST_VISIBLETEXT_HPP
-#define IMAGEPOSITION_HOST_VISIBLETEXT_HPP
+/// Escapes strings that could control a terminal.
+#ifndef IMAGEPOSITION_CORE_TEXT_VISIBLETEXT_HPP
+#define IMAGEPOSITION_CORE_TEXT_VISIBLETEXT_HPP
 
 #include <ostream>
 #include <streambuf>
@@ -9,13 +9,13 @@
 
 namespace imageposition {
 
-/// The text on one line, with the characters that steer a terminal as escapes: "\n", "\x1b",
-/// "\x9b", "\u202e". These are C0 and C1 controls, line separators, and what turns the direction of
-/// the text after it. Bytes that are no UTF-8 become U+FFFD. Meant for names that others chose:
-/// printers', files', servers'.
+/// Returns the string on one line, with every character that could control a terminal as an escape:
+/// "\n", "\x1b", "\x9b", "\u202e". These are the C0 and C1 controls, line separators, and
+/// characters that change the direction of text. Invalid UTF-8 becomes U+FFFD. For names from
+/// elsewhere: of printers, files and servers.
 std::string visible(std::string_view text);
 
-/// While it lives, a stream writes what it is given as `visible` does, but for the ends of lines.
+/// Escapes all output of a stream as `visible` does, except newlines, during its lifetime.
 class VisibleStream : private std::streambuf {
 public:
   explicit VisibleStream(std::ostream &stream);

@@ -25,13 +25,13 @@ Surroundings withTextScale(const std::string &text) {
 
 } // namespace
 
-TEST(Appearance, IsLightWhereNothingSaysOtherwise) {
+TEST(Appearance, IsLightByDefault) {
   EXPECT_EQ(chosenAppearance({}), Appearance::Light);
   EXPECT_EQ(chosenAppearance(withGtkSettings("[Settings]\ngtk-theme-name=Adwaita\n")),
             Appearance::Light);
 }
 
-TEST(Appearance, FollowsGtksSettings) {
+TEST(Appearance, FollowsTheSettingsOfGtk) {
   EXPECT_EQ(
       chosenAppearance(withGtkSettings("[Settings]\ngtk-application-prefer-dark-theme = true\n")),
       Appearance::Dark);
@@ -43,13 +43,13 @@ TEST(Appearance, FollowsGtksSettings) {
             Appearance::Dark);
 }
 
-TEST(Appearance, FollowsKdesColourScheme) {
+TEST(Appearance, FollowsTheColourSchemeOfKde) {
   Surroundings surroundings;
   surroundings.kdeGlobals = "[General]\nColorScheme=BreezeDark\n";
   EXPECT_EQ(chosenAppearance(surroundings), Appearance::Dark);
 }
 
-TEST(Appearance, TheEnvironmentIsStrongerThanTheFiles) {
+TEST(Appearance, TheEnvironmentOverridesTheSettingsFiles) {
   Surroundings surroundings = withGtkSettings("gtk-application-prefer-dark-theme=1\n");
   surroundings.gtkTheme = "Adwaita";
   EXPECT_EQ(chosenAppearance(surroundings), Appearance::Light);
@@ -69,14 +69,14 @@ TEST(Appearance, TheSettingsFilesAreReadFromTheConfigurationFolder) {
   unsetenv("XDG_CONFIG_HOME");
 }
 
-TEST(TextScale, IsOneUnlessANumberSaysOtherwise) {
+TEST(TextScale, IsOneUnlessSetToAPositiveNumber) {
   EXPECT_EQ(chosenTextScale({}), 1);
   EXPECT_EQ(chosenTextScale(withTextScale("1.5")), 1.5);
   for (const char *text : {"", "large", "0", "-2", "nan"})
     EXPECT_EQ(chosenTextScale(withTextScale(text)), 1) << text;
 }
 
-TEST(TextScale, StaysWithinWhatAScreenCanShow) {
+TEST(TextScale, IsClampedToTheSupportedRange) {
   EXPECT_EQ(chosenTextScale(withTextScale("100")), 3);
   EXPECT_EQ(chosenTextScale(withTextScale("0.1")), 0.75);
 }

@@ -29,7 +29,7 @@ TEST(QueueName, HasASlashOnlyBeforeAnInstance) {
   EXPECT_EQ((QueueName{"office", "draft"}.text()), "office/draft");
 }
 
-TEST(QueueName, MatchesWithoutRegardToCaseInBothParts) {
+TEST(QueueName, IgnoresCaseInBothParts) {
   const QueueName name{"office", "draft"};
   EXPECT_TRUE(name == (QueueName{"OFFICE", "Draft"}));
   EXPECT_FALSE(name != (QueueName{"OFFICE", "Draft"}));

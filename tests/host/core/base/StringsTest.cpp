@@ -17,7 +17,7 @@ TEST(Strings, StartAndEndAreComparedExactly) {
   EXPECT_FALSE(endsWith("json", ".json"));
 }
 
-TEST(Strings, BlanksAroundAreTrimmed) {
+TEST(Strings, BlanksAreTrimmedFromBothEnds) {
   for (const char *string : {"a b", " a b", "a b\t", "\t a b \t"})
     EXPECT_EQ(trimmed(string, " \t"), "a b") << string;
   EXPECT_EQ(trimmed("\na", " \t"), "\na");

@@ -38,7 +38,7 @@ protected:
   }
 };
 
-TEST_F(PrinterList, TellsWhereAPrinterStandsAndHowItIs) {
+TEST_F(PrinterList, HasTheLocationAndStateOfAPrinter) {
   const Destination printer = office();
   EXPECT_EQ(printer.fullName(), "office");
   EXPECT_EQ(printer.description, "Big one");
@@ -49,7 +49,7 @@ TEST_F(PrinterList, TellsWhereAPrinterStandsAndHowItIs) {
   EXPECT_TRUE(printer.acceptsJobs);
 }
 
-TEST_F(PrinterList, HasJobOptionsAmongTheDefaultsAndNothingAboutThePrinter) {
+TEST_F(PrinterList, HasDefaultJobOptionsWithoutAttributesOfThePrinter) {
   command({"lpadmin", "-p", "office", "-o", "number-up-default=2"});
   const Destination printer = office();
   EXPECT_STREQ(printer.defaults.get("number-up"), "2");
@@ -59,7 +59,7 @@ TEST_F(PrinterList, HasJobOptionsAmongTheDefaultsAndNothingAboutThePrinter) {
         AllOf(Not(StartsWith("printer-")), Not(StartsWith("marker-")), Not(StartsWith("device-"))));
 }
 
-TEST_F(PrinterList, SaysInWordsThatAPrinterIsStoppedAndTakesNoJobs) {
+TEST_F(PrinterList, DescribesAPrinterThatIsStoppedAndRefusesJobs) {
   command({"cupsdisable", "office"});
   EXPECT_EQ(office().state, DestinationState::Stopped);
   EXPECT_EQ(office().stateText, "Stopped: paused");
@@ -68,7 +68,7 @@ TEST_F(PrinterList, SaysInWordsThatAPrinterIsStoppedAndTakesNoJobs) {
   EXPECT_EQ(office().stateText, "Stopped: paused; takes no jobs");
 }
 
-TEST_F(PrinterList, HasInstancesAfterTheirQueueWithDefaultsOfTheirOwn) {
+TEST_F(PrinterList, ListsInstancesAfterTheirQueueWithSeparateDefaults) {
   command({"lpoptions", "-p", "office/single", "-o", "Duplex=None"});
   const DestinationList list = readDestinations();
   command({"lpoptions", "-x", "office/single"});
@@ -81,7 +81,7 @@ TEST_F(PrinterList, HasInstancesAfterTheirQueueWithDefaultsOfTheirOwn) {
   EXPECT_NE(list.find("OFFICE/Single"), nullptr);
 }
 
-TEST_F(PrinterList, KnowsTheDefault) {
+TEST_F(PrinterList, MarksTheDefaultPrinter) {
   addQueue("attic");
   command({"lpadmin", "-d", "office"});
   const DestinationList list = readDestinations();
@@ -91,14 +91,14 @@ TEST_F(PrinterList, KnowsTheDefault) {
   EXPECT_FALSE(list.find("attic")->isDefault);
 }
 
-TEST_F(PrinterList, WithoutPrintersSaysWhatToDo) {
+TEST_F(PrinterList, SaysWhatToDoIfThereAreNoPrinters) {
   command({"lpadmin", "-x", "office"});
   const DestinationList list = readDestinations();
   EXPECT_TRUE(list.destinations.empty());
   EXPECT_THAT(list.reason, HasSubstr("CUPS has no printers"));
 }
 
-TEST_F(PrinterList, WithoutCupsIsEmptyAndSaysWhatToDo) {
+TEST_F(PrinterList, IsEmptyAndSaysWhatToDoWithoutCups) {
   cups().stop();
   const DestinationList list = readDestinations();
   EXPECT_TRUE(list.destinations.empty());
@@ -106,7 +106,7 @@ TEST_F(PrinterList, WithoutCupsIsEmptyAndSaysWhatToDo) {
                                  HasSubstr("ticket")));
 }
 
-TEST_F(PrinterList, GivesUpOnACupsThatStandsStill) {
+TEST_F(PrinterList, GivesUpIfCupsHangs) {
   cups().send(SIGSTOP);
   const auto start = std::chrono::steady_clock::now();
   const DestinationList list = readDestinations(std::chrono::milliseconds(300));
@@ -129,7 +129,7 @@ TEST_F(PrinterList, RefreshesWithoutWaiting) {
   EXPECT_FALSE(printers.isRefreshing());
 }
 
-TEST_F(PrinterList, TellsWhetherSomethingIsNew) {
+TEST_F(PrinterList, ReportsWhetherItChanged) {
   Destinations printers;
   printers.refresh();
   ASSERT_TRUE(comesTrue([&] { return printers.takeAnswer(); }));
@@ -146,7 +146,7 @@ TEST_F(PrinterList, TellsWhetherSomethingIsNew) {
   EXPECT_EQ(printers.list().find("office")->stateText, "Stopped: paused");
 }
 
-TEST_F(PrinterList, SignalsAnAnswerOnceItCanBeTaken) {
+TEST_F(PrinterList, CallsBackOnceTheResponseCanBeTaken) {
   Destinations printers;
   std::promise<void> answered;
   printers.refresh([&] { answered.set_value(); });
@@ -155,7 +155,7 @@ TEST_F(PrinterList, SignalsAnAnswerOnceItCanBeTaken) {
   EXPECT_NE(printers.list().find("office"), nullptr);
 }
 
-TEST_F(PrinterList, SignalsAnAnswerEvenAfterNobodyWantsIt) {
+TEST_F(PrinterList, CallsBackEvenAfterTheListIsDestroyed) {
   cups().send(SIGSTOP);
   auto answered = std::make_shared<std::promise<void>>();
   {
@@ -166,7 +166,7 @@ TEST_F(PrinterList, SignalsAnAnswerEvenAfterNobodyWantsIt) {
   EXPECT_EQ(answered->get_future().wait_for(std::chrono::seconds(30)), std::future_status::ready);
 }
 
-TEST_F(PrinterList, LetsGoOfAnOpenQuestion) {
+TEST_F(PrinterList, CanBeDestroyedDuringAQuery) {
   cups().send(SIGSTOP);
   const auto start = std::chrono::steady_clock::now();
   {
@@ -176,7 +176,7 @@ TEST_F(PrinterList, LetsGoOfAnOpenQuestion) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
 }
 
-TEST_F(PrinterList, IsAskedForAgainOnceAThreadCanBeHad) {
+TEST_F(PrinterList, QueriesCupsAgainOnceAThreadCanBeCreated) {
   const auto hasAnswered = [] {
     Destinations printers;
     forbidThreads();
@@ -188,7 +188,7 @@ TEST_F(PrinterList, IsAskedForAgainOnceAThreadCanBeHad) {
   EXPECT_EXIT(std::_Exit(hasAnswered() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
-TEST(StateReasons, AreWords) {
+TEST(StateReasons, AreTranslated) {
   const struct {
     const char *reasons;
     const char *words;

@@ -1,4 +1,4 @@
-// A CUPS whose answers are not what they should be.
+// Invalid, malicious and missing responses from CUPS.
 #include "AnsweringServer.hpp"
 #include "CupsWords.hpp"
 #include "Destinations.hpp"
@@ -38,7 +38,7 @@ constexpr const char kPrinter[] = R"(
 22 printer-is-accepting-jobs true
 )";
 
-/// Lists one printer and describes it.
+/// The responses that list and describe one printer.
 std::string printer(const std::string &further = "") {
   return std::string("answer 200 4002") + kPrinter + further + "\nanswer 200 000b" + kPrinter +
          "23 operations-supported 2\n23 - 5\n23 - 6\n";
@@ -58,7 +58,7 @@ protected:
       unsetenv("CUPS_SERVER");
   }
 
-  /// On a thread that has talked to no other CUPS.
+  /// Runs `work` on a new thread, which has no connection to another CUPS server.
   template <typename Work> auto with(const std::string &answers, Work work) {
     server_.setAnswers(readAnswers(answers));
     return std::async(std::launch::async, work).get();
@@ -66,7 +66,7 @@ protected:
   DestinationList printers(const std::string &answers) {
     return with(answers, [] { return readDestinations(); });
   }
-  /// Why a job is not sent; empty when it is.
+  /// Why a job is not sent; empty if it is.
   std::string refusal(const std::string &answers, const ProgressCallback &progress = {}) {
     const std::string document = folder_.write("a.ps", "%!PS\n");
     return with(answers, [=] {
@@ -82,7 +82,7 @@ protected:
     });
   }
 
-  /// Once CUPS has all of the document, which it keeps to itself.
+  /// Cancels once CUPS has received all of the document without confirming it.
   std::string refusalOfCancelled(const std::string &answers) {
     return refusal(answers, [this](const JobProgress &) {
       return server_.requestCount(IPP_OP_SEND_DOCUMENT) == 0;
@@ -96,7 +96,7 @@ private:
   std::optional<std::string> before_;
 };
 
-TEST_F(HostileCups, CanSayNothingOfAPrinterThatATerminalObeys) {
+TEST_F(HostileCups, CannotControlTheTerminalThroughThePropertiesOfAPrinter) {
   const DestinationList list =
       printers(printer("41 printer-info Big \xFF\x1B[31m\n41 printer-location \xC2\x9B"
                        "5n\n44 printer-state-reasons odd\x07\xFE\n"));
@@ -106,7 +106,7 @@ TEST_F(HostileCups, CanSayNothingOfAPrinterThatATerminalObeys) {
   EXPECT_EQ(list.destinations[0].stateText, "Ready: odd\\x07\uFFFD");
 }
 
-TEST_F(HostileCups, APrinterWhoseNameCannotBeShownIsLeftOut) {
+TEST_F(HostileCups, APrinterWhoseNameCannotBeDisplayedIsOmitted) {
   const DestinationList list =
       printers(printer("04\n42 printer-name lab\xFF\x1B[2J\n45 printer-uri-supported "
                        "ipp://localhost/printers/lab\n23 printer-type 4\n"));
@@ -114,7 +114,7 @@ TEST_F(HostileCups, APrinterWhoseNameCannotBeShownIsLeftOut) {
   EXPECT_EQ(list.destinations[0].name, "office");
 }
 
-TEST_F(HostileCups, ARefusalIsOneLineOfUtf8) {
+TEST_F(HostileCups, AnErrorMessageIsOneLineOfUtf8) {
   EXPECT_THAT(
       refusal(printer() + "answer 200 0005\nipp 0500\n01\n41 status-message Broken\x1B[2J \xFF.\n"),
       HasSubstr("(Broken\\x1b[2J \uFFFD)"));
@@ -130,25 +130,25 @@ TEST_F(HostileCups, ARefusalIsOneLineOfUtf8) {
               HasSubstr("\"office\": Broken\\x1b[2J \uFFFD."));
 }
 
-TEST_F(HostileCups, AJobWithoutANumberIsNotTakenAndNotForSuccess) {
+TEST_F(HostileCups, AResponseWithoutAJobNumberIsAFailureWithoutASuccessMessage) {
   const std::string reason = refusal(printer() + "answer 200 0005\n02\n41 job-id 7\n");
   EXPECT_THAT(reason, HasSubstr("CUPS did not take the job for \"office\". "));
   EXPECT_THAT(reason, Not(HasSubstr("successful")));
 }
 
-/// Takes a job and all of its document, and says nothing more of it.
+/// Accepts a job and all of its document, then never responds.
 std::string silence() {
   return printer() + "answer 200 0005\n02\n21 job-id 7\nanswer 200 0006\nsilent\n";
 }
 
-TEST_F(HostileCups, AJobThatIsCancelledWhileItsDocumentIsNotConfirmedIsCancelledThereToo) {
+TEST_F(HostileCups, CancellingBeforeTheDocumentIsConfirmedCancelsTheJobInCups) {
   EXPECT_THAT(
       refusalOfCancelled(silence() + "answer 200 0008\n"),
       AllOf(HasSubstr("job office-7 was cancelled"), Not(HasSubstr("nothing was printed"))));
   EXPECT_EQ(cancelCount(), 1U);
 }
 
-TEST_F(HostileCups, AJobThatCannotBeCancelledIsNamedWithWhatRemovesIt) {
+TEST_F(HostileCups, AJobThatCannotBeCancelledIsReportedWithTheCommandThatRemovesIt) {
   for (const char *answer : {"ipp 0404\n", "silent\n"}) {
     EXPECT_THAT(refusalOfCancelled(silence() + "answer 200 0008\n" + answer),
                 HasSubstr("\"cancel office-7\""))
@@ -157,14 +157,14 @@ TEST_F(HostileCups, AJobThatCannotBeCancelledIsNamedWithWhatRemovesIt) {
   }
 }
 
-TEST_F(HostileCups, AJobWhoseDocumentIsNeverConfirmedIsNoSuccess) {
+TEST_F(HostileCups, AJobWhoseDocumentIsNeverConfirmedFails) {
   EXPECT_THAT(refusal(silence() + "answer 200 0008\n"),
               AllOf(HasSubstr("did not answer in time"), HasSubstr("job office-7 was cancelled")));
   EXPECT_EQ(cancelCount(), 1U);
 }
 
-/// With UndefinedBehaviorSanitizer the numbers must not pass for CUPS's own enumerations.
-TEST_F(HostileCups, AStatusThatNoStandardHasIsARefusal) {
+/// Under UndefinedBehaviorSanitizer, the numbers must not be stored in CUPS's enumerations.
+TEST_F(HostileCups, AnUndefinedStatusIsAFailure) {
   EXPECT_THAT(printers("answer 200 0\nipp 7FFF\n01\n41 status-message Odd.\n").reason,
               HasSubstr("CUPS does not say which printers it has (Odd)."));
   EXPECT_THAT(refusal(printer() + "answer 200 0005\nipp 7FFF\n01\n41 status-message Odd.\n"),
@@ -182,7 +182,7 @@ Term message(const char *english) {
   return term;
 }
 
-TEST_F(HostileCups, WithoutAnAnswerHasNoWordsForAnOption) {
+TEST_F(HostileCups, WithoutAResponseAnOptionHasNoTranslation) {
   for (const char *answers : {"answer 200 0\nsilent\n", "answer 500 0\n", "answer 200 0\nbody x\n"})
     EXPECT_THAT(with(answers,
                      [] {
@@ -191,7 +191,7 @@ TEST_F(HostileCups, WithoutAnAnswerHasNoWordsForAnOption) {
                 ElementsAre("", ""));
 }
 
-TEST_F(HostileCups, HasNoWordForWhatHasNoName) {
+TEST_F(HostileCups, AnUnnamedSizeHasNoTranslation) {
   Term unnamedSize;
   unnamedSize.size = cups_size_t{};
   const auto words = with(printer(), [&] { return wordsFor({unnamedSize, Term()}); });
@@ -199,7 +199,7 @@ TEST_F(HostileCups, HasNoWordForWhatHasNoName) {
   EXPECT_EQ(words[1], "");
 }
 
-/// A port of this machine that lets clients connect and tells them nothing.
+/// A local port that accepts connections and never responds.
 class SilentPort {
 public:
   SilentPort() {
@@ -227,7 +227,7 @@ private:
   int number_ = 0;
 };
 
-TEST_F(HostileCups, IsNotWaitedForWhileAnotherServerKeepsAPrintersWordsBack) {
+TEST_F(HostileCups, AServerThatWithholdsAPrintersTranslationsIsNotWaitedFor) {
   const SilentPort other;
   const std::string uri = "http://127.0.0.1:" + std::to_string(other.number()) + "/words";
   EXPECT_THAT(with(printer() + "45 printer-strings-uri " + uri + "\n",

@@ -7,20 +7,20 @@ namespace {
 using imageposition::documentName;
 using imageposition::documentsInWords;
 
-TEST(DocumentNames, ADocumentIsCalledAsItsFile) {
+TEST(DocumentNames, ADocumentHasTheNameOfItsFile) {
   EXPECT_EQ(documentName("report.pdf"), "report.pdf");
   EXPECT_EQ(documentName("/home/mary/report.pdf"), "report.pdf");
   EXPECT_EQ(documentName("-"), "(stdin)");
 }
 
-TEST(DocumentNames, SeveralAreTheFirstAndACount) {
+TEST(DocumentNames, SeveralAreDescribedByTheFirstAndACount) {
   EXPECT_EQ(documentsInWords({}), "");
   EXPECT_EQ(documentsInWords({"a/report.pdf"}), "a/report.pdf");
   EXPECT_EQ(documentsInWords({"report.pdf", "-", "b.pdf"}), "report.pdf and 2 more");
   EXPECT_EQ(documentsInWords({"-", "b.pdf"}), "standard input and 1 more");
 }
 
-TEST(DocumentNames, AreShownOnOneLineInTheDirectionTheyAreRead) {
+TEST(DocumentNames, AreShownOnOneLineWithoutDirectionOverrides) {
   EXPECT_EQ(documentsInWords({"a\n\xE2\x80\xAE"
                               "fdp.exe"}),
             "a\\n\\u202efdp.exe");

@@ -15,7 +15,7 @@ using imageposition::test::TemporaryFolder;
 
 constexpr std::uint64_t kFourGibibytes = 0x100000000;
 
-/// Standard input is another file for a while.
+/// Redirects standard input to a file during its lifetime.
 class InputFrom {
 public:
   explicit InputFrom(const std::string &path) : before_(dup(STDIN_FILENO)) {
@@ -34,7 +34,7 @@ private:
   int before_;
 };
 
-/// Five documents, each beyond what 31 or 32 bits count to; they take no room on the disk.
+/// Sparse files around the limits of 31-bit and 32-bit sizes.
 class LargeDocument : public testing::TestWithParam<std::uint64_t> {
 protected:
   LargeDocument() { std::filesystem::resize_file(path, GetParam()); }
@@ -53,14 +53,14 @@ INSTANTIATE_TEST_SUITE_P(Sizes, LargeDocument,
                          testing::Values(kFourGibibytes / 2 - 1, kFourGibibytes / 2,
                                          kFourGibibytes - 1, kFourGibibytes, kFourGibibytes + 5));
 
-TEST_P(LargeDocument, IsCountedInFull) { EXPECT_EQ(documentSize(path), GetParam()); }
+TEST_P(LargeDocument, HasItsFullSize) { EXPECT_EQ(documentSize(path), GetParam()); }
 
-TEST_P(LargeDocument, IsOpenedAndRead) {
+TEST_P(LargeDocument, CanBeOpenedAndRead) {
   DocumentStream stream(path);
   EXPECT_EQ(readFrom(stream).substr(0, 4), "%PDF");
 }
 
-TEST_P(LargeDocument, OnStandardInputIsCountedAndReadToItsEnd) {
+TEST_P(LargeDocument, OnStandardInputHasItsFullSizeAndIsReadToItsEnd) {
   const InputFrom input(path);
   EXPECT_EQ(documentSize("-"), GetParam());
   ASSERT_EQ(lseek(STDIN_FILENO, -7, SEEK_END), static_cast<off_t>(GetParam()) - 7);
@@ -69,7 +69,7 @@ TEST_P(LargeDocument, OnStandardInputIsCountedAndReadToItsEnd) {
   EXPECT_EQ(readFrom(stream), "");
 }
 
-TEST(DocumentStream, CountsWhatAFileLostSinceItWasOpened) {
+TEST(DocumentStream, CountsTheBytesThatAFileLostSinceItWasOpened) {
   const TemporaryFolder folder;
   const std::string path = folder.write("a.txt", "text");
   DocumentStream stream(path), whole(path);
@@ -81,7 +81,7 @@ TEST(DocumentStream, CountsWhatAFileLostSinceItWasOpened) {
   EXPECT_EQ(stream.missing(), 3u);
 }
 
-TEST(DocumentStream, OnStandardInputCountsFromWhereItStands) {
+TEST(DocumentStream, OnStandardInputCountsFromTheCurrentPosition) {
   const TemporaryFolder folder;
   const InputFrom input(folder.write("a.txt", "text"));
   ASSERT_EQ(lseek(STDIN_FILENO, 3, SEEK_SET), 3);
@@ -90,8 +90,8 @@ TEST(DocumentStream, OnStandardInputCountsFromWhereItStands) {
   EXPECT_EQ(stream.missing(), 0u);
 }
 
-// 2045, which 32 bits of seconds do not reach.
-TEST(DocumentStream, ADocumentThatIsLaterThanASystemsOwnTimesIsCountedAndRead) {
+// The year 2045.
+TEST(DocumentStream, ReadsADocumentWhoseTimeExceeds32Bits) {
   const TemporaryFolder folder;
   const std::string path = folder.write("late.txt", "text");
   const timespec times[] = {{2366841600, 0}, {2366841600, 0}};

@@ -1,4 +1,4 @@
-// Options of several choices, and values of a person's own, all the way to a filter.
+// Options with several choices, and custom values, from the job to the filter.
 #include "CustomValue.hpp"
 #include "JobFixture.hpp"
 #include "JobSubmission.hpp"
@@ -34,7 +34,7 @@ protected:
   }
 };
 
-TEST_F(EnteredValueJob, ReachesTheFilterAsItIs) {
+TEST_F(EnteredValueJob, ReachesTheFilterUnchanged) {
   const std::pair<const char *, const char *> rows[] = {
       {"Finishing", "Staple,Fold"},
       {"Finishing", "Punch"},
@@ -57,8 +57,8 @@ TEST_F(EnteredValueJob, ReachesTheFilterAsItIs) {
   }
 }
 
-/// As filters do it.
-TEST_F(EnteredValueJob, IsMarkedByAFilterAsItWasEntered) {
+/// Marks the choice with the same libcups calls as filters.
+TEST_F(EnteredValueJob, IsMarkedByAFilterAsEntered) {
   const std::string value = R"({User="a b" Password="x\"y'z\\" Code=1234})";
   const PrintedJob job = printed(submitJob(requestWith("Secret", value), {document()}).id);
   PrinterDescription printer = samplePrinter();
@@ -76,8 +76,8 @@ TEST_F(EnteredValueJob, IsMarkedByAFilterAsItWasEntered) {
   EXPECT_THAT(current("Code"), StrEq("1234"));
 }
 
-/// What others say about the same job that no value in parts has.
-TEST_F(EnteredValueJob, WithAValueInPartsIsAJobLikeOthers) {
+/// Such a job is created by a different request, which must keep the other settings and errors.
+TEST_F(EnteredValueJob, WithSeveralPartsKeepsTheRestOfTheJob) {
   JobRequest request = requestWith("Gloss", "{Amount=0.5 Light=0 Dark=1}");
   request.title = "Jahresbericht";
   request.settings.set("copies", "2");
@@ -90,7 +90,7 @@ TEST_F(EnteredValueJob, WithAValueInPartsIsAJobLikeOthers) {
   EXPECT_EQ(refusal(request, document()).problem(), JobProblem::QueueGone);
 }
 
-TEST_F(EnteredValueJob, ShowsNobodyAPassword) {
+TEST_F(EnteredValueJob, HidesPasswords) {
   const JobRequest request = requestWith("Secret", "{User=me Password=abcd Code=1234}");
   EXPECT_THAT(writeRequestText(request), HasSubstr("job Secret (nameWithoutLanguage) = ••••\n"));
   EXPECT_THAT(writeRequestText(request), Not(HasSubstr("abcd")));

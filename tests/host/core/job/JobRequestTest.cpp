@@ -30,7 +30,7 @@ JobRequest requestWith(const std::map<std::string, std::string> &settings) {
   return request;
 }
 
-TEST(JobRequest, SettingsStandOverTheDestinationsDefaults) {
+TEST(JobRequest, SettingsOverrideTheDefaultsOfTheDestination) {
   JobRequest request = requestWith({{"MediaType", "Heavy"}});
   request.defaults.set("MediaType", "Plain");
   request.defaults.set("job-sheets", "none,none");
@@ -38,7 +38,7 @@ TEST(JobRequest, SettingsStandOverTheDestinationsDefaults) {
               UnorderedElementsAre(Pair("MediaType", "Heavy"), Pair("job-sheets", "none,none")));
 }
 
-TEST(JobRequest, ASettingDisplacesTheDefaultOfTheSameThingUnderAnotherName) {
+TEST(JobRequest, ASettingOverridesTheDefaultOfASynonymousOption) {
   const struct {
     const char *standard;
     const char *setting;
@@ -52,19 +52,19 @@ TEST(JobRequest, ASettingDisplacesTheDefaultOfTheSameThingUnderAnotherName) {
   }
 }
 
-TEST(JobRequest, ADefaultStaysWhereNothingElseIsChosen) {
+TEST(JobRequest, ADefaultIsSentUnlessItIsOverridden) {
   JobRequest request = requestWith({});
   request.defaults.set("sides", "two-sided-long-edge");
   EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair("sides", "two-sided-long-edge")));
 }
 
-TEST(JobRequest, ALockedSettingIsSentAsItIs) {
+TEST(JobRequest, ALockedSettingIsSentUnchanged) {
   JobRequest request;
   request.settings.set("LeftRightMargin", "-3", true);
   EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair("LeftRightMargin", "-3")));
 }
 
-TEST(JobRequest, PagesAreSentAscending) {
+TEST(JobRequest, PageRangesAreSentInAscendingOrder) {
   EXPECT_THAT(sentBy(requestWith({{"page-ranges", "7, 1-3"}, {"page-set", "even"}})),
               UnorderedElementsAre(Pair("page-ranges", "1-3,7"), Pair("page-set", "even")));
   JobRequest request = requestWith({});
@@ -72,13 +72,13 @@ TEST(JobRequest, PagesAreSentAscending) {
   EXPECT_THAT(sentBy(request), UnorderedElementsAre(Pair("page-ranges", "1-3,7")));
 }
 
-TEST(JobRequest, EmptyPageRangesTakeBackTheDestinations) {
+TEST(JobRequest, EmptyPageRangesRemoveThoseOfTheDestination) {
   JobRequest request = requestWith({{"page-ranges", ""}});
   request.defaults.set("page-ranges", "1-3");
   EXPECT_THAT(sentBy(request), UnorderedElementsAre());
 }
 
-TEST(JobRequest, PageRangesThatNobodyUnderstandsAreRefusedInASentence) {
+TEST(JobRequest, InvalidPageRangesAreRefusedWithAMessage) {
   try {
     optionsToSend(requestWith({{"page-ranges", "x"}}));
     FAIL();
@@ -88,7 +88,7 @@ TEST(JobRequest, PageRangesThatNobodyUnderstandsAreRefusedInASentence) {
   }
 }
 
-TEST(JobRequestText, NamesEachAttributeWithItsGroupTypeAndValue) {
+TEST(JobRequestText, ListsEachAttributeWithItsGroupTypeAndValue) {
   JobRequest request = requestWith({{"LeftRightMargin", "-3"},
                                     {"Duplex", "DuplexNoTumble"},
                                     {"copies", "2"},
@@ -104,7 +104,7 @@ TEST(JobRequestText, NamesEachAttributeWithItsGroupTypeAndValue) {
   EXPECT_THAT(text, HasSubstr("job page-ranges (rangeOfInteger) = 1-3,7-7\n"));
 }
 
-TEST(JobRequestText, SaysWhatFiltersReadOfABoolean) {
+TEST(JobRequestText, ShowsTheWordThatFiltersReadForABoolean) {
   const char *const kFlag = "com.morva.printsettings.19AImagePositionEnable";
   EXPECT_THAT(writeRequestText(requestWith({{kFlag, "True"}})),
               HasSubstr("job com.morva.printsettings.19AImagePositionEnable (boolean) = true\n"

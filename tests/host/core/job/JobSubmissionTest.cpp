@@ -31,11 +31,12 @@ constexpr const char *kOffsets[] = {"LeftRightMargin", "TopBottomMargin", "BackL
 
 class Job : public JobFixture {};
 
-/// Range ends, either sign, zero.
+/// The limits, both signs and zero.
 constexpr int kValues[] = {-100, -3, 0, 7, 100};
 constexpr int kValueCount = 5;
 
-/// A row for each checkbox and each pair of values of every two offsets: 50 instead of 1250.
+/// Covers all pairs of values of any two offsets, for each state of the checkbox: 50 rows instead
+/// of 1250.
 std::vector<std::map<std::string, std::string>> settingsTable() {
   std::vector<std::map<std::string, std::string>> rows;
   for (const char *flag : {"True", "False"})
@@ -50,7 +51,7 @@ std::vector<std::map<std::string, std::string>> settingsTable() {
   return rows;
 }
 
-TEST_F(Job, EverySettingOfThePanelArrivesAtTheFilter) {
+TEST_F(Job, PassesEverySettingOfThePanelToTheFilter) {
   const auto rows = settingsTable();
   std::vector<int> jobs;
   for (const auto &row : rows) {
@@ -68,7 +69,7 @@ TEST_F(Job, EverySettingOfThePanelArrivesAtTheFilter) {
   }
 }
 
-TEST_F(Job, CopiesPagesAndLayoutArrive) {
+TEST_F(Job, PassesCopiesPagesAndLayoutToTheFilter) {
   JobRequest request = requestFor();
   request.title = "Jahresbericht \xC3\xBC"
                   "ber \"alles\"";
@@ -97,7 +98,7 @@ TEST_F(Job, CopiesPagesAndLayoutArrive) {
   EXPECT_THAT(job.environment, Contains(Pair("PRINTER", "office")));
 }
 
-TEST_F(Job, ValuesThatNeedQuotesArriveWhole) {
+TEST_F(Job, PassesValuesThatNeedQuotingToTheFilter) {
   JobRequest request = requestFor();
   for (const char *value : {"two words", "a,b", "say \"hi\"", "back\\slash", "it's"}) {
     request.settings.set("Account", value);
@@ -133,7 +134,7 @@ std::string withoutNotes(const std::string &text) {
   return rest;
 }
 
-TEST_F(Job, IsAskedForInExactlyTheWordsOfItsRequestText) {
+TEST_F(Job, IsCreatedByExactlyTheRequestThatADryRunShows) {
   JobRequest request = requestFor();
   request.printerUri = readDestinations().find("office")->uri;
   for (const auto &[name, value] : std::map<std::string, std::string>{
@@ -164,7 +165,7 @@ TEST_F(Job, IsAskedForInExactlyTheWordsOfItsRequestText) {
   ippDelete(sent);
 }
 
-TEST_F(Job, ForAStoppedPrinterIsKeptUntilItIsResumed) {
+TEST_F(Job, IsKeptForAStoppedPrinterUntilItIsResumed) {
   command({"cupsdisable", "office"});
   const SubmittedJob job = submitJob(requestFor(), {document()});
   EXPECT_THAT(job.note, AllOf(HasSubstr("keeps the job"), HasSubstr("cupsenable office")));
@@ -174,11 +175,11 @@ TEST_F(Job, ForAStoppedPrinterIsKeptUntilItIsResumed) {
   EXPECT_EQ(printed(job.id).bytes, 1000u);
 }
 
-TEST_F(Job, ThatPrintsAtOnceHasNoNote) {
+TEST_F(Job, HasNoNoteIfItPrintsAtOnce) {
   EXPECT_EQ(submitJob(requestFor(), {document()}).note, "");
 }
 
-TEST_F(Job, HeldWaitsForItsRelease) {
+TEST_F(Job, WaitsForItsReleaseIfHeld) {
   JobRequest request = requestFor();
   request.settings.set("job-hold-until", "indefinite");
   const SubmittedJob job = submitJob(request, {document()});
@@ -190,7 +191,7 @@ TEST_F(Job, HeldWaitsForItsRelease) {
   EXPECT_EQ(printed(job.id).bytes, 1000u);
 }
 
-TEST_F(Job, ForADeletedQueueIsRefused) {
+TEST_F(Job, IsRefusedForADeletedQueue) {
   command({"lpadmin", "-x", "office"});
   const SubmissionFailure failure = refusal(requestFor(), document());
   EXPECT_EQ(failure.problem(), JobProblem::QueueGone) << failure.what();
@@ -198,14 +199,14 @@ TEST_F(Job, ForADeletedQueueIsRefused) {
   EXPECT_THAT(failure.what(), HasSubstr("no printer \"office\" any more"));
 }
 
-TEST_F(Job, WithoutCupsIsRefused) {
+TEST_F(Job, IsRefusedWithoutCups) {
   cups().stop();
   const SubmissionFailure failure = refusal(requestFor(), document());
   EXPECT_EQ(failure.problem(), JobProblem::NoCups) << failure.what();
   EXPECT_THAT(failure.what(), HasSubstr("systemctl start cups"));
 }
 
-TEST_F(Job, WhoseCupsGoesAwayHalfWayIsRefusedAndNeverPrinted) {
+TEST_F(Job, FailsAndNeverPrintsIfCupsStopsDuringSending) {
   bool isStopped = false;
   const SubmissionFailure failure =
       refusal(requestFor(), document(8 << 20), [&](const JobProgress &progress) {
@@ -218,25 +219,25 @@ TEST_F(Job, WhoseCupsGoesAwayHalfWayIsRefusedAndNeverPrinted) {
   EXPECT_THAT(failure.what(), HasSubstr("went away"));
   cups().start();
   const SubmittedJob next = submitJob(requestFor(), {document()});
-  printed(next.id); // one printer prints one after the other
+  printed(next.id); // the printer prints jobs in order
   EXPECT_EQ(printedCount(), 1);
 }
 
-TEST_F(Job, ForAPrinterThatTakesNoneIsRefused) {
+TEST_F(Job, IsRefusedByAPrinterThatDoesNotAcceptJobs) {
   command({"cupsreject", "office"});
   const SubmissionFailure failure = refusal(requestFor(), document());
   EXPECT_EQ(failure.problem(), JobProblem::RefusesJobs) << failure.what();
   EXPECT_THAT(failure.what(), HasSubstr("cupsaccept office"));
 }
 
-TEST_F(Job, OfAUserWhoMayNotPrintThereIsRefused) {
+TEST_F(Job, IsRefusedForAUserWithoutPermission) {
   command({"lpadmin", "-p", "office", "-u", std::string("deny:") + cupsUser()});
   const SubmissionFailure failure = refusal(requestFor(), document());
   EXPECT_EQ(failure.problem(), JobProblem::Authentication) << failure.what();
   EXPECT_THAT(failure.what(), HasSubstr("does not let you print"));
 }
 
-TEST_F(Job, BeyondTheQuotaIsRefused) {
+TEST_F(Job, IsRefusedBeyondTheQuota) {
   command({"lpadmin", "-p", "office", "-o", "job-k-limit=1", "-o", "job-quota-period=3600"});
   submitJob(requestFor(), {document(5000)});
   const SubmissionFailure failure = refusal(requestFor(), document());
@@ -244,20 +245,20 @@ TEST_F(Job, BeyondTheQuotaIsRefused) {
   EXPECT_THAT(failure.what(), HasSubstr("Wait until"));
 }
 
-TEST_F(Job, TooLargeForCupsIsRefusedAndLeavesNothing) {
+TEST_F(Job, IsRefusedAndRemovedIfItIsTooLargeForCups) {
   const SubmissionFailure failure = refusal(requestFor(), document(203u << 20));
   EXPECT_EQ(failure.problem(), JobProblem::Spool) << failure.what();
   EXPECT_THAT(failure.what(), HasSubstr("too large"));
   EXPECT_THAT(waitingJobs(), IsEmpty());
 }
 
-TEST_F(Job, WhosePasswordNobodyGivesIsRefused) {
+TEST_F(Job, IsRefusedWithoutTheRequiredPassword) {
   command({"lpadmin", "-p", "office", "-o", "printer-op-policy=asking"});
   const SubmissionFailure failure = refusal(requestFor(), document());
   EXPECT_EQ(failure.problem(), JobProblem::Authentication) << failure.what();
 }
 
-TEST_F(Job, WithAValueThatCupsDoesNotTakeIsRefused) {
+TEST_F(Job, IsRefusedForAValueThatCupsDoesNotAccept) {
   JobRequest request = requestFor();
   request.settings.set("copies", "0");
   const SubmissionFailure failure = refusal(request, document());
@@ -265,7 +266,7 @@ TEST_F(Job, WithAValueThatCupsDoesNotTakeIsRefused) {
   EXPECT_THAT(failure.what(), AllOf(HasSubstr("copies"), HasSubstr("Change it")));
 }
 
-TEST_F(Job, OfAKindThatCupsDoesNotKnowIsRefusedAndLeavesNothing) {
+TEST_F(Job, IsRefusedAndRemovedForAnUnknownFileType) {
   JobRequest request = requestFor();
   request.settings.set("document-format", "application/x-nothing");
   const SubmissionFailure failure = refusal(request, document());
@@ -274,7 +275,7 @@ TEST_F(Job, OfAKindThatCupsDoesNotKnowIsRefusedAndLeavesNothing) {
   EXPECT_THAT(waitingJobs(), IsEmpty());
 }
 
-TEST_F(Job, WhoseDocumentCannotBeReadIsRefusedBeforeCupsIsAsked) {
+TEST_F(Job, IsRefusedBeforeContactingCupsIfItsDocumentCannotBeRead) {
   cups().stop();
   const struct {
     std::string path;
@@ -296,11 +297,11 @@ long peakMemoryInKilobytes() {
   return usage.ru_maxrss;
 }
 
-TEST_F(Job, OfTwoHundredMegabytesIsStreamed) {
+TEST_F(Job, StreamsTwoHundredMegabytes) {
   constexpr std::size_t kSize = 200u << 20;
-  command({"cupsdisable", "office"}); // the filter's time is not ours
+  command({"cupsdisable", "office"}); // exclude the filter's time
   const std::string path = document(kSize);
-  submitJob(requestFor(), {document(1000)}); // what is loaded once is loaded
+  submitJob(requestFor(), {document(1000)}); // loads everything that is loaded only once
   document(kSize);
   const long before = peakMemoryInKilobytes();
   std::uint64_t sent = 0;
@@ -315,7 +316,7 @@ TEST_F(Job, OfTwoHundredMegabytesIsStreamed) {
   EXPECT_THAT(waitingJobs(), HasSubstr("office-" + std::to_string(job.id)));
 }
 
-TEST_F(Job, CancelledHalfWayLeavesNothingThatPrints) {
+TEST_F(Job, NeverPrintsIfCancelledDuringSending) {
   const SubmissionFailure failure =
       refusal(requestFor(), document(8 << 20),
               [](const JobProgress &progress) { return progress.sent < 4 << 20; });
@@ -327,7 +328,7 @@ TEST_F(Job, CancelledHalfWayLeavesNothingThatPrints) {
   EXPECT_EQ(printedCount(), 1);
 }
 
-TEST_F(Job, WhoseDocumentShrinksWhileItIsSentIsRefusedAndNeverPrinted) {
+TEST_F(Job, FailsAndNeverPrintsIfItsDocumentShrinksDuringSending) {
   const std::string path = document(8 << 20);
   const SubmissionFailure failure = refusal(requestFor(), path, [&](const JobProgress &progress) {
     if (progress.sent > 1 << 20)
@@ -343,7 +344,7 @@ TEST_F(Job, WhoseDocumentShrinksWhileItIsSentIsRefusedAndNeverPrinted) {
   EXPECT_EQ(printedCount(), 1);
 }
 
-TEST_F(Job, WhoseDocumentGrowsWhileItIsSentPrintsAllOfIt) {
+TEST_F(Job, PrintsAllOfADocumentThatGrowsDuringSending) {
   const std::string path = document(4 << 20);
   const SubmittedJob job = submitJob(requestFor(), {path}, [&](const JobProgress &progress) {
     if (progress.sent > 1 << 20)
@@ -353,13 +354,13 @@ TEST_F(Job, WhoseDocumentGrowsWhileItIsSentPrintsAllOfIt) {
   EXPECT_EQ(printed(job.id).bytes, 5u << 20);
 }
 
-TEST_F(Job, CancelledBeforeTheFirstByteIsNotCreated) {
+TEST_F(Job, IsNotCreatedIfCancelledBeforeTheFirstByte) {
   const int before = submitJob(requestFor(), {document()}).id;
   refusal(requestFor(), document(), [](const JobProgress &) { return false; });
   EXPECT_EQ(submitJob(requestFor(), {document()}).id, before + 1);
 }
 
-TEST_F(Job, ForACupsThatStandsStillCanBeCancelled) {
+TEST_F(Job, CanBeCancelledWhileCupsHangs) {
   cups().send(SIGSTOP);
   JobSubmission submission(requestFor(), {document()});
   EXPECT_FALSE(submission.isDone());
@@ -374,7 +375,7 @@ TEST_F(Job, ForACupsThatStandsStillCanBeCancelled) {
   }
 }
 
-TEST_F(Job, OnAThreadOfItsOwnTellsItsProgressAndResult) {
+TEST_F(Job, ReportsItsProgressAndResultOnABackgroundThread) {
   JobSubmission submission(requestFor(), {document(1 << 20)});
   const SubmittedJob job = submission.result();
   EXPECT_TRUE(submission.isDone());
@@ -384,7 +385,7 @@ TEST_F(Job, OnAThreadOfItsOwnTellsItsProgressAndResult) {
   EXPECT_EQ(submission.result().id, job.id);
 }
 
-/// Standard input is what the test writes.
+/// Redirects standard input to a pipe that the test writes to.
 class StandardInput {
 public:
   StandardInput() : before_(dup(STDIN_FILENO)) {
@@ -424,7 +425,7 @@ TEST_F(Job, ReadsStandardInputToItsEnd) {
   EXPECT_EQ(submission.progress().total, std::nullopt);
 }
 
-TEST_F(Job, ThatWaitsForStandardInputCanBeCancelled) {
+TEST_F(Job, CanBeCancelledWhileWaitingForStandardInput) {
   StandardInput input;
   JobSubmission submission(requestFor(), {"-"});
   submission.cancel();
@@ -432,7 +433,7 @@ TEST_F(Job, ThatWaitsForStandardInputCanBeCancelled) {
   EXPECT_THROW(submission.result(), SubmissionFailure);
 }
 
-TEST_F(Job, OfSeveralDocumentsPrintsThemInTheirOrder) {
+TEST_F(Job, PrintsSeveralDocumentsInOrder) {
   StandardInput input;
   input.write("%PDF-1.4\n");
   input.finish();
@@ -454,7 +455,7 @@ TEST_F(Job, OfSeveralDocumentsPrintsThemInTheirOrder) {
   EXPECT_TRUE(comesTrue([=] { return cups().jobAttribute(job, "job-state") == "completed"; }));
 }
 
-TEST_F(Job, SaysThatMoreDocumentsFollowTheFirst) {
+TEST_F(Job, TellsCupsWhichDocumentIsTheLast) {
   const std::string path = folder.path("relay");
   for (const bool isAlone : {false, true}) {
     ipp_t *sent = nullptr;
@@ -476,7 +477,7 @@ TEST_F(Job, SaysThatMoreDocumentsFollowTheFirst) {
   }
 }
 
-TEST_F(Job, ProgressIsThatOfAllDocuments) {
+TEST_F(Job, ReportsProgressOverAllDocuments) {
   const std::string path = document(1000);
   JobProgress last;
   submitJob(requestFor(), {path, path}, [&](const JobProgress &progress) {
@@ -488,7 +489,7 @@ TEST_F(Job, ProgressIsThatOfAllDocuments) {
   EXPECT_EQ(last.sent, 2000u);
 }
 
-TEST_F(Job, WithAnEmptyDocumentAmongOthersIsRefusedBeforeCupsHearsOfIt) {
+TEST_F(Job, IsNotCreatedIfOneOfItsDocumentsIsEmpty) {
   const std::string empty = folder.write("empty.pdf", "");
   const int before = submitJob(requestFor(), {document()}).id;
   try {
@@ -501,8 +502,8 @@ TEST_F(Job, WithAnEmptyDocumentAmongOthersIsRefusedBeforeCupsHearsOfIt) {
   EXPECT_EQ(submitJob(requestFor(), {document()}).id, before + 1);
 }
 
-TEST_F(Job, WhoseLaterDocumentFailsIsTakenBack) {
-  StandardInput input; // nothing comes
+TEST_F(Job, IsRemovedIfALaterDocumentFails) {
+  StandardInput input; // empty
   input.finish();
   try {
     submitJob(requestFor(), {document(), "-"});
@@ -513,7 +514,7 @@ TEST_F(Job, WhoseLaterDocumentFailsIsTakenBack) {
   EXPECT_THAT(waitingJobs(), IsEmpty());
 }
 
-TEST_F(Job, ThatNoThreadCanBeHadForIsRefusedInWords) {
+TEST_F(Job, IsRefusedWithAMessageIfNoThreadCanBeCreated) {
   const JobRequest request = requestFor();
   const JobDocuments documents = {document()};
   const auto isRefused = [&] {
@@ -528,7 +529,7 @@ TEST_F(Job, ThatNoThreadCanBeHadForIsRefusedInWords) {
   EXPECT_EXIT(std::_Exit(isRefused() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(Job, ThatIsRawReachesThePrinterAsItIs) {
+TEST_F(Job, ReachesThePrinterUnfilteredIfRaw) {
   JobRequest request = requestFor();
   request.settings.set("raw", "true");
   const int job = submitJob(request, {document()}).id;

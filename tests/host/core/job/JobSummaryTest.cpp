@@ -21,7 +21,7 @@ SummaryLine lineOf(const SummarySection &section, const std::string &title) {
   return {};
 }
 
-/// The job's attributes in the text of a dry run.
+/// The number of job attributes in the output of a dry run.
 int jobAttributesIn(const std::string &text) {
   int count = 0;
   for (std::size_t at = 0; at != std::string::npos; at = text.find('\n', at + 1))
@@ -29,14 +29,14 @@ int jobAttributesIn(const std::string &text) {
   return count;
 }
 
-TEST(JobSummary, ListsExactlyWhatADryRunSaysIsSent) {
+TEST(JobSummary, ListsTheSameOptionsAsADryRun) {
   JobRequest request;
   request.printer = "office";
   request.title = "report";
   request.defaults.set("sides", "two-sided-long-edge");
   request.defaults.set("job-sheets", "none,none");
   request.settings.set("LeftRightMargin", "-3");
-  request.settings.set("Duplex", "None"); // displaces the default of "sides"
+  request.settings.set("Duplex", "None"); // overrides the default of "sides"
   request.settings.set("page-ranges", "7, 1-3");
   request.settings.set("page-set", "odd");
   request.settings.set("copies", "2");
@@ -63,19 +63,19 @@ TEST(JobSummary, HidesPasswords) {
   EXPECT_EQ(lineOf(section, "JOB-Password").value, "••••");
 }
 
-TEST(JobSummary, MarksOptionsThatDifferFromThePrintersDefaults) {
+TEST(JobSummary, MarksOptionsThatDifferFromTheDefaultsOfThePrinter) {
   auto printer = optionsPrinter();
   PrintSettingsStore job;
   job.set("Stapler", "True");
   const SummarySection section = optionSection(printer, job, {"Fold"});
   EXPECT_TRUE(lineOf(section, "Staple").differs);
-  EXPECT_THAT(lineOf(section, "Staple").value, HasSubstr("No")); // what is usual
+  EXPECT_THAT(lineOf(section, "Staple").value, HasSubstr("No")); // the default
   EXPECT_FALSE(lineOf(section, "Tray").differs);
   EXPECT_TRUE(std::none_of(section.lines.begin(), section.lines.end(),
                            [](const SummaryLine &line) { return line.title == "Fold"; }));
 }
 
-TEST(JobSummary, MarksCopiesAndPagesThatAreNotUsual) {
+TEST(JobSummary, MarksCopiesAndPagesThatDifferFromTheDefaults) {
   PrintSettingsStore job;
   EXPECT_FALSE(lineOf(jobSection("office", {"a.pdf"}, job), "Copies").differs);
   EXPECT_FALSE(lineOf(jobSection("office", {"a.pdf"}, job), "Pages").differs);

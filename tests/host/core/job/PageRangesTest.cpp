@@ -22,7 +22,7 @@ std::string failureOf(const std::string &text) {
   return {};
 }
 
-TEST(PageRanges, AreReadAsPeopleWriteThem) {
+TEST(PageRanges, AreParsedAsUsersWriteThem) {
   const struct {
     const char *written;
     const char *shown;
@@ -61,7 +61,7 @@ TEST(PageRanges, AreReadAsPeopleWriteThem) {
   }
 }
 
-TEST(PageRanges, WhatIsWrongIsSaidWithAnExample) {
+TEST(PageRanges, AnErrorIsExplainedWithAnExample) {
   const struct {
     const char *written;
     const char *reason;
@@ -91,7 +91,7 @@ TEST(PageRanges, WhatIsWrongIsSaidWithAnExample) {
   }
 }
 
-TEST(PageChoice, IsStoredAsCupsTakesItAndReadBack) {
+TEST(PageChoice, IsStoredInTheFormatOfCupsAndReadBack) {
   PrintSettingsStore job;
   storePageChoice({PageRanges::parse("9-, 1-3"), PageSet::Even}, job);
   EXPECT_THAT(job.get("page-ranges"), StrEq("1-3,9-"));
@@ -102,7 +102,7 @@ TEST(PageChoice, IsStoredAsCupsTakesItAndReadBack) {
   EXPECT_EQ(read.set, PageSet::Even);
 }
 
-TEST(PageChoice, AllPagesLeaveNothingInTheJob) {
+TEST(PageChoice, AllPagesRemoveTheOptionsFromTheJob) {
   PrintSettingsStore job;
   job.set("page-ranges", "1");
   job.set("page-set", "odd");
@@ -112,14 +112,14 @@ TEST(PageChoice, AllPagesLeaveNothingInTheJob) {
   EXPECT_FALSE(readPageChoice(job).ranges);
 }
 
-TEST(PageChoice, TheEndAsAFilterWritesItIsTheEnd) {
+TEST(PageChoice, TheLargestIntegerOfAFilterIsAnOpenEnd) {
   PrintSettingsStore job;
   job.set("page-ranges", "5-2147483647");
   ASSERT_TRUE(readPageChoice(job).ranges);
   EXPECT_EQ(readPageChoice(job).ranges->text(), "5-");
 }
 
-TEST(PageChoice, WhatCannotBeUnderstoodCountsAsAllPages) {
+TEST(PageChoice, AnInvalidOptionCountsAsAllPages) {
   PrintSettingsStore job;
   job.set("page-ranges", "x");
   job.set("page-set", "x");

@@ -19,14 +19,14 @@ sockaddr_un addressOf(const std::string &path) {
   return address;
 }
 
-/// False at the end.
-bool forward(int from, int to, std::string &piece) {
+/// Returns false at the end of the stream.
+bool forward(int from, int to, std::string &chunk) {
   char buffer[16384];
   const ssize_t count = read(from, buffer, sizeof buffer);
   if (count <= 0)
     return false;
-  piece.assign(buffer, static_cast<std::size_t>(count));
-  return send(to, piece.data(), piece.size(), MSG_NOSIGNAL) == count;
+  chunk.assign(buffer, static_cast<std::size_t>(count));
+  return send(to, chunk.data(), chunk.size(), MSG_NOSIGNAL) == count;
 }
 
 struct Bytes {
@@ -55,7 +55,7 @@ RecordingRelay::RecordingRelay(const std::string &path, const std::string &serve
 }
 
 RecordingRelay::~RecordingRelay() {
-  shutdown(listener_, SHUT_RDWR); // ends a wait for a client that never came
+  shutdown(listener_, SHUT_RDWR); // wakes accept() if no client connected
   thread_.join();
   close(listener_);
 }
@@ -69,13 +69,13 @@ void RecordingRelay::relay(const std::string &server) {
   while (isOpen) {
     pollfd ends[2] = {{client, POLLIN, 0}, {upstream, POLLIN, 0}};
     poll(ends, 2, -1);
-    std::string piece;
+    std::string chunk;
     if (ends[1].revents != 0)
-      isOpen = forward(upstream, client, piece);
+      isOpen = forward(upstream, client, chunk);
     if (isOpen && ends[0].revents != 0) {
-      isOpen = forward(client, upstream, piece);
+      isOpen = forward(client, upstream, chunk);
       const std::lock_guard<std::mutex> lock(mutex_);
-      sent_ += piece;
+      sent_ += chunk;
     }
   }
   close(upstream);
@@ -90,7 +90,7 @@ ipp_t *RecordingRelay::request(ipp_op_t operation) {
     if (end == std::string::npos)
       break;
     std::size_t start = end + 4;
-    if (sent_.find("chunked", post) < end) // the first chunk has all attributes
+    if (sent_.find("chunked", post) < end) // the first HTTP chunk contains all attributes
       start = sent_.find("\r\n", start) + 2;
     Bytes body{sent_.data() + start, sent_.size() - start};
     ipp_t *const request = ippNew();

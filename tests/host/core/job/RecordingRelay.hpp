@@ -1,6 +1,6 @@
-/// What a program really says to CUPS.
-#ifndef IMAGEPOSITION_TESTS_HOST_RECORDINGRELAY_HPP
-#define IMAGEPOSITION_TESTS_HOST_RECORDINGRELAY_HPP
+/// Records the requests that a program sends to CUPS.
+#ifndef IMAGEPOSITION_TESTS_HOST_CORE_JOB_RECORDINGRELAY_HPP
+#define IMAGEPOSITION_TESTS_HOST_CORE_JOB_RECORDINGRELAY_HPP
 
 #include <cups/cups.h>
 
@@ -11,24 +11,24 @@
 
 namespace imageposition::test {
 
-/// Stands between a client and a server, both on Unix sockets, for one connection, and keeps what
-/// the client sends.
+/// Relays one connection between a client and a server, both on Unix sockets, and records what the
+/// client sends.
 class RecordingRelay {
 public:
   RecordingRelay(const std::string &path, const std::string &server);
-  /// Waits for the client's end of the connection.
+  /// Waits until the client closes the connection.
   ~RecordingRelay();
   RecordingRelay(const RecordingRelay &) = delete;
   RecordingRelay &operator=(const RecordingRelay &) = delete;
 
-  /// The first request of that operation; null when there was none. To be freed with ippDelete.
+  /// Returns the first request for the operation, or null. The caller frees it with ippDelete.
   ipp_t *request(ipp_op_t operation);
 
 private:
   void relay(const std::string &server);
 
   int listener_;
-  std::mutex mutex_; // of `sent_`
+  std::mutex mutex_; // guards `sent_`
   std::string sent_;
   std::thread thread_;
 };

@@ -11,7 +11,7 @@ TEST(Summary, ListsEachPanelUnderItsName) {
             "One\n  Left: -3\n  Top: 4\nTwo\n  A: B\n");
 }
 
-TEST(Summary, SaysSoWhenAPanelHasNothingToSay) {
+TEST(Summary, SaysThatAPanelHasNothingToShow) {
   EXPECT_EQ(writeSummary({{"One", {}}}), "One\n  Not available with the present settings.\n");
 }
 

@@ -7,14 +7,14 @@ namespace {
 using imageposition::suggestedTicket;
 using imageposition::ticketPath;
 
-TEST(TicketName, IsTheFirstDocuments) {
+TEST(TicketName, IsThatOfTheFirstDocument) {
   EXPECT_EQ(suggestedTicket({"/home/ann/report.pdf", "b.pdf"}), "report.json");
   EXPECT_EQ(suggestedTicket({"two.parts.pdf"}), "two.parts.json");
   EXPECT_EQ(suggestedTicket({"-"}), "job.json");
   EXPECT_EQ(suggestedTicket({}), "job.json");
 }
 
-TEST(TicketName, IsTakenAsItIsMeant) {
+TEST(TicketName, IsCompletedAsTheUserMeansIt) {
   const char *const rows[][2] = {{"job.json", "job.json"},
                                  {"  out/job  ", "out/job.json"},
                                  {"~/job", "/home/ann/job.json"},

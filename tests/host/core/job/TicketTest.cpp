@@ -37,7 +37,7 @@ template <typename Act> std::string failureOf(Act &&act) {
   return {};
 }
 
-TEST(Ticket, IsReadBackAsItWasWritten) {
+TEST(Ticket, CanBeReadBackAsWritten) {
   const Ticket read = readTicketText(writeTicketText(sample()), "job.json");
   EXPECT_EQ(read.printer, "Sample");
   EXPECT_THAT(read.documents, testing::IsEmpty());
@@ -47,25 +47,25 @@ TEST(Ticket, IsReadBackAsItWasWritten) {
   EXPECT_FALSE(read.settings.isLocked("LeftRightMargin"));
 }
 
-TEST(Ticket, KeepsEveryKindOfText) {
+TEST(Ticket, KeepsAnyCharacterInAValue) {
   Ticket ticket;
   ticket.settings.set("job-name", "\"\\\n\t\x01 \xE5\xB7\xA6");
   EXPECT_THAT(readTicketText(writeTicketText(ticket), "t").settings.get("job-name"),
               StrEq("\"\\\n\t\x01 \xE5\xB7\xA6"));
 }
 
-TEST(Ticket, ADocumentNameInAnotherEncodingDoesNotSpoilIt) {
+TEST(Ticket, ADocumentNameInAnotherEncodingIsHarmless) {
   Ticket ticket = sample();
   ticket.documents = {"\xE4.pdf"};
   EXPECT_EQ(readTicketText(writeTicketText(ticket), "t").settings.optionCount(), 2);
 }
 
-TEST(Ticket, AWholeNumberIsReadAsItsText) {
+TEST(Ticket, AWholeNumberIsConvertedToAString) {
   const Ticket read = readTicketText(R"({"settings": {"LeftRightMargin": -3}})", "t");
   EXPECT_THAT(read.settings.get("LeftRightMargin"), StrEq("-3"));
 }
 
-TEST(Ticket, OneDocumentIsATextAndSeveralAreAList) {
+TEST(Ticket, OneDocumentIsAStringAndSeveralAreAList) {
   Ticket ticket;
   ticket.documents = {"a.pdf"};
   EXPECT_THAT(writeTicketText(ticket), HasSubstr(R"("document": "a.pdf")"));
@@ -75,7 +75,7 @@ TEST(Ticket, OneDocumentIsATextAndSeveralAreAList) {
   EXPECT_EQ(readTicketText(writeTicketText(ticket), "t").documents, ticket.documents);
 }
 
-TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
+TEST(Ticket, AnInvalidTicketIsRefusedWithItsNameAndTheReason) {
   const struct {
     const char *text;
     const char *reason;
@@ -111,18 +111,18 @@ TEST(Ticket, WhatIsNoTicketIsNamedWithItsReason) {
   }
 }
 
-TEST(Ticket, DeeplyNestedTextIsRefusedAndNothingWorse) {
+TEST(Ticket, DeeplyNestedJsonIsRefused) {
   failureOf([] { readTicketText(std::string(100000, '['), "t"); });
 }
 
-TEST(Ticket, DeeplyNestedPartsThatNobodyReadsDoNoHarm) {
+TEST(Ticket, DeeplyNestedUnknownMembersAreHarmless) {
   const std::string deep = std::string(1000000, '[') + std::string(1000000, ']');
   EXPECT_EQ(
       readTicketText("{\"settings\": {\"a\": 1}, \"x\": " + deep + "}", "t").settings.optionCount(),
       1);
 }
 
-TEST(Ticket, ManySettingsAreReadInWhateverOrderTheyStand) {
+TEST(Ticket, ManySettingsAreReadInAnyOrder) {
   constexpr int kCount = 30000;
   std::string json = "{\"settings\": {";
   for (int i = kCount; i > 0; i--)
@@ -134,25 +134,25 @@ TEST(Ticket, ManySettingsAreReadInWhateverOrderTheyStand) {
   EXPECT_EQ(writeTicketText(readTicketText(writeTicketText(read), "t")), writeTicketText(read));
 }
 
-TEST(TicketFile, NothingThereIsNoTicket) {
+TEST(TicketFile, AMissingFileIsNoError) {
   TemporaryFolder folder;
   EXPECT_FALSE(readTicket(folder.path("job.json")));
 }
 
-TEST(TicketFile, APipeIsRefusedBeforeItIsRead) {
+TEST(TicketFile, APipeIsRefusedWithoutReadingIt) {
   TemporaryFolder folder;
   ASSERT_EQ(mkfifo(folder.path("job.json").c_str(), 0600), 0);
   EXPECT_THAT(failureOf([&] { readTicket(folder.path("job.json")); }),
               HasSubstr("not an ordinary file"));
 }
 
-TEST(TicketFile, AFolderIsNoTicket) {
+TEST(TicketFile, AFolderIsRefused) {
   TemporaryFolder folder;
   failureOf([&] { readTicket(folder.path()); });
   failureOf([&] { writeTicket(sample(), folder.path()); });
 }
 
-TEST(TicketFile, BothFormsAreWrittenAndNothingElse) {
+TEST(TicketFile, BothFilesAreWrittenAndNoOthers) {
   TemporaryFolder folder;
   writeTicket(sample(), folder.path("job.json"));
   EXPECT_EQ(folder.fileCount(), 2U);
@@ -160,14 +160,14 @@ TEST(TicketFile, BothFormsAreWrittenAndNothingElse) {
   ASSERT_TRUE(readTicket(folder.path("job.json")));
 }
 
-TEST(TicketFile, TheOptionFormIsNamedAfterTheTicket) {
+TEST(TicketFile, TheOptionFileIsNamedAfterTheTicket) {
   EXPECT_EQ(optionTextPath("a/job.json"), "a/job.options");
   EXPECT_EQ(optionTextPath("job"), "job.options");
   EXPECT_EQ(optionTextPath("a.b/job.ticket"), "a.b/job.ticket.options");
   EXPECT_EQ(optionTextPath(".json"), ".json.options");
 }
 
-TEST(TicketFile, WhenOneFormCannotBeWrittenTheOtherStaysAsItWas) {
+TEST(TicketFile, IfOneFileCannotBeWrittenTheOtherIsUnchanged) {
   TemporaryFolder folder;
   folder.write("job.json", "before");
   folder.write("job.options/in the way", "");
@@ -176,13 +176,13 @@ TEST(TicketFile, WhenOneFormCannotBeWrittenTheOtherStaysAsItWas) {
   EXPECT_EQ(folder.fileCount(), 2U);
 }
 
-TEST(TicketFile, AMissingFolderIsNamed) {
+TEST(TicketFile, AnErrorForAMissingFolderNamesThePath) {
   TemporaryFolder folder;
   EXPECT_THAT(failureOf([&] { writeTicket(sample(), folder.path("no/job.json")); }),
               HasSubstr("no/job.json"));
 }
 
-TEST(TicketFile, ItsPlaceIsCheckedWithoutChangingAnything) {
+TEST(TicketFile, TheLocationIsCheckedWithoutChangingAnything) {
   TemporaryFolder folder;
   const std::string path = folder.write("job.json", "before");
   imageposition::checkTicketPlace(path);
@@ -194,7 +194,7 @@ TEST(TicketFile, ItsPlaceIsCheckedWithoutChangingAnything) {
               HasSubstr("ordinary file"));
 }
 
-TEST(TicketFile, ReplacingKeepsTheRightsAndTheLink) {
+TEST(TicketFile, ReplacingKeepsThePermissionsAndTheSymbolicLink) {
   TemporaryFolder folder;
   folder.write("real.json", "{}");
   chmod(folder.path("real.json").c_str(), 0640);
@@ -208,7 +208,7 @@ TEST(TicketFile, ReplacingKeepsTheRightsAndTheLink) {
   EXPECT_THAT(contentOf(folder.path("real.json")), HasSubstr("LeftRightMargin"));
 }
 
-TEST(TicketFile, ForItsOwnerAloneIsReadableForNobodyElseWhateverWasThere) {
+TEST(TicketFile, OwnerAloneRemovesTheReadPermissionsOfOthers) {
   TemporaryFolder folder;
   const std::string path = folder.write("job.json", "{}");
   chmod(path.c_str(), 0664);
@@ -220,7 +220,7 @@ TEST(TicketFile, ForItsOwnerAloneIsReadableForNobodyElseWhateverWasThere) {
   }
 }
 
-TEST(TicketFile, ProgramsThatWriteItAtOnceLeaveWholeFiles) {
+TEST(TicketFile, ConcurrentWritersLeaveCompleteFiles) {
   TemporaryFolder folder;
   const std::string path = folder.path("job.json");
   writeTicket(sample(), path);
@@ -240,7 +240,7 @@ TEST(TicketFile, ProgramsThatWriteItAtOnceLeaveWholeFiles) {
   EXPECT_EQ(folder.fileCount(), 2U);
 }
 
-TEST(TicketFile, ALinkOfTheUsersToNowhereMakesTheFileThere) {
+TEST(TicketFile, ADanglingLinkOfTheUserCreatesItsTarget) {
   TemporaryFolder folder;
   ASSERT_EQ(symlink("real.json", folder.path("job.json").c_str()), 0);
   writeTicket(sample(), folder.path("job.json"));
@@ -248,17 +248,17 @@ TEST(TicketFile, ALinkOfTheUsersToNowhereMakesTheFileThere) {
   EXPECT_TRUE(readTicket(folder.path("real.json")));
 }
 
-TEST(TicketFile, ALinkToItselfIsNoPlace) {
+TEST(TicketFile, ALinkToItselfIsRefused) {
   TemporaryFolder folder;
   ASSERT_EQ(symlink("job.json", folder.path("job.json").c_str()), 0);
   EXPECT_THAT(failureOf([&] { writeTicket(sample(), folder.path("job.json")); }),
               HasSubstr("job.json"));
 }
 
-TEST(TicketFile, OneThatIsLargerThanAnyIsRefused) {
+TEST(TicketFile, AHugeFileIsRefused) {
   TemporaryFolder folder;
   const std::string path = folder.write("job.json", "{");
-  std::filesystem::resize_file(path, std::uintmax_t(1) << 40); // takes no room on the disk
+  std::filesystem::resize_file(path, std::uintmax_t(1) << 40); // a sparse file
   EXPECT_THAT(failureOf([&] { readTicket(path); }), HasSubstr("too large"));
 }
 

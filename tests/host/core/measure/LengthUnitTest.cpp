@@ -16,7 +16,7 @@ TEST(LengthUnit, ConvertsWithoutRounding) {
     EXPECT_NEAR(convert(convert(a4, unit), LengthUnit::Millimetre).number, 210, 1e-9);
 }
 
-TEST(LengthUnit, ReadsWhatCupsReads) {
+TEST(LengthUnit, ParsesTheLengthsThatCupsParses) {
   const struct {
     const char *text;
     double points;
@@ -32,12 +32,12 @@ TEST(LengthUnit, ReadsWhatCupsReads) {
        {"", "mm", "10 parsecs", "1in2", "1x2", "1.2.3mm", "- 5", "+-5", "++5", "10mmm"})
     EXPECT_FALSE(readLength(text)) << text;
   EXPECT_EQ(readLength("10", LengthUnit::Inch)->unit, LengthUnit::Inch);
-  EXPECT_FALSE(readLength(std::string(308, '9') + "m")) << "in millimetres it is no number";
+  EXPECT_FALSE(readLength(std::string(308, '9') + "m")) << "infinite in millimetres";
   EXPECT_FALSE(readLength(std::string(400, '9')));
-  EXPECT_FALSE(readLength(std::string("1.pt\0", 5))) << "nothing is cut off";
+  EXPECT_FALSE(readLength(std::string("1.pt\0", 5))) << "no truncation at the null";
 }
 
-TEST(LengthUnit, WritesRoundedNumbersThatAreReadBack) {
+TEST(LengthUnit, FormatsRoundedNumbers) {
   EXPECT_EQ(writeLength({100, LengthUnit::Millimetre}), "100mm");
   EXPECT_EQ(writeLength({100.126, LengthUnit::Millimetre}), "100.13mm");
   EXPECT_EQ(writeLength({4.12345, LengthUnit::Inch}), "4.123in");
@@ -48,7 +48,7 @@ TEST(LengthUnit, WritesRoundedNumbersThatAreReadBack) {
   EXPECT_EQ(plainNumber(1000, 0), "1000");
 }
 
-TEST(LengthUnit, IsUsuallyTheCountrys) {
+TEST(LengthUnit, DefaultsToTheUnitOfTheCountry) {
   const auto usual = [](std::map<std::string, std::string> environment) {
     return usualUnit([=](const char *name) -> const char * {
       const auto found = environment.find(name);

@@ -15,7 +15,7 @@ TEST(Units, AnInchIsSeventyTwoPoints) {
   EXPECT_EQ(toTenthMillimetres({595}).count, 2099); // A4 as printers describe it
 }
 
-TEST(Units, PointsBecomeTheNearestTenth) {
+TEST(Units, PointsAreRoundedToTheNearestTenth) {
   const struct {
     double tenths;
     std::int64_t expected;
@@ -25,12 +25,12 @@ TEST(Units, PointsBecomeTheNearestTenth) {
         << row.tenths;
 }
 
-TEST(Units, EveryOffsetSurvivesTheWayToPointsAndBack) {
+TEST(Units, EveryOffsetSurvivesConversionToPointsAndBack) {
   for (std::int64_t tenths = -200; tenths <= 200; tenths++)
     EXPECT_EQ(toTenthMillimetres(toPoints({tenths})).count, tenths);
 }
 
-TEST(Units, ALengthHasADecimalOnlyWhereThereIsOne) {
+TEST(Units, ALengthHasADecimalOnlyIfItIsNotZero) {
   const struct {
     std::int64_t tenths;
     const char *expected;

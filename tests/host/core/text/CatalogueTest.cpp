@@ -17,19 +17,19 @@ namespace {
 
 const char *const kLanguages[] = {"de", "es", "fr", "it", "ja", "zh_CN"};
 
-/// A text with its translations, of which there are several for a text that goes with a number.
+/// A string with its translations; several if it has plural forms.
 struct Entry {
   std::string english;
   std::vector<std::string> translations;
 };
 
-/// What stands between a line's first and last quotation mark.
+/// The part of a line between its first and last quotation mark.
 std::string betweenQuotes(const std::string &line) {
   const std::size_t first = line.find('"');
   return line.substr(first + 1, line.rfind('"') - first - 1);
 }
 
-/// A catalogue as msgmerge writes it: an entry a paragraph. Its description is left out.
+/// Reads a catalogue as msgmerge writes it, one paragraph per entry. Skips the header.
 std::vector<Entry> readCatalogue(const std::string &language) {
   std::ifstream file(std::string(IMAGEPOSITION_PO) + "/" + language + ".po");
   std::vector<Entry> entries(1);
@@ -50,25 +50,25 @@ std::vector<Entry> readCatalogue(const std::string &language) {
   return entries;
 }
 
-std::set<std::string> marksOf(const std::string &text) {
-  std::set<std::string> marks;
+std::set<std::string> placeholdersIn(const std::string &text) {
+  std::set<std::string> placeholders;
   for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1))
-    marks.insert(text.substr(at, 3));
-  return marks;
+    placeholders.insert(text.substr(at, 3));
+  return placeholders;
 }
 
-TEST(Catalogue, HasTheMarksOfEachTextInItsTranslation) {
+TEST(Catalogue, KeepsThePlaceholdersOfEachStringInItsTranslations) {
   for (const char *language : kLanguages) {
     const auto entries = readCatalogue(language);
     EXPECT_GT(entries.size(), 200U) << language;
     for (const Entry &entry : entries)
       for (const std::string &translation : entry.translations)
-        EXPECT_EQ(marksOf(translation), marksOf(entry.english))
+        EXPECT_EQ(placeholdersIn(translation), placeholdersIn(entry.english))
             << language << ": " << entry.english;
   }
 }
 
-TEST(Catalogue, TranslatesEveryText) {
+TEST(Catalogue, TranslatesEveryString) {
   for (const char *language : kLanguages)
     for (const Entry &entry : readCatalogue(language))
       for (const std::string &translation : entry.translations)
@@ -81,7 +81,7 @@ int windowOf(const std::string &english) {
   return english == "&User name:" || english == "&Password:" ? 1 : 0;
 }
 
-TEST(Catalogue, MarksAKeyWhereEnglishDoesAndNoneTwiceInAWindow) {
+TEST(Catalogue, HasMnemonicsWhereEnglishHasThemAndNoneTwiceInAWindow) {
   for (const char *language : kLanguages) {
     std::map<std::pair<int, std::string>, std::string> taken; // by window and key
     for (const Entry &entry : readCatalogue(language)) {
@@ -101,7 +101,7 @@ TEST(Catalogue, MarksAKeyWhereEnglishDoesAndNoneTwiceInAWindow) {
   }
 }
 
-TEST(Catalogue, EndsASentenceAsASentence) {
+TEST(Catalogue, EndsATranslatedSentenceWithAFullStop) {
   for (const char *language : kLanguages)
     for (const Entry &entry : readCatalogue(language)) {
       const std::string &english = entry.english;

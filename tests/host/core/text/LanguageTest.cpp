@@ -19,7 +19,7 @@ std::vector<std::string> wanted(const std::map<std::string, const char *> &varia
   });
 }
 
-TEST(Language, ComesFromTheEnvironmentTheMoreSpecialVariableFirst) {
+TEST(Language, ComesFromTheMostSpecificEnvironmentVariable) {
   EXPECT_THAT(wanted({}), IsEmpty());
   EXPECT_THAT(wanted({{"LANG", "ja_JP.UTF-8"}}), ElementsAre("ja"));
   EXPECT_THAT(wanted({{"LANG", "ja_JP.UTF-8"}, {"LC_MESSAGES", "de_AT"}}), ElementsAre("de"));
@@ -31,12 +31,12 @@ TEST(Language, ComesFromTheEnvironmentTheMoreSpecialVariableFirst) {
   EXPECT_THAT(wanted({{"LANGUAGE", ":::de::"}, {"LANG", "C.UTF-8"}}), ElementsAre("de", "en"));
 }
 
-TEST(Language, IsEnglishWhereALocaleSaysC) {
+TEST(Language, IsEnglishInTheCLocale) {
   EXPECT_THAT(wanted({{"LC_ALL", "C"}, {"LANGUAGE", "de"}}), ElementsAre("en"));
   EXPECT_THAT(wanted({{"LANG", "POSIX"}}), ElementsAre("en"));
 }
 
-TEST(Language, HasOneNameForItsCatalogue) {
+TEST(Language, IsConvertedToTheNameOfItsCatalogue) {
   const std::map<std::string, std::string> expected{{"de_DE.UTF-8", "de"},
                                                     {"de", "de"},
                                                     {"German", "de"},
@@ -54,25 +54,25 @@ TEST(Language, HasOneNameForItsCatalogue) {
                                                     {"pt_BR", "pt"},
                                                     {"", ""},
                                                     {"_", ""}};
-  for (const auto &[platform, catalogue] : expected)
-    EXPECT_EQ(catalogueName(platform), catalogue) << platform;
+  for (const auto &[name, catalogue] : expected)
+    EXPECT_EQ(catalogueName(name), catalogue) << name;
 }
 
-TEST(Language, IsTheFirstThatThereIsACatalogueFor) {
+TEST(Language, IsTheFirstRequestedOneThatHasACatalogue) {
   EXPECT_EQ(chosenLanguage({"nl", "de", "fr"}, IMAGEPOSITION_CATALOGUES), "de");
   EXPECT_EQ(chosenLanguage({"en", "de"}, IMAGEPOSITION_CATALOGUES), "en");
   EXPECT_EQ(chosenLanguage({"nl"}, IMAGEPOSITION_CATALOGUES), "nl");
   EXPECT_EQ(chosenLanguage({}, IMAGEPOSITION_CATALOGUES), "en");
 }
 
-/// CUPS remembers what it has read of the environment, so that this is a process's own.
+/// Runs in a separate process, because CUPS caches the language of the environment.
 [[noreturn]] void exitWithCupsLanguageFor(const std::string &language) {
   setenv("LC_ALL", "fr_FR.UTF-8", 1);
   speak(language, IMAGEPOSITION_CATALOGUES);
   std::exit(cupsLangDefault()->language == language ? 0 : 1);
 }
 
-TEST(Language, IsCupsLanguageTooWhateverTheLocaleIs) {
+TEST(Language, IsAlsoTheLanguageOfCupsInAnyLocale) {
   for (const char *language : {"de", "ja", "zh_CN", "en"})
     EXPECT_EXIT(exitWithCupsLanguageFor(language), testing::ExitedWithCode(0), "") << language;
 }

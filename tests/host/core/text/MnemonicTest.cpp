@@ -1,4 +1,3 @@
-// The letters that reach controls.
 #include "Mnemonic.hpp"
 
 #include <gtest/gtest.h>
@@ -23,7 +22,7 @@ void expectRead(const Row &row) {
   EXPECT_EQ(mnemonic.keyAt, row.keyAt);
 }
 
-TEST(Mnemonic, TheMarkerStandsBeforeItsLetterAndIsNotShown) {
+TEST(Mnemonic, TheMarkerPrecedesItsLetterAndIsNotShown) {
   const Row rows[] = {
       {"&Printer:", "Printer:", "P", 0},
       {"Pre&set:", "Preset:", "s", 3},
@@ -42,7 +41,7 @@ TEST(Mnemonic, TheMarkerStandsBeforeItsLetterAndIsNotShown) {
     expectRead(row);
 }
 
-TEST(Mnemonic, AnAmpersandIsWrittenTwiceOrWithNoLetterBehindIt) {
+TEST(Mnemonic, ALiteralAmpersandIsDoubledOrHasNoLetterAfterIt) {
   const Row rows[] = {
       {"Cut && fold", "Cut & fold", "", 0},
       {"Cut & fold", "Cut & fold", "", 0},
@@ -62,16 +61,16 @@ TEST(Mnemonic, AnAmpersandIsWrittenTwiceOrWithNoLetterBehindIt) {
     expectRead(row);
 }
 
-TEST(Mnemonic, ATextOfSomebodyElsesGetsTheFirstLetterThatIsFree) {
+TEST(Mnemonic, AThirdPartyLabelGetsItsFirstUnusedLetter) {
   std::string used = "U";
   EXPECT_EQ(withKey("User:", used), "U&ser:");
-  EXPECT_EQ(withKey("Surname:", used), "Su&rname:") << "s and u are taken, small or not";
+  EXPECT_EQ(withKey("Surname:", used), "Su&rname:") << "s and u are used, in either case";
   EXPECT_EQ(withKey("12 holes:", used), "&12 holes:");
   EXPECT_EQ(withKey("Größe:", used), "&Größe:");
   EXPECT_EQ(used, "Usr1G");
 }
 
-TEST(Mnemonic, ATextWithoutAFreeLetterGetsADigitBehindItWhileThereAreAny) {
+TEST(Mnemonic, ALabelWithoutAnUnusedLetterGetsAnUnusedDigit) {
   std::string used = "1us";
   EXPECT_EQ(withKey("文字:", used), "文字:(&2)");
   EXPECT_EQ(withKey("Us", used), "Us(&3)");
@@ -80,7 +79,7 @@ TEST(Mnemonic, ATextWithoutAFreeLetterGetsADigitBehindItWhileThereAreAny) {
   EXPECT_EQ(withKey("ß", used), "ß");
 }
 
-TEST(Mnemonic, ATextOfSomebodyElsesIsShownAsItIs) {
+TEST(Mnemonic, AnEscapedThirdPartyLabelIsShownUnchanged) {
   for (const char *text : {"Cut & fold", "A&B", "&", "&&", "", "&Größe&"}) {
     EXPECT_EQ(readMnemonic(withoutKey(text)).text, text);
     EXPECT_EQ(readMnemonic(withoutKey(text)).key, "") << text;
@@ -91,7 +90,7 @@ TEST(Mnemonic, ATextOfSomebodyElsesIsShownAsItIs) {
   EXPECT_EQ(marked.key, "f");
 }
 
-TEST(Mnemonic, TheFirstOfSeveralMarkersCountsAndNoneIsShown) {
+TEST(Mnemonic, OnlyTheFirstMarkerCountsAndNoneIsShown) {
   const MnemonicText mnemonic = readMnemonic("&Save &as");
   EXPECT_EQ(mnemonic.text, "Save as");
   EXPECT_EQ(mnemonic.key, "S");

@@ -9,7 +9,7 @@ namespace {
 using imageposition::visible;
 using imageposition::VisibleStream;
 
-TEST(VisibleText, HasAnEscapeForEachCharacterThatSteersATerminal) {
+TEST(VisibleText, EscapesEachCharacterThatControlsATerminal) {
   const std::pair<const char *, const char *> kRows[] = {
       {"\x1b[2J", "\\x1b[2J"},
       {"a\r\n\tb", "a\\r\\n\\tb"},
@@ -22,14 +22,14 @@ TEST(VisibleText, HasAnEscapeForEachCharacterThatSteersATerminal) {
   EXPECT_EQ(visible(std::string("a\0b", 3)), "a\\x00b");
 }
 
-TEST(VisibleText, IsAnyOtherTextAsItIs) {
+TEST(VisibleText, LeavesAnyOtherStringUnchanged) {
   for (const char *text :
        {"", "Größe 100 × 200 mm", "文書 🖨", "\\x1b", "שלום\xE2\x80\x8F!", "\xC2\xA0"})
     EXPECT_EQ(visible(text), text);
   EXPECT_EQ(visible(visible("\x1b\n")), visible("\x1b\n"));
 }
 
-TEST(VisibleStream, KeepsLinesAndNothingElseThatSteersATerminal) {
+TEST(VisibleStream, EscapesTerminalControlsExceptNewlines) {
   std::ostringstream stream;
   {
     const VisibleStream shown(stream);
@@ -39,7 +39,7 @@ TEST(VisibleStream, KeepsLinesAndNothingElseThatSteersATerminal) {
   EXPECT_EQ(stream.str(), "a\\x1b\nb\\r\n\\r5ü\n\n\r");
 }
 
-TEST(VisibleStream, FailsWithItsStream) {
+TEST(VisibleStream, FailsIfItsStreamFails) {
   std::ostream nowhere(nullptr);
   struct Full : std::streambuf {
   } full;
