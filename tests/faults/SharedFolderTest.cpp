@@ -140,7 +140,7 @@ TEST_F(SharedFolder, AnotherUsersLinkIsNotFollowedAsAFolderOnTheWayEither) {
     const auto result =
         batch(sample("duplex-shift.ppd"), {"--ticket", folder.path("drop/" + name)});
     EXPECT_EQ(result.status, kTicket) << name << testing::PrintToString(result);
-    EXPECT_THAT(result.errors, HasSubstr("a link that belongs to another user")) << name;
+    EXPECT_THAT(result.errors, HasSubstr("a symbolic link owned by another user")) << name;
   }
   EXPECT_EQ(contentOf(real), R"({"settings": {}})");
   EXPECT_FALSE(fs::exists(folder.path("home/new.json")));
@@ -258,7 +258,7 @@ TEST_F(SharedFolder, AFailureAfterTheTicketWasWrittenSaysWhatWasWritten) {
                   sample("duplex-shift.ppd"), "--summary", "-s", "--ticket", ticket});
   EXPECT_EQ(result.status, kTicket) << testing::PrintToString(result);
   ASSERT_TRUE(fs::exists(ticket));
-  EXPECT_THAT(result.errors, HasSubstr("Standard output cannot be written"));
+  EXPECT_THAT(result.errors, HasSubstr("Cannot write to standard output"));
   EXPECT_THAT(result.errors, HasSubstr(ticket));
   EXPECT_THAT(result.errors, HasSubstr(options));
 }

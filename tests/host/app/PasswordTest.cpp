@@ -29,7 +29,7 @@ TEST_F(PasswordWindow, CancelLeavesTheDialogOpenAndNothingPrinted) {
   press({"Return"}); // and it can be tried again
   ASSERT_TRUE(isAsked());
   press({"Escape"});
-  ASSERT_TRUE(says("ancelled; nothing was printed.\nCancelled"));
+  ASSERT_TRUE(says("ancelled. Nothing was printed.\nCancelled"));
   press({"Escape"});
   EXPECT_EQ(ended().status, kCancelled) << testing::PrintToString(ended());
   EXPECT_EQ(cups.onSocket().run({"lpstat", "-W", "all", "-o"}).output, "");

@@ -44,7 +44,7 @@ TEST_F(Pasteboard, WhoseFolderBelongsToAnotherUserCostsNoPanel) {
   for (const char *key : {"ctrl+c", "ctrl+x", "ctrl+v"}) {
     SCOPED_TRACE(key);
     openWithTemporaryFolder();
-    expectTroubleOnly(key, "\"" + secure + "\" belongs to another user");
+    expectTroubleOnly(key, "another user owns the folder \"" + secure + "\"");
   }
 }
 
@@ -52,7 +52,7 @@ TEST_F(Pasteboard, WithoutAFolderForItCostsNoPanel) {
   for (const char *key : {"ctrl+c", "ctrl+x", "ctrl+v"}) {
     SCOPED_TRACE(key);
     openWithTemporaryFolder();
-    expectTroubleOnly(key, "\"" + temporary + "\" is not a folder that you may write to");
+    expectTroubleOnly(key, "\"" + temporary + "\" is not a folder that you can write to");
   }
 }
 

@@ -45,7 +45,7 @@ TEST_F(SaveTicket, CancelGoesBackToTheDialog) {
 
 TEST_F(SaveTicket, AnotherPlaceCanBeNamedWhereOneCannotBeWritten) {
   save("/nonexistent/job.json");
-  ASSERT_TRUE(says("cannot be written"));
+  ASSERT_TRUE(says("Cannot write "));
   ASSERT_TRUE(becomesTrue([] { return hasKeyboard(); }));
   press({"Return"});
   ASSERT_TRUE(isAsked());

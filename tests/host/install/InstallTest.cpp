@@ -92,7 +92,7 @@ TEST_F(Install, ThePlugInIsFoundWithTheProgram) {
 TEST_F(Install, TheCataloguesAreFoundWithTheProgram) {
   const std::string source = folder->write(
       "de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
-               "msgid \"--set, --back and --summary need --batch.\"\nmsgstr \"Nur so.\"\n");
+               "msgid \"--set, --back and --summary require --batch.\"\nmsgstr \"Nur so.\"\n");
   const std::string catalogue = prefix() + "/share/locale/de/LC_MESSAGES/print-dialog.mo";
   ASSERT_EQ(runProcess({"msgfmt", "-o", catalogue, source}).status, 0);
   const auto result = runProcess({program(), "--ppd", "a.ppd", "--summary"},
@@ -195,7 +195,7 @@ TEST_F(InstallAmongOthers, TheProgramTakesNoLibraryFromBesideIt) {
 TEST_F(InstallAmongOthers, TheProgramTakesNoWordsFromBesideIt) {
   const std::string source = folder.write(
       "de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
-               "msgid \"--set, --back and --summary need --batch.\"\nmsgstr \"Gefälscht.\"\n");
+               "msgid \"--set, --back and --summary require --batch.\"\nmsgstr \"Gefälscht.\"\n");
   std::filesystem::create_directories(place + "/locale/de/LC_MESSAGES");
   const std::string catalogue = place + "/locale/de/LC_MESSAGES/print-dialog.mo";
   ASSERT_EQ(runProcess({"msgfmt", "-o", catalogue, source}).status, 0);

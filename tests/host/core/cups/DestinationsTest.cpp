@@ -65,7 +65,7 @@ TEST_F(PrinterList, DescribesAPrinterThatIsStoppedAndRefusesJobs) {
   EXPECT_EQ(office().stateText, "Stopped: paused");
   command({"cupsreject", "office"});
   EXPECT_FALSE(office().acceptsJobs);
-  EXPECT_EQ(office().stateText, "Stopped: paused; takes no jobs");
+  EXPECT_EQ(office().stateText, "Not accepting jobs (Stopped: paused)");
 }
 
 TEST_F(PrinterList, ListsInstancesAfterTheirQueueWithSeparateDefaults) {
@@ -112,7 +112,7 @@ TEST_F(PrinterList, GivesUpIfCupsHangs) {
   const DestinationList list = readDestinations(std::chrono::milliseconds(300));
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
   EXPECT_TRUE(list.destinations.empty());
-  EXPECT_THAT(list.reason, HasSubstr("does not answer"));
+  EXPECT_THAT(list.reason, HasSubstr("is not responding"));
 }
 
 TEST_F(PrinterList, RefreshesWithoutWaiting) {

@@ -84,7 +84,7 @@ TEST(JobRequest, InvalidPageRangesAreRefusedWithAMessage) {
     FAIL();
   } catch (const Failure &failure) {
     EXPECT_EQ(failure.code(), ExitCode::Usage);
-    EXPECT_THAT(failure.what(), HasSubstr("\"x\" is no page number"));
+    EXPECT_THAT(failure.what(), HasSubstr("\"x\" is not a page range"));
   }
 }
 

@@ -77,10 +77,10 @@ TEST(PageRanges, AnErrorIsExplainedWithAnExample) {
       {"-", "hyphen", "5-"},
       {"1, -, 2", "hyphen", "5-"},
       {"1-2-3", "\"-3\"", "1-3, 7"},
-      {"0", "counted from 1", "1-3"},
-      {"0-3", "counted from 1", "1-3"},
+      {"0", "start at 1", "1-3"},
+      {"0-3", "start at 1", "1-3"},
       {"7-3", "7-3 runs backwards", "Write 3-7"},
-      {"2147483647", "more than a document", "5-"},
+      {"2147483647", "is too large", "5-"},
       {"99999999999999999999", "99999999999999999999", "5-"},
   };
   for (const auto &row : rows) {

@@ -12,7 +12,7 @@ TEST(Summary, ListsEachPanelUnderItsName) {
 }
 
 TEST(Summary, SaysThatAPanelHasNothingToShow) {
-  EXPECT_EQ(writeSummary({{"One", {}}}), "One\n  Not available with the present settings.\n");
+  EXPECT_EQ(writeSummary({{"One", {}}}), "One\n  Not available with the current settings.\n");
 }
 
 TEST(Summary, IsEmptyWithoutPanels) { EXPECT_EQ(writeSummary({}), ""); }

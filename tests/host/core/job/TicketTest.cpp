@@ -82,9 +82,9 @@ TEST(Ticket, AnInvalidTicketIsRefusedWithItsNameAndTheReason) {
   } rows[] = {
       {"", "not JSON"},
       {"{", "not JSON"},
-      {"[]", "no object \"settings\""},
-      {"{}", "no object \"settings\""},
-      {R"({"settings": []})", "no object \"settings\""},
+      {"[]", "the object \"settings\" is missing"},
+      {"{}", "the object \"settings\" is missing"},
+      {R"({"settings": []})", "the object \"settings\" is missing"},
       {R"({"settings": {"a": null}})", "\"a\" is neither"},
       {R"({"settings": {"a": 1.5}})", "\"a\" is neither"},
       {R"({"settings": {"a": true}})", "\"a\" is neither"},
@@ -92,16 +92,16 @@ TEST(Ticket, AnInvalidTicketIsRefusedWithItsNameAndTheReason) {
       {R"({"settings": {"a=b": "1"}})", "\"a=b\""},
       {R"({"settings": {"a": "\u0000"}})", "can carry"},
       {R"({"settings": {"a": "1", "A": "2"}, "locked": ["a"]})", "there twice"},
-      {R"({"settings": {"a": "1", "a": "2"}})", "\"a\" is there twice"},
-      {R"({"settings": {"a": "1", "A": "2"}})", "is there twice"},
-      {R"({"settings": {}, "settings": {"a": "1"}})", "\"settings\" is there twice"},
-      {R"({"settings": {}, "x": [{"b": 1, "b": 1}]})", "\"b\" is there twice"},
+      {R"({"settings": {"a": "1", "a": "2"}})", "\"a\" appears twice"},
+      {R"({"settings": {"a": "1", "A": "2"}})", "appears twice"},
+      {R"({"settings": {}, "settings": {"a": "1"}})", "\"settings\" appears twice"},
+      {R"({"settings": {}, "x": [{"b": 1, "b": 1}]})", "\"b\" appears twice"},
       {R"({"settings": {"touch$IFS$HOME/x;A": "1"}})", "\"touch$IFS$HOME/x;A\""},
       {R"({"settings": {"A\u0007": "1"}})", "can carry"},
-      {R"({"settings": {}, "locked": "a"})", "list of names"},
-      {R"({"settings": {}, "locked": [1]})", "list of names"},
+      {R"({"settings": {}, "locked": "a"})", "list of strings"},
+      {R"({"settings": {}, "locked": [1]})", "list of strings"},
       {R"({"settings": {}, "documents": "a"})", "\"documents\" is not a list"},
-      {R"({"settings": {}, "printer": 1})", "\"printer\" is not a text"},
+      {R"({"settings": {}, "printer": 1})", "\"printer\" is not a string"},
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(row.text);
@@ -143,7 +143,7 @@ TEST(TicketFile, APipeIsRefusedWithoutReadingIt) {
   TemporaryFolder folder;
   ASSERT_EQ(mkfifo(folder.path("job.json").c_str(), 0600), 0);
   EXPECT_THAT(failureOf([&] { readTicket(folder.path("job.json")); }),
-              HasSubstr("not an ordinary file"));
+              HasSubstr("not a regular file"));
 }
 
 TEST(TicketFile, AFolderIsRefused) {
@@ -191,7 +191,7 @@ TEST(TicketFile, TheLocationIsCheckedWithoutChangingAnything) {
   EXPECT_THAT(failureOf([&] { imageposition::checkTicketPlace(folder.path("none/job.json")); }),
               HasSubstr("none/job.json"));
   EXPECT_THAT(failureOf([] { imageposition::checkTicketPlace("/dev/null"); }),
-              HasSubstr("ordinary file"));
+              HasSubstr("regular file"));
 }
 
 TEST(TicketFile, ReplacingKeepsThePermissionsAndTheSymbolicLink) {

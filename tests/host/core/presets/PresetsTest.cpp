@@ -203,7 +203,7 @@ TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
   } rows[] = {
       {"MediaType", "labels", nullptr},
       {"MediaType", "Gold",
-       "\"Kind of Paper\" has this printer's default: the printer does not offer"},
+       "\"Kind of Paper\" to this printer's default: the printer does not offer"},
       {"Stapler", "true", nullptr},
       {"Saddle", "On", "\"Saddle\" (On) was left out"},
       {"copies", "2", nullptr},
@@ -211,7 +211,7 @@ TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
       {"LeftRightMargin", "0", nullptr},
       {"LeftRightMargin", "-50", nullptr},
       {"LeftRightMargin", "Custom.50", nullptr},
-      {"LeftRightMargin", "7.5", "no whole number"},
+      {"LeftRightMargin", "7.5", "must be a whole number"},
       {"LeftRightMargin", "Custom", "does not offer \"Custom\""},
       {"LeftRightMargin", "much", "does not offer \"much\""},
       {"Watermark", "Custom.Mine", nullptr},
@@ -288,14 +288,14 @@ TEST_F(PresetsTest, AFileThatCannotBeWrittenIsNamedAndStays) {
               HasSubstr("home/.cups/lpoptions"));
   setenv("HOME", "/dev/null", 1);
   EXPECT_THAT(failureOf([&] { presets.save("draft", PrintSettingsStore()); }, ExitCode::Printer),
-              HasSubstr("cannot be changed"));
+              HasSubstr("Cannot change the presets"));
 }
 
 TEST_F(PresetsTest, ALinkThatLeadsToNoFileIsNamedWithItsReason) {
   folder.write("home/.cups/.keep", "");
   std::filesystem::create_symlink("/dev/null", folder.path("home/.cups/lpoptions"));
   EXPECT_THAT(failureOf([&] { presets.save("draft", PrintSettingsStore()); }, ExitCode::Printer),
-              testing::AllOf(HasSubstr("home/.cups/lpoptions"), HasSubstr("not an ordinary file")));
+              testing::AllOf(HasSubstr("home/.cups/lpoptions"), HasSubstr("not a regular file")));
 }
 
 TEST_F(PresetsTest, APipeInTheirPlaceIsNamedAndNotWaitedFor) {

@@ -46,7 +46,7 @@ TEST(LargePrinter, NamesTheFirstConflictsAndCountsTheOthers) {
   EXPECT_THAT(conflicts.sentences(2),
               ElementsAre("The printer cannot combine \"O1: Bad\" and \"O0: Bad\".",
                           "The printer cannot combine \"O2: Bad\" and \"O0: Bad\".",
-                          "There are 44848 more such conflicts."));
+                          "There are 44848 more conflicts."));
   EXPECT_FALSE(conflicts.proposal("O1")) << "three hundred changes are nothing to read";
 }
 
@@ -84,17 +84,18 @@ TEST(LargePrinter, HasEveryChoiceOfAListThatTakesAllOfThem) {
 
 TEST(LargePrinter, IsRefusedWhereLibcupsWouldReadItForMinutes) {
   EXPECT_THAT(refusalOf(manyOptions(10000)), IsEmpty());
-  EXPECT_THAT(refusalOf(manyOptions(12000)), testing::HasSubstr("larger than any printer's"));
+  EXPECT_THAT(refusalOf(manyOptions(12000)),
+              testing::HasSubstr("too large for a printer description"));
   std::string byTurns = kPpdBeginning;
   for (int i = 0; i < 20000; i++)
     byTurns += "*Name X" + std::to_string(i) + ": \"\"\n*Other X" + std::to_string(i) + ": \"\"\n";
-  EXPECT_THAT(refusalOf(byTurns), testing::HasSubstr("larger than any printer's"));
+  EXPECT_THAT(refusalOf(byTurns), testing::HasSubstr("too large for a printer description"));
 }
 
 TEST(LargePrinter, IsRefusedWhereItsConstraintsWouldBeReadForMinutes) {
   EXPECT_THAT(refusalOf(pairsOfChoices(5000, 5000)), IsEmpty());
   EXPECT_THAT(refusalOf(pairsOfChoices(20000, 20000)),
-              testing::HasSubstr("larger than any printer's"));
+              testing::HasSubstr("too large for a printer description"));
 }
 
 TEST(LargePrinter, LeavesOutWhatThePaneHasNoRoomFor) {

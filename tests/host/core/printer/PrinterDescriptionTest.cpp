@@ -105,7 +105,7 @@ TEST(PrinterDescription, ACupsThatIsNotRunningIsNamedWithWhatToDo) {
   } catch (const Failure &failure) {
     EXPECT_EQ(failure.code(), ExitCode::Printer);
     EXPECT_THAT(failure.what(), HasSubstr("no-such-queue/draft"));
-    EXPECT_THAT(failure.what(), HasSubstr("cannot be reached at \"/nonexistent/cups.sock\""));
+    EXPECT_THAT(failure.what(), HasSubstr("Cannot reach CUPS at \"/nonexistent/cups.sock\""));
     EXPECT_THAT(failure.what(), HasSubstr("CUPS_SERVER"));
   }
 }

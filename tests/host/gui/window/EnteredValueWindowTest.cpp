@@ -107,7 +107,7 @@ TEST_F(EnteredValue, OfThePageIsCheckedWhileItIsTypedShownAndPrinted) {
   ASSERT_TRUE(asks(window, "Media Size"));
   EXPECT_TRUE(window.says("70.56 to 246.94 mm"));
   window.write("1000"); // instead of the width, which is selected
-  EXPECT_TRUE(window.says("Width: that is out of range. Enter 70.56 to 246.94 mm."));
+  EXPECT_TRUE(window.says("Width is out of range. Enter 70.56 to 246.94 mm."));
   window.press("Return");
   EXPECT_TRUE(window.hasKeyboard("Media Size")) << "it waits for something better";
   window.enter("Width:", "100");
@@ -153,7 +153,7 @@ TEST_F(EnteredValue, IsAskedForWithTheFocusInOneFieldAndWhatIsWrongInAnyOfThem) 
   window.write("1");
   EXPECT_TRUE(window.says("Height: that is out of range."));
   window.write("50");
-  EXPECT_TRUE(window.says("Width: that is out of range.")) << "the height is 150";
+  EXPECT_TRUE(window.says("Width is out of range.")) << "the height is 150";
   window.press("Return");
   EXPECT_TRUE(window.becomes([](const Screen &shown) { return hasRing(shown, "Width:"); }));
   window.write("100");
@@ -201,7 +201,7 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
     window.press(key);   // a hidden text is not copied, see `shown`
   window.press("alt+c"); // to the code
   window.write("12a4");
-  EXPECT_TRUE(window.says("Code: enter digits only."));
+  EXPECT_TRUE(window.says("Code must consist of digits."));
   window.press("ctrl+a");
   window.write("0123");
   EXPECT_TRUE(window.becomes([](const Screen &shown) { return !shown.says("digits only"); }));

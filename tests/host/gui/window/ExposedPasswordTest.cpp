@@ -15,12 +15,12 @@ protected:
     all.insert(all.end(), words.begin(), words.end());
     PrintWindow window(all, cups.environment());
     window.press("Return");
-    EXPECT_TRUE(window.says("Enter your name and password"));
+    EXPECT_TRUE(window.says("requires a user name and password"));
     bool warns = false;
     for (const Control &control : window.screen().controls)
       warns = warns || control.text.find("not encrypted") != std::string::npos;
     window.press("Escape");
-    EXPECT_TRUE(window.says("nothing was printed"));
+    EXPECT_TRUE(window.says("Nothing was printed"));
     return warns;
   }
 };

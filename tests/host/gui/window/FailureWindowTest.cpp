@@ -88,7 +88,7 @@ TEST_F(Failing, ACupsThatIsStoppedMeanwhileIsSaidAndPrintWorksOnceItRunsAgain) {
   fillIn(window);
   cups().stop();
   window.click("Print");
-  ASSERT_TRUE(window.says("CUPS does not answer"));
+  ASSERT_TRUE(window.says("CUPS is not responding"));
   EXPECT_FALSE(window.process().hasEnded());
   expectAllIsStillThere(window);
   cups().start();
@@ -113,7 +113,7 @@ TEST_F(Failing, AQueueThatRefusesMeanwhileIsSaidAndPrintWorksOnceItAccepts) {
   fillIn(window);
   command({"cupsreject", "office"});
   window.click("Print");
-  ASSERT_TRUE(window.says("takes no jobs at present"));
+  ASSERT_TRUE(window.says("is not accepting jobs"));
   expectAllIsStillThere(window);
   command({"cupsaccept", "office"});
   window.click("Print");
@@ -125,10 +125,10 @@ TEST_F(Failing, APausedQueueTakesTheJobAndItIsSaidWhatResumesIt) {
   fillIn(window);
   command({"cupsdisable", "office"});
   window.click("Print");
-  closeNote(window, "does not print at present", "Return");
+  closeNote(window, "is not printing", "Return");
   const int job = jobOf(window.ended());
   EXPECT_THAT(window.ended().errors,
-              AllOf(HasSubstr("does not print at present"), HasSubstr("cupsenable office")));
+              AllOf(HasSubstr("is not printing"), HasSubstr("cupsenable office")));
   EXPECT_THAT(waitingJobs(), HasSubstr("office-" + std::to_string(job)));
   EXPECT_FALSE(hasPrinted(job));
   command({"cupsenable", "office"});
@@ -139,10 +139,9 @@ TEST_F(Failing, AHeldJobIsKeptAndItIsSaidWhatReleasesIt) {
   PrintWindow window({"-d", "office", "-o", "job-hold-until=indefinite", document()});
   fillIn(window);
   window.click("Print");
-  closeNote(window, "held until it is released", "Escape");
+  closeNote(window, "is on hold", "Escape");
   const std::string name = "office-" + std::to_string(jobOf(window.ended()));
-  EXPECT_THAT(window.ended().errors,
-              AllOf(HasSubstr("held until it is released"), HasSubstr("-i " + name)));
+  EXPECT_THAT(window.ended().errors, AllOf(HasSubstr("is on hold"), HasSubstr("-i " + name)));
   EXPECT_THAT(waitingJobs(), HasSubstr(name));
   EXPECT_EQ(printedCount(), 0);
   command({"lp", "-i", name, "-H", "resume"});
@@ -163,7 +162,7 @@ TEST_F(Failing, ALargeDocumentIsStreamedWithProgressAndCancelledLeavesNothing) {
   }));
   window.click("Cancel");
   cups().send(SIGCONT);
-  ASSERT_TRUE(window.says("nothing was printed"));
+  ASSERT_TRUE(window.says("Nothing was printed"));
   EXPECT_FALSE(window.process().hasEnded());
   EXPECT_THAT(waitingJobs(), IsEmpty());
   expectAllIsStillThere(window);
@@ -195,7 +194,7 @@ TEST_F(Failing, WhileADocumentIsSentNothingButCancelCanBeUsedAndThenEverythingAs
     window.press(key);
   window.press("Escape");
   cups().send(SIGCONT);
-  ASSERT_TRUE(window.says("nothing was printed"));
+  ASSERT_TRUE(window.says("Nothing was printed"));
   EXPECT_EQ(window.screen().keyWindow, "Print"); // and no help
   EXPECT_EQ(usable(window), before);
   expectAllIsStillThere(window);
@@ -221,7 +220,7 @@ TEST_F(Failing, APanelWithoutAViewSaysSoInItsPaneAndIsAskedForNothingElse) {
                      {"FIXTURE_BEHAVIOUR=no view", "FIXTURE_JOURNAL=" + journal});
   EXPECT_TRUE(window.becomes([](const Screen &shown) {
     return shown.find("popup", "Fixture Panel") != nullptr &&
-           shown.says("Fixture.plugin\" has no view. Install it again.");
+           shown.says("Fixture.plugin\" has no view. Reinstall the plug-in.");
   }));
   window.click("Print");
   printed(jobOf(window.ended()));

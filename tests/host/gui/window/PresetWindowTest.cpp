@@ -135,7 +135,7 @@ TEST_F(PresetOfAnotherPrinter, SaysWhatThePanelMakesOfAValueThatTheDescriptionAl
   saveOnOffice({false, {80, -7, 0, 0}});
   PrintWindow window(onQueue("small"));
   window.choose("Preset:", "office/far");
-  EXPECT_TRUE(window.says("The panel made \"50\" of \"80\" for Front Left-Right."));
+  EXPECT_TRUE(window.says("The panel changed Front Left-Right from \"80\" to \"50\"."));
   EXPECT_TRUE(shows(window, kLeftRight, "50"));
   cancel(window);
 }

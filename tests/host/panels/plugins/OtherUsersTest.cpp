@@ -80,7 +80,7 @@ TEST_F(OtherUsers, CannotReplaceAPluginsCodeThroughTheUsersOwnGroup) {
     words.insert(words.end(), program.begin(), program.end());
   }
   const auto result = runProcess(words, {"FIXTURE_JOURNAL=" + journal});
-  expectUnheard(result, "other users may change \"" + bundle + "/Fixture\"");
+  expectUnheard(result, "other users can modify \"" + bundle + "/Fixture\"");
   EXPECT_THAT(result.errors, HasSubstr("chmod go-w \"" + bundle + "/Fixture\""));
 }
 
@@ -203,7 +203,7 @@ TEST_F(OtherUsers, CannotUseAPathThatDependsOnAnOpenFolder) {
   const std::string open = openFolder();
   fs::rename(copy(), open + "/Copy.plugin");
   const WorkingFolder here(open);
-  expectUnheard(load("Copy.plugin"), "other users may change \"" + open + "\"");
+  expectUnheard(load("Copy.plugin"), "other users can modify \"" + open + "\"");
 }
 
 } // namespace

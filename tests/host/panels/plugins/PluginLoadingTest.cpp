@@ -93,7 +93,7 @@ TEST_F(PluginLoading, WhatAnEntryFieldsActionRaisesDoesNoHarm) {
 }
 
 TEST_F(PluginLoading, EachAnswerThatIsNoPanelIsNamed) {
-  expectLeftOut(behave("refuse"), "could not be loaded");
+  expectLeftOut(behave("refuse"), "was not loaded");
   expectLeftOut(behave("no array"), "could not be loaded");
   expectLeftOut(behave("stranger"), "lacks \"panelView\"");
   expectLeftOut(behave("no view"), "has no view");
@@ -145,7 +145,7 @@ TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
   const std::string foreign = copy("foreign.plugin");
   std::ofstream(foreign + "/Resources/Info-gnustep.plist")
       << "{ NSExecutable = Fixture; NSPrincipalClass = NSObject; }";
-  expectLeftOut(load(foreign, ""), "in use already");
+  expectLeftOut(load(foreign, ""), "already loaded");
 
   const std::string garbled = copy("garbled.plugin");
   std::ofstream(garbled + "/Resources/Info-gnustep.plist") << "{{{ not a property list";
@@ -174,7 +174,7 @@ TEST_F(PluginLoading, WhatOtherUsersMayChangeIsLeftOut) {
                                   bundle + "/Resources/Info-gnustep.plist"}) {
     fs::permissions(part, everybody, fs::perm_options::add);
     expectUnheard(load(bundle),
-                  "Copy.plugin\" was not loaded: other users may change \"" + part + "\"");
+                  "Copy.plugin\" was not loaded: other users can modify \"" + part + "\"");
     fs::permissions(part, everybody, fs::perm_options::remove);
   }
   EXPECT_EQ(load(bundle, "").status, kDone);
@@ -222,10 +222,10 @@ TEST_F(PluginLoading, ThePanelWithoutItsInterfaceFileHasNoView) {
     const std::string bundle = place.path("Broken.plugin");
     fs::copy(IMAGE_POSITION_PLUGIN, bundle, fs::copy_options::recursive);
     std::ofstream(bundle + "/Resources/ImagePositionAdjustPrint.xib") << content;
-    expectLeftOut(load(bundle, ""), "has no view. Install it again.");
-    expectLeftOut(load(bundle, "", {"--set", "FrontLRM=1"}), "has no view. Install it again.");
+    expectLeftOut(load(bundle, ""), "has no view. Reinstall the plug-in.");
+    expectLeftOut(load(bundle, "", {"--set", "FrontLRM=1"}), "has no view. Reinstall the plug-in.");
     fs::remove(bundle + "/Resources/ImagePositionAdjustPrint.xib");
-    expectLeftOut(load(bundle, ""), "has no view. Install it again.");
+    expectLeftOut(load(bundle, ""), "has no view. Reinstall the plug-in.");
   }
 }
 
