@@ -18,9 +18,9 @@ constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEP
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Fault, message); }
 
-/// Whether another user could have put the file there, for example beside a program in /tmp. Group
-/// permissions do not count: a group that can replace the module can replace the program, too.
-bool isStrangers(const std::string &path) {
+/// Whether another user could have put the file there, for example next to a program in /tmp. Group
+/// permissions are ignored: a group that can replace the module can replace the program, too.
+bool isUntrusted(const std::string &path) {
   struct stat module {
   }, program{};
   if (lstat(path.c_str(), &module) != 0 || stat("/proc/self/exe", &program) != 0)
@@ -36,7 +36,7 @@ std::string moduleFile() {
   for (const std::string &path : {besideProgram(kBesideProgram), installed}) {
     if (path.empty() || !std::filesystem::exists(path, ignored))
       continue;
-    if (!isStrangers(path))
+    if (!isUntrusted(path))
       return path;
     refused = messages::moduleUntrusted(path);
   }
@@ -47,9 +47,9 @@ std::string moduleFile() {
 
 ModuleEntry &loadGnustepModule() {
   const std::string path = moduleFile();
-  if (isCutShort(path)) // the loader would end the program
+  if (isCutShort(path)) // dlopen would crash
     refuse(messages::moduleNotLoadable(path, messages::kCutShort));
-  // Global, since plug-ins take the print-settings interface and GNUstep from the process.
+  // Global, because plug-ins resolve the print-settings interface and GNUstep from the process.
   void *const module = dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL);
   void *const entry = module != nullptr ? dlsym(module, kModuleEntry) : nullptr;
   if (entry == nullptr)

@@ -1,4 +1,4 @@
-/// The module that has all of the program that needs GNUstep: the window, and plug-ins' panels.
+/// The module with everything that needs GNUstep: the window and the plug-ins' panels.
 #ifndef IMAGEPOSITION_APP_GNUSTEPMODULE_HPP
 #define IMAGEPOSITION_APP_GNUSTEPMODULE_HPP
 
@@ -6,11 +6,11 @@
 
 namespace imageposition {
 
-/// Loads the module for good and returns its entry. GNUstep copies the environment and the
-/// arguments as they are at that moment.
+/// Loads the module and returns its entry point. The module is never unloaded. GNUstep copies the
+/// environment and the arguments at this point.
 ///
-/// The module is taken from beside the program or from where it is installed with it, and only if
-/// no other user could have changed it. Throws a `Failure` with `ExitCode::Fault`.
+/// Looks next to the program, then where the module is installed with it, and refuses a file that
+/// another user could have modified. Throws a `Failure` with `ExitCode::Fault`.
 ModuleEntry &loadGnustepModule();
 
 } // namespace imageposition

@@ -1,4 +1,4 @@
-/// Messages about the start of the program.
+/// Messages about starting the program.
 #ifndef IMAGEPOSITION_APP_PROGRAMTEXTS_HPP
 #define IMAGEPOSITION_APP_PROGRAMTEXTS_HPP
 
@@ -10,13 +10,13 @@ namespace imageposition::messages {
 
 std::string documentUnreadable(const std::string &path, const std::string &reason);
 
-/// GNUstep's configuration, as the environment names it, is not used because of `part`.
+/// `GNUSTEP_CONFIG_FILE` is ignored because another user could modify `part`.
 std::string configurationUntrusted(const std::string &part);
 
-// The module that has the window and the panels. `path` is its file.
+// About the GNUstep module. `path` is the module's file.
 std::string moduleMissing(const std::string &path);
 std::string moduleUntrusted(const std::string &path);
-/// `reason` is the loader's.
+/// `reason` comes from `dlerror`.
 std::string moduleNotLoadable(const std::string &path, const std::string &reason);
 extern const Text kCutShort;
 

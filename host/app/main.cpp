@@ -33,8 +33,8 @@ void checkDocument(const std::string &path) {
                   messages::documentUnreadable(path, systemReason(isFolder ? EISDIR : errno)));
 }
 
-/// For every thread: libcups keeps what its own functions set for one thread alone.
-void takeOverEnvironment(const Arguments &arguments) {
+/// Uses environment variables because libcups's setters affect only the calling thread.
+void setEnvironment(const Arguments &arguments) {
   const std::pair<const char *, std::string> variables[] = {
       {"CUPS_SERVER", arguments.server},
       {"CUPS_USER", arguments.user},
@@ -57,10 +57,10 @@ ExitCode listOptions(const Arguments &arguments) {
   return ExitCode::Done;
 }
 
-/// With everything that GNUstep must not see taken away before it is loaded.
+/// Cleans the environment before GNUstep is loaded and reads it.
 ExitCode runOnGnustep(const Arguments &arguments) {
-  leaveOutForeignVariables();
-  if (const auto part = leaveOutPlatformVariables())
+  removeVariablesThatAreNotUtf8();
+  if (const auto part = removeGnustepVariables())
     std::cerr << messages::kProgram << messages::configurationUntrusted(part->path) << '\n';
   return loadGnustepModule()(arguments);
 }
@@ -73,7 +73,7 @@ ExitCode run(const std::vector<std::string> &words) {
     return ExitCode::Done;
   }
   const Arguments &arguments = std::get<Arguments>(request);
-  takeOverEnvironment(arguments);
+  setEnvironment(arguments);
   const TerminalWarning warning(std::cerr);
   for (const std::string &path : arguments.documents)
     if (path != "-")
@@ -85,7 +85,7 @@ ExitCode runProgram(int argc, char **argv) {
   const std::string catalogues = catalogueFolder();
   speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
   const std::vector<std::string> words(argv + 1, argv + argc);
-  refuseForeignArguments(words);
+  requireUtf8Arguments(words);
   return run(words);
 }
 
@@ -94,8 +94,8 @@ ExitCode runProgram(int argc, char **argv) {
 int main(int argc, char **argv) {
   keepStandardDescriptors();
   const VisibleStream output(std::cout), errors(std::cerr);
-  // A write beyond the limit for files then fails instead of ending the program. Programs that it
-  // starts do not inherit the handler, and end as ever.
+  // A write beyond the file-size limit then fails instead of killing the program. Child processes
+  // do not inherit the handler.
   std::signal(SIGXFSZ, [](int) {});
   return static_cast<int>(exitCodeOf([=] { return runProgram(argc, argv); }, std::cerr));
 }

@@ -1,17 +1,17 @@
-/// The module's one entry: what the program calls when it needs a window or a panel.
+/// The module's only entry point, called when the program needs a window or a panel.
 #ifndef IMAGEPOSITION_GNUSTEP_ENTRY_HPP
 #define IMAGEPOSITION_GNUSTEP_ENTRY_HPP
 
 #include "CommandLine.hpp"
 #include "ExitCode.hpp"
 
-/// Shows the window, or sets panels without one, and prints. Writes what fails to standard error,
-/// and throws nothing. Call it once, on the main thread. `arguments` stays the caller's.
+/// Shows the window, or operates the panels without one, and prints. Writes errors to standard
+/// error and never throws. Call it once, on the main thread. `arguments` is borrowed.
 extern "C" imageposition::ExitCode printDialogRun(const imageposition::Arguments &arguments);
 
 namespace imageposition {
 
-/// As the dynamic loader knows it.
+/// The symbol to look up with `dlsym`.
 constexpr const char *kModuleEntry = "printDialogRun";
 using ModuleEntry = decltype(printDialogRun);
 

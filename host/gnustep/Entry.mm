@@ -50,7 +50,7 @@ ExitCode runInBatch(PrintJob &job) {
 ExitCode runInWindow(PrintJob &job) {
   const Arguments &arguments = job.arguments();
   if (!arguments.ticket.empty())
-    checkTicketPlace(arguments.ticket); // before the user has set anything that would be lost
+    checkTicketPlace(arguments.ticket); // before the user enters settings that would be lost
   PrintSession session(job);
   startPasteboardOnDemand();
   startApplication();
@@ -63,13 +63,13 @@ ExitCode runInWindow(PrintJob &job) {
   return ExitCode::Done;
 }
 
-/// A job that CUPS has taken is a success even if nobody can read so: a script that saw a failure
-/// would print it again.
+/// A job that CUPS has accepted is a success even if standard output cannot be written: a script
+/// that saw a failure would print the job again.
 void requireOutputUnlessSent(const PrintJob &job) {
   if (job.sentName().empty())
     requireOutput(job.done());
   else if (!std::cout.flush())
-    std::cerr << messages::kProgram << messages::jobSentUnsaid(job.sentName()) << '\n';
+    std::cerr << messages::kProgram << messages::jobSentWithoutOutput(job.sentName()) << '\n';
 }
 
 ExitCode run(const Arguments &arguments) {
@@ -79,7 +79,7 @@ ExitCode run(const Arguments &arguments) {
   agreeOnLanguage();
   PrintJob job(arguments);
   setPlatformDefaults();
-  std::signal(SIGPIPE, SIG_IGN); // a reader that has gone must not end it amid a job
+  std::signal(SIGPIPE, SIG_IGN); // a closed pipe must not kill the program during a job
   const ExitCode code = arguments.isBatch ? runInBatch(job) : runInWindow(job);
   requireOutputUnlessSent(job);
   return code;

@@ -1,4 +1,4 @@
-/// Messages about a run with a window or panels as a whole.
+/// Messages about a whole run with a window or panels.
 #ifndef IMAGEPOSITION_GNUSTEP_ENTRYTEXTS_HPP
 #define IMAGEPOSITION_GNUSTEP_ENTRYTEXTS_HPP
 
@@ -9,9 +9,9 @@
 
 namespace imageposition::messages {
 
-/// `plugins`: the paths of those that were asked.
+/// `plugins`: the paths of the plug-ins that were tried.
 std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins);
-std::string jobSentUnsaid(const std::string &job);
+std::string jobSentWithoutOutput(const std::string &job);
 
 } // namespace imageposition::messages
 

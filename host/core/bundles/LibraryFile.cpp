@@ -12,7 +12,7 @@ namespace {
 
 constexpr unsigned char kOwnClass = sizeof(void *) == 8 ? ELFCLASS64 : ELFCLASS32;
 constexpr std::size_t kMostEntries = 65536;
-constexpr std::size_t kLongestText = 65536; // of a name or a list of folders
+constexpr std::size_t kLongestString = 65536; // of a name or a list of folders
 
 using Segment = ElfW(Phdr);
 using Entry = ElfW(Dyn);
@@ -28,12 +28,12 @@ bool isForThisProcessor(const ElfW(Ehdr) & header) {
          header.e_ident[EI_CLASS] == kOwnClass && header.e_phentsize == sizeof(Segment);
 }
 
-/// Whether the part of a file that is described lies within its size.
+/// Whether the range lies within a file of this size.
 bool isWithin(std::uint64_t offset, std::uint64_t length, std::uint64_t size) {
   return length <= size && offset <= size - length;
 }
 
-/// A library's segments, and what is in them.
+/// A library's segments and their contents.
 class Library {
 public:
   explicit Library(const std::string &path) : file_(path, std::ios::binary | std::ios::ate) {
@@ -53,12 +53,12 @@ public:
     }
   }
 
-  /// False for any other file than a library for this processor.
+  /// True for a library for this processor.
   bool isOwnKind() const { return isOwnKind_; }
-  /// False when a segment lies beyond the file's end.
+  /// False if a segment extends beyond the end of the file.
   bool isWhole() const { return isWhole_; }
 
-  /// Up to the entry that ends the dynamic section; none when that is missing.
+  /// The dynamic section without its terminating entry; none if that entry is missing.
   std::optional<std::vector<Entry>> dynamicEntries() {
     const auto segment = std::find_if(segments_.begin(), segments_.end(), [](const Segment &each) {
       return each.p_type == PT_DYNAMIC;
@@ -78,19 +78,20 @@ public:
     return std::nullopt;
   }
 
-  /// The string at an address of the loaded library; none when no segment has it whole.
+  /// The string at an address of the loaded library; none if no segment contains all of it.
   std::optional<std::string> stringAt(std::uint64_t address) {
     for (const Segment &segment : segments_) {
       if (segment.p_type != PT_LOAD || !isWithin(segment.p_offset, segment.p_filesz, size_) ||
           address < segment.p_vaddr || address - segment.p_vaddr >= segment.p_filesz)
         continue;
       const std::uint64_t within = address - segment.p_vaddr;
-      std::string text(std::min<std::uint64_t>(segment.p_filesz - within, kLongestText), '\0');
+      std::string string(std::min<std::uint64_t>(segment.p_filesz - within, kLongestString), '\0');
       file_.clear();
       file_.seekg(static_cast<std::streamoff>(segment.p_offset + within));
-      file_.read(&text[0], static_cast<std::streamsize>(text.size()));
-      const std::size_t end = text.find('\0');
-      return file_ && end != std::string::npos ? std::optional(text.substr(0, end)) : std::nullopt;
+      file_.read(&string[0], static_cast<std::streamsize>(string.size()));
+      const std::size_t end = string.find('\0');
+      return file_ && end != std::string::npos ? std::optional(string.substr(0, end))
+                                               : std::nullopt;
     }
     return std::nullopt;
   }
@@ -103,7 +104,7 @@ private:
   bool isWhole_ = true;
 };
 
-/// Where an entry's string goes; null when the entry is not about other libraries.
+/// Where to store an entry's string; null if the entry does not concern other libraries.
 std::string *placeFor(const Entry &entry, LibraryNeeds &needs) {
   switch (entry.d_tag) {
   case DT_NEEDED:
@@ -142,10 +143,10 @@ std::optional<LibraryNeeds> readNeeds(const std::string &path) {
       continue;
     if (strings == entries->end())
       return std::nullopt;
-    const auto text = library.stringAt(std::uint64_t{strings->d_un.d_ptr} + entry.d_un.d_val);
-    if (!text)
+    const auto string = library.stringAt(std::uint64_t{strings->d_un.d_ptr} + entry.d_un.d_val);
+    if (!string)
       return std::nullopt;
-    *place = *text;
+    *place = *string;
   }
   return needs;
 }

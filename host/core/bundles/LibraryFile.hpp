@@ -1,6 +1,6 @@
-/// A look at a library's file before it is loaded.
-#ifndef IMAGEPOSITION_HOST_LIBRARYFILE_HPP
-#define IMAGEPOSITION_HOST_LIBRARYFILE_HPP
+/// Inspecting a library's file before it is loaded.
+#ifndef IMAGEPOSITION_CORE_BUNDLES_LIBRARYFILE_HPP
+#define IMAGEPOSITION_CORE_BUNDLES_LIBRARYFILE_HPP
 
 #include <optional>
 #include <string>
@@ -8,20 +8,19 @@
 
 namespace imageposition {
 
-/// True for a library whose end is missing, as a full disk or a broken copy leaves it. The loader
-/// finds fault with every other kind of file by itself; with this one it ends the program.
+/// True for a truncated library, for example after copying to a full disk. The dynamic loader
+/// reports other damaged files, but crashes the program on this one.
 bool isCutShort(const std::string &path);
 
-/// What the loader loads with a library, as the library's dynamic section has it (elf(5),
-/// ld.so(8)).
+/// A library's dependencies, from its dynamic section (elf(5), ld.so(8)).
 struct LibraryNeeds {
-  std::vector<std::string> libraries; ///< Names, or paths when there is a slash in them.
-  /// Folders to look for them in, separated by colons.
+  std::vector<std::string> libraries; ///< Names, or paths if they contain a slash.
+  /// Folders to search, separated by colons.
   std::optional<std::string> runPath, oldRunPath; // DT_RUNPATH, DT_RPATH
 };
 
-/// Nothing at all for a file that is no library of this processor, which the loader refuses. None
-/// for a library whose dynamic section cannot be made sense of.
+/// Empty for a file that is not a library for this processor, which the loader refuses. None for a
+/// library whose dynamic section is malformed.
 std::optional<LibraryNeeds> readNeeds(const std::string &path);
 
 } // namespace imageposition

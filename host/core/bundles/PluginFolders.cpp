@@ -64,8 +64,8 @@ std::vector<std::string> bundlesIn(const std::string &folder) {
 
 std::vector<std::string> findPlugins(const PluginNames &names,
                                      const std::vector<std::string> &folders) {
-  if (!names.fromPerson.empty())
-    return withoutRepetition(names.fromPerson);
+  if (!names.fromUser.empty())
+    return withoutRepetition(names.fromUser);
   const auto named = bundlesNamed(names.fromPrinter, folders);
   if (!named.empty())
     return withoutRepetition(named);

@@ -17,7 +17,7 @@ namespace {
 using Reason = UntrustedPlace::Reason;
 using Folders = std::vector<std::string>;
 
-/// The loader takes an empty entry for the current folder, and so does this.
+/// Like the loader, reads an empty entry as the current folder.
 Folders foldersIn(const std::optional<std::string> &runPath) {
   Folders folders;
   for (std::size_t from = 0; runPath && from <= runPath->size();) {
@@ -46,8 +46,8 @@ class Search {
 public:
   explicit Search(const TrustedPeople &people) : people_(people) {}
 
-  /// `inherited` are the folders of the older kind of run path (DT_RPATH), which also counts for
-  /// what the library's libraries need.
+  /// `inherited`: folders from the DT_RPATH of the libraries that need this one; the loader
+  /// searches them for its dependencies, too.
   void lookAt(const std::string &library, Folders inherited) {
     if (found_ || !seen_.insert(library).second)
       return;
@@ -75,7 +75,7 @@ private:
     for (std::string &folder : folders) {
       folder = withOrigin(folder, library);
       check(library, folder);
-      // Where the loader looks first, for libraries that this processor runs faster.
+      // The loader looks here first, for variants optimised for this processor.
       if (exists(folder + "/glibc-hwcaps") && !found_)
         judge(library, folder, untrustedPart(folder + "/glibc-hwcaps", people_));
     }
@@ -93,7 +93,7 @@ private:
       return;
     if (place.front() != '/')
       found_ = UntrustedPlace{library, place, Reason::Relative};
-    else if (place.find('$') != std::string::npos) // $LIB and $PLATFORM, which the loader knows
+    else if (place.find('$') != std::string::npos) // $LIB or $PLATFORM
       found_ = UntrustedPlace{library, place, Reason::Unknown, ENOTSUP};
     else
       judge(library, place, untrustedPlace(place, people_));

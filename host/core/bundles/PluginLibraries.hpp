@@ -1,6 +1,6 @@
-/// Which libraries come with a plug-in's code.
-#ifndef IMAGEPOSITION_HOST_PLUGINLIBRARIES_HPP
-#define IMAGEPOSITION_HOST_PLUGINLIBRARIES_HPP
+/// Checking the libraries that a plug-in's code loads.
+#ifndef IMAGEPOSITION_CORE_BUNDLES_PLUGINLIBRARIES_HPP
+#define IMAGEPOSITION_CORE_BUNDLES_PLUGINLIBRARIES_HPP
 
 #include "PluginTrust.hpp"
 
@@ -9,23 +9,23 @@
 
 namespace imageposition {
 
-/// A place that code would be loaded from with a library.
+/// A place from which a library would load untrusted code.
 struct UntrustedPlace {
   enum class Reason {
-    OthersMayChange, ///< Also: may create.
-    Relative,        ///< Another place for each folder that the program is run in.
+    OthersMayChange, ///< Or create.
+    Relative,        ///< Depends on the current folder.
     Unknown,
   };
   std::string library; ///< The file that names the place.
-  std::string place;   ///< A folder or a library, as it is named there, with $ORIGIN replaced.
+  std::string place;   ///< A folder or a library as `library` names it, with $ORIGIN expanded.
   Reason reason;
-  int error = 0; ///< For `Unknown`: the `errno` value that says why.
+  int error = 0; ///< For `Unknown`: the reason, as an `errno` value.
 };
 
-/// The first untrusted place that the library `code` has the loader look in (ld.so(8)): each folder
-/// of its run path, each library that it names by a path or that is found in these folders, and the
-/// same for each of those. What the loader finds elsewhere is the system's, or, by
-/// LD_LIBRARY_PATH, the user's own.
+/// The first untrusted place that the loader searches for the dependencies of the library `code`
+/// (ld.so(8)). Checks each folder of its run path, each library that it names by path or that is in
+/// one of these folders, and their dependencies in turn. Libraries found elsewhere belong to the
+/// system or, through LD_LIBRARY_PATH, to the user.
 std::optional<UntrustedPlace> untrustedLibraryPlace(const std::string &code,
                                                     const TrustedPeople &people);
 

@@ -1,6 +1,6 @@
-/// What to do on the panels when no window is shown.
-#ifndef IMAGEPOSITION_HOST_BATCHREQUEST_HPP
-#define IMAGEPOSITION_HOST_BATCHREQUEST_HPP
+/// How to operate the panels without a window.
+#ifndef IMAGEPOSITION_CORE_COMMAND_BATCHREQUEST_HPP
+#define IMAGEPOSITION_CORE_COMMAND_BATCHREQUEST_HPP
 
 #include <optional>
 #include <string>
@@ -9,10 +9,10 @@
 
 namespace imageposition {
 
-/// Text for one entry field.
+/// A value for one entry field.
 struct Entry {
-  std::string name; ///< The field's name, or its beginning.
-  std::string text; ///< As a person would type it.
+  std::string name; ///< The field's name or the beginning of it.
+  std::string text; ///< As a user would type it.
 };
 
 /// None unless `argument` is "name=text" with a name.
@@ -22,7 +22,7 @@ std::optional<Entry> readEntry(std::string_view argument);
 std::optional<bool> readSwitch(std::string_view argument);
 
 struct BatchRequest {
-  std::optional<bool> back;   ///< Offsets of its own for the back side; absent: left as it is.
+  std::optional<bool> back;   ///< Separate offsets for the back side; absent: unchanged.
   std::vector<Entry> entries; ///< Typed in this order, after `back`.
   bool summary = false;       ///< Print the summary.
 };

@@ -29,23 +29,23 @@ struct RawArguments {
   throw Failure(ExitCode::Usage, messages::usage(message));
 }
 
-/// An option that may be repeated, and whose occurrences `take` gets in their order.
+/// An option that may be repeated. Calls `take` for each occurrence, in order.
 template <typename Value>
 CLI::Option *addRepeated(CLI::App &app, const char *names, const std::function<void(Value)> &take,
                          const char *help) {
   return app.add_option_function<Value>(names, take, help)->trigger_on_parse();
 }
 
-/// An option that may be repeated, and of which the last one counts.
+/// An option that may be repeated. The last one wins.
 CLI::Option *addText(CLI::App &app, const char *names, std::string &value, const char *help,
                      const char *type) {
   return app.add_option(names, value, help)->take_last()->type_name(type);
 }
 
-/// Without words of its own in the help.
+/// Adds nothing to the help.
 CLI::Validator between(int first, int last) { return CLI::Range(first, last).description(""); }
 
-/// What lp calls restarting and changing is about jobs that CUPS has already.
+/// lp's options that restart or change a job that CUPS already has.
 void addRefused(CLI::App &app) {
   addRepeated<std::string>(
       app, "-i", [](const std::string &job) { refuse(messages::jobsAreNotChanged(job)); }, "")
@@ -60,7 +60,7 @@ void addPrinterOptions(CLI::App &app, Arguments &arguments) {
   addText(app, "-U", arguments.user, messages::kHelpUser, "USER");
 }
 
-/// Those that lp makes job options of. Later ones of a name displace earlier ones.
+/// The flags that lp turns into job options. A later option overrides an earlier one.
 void addJobOptions(CLI::App &app, Arguments &arguments) {
   const auto add = [&arguments](const char *name, const std::string &value) {
     arguments.options.push_back(writeOptionArgument(name, value));
@@ -119,7 +119,7 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
   app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
 }
 
-/// A shell's * makes arguments of a folder's files, whose names somebody else may have chosen.
+/// A shell expands * to file names, which another user may have chosen.
 void refuseFilesLikeOptions(const std::vector<std::string> &words) {
   for (const std::string &word : words) {
     if (word == "--")
@@ -130,12 +130,12 @@ void refuseFilesLikeOptions(const std::vector<std::string> &words) {
   }
 }
 
-/// An empty text comes from a variable that was never set; what it was meant for would be skipped.
-void refuseEmptyTexts(const CLI::App &app) {
+/// An empty value usually comes from an unset shell variable; ignoring it would skip the option.
+void refuseEmptyValues(const CLI::App &app) {
   for (const char *name : {"--ticket", "--back", "--ppd", "-d", "-h", "-U", "DOCUMENT"}) {
     const auto &texts = app.get_option(name)->results();
     if (std::find(texts.begin(), texts.end(), "") != texts.end())
-      refuse(messages::emptyText(name));
+      refuse(messages::emptyValue(name));
   }
 }
 
@@ -152,8 +152,8 @@ void fillBatchRequest(RawArguments &raw) {
     if (!batch.back)
       refuse(messages::badSwitch(raw.back));
   }
-  const bool asksForMore = !batch.entries.empty() || batch.back || batch.summary;
-  if (asksForMore && !raw.arguments.isBatch)
+  const bool hasBatchOptions = !batch.entries.empty() || batch.back || batch.summary;
+  if (hasBatchOptions && !raw.arguments.isBatch)
     refuse(messages::kOnlyInBatch);
 }
 
@@ -163,7 +163,7 @@ void checkCombination(const Arguments &arguments) {
   if (endsWith(arguments.ticket, ".options"))
     refuse(messages::ticketNamesOptions(arguments.ticket));
   if (std::count(arguments.documents.begin(), arguments.documents.end(), "-") > 1)
-    refuse(messages::kInputNamedTwice);
+    refuse(messages::kStandardInputRepeated);
   if (!arguments.appearance.empty() && !readAppearance(arguments.appearance))
     refuse(messages::badAppearance(arguments.appearance));
   if (!arguments.textScale.empty() && !readTextScale(arguments.textScale))
@@ -185,7 +185,7 @@ std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) 
   addOtherOptions(app, raw);
   addRefused(app);
   try {
-    std::reverse(words.begin(), words.end()); // CLI11 takes them from the back
+    std::reverse(words.begin(), words.end()); // CLI11 reads them from the end
     app.parse(words);
   } catch (const CLI::CallForHelp &) {
     return Answer{app.help()};
@@ -194,7 +194,7 @@ std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) 
   } catch (const CLI::ParseError &error) {
     refuse(error.what());
   }
-  refuseEmptyTexts(app);
+  refuseEmptyValues(app);
   fillBatchRequest(raw);
   checkCombination(raw.arguments);
   return raw.arguments;

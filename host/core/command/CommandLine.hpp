@@ -1,6 +1,6 @@
 /// The command line of print-dialog.
-#ifndef IMAGEPOSITION_HOST_COMMANDLINE_HPP
-#define IMAGEPOSITION_HOST_COMMANDLINE_HPP
+#ifndef IMAGEPOSITION_CORE_COMMAND_COMMANDLINE_HPP
+#define IMAGEPOSITION_CORE_COMMAND_COMMANDLINE_HPP
 
 #include "BatchRequest.hpp"
 
@@ -10,37 +10,37 @@
 
 namespace imageposition {
 
-/// What was asked for. Empty texts stand for what was not given.
+/// The parsed command line. An empty string means that the option was not given.
 struct Arguments {
-  std::string ppd;    ///< A printer description file; never given together with `queue`.
-  std::string queue;  ///< A CUPS queue, perhaps with "/instance"; without both, the default one.
+  std::string ppd;    ///< A PPD file; excludes `queue`.
+  std::string queue;  ///< A CUPS queue, or "queue/instance". If `ppd` is empty, too: the default.
   std::string server; ///< The CUPS server, as "host", "host:port" or the path of a socket.
-  std::string user;   ///< Whom the job belongs to.
-  bool isEncrypted = false; ///< The connection to CUPS has to be.
-  /// Each "name=value", or several separated by blanks, in the order of the command line; what -n,
-  /// -q, -P and -H say stands among them, so that the last one counts as it does for lp.
+  std::string user;   ///< The owner of the job.
+  bool isEncrypted = false; ///< The connection to CUPS must be encrypted.
+  /// Each is "name=value", or several separated by blanks, in the order of the command line.
+  /// Includes -n, -q, -P and -H, because the last one wins, as with lp.
   std::vector<std::string> options;
   std::vector<std::string> plugins;
   std::string ticket;
-  std::vector<std::string> documents; ///< "-" stands for standard input, at most once.
+  std::vector<std::string> documents; ///< "-" is standard input, at most once.
   std::string title;
   std::string appearance;        ///< "light" or "dark".
   std::string textScale;         ///< A number above 0.
-  bool isMailWanted = false;     ///< When the job is done.
-  bool isSilent = false;         ///< Nothing is said of what went well.
-  bool isListingOptions = false; ///< Of the printer, with their choices; nothing is printed.
+  bool isMailWanted = false;     ///< Send mail when the job is done.
+  bool isSilent = false;         ///< Report only errors.
+  bool isListingOptions = false; ///< List the printer's options instead of printing.
   bool isDryRun = false;
   bool isBatch = false;
   BatchRequest batch;
 };
 
-/// Text for standard output, after which there is nothing left to do.
+/// Output for --help or --version, after which the program ends.
 struct Answer {
   std::string text;
 };
 
-/// Throws a `Failure` with `ExitCode::Usage`; also for an option, before "--", that is at the same
-/// time the name of an existing file. `words` are the arguments without the program's name.
+/// Parses the arguments, without the program's name. Throws a `Failure` with `ExitCode::Usage` for
+/// a mistake, and for an option before "--" that is also the name of an existing file.
 std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words);
 
 } // namespace imageposition

@@ -82,7 +82,8 @@ const char *const kHelpFooter =
 const Text kTwoPrintersNamed =
     text("Specify one printer, either with --ppd FILE or with -d QUEUE.");
 const Text kOnlyInBatch = text("--set, --back and --summary require --batch.");
-const Text kInputNamedTwice = text("Standard input can be printed only once. Use \"-\" once.");
+const Text kStandardInputRepeated =
+    text("Standard input can be printed only once. Use \"-\" once.");
 std::string jobsAreNotChanged(const std::string &job) {
   return text("print-dialog does not change jobs that CUPS already has. Change this job with lp -i "
               "{1}, or cancel it with cancel {1} and print again.")
@@ -102,7 +103,7 @@ std::string badTextScale(const std::string &scale) {
   return text("--text-scale must be a number greater than 0, such as 1.25, not \"{1}\".")
       .with(scale);
 }
-std::string argumentNotText(const std::string &argument) {
+std::string argumentNotUtf8(const std::string &argument) {
   return text("The argument \"{1}\" is not valid UTF-8. Rename the file, or use a symbolic link to "
               "it.")
       .with(argument);
@@ -112,7 +113,7 @@ std::string fileLikeOption(const std::string &argument) {
               "documents.")
       .with(argument);
 }
-std::string emptyText(const std::string &option) {
+std::string emptyValue(const std::string &option) {
   return text("{1} has an empty value.").with(option);
 }
 std::string badEntry(const std::string &argument) {

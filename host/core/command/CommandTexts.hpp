@@ -1,6 +1,6 @@
-/// The command line's help, and mistakes on it.
-#ifndef IMAGEPOSITION_HOST_COMMANDTEXTS_HPP
-#define IMAGEPOSITION_HOST_COMMANDTEXTS_HPP
+/// The command line's help and error messages.
+#ifndef IMAGEPOSITION_CORE_COMMAND_COMMANDTEXTS_HPP
+#define IMAGEPOSITION_CORE_COMMAND_COMMANDTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -43,15 +43,15 @@ extern const char *const kHelpFooter;
 // Mistakes on the command line.
 extern const Text kTwoPrintersNamed;
 extern const Text kOnlyInBatch;
-extern const Text kInputNamedTwice;
+extern const Text kStandardInputRepeated;
 std::string jobsAreNotChanged(const std::string &job);
 extern const Text kJobsAreNotRestarted;
 std::string badHoldTime(const std::string &when);
 std::string badAppearance(const std::string &appearance);
 std::string badTextScale(const std::string &scale);
-std::string argumentNotText(const std::string &argument);
+std::string argumentNotUtf8(const std::string &argument);
 std::string fileLikeOption(const std::string &argument);
-std::string emptyText(const std::string &option);
+std::string emptyValue(const std::string &option);
 std::string badEntry(const std::string &argument);
 std::string badSwitch(const std::string &argument);
 std::string ticketNamesOptions(const std::string &path);

@@ -1,6 +1,6 @@
-/// The exit status that a failure ends the program with.
-#ifndef IMAGEPOSITION_HOST_EXITSTATUS_HPP
-#define IMAGEPOSITION_HOST_EXITSTATUS_HPP
+/// Turning exceptions into the program's exit status.
+#ifndef IMAGEPOSITION_CORE_COMMAND_EXITSTATUS_HPP
+#define IMAGEPOSITION_CORE_COMMAND_EXITSTATUS_HPP
 
 #include "ExitCode.hpp"
 

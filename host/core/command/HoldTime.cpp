@@ -14,8 +14,8 @@ namespace {
 constexpr const char *kNames[] = {"no-hold", "indefinite",   "day-time",    "evening",
                                   "night",   "second-shift", "third-shift", "weekend"};
 
-/// Whether `text` has a number from 0 to `last` of one or two digits at `position`, which then
-/// stands behind it.
+/// Whether `text` has a number of one or two digits from 0 to `last` at `position`. Advances
+/// `position` past it.
 bool takeNumber(const std::string &text, std::size_t &position, int last) {
   const std::size_t start = position;
   int number = 0;

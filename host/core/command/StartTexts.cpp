@@ -13,7 +13,7 @@ namespace {
 
 const char *const kConfiguration = "GNUSTEP_CONFIG_FILE";
 
-/// The names of the environment variables that begin so.
+/// The names of the environment variables that begin with `start`.
 std::vector<std::string> variablesNamed(const std::string &start) {
   std::vector<std::string> names;
   for (char **variable = environ; *variable != nullptr; variable++) {
@@ -26,13 +26,13 @@ std::vector<std::string> variablesNamed(const std::string &start) {
 
 } // namespace
 
-void refuseForeignArguments(const std::vector<std::string> &words) {
+void requireUtf8Arguments(const std::vector<std::string> &words) {
   for (const std::string &word : words)
     if (!isWellFormedUtf8(word))
-      throw Failure(ExitCode::Usage, messages::argumentNotText(utf8FromUtf16(utf16FromUtf8(word))));
+      throw Failure(ExitCode::Usage, messages::argumentNotUtf8(utf8FromUtf16(utf16FromUtf8(word))));
 }
 
-void leaveOutForeignVariables() {
+void removeVariablesThatAreNotUtf8() {
   char **kept = environ;
   for (char **variable = environ; *variable != nullptr; variable++)
     if (isWellFormedUtf8(*variable))
@@ -40,7 +40,7 @@ void leaveOutForeignVariables() {
   *kept = nullptr;
 }
 
-std::optional<UntrustedPart> leaveOutPlatformVariables() {
+std::optional<UntrustedPart> removeGnustepVariables() {
   for (const std::string &name : variablesNamed("GNUSTEP_"))
     if (name != kConfiguration)
       unsetenv(name.c_str());
@@ -50,7 +50,7 @@ std::optional<UntrustedPart> leaveOutPlatformVariables() {
   std::optional<UntrustedPart> untrusted;
   if (*configuration == '/')
     untrusted = untrustedPartOfFolder(configuration, TrustedPeople::here());
-  if (untrusted || *configuration != '/') // GNUstep would look in the current folder
+  if (untrusted || *configuration != '/') // GNUstep would resolve it in the current folder
     unsetenv(kConfiguration);
   return untrusted;
 }

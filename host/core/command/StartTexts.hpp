@@ -1,9 +1,9 @@
-/// What the program was started with, made fit for GNUstep before that is loaded.
+/// Preparing the arguments and the environment for GNUstep before it is loaded.
 ///
-/// GNUstep reads all arguments and environment variables as strings, and ends the program with a
-/// message about itself over the first that is not UTF-8.
-#ifndef IMAGEPOSITION_HOST_STARTTEXTS_HPP
-#define IMAGEPOSITION_HOST_STARTTEXTS_HPP
+/// GNUstep reads all arguments and environment variables as strings, and aborts with an internal
+/// error if one is not UTF-8.
+#ifndef IMAGEPOSITION_CORE_COMMAND_STARTTEXTS_HPP
+#define IMAGEPOSITION_CORE_COMMAND_STARTTEXTS_HPP
 
 #include "PluginTrust.hpp"
 
@@ -14,16 +14,16 @@
 namespace imageposition {
 
 /// Throws a `Failure` with `ExitCode::Usage` that names the first argument that is not UTF-8.
-void refuseForeignArguments(const std::vector<std::string> &words);
+void requireUtf8Arguments(const std::vector<std::string> &words);
 
-/// Removes the environment variables that are not UTF-8, such as the name of a folder in another
-/// encoding that a shell remembers.
-void leaveOutForeignVariables();
+/// Removes the environment variables that are not UTF-8, for example OLDPWD with a folder name in
+/// another encoding.
+void removeVariablesThatAreNotUtf8();
 
-/// Removes the environment variables by which GNUstep is told where its files, programs and code
-/// are. `GNUSTEP_CONFIG_FILE` stays unless somebody else could have changed what it names: the part
-/// that they could have changed is then returned.
-std::optional<UntrustedPart> leaveOutPlatformVariables();
+/// Removes the environment variables that tell GNUstep where to find its files, programs and code.
+/// Keeps `GNUSTEP_CONFIG_FILE` unless it is relative or another user could have modified the file;
+/// in the latter case, returns the part of the path that they could have modified.
+std::optional<UntrustedPart> removeGnustepVariables();
 
 } // namespace imageposition
 

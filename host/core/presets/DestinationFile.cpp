@@ -9,7 +9,7 @@ namespace imageposition {
 
 namespace {
 
-/// A number sign begins a comment, unless a backslash stands before it.
+/// A number sign begins a comment unless it follows a backslash.
 std::string withoutComment(const std::string &line) {
   std::string text;
   for (const char c : line) {
@@ -117,7 +117,7 @@ void DestinationFile::rename(const QueueName &queue, const std::string &newInsta
     const auto entry = entryOf(line);
     if (!isOf(entry, queue))
       continue;
-    // What follows the name stays as it is written.
+    // Keep the formatting after the name.
     const std::string &printer = entry->queue.printer;
     const std::size_t at = line.find(printer + '/');
     line.replace(at + printer.size() + 1, entry->queue.instance.size(), newInstance);

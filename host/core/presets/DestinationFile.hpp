@@ -1,6 +1,6 @@
-/// The text of CUPS's file of destinations with options ("lpoptions").
-#ifndef IMAGEPOSITION_HOST_DESTINATIONFILE_HPP
-#define IMAGEPOSITION_HOST_DESTINATIONFILE_HPP
+/// The contents of CUPS's file of destinations and their options ("lpoptions").
+#ifndef IMAGEPOSITION_CORE_PRESETS_DESTINATIONFILE_HPP
+#define IMAGEPOSITION_CORE_PRESETS_DESTINATIONFILE_HPP
 
 #include "QueueName.hpp"
 
@@ -10,11 +10,11 @@
 
 namespace imageposition {
 
-/// One line says "Dest printer/instance name=value ...", or "Default" in place of "Dest" for the
-/// person's default printer. Lines that are not changed stay byte for byte.
+/// A line is "Dest printer/instance name=value ...", with "Default" in place of "Dest" for the
+/// user's default printer. Unchanged lines are kept byte for byte.
 class DestinationFile {
 public:
-  /// What CUPS reads of a line; the rest would become a line of its own.
+  /// The length, in bytes, up to which CUPS reads a line. It reads the rest as another line.
   static constexpr std::size_t kLongestLine = 8191;
 
   struct Entry {
@@ -25,15 +25,15 @@ public:
 
   explicit DestinationFile(std::string_view text);
 
-  /// Those of all lines that CUPS understands, in the file's order. Lines of the same destination
-  /// add up.
+  /// The entries of all lines that CUPS understands, in the file's order. Merges lines for the same
+  /// destination.
   std::vector<Entry> entries() const;
   bool has(const QueueName &queue) const;
 
-  /// In place of all lines of that destination, or at the end. False, and nothing changes, when the
-  /// line would be too long.
+  /// Replaces all lines of that destination, or appends one. Returns false and changes nothing if
+  /// the line would be too long.
   bool set(const QueueName &queue, const std::string &options);
-  /// A default printer stays the default without its instance.
+  /// If it was the default, the printer without an instance becomes the default.
   void remove(const QueueName &queue);
   void rename(const QueueName &queue, const std::string &newInstance);
 

@@ -20,7 +20,7 @@ std::string presetMissing(const std::string &printer, const std::string &name) {
 std::string presetExists(const std::string &printer, const std::string &name) {
   return text("\"{1}\" already has a preset \"{2}\". Choose another name.").with(printer, name);
 }
-std::string presetOfEverybody(const std::string &name, const std::string &path) {
+std::string presetIsShared(const std::string &name, const std::string &path) {
   return text("The preset \"{1}\" belongs to all users: only an administrator can change \"{2}\". "
               "Save it under another name instead.")
       .with(name, path);

@@ -1,6 +1,6 @@
-/// What is said about presets.
-#ifndef IMAGEPOSITION_HOST_PRESETTEXTS_HPP
-#define IMAGEPOSITION_HOST_PRESETTEXTS_HPP
+/// Messages about presets.
+#ifndef IMAGEPOSITION_CORE_PRESETS_PRESETTEXTS_HPP
+#define IMAGEPOSITION_CORE_PRESETS_PRESETTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,12 +8,11 @@
 
 namespace imageposition::messages {
 
-// Presets.
 std::string presetNameUnusable(const std::string &typed);
 std::string presetNameTooLong(int longest);
 std::string presetMissing(const std::string &printer, const std::string &name);
 std::string presetExists(const std::string &printer, const std::string &name);
-std::string presetOfEverybody(const std::string &name, const std::string &path);
+std::string presetIsShared(const std::string &name, const std::string &path);
 std::string presetTooLarge(const std::string &name);
 std::string presetsUnreadable(const std::string &path, const std::string &reason);
 std::string presetsUnwritable(const std::string &path, const std::string &reason);

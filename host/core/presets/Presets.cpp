@@ -28,32 +28,32 @@ namespace {
 
 constexpr std::size_t kLongestName = 127;
 
-/// What belongs to one document, or to one moment.
+/// Settings that apply to a single document or job.
 constexpr const char *kNotKept[] = {"document-format", "document-name", "job-name",
                                     "page-ranges",     "page-set",      "preset-name"};
 
-/// CUPS forgets a destination without options; this one, which IPP has for the purpose, keeps a
-/// preset that is all the printer's defaults.
+/// CUPS drops a destination without options. This IPP attribute keeps a preset that equals the
+/// printer's defaults.
 constexpr const char *kPlaceholder = "preset-name";
 
-std::string everybodysPath() {
+std::string sharedPath() {
   const char *const root = std::getenv("CUPS_SERVERROOT");
   return std::string(root != nullptr && *root != '\0' ? root : "/etc/cups") + "/lpoptions";
 }
 
-/// Empty for a person without a home; their presets are everybody's.
+/// Empty for a user without a home directory, whose presets are the shared ones.
 std::string ownFolder() {
   const char *home = std::getenv("HOME");
   if (home == nullptr) {
-    const passwd *const person = getpwuid(getuid());
-    home = person != nullptr ? person->pw_dir : nullptr;
+    const passwd *const user = getpwuid(getuid());
+    home = user != nullptr ? user->pw_dir : nullptr;
   }
   return home != nullptr ? std::string(home) + "/.cups" : "";
 }
 
 std::string ownPath() {
   const std::string folder = ownFolder();
-  return folder.empty() ? everybodysPath() : folder + "/lpoptions";
+  return folder.empty() ? sharedPath() : folder + "/lpoptions";
 }
 
 std::string contentOf(const std::string &path) {
@@ -66,11 +66,10 @@ std::string contentOf(const std::string &path) {
   }
 }
 
-/// Everybody's first: CUPS lays a person's own over them.
+/// Shared entries first, because CUPS lets a user's own override them.
 std::vector<DestinationFile::Entry> allEntries() {
-  std::vector<DestinationFile::Entry> entries =
-      DestinationFile(contentOf(everybodysPath())).entries();
-  if (ownPath() != everybodysPath())
+  std::vector<DestinationFile::Entry> entries = DestinationFile(contentOf(sharedPath())).entries();
+  if (ownPath() != sharedPath())
     for (auto &entry : DestinationFile(contentOf(ownPath())).entries())
       entries.push_back(std::move(entry));
   return entries;
@@ -80,8 +79,8 @@ std::vector<DestinationFile::Entry> allEntries() {
   throw Failure(ExitCode::Printer, messages::presetsUnwritable(ownPath(), reason));
 }
 
-/// Held by whoever changes the file, from reading it to having written it. A file of its own, since
-/// the one that it guards is replaced.
+/// Held while changing the file, from reading to writing it. Locks a separate file, because the
+/// guarded one is replaced.
 class Lock {
 public:
   Lock() : file_(opened()) {
@@ -96,7 +95,7 @@ private:
   static Descriptor opened() {
     const std::string folder = ownFolder();
     if (!folder.empty())
-      mkdir(folder.c_str(), 0700); // what is wrong with it shows below
+      mkdir(folder.c_str(), 0700); // open reports any error
     Descriptor file(open((ownPath() + ".lock").c_str(),
                          O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
     if (!file.isOpen())
@@ -107,8 +106,8 @@ private:
   Descriptor file_;
 };
 
-/// Reads the file anew, changes it and writes it, with no print-dialog between. lpoptions(1) and
-/// CUPS's other programs do not know the lock: what they have written meanwhile is changed instead.
+/// Reads, changes and writes the file under the lock. lpoptions(1) and CUPS's other programs ignore
+/// the lock: if one of them writes meanwhile, tries again with its version.
 template <typename Change> void changeFile(Change &&change) {
   const Lock lock;
   for (;;) {
@@ -135,7 +134,8 @@ bool isKept(const std::string &name) {
                       [&](const char *other) { return isSame(name, other); });
 }
 
-/// CUPS's file has lines and comments, and its programs write an empty value as none.
+/// False if the file's format cannot represent the value. CUPS's programs write an empty value as
+/// none.
 bool canBeHeld(const std::string &value) {
   return !value.empty() && std::none_of(value.begin(), value.end(), [](char c) {
     return c == '#' || static_cast<unsigned char>(c) < ' ' || c == '\x7F';
@@ -149,12 +149,12 @@ std::string oneLine(std::string text) {
   return text;
 }
 
-/// "name" and "noname" become what they mean.
+/// Reads "name" as "true" and "noname" as "false".
 void readOptions(const std::string &text, PrintSettingsStore &settings) {
   cups_option_t *options = nullptr;
   const int count = cupsParseOptions(text.c_str(), 0, &options);
   for (int i = 0; i < count; i++)
-    settings.set(options[i].name, options[i].value); // what no job can carry stays out
+    settings.set(options[i].name, options[i].value); // ignores what no job can hold
   cupsFreeOptions(count, options);
 }
 
@@ -211,11 +211,10 @@ std::vector<std::string> Presets::save(const std::string &name, const PrintSetti
 void Presets::rename(const std::string &name, const std::string &newName) const {
   const std::string usable = usableName(newName);
   changeFile([&](DestinationFile &file) {
-    const bool isEverybodys = contains(names(), name);
+    const bool isShared = contains(names(), name);
     if (!file.has({printer_, name}))
-      throw Failure(ExitCode::Usage, isEverybodys
-                                         ? messages::presetOfEverybody(name, everybodysPath())
-                                         : messages::presetMissing(printer_, name));
+      throw Failure(ExitCode::Usage, isShared ? messages::presetIsShared(name, sharedPath())
+                                              : messages::presetMissing(printer_, name));
     if (!isSame(name, usable) && contains(names(), usable))
       throw Failure(ExitCode::Usage, messages::presetExists(printer_, usable));
     file.rename({printer_, name}, usable);
@@ -225,7 +224,7 @@ void Presets::rename(const std::string &name, const std::string &newName) const 
 void Presets::remove(const std::string &name) const {
   changeFile([&](DestinationFile &file) { file.remove({printer_, name}); });
   if (contains(names(), name))
-    throw Failure(ExitCode::Usage, messages::presetOfEverybody(name, everybodysPath()));
+    throw Failure(ExitCode::Usage, messages::presetIsShared(name, sharedPath()));
 }
 
 LoadedPreset Presets::load(const std::string &name, const PrinterDescription &printer,

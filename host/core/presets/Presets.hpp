@@ -1,6 +1,6 @@
-/// Settings kept under a name, where CUPS keeps them.
-#ifndef IMAGEPOSITION_HOST_PRESETS_HPP
-#define IMAGEPOSITION_HOST_PRESETS_HPP
+/// Named settings, stored where CUPS stores them.
+#ifndef IMAGEPOSITION_CORE_PRESETS_PRESETS_HPP
+#define IMAGEPOSITION_CORE_PRESETS_PRESETS_HPP
 
 #include "PrinterDescription.hpp"
 
@@ -10,68 +10,67 @@
 
 namespace imageposition {
 
-/// A preset's place: `lp -d printer/name` prints with it.
+/// Identifies a preset: `lp -d printer/name` prints with it.
 struct PresetName {
   std::string printer;
   std::string name;
 };
 
-/// What a preset gave to a job.
+/// The result of loading a preset.
 struct LoadedPreset {
-  PrintSettingsStore settings;      ///< What fits the printer.
-  std::vector<std::string> misfits; ///< A sentence for each setting that was changed or left out.
+  PrintSettingsStore settings;      ///< The settings that fit the printer.
+  std::vector<std::string> misfits; ///< One sentence for each setting that was changed or dropped.
 };
 
-/// The presets of the person who runs the program: destination instances in CUPS's own file
-/// ("lpoptions"), read again at every call, so that no copy here grows old. Everybody's, which an
-/// administrator has made, are listed and loaded, too.
+/// The user's presets: destination instances in CUPS's file "lpoptions", which every call reads
+/// again. Shared presets, which an administrator has made, are listed and loaded, too.
 ///
-/// The file is changed here and not through `cupsSetDests2`, which empties it before it writes,
-/// drops the presets of printers that are away for the moment, and copies everybody's settings into
-/// it. No server is asked. Several print-dialogs may save at once;
-/// what lpoptions(1) writes meanwhile is kept but for a moment in which neither can know.
-/// Operations throw a `Failure` with `ExitCode::Printer` when the file cannot be read or written,
-/// and the file is then as it was.
+/// Edits the file directly rather than with `cupsSetDests2`, which truncates it before writing,
+/// drops the presets of printers that are currently missing, and copies shared settings into it.
+/// Contacts no server. Several print-dialogs may save at the same time. Changes that lpoptions(1)
+/// makes meanwhile are kept, except in the short window between the last check and the replacement.
+/// Operations throw a `Failure` with `ExitCode::Printer` if the file cannot be read or written, and
+/// leave it unchanged.
 class Presets {
 public:
-  /// The queue's name; an instance behind it ("queue/instance") is cut off.
+  /// `printer`: the queue's name. An instance ("queue/instance") is ignored.
   explicit Presets(const std::string &printer);
 
   /// In alphabetical order.
   std::vector<std::string> names() const;
-  /// Those of all other printers, by printer and name.
+  /// The presets of all other printers, sorted by printer and name.
   std::vector<PresetName> ofOtherPrinters() const;
 
-  /// Adds the preset, or replaces it, under `usableName(name)`. Left out are settings that belong
-  /// to one document ("job-name", "page-ranges", ...), and what `isHiddenValue` says of `ppd`,
-  /// which may be null. Answers a sentence for each setting that CUPS's file
-  /// cannot hold or should not, and that the preset therefore lacks.
+  /// Adds or replaces the preset `usableName(name)`. Omits settings that apply to a single document
+  /// ("job-name", "page-ranges", ...), and hidden values (see `isHiddenValue`; `ppd` may be null).
+  /// Returns one sentence for each setting that CUPS's file cannot or should not hold and that the
+  /// preset therefore lacks.
   std::vector<std::string> save(const std::string &name, const PrintSettingsStore &settings,
                                 ppd_file_t *ppd = nullptr) const;
-  /// The new name, too, becomes a usable one; it must be free.
+  /// Renames to `usableName(newName)`, which must not exist.
   void rename(const std::string &name, const std::string &newName) const;
-  /// One that is gone already is no failure.
+  /// Does nothing if there is no such preset.
   void remove(const std::string &name) const;
 
-  /// What the preset says beyond the printer's defaults; meant to replace the job's settings.
+  /// The preset's differences from the printer's defaults, to replace the job's settings.
   LoadedPreset load(const std::string &name, const PrinterDescription &printer,
                     const std::vector<std::string> &panelKeywords = {}) const;
-  /// The same for any printer's preset. What `printer` cannot do is left out and named, a number
-  /// that it does not allow becomes the nearest; see `fitSetting`. `panelKeywords` are the options
-  /// that panels announce: kept, even if the PPD lacks them.
+  /// The same for any printer's preset. Drops and reports settings that `printer` does not support,
+  /// and adjusts numbers to its range; see `fitSetting`. `panelKeywords`: options that panels
+  /// announce, which are kept even if the PPD lacks them.
   static LoadedPreset load(const PresetName &preset, const PrinterDescription &printer,
                            const std::vector<std::string> &panelKeywords = {});
 
-  /// A name that CUPS can hold and `lp` can be given, made of what a person typed: "Two sided"
-  /// turns into "Two-sided". Throws a `Failure` with `ExitCode::Usage` when nothing usable is left.
+  /// Turns what a user typed into a name that CUPS and `lp` accept: "Two sided" becomes
+  /// "Two-sided". Throws a `Failure` with `ExitCode::Usage` if nothing usable is left.
   static std::string usableName(const std::string &typed);
 
 private:
   std::string printer_;
 };
 
-/// A sentence for each option of `keywords` whose value `before` is another one `after` panels have
-/// read it: a panel can allow less than the description does.
+/// One sentence for each option of `keywords` whose value panels have changed: `before` and `after`
+/// they read it. A panel can have a narrower range than the PPD.
 std::vector<std::string> adjustments(ppd_file_t *ppd, const std::vector<std::string> &keywords,
                                      const PrintSettingsStore &before,
                                      const PrintSettingsStore &after);

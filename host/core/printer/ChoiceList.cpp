@@ -45,7 +45,7 @@ ChoiceList inOrder(const ppd_option_t &option, const ChoiceList &choices) {
   ChoiceSet wanted = setOf(choices);
   ChoiceList result;
   for (int i = 0; i < option.num_choices; i++)
-    if (wanted.erase(option.choices[i].choice) != 0) // once, also where the PPD repeats it
+    if (wanted.erase(option.choices[i].choice) != 0) // once, even if the PPD repeats it
       result.emplace_back(option.choices[i].choice);
   return result;
 }
@@ -64,8 +64,8 @@ bool markChoices(ppd_file_t *ppd, ppd_option_t &option, const ChoiceList &choice
   };
   if (!choices.empty() && std::none_of(option.choices, end, isWanted))
     return false;
-  // All choices of an option are equal in the order of what is marked, so that each look-up finds
-  // any one of them.
+  // The array of marked choices compares only options, so each look-up finds any one of the
+  // choices.
   while (ppd_choice_t *const marked = ppdFindMarkedChoice(ppd, option.keyword))
     cupsArrayRemove(ppd->marked, marked);
   for (ppd_choice_t *choice = option.choices; choice != end; choice++) {

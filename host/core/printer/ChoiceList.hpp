@@ -1,9 +1,9 @@
-/// Options of which several choices hold at once ("PickMany" in a PPD).
+/// Options that accept several choices at once ("PickMany" in a PPD).
 ///
-/// CUPS carries them in one value, "Staple,Fold", to the filters. Its own marking of a PPD knows no
-/// such list and only ever adds to the default, so that marking is done here.
-#ifndef IMAGEPOSITION_HOST_CHOICELIST_HPP
-#define IMAGEPOSITION_HOST_CHOICELIST_HPP
+/// CUPS passes them to filters in one value, "Staple,Fold". Its marking functions do not support
+/// such lists and can only add to the default, so these functions mark the choices.
+#ifndef IMAGEPOSITION_CORE_PRINTER_CHOICELIST_HPP
+#define IMAGEPOSITION_CORE_PRINTER_CHOICELIST_HPP
 
 #include "Strings.hpp"
 
@@ -17,38 +17,38 @@ namespace imageposition {
 
 using ChoiceList = std::vector<std::string>;
 
-/// By keyword, whose case does not matter.
+/// Keywords, compared without regard to case.
 using ChoiceSet = std::set<std::string, IgnoringCase>;
 
-/// At commas, without blanks around; no empty parts.
+/// Splits at commas, trims blanks and drops empty parts.
 ChoiceList splitChoices(const std::string &value);
 std::string joinChoices(const ChoiceList &choices);
 
-/// "None", "Off" and "False", which exclude all other choices of their option.
+/// Whether the choice is "None", "Off" or "False", which excludes all others of its option.
 bool isNone(const std::string &choice);
 
-/// Those that the option has, as the PPD writes them and in its order.
+/// The choices that the option has, in the PPD's spelling and order.
 ChoiceList inOrder(const ppd_option_t &option, const ChoiceList &choices);
 
 /// Whether every part is a choice of the option.
 bool areChoices(const ppd_option_t &option, const ChoiceList &choices);
 
-/// Marks these choices of such an option, as the PPD writes them, and no others. Parts that are no
-/// choices are passed over; false, and nothing changes, when there are only such.
+/// Marks exactly these choices of the option. Ignores parts that are not choices; returns false and
+/// changes nothing if none is one.
 bool markChoices(ppd_file_t *ppd, ppd_option_t &option, const ChoiceList &choices);
 
-/// In the PPD's order.
+/// The marked choices, in the PPD's order.
 ChoiceList markedChoices(const ppd_option_t &option);
 
-/// The choice that is marked, of such an option a list of them; empty for none.
+/// The marked choice, or a list for an option that accepts several; empty for none.
 std::string markedChoice(ppd_file_t *ppd, const ppd_option_t &option);
 
-/// The list with a choice more or less, in the PPD's order: "None" takes all others away, any other
-/// takes "None" away, and where the last one goes "None" comes, if the option has it.
+/// Adds or removes a choice, in the PPD's order. Adding "None" removes all others, and adding
+/// another removes "None". Removing the last one adds "None", if the option has it.
 ChoiceList withChoice(const ppd_option_t &option, const ChoiceList &choices,
                       const std::string &choice, bool on);
 
-/// The list without all of these choices; "None" comes as above.
+/// Removes these choices. An empty result becomes "None", if the option has it.
 ChoiceList withoutChoices(const ppd_option_t &option, const ChoiceList &choices,
                           const ChoiceSet &without);
 

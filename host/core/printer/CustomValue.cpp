@@ -39,7 +39,7 @@ std::optional<Kind> kindOf(ppd_cptype_t type) {
   }
 }
 
-/// The member of libcups's union that belongs to the type.
+/// The limit from the union's member for this type.
 double limit(const ppd_cplimit_t &limit, ppd_cptype_t type) {
   switch (type) {
   case PPD_CUSTOM_REAL:
@@ -66,7 +66,7 @@ std::optional<CustomParameter> parameterOf(const ppd_cparam_t &source) {
   return parameter;
 }
 
-/// A PPD can promise sizes of one's own and name none.
+/// A PPD can declare custom page sizes without giving their limits.
 bool hasPageSizes(const ppd_file_t &ppd) {
   return ppd.variable_sizes != 0 && ppd.custom_max[0] > 0 && ppd.custom_max[1] > 0;
 }
@@ -100,7 +100,7 @@ std::optional<CustomEntries> readPageSize(const std::string &size) {
   return CustomEntries{writeLength(*width), writeLength(*height)};
 }
 
-/// Elsewhere blanks and a decimal comma are taken; CUPS would stop reading there.
+/// `checkEntry` accepts blanks and a decimal comma, but CUPS would stop reading at them.
 bool isInForm(const CustomParameter &parameter, const std::string &entry) {
   return parameter.isText() || entry.find_first_of(", \t") == std::string::npos;
 }
@@ -141,14 +141,14 @@ std::string pageSizeText(const CustomEntries &entries) {
                 width->unit);
 }
 
-/// Whatever stands in their places.
+/// Splits the value without checking its parts.
 std::optional<CustomEntries> entriesOf(const CustomOption &option, const std::string &value) {
   if (hasCustomPrefix(value)) {
     std::string entry = withoutCustomPrefix(value);
-    if (option.isPageSize) // which CUPS finds in this spelling alone
+    if (option.isPageSize) // CUPS is case-sensitive here
       return startsWith(value, kPrefix) ? readPageSize(entry) : std::nullopt;
     CustomEntries entries(option.parameters.size());
-    entries.front() = std::move(entry); // as CUPS reads it
+    entries.front() = std::move(entry); // like CUPS
     return entries;
   }
   if (!option.isPageSize && !value.empty() && value.front() == '{')
@@ -159,7 +159,7 @@ std::optional<CustomEntries> entriesOf(const CustomOption &option, const std::st
 
 } // namespace
 
-const char *const kHiddenValue = "••••"; // its length is nobody's business either
+const char *const kHiddenValue = "••••"; // does not reveal the length, either
 
 bool CustomOption::hasHidden() const noexcept {
   return std::any_of(parameters.begin(), parameters.end(),
@@ -191,7 +191,7 @@ std::optional<CustomOption> customOption(ppd_file_t *ppd, const std::string &key
       return std::nullopt;
     parameter->isOneOfSeveral = parameters.size() > 1;
     if (parameter->isOneOfSeveral && !PrintSettingsStore::isUsableName(parameter->name))
-      return std::nullopt; // "{name=value}" cannot say it
+      return std::nullopt; // "{name=value}" cannot express it
     option.parameters.push_back(std::move(*parameter));
   }
   return option.parameters.empty() ? std::nullopt : std::optional(option);

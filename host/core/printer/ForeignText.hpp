@@ -1,13 +1,13 @@
-/// Texts of printers' descriptions.
-#ifndef IMAGEPOSITION_HOST_FOREIGNTEXT_HPP
-#define IMAGEPOSITION_HOST_FOREIGNTEXT_HPP
+/// Strings from printer descriptions.
+#ifndef IMAGEPOSITION_CORE_PRINTER_FOREIGNTEXT_HPP
+#define IMAGEPOSITION_CORE_PRINTER_FOREIGNTEXT_HPP
 
 #include <string>
 
 namespace imageposition {
 
-/// The text that a printer's description has for an option, a choice or a group, as `visible` shows
-/// it; the keyword where it has none. `text` may be null.
+/// The name that a printer description has for an option, a choice or a group, made `visible`; the
+/// keyword if it has none. `text` may be null.
 std::string textOrKeyword(const char *text, const char *keyword);
 
 } // namespace imageposition

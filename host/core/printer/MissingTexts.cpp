@@ -21,7 +21,7 @@ bool isKeyword(const char *text, const char *keyword) {
   return *text == '\0' || std::strcmp(text, keyword) == 0;
 }
 
-/// Calls `visit` with every option, those of subgroups included.
+/// Calls `visit` with every option, including those of subgroups.
 template <typename Group, typename Visitor> void visitOptions(Group &group, Visitor visit) {
   for (int i = 0; i < group.num_options; i++)
     visit(group.options[i]);
@@ -29,7 +29,7 @@ template <typename Group, typename Visitor> void visitOptions(Group &group, Visi
     visitOptions(group.subgroups[i], visit);
 }
 
-/// "de" and "de_AT" are both an Austrian's.
+/// For a user with "de_AT", both "de" and "de_AT" are `Users`.
 Translation::Language languageOf(std::string_view name) {
   const std::string_view users = cupsLangDefault()->language;
   if (name == users || name == users.substr(0, users.find('_')))
@@ -38,8 +38,8 @@ Translation::Language languageOf(std::string_view name) {
                                      : Translation::Language::Other;
 }
 
-/// The part of `text` before the character, which goes with it; none, and nothing changes, without
-/// that character.
+/// Removes the part of `text` up to and including `end`, and returns it without `end`. Empty, and
+/// `text` is unchanged, if it lacks that character.
 std::string_view cutBefore(std::string_view &text, char end) {
   const std::size_t at = text.find(end);
   if (at == std::string_view::npos)
@@ -49,7 +49,7 @@ std::string_view cutBefore(std::string_view &text, char end) {
   return part;
 }
 
-/// Takes `*de.Translation Duplex/Doppelseitig: ""` and `*de.Duplex None/Aus: ""`.
+/// Reads `*de.Translation Duplex/Doppelseitig: ""` and `*de.Duplex None/Aus: ""`.
 void readLine(std::string_view line, Translations &translations) {
   if (line.substr(0, 1) != "*")
     return;
@@ -72,10 +72,10 @@ void readLine(std::string_view line, Translations &translations) {
     known->second = translation;
 }
 
-/// IPP's names for options of CUPS's descriptions, and for choices that are not called after them.
+/// IPP's names for options of PPDs that CUPS generates, and for choices with different names there.
 struct IppName {
   const char *option;
-  const char *choice; // empty for the option
+  const char *choice; // empty for the option itself
   const char *attribute;
   const char *value;
 };
@@ -121,17 +121,17 @@ cups_size_t toCupsSize(const ppd_size_t &size) {
   return result;
 }
 
-/// The name of a size says more than measures do.
+/// A keyword such as "A4" is clearer than dimensions.
 bool isLessThanKeyword(const std::string &word, const std::string &keyword) {
   const auto isDigit = [](char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; };
   return !word.empty() && isDigit(word.front()) && !isDigit(keyword.front());
 }
 
-/// A text of the PPD that is to be replaced.
+/// A string of the PPD to replace.
 struct Text {
   char (&place)[PPD_MAX_TEXT];
   std::string keyword;
-  std::string otherwise; ///< Where CUPS has no word.
+  std::string otherwise; ///< Used if CUPS has no translation.
   Term term;
 };
 
@@ -152,7 +152,7 @@ Term ippTerm(ppd_file_t &ppd, const std::string &option, const std::string &choi
   return term;
 }
 
-/// Collects the texts of a PPD that are not in the user's language.
+/// Collects the strings of a PPD that are not in the user's language.
 class Collector {
 public:
   Collector(ppd_file_t &ppd, const Translations &translations)
@@ -201,7 +201,7 @@ bool isMissingTexts(const ppd_file_t &ppd) {
   bool isMissing = false;
   for (int i = 0; i < ppd.num_groups; i++)
     visitOptions(ppd.groups[i], [&](const ppd_option_t &option) {
-      // Nobody is shown "PageRegion".
+      // "PageRegion" is never shown.
       isMissing = isMissing || (isKeyword(option.text, option.keyword) &&
                                 std::strcmp(option.keyword, "PageRegion") != 0);
     });

@@ -1,9 +1,9 @@
-/// Texts for options whose description has none in the user's language.
+/// Names for options whose description has none in the user's language.
 ///
-/// CUPS describes a printer that needs no driver in the language of its own process, and names
-/// options by their keywords for everybody else.
-#ifndef IMAGEPOSITION_HOST_MISSINGTEXTS_HPP
-#define IMAGEPOSITION_HOST_MISSINGTEXTS_HPP
+/// For a driverless printer, CUPS generates a PPD in the language of its server process. In other
+/// languages, its options have only their keywords.
+#ifndef IMAGEPOSITION_CORE_PRINTER_MISSINGTEXTS_HPP
+#define IMAGEPOSITION_CORE_PRINTER_MISSINGTEXTS_HPP
 
 #include <cups/ppd.h>
 
@@ -13,10 +13,10 @@
 
 namespace imageposition {
 
-/// Whether some option has only its keyword to show.
+/// Whether some option has no name but its keyword.
 bool isMissingTexts(const ppd_file_t &ppd);
 
-/// What a PPD file calls an option or a choice in one of its languages.
+/// The name of an option or a choice in one of a PPD file's languages.
 struct Translation {
   enum class Language { Users, English, Other };
 
@@ -24,20 +24,20 @@ struct Translation {
   std::string text;
 };
 
-/// By the keywords of option and choice; the latter is empty for the option itself. Of several
-/// languages the first in the order of `Translation::Language`.
+/// By the keywords of option and choice; the latter is empty for the option itself. If there are
+/// several languages, the first in the order of `Translation::Language`.
 using Translations = std::map<std::pair<std::string, std::string>, Translation>;
 
-/// From a PPD file, compressed or not; libcups keeps only some of its languages. Empty for a file
-/// that cannot be read.
+/// Reads a PPD file, which may be compressed; libcups keeps only some of its languages. Empty for
+/// an unreadable file.
 Translations readTranslations(const std::string &path);
 
-/// Gives each option and choice that has no text in the user's language the first of these: CUPS's
-/// word for it, its text in another language, its keyword. CUPS is asked only about a queue; empty
-/// for none. The PPD must have been localized.
+/// Gives each option and choice without a name in the user's language the first available of:
+/// CUPS's translation, its name in another language, its keyword. Asks CUPS only if `queue` is not
+/// empty. Call `ppdLocalize` first.
 void fillMissingTexts(ppd_file_t &ppd, const Translations &translations, const std::string &queue);
 
-/// "by-pass-tray" for "ByPassTray": IPP's name for a choice that CUPS has named after it.
+/// The IPP keyword from which CUPS derived the choice: "by-pass-tray" for "ByPassTray".
 std::string ippKeyword(const std::string &choice);
 
 } // namespace imageposition

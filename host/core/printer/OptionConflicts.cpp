@@ -31,11 +31,11 @@ std::vector<std::string> inWords(const std::vector<NamedChoice> &choices) {
   return words;
 }
 
-/// A proposal that changes more is nothing that a user reads before taking it.
+/// A proposal with more changes is too long to read before accepting it.
 constexpr std::size_t kMostChanges = 12;
 
-/// libcups, which looks for a way out, tests every constraint for each choice of each option in
-/// conflict, once for each change that it makes, and again for each resolver.
+/// To resolve conflicts, libcups tests every constraint for each choice of each option in conflict,
+/// once for each change that it makes, and again for each resolver.
 constexpr long long kMostTests = 2'000'000;
 
 OptionConflict described(const OptionConstraint &violation) {
@@ -51,7 +51,7 @@ bool isList(ppd_file_t *ppd, const std::string &keyword) {
   return option != nullptr && option->ui == PPD_UI_PICKMANY;
 }
 
-/// Of several choices that which is in conflict: CUPS thinks of one only.
+/// The choice in conflict, for an option with several: CUPS handles only one.
 const ppd_choice_t *choiceToKeep(ppd_file_t *ppd, const std::vector<OptionConstraint> &violations,
                                  const std::string &keyword) {
   if (isList(ppd, keyword))
@@ -76,7 +76,7 @@ struct BySides {
   }
 };
 
-/// The first of those that have the same sides, in whatever order.
+/// Keeps the first of the violations that have the same sides in any order.
 std::vector<OptionConstraint> withoutRepetition(const std::vector<OptionConstraint> &violations) {
   std::set<OptionConstraint, BySides> known;
   std::vector<OptionConstraint> result;
@@ -89,7 +89,7 @@ std::vector<OptionConstraint> withoutRepetition(const std::vector<OptionConstrai
   return result;
 }
 
-/// Whether libcups finds a way out, or that there is none, within a second or so.
+/// Whether `cupsResolveConflicts` returns within about a second.
 bool isResolvedSoon(ppd_file_t *ppd, std::size_t constraints,
                     const std::vector<OptionConstraint> &violations) {
   long long tries = 0;
@@ -102,7 +102,7 @@ bool isResolvedSoon(ppd_file_t *ppd, std::size_t constraints,
   return tries * static_cast<long long>(constraints) <= kMostTests;
 }
 
-/// CUPS's list of changes, freed.
+/// Owns CUPS's list of changes.
 class Changes {
 public:
   Changes(ppd_file_t *ppd, const std::string &option, const std::string &choice)
@@ -211,7 +211,7 @@ OptionConflicts::proposalOfCups(const std::vector<OptionConstraint> &violations,
     ppd_option_t *const option = ppdFindOption(ppd, change.name);
     const ppd_choice_t *const choice =
         option != nullptr ? ppdFindChoice(option, change.value) : nullptr;
-    // CUPS repeats the option that was chosen last.
+    // CUPS includes the option that was chosen last.
     if (choice != nullptr && !choice->marked)
       proposal.changes.push_back(named(*option, choice));
   }

@@ -1,6 +1,6 @@
-/// Options that the printer cannot combine, and a way out.
-#ifndef IMAGEPOSITION_HOST_OPTIONCONFLICTS_HPP
-#define IMAGEPOSITION_HOST_OPTIONCONFLICTS_HPP
+/// Options that the printer cannot combine, and how to resolve such conflicts.
+#ifndef IMAGEPOSITION_CORE_PRINTER_OPTIONCONFLICTS_HPP
+#define IMAGEPOSITION_CORE_PRINTER_OPTIONCONFLICTS_HPP
 
 #include "PrinterOptions.hpp"
 
@@ -10,7 +10,7 @@
 
 namespace imageposition {
 
-/// An option with a choice, as a person reads them.
+/// An option and a choice, with the names to show.
 struct NamedChoice {
   std::string keyword;
   std::string text;
@@ -19,46 +19,46 @@ struct NamedChoice {
 };
 
 struct OptionConflict {
-  std::vector<NamedChoice> sides; ///< Two; more where the PPD forbids a combination of more.
-  std::string sentence;           ///< Names all sides by their texts.
+  std::vector<NamedChoice> sides; ///< Two, or more if the constraint has more.
+  std::string sentence;           ///< Names all sides for the user.
 };
 
 struct ConflictProposal {
   std::vector<NamedChoice> changes; ///< Never empty.
-  std::string sentence;             ///< What taking it does, for a button's line.
+  std::string sentence;             ///< What accepting it does, to show next to a button.
 };
 
-/// Conflicts among a job's options on a printer. Both are borrowed and outlive this.
+/// Conflicts among a job's options on a printer. Both are borrowed and must outlive this object.
 class OptionConflicts {
 public:
   OptionConflicts(PrinterDescription &printer, PrintSettingsStore &job);
 
-  /// One for each constraint that the job violates, which are as many as `ppdConflicts` counts;
-  /// constraints of the same sides are named once.
+  /// One for each constraint that the job violates, as `ppdConflicts` counts them, but only one for
+  /// constraints with the same sides.
   std::vector<OptionConflict> find();
 
-  /// The same as sentences for a user: those of the first `most`, and one that counts the others.
-  /// Empty when there is no conflict.
+  /// Sentences for the user: one for each of the first `most` conflicts, and one that counts the
+  /// others. Empty if there is no conflict.
   std::vector<std::string> sentences(std::size_t most);
 
-  /// How to get rid of all conflicts. The option that was chosen last, when it is named, stays as
-  /// it is. Of an option that takes several choices only those in conflict go, where that is
-  /// enough. None when there is no conflict, no way out without a locked option, or none that is
-  /// found soon and short enough to be read.
+  /// How to resolve all conflicts. Keeps the option `chosenLast`, if given. For an option that
+  /// accepts several choices, removes only those in conflict, if that suffices. None if there is no
+  /// conflict, if resolving requires changing a locked option, or if no proposal is found that is
+  /// quick to compute and short enough to read.
   std::optional<ConflictProposal> proposal(const std::string &chosenLast = {});
 
-  /// Chooses what was proposed. False when a change is locked or no longer possible; the job is
-  /// then as it was.
+  /// Applies the proposal. Returns false and leaves the job unchanged if a change is locked or no
+  /// longer possible.
   bool take(const ConflictProposal &proposal);
 
 private:
-  /// Of the PPD as it is marked for the job from then on.
+  /// Marks the PPD for the job.
   std::vector<OptionConstraint> violations();
   std::optional<ConflictProposal> proposalOfCups(const std::vector<OptionConstraint> &violations,
                                                  const std::string &chosenLast);
   std::optional<ConflictProposal> proposalOfLists(const std::vector<OptionConstraint> &violations,
                                                   const std::string &chosenLast);
-  /// Some that CUPS finds do not: marking one option may unmark another.
+  /// Some of CUPS's proposals do not, because marking one option may unmark another.
   bool endsAllConflicts(const ConflictProposal &proposal);
 
   PrinterDescription &printer_;

@@ -18,13 +18,13 @@ bool isPageSize(const ppd_option_t *option) {
   return isSame(option->keyword, "PageSize") || isSame(option->keyword, "PageRegion");
 }
 
-/// Finds options and choices as libcups does, which compares a choice with all of its option's.
+/// Finds options and choices like libcups, but does not search all choices of an option each time.
 class Finder {
 public:
   explicit Finder(ppd_file_t *ppd) : ppd_(ppd) {}
 
-  /// None for an option or a choice that the PPD does not have. "CustomPageSize True" is how a PPD
-  /// names the choice "Custom" of "PageSize".
+  /// None if the PPD lacks the option or the choice. A PPD writes "CustomPageSize True" for the
+  /// choice "Custom" of "PageSize".
   std::optional<ConstrainedOption> side(std::string keyword, std::string choice) {
     const std::size_t length = std::string_view(kCustomChoice).size();
     if (isSame(keyword.substr(0, length), kCustomChoice) && isSame(choice, "True")) {
@@ -74,8 +74,8 @@ void addPairs(ppd_file_t *ppd, Finder &finder, std::vector<OptionConstraint> &co
   }
 }
 
-/// "*Option Choice *Option ...", of any number of options; CUPS passes over other words. Empty when
-/// a part is unknown.
+/// Reads "*Option Choice *Option ..." with any number of options; like CUPS, ignores other words.
+/// Empty if an option or a choice is unknown.
 OptionConstraint combination(Finder &finder, const std::string &text) {
   constexpr const char *kBlanks = " \t\n\r\f\v";
   OptionConstraint constraint;
@@ -110,7 +110,7 @@ void addCombinations(ppd_file_t *ppd, Finder &finder, std::vector<OptionConstrai
 
 bool isOff(const ppd_choice_t *choice) { return choice == nullptr || isNone(choice->choice); }
 
-/// What is marked; each option, and the page's size, is looked at once.
+/// The marked choices. Looks up each option, and the page size, once.
 class Marks {
 public:
   explicit Marks(ppd_file_t *ppd) : ppd_(ppd) {
@@ -122,7 +122,7 @@ public:
   bool holds(const ConstrainedOption &side) {
     if (side.choice == nullptr)
       return !isOff(choiceOf(*side.option));
-    // Whatever is marked for the page, the size in force decides.
+    // For the page, the effective size counts rather than the marks.
     return isPageSize(side.option) ? pageSize_ && isSame(*pageSize_, side.choice->choice)
                                    : side.choice->marked != 0;
   }

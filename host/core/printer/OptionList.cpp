@@ -6,14 +6,14 @@ namespace imageposition {
 
 namespace {
 
-/// What -o takes, but for what is nobody else's to read: lists are kept and passed on.
+/// The value as -o accepts it. Hides secrets, because users save and share such lists.
 std::string wordFor(const PrinterOption &option, const OptionChoice &choice) {
   const bool isHidden =
       option.custom && option.custom->hasHidden() && isEnteredValue(choice.keyword);
   return isHidden ? kHiddenValue : visible(choice.keyword);
 }
 
-/// Also of a value that no window can ask for, since the PPD does not say within which limits.
+/// Also for a custom value without limits in the PPD, which a window cannot ask for.
 std::string formFor(const PrinterOption &option) {
   if (option.custom)
     return customValueForm(*option.custom);

@@ -1,6 +1,6 @@
-/// A printer's options as text, for those who print without a window.
-#ifndef IMAGEPOSITION_HOST_OPTIONLIST_HPP
-#define IMAGEPOSITION_HOST_OPTIONLIST_HPP
+/// A printer's options as text, for printing without a window.
+#ifndef IMAGEPOSITION_CORE_PRINTER_OPTIONLIST_HPP
+#define IMAGEPOSITION_CORE_PRINTER_OPTIONLIST_HPP
 
 #include "PrinterOptions.hpp"
 
@@ -9,16 +9,16 @@
 
 namespace imageposition {
 
-/// A line for each group, option and choice, each two columns further in than what it belongs to:
+/// One line for each group, option and choice, indented by two columns per level:
 ///
 ///     General
 ///       PageSize: Media Size
 ///       * A4: A4
 ///         Letter: US Letter
 ///
-/// Keywords come first, as `-o` takes them, then the texts for people; each is
-/// `visible`. "Custom.VALUE" stands for a value that can be given besides the choices. A star is
-/// before what is chosen.
+/// Each line has the keyword, as `-o` accepts it, and the name to show; both are made `visible`. If
+/// the option accepts a custom value, "Custom.VALUE" is one of the lines. A star marks what is
+/// chosen.
 std::string writeOptionList(const std::vector<OptionGroup> &groups);
 
 } // namespace imageposition

@@ -1,6 +1,6 @@
-/// How much of a printer's options has room in a window.
-#ifndef IMAGEPOSITION_HOST_OPTIONROWS_HPP
-#define IMAGEPOSITION_HOST_OPTIONROWS_HPP
+/// Limiting a printer's options to what fits into a window.
+#ifndef IMAGEPOSITION_CORE_PRINTER_OPTIONROWS_HPP
+#define IMAGEPOSITION_CORE_PRINTER_OPTIONROWS_HPP
 
 #include "PrinterOptions.hpp"
 
@@ -9,9 +9,9 @@
 
 namespace imageposition {
 
-/// Leaves out options until the others need at most `most` rows: one for each, or one for each
-/// choice of an option that takes several. Groups that have none left go, too. Returns how many
-/// options it left out.
+/// Removes options until the rest need at most `most` rows: one for each option, or one for each
+/// choice of an option that accepts several. Also removes groups that become empty. Returns the
+/// number of removed options.
 std::size_t cutToRows(std::vector<OptionGroup> &groups, std::size_t most);
 
 } // namespace imageposition

@@ -11,7 +11,7 @@ namespace imageposition {
 
 namespace {
 
-/// Neither CUPS nor a shell takes it for anything but itself, wherever it stands in a value.
+/// Whether the character is literal to CUPS and to a shell anywhere in a value.
 bool isPlain(char c) {
   constexpr std::string_view kPlain = "%+-./:=@_";
   const bool isAscii = static_cast<unsigned char>(c) < 0x80;
@@ -33,7 +33,7 @@ std::string quoted(const std::string &value) {
   return text + '"';
 }
 
-/// Where the value that `text` begins with ends; none when its quotes are not closed.
+/// The end of the value at the start of `text`; none if its quotes are not closed.
 std::optional<std::size_t> endOfValue(std::string_view text) {
   if (text.empty() || text.front() != '"')
     return std::find_if_not(text.begin(), text.end(), isPlain) - text.begin();

@@ -12,7 +12,7 @@ namespace imageposition {
 
 namespace {
 
-/// Ten thousand options need fifty million, which take half a second.
+/// Ten thousand options need fifty million comparisons, which take half a second.
 constexpr long long kMostComparisons = 60'000'000;
 constexpr long long kMostStatements = 100'000;
 constexpr long long kMostBytes = 16'000'000;
@@ -21,7 +21,7 @@ std::string_view wordOf(std::string_view text) {
   return text.substr(0, text.find_first_of(" \t:/\r\n"));
 }
 
-/// "*CustomPageSize True" and "*CustomDuplex True" are of one kind.
+/// For example, "*CustomPageSize True" and "*CustomDuplex True" are of the same kind.
 std::string kindOf(std::string_view keyword) {
   for (const std::string_view family : {"ParamCustom", "Custom"})
     if (startsWith(keyword, family))
@@ -29,7 +29,7 @@ std::string kindOf(std::string_view keyword) {
   return std::string(keyword);
 }
 
-/// Counts what libcups compares, statement by statement.
+/// Estimates the number of libcups's comparisons, statement by statement.
 class Estimate {
 public:
   void add(std::string_view line) {
@@ -42,8 +42,8 @@ public:
       addOption(line.substr(keyword.size()));
     std::string kind = kindOf(keyword);
     const long long before = counts_[kind]++;
-    // Ends are not kept, and choices appended; a constraint behind another one is found where that
-    // was.
+    // libcups does not store ends, appends choices, and finds a constraint that follows another one
+    // at once.
     const bool isAppended =
         isEnd(kind) || options_.count(kind) != 0 || (isConstraint(kind) && kind == last_);
     comparisons_ += isAppended ? 0 : before;
@@ -94,13 +94,13 @@ int countConstraints(const ppd_file_t &ppd) {
 
 } // namespace
 
-bool isReadSoon(const std::string &path) {
+bool canBeReadQuickly(const std::string &path) {
   const CupsFile file(cupsFileOpen(path.c_str(), "r"));
   if (!file)
     return true;
   Estimate estimate;
   long long bytes = 0;
-  char line[1024]; // what is longer comes in parts; libcups takes 255 characters
+  char line[1024]; // longer lines are read in parts; libcups reads 255 characters
   while (cupsFileGets(file.get(), line, sizeof line) != nullptr) {
     const std::string_view text(line);
     bytes += static_cast<long long>(text.size()) + 1;
@@ -111,9 +111,9 @@ bool isReadSoon(const std::string &path) {
   return true;
 }
 
-bool isMarkedSoon(const ppd_file_t &ppd) {
-  // Each side of a constraint is looked for among the choices of its option, and its option among
-  // what can be installed.
+bool canBeMarkedQuickly(const ppd_file_t &ppd) {
+  // libcups searches for each side of a constraint among the choices of its option, and for the
+  // option among the installable ones.
   long long perConstraint = 0;
   for (int i = 0; i < ppd.num_groups; i++) {
     const ppd_group_t &group = ppd.groups[i];

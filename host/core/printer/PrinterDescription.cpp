@@ -21,7 +21,7 @@ namespace imageposition {
 
 namespace {
 
-/// A file of CUPS's making that goes when it has been read.
+/// Deletes a temporary file that CUPS has created.
 class TemporaryFile {
 public:
   explicit TemporaryFile(std::string path) : path_(std::move(path)) {}
@@ -33,7 +33,7 @@ private:
   std::string path_;
 };
 
-/// Of the file's mode; 0 where there is none.
+/// The file type bits of the mode; 0 if there is no file.
 mode_t kindOf(const std::string &path) {
   struct stat status {};
   return stat(path.c_str(), &status) == 0 ? status.st_mode & S_IFMT : 0;
@@ -50,8 +50,8 @@ bool isCupsReachable() {
   return CupsConnection::open(std::chrono::seconds(5), [] { return false; }) != nullptr;
 }
 
-/// What users chose with lpoptions, or an administrator for everybody. The list also has the
-/// queue's state and location; no PPD has options of those names, so that marking passes over them.
+/// Defaults that users set with lpoptions, or an administrator for all users. The list also has the
+/// queue's state and location, which marking ignores because no PPD has options of those names.
 PrintSettingsStore defaultsOf(const QueueName &queue) {
   PrintSettingsStore defaults;
   const CupsDestination destination(
@@ -82,8 +82,8 @@ PrinterDescription::PrinterDescription(PpdFile ppd, std::string name)
        option = ppdNextOption(ppd_.get()))
     if (option->ui == PPD_UI_PICKMANY)
       lists_.push_back(option);
-  // Of an option that the PPD has in several groups CUPS marks that which it finds. (To find one
-  // ends the walk above.)
+  // If the PPD has an option in several groups, CUPS marks only the one that `ppdFindOption`
+  // returns. (Calling it would reset the iteration above.)
   const auto isOther = [this](const ppd_option_t *option) {
     return ppdFindOption(ppd_.get(), option->keyword) != option;
   };
@@ -94,12 +94,12 @@ PpdFile PrinterDescription::open(const std::string &path, const std::string &sho
   const mode_t kind = kindOf(path);
   if (kind == S_IFDIR)
     throw Failure(ExitCode::Printer, messages::ppdUnreadable(shownPath, systemReason(EISDIR)));
-  if (kind == S_IFREG && !isReadSoon(path)) // a pipe can be read once only
+  if (kind == S_IFREG && !canBeReadQuickly(path)) // a pipe can be read only once
     throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));
   errno = 0;
   PpdFile ppd(ppdOpenFile(path.c_str()));
   const int reason = errno;
-  if (ppd && !isMarkedSoon(*ppd))
+  if (ppd && !canBeMarkedQuickly(*ppd))
     throw Failure(ExitCode::Printer, messages::ppdTooLarge(shownPath));
   if (ppd)
     return ppd;
@@ -122,7 +122,7 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   const QueueName name = QueueName::parse(queue);
   char file[1024] = "";
   time_t changed = 0;
-  const int status = // any number that CUPS sent
+  const int status = // an int, because CUPS can send any number
       cupsGetPPD3(CUPS_HTTP_DEFAULT, name.printer.c_str(), &changed, file, sizeof file);
   if (status != HTTP_STATUS_OK) {
     if (*file != '\0')
@@ -143,7 +143,7 @@ void PrinterDescription::mark(const PrintSettingsStore &job) {
   ppdMarkDefaults(ppd());
   for (const PrintSettingsStore *settings : {&std::as_const(queueDefaults_), &job})
     cupsMarkOptions(ppd(), settings->optionCount(),
-                    const_cast<cups_option_t *>(settings->options())); // only read
+                    const_cast<cups_option_t *>(settings->options())); // not modified
   markLists(job);
 }
 
@@ -167,7 +167,7 @@ void PrinterDescription::localize(const std::string &path, const std::string &qu
   ppdLocalize(ppd());
   if (!isMissingTexts(*ppd()))
     return;
-  const bool isReadAgain = kindOf(path) == S_IFREG; // a pipe can be read once only
+  const bool isReadAgain = kindOf(path) == S_IFREG; // a pipe can be read only once
   fillMissingTexts(*ppd(), isReadAgain ? readTranslations(path) : Translations(), queue);
 }
 

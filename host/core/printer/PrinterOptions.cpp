@@ -14,17 +14,17 @@ namespace imageposition {
 
 namespace {
 
-/// The choice that CUPS adds to an option that takes a value of the person's own.
+/// Whether it is the choice that CUPS adds to an option that accepts custom values.
 bool isCustom(const ppd_choice_t &choice) { return isSame(choice.choice, kCustomChoice); }
 
-/// Whether a job can name it and CUPS marks it: of an option that the PPD has in several groups
-/// CUPS finds one only.
+/// Whether a job can name the option and CUPS marks it. If the PPD has an option in several groups,
+/// CUPS finds only one.
 bool isUsable(ppd_file_t *ppd, const ppd_option_t &option) {
   return PrintSettingsStore::isUsableName(option.keyword) &&
          ppdFindOption(ppd, option.keyword) == &option;
 }
 
-/// Whether a job can say it: in a list of choices a comma ends one.
+/// Whether a job can express the choice: in a list, a comma ends a choice.
 bool isUsable(const ppd_choice_t &choice, PrinterOption::Kind kind) {
   return *choice.choice != '\0' && (kind != PrinterOption::Kind::Several ||
                                     splitChoices(choice.choice) == ChoiceList{choice.choice});
@@ -35,14 +35,14 @@ bool hasChoice(const PrinterOption &option, const std::string &keyword) {
                      [&](const OptionChoice &known) { return isSame(known.keyword, keyword); });
 }
 
-/// A job's settings that say the same as an option, under names that are not the PPD's.
+/// Equivalent names of options in a job, other than the PPD's.
 constexpr std::pair<const char *, const char *> kAliases[] = {
     {"PageSize", "media"},       {"PageSize", "PageRegion"},
     {"Duplex", "sides"},         {"JCLDuplex", "sides"},
     {"EFDuplex", "sides"},       {"KD03Duplex", "sides"},
     {"OutputBin", "output-bin"}, {"ColorModel", "print-color-mode"}};
 
-/// The value that was entered for an option, under whatever name; empty for none.
+/// The custom value of an option, under any of its names; empty for none.
 std::string enteredIn(const PrintSettingsStore &settings, const std::string &keyword) {
   const char *const own = settings.get(keyword);
   if (own != nullptr && isEnteredValue(own))
@@ -56,7 +56,7 @@ std::string enteredIn(const PrintSettingsStore &settings, const std::string &key
   return {};
 }
 
-/// Builds options from the PPD, which it marks for the job.
+/// Builds options from the PPD. Marks the PPD for the job.
 class Builder {
 public:
   Builder(PrinterDescription &printer, const PrintSettingsStore &job)
@@ -106,7 +106,7 @@ public:
   }
 
 private:
-  /// Marking keeps the choice "Custom" alone; the job, the queue or the PPD has the value.
+  /// Marking keeps only the choice "Custom". The value is in the job, the queue or the PPD.
   void nameEnteredValue(PrinterOption &option, const std::string &ofPpd) const {
     if (isSame(option.defaultChoice, kCustomChoice)) {
       const std::string value = enteredIn(queue_, option.keyword);
@@ -123,7 +123,7 @@ private:
     option.choices.push_back({option.chosen, option.textOf(option.chosen)});
   }
 
-  /// Some clients send a number by itself, which filters understand and marking does not.
+  /// Some clients send a plain number, which filters accept but marking does not.
   bool isNumber(const PrinterOption &option) const {
     const char *const value = job_.get(option.keyword);
     return value != nullptr && option.custom && readCustomValue(*option.custom, value) &&
@@ -230,13 +230,13 @@ bool PrinterOptions::tick(const std::string &keyword, const std::string &choice,
 bool PrinterOptions::store(const PrinterOption &option, const std::string &value) {
   for (const auto &[name, alias] : kAliases)
     if (isSame(name, option.keyword))
-      job_.remove(alias); // else the job would say two things
+      job_.remove(alias); // or the job would contradict itself
   if (value == option.defaultChoice)
     job_.remove(option.keyword);
   else if (job_.set(option.keyword, value) != PrintSettingsStore::Outcome::Stored)
     return false;
   printer_.mark(job_);
-  // Another setting of the job may imply something else than the default.
+  // Another setting of the job may imply a different choice than the default.
   if (find(option.keyword)->chosen != value) {
     job_.set(option.keyword, value);
     printer_.mark(job_);

@@ -1,6 +1,6 @@
-/// The options that a printer's PPD offers, and choosing among them.
-#ifndef IMAGEPOSITION_HOST_PRINTEROPTIONS_HPP
-#define IMAGEPOSITION_HOST_PRINTEROPTIONS_HPP
+/// Reading and changing the options of a printer's PPD.
+#ifndef IMAGEPOSITION_CORE_PRINTER_PRINTEROPTIONS_HPP
+#define IMAGEPOSITION_CORE_PRINTER_PRINTEROPTIONS_HPP
 
 #include "ChoiceList.hpp"
 #include "CustomValue.hpp"
@@ -13,8 +13,8 @@
 namespace imageposition {
 
 struct OptionChoice {
-  std::string keyword; ///< What goes into the job.
-  std::string text;    ///< What the person reads; never empty.
+  std::string keyword; ///< The value in the job.
+  std::string text;    ///< The name to show; never empty.
 };
 
 struct PrinterOption {
@@ -23,18 +23,18 @@ struct PrinterOption {
   std::string keyword;
   std::string text; ///< Never empty.
   Kind kind = Kind::List;
-  /// In the PPD's order. A value that is entered ("Custom.7") is among them only while it holds.
+  /// In the PPD's order. Includes a custom value ("Custom.7") only while it is chosen.
   std::vector<OptionChoice> choices;
-  std::string chosen;        ///< A choice's keyword, of `Several` a list; empty: nothing is marked.
-  std::string defaultChoice; ///< The queue's, or else the PPD's; may be empty.
-  bool isLocked = false;     ///< The job's ticket does not let it change.
-  bool takesCustomValue = false;      ///< A value may be given that is not in the list.
-  std::optional<CustomOption> custom; ///< How such a value is entered; none where nobody knows.
+  std::string chosen; ///< A choice's keyword, or a list for `Several`; empty if nothing is marked.
+  std::string defaultChoice;          ///< The queue's, or else the PPD's; may be empty.
+  bool isLocked = false;              ///< The job's ticket prevents changes.
+  bool takesCustomValue = false;      ///< Whether it accepts values outside `choices`.
+  std::optional<CustomOption> custom; ///< How to enter such a value; none if unknown.
 
   bool differsFromDefault() const { return chosen != defaultChoice; }
-  /// What holds: one choice's keyword, of `Several` those of the list.
+  /// The chosen keyword, or several for `Several`.
   ChoiceSet chosenSet() const;
-  /// The choice's text, or those of a list; of a value that is entered what a person reads of it.
+  /// The name to show for a choice, a list or a custom value.
   std::string textOf(const std::string &choice) const;
 
 private:
@@ -47,37 +47,37 @@ struct OptionGroup {
   std::vector<PrinterOption> options;
 };
 
-/// Reads and changes the options of one printer for one job. Both are borrowed and outlive this.
+/// Reads and changes the options of one printer for one job. Both are borrowed and must outlive
+/// this object.
 ///
-/// Each operation marks the PPD anew from the job, so that whoever changed the job's settings
-/// needs to tell nobody. Texts are in the locale's language where the PPD has it, on one line of
-/// UTF-8 each.
+/// Each operation marks the PPD from the job again, so other code may change the job's settings at
+/// any time. Names are in the locale's language if the PPD has it, each on one line of UTF-8.
 class PrinterOptions {
 public:
   PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job);
 
-  /// Every group with every option that a job can name, each once. A subgroup is a group of its own
-  /// behind that which holds it.
+  /// Every group with every option that a job can name, each once. A subgroup is a separate group
+  /// after its parent.
   std::vector<OptionGroup> all();
 
-  /// What a pane of options shows: without these keywords (of options that have a place elsewhere
-  /// in the window, and those that panels announce), without "PageRegion", which only repeats
-  /// "PageSize", and without options that leave nothing to choose or enter. No group is empty.
+  /// The options to show in a pane: omits the keywords in `without` (options that are elsewhere in
+  /// the window, or that panels announce), "PageRegion", which only repeats "PageSize", and options
+  /// with nothing to choose or enter. No group is empty.
   std::vector<OptionGroup> listed(const std::vector<std::string> &without);
 
   /// Keywords match without regard to case.
   std::optional<PrinterOption> find(const std::string &keyword);
 
-  /// The option that turns two-sided printing on; older descriptions call it otherwise than
+  /// The option that turns two-sided printing on. Older descriptions have other names for it than
   /// "Duplex".
   std::optional<PrinterOption> twoSided();
 
-  /// Stores the choice in the job, or removes the job's entry when it is the default, and marks the
-  /// PPD. A list of choices is one, too, and a value that the option lets a person enter. False,
-  /// and nothing changes, when there is no such option or choice, or it is locked.
+  /// Stores the choice in the job, or removes the job's entry if it is the default, and marks the
+  /// PPD. Also accepts a list of choices and a custom value. Returns false and changes nothing if
+  /// there is no such option or choice, or if it is locked.
   bool choose(const std::string &keyword, const std::string &choice);
 
-  /// The same for one choice of an option that takes several; see `withChoice`.
+  /// The same for one choice of an option that accepts several; see `withChoice`.
   bool tick(const std::string &keyword, const std::string &choice, bool on);
 
 private:

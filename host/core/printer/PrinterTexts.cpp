@@ -6,7 +6,7 @@ namespace imageposition::messages {
 
 namespace {
 
-/// Reasons of libraries come with and without a full stop.
+/// Libraries end some error messages with a full stop and others without.
 std::string withoutStop(std::string reason) {
   while (!reason.empty() && reason.back() == '.')
     reason.pop_back();

@@ -1,6 +1,6 @@
-/// What is said about a printer's description, its options and their conflicts.
-#ifndef IMAGEPOSITION_HOST_PRINTERTEXTS_HPP
-#define IMAGEPOSITION_HOST_PRINTERTEXTS_HPP
+/// Messages about a printer's description, its options and their conflicts.
+#ifndef IMAGEPOSITION_CORE_PRINTER_PRINTERTEXTS_HPP
+#define IMAGEPOSITION_CORE_PRINTER_PRINTERTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -22,12 +22,12 @@ std::string ppdOfQueue(const std::string &queue);
 std::string cupsUnreachable(const std::string &server, const std::string &queue);
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
 
-/// An option with a choice, by their texts.
+/// An option and a choice, by the names to show.
 std::string chosenOption(const std::string &option, const std::string &choice);
-/// Of an option that takes several choices.
+/// For an option that accepts several choices.
 extern const Text kNothingChosen;
 
-// Values of a person's own. `name` is the parameter's, `range` what may be entered.
+// Custom values. `name` is the parameter's; `range` describes the accepted values.
 extern const Text kPageWidth;
 extern const Text kPageHeight;
 /// "Custom: 100 × 200 mm".
@@ -42,7 +42,7 @@ std::string entryNotWhole(const std::string &name, const std::string &range);
 std::string entryOutOfRange(const std::string &name, const std::string &range);
 std::string entryLength(const std::string &name, const std::string &letters,
                         const std::string &range);
-/// Of a text that has letters beyond ASCII.
+/// For a string with characters beyond ASCII.
 std::string entryLengthInBytes(const std::string &name, const std::string &bytes,
                                const std::string &range);
 std::string entryNoDigits(const std::string &name);
@@ -62,8 +62,7 @@ std::string misfitEntered(const std::string &option, const std::string &problem)
 std::string broughtIntoRange(const std::string &option, const std::string &value,
                              const std::string &nearest, const std::string &range);
 
-// The same in the summary.
-/// CUPS's own name for the options that stand in no group.
+/// CUPS's name for options without a group.
 extern const Text kGeneralGroup;
 
 } // namespace imageposition::messages

@@ -12,7 +12,7 @@ namespace {
 
 struct SecretOption {
   const char *name;
-  const char *source; // which says that it is a secret, or part of one
+  const char *source; // the document that defines it as a secret, or part of one
 };
 
 constexpr SecretOption kSecretOptions[] = {
@@ -21,7 +21,7 @@ constexpr SecretOption kSecretOptions[] = {
     {"destination-accesses", "PWG 5100.17: \"access-password\", \"access-pin\", OAuth tokens"},
     {"document-access", "PWG 5100.18: the same, for fetching the document"},
     {"document-password", "PWG 5100.13: opens the document"},
-    {"job-authorization-uri", "PWG 5100.16: stands for the right to print the job"},
+    {"job-authorization-uri", "PWG 5100.16: grants the right to print the job"},
     {"job-password", "PWG 5100.11: releases the job at the printer"},
     {"job-password-encryption", "PWG 5100.11: how \"job-password\" is hashed"},
 };
@@ -30,7 +30,7 @@ bool endsLike(std::string_view name, std::string_view end) {
   return name.size() >= end.size() && isSame(name.substr(name.size() - end.size()), end);
 }
 
-/// "pin" as a word: not that of "StapleSpin".
+/// Whether the name ends in the word "pin", unlike "StapleSpin".
 bool endsWithPin(const std::string &name) {
   constexpr std::string_view kPin = "pin";
   if (!endsLike(name, kPin))
@@ -43,15 +43,15 @@ bool endsWithPin(const std::string &name) {
   return before == '-' || before == '_' || (isAfterLowerCase && name[start] == 'P');
 }
 
-/// As printer makers name them.
-bool soundsSecret(const std::string &name) {
+/// Whether the name is one that printer makers use for secrets.
+bool looksSecret(const std::string &name) {
   return endsLike(name, "password") || endsLike(name, "passcode") || endsWithPin(name);
 }
 
 } // namespace
 
 bool isSecretName(const std::string &name) {
-  return soundsSecret(name) ||
+  return looksSecret(name) ||
          std::any_of(std::begin(kSecretOptions), std::end(kSecretOptions),
                      [&](const SecretOption &option) { return isSame(option.name, name); });
 }

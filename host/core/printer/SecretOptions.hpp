@@ -1,13 +1,13 @@
-/// Options whose values are nobody else's to read, whatever the printer.
-#ifndef IMAGEPOSITION_HOST_SECRETOPTIONS_HPP
-#define IMAGEPOSITION_HOST_SECRETOPTIONS_HPP
+/// Options whose values are secret on any printer.
+#ifndef IMAGEPOSITION_CORE_PRINTER_SECRETOPTIONS_HPP
+#define IMAGEPOSITION_CORE_PRINTER_SECRETOPTIONS_HPP
 
 #include <string>
 
 namespace imageposition {
 
-/// Whether IPP or CUPS has a password, or something as good as one, under this name; or the name
-/// ends in "password", "passcode" or the word "pin". Its case does not count.
+/// Whether IPP or CUPS defines this name for a password or equivalent, or the name ends in
+/// "password", "passcode" or the word "pin". Ignores case.
 bool isSecretName(const std::string &name);
 
 } // namespace imageposition

@@ -18,7 +18,7 @@ constexpr double kRounding = 0.5; // points
 constexpr int kRangeDecimals = 4;
 constexpr int kRealDecimals = 6;
 
-/// An end of a range, rounded into it.
+/// An end of a range, rounded towards its inside.
 std::string endText(const CustomParameter &parameter, double end, bool isLower, LengthUnit unit) {
   if (parameter.kind != Kind::Length)
     return plainNumber(end, kRangeDecimals);
@@ -37,7 +37,7 @@ std::string rangeInWords(const CustomParameter &parameter, LengthUnit unit) {
   return low == high ? low : messages::fromTo(low, high);
 }
 
-/// A person counts letters, the printer bytes: only where these differ anything is said of it.
+/// Users count letters, printers count bytes. The message mentions bytes only if the counts differ.
 std::string lengthProblem(const CustomParameter &parameter, const std::string &typed) {
   const std::string range = rangeInWords(parameter, LengthUnit::Point);
   const bool isAscii = std::all_of(typed.begin(), typed.end(),
@@ -73,7 +73,7 @@ CheckedEntry checkLength(const CustomParameter &parameter, const std::string &ty
   return {writeLength(*length), ""};
 }
 
-/// libcups keeps the ends of a real number's range as such numbers: 0.1 is not below 0.1f.
+/// libcups stores a real number's range as floats: 0.1 must not count as below 0.1f.
 bool isWithin(const CustomParameter &parameter, double number) {
   if (parameter.kind == Kind::Integer)
     return number >= parameter.minimum && number <= parameter.maximum;
@@ -82,7 +82,7 @@ bool isWithin(const CustomParameter &parameter, double number) {
          rounded <= static_cast<float>(parameter.maximum);
 }
 
-/// Of a number's text: as CUPS reads it digit by digit, however it would be rounded.
+/// Checks the digits, like CUPS, rather than the rounded number.
 bool isWhole(const std::string &number) {
   const std::size_t point = number.find_first_of(".,");
   return point == std::string::npos ||
@@ -101,14 +101,14 @@ CheckedEntry checkNumber(const CustomParameter &parameter, const std::string &ty
   return {plainNumber(*number, parameter.kind == Kind::Integer ? 0 : kRealDecimals), ""};
 }
 
-/// Whether a name that the PPD does not have may be one of its options all the same.
-bool soundsLikeOption(const std::string &name) {
+/// Whether a name that the PPD lacks looks like a PPD option.
+bool looksLikeOption(const std::string &name) {
   const bool hasCapital =
       std::any_of(name.begin(), name.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
   return hasCapital && name.find('.') == std::string::npos;
 }
 
-/// A choice that a job can name. "Custom" is what CUPS marks for custom values, and none itself.
+/// A choice that a job can name. "Custom" is only CUPS's mark for custom values, not a choice.
 std::optional<std::string> acceptedChoice(const ppd_option_t &option, const std::string &value,
                                           bool takesCustomValue) {
   if (value.empty() || (takesCustomValue && isSame(value, kCustomChoice)))
@@ -119,7 +119,7 @@ std::optional<std::string> acceptedChoice(const ppd_option_t &option, const std:
   return std::nullopt;
 }
 
-/// The nearest number in the range, in the value's form; none when that is not what is wrong.
+/// The nearest number in the range, in the value's form; none if the problem is not the range.
 std::optional<std::string> nearestValue(const CustomOption &option, const std::string &value) {
   const CustomParameter &parameter = option.parameters.front();
   const auto entries = readCustomValue(option, value);
@@ -137,14 +137,14 @@ std::optional<std::string> nearestValue(const CustomOption &option, const std::s
   return hasCustomPrefix(value) ? withCustomPrefix(end) : end;
 }
 
-/// Of a value that the option does not take.
+/// For a value that the option rejects.
 FittedSetting fitOther(ppd_file_t *ppd, const ppd_option_t &option, const std::string &value) {
   const std::string text = textOrKeyword(option.text, option.keyword);
   const bool isHidden = isHiddenValue(ppd, option.keyword, value);
   const auto custom = customOption(ppd, option.keyword);
   if (!custom || !readCustomValue(*custom, value))
     return {std::nullopt, messages::misfitChoice(text, isHidden ? kHiddenValue : value)};
-  // Any other PIN or password is a wrong one.
+  // A PIN or password must not be adjusted.
   const auto nearest = isHidden ? std::nullopt : nearestValue(*custom, value);
   if (nearest)
     return {nearest, messages::broughtIntoRange(
@@ -208,7 +208,7 @@ FittedSetting fitSetting(ppd_file_t *ppd, const std::string &name, const std::st
                          bool isKept) {
   const ppd_option_t *const option = ppdFindOption(ppd, name.c_str());
   if (option == nullptr) {
-    if (isKept || !soundsLikeOption(name))
+    if (isKept || !looksLikeOption(name))
       return {value, ""};
     const bool isHidden = isHiddenValue(ppd, name, value);
     return {std::nullopt, messages::misfitOption(name, isHidden ? kHiddenValue : value)};

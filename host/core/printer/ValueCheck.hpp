@@ -1,6 +1,6 @@
-/// Whether a printer takes a value for one of its options, and why not.
-#ifndef IMAGEPOSITION_HOST_VALUECHECK_HPP
-#define IMAGEPOSITION_HOST_VALUECHECK_HPP
+/// Checking whether a printer accepts a value for an option, and why not.
+#ifndef IMAGEPOSITION_CORE_PRINTER_VALUECHECK_HPP
+#define IMAGEPOSITION_CORE_PRINTER_VALUECHECK_HPP
 
 #include "CustomValue.hpp"
 
@@ -13,42 +13,41 @@ namespace imageposition {
 
 /// What a user typed for one parameter of a custom value.
 struct CheckedEntry {
-  std::string entry;   ///< As CUPS takes it; meaningful without a problem.
-  std::string problem; ///< In a sentence; empty when the printer takes it.
+  std::string entry;   ///< As CUPS accepts it; valid only if `problem` is empty.
+  std::string problem; ///< A sentence; empty if the printer accepts the entry.
 };
 
-/// Numbers can have a comma or a point, and lengths a unit; a length without one is in `unit`.
-/// Nothing is changed silently, but that a length is rounded to the unit's decimals. It may be
-/// beyond an end of its range by half a point: the PPD's whole points are rounded, too.
+/// Numbers can have a decimal comma or point, and lengths a unit; a length without one is in
+/// `unit`. Rounds a length to the unit's decimals and changes nothing else. A length may be outside
+/// its range by half a point, because the PPD's whole points are rounded, too.
 CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typed,
                         LengthUnit unit);
 
-/// Why the printer does not take the custom value; empty when it does.
+/// Why the printer rejects the custom value; empty if it accepts it.
 std::string customValueProblem(const CustomOption &option, const std::string &value);
 
-/// What may be entered, in a few words: "70.56 to 246.94 mm". Rounded inwards, so that each end can
-/// be entered.
+/// The range of accepted values: "70.56 to 246.94 mm". Rounded inwards, because users may enter
+/// either end.
 std::string rangeText(const CustomParameter &parameter, LengthUnit unit);
 
-/// Where a field starts when nothing has been entered: the range's lower end; nothing for a text.
+/// A field's initial value: the range's lower end; empty for a string.
 std::string initialEntry(const CustomParameter &parameter, LengthUnit unit);
 
-/// The value as a job carries it: a choice as the PPD spells it, a list of choices in the PPD's
-/// order, a custom value as it is. None when the option does not take it.
+/// The value for the job: a choice in the PPD's spelling, a list of choices in the PPD's order, or
+/// a custom value unchanged. None if the option rejects it.
 std::optional<std::string> acceptedValue(ppd_file_t *ppd, const ppd_option_t &option,
                                          const std::string &value);
 
-/// What a printer makes of a setting of another job or printer.
+/// A setting of another job or printer, adapted to a printer.
 struct FittedSetting {
-  std::optional<std::string> value; ///< None: the setting is left out.
-  std::string change;               ///< In a sentence; empty when the value stays as it is.
+  std::optional<std::string> value; ///< None if the setting is dropped.
+  std::string change;               ///< A sentence; empty if the value is unchanged.
 };
 
-/// A value that the printer takes stays, and a number out of its range becomes the nearest in it,
-/// unless nobody else may read it; any other is left out. Names that the PPD does not have stay
-/// when `isKept`. Two kinds of them always stay: CUPS's own ("copies", "number-up", ...), which
-/// have no capital letter, and those with a dot ("com.example.Shift"), which only panels have: the
-/// panel decides on its values.
+/// Keeps a value that the printer accepts, replaces a number outside its range by the nearest one
+/// (unless it is secret), and drops any other. Keeps a name that the PPD lacks if `isKept` is true,
+/// or if the name belongs to CUPS ("copies", "number-up", ...; no capital letter) or to a panel
+/// ("com.example.Shift"; a dot), which checks its own values.
 FittedSetting fitSetting(ppd_file_t *ppd, const std::string &name, const std::string &value,
                          bool isKept);
 

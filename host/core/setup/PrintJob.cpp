@@ -23,7 +23,7 @@ namespace imageposition {
 
 namespace {
 
-/// The user's default, or else the server's.
+/// The user's default, or the server's if the user has none.
 std::string defaultQueue() {
   cups_dest_t *const destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
   if (destination == nullptr)
@@ -48,20 +48,20 @@ std::unique_ptr<PrinterDescription> firstPrinter(const Arguments &arguments,
                                                   : PrinterDescription::ofQueue(queue));
 }
 
-/// Where lp has CUPS send what happened to a job.
+/// Where lp has CUPS send notifications about a job.
 std::string mailAddress() {
   char host[HTTP_MAX_HOST];
   return std::string(cupsUser()) + "@" + httpGetHostname(nullptr, host, sizeof host);
 }
 
-void takeLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
+void applyLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
   for (const std::string &option : arguments.options)
     readOptionArgument(option, settings);
   if (arguments.isMailWanted)
     readOptionArgument("notify-recipient-uri=mailto:" + mailAddress(), settings);
 }
 
-/// A preset is an instance of the queue; panels see what it holds only among the job's settings.
+/// A preset is an instance of the queue. Its settings join the job's, where panels see them.
 LoadedPreset presetOf(const std::string &queue, const PrinterDescription &printer) {
   const QueueName name = QueueName::parse(queue);
   if (name.instance.empty())
@@ -72,7 +72,7 @@ LoadedPreset presetOf(const std::string &queue, const PrinterDescription &printe
   return preset;
 }
 
-/// The queue's preset, or the ticket that is there already, with the command line's options on top.
+/// The existing ticket, or else the queue's preset, overridden by the command line's options.
 Ticket openTicket(const Arguments &arguments, const PrintSettingsStore &preset) {
   Ticket ticket;
   ticket.settings = preset;
@@ -81,11 +81,11 @@ Ticket openTicket(const Arguments &arguments, const PrintSettingsStore &preset) 
       ticket = *stored;
   if (!arguments.documents.empty())
     ticket.documents = arguments.documents;
-  takeLpOptions(arguments, ticket.settings);
+  applyLpOptions(arguments, ticket.settings);
   return ticket;
 }
 
-/// A pipe or a file, and no terminal or the nothing that desktops start programs with.
+/// True for a pipe or a file; false for a terminal and for /dev/null, which desktops pass.
 bool isInputGiven() {
   struct stat status {};
   return fstat(STDIN_FILENO, &status) == 0 && !S_ISCHR(status.st_mode);
@@ -96,14 +96,15 @@ void writeToOutput(const std::string &settings) {
     std::cout << settings;
     return;
   }
-  std::cout.flush(); // which shows what it is given
+  // Bypass `std::cout`, which escapes control characters.
+  std::cout.flush();
   if (std::fwrite(settings.data(), 1, settings.size(), stdout) != settings.size() ||
       std::fflush(stdout) != 0)
     throw Failure(ExitCode::Ticket, messages::outputUnwritable({}));
 }
 
-/// What a setting for the printer `before` is on this one; none when this one has no such option or
-/// does not take the value.
+/// The value of a setting after switching from the printer `before`; none if the new printer lacks
+/// the option or rejects the value.
 std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
                                      const cups_option_t &setting) {
   if (ppdFindOption(before, setting.name) == nullptr)
@@ -167,7 +168,8 @@ JobRequest PrintJob::request(const DestinationList &destinations) const {
     for (std::string &name : hiddenSettings(printer_->ppd(), *settings))
       request.secrets.push_back(std::move(name));
   const Destination *const destination = destinations.find(queue_);
-  if (destination != nullptr && isSubmitted_) { // a ticket has none of the destination's defaults
+  if (destination != nullptr &&
+      isSubmitted_) { // a ticket does not include the destination's defaults
     request.defaults = destination->defaults;
     request.printerUri = destination->uri;
   }
@@ -198,7 +200,7 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
   if (arguments_.isSilent || arguments_.isMailWanted)
     return;
   const auto &paths = arguments_.documents;
-  const auto inputs = std::count(paths.begin(), paths.end(), "-"); // lp counts files alone
+  const auto inputs = std::count(paths.begin(), paths.end(), "-"); // lp counts only files
   output << messages::jobSent(printer, sent.id, paths.size() - inputs) << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;

@@ -1,4 +1,4 @@
-/// The print job that is being set up: its printer, settings and documents.
+/// The print job being set up: its printer, settings and documents.
 #ifndef IMAGEPOSITION_CORE_SETUP_PRINTJOB_HPP
 #define IMAGEPOSITION_CORE_SETUP_PRINTJOB_HPP
 
@@ -20,7 +20,7 @@ namespace imageposition {
 class PrintJob {
 public:
   /// Opens the printer and the ticket that the command line names. Throws a `Failure`. `arguments`
-  /// outlives this.
+  /// is borrowed and must outlive this object.
   explicit PrintJob(const Arguments &arguments);
   PrintJob(const PrintJob &) = delete;
   PrintJob &operator=(const PrintJob &) = delete;
@@ -32,43 +32,44 @@ public:
   const PrinterDescription &printer() const noexcept { return *printer_; }
   PrintSettingsStore &settings() noexcept { return ticket_.settings; }
 
-  /// Sentences about settings of the first queue's preset that its printer does not accept as they
-  /// are. They have been written to standard error.
+  /// One sentence for each setting of the first queue's preset that was changed or dropped because
+  /// the printer does not accept it. The constructor writes them to standard error.
   const std::vector<std::string> &misfits() const noexcept { return preset_.misfits; }
 
-  /// Whether CUPS gets the job; otherwise its settings are written.
+  /// Whether `print` submits the job to CUPS; otherwise it writes the settings.
   bool isSubmitted() const noexcept { return isSubmitted_; }
-  /// Without effect where there is no queue to submit to.
+  /// Stays false if there is no queue.
   void setSubmitted(bool submitted) noexcept { isSubmitted_ = submitted && !queue_.empty(); }
 
   /// Opens the printer of another queue. Throws a `Failure`.
   std::unique_ptr<PrinterDescription> openPrinter(const std::string &queue) const;
-  /// Takes another queue and its printer, with those of the job's settings that the printer can
-  /// have. Nothing may refer to the printer that the job had before.
+  /// Switches to another queue and its printer, and keeps the settings that the printer accepts.
+  /// Destroys the previous printer.
   void takePrinter(const std::string &queue, std::unique_ptr<PrinterDescription> printer);
 
-  /// As the command line or the ticket names them; none for standard input that nobody named.
+  /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
-  /// Whether there is something to print: a document, or, for a window, what comes in.
+  /// Whether there is something to print: a document, or, with a window, redirected input.
   bool hasDocument() const;
 
-  /// What CUPS is asked for: the destination's defaults, where the list has it, and the job's
-  /// settings.
+  /// The request to send to CUPS: the job's settings and, if `destinations` has the queue, its
+  /// defaults.
   JobRequest request(const DestinationList &destinations) const;
 
-  /// What Print does: writes a ticket of that path (the settings to standard output, if the path is
-  /// empty), writes the request of a dry run to standard output, or starts to submit the job, which
-  /// the caller awaits and reports. Null for the first two. Throws a `Failure`.
+  /// Prints: writes a ticket to `ticketPath` (or the settings to standard output, if the path is
+  /// empty), writes the request of a dry run to standard output, or starts to submit the job.
+  /// Returns the submission, which the caller awaits and reports; null in the other cases. Throws a
+  /// `Failure`.
   std::unique_ptr<JobSubmission> print(const DestinationList &destinations,
                                        const std::string &ticketPath,
                                        JobSubmission::Changed changed = {});
 
-  /// Says that CUPS has the job: lp's line on `output`, what is special on `notes`; nothing when
-  /// the command line asks for silence.
+  /// Reports the submitted job: lp's line to `output`, remarks to `notes`. Writes nothing if the
+  /// command line has -s or -m.
   void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
   /// CUPS's name of the submitted job, "office-12"; empty before `report`.
   const std::string &sentName() const noexcept { return sentName_; }
-  /// A sentence that names the written files; empty before they are written.
+  /// A sentence that names the written files; empty until they are written.
   const std::string &done() const noexcept { return done_; }
 
 private:

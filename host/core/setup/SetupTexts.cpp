@@ -13,7 +13,7 @@ std::string outputUnwritable(const std::string &done) {
         "Cannot write to standard output. Redirect it elsewhere, or specify a file with --ticket.");
   return text("Cannot write to standard output. {1}").with(done);
 }
-// As lp says it in English: scripts read it.
+// lp's English output, which scripts parse.
 std::string jobSent(const std::string &printer, int id, std::size_t files) {
   return "request id is " + printer + "-" + std::to_string(id) + " (" + std::to_string(files) +
          " file(s))";

@@ -1,6 +1,6 @@
-/// What is said about the job that is being set up.
-#ifndef IMAGEPOSITION_HOST_SETUPTEXTS_HPP
-#define IMAGEPOSITION_HOST_SETUPTEXTS_HPP
+/// Messages about the job being set up.
+#ifndef IMAGEPOSITION_CORE_SETUP_SETUPTEXTS_HPP
+#define IMAGEPOSITION_CORE_SETUP_SETUPTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -11,12 +11,12 @@ namespace imageposition::messages {
 // Printers.
 extern const Text kNoDefaultPrinter;
 
-// What came out.
+// Output.
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
-/// `done`: in sentences, what cannot be taken back; may be empty.
+/// `done`: sentences about what cannot be undone; may be empty.
 std::string outputUnwritable(const std::string &done);
 
-/// lp's own words, which scripts read.
+/// lp's output, which scripts parse; not translated.
 std::string jobSent(const std::string &printer, int id, std::size_t files);
 
 } // namespace imageposition::messages

@@ -1,4 +1,4 @@
-/// Whether what was written to standard output went there.
+/// Checking that standard output could be written.
 #ifndef IMAGEPOSITION_CORE_SETUP_STANDARDOUTPUT_HPP
 #define IMAGEPOSITION_CORE_SETUP_STANDARDOUTPUT_HPP
 
@@ -6,8 +6,8 @@
 
 namespace imageposition {
 
-/// Flushes standard output; throws a `Failure` with `ExitCode::Ticket` if that, or any write
-/// before, failed. `done`: a sentence that names what has been written elsewhere; may be empty.
+/// Flushes standard output. Throws a `Failure` with `ExitCode::Ticket` if that or an earlier write
+/// failed. `done`: a sentence that names files already written; may be empty.
 void requireOutput(const std::string &done = {});
 
 } // namespace imageposition

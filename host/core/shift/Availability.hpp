@@ -1,6 +1,6 @@
-/// Whether a printer can shift a job's image as the job stands, and if not, why.
-#ifndef IMAGEPOSITION_HOST_AVAILABILITY_HPP
-#define IMAGEPOSITION_HOST_AVAILABILITY_HPP
+/// Whether the image of a job can be shifted with its current settings, and why not.
+#ifndef IMAGEPOSITION_CORE_SHIFT_AVAILABILITY_HPP
+#define IMAGEPOSITION_CORE_SHIFT_AVAILABILITY_HPP
 
 #include <cups/ppd.h>
 
@@ -8,8 +8,8 @@
 
 namespace imageposition {
 
-/// What stands in the way of shifting the image. The same two choices as the panel asks for, with
-/// the same exact comparison; an option that the printer lacks stands in nobody's way.
+/// The settings that prevent shifting the image. Checks the same two choices as the panel, with the
+/// same case-sensitive comparison; an option that the printer lacks prevents nothing.
 struct Availability {
   bool oneSided = false;    ///< The marked "Duplex" is "None".
   bool bannerPages = false; ///< The marked "MVBannerPagePrint" is "True".
@@ -22,13 +22,13 @@ inline bool operator==(const Availability &a, const Availability &b) noexcept {
 }
 inline bool operator!=(const Availability &a, const Availability &b) noexcept { return !(a == b); }
 
-/// From the marked choices; `ppd` may be null, and then nothing is in the way.
+/// From the marked choices. If `ppd` is null, the shift is available.
 Availability availabilityOf(ppd_file_t *ppd);
 
-/// One sentence for each thing that is in the way; empty when nothing is.
+/// One sentence for each obstacle; empty if there is none.
 std::string reasonText(const Availability &availability);
 
-/// The same with what to do about it on the command line.
+/// The same, with the command-line option that removes each obstacle.
 std::string adviceText(const Availability &availability);
 
 } // namespace imageposition

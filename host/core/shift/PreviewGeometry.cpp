@@ -21,7 +21,7 @@ PageRectangle wholePage(const PageShape &page) { return {{0}, {0}, page.width, p
 
 bool isUsableLength(double points) { return std::isfinite(points) && points > 0; }
 
-/// A PPD measures upwards from the lower left corner.
+/// A PPD measures upwards from the lower-left corner.
 PageShape pageShapeOf(ppd_file_t *ppd) {
   PageShape page{kA4Width, kA4Height, {}, false, false};
   const ppd_size_t *const size = ppd == nullptr ? nullptr : ppdPageSize(ppd, nullptr);
@@ -36,7 +36,7 @@ PageShape pageShapeOf(ppd_file_t *ppd) {
   const double right = std::min<double>(size->right, size->width);
   const double top = std::max<double>(size->length - size->top, 0);
   const double bottom = std::min<double>(size->length - size->bottom, size->length);
-  page.isImageableKnown = left < right && top < bottom; // false for no number as well
+  page.isImageableKnown = left < right && top < bottom; // also false for NaN
   page.imageable =
       page.isImageableKnown ? PageRectangle{{left}, {top}, {right}, {bottom}} : wholePage(page);
   return page;
@@ -51,7 +51,7 @@ Turning turningOf(ppd_file_t *ppd) {
   return std::strcmp(choice->choice, "DuplexTumble") == 0 ? Turning::ShortEdge : Turning::LongEdge;
 }
 
-/// As a driver reads it: digits up to the first other character, saturated.
+/// Like a driver, reads digits up to the first other character and saturates.
 int readTenths(const char *text) {
   const long long number = std::strtoll(text, nullptr, 10);
   return static_cast<int>(std::clamp<long long>(number, std::numeric_limits<int>::min(),
@@ -77,7 +77,7 @@ std::vector<PageRectangle> partsOutside(const PageRectangle &inner, const PageRe
     if (left < right && top < bottom)
       parts.push_back({left, top, right, bottom});
   };
-  // The strips above and below take the corners.
+  // The top and bottom strips include the corners.
   add(inner.left, inner.top, inner.right, std::min(inner.bottom, area.top));
   add(inner.left, std::max(inner.top, area.bottom), inner.right, inner.bottom);
   const Point top = std::max(inner.top, area.top);
@@ -135,7 +135,7 @@ std::string directions(const Offset &offset) {
   return messages::inWords(parts);
 }
 
-/// At most all of the content is lost.
+/// Limits each length to the size of the content.
 std::string lostEdges(const SidePreview &side) {
   const PageRectangle &content = side.content;
   const Point width = content.right - content.left;

@@ -1,6 +1,6 @@
-/// Where a job's content will be on the sheet: what the picture beside the panel shows.
-#ifndef IMAGEPOSITION_HOST_PREVIEWGEOMETRY_HPP
-#define IMAGEPOSITION_HOST_PREVIEWGEOMETRY_HPP
+/// Where a job's content will be on the sheet, for the picture next to the panel.
+#ifndef IMAGEPOSITION_CORE_SHIFT_PREVIEWGEOMETRY_HPP
+#define IMAGEPOSITION_CORE_SHIFT_PREVIEWGEOMETRY_HPP
 
 #include "Availability.hpp"
 #include "PrintSettingsStore.hpp"
@@ -14,13 +14,13 @@
 
 namespace imageposition {
 
-/// How far an image is moved, as the reader of that side sees it.
+/// The shift of an image, as seen by the reader of that side.
 struct Offset {
   TenthMillimetre right;
   TenthMillimetre down;
 };
 
-/// On a page, from its upper left corner, downwards.
+/// On a page, measured from its upper-left corner, downwards.
 struct PageRectangle {
   Point left;
   Point top;
@@ -28,8 +28,8 @@ struct PageRectangle {
   Point bottom;
 };
 
-/// The edge about which the sheet is turned between its two sides. That edge runs down the page or
-/// across it depending on the page's own shape.
+/// The edge about which the sheet is turned between its two sides. It runs down or across the page,
+/// depending on the page's shape.
 enum class Turning { OneSided, LongEdge, ShortEdge };
 
 /// A page, unshifted.
@@ -37,24 +37,24 @@ struct PageShape {
   Point width;
   Point height;
   PageRectangle imageable;      ///< Where the printer can print; inside the page.
-  bool isSizeKnown = true;      ///< Otherwise an A4 page stands in.
-  bool isImageableKnown = true; ///< Otherwise `imageable` is the whole page.
+  bool isSizeKnown = true;      ///< If false, the size is that of A4.
+  bool isImageableKnown = true; ///< If false, `imageable` is the whole page.
 };
 
-/// All that the picture depends on.
+/// Everything that the picture depends on.
 struct PreviewRequest {
   PageShape page;
   Turning turning = Turning::LongEdge;
   Offset front;
-  Offset back; ///< The front's unless the job gives the back offsets of its own.
+  Offset back; ///< Equals `front` unless the job has separate back offsets.
   Availability availability;
 };
 
-/// One side, in the coordinates of whoever looks at it.
+/// One side, as seen by its reader.
 struct SidePreview {
   Offset offset;
   PageRectangle imageable;
-  /// What fills the imageable area of an unshifted page, where it really comes to lie; it can reach
+  /// Where content that fills the imageable area of an unshifted page is printed; it can extend
   /// beyond the page.
   PageRectangle content;
   /// The parts of `content` outside `imageable`; they do not overlap.
@@ -79,26 +79,26 @@ bool operator==(const SidePreview &a, const SidePreview &b) noexcept;
 bool operator==(const Preview &a, const Preview &b) noexcept;
 inline bool operator!=(const Preview &a, const Preview &b) noexcept { return !(a == b); }
 
-/// Reads the job's settings and the printer's marked choices. A missing offset, or a text that is
-/// no number, is 0; the back has offsets of its own only with the enable flag "True". Without a
-/// usable "Duplex" choice the sheet is taken to be turned about its long edge. `ppd` may be null.
+/// Reads the job's settings and the printer's marked choices. An offset that is missing or not a
+/// number is 0. The back has separate offsets only if the enable flag is "True". Without a usable
+/// "Duplex" choice, assumes that the sheet is turned about its long edge. `ppd` may be null.
 PreviewRequest readPreviewRequest(const PrintSettingsStore &job, ppd_file_t *ppd);
 
-/// While the adjustment is not available nothing is shifted.
+/// Shifts nothing if the adjustment is not available.
 Preview makePreview(const PreviewRequest &request);
 
-/// Both steps.
+/// Combines `readPreviewRequest` and `makePreview`.
 Preview makePreview(const PrintSettingsStore &job, ppd_file_t *ppd);
 
-/// Whether the edge about which the sheet is turned runs down the page, so that the back is
-/// mirrored left-right. The long edges of a page that is wider than high run across it.
+/// Whether the edge about which the sheet is turned runs down the page, which mirrors the back
+/// left-right. The long edges of a page that is wider than high run across it.
 bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) noexcept;
 
-/// How far the back lies from where it would be exactly behind the front, as the reader of the
-/// front sees it through the sheet. Zero for one-sided printing.
+/// The displacement of the back relative to the front, as the reader of the front sees it through
+/// the sheet. Zero for one-sided printing.
 Offset backAgainstFront(const Preview &preview);
 
-/// The picture in sentences, one an element, for whoever cannot see it and for the tool tip.
+/// Describes the picture, one sentence per element, for screen readers and the tool tip.
 std::vector<std::string> describePreview(const Preview &preview);
 
 } // namespace imageposition

@@ -6,15 +6,15 @@
 namespace imageposition {
 namespace {
 
-// How many squares of the grid lie above its centre and below, and how many a mark moves at most.
+// Squares of the grid on each side of its centre; also the most that a mark moves.
 constexpr int kSquares = 5;
 constexpr double kHalfSquare = 0.5;
 
-// Content that is moved beyond the page needs the gap between two pages.
+// Leaves room for content that is shifted beyond the page.
 double columnGap(const PictureSize &size) { return std::round(size.lineHeight); }
 double margin(const PictureSize &size) { return std::round(size.lineHeight / 2); }
 
-/// Takes lines of text and other places from the top to the bottom.
+/// Allocates lines of text and other areas from top to bottom.
 class Column {
 public:
   explicit Column(const PictureSize &size)
@@ -42,8 +42,7 @@ PixelRectangle third(const PixelRectangle &row, std::size_t index, double gap) {
   return {row.x + static_cast<double>(index) * (width + gap), row.y, width, row.height};
 }
 
-/// 0.2 mm, then 1, 2, 5, 10, ...: few steps, so that the scale seldom changes under the reader's
-/// eyes.
+/// 0.2 mm, then 1, 2, 5, 10, ...: few steps, because a scale that changes often is hard to follow.
 std::int64_t nextSquare(std::int64_t tenths) {
   constexpr std::int64_t kSmallest = 2;
   constexpr std::int64_t kMillimetre = 10;
@@ -77,7 +76,7 @@ void layOutPages(PreviewLayout &layout, const Preview &preview, const PictureSiz
   const double gap = columnGap(size);
   const PixelRectangle titles = column.line();
   column.skip(margin(size) / 2);
-  // What remains after nine lines and gaps is shared by pages and grid.
+  // The pages and the grid share what remains after nine lines and the gaps.
   const double pagesHeight = std::max(0.0, (size.height - 9.5 * size.lineHeight) / 2);
   const double width = third(titles, 0, gap).width;
   layout.pixelsPerPoint =

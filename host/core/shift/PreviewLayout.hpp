@@ -1,6 +1,6 @@
-/// Where the picture beside the panel draws what, in pixels.
-#ifndef IMAGEPOSITION_HOST_PREVIEWLAYOUT_HPP
-#define IMAGEPOSITION_HOST_PREVIEWLAYOUT_HPP
+/// The layout of the picture next to the panel, in pixels.
+#ifndef IMAGEPOSITION_CORE_SHIFT_PREVIEWLAYOUT_HPP
+#define IMAGEPOSITION_CORE_SHIFT_PREVIEWLAYOUT_HPP
 
 #include "PreviewGeometry.hpp"
 
@@ -9,7 +9,7 @@
 
 namespace imageposition {
 
-/// From the picture's upper left corner, downwards.
+/// Measured from the picture's upper-left corner, downwards.
 struct Pixel {
   double x = 0;
   double y = 0;
@@ -31,20 +31,20 @@ struct PixelRectangle {
 struct PictureSize {
   double width = 0;
   double height = 0;
-  double lineHeight = 0; ///< Of the small texts.
+  double lineHeight = 0; ///< Of the small font.
 };
 
-/// From this size on everything is legible.
+/// The smallest size at which everything is legible.
 PictureSize preferredPictureSize(double lineHeight);
 
 /// One of the pages in the upper row.
 struct PagePlace {
   PixelRectangle title;
-  PixelRectangle page; ///< At whole pixels.
+  PixelRectangle page; ///< Aligned to whole pixels.
   PixelRectangle caption;
 };
 
-/// The pages to scale, in a row, and below them the centre of the sheet enlarged.
+/// The pages, to scale, in a row, and below them an enlargement of the centre of the sheet.
 struct PreviewLayout {
   enum Place : std::size_t { Front, Back, AgainstLight };
 
@@ -52,21 +52,21 @@ struct PreviewLayout {
   double pixelsPerPoint = 0;
   PixelRectangle legend;
   PixelRectangle enlargedTitle;
-  PixelRectangle grid; ///< Its centre is where the marks are when nothing is shifted.
+  PixelRectangle grid; ///< Unshifted marks are at its centre.
   PixelRectangle relation;
-  int squarePixels = 0;         ///< A square of the grid: its side on the screen ...
+  int squarePixels = 0;         ///< The side of a grid square on the screen ...
   TenthMillimetre squareLength; ///< ... and on paper. Grows in steps with the offsets.
 
   Pixel gridCentre() const noexcept;
-  /// From one number on the axes to the next: an even count, so that numbers of that width stay
+  /// The interval between numbers on the axes: an even count that keeps numbers of that width
   /// apart.
   int squaresPerNumber(double width) const noexcept;
-  /// Where a mark that is moved by `offset` is drawn.
+  /// Where to draw a mark that is shifted by `offset`.
   Pixel mark(const Offset &offset) const noexcept;
   PixelRectangle onPage(Place place, const PageRectangle &rectangle) const noexcept;
 };
 
-/// A picture that is too small for its texts gets empty places, never ones of negative size.
+/// If the picture is too small for its labels, areas become empty, never negative in size.
 PreviewLayout layOutPreview(const Preview &preview, const PictureSize &size);
 
 } // namespace imageposition

@@ -1,6 +1,6 @@
-/// What is said about the offsets and where they move the image.
-#ifndef IMAGEPOSITION_HOST_SHIFTTEXTS_HPP
-#define IMAGEPOSITION_HOST_SHIFTTEXTS_HPP
+/// Messages about the offsets and the resulting shift of the image.
+#ifndef IMAGEPOSITION_CORE_SHIFT_SHIFTTEXTS_HPP
+#define IMAGEPOSITION_CORE_SHIFT_SHIFTTEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,7 +8,7 @@
 
 namespace imageposition::messages {
 
-// Values.
+// What to do about it.
 extern const Text kChooseTwoSided;
 extern const Text kSwitchBannerPagesOff;
 
@@ -16,7 +16,7 @@ extern const Text kSwitchBannerPagesOff;
 extern const Text kTwoSidedOff;
 extern const Text kBannerPagesOn;
 
-// In words.
+// Descriptions of the preview.
 extern const Text kPreviewSizeUnknown;
 extern const Text kPreviewImageableUnknown;
 extern const Text kPreviewNothingMoved;
@@ -28,7 +28,7 @@ extern const Text kPreviewSidesCoincide;
 std::string previewFrontLoses(const std::string &edges);
 std::string previewBackLoses(const std::string &edges);
 
-/// "2.5 mm to the right" and its like; the length has its unit.
+/// For example "2.5 mm to the right"; `length` includes its unit.
 std::string toTheRight(const std::string &length);
 std::string toTheLeft(const std::string &length);
 std::string downwards(const std::string &length);

@@ -1,6 +1,6 @@
-/// What print-dialog says of itself.
-#ifndef IMAGEPOSITION_TESTS_HOST_COMMANDWORDS_HPP
-#define IMAGEPOSITION_TESTS_HOST_COMMANDWORDS_HPP
+/// Options and exit statuses from print-dialog's help.
+#ifndef IMAGEPOSITION_TESTS_HOST_INSTALL_COMMANDWORDS_HPP
+#define IMAGEPOSITION_TESTS_HOST_INSTALL_COMMANDWORDS_HPP
 
 #include <set>
 #include <string>

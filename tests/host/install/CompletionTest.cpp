@@ -1,4 +1,4 @@
-// Completion, by keys in the real shells.
+// Completion in the real shells, by sending keys.
 #include "CommandWords.hpp"
 #include "PrivateCups.hpp"
 
@@ -37,11 +37,11 @@ protected:
     std::filesystem::create_directory(folder.path("Extra.plugin"));
   }
 
-  /// The words behind "print-dialog " and the last blank of `line`, with all candidates.
+  /// The candidates for the last word of `line`, which follows "print-dialog ".
   Words all(const std::string &line, Words environment = cups->environment()) {
     return completed(line, "all", environment);
   }
-  /// The same after the Tab key.
+  /// The last word after the Tab key.
   Words tab(const std::string &line) { return completed(line, "tab", cups->environment()); }
 
   Words completed(const std::string &line, const char *key, const Words &environment) {
@@ -72,7 +72,7 @@ TEST_P(Completion, OffersTheOptionsOfTheHelpAndNoOthers) {
   EXPECT_EQ(std::set<std::string>(offered.begin(), offered.end()), optionsOfHelp());
 }
 
-TEST_P(Completion, EndsALongOption) { EXPECT_THAT(tab("--su"), ElementsAre("--summary")); }
+TEST_P(Completion, CompletesALongOption) { EXPECT_THAT(tab("--su"), ElementsAre("--summary")); }
 
 TEST_P(Completion, OffersQueuesWithTheirPresets) {
   EXPECT_THAT(all("-d "), testing::UnorderedElementsAre("hall", "office", "office/draft"));
@@ -102,34 +102,34 @@ TEST_P(Completion, ReadsTheOptionsOfADescription) {
 
 TEST_P(Completion, OffersFilesOfTheRightKind) {
   const auto kFolder = testing::StartsWith("Extra.plugin");
-  // Folders may lead to more.
+  // Folders may contain such files.
   EXPECT_THAT(all("--ppd "), testing::UnorderedElementsAre("printer.ppd", kFolder));
   EXPECT_THAT(all("--ticket "), testing::UnorderedElementsAre("job.json", kFolder));
   EXPECT_THAT(tab("--plugin "), ElementsAre(kFolder));
   EXPECT_THAT(tab("rep"), ElementsAre("report.pdf"));
 }
 
-TEST_P(Completion, OffersTheWordsThatAnOptionTakes) {
+TEST_P(Completion, OffersTheFixedValuesOfAnOption) {
   EXPECT_THAT(all("-H "), IsSupersetOf({"hold", "immediate", "night", "indefinite"}));
   EXPECT_THAT(all("--back o"), testing::UnorderedElementsAre("on", "off"));
   EXPECT_THAT(tab("--appearance d"), ElementsAre("dark"));
 }
 
-TEST_P(Completion, SaysNothingWhereThereIsNoCups) {
+TEST_P(Completion, IsSilentWithoutCups) {
   const Words nowhere{"CUPS_SERVER=" + folder.path("none")};
   EXPECT_THAT(all("-d xyz", nowhere), ElementsAre("xyz"));
   EXPECT_THAT(all("-o xyz", nowhere), ElementsAre("xyz"));
 }
 
-/// Names that a server or a description's maker chose, and what a shell does with them unless they
-/// are quoted: makes a file "acted".
+/// Names that a server or the author of a PPD could choose. A shell that fails to quote them
+/// creates a file "acted".
 const Words kHostile{"$(touch${IFS}acted)", "`touch${IFS}acted`",
                      ";touch${IFS}acted",   "&touch${IFS}acted",
                      "|touch${IFS}acted",   "*",
                      "a${HOME}b",           "~"};
 
-// The words of the completed line are read by the shell itself, as a person's Return would have it.
-TEST_P(Completion, TheNameOfAPrinterOrPresetIsNeverACommand) {
+// The shell itself parses the completed line, as if the user pressed Return.
+TEST_P(Completion, NeverExecutesTheNameOfAPrinterOrPreset) {
   for (const std::string &name : kHostile) {
     SCOPED_TRACE(name);
     const std::string queue = "evil" + name;
@@ -146,7 +146,7 @@ TEST_P(Completion, TheNameOfAPrinterOrPresetIsNeverACommand) {
   cups->run({"lpoptions", "-x", preset});
 }
 
-TEST_P(Completion, WhatADescriptionCallsItsOptionsAndChoicesIsNeverACommand) {
+TEST_P(Completion, NeverExecutesTheNamesOfOptionsAndChoices) {
   std::string ppd = "*PPD-Adobe: \"4.3\"\n*OpenUI *Evil: PickOne\n*DefaultEvil: x\n";
   for (const std::string &choice : kHostile)
     ppd += "*Evil " + choice + ": \"\"\n";
@@ -165,12 +165,12 @@ TEST_P(Completion, WhatADescriptionCallsItsOptionsAndChoicesIsNeverACommand) {
   EXPECT_FALSE(std::filesystem::exists(folder.path("acted")));
 }
 
-TEST_P(Completion, TheNameOfAFileIsNeverACommand) {
+TEST_P(Completion, NeverExecutesTheNameOfAFile) {
   const std::string name = "$(touch acted) `touch acted`;touch acted\"'";
   folder.write("evil" + name + ".ppd", "");
   EXPECT_THAT(tab("--ppd evil"), ElementsAre("evil" + name + ".ppd"));
   folder.write("two\nlines$(touch acted).json", "");
-  EXPECT_THAT(tab("--ticket li"), ElementsAre("li")); // no part of it is a file
+  EXPECT_THAT(tab("--ticket li"), ElementsAre("li")); // matches only the second line of the name
   EXPECT_FALSE(std::filesystem::exists(folder.path("acted")));
 }
 

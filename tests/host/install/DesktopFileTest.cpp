@@ -1,4 +1,4 @@
-// What a file manager reads.
+// The desktop entry.
 #include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
 
@@ -17,7 +17,7 @@ TEST(DesktopFile, IsValid) {
   EXPECT_EQ(result.output + result.errors, "");
 }
 
-TEST(DesktopFile, SpeaksTheLanguagesOfThePanel) {
+TEST(DesktopFile, IsInTheLanguagesOfThePanel) {
   const std::string text = contentOf(kFile);
   for (const auto &entry : std::filesystem::directory_iterator(IMAGEPOSITION_RESOURCES)) {
     if (entry.path().extension() != ".lproj")
@@ -30,7 +30,7 @@ TEST(DesktopFile, SpeaksTheLanguagesOfThePanel) {
   }
 }
 
-TEST(DesktopFile, OffersWhatCupsPrints) {
+TEST(DesktopFile, ListsTheTypesThatCupsPrints) {
   const std::string text = contentOf(kFile);
   for (const char *type :
        {"application/pdf;", "application/postscript;", "image/png;", "image/jpeg;", "text/plain;"})

@@ -1,4 +1,4 @@
-// That what is built has what the system can do against somebody who found a fault in it.
+// The built code uses the mitigations that the system offers.
 #include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
 
@@ -19,35 +19,35 @@ std::string readelf(const char *what, const std::string &file) {
 
 class Hardening : public testing::TestWithParam<const char *> {};
 
-TEST_P(Hardening, ItsCodeMayStandAnywhereInMemory) {
+TEST_P(Hardening, ItsCodeIsPositionIndependent) {
   EXPECT_THAT(readelf("-h", GetParam()), HasSubstr("DYN"));
 }
 
-TEST_P(Hardening, ItsStackIsNoCode) {
+TEST_P(Hardening, ItsStackIsNotExecutable) {
   EXPECT_THAT(readelf("-l", GetParam()), ContainsRegex("GNU_STACK.* RW  "));
 }
 
-TEST_P(Hardening, NoMemoryIsBothWrittenAndRun) {
+TEST_P(Hardening, NoSegmentIsBothWritableAndExecutable) {
   EXPECT_THAT(readelf("-l", GetParam()), Not(ContainsRegex("LOAD.* RWE ")));
 }
 
-TEST_P(Hardening, ItsTablesOfAddressesCannotBeWrittenOnceItRuns) {
+TEST_P(Hardening, ItsRelocationsAreReadOnlyAfterLoading) {
   EXPECT_THAT(readelf("-l", GetParam()), HasSubstr("GNU_RELRO"));
   EXPECT_THAT(readelf("-d", GetParam()), HasSubstr("NOW"));
 }
 
-TEST_P(Hardening, ItsFunctionsGuardTheirReturnAddresses) {
+TEST_P(Hardening, ItsStackIsProtected) {
   EXPECT_THAT(readelf("--dyn-syms", GetParam()), HasSubstr("__stack_chk_fail"));
 }
 
-// Else whoever can write to a folder named there could put a library into it.
-TEST_P(Hardening, ItLooksForLibrariesOnlyWhereTheSystemDoes) {
+// Anyone who could write to a folder of a run path could plant a library there.
+TEST_P(Hardening, ItHasNoRunPath) {
   EXPECT_THAT(readelf("-d", GetParam()), Not(ContainsRegex("RUNPATH|RPATH")));
 }
 
 #if defined(__x86_64__)
-// Jumps through a pointer may then lead to a function's beginning only.
-TEST_P(Hardening, ItsFunctionsAreMarkedWhereTheyBegin) {
+// Indirect jumps can then only reach the start of a function.
+TEST_P(Hardening, ItHasIndirectBranchTracking) {
   const std::string code = contentOf(GetParam());
   const std::string mark = "\xf3\x0f\x1e\xfa";
   int marks = 0;
@@ -71,7 +71,7 @@ const std::vector<const char *> kCode{
 
 INSTANTIATE_TEST_SUITE_P(Built, Hardening, testing::ValuesIn(kCode), nameOf);
 
-TEST(HardeningOfTheProgram, CopiesAreCheckedAgainstTheRoomForThem) {
+TEST(HardeningOfTheProgram, CopiesAreCheckedForOverflow) {
   EXPECT_EQ(readelf("--dyn-syms", PRINT_DIALOG).find("_chk@") != std::string::npos, IS_FORTIFIED);
 }
 

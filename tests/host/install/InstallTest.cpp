@@ -1,4 +1,4 @@
-// What is installed, and that it works from where it was put.
+// The installed files, and running the program from them.
 #include "OtherUsersFixture.hpp"
 #include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
@@ -17,14 +17,14 @@ using testing::Not;
 
 const char *const kModule = "print-dialog-gnustep.so";
 
-/// `before` is what runs the command.
+/// `before`: words of a command that runs the installation.
 void install(const std::string &prefix, std::vector<std::string> before = {}) {
   before.insert(before.end(), {CMAKE, "--install", IMAGEPOSITION_BINARY, "--prefix", prefix});
   const auto result = runProcess(before);
   ASSERT_EQ(result.status, 0) << testing::PrintToString(result);
 }
 
-/// What needs the module.
+/// A command line that needs the module.
 std::vector<std::string> panelRun(const std::string &program) {
   return {program, "--batch",     "--ppd",    IMAGEPOSITION_SAMPLES "/duplex-shift.ppd",
           "--set", "FrontLRM=-3", "--summary"};
@@ -35,7 +35,7 @@ protected:
   static void SetUpTestSuite() {
     folder = std::make_unique<TemporaryFolder>();
     install(folder->path("first"));
-    // Nothing of it may know where it stood first.
+    // Nothing may depend on the original prefix.
     std::filesystem::rename(folder->path("first"), prefix());
   }
   static void TearDownTestSuite() { folder.reset(); }
@@ -43,7 +43,7 @@ protected:
   static std::string prefix() { return folder->path("moved"); }
   static std::string program() { return prefix() + "/bin/print-dialog"; }
   static ProcessResult setPanel() { return runProcess(panelRun(program())); }
-  /// The only file or folder of that name, wherever this system has its libraries.
+  /// The only file or folder of that name, in any of the system's library folders.
   static std::string find(const std::string &name) {
     for (const auto &entry : std::filesystem::recursive_directory_iterator(prefix()))
       if (entry.path().filename() == name)
@@ -56,7 +56,7 @@ protected:
 
 std::unique_ptr<TemporaryFolder> Install::folder;
 
-TEST_F(Install, PutsEverythingWhereOthersLookForIt) {
+TEST_F(Install, PutsEveryFileIntoItsStandardFolder) {
   for (const char *name :
        {"bin/print-dialog", "share/man/man1/print-dialog.1",
         "share/applications/print-dialog.desktop",
@@ -74,12 +74,12 @@ TEST_F(Install, TheProgramRuns) {
   EXPECT_THAT(result.output, HasSubstr("print-dialog "));
 }
 
-TEST_F(Install, ThePlugInIsFoundWithTheProgram) {
+TEST_F(Install, TheProgramFindsThePlugIn) {
   const auto result = setPanel();
   EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
   EXPECT_THAT(result.output, HasSubstr("LeftRightMargin=-3\n"));
   EXPECT_THAT(result.output, HasSubstr("Left-right offset (\xC3\x97 0.1 mm): -3\n"));
-  // It is the installed one, and no other that this machine may have.
+  // The installed plug-in, not another one on this machine.
   const std::string plugin = find("MorvaADPImagePosition.plugin");
   std::filesystem::rename(plugin, plugin + ".away");
   std::filesystem::create_directory(plugin);
@@ -89,7 +89,7 @@ TEST_F(Install, ThePlugInIsFoundWithTheProgram) {
   EXPECT_THAT(emptied.errors, HasSubstr(std::filesystem::canonical(plugin).string()));
 }
 
-TEST_F(Install, TheCataloguesAreFoundWithTheProgram) {
+TEST_F(Install, TheProgramFindsTheCatalogues) {
   const std::string source = folder->write(
       "de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
                "msgid \"--set, --back and --summary require --batch.\"\nmsgstr \"Nur so.\"\n");
@@ -101,14 +101,14 @@ TEST_F(Install, TheCataloguesAreFoundWithTheProgram) {
   EXPECT_THAT(result.errors, HasSubstr("Nur so."));
 }
 
-TEST_F(Install, ALinkToTheProgramServesAsWell) {
+TEST_F(Install, ALinkToTheProgramWorks) {
   const std::string link = folder->path("link");
   std::filesystem::create_symlink(program(), link);
   const auto result = runProcess(panelRun(link));
   EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
 }
 
-/// The module that is installed, spoilt.
+/// A damaged installed module.
 class InstallOfTheModule : public Install {
 protected:
   void SetUp() override { std::filesystem::copy_file(module, kept); }
@@ -130,35 +130,35 @@ protected:
   const std::string kept = module + ".kept";
 };
 
-TEST_F(InstallOfTheModule, ThatIsMissingIsSaid) {
+TEST_F(InstallOfTheModule, ThatIsMissingIsReported) {
   std::filesystem::remove(module);
   expectFailure("is missing");
 }
 
-TEST_F(InstallOfTheModule, ThatIsCutShortIsSaid) {
+TEST_F(InstallOfTheModule, ThatIsTruncatedIsReported) {
   std::filesystem::resize_file(module, 100000);
   expectFailure("its end is missing");
 }
 
-TEST_F(InstallOfTheModule, ThatIsNoCodeIsSaidWithTheLoadersReason) {
+TEST_F(InstallOfTheModule, ThatIsNotALibraryIsReportedWithTheLoadersReason) {
   std::filesystem::resize_file(module, 0);
   std::ofstream(module) << "no code";
   expectFailure("could not be loaded (");
 }
 
-TEST_F(InstallOfTheModule, ThatIsAnotherLibraryIsSaid) {
+TEST_F(InstallOfTheModule, ThatIsAnotherLibraryIsReported) {
   std::filesystem::remove(module);
   buildLibrary(module, "another", {});
   expectFailure("printDialogRun");
 }
 
-TEST_F(InstallOfTheModule, ThatOtherUsersMayChangeIsRefused) {
+TEST_F(InstallOfTheModule, ThatOtherUsersCanModifyIsRefused) {
   std::filesystem::permissions(module, std::filesystem::perms::others_write,
                                std::filesystem::perm_options::add);
   expectFailure("another user could modify it");
 }
 
-/// The program in a folder where everybody may have files, as in /tmp.
+/// The program in a world-writable folder such as /tmp.
 class InstallAmongOthers : public testing::Test {
 protected:
   InstallAmongOthers() {
@@ -167,7 +167,7 @@ protected:
     chmod(place.c_str(), 01777);
   }
 
-  /// Makes what another user could have made.
+  /// Creates files that another user could create.
   static void giveAway(const std::string &path) {
     const int failed = geteuid() == 0 ? lchown(path.c_str(), kAnotherUser, kAnotherUser)
                                       : chmod(path.c_str(), 0777);
@@ -179,7 +179,7 @@ protected:
   const std::string program = place + "/print-dialog";
 };
 
-TEST_F(InstallAmongOthers, TheProgramTakesNoLibraryFromBesideIt) {
+TEST_F(InstallAmongOthers, TheProgramLoadsNoLibraryFromItsFolder) {
   const std::string journal = folder.path("journal");
   for (const char *name :
        {"libGL.so.1", "libcups.so.2", "libPrintCore.so", "libgnustep-gui.so.0.29", kModule}) {
@@ -192,7 +192,7 @@ TEST_F(InstallAmongOthers, TheProgramTakesNoLibraryFromBesideIt) {
   }
 }
 
-TEST_F(InstallAmongOthers, TheProgramTakesNoWordsFromBesideIt) {
+TEST_F(InstallAmongOthers, TheProgramLoadsNoCatalogueFromItsFolder) {
   const std::string source = folder.write(
       "de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
                "msgid \"--set, --back and --summary require --batch.\"\nmsgstr \"Gefälscht.\"\n");
@@ -208,7 +208,7 @@ TEST_F(InstallAmongOthers, TheProgramTakesNoWordsFromBesideIt) {
 
 class InstallUnder : public testing::TestWithParam<const char *> {};
 
-TEST_P(InstallUnder, AnOpenMaskOnlyTheOwnerMayWriteToWhatIsInstalled) {
+TEST_P(InstallUnder, AnyMaskOnlyTheOwnerCanWriteToInstalledFiles) {
   const TemporaryFolder folder;
   const std::string prefix = folder.path("prefix");
   install(prefix, {"sh", "-c", "umask \"$0\" && exec \"$@\"", GetParam()});

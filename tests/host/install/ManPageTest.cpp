@@ -1,4 +1,4 @@
-// The man page: its form, and that it says what the program's own help says.
+// The man page: its format, and its agreement with the program's help.
 #include "CommandWords.hpp"
 #include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
@@ -17,7 +17,7 @@ using testing::Not;
 
 const std::string kPage = IMAGEPOSITION_INSTALL "/print-dialog.1";
 
-/// The first word behind each macro that begins so, in the page's lines that begin with `start`.
+/// The first word after `macro`, in the page's lines that begin with `start`.
 std::set<std::string> entries(const std::string &start, const std::string &macro) {
   std::istringstream page(contentOf(kPage));
   std::set<std::string> found;
@@ -46,20 +46,20 @@ TEST(ManPage, ExplainsTheExitStatusesOfTheHelpAndNoOthers) {
   EXPECT_EQ(statuses, statusesOfHelp());
 }
 
-TEST(ManPage, HasEverySectionThatAPersonLooksFor) {
+TEST(ManPage, HasTheUsualSections) {
   const std::string page = contentOf(kPage);
   for (const char *section : {"NAME", "SYNOPSIS", "DESCRIPTION", "ENVIRONMENT", "FILES",
                               "EXIT STATUS", "EXAMPLES", "SEE ALSO"})
     EXPECT_THAT(page, HasSubstr("\n.Sh " + std::string(section) + "\n"));
 }
 
-TEST(ManPage, IsFormattedWithoutAWarning) {
+TEST(ManPage, IsFormattedWithoutWarnings) {
   const auto man = runProcess({"man", "--warnings", "-E", "UTF-8", "-l", kPage}, {"MANWIDTH=80"});
   EXPECT_EQ(man.status, 0);
   EXPECT_EQ(man.errors, "");
   EXPECT_THAT(man.output, HasSubstr("print-dialog"));
   const auto lint = runProcess({"mandoc", "-T", "lint", "-W", "style,stop", kPage});
-  // Which other pages are installed is no matter of this one.
+  // References to pages that are not installed are fine.
   EXPECT_TRUE(
       std::regex_replace(
           lint.output + lint.errors,

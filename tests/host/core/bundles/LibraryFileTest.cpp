@@ -22,7 +22,7 @@ protected:
   const std::string self = contentOf("/proc/self/exe");
 };
 
-TEST_F(LibraryFile, TellsWhatItNeeds) {
+TEST_F(LibraryFile, ListsItsDependencies) {
   const auto needs = readNeeds("/proc/self/exe");
   ASSERT_TRUE(needs);
   EXPECT_THAT(needs->libraries, Contains(StartsWith("libstdc++.so.")));
@@ -30,7 +30,7 @@ TEST_F(LibraryFile, TellsWhatItNeeds) {
   EXPECT_FALSE(isCutShort("/proc/self/exe"));
 }
 
-TEST_F(LibraryFile, NeedsNothingWhenItIsNone) {
+TEST_F(LibraryFile, HasNoDependenciesIfItIsNotALibrary) {
   for (const std::string &path :
        {folder.write("empty", ""), folder.write("text", "no code"), folder.path("none"),
         folder.path(), folder.write("other", std::string(self).replace(4, 1, 1, char(9)))}) {
@@ -41,17 +41,17 @@ TEST_F(LibraryFile, NeedsNothingWhenItIsNone) {
   }
 }
 
-TEST_F(LibraryFile, IsReadToNoFartherThanItsEnd) {
+TEST_F(LibraryFile, IsNotReadBeyondItsEnd) {
   for (std::size_t size = 64; size < 65536; size += size / 2) {
     const std::string path = folder.write("cut", self.substr(0, size));
     EXPECT_TRUE(isCutShort(path)) << size;
-    readNeeds(path); // under the sanitizers this would say more
+    readNeeds(path); // the sanitizers detect reads out of bounds
   }
 }
 
-TEST_F(LibraryFile, MayHoldAnyNumbers) {
+TEST_F(LibraryFile, MayContainArbitraryHeaders) {
   std::mt19937 random(1);
-  constexpr std::size_t kTables = 4096; // the headers of the file and of its segments
+  constexpr std::size_t kTables = 4096; // the ELF header and the program headers
   for (int i = 0; i < 300; i++) {
     std::string bytes = self.substr(0, kTables);
     for (int change = 0; change < 8; change++)
@@ -62,7 +62,7 @@ TEST_F(LibraryFile, MayHoldAnyNumbers) {
   }
 }
 
-TEST_F(LibraryFile, IsNotUnderstoodWhenItsStringsAreNowhere) {
+TEST_F(LibraryFile, IsMalformedIfItsStringTableIsOutsideTheFile) {
   std::string bytes = self;
   const auto *const header = reinterpret_cast<const ElfW(Ehdr) *>(bytes.data());
   const auto *segment = reinterpret_cast<const ElfW(Phdr) *>(bytes.data() + header->e_phoff);

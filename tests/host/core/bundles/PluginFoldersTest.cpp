@@ -24,14 +24,14 @@ protected:
   const std::string beside = folder.path("beside");
 };
 
-TEST_F(PluginFolders, WhatThePersonNamesIsUsedAloneEvenIfItIsNotThere) {
+TEST_F(PluginFolders, ABundleThatTheUserNamesIsUsedAloneEvenIfItDoesNotExist) {
   bundle("installed/A.plugin");
   EXPECT_THAT(
       findPlugins({{"missing.plugin"}, {folder.path("installed/A.plugin")}}, {installed, beside}),
       ElementsAre("missing.plugin"));
 }
 
-TEST_F(PluginFolders, APrintersPathLeadsNowhereButToTheFolders) {
+TEST_F(PluginFolders, APrintersPathIsNeverFollowedOutsideTheFolders) {
   const std::string ours = bundle("installed/M.plugin");
   const std::string elsewhere = bundle("elsewhere/M.plugin");
   const std::string unknown = bundle("elsewhere/N.plugin");
@@ -41,7 +41,7 @@ TEST_F(PluginFolders, APrintersPathLeadsNowhereButToTheFolders) {
     EXPECT_THAT(findPlugins({{}, {path}}, {beside}), IsEmpty()) << path;
 }
 
-TEST_F(PluginFolders, APathOfAnotherSystemStandsForTheBundleOfThatName) {
+TEST_F(PluginFolders, APathOfAnotherSystemSelectsTheBundleOfThatName) {
   bundle("installed/A.plugin");
   const std::string named = bundle("beside/M.plugin");
   EXPECT_THAT(findPlugins({{}, {"/Library/Printers/M.plugin"}}, {installed, beside}),
@@ -50,7 +50,7 @@ TEST_F(PluginFolders, APathOfAnotherSystemStandsForTheBundleOfThatName) {
               ElementsAre(named));
 }
 
-TEST_F(PluginFolders, WhereNothingIsNamedOrFoundTheFirstFolderWithBundlesServes) {
+TEST_F(PluginFolders, WithoutANamedOrFoundBundleTheFirstFolderWithBundlesIsUsed) {
   const std::string b = bundle("beside/B.plugin");
   const std::string a = bundle("beside/A.plugin");
   bundle("beside/not a plugin");
@@ -70,7 +70,7 @@ TEST_F(PluginFolders, ABundleIsUsedOnce) {
               ElementsAre(folder.path("installed/A.plugin")));
 }
 
-TEST_F(PluginFolders, NamesThatLeadNowhereAreHarmless) {
+TEST_F(PluginFolders, InvalidNamesFindNothing) {
   for (const char *name : {"", "/", ".", "..", "relative.plugin", "//"})
     EXPECT_THAT(findPlugins({{}, {name}}, {installed}), IsEmpty()) << name;
 }

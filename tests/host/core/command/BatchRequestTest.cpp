@@ -14,7 +14,7 @@ TEST(BatchRequest, AnEntryIsSplitAtItsFirstEqualsSign) {
   EXPECT_EQ(entry->text, "-3=4");
 }
 
-TEST(BatchRequest, AnEntryMayEmptyItsField) {
+TEST(BatchRequest, AnEntryCanHaveAnEmptyValue) {
   const auto entry = readEntry("FrontLRM=");
   ASSERT_TRUE(entry);
   EXPECT_EQ(entry->text, "");

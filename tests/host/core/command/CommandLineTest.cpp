@@ -19,7 +19,7 @@ Arguments read(const std::vector<std::string> &words) {
   return std::get<Arguments>(readCommandLine(words));
 }
 
-/// What a mistake is answered with; it must be a mistake.
+/// The message for a command line that must be wrong.
 std::string mistake(const std::vector<std::string> &words) {
   try {
     readCommandLine(words);
@@ -27,24 +27,24 @@ std::string mistake(const std::vector<std::string> &words) {
     EXPECT_EQ(failure.code(), ExitCode::Usage);
     return failure.what();
   }
-  ADD_FAILURE() << "was understood";
+  ADD_FAILURE() << "was accepted";
   return {};
 }
 
-TEST(CommandLine, APrinterIsNamedByItsDescriptionOrItsQueue) {
+TEST(CommandLine, APrinterIsNamedByItsPpdOrItsQueue) {
   EXPECT_EQ(read({"--ppd", "a.ppd"}).ppd, "a.ppd");
   EXPECT_EQ(read({"-d", "office/draft"}).queue, "office/draft");
   EXPECT_EQ(read({"--queue=office"}).queue, "office");
 }
 
-TEST(CommandLine, APrinterIsNamedOnceAtMost) {
+TEST(CommandLine, APpdAndAQueueAreMutuallyExclusive) {
   EXPECT_THAT(mistake({"--ppd", "a.ppd", "-d", "office"}), HasSubstr("--ppd FILE"));
   const Arguments none = read({"report.pdf"});
   EXPECT_EQ(none.ppd, "");
   EXPECT_EQ(none.queue, "");
 }
 
-TEST(CommandLine, ALineForLpIsUnderstoodAlike) {
+TEST(CommandLine, LpsOptionsHaveTheSameMeaning) {
   const Arguments arguments =
       read({"-d", "office", "-h", "server:631", "-n", "3", "-P", "1-3,7", "-t", "Annual report",
             "-q", "70", "-o", "sides=one-sided", "report.pdf"});
@@ -56,14 +56,14 @@ TEST(CommandLine, ALineForLpIsUnderstoodAlike) {
   EXPECT_FALSE(arguments.isDryRun);
 }
 
-TEST(CommandLine, LpsShortFormWithoutABlankIsUnderstood) {
+TEST(CommandLine, AShortOptionsValueCanFollowWithoutABlank) {
   const Arguments arguments = read({"-doffice", "-n2", "-P4", "-"});
   EXPECT_EQ(arguments.queue, "office");
   EXPECT_THAT(arguments.options, ElementsAre("copies=2", "page-ranges=4"));
   EXPECT_THAT(arguments.documents, ElementsAre("-"));
 }
 
-TEST(CommandLine, LpsFlagsStandTogetherAndBetweenDocuments) {
+TEST(CommandLine, FlagsCanBeCombinedAndPlacedBetweenDocuments) {
   const Arguments arguments = read({"a.pdf", "-scE", "-U", "mary", "b.ps", "-mn2", "c.txt"});
   EXPECT_TRUE(arguments.isSilent);
   EXPECT_TRUE(arguments.isEncrypted);
@@ -73,7 +73,7 @@ TEST(CommandLine, LpsFlagsStandTogetherAndBetweenDocuments) {
   EXPECT_THAT(arguments.documents, ElementsAre("a.pdf", "b.ps", "c.txt"));
 }
 
-TEST(CommandLine, OfWhatIsGivenTwiceTheLastOneCounts) {
+TEST(CommandLine, TheLastOfRepeatedOptionsWins) {
   const Arguments arguments = read(
       {"-d", "hall", "-t", "a", "-n", "2", "-o", "copies=4", "-n", "3", "-d", "office", "-t", "b"});
   EXPECT_EQ(arguments.queue, "office");
@@ -81,7 +81,7 @@ TEST(CommandLine, OfWhatIsGivenTwiceTheLastOneCounts) {
   EXPECT_THAT(arguments.options, ElementsAre("copies=2", "copies=4", "copies=3"));
 }
 
-TEST(CommandLine, AValueMayBeginWithADash) {
+TEST(CommandLine, AValueCanBeginWithADash) {
   EXPECT_EQ(read({"-t", "-draft-", "a.pdf"}).title, "-draft-");
   EXPECT_EQ(read({"-t-draft-", "a.pdf"}).title, "-draft-");
 }
@@ -91,12 +91,12 @@ TEST(CommandLine, AfterTwoDashesEverythingIsADocument) {
               ElementsAre("-n", "--help", "a.pdf"));
 }
 
-TEST(CommandLine, StandardInputIsOneOfTheDocumentsAtMost) {
+TEST(CommandLine, StandardInputCanBeNamedOnlyOnce) {
   EXPECT_THAT(read({"a.pdf", "-", "b.pdf"}).documents, ElementsAre("a.pdf", "-", "b.pdf"));
   EXPECT_THAT(mistake({"-", "a.pdf", "-"}), HasSubstr("only once"));
 }
 
-TEST(CommandLine, AJobIsHeldInLpsWords) {
+TEST(CommandLine, HoldTimesAreThoseOfLp) {
   const struct {
     const char *when;
     std::vector<std::string> options;
@@ -112,19 +112,19 @@ TEST(CommandLine, AJobIsHeldInLpsWords) {
     EXPECT_EQ(read({"-H", row.when, "a.pdf"}).options, row.options) << row.when;
 }
 
-TEST(CommandLine, ATimeThatNoClockShowsIsRefused) {
+TEST(CommandLine, AnInvalidHoldTimeIsRefused) {
   for (const char *when :
        {"", "24:00", "12:60", "12", "12:", ":30", "123:00", "1:2:3:4", "12:30x", "noon", "-1:00"})
     EXPECT_THAT(mistake({"-H", when}), HasSubstr("18:30")) << when;
 }
 
-TEST(CommandLine, JobsThatCupsHasAreLeftToLp) {
+TEST(CommandLine, ChangingAndRestartingJobsIsRefused) {
   EXPECT_THAT(mistake({"-i", "office-12", "-n", "2"}), HasSubstr("lp -i office-12"));
   EXPECT_THAT(mistake({"-ioffice-12"}), HasSubstr("lp -i office-12"));
   EXPECT_THAT(mistake({"-H", "restart"}), HasSubstr("lp -i JOB -H restart"));
 }
 
-TEST(CommandLine, HowTheWindowLooksIsChosenByName) {
+TEST(CommandLine, AppearanceAndTextScaleAreChecked) {
   const Arguments arguments = read({"--appearance", "dark", "--text-scale", "1.25"});
   EXPECT_EQ(arguments.appearance, "dark");
   EXPECT_EQ(arguments.textScale, "1.25");
@@ -133,33 +133,33 @@ TEST(CommandLine, HowTheWindowLooksIsChosenByName) {
     EXPECT_THAT(mistake({"--text-scale", scale}), HasSubstr("1.25")) << scale;
 }
 
-TEST(CommandLine, CopiesAndPriorityKeepToWhatCupsTakes) {
+TEST(CommandLine, CopiesAndPriorityMustBeInTheRangesOfCups) {
   for (const char *copies : {"0", "-1", "10000", "two"})
     mistake({"-n", copies});
   for (const char *priority : {"0", "101", "high"})
     mistake({"-q", priority});
 }
 
-TEST(CommandLine, ADryRunIsAskedByName) { EXPECT_TRUE(read({"--dry-run", "a.pdf"}).isDryRun); }
+TEST(CommandLine, ADryRunIsRead) { EXPECT_TRUE(read({"--dry-run", "a.pdf"}).isDryRun); }
 
-TEST(CommandLine, AnEmptyTextIsNotTakenForNothing) {
+TEST(CommandLine, AnEmptyValueIsRefused) {
   for (const char *option : {"--ticket", "--back", "-d", "-h", "-U"})
     EXPECT_THAT(mistake({"--ppd", "a.ppd", "--batch", option, ""}), HasSubstr("empty text"));
   EXPECT_THAT(mistake({"--ppd", "a.ppd", ""}), HasSubstr("empty text"));
 }
 
-TEST(CommandLine, OptionsArePassedOnInTheirOrder) {
+TEST(CommandLine, JobOptionsKeepTheirOrder) {
   EXPECT_THAT(read({"--ppd", "a", "-o", "Duplex=None", "-o", "x y=z"}).options,
               ElementsAre("Duplex=None", "x y=z"));
 }
 
-TEST(CommandLine, AnOptionTakesOneArgument) {
+TEST(CommandLine, AnOptionAcceptsOneArgument) {
   const Arguments arguments = read({"--ppd", "a", "-o", "Duplex=None", "report.pdf"});
   EXPECT_THAT(arguments.options, ElementsAre("Duplex=None"));
   EXPECT_THAT(arguments.documents, ElementsAre("report.pdf"));
 }
 
-TEST(CommandLine, PluginsAndTicketAreTakenAsTheyAre) {
+TEST(CommandLine, PluginsAndTicketAreUnchanged) {
   const Arguments arguments =
       read({"--ppd", "a", "--plugin", "A.plugin", "--plugin", "B.plugin", "--ticket", "job.json"});
   EXPECT_THAT(arguments.plugins, ElementsAre("A.plugin", "B.plugin"));
@@ -167,7 +167,7 @@ TEST(CommandLine, PluginsAndTicketAreTakenAsTheyAre) {
   EXPECT_FALSE(arguments.isBatch);
 }
 
-TEST(CommandLine, ABatchSaysWhatToDoOnThePanel) {
+TEST(CommandLine, BatchOptionsAreRead) {
   const auto batch = read({"--batch", "--ppd", "a", "--set", "FrontLRM=-3", "--set", "FrontTBM=4",
                            "--back", "on", "--summary"})
                          .batch;
@@ -179,7 +179,7 @@ TEST(CommandLine, ABatchSaysWhatToDoOnThePanel) {
   EXPECT_TRUE(batch.summary);
 }
 
-TEST(CommandLine, MistakesSayWhatIsRight) {
+TEST(CommandLine, ErrorMessagesNameTheCorrectForm) {
   EXPECT_THAT(mistake({"--batch", "--ppd", "a", "--set", "FrontLRM"}), HasSubstr("NAME=TEXT"));
   EXPECT_THAT(mistake({"--batch", "--ppd", "a", "--back", "yes"}), HasSubstr("\"on\" or \"off\""));
   EXPECT_THAT(mistake({"--ppd", "a", "--set", "FrontLRM=1"}), HasSubstr("--batch"));
@@ -196,7 +196,7 @@ TEST(CommandLine, HelpNamesEveryOptionAndExitStatus) {
         "-q PRIORITY ", "-H WHEN", "-U USER",   "--dry-run", "--plugin",  "--ticket",    "--batch",
         "--set",        "--back",  "--summary", "--version", "Examples:", "Exit status:"})
     EXPECT_THAT(help, HasSubstr(part));
-  EXPECT_THAT(help, testing::Not(HasSubstr("VALUE ..."))); // it takes one
+  EXPECT_THAT(help, testing::Not(HasSubstr("VALUE ..."))); // it accepts one
   for (int status = 0; status <= 9; status++)
     EXPECT_THAT(help, HasSubstr("\n  " + std::to_string(status) + "  "));
 }

@@ -9,7 +9,7 @@ using imageposition::DestinationFile;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-TEST(DestinationFile, LinesAreReadAsCupsReadsThem) {
+TEST(DestinationFile, LinesAreReadLikeCupsDoes) {
   const struct {
     const char *line;
     const char *printer;
@@ -38,7 +38,7 @@ TEST(DestinationFile, LinesAreReadAsCupsReadsThem) {
     EXPECT_THAT(DestinationFile(line).entries(), IsEmpty()) << line;
 }
 
-TEST(DestinationFile, OnlyTheLinesOfThePresetChange) {
+TEST(DestinationFile, ChangingAPresetKeepsAllOtherLines) {
   DestinationFile file(
       "# mine\n\nDest  office\tA=1\nDest office/draft A=1\nnonsense\nDest attic/x Y");
   EXPECT_TRUE(file.set({"office", "Draft"}, "A=2"));
@@ -52,7 +52,7 @@ TEST(DestinationFile, OnlyTheLinesOfThePresetChange) {
             "# mine\n\nDest  office\tA=1\nnonsense\nDest attic/x Y\nDest office/late B=1\n");
 }
 
-TEST(DestinationFile, SeveralLinesOfOnePresetBecomeOne) {
+TEST(DestinationFile, SeveralLinesForOnePresetAreMerged) {
   DestinationFile file("Dest office/draft A=1\nDest attic\nDest office/draft B=1\n");
   EXPECT_TRUE(file.set({"office", "draft"}, "C=1"));
   EXPECT_EQ(file.text(), "Dest office/draft C=1\nDest attic\n");
@@ -68,13 +68,13 @@ TEST(DestinationFile, TheDefaultPrinterStaysTheDefault) {
   EXPECT_EQ(file.text(), "Default office\n");
 }
 
-TEST(DestinationFile, RenamingKeepsWhatIsWrittenBehindTheName) {
+TEST(DestinationFile, RenamingKeepsTheRestOfTheLine) {
   DestinationFile file("Dest office/a  A=\"1 2\"   # why\nDest office/ab X=1\n");
-  file.rename({"OFFICE", "A"}, "long name"); // whoever calls makes names usable
+  file.rename({"OFFICE", "A"}, "long name"); // the caller makes names usable
   EXPECT_EQ(file.text(), "Dest office/long name  A=\"1 2\"   # why\nDest office/ab X=1\n");
 }
 
-TEST(DestinationFile, ALineThatCupsWouldCutIsRefused) {
+TEST(DestinationFile, ALineThatCupsWouldTruncateIsRefused) {
   DestinationFile file("Dest office/draft A=1\n");
   EXPECT_FALSE(file.set({"office", "draft"}, std::string(8192, 'x')));
   EXPECT_EQ(file.text(), "Dest office/draft A=1\n");

@@ -23,7 +23,7 @@ using testing::Not;
 using testing::SizeIs;
 using testing::StrEq;
 
-/// A person with a home of their own, on a machine of their own.
+/// Gives the user a private home directory and CUPS a private server root.
 class PresetsTest : public testing::Test {
 protected:
   void SetUp() override {
@@ -58,13 +58,13 @@ protected:
   Presets presets{"office"};
 };
 
-TEST_F(PresetsTest, ThereAreNoneAtFirstAndLookingLeavesNothing) {
+TEST_F(PresetsTest, ListingPresetsWithoutAFileCreatesNone) {
   EXPECT_THAT(presets.names(), IsEmpty());
   EXPECT_THAT(presets.ofOtherPrinters(), IsEmpty());
   EXPECT_NE(access(folder.path("home/.cups").c_str(), F_OK), 0);
 }
 
-TEST_F(PresetsTest, WhatIsSavedIsLoaded) {
+TEST_F(PresetsTest, SavedSettingsAreLoaded) {
   const auto saved = settings({{"Duplex", "DuplexTumble"},
                                {"LeftRightMargin", "-3"},
                                {"Watermark", "Custom.It's \"my\", \\ {yes}"},
@@ -85,7 +85,7 @@ TEST_F(PresetsTest, SavingAgainReplacesTheWholePreset) {
   EXPECT_EQ(file(), "Dest office/DRAFT Fold=Z\n");
 }
 
-TEST_F(PresetsTest, WhatBelongsToOneDocumentIsNotKept) {
+TEST_F(PresetsTest, SettingsOfASingleDocumentAreNotSaved) {
   presets.save(
       "draft",
       settings(
@@ -93,13 +93,13 @@ TEST_F(PresetsTest, WhatBelongsToOneDocumentIsNotKept) {
   EXPECT_EQ(file(), "Dest office/draft Fold=Z\n");
 }
 
-TEST_F(PresetsTest, OneOfAllTheDefaultsIsStillAPreset) {
+TEST_F(PresetsTest, APresetCanEqualTheDefaults) {
   presets.save("plain", PrintSettingsStore());
   EXPECT_THAT(presets.names(), ElementsAre("plain"));
   EXPECT_EQ(presets.load("plain", printer).settings.optionCount(), 0);
 }
 
-TEST_F(PresetsTest, WhatCupsCannotHoldIsNamed) {
+TEST_F(PresetsTest, SettingsThatCupsCannotStoreAreReported) {
   const auto lost = presets.save(
       "draft", settings({{"Note", "a#b"}, {"Lines", "a\nb"}, {"Empty", ""}, {"Fold", "Z"}}));
   EXPECT_THAT(lost, SizeIs(3));
@@ -111,7 +111,7 @@ TEST_F(PresetsTest, WhatCupsCannotHoldIsNamed) {
   EXPECT_EQ(file(), "Dest office/draft Fold=Z\n");
 }
 
-TEST_F(PresetsTest, PasswordsAreNotKeptAndNotRepeated) {
+TEST_F(PresetsTest, PasswordsAreNeitherSavedNorShown) {
   for (ppd_file_t *const ppd : {printer.ppd(), static_cast<ppd_file_t *>(nullptr)}) {
     const auto lost = presets.save(
         "draft",
@@ -124,14 +124,14 @@ TEST_F(PresetsTest, PasswordsAreNotKeptAndNotRepeated) {
   }
 }
 
-TEST_F(PresetsTest, APasswordThatDoesNotFitIsNotRepeated) {
+TEST_F(PresetsTest, APasswordThatDoesNotFitIsNotShown) {
   folder.write("home/.cups/lpoptions", "Dest attic/private Auth-Info=mary,hunter2\n");
   const auto loaded = Presets::load(PresetName{"attic", "private"}, printer);
   ASSERT_THAT(loaded.misfits, SizeIs(1));
   EXPECT_THAT(loaded.misfits.front(), AllOf(HasSubstr("Auth-Info"), Not(HasSubstr("hunter2"))));
 }
 
-TEST_F(PresetsTest, NamesBecomeUsable) {
+TEST_F(PresetsTest, NamesAreMadeUsable) {
   const std::pair<const char *, const char *> rows[] = {
       {"draft", "draft"},
       {"Two sided", "Two-sided"},
@@ -164,7 +164,7 @@ TEST_F(PresetsTest, RenamingKeepsTheSettings) {
   EXPECT_THAT(presets.names(), ElementsAre("Fine", "quick-one"));
 }
 
-TEST_F(PresetsTest, RemovingLeavesAllElse) {
+TEST_F(PresetsTest, RemovingKeepsEverythingElse) {
   folder.write("home/.cups/lpoptions", "# mine\nDefault office Duplex=None\nDest gone/x A=1\n");
   presets.save("draft", settings({{"Fold", "Z"}}));
   presets.remove("draft");
@@ -173,7 +173,7 @@ TEST_F(PresetsTest, RemovingLeavesAllElse) {
   EXPECT_THAT(failureOf([&] { presets.load("draft", printer); }), HasSubstr("no preset"));
 }
 
-TEST_F(PresetsTest, ThoseOfOtherPrintersAreListed) {
+TEST_F(PresetsTest, PresetsOfOtherPrintersAreListed) {
   presets.save("draft", PrintSettingsStore());
   Presets("attic/draft").save("b", PrintSettingsStore());
   Presets("attic").save("a", PrintSettingsStore());
@@ -183,7 +183,7 @@ TEST_F(PresetsTest, ThoseOfOtherPrintersAreListed) {
   EXPECT_EQ(others[1].printer + "/" + others[1].name, "attic/b");
 }
 
-TEST_F(PresetsTest, EverybodysAreLoadedAndCannotBeChanged) {
+TEST_F(PresetsTest, SharedPresetsAreLoadedAndCannotBeChanged) {
   folder.write("etc/lpoptions", "Dest office/house Fold=Z Stapler=True\n");
   EXPECT_THAT(presets.names(), ElementsAre("house"));
   EXPECT_THAT(failureOf([&] { presets.remove("house"); }), HasSubstr("everybody"));
@@ -195,11 +195,11 @@ TEST_F(PresetsTest, EverybodysAreLoadedAndCannotBeChanged) {
   EXPECT_EQ(contentOf(folder.path("etc/lpoptions")), "Dest office/house Fold=Z Stapler=True\n");
 }
 
-TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
+TEST_F(PresetsTest, SettingsThatDoNotFitAreDroppedAndReported) {
   const struct {
     const char *setting;
     const char *value;
-    const char *misfit; // null when it fits
+    const char *misfit; // null if it fits
   } rows[] = {
       {"MediaType", "labels", nullptr},
       {"MediaType", "Gold",
@@ -219,7 +219,7 @@ TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
       {"PageSize", "Custom.300x400", nullptr},
       {"PageSize", "Custom.300x4000", "Height: that is out of range"},
       {"PageSize", "Letter", "does not offer \"Letter\""},
-      {"BackShift", "7", nullptr}, // of a panel
+      {"BackShift", "7", nullptr}, // a setting of a panel
   };
   for (const auto &row : rows) {
     SCOPED_TRACE(std::string(row.setting) + "=" + row.value);
@@ -237,7 +237,7 @@ TEST_F(PresetsTest, WhatDoesNotFitIsLeftOutInWords) {
   }
 }
 
-TEST_F(PresetsTest, ANumberOutOfRangeBecomesTheNearestAndSaysSo) {
+TEST_F(PresetsTest, ANumberOutOfRangeBecomesTheNearestAndIsReported) {
   const struct {
     const char *value;
     const char *nearest;
@@ -255,7 +255,7 @@ TEST_F(PresetsTest, ANumberOutOfRangeBecomesTheNearestAndSaysSo) {
     }
 }
 
-TEST_F(PresetsTest, ARealNumberCanBeEachEndOfItsRange) {
+TEST_F(PresetsTest, ARealNumberCanBeEitherEndOfItsRange) {
   const auto glossy = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *OpenUI *Gloss/Gloss: PickOne
 *DefaultGloss: Normal
@@ -275,14 +275,14 @@ TEST_F(PresetsTest, ARealNumberCanBeEachEndOfItsRange) {
   EXPECT_THAT(presets.load("glossy", glossy).settings.get("Gloss"), StrEq("Custom.0.1"));
 }
 
-TEST_F(PresetsTest, WhatOnlyPanelsKnowIsKept) {
+TEST_F(PresetsTest, SettingsThatOnlyPanelsKnowAreKept) {
   Presets("attic").save("other", settings({{"com.example.OwnBack", "True"}}));
   const auto loaded = Presets::load(PresetName{"attic", "other"}, printer);
   EXPECT_THAT(loaded.settings.get("com.example.OwnBack"), StrEq("True"));
   EXPECT_THAT(loaded.misfits, IsEmpty());
 }
 
-TEST_F(PresetsTest, AFileThatCannotBeWrittenIsNamedAndStays) {
+TEST_F(PresetsTest, AnUnwritableFileIsReportedAndUnchanged) {
   folder.write("home/.cups/lpoptions/in the way", "");
   EXPECT_THAT(failureOf([&] { presets.save("draft", PrintSettingsStore()); }, ExitCode::Printer),
               HasSubstr("home/.cups/lpoptions"));
@@ -291,21 +291,21 @@ TEST_F(PresetsTest, AFileThatCannotBeWrittenIsNamedAndStays) {
               HasSubstr("Cannot change the presets"));
 }
 
-TEST_F(PresetsTest, ALinkThatLeadsToNoFileIsNamedWithItsReason) {
+TEST_F(PresetsTest, ADanglingLinkIsReportedWithTheReason) {
   folder.write("home/.cups/.keep", "");
   std::filesystem::create_symlink("/dev/null", folder.path("home/.cups/lpoptions"));
   EXPECT_THAT(failureOf([&] { presets.save("draft", PrintSettingsStore()); }, ExitCode::Printer),
               testing::AllOf(HasSubstr("home/.cups/lpoptions"), HasSubstr("not a regular file")));
 }
 
-TEST_F(PresetsTest, APipeInTheirPlaceIsNamedAndNotWaitedFor) {
+TEST_F(PresetsTest, APipeIsReportedWithoutWaitingForIt) {
   folder.write("home/.cups/.keep", "");
   ASSERT_EQ(mkfifo(folder.path("home/.cups/lpoptions").c_str(), 0600), 0);
   EXPECT_THAT(failureOf([&] { presets.names(); }, ExitCode::Printer),
               HasSubstr("home/.cups/lpoptions"));
 }
 
-TEST_F(PresetsTest, ManyWhoSaveAtOnceLoseNothing) {
+TEST_F(PresetsTest, ConcurrentSavesLoseNothing) {
   constexpr int kWriters = 6;
   constexpr int kEach = 15;
   std::vector<pid_t> writers;
@@ -327,7 +327,7 @@ TEST_F(PresetsTest, ManyWhoSaveAtOnceLoseNothing) {
   EXPECT_EQ(presets.names().size(), std::size_t(kWriters * kEach));
 }
 
-/// The same file as CUPS and its commands see it.
+/// Shares the file with the commands of CUPS.
 class PresetsWithCups : public PresetsTest {
 protected:
   static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }
@@ -339,7 +339,7 @@ protected:
                             IMAGEPOSITION_SAMPLES "/duplex-shift.ppd"});
     ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
   }
-  /// In this person's home.
+  /// Runs a command with the private home directory.
   ProcessResult run(const std::vector<std::string> &words) const {
     auto environment = cups->environment();
     environment.push_back("HOME=" + folder.path("home"));
@@ -351,7 +351,7 @@ protected:
 
 std::unique_ptr<PrivateCups> PresetsWithCups::cups;
 
-TEST_F(PresetsWithCups, LpPrintsWithAPreset) {
+TEST_F(PresetsWithCups, LpPrintsWithASavedPreset) {
   presets.save("Two sided", settings({{"Duplex", "DuplexTumble"}, {"copies", "2"}}));
   const auto shown = run({"lpoptions", "-p", "office/Two-sided"});
   EXPECT_THAT(shown.output, HasSubstr("Duplex=DuplexTumble"));
@@ -361,7 +361,7 @@ TEST_F(PresetsWithCups, LpPrintsWithAPreset) {
   EXPECT_THAT(sent.output, HasSubstr("request id is office-"));
 }
 
-TEST_F(PresetsWithCups, OneThatLpoptionsMadeIsAPreset) {
+TEST_F(PresetsWithCups, AnInstanceFromLpoptionsIsAPreset) {
   run({"lpoptions", "-p", "office/theirs", "-o", "Duplex=DuplexTumble", "-o", "job-sheets=a b"});
   EXPECT_THAT(presets.names(), ElementsAre("theirs"));
   const auto sample = PrinterDescription::fromFile(IMAGEPOSITION_SAMPLES "/duplex-shift.ppd");

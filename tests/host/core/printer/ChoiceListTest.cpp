@@ -49,33 +49,33 @@ protected:
   PrinterOptions options{printer, job};
 };
 
-TEST_F(ListOption, BeginsWithWhatThePpdsDefaultSays) {
+TEST_F(ListOption, StartsWithThePpdsDefault) {
   EXPECT_EQ(finishing().kind, PrinterOption::Kind::Several);
   EXPECT_EQ(finishing().chosen, "Punch");
   EXPECT_THAT(finishing().chosenSet(), testing::Contains("Punch"));
   EXPECT_FALSE(finishing().differsFromDefault());
 }
 
-TEST_F(ListOption, HoldsAnyNumberOfChoicesInThePpdsOrder) {
+TEST_F(ListOption, AcceptsAnyNumberOfChoicesInThePpdsOrder) {
   EXPECT_TRUE(options.tick("Finishing", "Fold", true));
   EXPECT_TRUE(options.tick("finishing", "staple", true));
   EXPECT_THAT(job.get("Finishing"), StrEq("Punch,Staple,Fold"));
   EXPECT_TRUE(isMarked("Punch") && isMarked("Staple") && isMarked("Fold") && !isMarked("None"));
   EXPECT_TRUE(options.tick("Finishing", "Punch", false));
   EXPECT_THAT(job.get("Finishing"), StrEq("Staple,Fold"));
-  EXPECT_FALSE(isMarked("Punch")) << "the default is no longer wanted";
+  EXPECT_FALSE(isMarked("Punch")) << "the default is replaced";
   EXPECT_TRUE(finishing().differsFromDefault());
   EXPECT_EQ(finishing().textOf(finishing().chosen), "Staple, Fold");
 }
 
-TEST_F(ListOption, GoesBackToTheDefaultWithoutASetting) {
+TEST_F(ListOption, ReturnsToTheDefaultWithoutASetting) {
   options.tick("Finishing", "Staple", true);
   options.tick("Finishing", "Staple", false);
   EXPECT_EQ(job.optionCount(), 0);
   EXPECT_TRUE(isMarked("Punch"));
 }
 
-TEST_F(ListOption, IsNoneWhenNothingIsLeftAndNothingElseWithNone) {
+TEST_F(ListOption, BecomesNoneWhenEmptiedAndNoneExcludesAllOthers) {
   options.tick("Finishing", "Punch", false);
   EXPECT_THAT(job.get("Finishing"), StrEq("None"));
   options.tick("Finishing", "Staple", true);
@@ -107,7 +107,7 @@ TEST(RepeatedChoices, AreListedAndSentOnce) {
   EXPECT_THAT(settings.get("Finishing"), StrEq("Staple"));
 }
 
-TEST(RepeatedOption, IsNoListWhereOnlyTheOneThatCupsDoesNotFindIs) {
+TEST(RepeatedOption, IsNotAListIfOnlyTheOccurrenceThatCupsIgnoresIsOne) {
   auto repeating = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *OpenUI *MediaType/Kind of Paper: PickOne
 *MediaType Plain/Plain Paper: ""
@@ -136,10 +136,10 @@ TEST(RepeatedOption, IsNoListWhereOnlyTheOneThatCupsDoesNotFindIs) {
   }
 }
 
-TEST_F(ListOption, IsEmptyWhereThereIsNoChoiceForNone) {
+TEST_F(ListOption, CanBeEmptyIfThereIsNoChoiceForNone) {
   ppd_option_t &option = *ppdFindOption(printer.ppd(), "Finishing");
   EXPECT_THAT(withChoice(option, {"Punch"}, "Punch", false), ElementsAre("None"));
-  option.choices[0].choice[0] = 'X'; // "Xone" is one among others
+  option.choices[0].choice[0] = 'X'; // "Xone" is an ordinary choice
   options.tick("Finishing", "Punch", false);
   EXPECT_THAT(job.get("Finishing"), StrEq(""));
   EXPECT_EQ(finishing().chosen, "");
@@ -147,7 +147,7 @@ TEST_F(ListOption, IsEmptyWhereThereIsNoChoiceForNone) {
   EXPECT_TRUE(finishing().differsFromDefault());
 }
 
-TEST_F(ListOption, PassesOverChoicesThatThePrinterDoesNotHave) {
+TEST_F(ListOption, IgnoresChoicesThatThePrinterLacks) {
   job.set("Finishing", "Gold,Fold");
   EXPECT_EQ(finishing().chosen, "Fold");
   job.set("Finishing", "Gold");
@@ -159,13 +159,13 @@ TEST_F(ListOption, PassesOverChoicesThatThePrinterDoesNotHave) {
   EXPECT_THAT(job.get("Finishing"), StrEq("Staple,Fold"));
 }
 
-TEST_F(ListOption, StaysAsItIsWhereItIsLocked) {
+TEST_F(ListOption, IsUnchangedIfLocked) {
   job.set("Finishing", "Fold", true);
   EXPECT_FALSE(options.tick("Finishing", "Staple", true));
   EXPECT_EQ(finishing().chosen, "Fold");
 }
 
-TEST_F(ListOption, ConflictsByOneOfItsChoicesWhichAloneIsTakenAway) {
+TEST_F(ListOption, LosesOnlyTheChoiceInConflict) {
   job.set("Finishing", "Punch,Fold");
   EXPECT_EQ(conflictsInWords(), "");
   options.choose("MediaType", "Heavy");
@@ -179,8 +179,8 @@ TEST_F(ListOption, ConflictsByOneOfItsChoicesWhichAloneIsTakenAway) {
   EXPECT_EQ(conflictsInWords(), "");
 }
 
-/// As after a start with options on the command line.
-TEST_F(ListOption, ResolvesWithoutALastChoice) {
+/// As when the program starts with options on the command line.
+TEST_F(ListOption, ResolvesConflictsWithoutALastChoice) {
   job.set("Finishing", "Punch,Fold");
   job.set("MediaType", "Heavy");
   OptionConflicts conflicts(printer, job);
@@ -188,20 +188,21 @@ TEST_F(ListOption, ResolvesWithoutALastChoice) {
   ASSERT_TRUE(proposal);
   EXPECT_THAT(proposal->sentence, HasSubstr("Change to \"Media Type: Plain Paper\"."));
   EXPECT_TRUE(conflicts.take(*proposal));
-  EXPECT_EQ(finishing().chosen, "Punch,Fold") << "a list stays where something else ends it";
+  EXPECT_EQ(finishing().chosen, "Punch,Fold")
+      << "a list is kept if another change ends the conflict";
   job.set("MediaType", "Heavy", true);
   EXPECT_THAT(conflicts.proposal()->sentence, HasSubstr("Change to \"Finishing: Punch\"."));
   job.set("Finishing", "Punch,Fold", true);
   EXPECT_FALSE(conflicts.proposal());
 }
 
-TEST_F(ListOption, KeepsWhatWasTickedLast) {
+TEST_F(ListOption, KeepsTheChoiceThatWasCheckedLast) {
   options.choose("MediaType", "Heavy");
   options.tick("Finishing", "Fold", true);
   EXPECT_THAT(conflictsInWords("Finishing"), HasSubstr("Change to \"Media Type: Plain Paper\"."));
 }
 
-TEST_F(ListOption, IsListedWithAllThatHolds) {
+TEST_F(ListOption, IsListedWithAllChosenValues) {
   job.set("Finishing", "Staple,Fold");
   const std::string list = writeOptionList(options.all());
   EXPECT_THAT(list, HasSubstr("    Punch: Punch\n  * Staple: Staple\n  * Fold: Fold\n"));
@@ -215,7 +216,7 @@ TEST_F(ListOption, IsListedWithAllThatHolds) {
   }
 }
 
-TEST_F(ListOption, FitsAPrinterThatHasAllOfIt) {
+TEST_F(ListOption, FitsAPrinterThatHasAllItsChoices) {
   const FittedSetting known = fitSetting(printer.ppd(), "Finishing", "Staple,Fold", true);
   EXPECT_EQ(known.value, "Staple,Fold");
   EXPECT_EQ(known.change, "");
@@ -224,7 +225,7 @@ TEST_F(ListOption, FitsAPrinterThatHasAllOfIt) {
   EXPECT_THAT(unknown.change, HasSubstr("does not offer \"Staple,Gold\""));
 }
 
-TEST_F(ListOption, ShowsAValueThatWasEnteredInEveryPlace) {
+TEST_F(ListOption, ShowsACustomValueEverywhere) {
   job.set("PageSize", "Custom.100x200mm");
   job.set("Secret", "{User=me Password=abcd Code=1234}");
   EXPECT_EQ(options.find("PageSize")->textOf("Custom.100x200mm"), "Custom: 100 × 200 mm");

@@ -10,7 +10,7 @@ using namespace imageposition;
 using imageposition::test::kOptionsPpd;
 using imageposition::test::optionsPrinter;
 
-/// A description whose printer collates, and does unless it is told not to.
+/// A description with an option for collation, which is on by default.
 std::string withCollate() {
   return kOptionsPpd + R"ppd(*OpenUI *Collate/Collate: Boolean
 *DefaultCollate: True
@@ -22,7 +22,7 @@ std::string withCollate() {
 
 std::string textOr(const char *value) { return value != nullptr ? value : "(none)"; }
 
-TEST(Collation, APrinterWithoutTheOptionIsToldInTermsOfCups) {
+TEST(Collation, APrinterWithoutTheOptionGetsTheAttributeOfCups) {
   auto printer = optionsPrinter();
   PrintSettingsStore job;
   EXPECT_FALSE(isCollated(printer, job));
@@ -47,7 +47,7 @@ TEST(Collation, APrintersOwnOptionIsStoredOnlyWhereItDiffersFromTheDefault) {
   EXPECT_EQ(job.optionCount(), 0);
 }
 
-TEST(Collation, AJobsOwnWordIsReadInEitherOfItsNames) {
+TEST(Collation, TheJobsSettingIsReadUnderEitherName) {
   auto printer = optionsPrinter();
   const char *const rows[][2] = {
       {"Collate", "true"},

@@ -33,7 +33,7 @@ protected:
       PrinterDescription::fromFile(std::string(IMAGEPOSITION_SAMPLES) + "/finisher.ppd");
 };
 
-TEST_F(CustomValue, HasAParameterOfEachTypeWithItsRange) {
+TEST_F(CustomValue, HasParametersOfEachTypeWithTheirRanges) {
   const struct {
     const char *keyword;
     std::size_t at;
@@ -46,7 +46,7 @@ TEST_F(CustomValue, HasAParameterOfEachTypeWithItsRange) {
               {"Trim", 0, "Width", Kind::Length, 10, 72},
               {"Gloss", 0, "Amount", Kind::Real, 0.5, 2.5},
               {"Gloss", 1, "Light", Kind::Real, 0, 1},
-              {"Gloss", 2, "Dark", Kind::Real, 0, 1}, // the PPD has it from 1 to 0
+              {"Gloss", 2, "Dark", Kind::Real, 0, 1}, // the PPD has 1 to 0
               {"Stamp", 0, "Words", Kind::Text, 1, 20},
               {"Secret", 0, "User", Kind::Text, 1, 16},
               {"Secret", 1, "Password", Kind::Password, 4, 16},
@@ -62,7 +62,7 @@ TEST_F(CustomValue, HasAParameterOfEachTypeWithItsRange) {
   EXPECT_EQ(option("PageSize").parameters.size(), 2u); // CUPS chooses the rest itself
 }
 
-TEST_F(CustomValue, IsNoneForAnOptionWithoutOneOrWithoutAParameter) {
+TEST_F(CustomValue, RequiresAnOptionWithParameters) {
   EXPECT_FALSE(customOption(printer.ppd(), "Duplex"));
   EXPECT_FALSE(customOption(printer.ppd(), "Unknown"));
   std::string text = imageposition::test::kOptionsPpd;
@@ -71,7 +71,7 @@ TEST_F(CustomValue, IsNoneForAnOptionWithoutOneOrWithoutAParameter) {
   EXPECT_FALSE(customOption(optionsPrinter(text).ppd(), "Watermark"));
 }
 
-TEST_F(CustomValue, IsWrittenAsCupsTakesItAndReadBack) {
+TEST_F(CustomValue, IsWrittenAsCupsAcceptsItAndReadBack) {
   const struct {
     const char *keyword;
     CustomEntries entries;
@@ -93,7 +93,7 @@ TEST_F(CustomValue, IsWrittenAsCupsTakesItAndReadBack) {
     EXPECT_EQ(*read, row.entries) << row.value;
   }
   EXPECT_EQ(writeCustomValue(option("PageSize"), {"100mm", "10in"}), "Custom.283.46x720");
-  EXPECT_THAT(*readCustomValue(option("Holes"), "7"), ElementsAre("7")); // some clients say so
+  EXPECT_THAT(*readCustomValue(option("Holes"), "7"), ElementsAre("7")); // some clients send it
   EXPECT_THAT(*readCustomValue(option("Secret"), "{Code=12}"), ElementsAre("", "", "12"));
   EXPECT_THAT(*readCustomValue(option("PageSize"), "Custom.10x20cm"),
               ElementsAre("100mm", "200mm"));
@@ -106,7 +106,7 @@ TEST_F(CustomValue, IsWrittenAsCupsTakesItAndReadBack) {
   EXPECT_FALSE(readCustomValue(option("Gloss"), R"({Amount="0,5" Light=0 Dark=1})"));
 }
 
-TEST_F(CustomValue, OfThePageIsNoneWhereThePrinterNamesNoSizes) {
+TEST_F(CustomValue, OfThePageRequiresLimitsInThePpd) {
   std::string text = imageposition::test::kOptionsPpd;
   for (const char *line : {"*MaxMediaWidth: \"700\"\n", "*MaxMediaHeight: \"1000\"\n",
                            "*ParamCustomPageSize Width: 1 points 200 700\n",
@@ -115,7 +115,7 @@ TEST_F(CustomValue, OfThePageIsNoneWhereThePrinterNamesNoSizes) {
   EXPECT_FALSE(customOption(optionsPrinter(text).ppd(), "PageSize"));
 }
 
-TEST_F(CustomValue, OfARealNumberCanBeEachEndOfItsRange) {
+TEST_F(CustomValue, OfARealNumberCanBeEitherEndOfItsRange) {
   CustomParameter parameter{"Amount", "Amount", Kind::Real, 0.1F, 0.9F, false};
   for (const char *end : {"0.1", "0.9"})
     EXPECT_EQ(checkEntry(parameter, end, LengthUnit::Point).entry, end);
@@ -123,8 +123,7 @@ TEST_F(CustomValue, OfARealNumberCanBeEachEndOfItsRange) {
   EXPECT_EQ(checkEntry(parameter, "0.50001", LengthUnit::Point).entry, "0.50001");
 }
 
-/// What is written is what CUPS marks.
-TEST_F(CustomValue, OfThePageIsReadInCupsOwnSpellingAlone) {
+TEST_F(CustomValue, OfThePageIsCaseSensitiveLikeCups) {
   const auto size = customOption(printer.ppd(), "PageSize");
   ASSERT_TRUE(size);
   EXPECT_TRUE(readCustomValue(*size, "Custom.100x200mm"));
@@ -132,8 +131,8 @@ TEST_F(CustomValue, OfThePageIsReadInCupsOwnSpellingAlone) {
   EXPECT_FALSE(readCustomValue(*size, "custom.100x200mm"));
 }
 
-/// "{Amount=1 =2}" says nothing of the second.
-TEST(CustomValueOfADescription, IsNoneWhereOneOfSeveralParametersHasNoName) {
+/// In "{Amount=1 =2}" CUPS could not find the second.
+TEST(CustomValueOfADescription, RequiresANameForEachOfSeveralParameters) {
   const auto ppd = [](const std::string &further) {
     return optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *OpenUI *Gloss/Gloss: PickOne
@@ -148,15 +147,15 @@ TEST(CustomValueOfADescription, IsNoneWhereOneOfSeveralParametersHasNoName) {
   EXPECT_FALSE(customOption(ppd("*ParamCustomGloss Light/Light: 2 curve 0 1\n").ppd(), "Gloss"));
 }
 
-/// As a floating-point number it would be 9, and CUPS takes 8.
-TEST_F(CustomValue, OfAWholeNumberIsNoneThatOnlyRoundsToOne) {
+/// As a floating-point number it would be 9, but CUPS reads 8.
+TEST_F(CustomValue, OfAnIntegerMustNotNeedRounding) {
   const CustomOption holes = option("Holes");
   EXPECT_EQ(customValueProblem(holes, "Custom.9.00"), "");
   EXPECT_NE(customValueProblem(holes, "Custom.8.99999999999999999999"), "");
   EXPECT_NE(check("Holes", "8,99999999999999999999").problem, "");
 }
 
-TEST_F(CustomValue, IsUnderstoodByCups) {
+TEST_F(CustomValue, IsAcceptedByCups) {
   PrintSettingsStore job;
   job.set("PageSize", writeCustomValue(option("PageSize"), {"100mm", "200mm"}));
   job.set("Trim", writeCustomValue(option("Trim"), {"10mm"}));
@@ -175,7 +174,7 @@ TEST_F(CustomValue, IsUnderstoodByCups) {
   EXPECT_STREQ(current("Secret", "Code").custom_string, "1234");
 }
 
-TEST_F(CustomValue, IsSaidInWordsWithoutItsHiddenParts) {
+TEST_F(CustomValue, IsShownWithoutItsHiddenParts) {
   EXPECT_EQ(customValueText(option("PageSize"), "Custom.100x200mm"), "100 × 200 mm");
   EXPECT_EQ(customValueText(option("PageSize"), "Custom.4x6.5in"), "4 × 6.5 in");
   EXPECT_EQ(customValueText(option("PageSize"), "Custom.300x400"), "300 × 400 pt");
@@ -189,7 +188,7 @@ TEST_F(CustomValue, IsSaidInWordsWithoutItsHiddenParts) {
   EXPECT_EQ(customValueText(option("PageSize"), "Custom.huge"), "Custom.huge");
 }
 
-TEST_F(CustomValue, OfANumberIsTakenInsideItsRange) {
+TEST_F(CustomValue, OfANumberMustBeInItsRange) {
   for (const char *typed : {"1", " 12 ", "+7", "3,0"})
     EXPECT_THAT(check("Holes", typed).problem, IsEmpty()) << typed;
   EXPECT_EQ(check("Holes", "3,0").entry, "3");
@@ -204,10 +203,10 @@ TEST_F(CustomValue, OfANumberIsTakenInsideItsRange) {
   EXPECT_THAT(check("Gloss", "0.5", LengthUnit::Point, 2).problem, IsEmpty()); // from 1 to 0
 }
 
-TEST_F(CustomValue, OfALengthIsTakenInAnyUnitInsideItsRange) {
+TEST_F(CustomValue, OfALengthMustBeInItsRangeInAnyUnit) {
   EXPECT_EQ(check("Trim", "10").entry, "10mm");
   EXPECT_EQ(check("Trim", "10", LengthUnit::Point).entry, "10");
-  EXPECT_EQ(check("Trim", "0.5in").entry, "0.5in"); // its own unit before that of the field
+  EXPECT_EQ(check("Trim", "0.5in").entry, "0.5in"); // its unit takes precedence over the field's
   EXPECT_EQ(check("Trim", "1 cm", LengthUnit::Inch).entry, "10mm");
   EXPECT_EQ(check("Trim", "10,12345").entry, "10.12mm"); // rounded
   EXPECT_EQ(rangeText(option("Trim").parameters[0], LengthUnit::Millimetre), "3.53 to 25.4 mm");
@@ -225,7 +224,7 @@ TEST_F(CustomValue, OfALengthIsTakenInAnyUnitInsideItsRange) {
   EXPECT_THAT(check("Trim", digits + "m").problem, HasSubstr("no number"));
 }
 
-TEST_F(CustomValue, OfATextHasAsManyBytesAsThePrinterTakes) {
+TEST_F(CustomValue, OfAStringIsLimitedInBytes) {
   EXPECT_THAT(check("Stamp", "a").problem, IsEmpty());
   EXPECT_THAT(check("Stamp", std::string(20, 'a')).problem, IsEmpty());
   EXPECT_THAT(check("Stamp", "").problem, HasSubstr("length of 0. The printer takes 1 to 20."));
@@ -240,7 +239,7 @@ TEST_F(CustomValue, OfATextHasAsManyBytesAsThePrinterTakes) {
   EXPECT_THAT(check("Secret", "a}b").problem, HasSubstr("curly brackets"));
 }
 
-TEST_F(CustomValue, OfAPasswordAndAPasscodeHasItsLength) {
+TEST_F(CustomValue, OfAPasswordOrPasscodeIsLimitedInLength) {
   const auto password = [&](const char *typed) {
     return check("Secret", typed, LengthUnit::Point, 1).problem;
   };
@@ -258,7 +257,7 @@ TEST_F(CustomValue, OfAPasswordAndAPasscodeHasItsLength) {
   EXPECT_THAT(password("secret\n").find("secret"), std::string::npos);
 }
 
-TEST_F(CustomValue, NamesTheSettingsThatHideSomething) {
+TEST_F(CustomValue, IsHiddenIfItHasAPassword) {
   PrintSettingsStore job;
   job.set("Stamp", "Custom.words");
   job.set("Secret", "None");

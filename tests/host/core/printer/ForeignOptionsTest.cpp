@@ -1,4 +1,4 @@
-// The options of printer descriptions that others wrote, as Debian packages them.
+// The options of third-party printer descriptions, from Debian packages.
 #include "OptionConflicts.hpp"
 #include "PrinterOptions.hpp"
 #include "ProcessRun.hpp"
@@ -44,7 +44,7 @@ protected:
            "foomatic-db-compressed-ppds";
   }
 
-  /// The choices of a person who tries everything.
+  /// Random choices.
   void chooseAnything(PrinterOptions &options) {
     for (const OptionGroup &group : options.all())
       for (const PrinterOption &option : group.options)
@@ -102,14 +102,14 @@ TEST_F(ForeignOptions, EveryOptionAndChoiceIsNamed) {
   EXPECT_GE(choices, 10 * files.size());
 }
 
-TEST_F(ForeignOptions, EveryChoiceOfThePaneCanBeChosen) {
+TEST_F(ForeignOptions, EveryListedChoiceCanBeChosen) {
   for (const std::string &file : files) {
     SCOPED_TRACE(file);
     auto printer = PrinterDescription::fromFile(file);
     PrinterOptions options(printer, job = PrintSettingsStore());
     for (const OptionGroup &group : options.listed({}))
       for (const PrinterOption &option : group.options) {
-        job = PrintSettingsStore(); // a tray takes manual feeding's mark away, and the reverse
+        job = PrintSettingsStore(); // choosing a tray unmarks manual feeding, and vice versa
         const OptionChoice &last = option.choices.back();
         ASSERT_TRUE(options.choose(option.keyword, last.keyword)) << option.keyword;
         EXPECT_EQ(options.find(option.keyword)->chosen, last.keyword) << option.keyword;
@@ -127,7 +127,7 @@ TEST_F(ForeignOptions, ConflictsAreThoseThatCupsCounts) {
     PrinterOptions options(printer, job = PrintSettingsStore());
     OptionConflicts conflicts(printer, job);
     for (int draw = 0; draw < kDraws; draw++) {
-      if (draw > 0) // first the printer's defaults
+      if (draw > 0) // the first draw is the printer's defaults
         chooseAnything(options);
       std::set<std::string> named;
       const auto found = conflicts.find();
@@ -151,7 +151,7 @@ TEST_F(ForeignOptions, ConflictsAreThoseThatCupsCounts) {
   EXPECT_GE(conflicting, 100U);
 }
 
-TEST_F(ForeignOptions, ATakenProposalLeavesNoConflict) {
+TEST_F(ForeignOptions, AnAcceptedProposalLeavesNoConflict) {
   std::size_t taken = 0;
   for (const std::string &file : files) {
     SCOPED_TRACE(file);

@@ -1,4 +1,4 @@
-// Texts of printers and of CUPS, made fit to be shown.
+// Strings from printer descriptions, prepared for display.
 #include "ForeignText.hpp"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@ namespace {
 
 using imageposition::textOrKeyword;
 
-TEST(ForeignText, OfADescriptionIsTheKeywordWhereItHasNone) {
+TEST(ForeignText, IsTheKeywordIfTheDescriptionHasNoName) {
   EXPECT_EQ(textOrKeyword("Two-Sided", "Duplex"), "Two-Sided");
   EXPECT_EQ(textOrKeyword("", "Duplex"), "Duplex");
   EXPECT_EQ(textOrKeyword("Two\n\x1bSided", "Duplex"), "Two\\n\\x1bSided");

@@ -1,5 +1,5 @@
-// Printer descriptions with more of everything than printers have, as somebody may make them who
-// wants the window to hang.
+// Printer descriptions with more of everything than real printers have. An attacker could use one
+// to make the window hang.
 #include "ExitCode.hpp"
 #include "LargePpd.hpp"
 #include "OptionConflicts.hpp"
@@ -16,7 +16,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// Empty when the printer of that text can be had.
+/// The error message for a PPD with this content; empty if it is accepted.
 std::string refusalOf(const std::string &text) {
   try {
     largePrinter(text);
@@ -26,7 +26,7 @@ std::string refusalOf(const std::string &text) {
   return {};
 }
 
-/// Between two choices each, of one option.
+/// Constraints between pairs of choices of one option.
 std::string pairsOfChoices(int choices, int constraints) {
   std::string text = kPpdBeginning + goodOrBad(0) + "*OpenUI *Many: PickOne\n*DefaultMany: C0\n";
   for (int i = 0; i < choices; i++)
@@ -47,10 +47,10 @@ TEST(LargePrinter, NamesTheFirstConflictsAndCountsTheOthers) {
               ElementsAre("The printer cannot combine \"O1: Bad\" and \"O0: Bad\".",
                           "The printer cannot combine \"O2: Bad\" and \"O0: Bad\".",
                           "There are 44848 more conflicts."));
-  EXPECT_FALSE(conflicts.proposal("O1")) << "three hundred changes are nothing to read";
+  EXPECT_FALSE(conflicts.proposal("O1")) << "three hundred changes are too many to read";
 }
 
-TEST(LargePrinter, CountsAConflictOnceThatIsWrittenAThousandTimes) {
+TEST(LargePrinter, CountsARepeatedConflictOnce) {
   std::string text = manyOptions(3);
   for (int i = 0; i < 1000; i++)
     text += "*UIConstraints: *O0 Bad *O1 Bad\n*UIConstraints: *O1 *O0 Bad\n";
@@ -59,7 +59,7 @@ TEST(LargePrinter, CountsAConflictOnceThatIsWrittenAThousandTimes) {
   EXPECT_THAT(OptionConflicts(printer, job).find(), SizeIs(1));
 }
 
-TEST(LargePrinter, EndsAConflictAmongThousandsOfConstraints) {
+TEST(LargePrinter, ResolvesAConflictAmongThousandsOfConstraints) {
   auto printer = largePrinter(pairsOfChoices(2000, 2000));
   PrintSettingsStore job;
   OptionConflicts conflicts(printer, job);
@@ -69,7 +69,7 @@ TEST(LargePrinter, EndsAConflictAmongThousandsOfConstraints) {
   EXPECT_EQ(ppdConflicts(printer.ppd()), 0);
 }
 
-TEST(LargePrinter, HasEveryChoiceOfAListThatTakesAllOfThem) {
+TEST(LargePrinter, CanHaveEveryChoiceOfAListChosen) {
   constexpr int kChoices = 5000;
   auto printer = largePrinter(manyChoices(kChoices));
   PrintSettingsStore job;
@@ -82,7 +82,7 @@ TEST(LargePrinter, HasEveryChoiceOfAListThatTakesAllOfThem) {
   EXPECT_THAT(options.find("Several")->chosenSet(), SizeIs(kChoices - 1));
 }
 
-TEST(LargePrinter, IsRefusedWhereLibcupsWouldReadItForMinutes) {
+TEST(LargePrinter, IsRefusedIfLibcupsWouldReadItForMinutes) {
   EXPECT_THAT(refusalOf(manyOptions(10000)), IsEmpty());
   EXPECT_THAT(refusalOf(manyOptions(12000)),
               testing::HasSubstr("too large for a printer description"));
@@ -92,13 +92,13 @@ TEST(LargePrinter, IsRefusedWhereLibcupsWouldReadItForMinutes) {
   EXPECT_THAT(refusalOf(byTurns), testing::HasSubstr("too large for a printer description"));
 }
 
-TEST(LargePrinter, IsRefusedWhereItsConstraintsWouldBeReadForMinutes) {
+TEST(LargePrinter, IsRefusedIfLibcupsWouldReadItsConstraintsForMinutes) {
   EXPECT_THAT(refusalOf(pairsOfChoices(5000, 5000)), IsEmpty());
   EXPECT_THAT(refusalOf(pairsOfChoices(20000, 20000)),
               testing::HasSubstr("too large for a printer description"));
 }
 
-TEST(LargePrinter, LeavesOutWhatThePaneHasNoRoomFor) {
+TEST(LargePrinter, OmitsOptionsThatDoNotFitIntoThePane) {
   auto printer = largePrinter(manyOptions(30) + manyChoices(20).substr(kPpdBeginning.size()));
   PrintSettingsStore job;
   auto groups = PrinterOptions(printer, job).listed({});

@@ -1,4 +1,4 @@
-// What options are called whose description has no text in the user's language.
+// Names for options whose description has none in the user's language.
 #include "MissingTexts.hpp"
 
 #include "PrinterOptions.hpp"
@@ -37,7 +37,7 @@ protected:
     return PrinterOptions(printer, job).find(keyword).value();
   }
 
-  /// The driverless printer's description as a CUPS would write it that spoke that language.
+  /// The driverless printer's description as CUPS would generate it in that language.
   std::string describedIn(const std::string &language) const {
     return folder_.write(language + ".ppd",
                          std::regex_replace(contentOf(DRIVERLESS_PPD), std::regex("\n\\*C\\."),
@@ -48,7 +48,7 @@ private:
   TemporaryFolder folder_;
 };
 
-TEST_F(MissingTexts, AreCupsOwnEnglishOnesInAnyLanguage) {
+TEST_F(MissingTexts, AreReplacedByThoseOfCupsInEnglish) {
   for (const char *language : {"en", "de", "ja", "zh_CN"})
     in(language, [] {
       EXPECT_EQ(optionIn(DRIVERLESS_PPD, "cupsPrintQuality").text, "Print Quality");
@@ -59,7 +59,7 @@ TEST_F(MissingTexts, AreCupsOwnEnglishOnesInAnyLanguage) {
     });
 }
 
-TEST_F(MissingTexts, AreAnotherLanguagesWhereThereIsNoEnglish) {
+TEST_F(MissingTexts, AreReplacedByAnotherLanguageWithoutEnglish) {
   const std::string file = describedIn("it");
   in("de", [&] {
     EXPECT_EQ(optionIn(file, "Duplex").text, "2-Sided Printing");
@@ -67,7 +67,7 @@ TEST_F(MissingTexts, AreAnotherLanguagesWhereThereIsNoEnglish) {
   });
 }
 
-TEST_F(MissingTexts, AreEnglishBeforeAnyOtherLanguage) {
+TEST_F(MissingTexts, AreReplacedByEnglishBeforeOtherLanguages) {
   const TemporaryFolder folder;
   const std::string file =
       folder.write("both.ppd", std::regex_replace(contentOf(describedIn("it")),
@@ -80,7 +80,7 @@ TEST_F(MissingTexts, AreEnglishBeforeAnyOtherLanguage) {
   in("fr_CA", [&] { EXPECT_EQ(optionIn(file, "Duplex").text, "Recto-verso"); });
 }
 
-TEST_F(MissingTexts, AreTheKeywordsWithoutAnyLanguage) {
+TEST_F(MissingTexts, AreReplacedByKeywordsWithoutAnyLanguage) {
   in("de", [] {
     EXPECT_EQ(optionIn(DRIVERLESS_PPD, "OutputBin").text, "OutputBin");
     EXPECT_EQ(optionIn(DRIVERLESS_PPD, "PageSize").textOf("Env10"), "Env10");
@@ -92,11 +92,11 @@ TEST_F(MissingTexts, AreNotMissingInAMakersDescription) {
   EXPECT_FALSE(isMissingTexts(*printer.ppd()));
 }
 
-TEST_F(MissingTexts, OfAFileThatIsNotThereAreNone) {
+TEST_F(MissingTexts, OfAMissingFileHaveNoTranslations) {
   EXPECT_TRUE(readTranslations("/nonexistent.ppd").empty());
 }
 
-TEST(IppKeyword, IsFoundFromTheNameThatCupsMadeOfIt) {
+TEST(IppKeyword, IsDerivedFromTheNameThatCupsGenerated) {
   const std::pair<const char *, const char *> kNames[] = {
       {"Main", "main"},
       {"ByPassTray", "by-pass-tray"},

@@ -20,12 +20,12 @@ protected:
   OptionConflicts conflicts{printer, job};
 };
 
-TEST_F(OptionConflictsTest, TheDefaultsHaveNone) {
+TEST_F(OptionConflictsTest, TheDefaultsDoNotConflict) {
   EXPECT_THAT(conflicts.find(), IsEmpty());
   EXPECT_FALSE(conflicts.proposal());
 }
 
-TEST_F(OptionConflictsTest, BothSidesAreNamedByTheirTexts) {
+TEST_F(OptionConflictsTest, AConflictNamesBothSides) {
   job.set("Duplex", "DuplexTumble");
   job.set("MediaType", "Transparency");
   const auto found = conflicts.find();
@@ -35,7 +35,7 @@ TEST_F(OptionConflictsTest, BothSidesAreNamedByTheirTexts) {
   EXPECT_THAT(found[0].sides, SizeIs(2));
 }
 
-TEST_F(OptionConflictsTest, ACombinationOfThreeIsNamedWhole) {
+TEST_F(OptionConflictsTest, AConflictOfThreeNamesAllSides) {
   job.set("Stapler", "True");
   job.set("Fold", "Z");
   EXPECT_THAT(conflicts.find(), IsEmpty());
@@ -46,7 +46,7 @@ TEST_F(OptionConflictsTest, ACombinationOfThreeIsNamedWhole) {
                                "\"Tray: Second Tray\".");
 }
 
-TEST_F(OptionConflictsTest, WhatIsNotInstalledConflictsToo) {
+TEST_F(OptionConflictsTest, AnUninstalledAccessoryConflicts) {
   job.set("OptionalTray", "False");
   job.set("InputSlot", "Tray2");
   ASSERT_THAT(conflicts.find(), SizeIs(1));
@@ -56,7 +56,7 @@ TEST_F(OptionConflictsTest, WhatIsNotInstalledConflictsToo) {
   EXPECT_EQ(proposal->sentence, "Change to \"Tray: First Tray\".");
 }
 
-TEST_F(OptionConflictsTest, TheOptionThatWasChosenLastStays) {
+TEST_F(OptionConflictsTest, TheOptionThatWasChosenLastIsKept) {
   job.set("Duplex", "DuplexTumble");
   job.set("MediaType", "Transparency");
   const auto keepingMedia = conflicts.proposal("MediaType");
@@ -67,7 +67,7 @@ TEST_F(OptionConflictsTest, TheOptionThatWasChosenLastStays) {
   EXPECT_EQ(keepingDuplex->sentence, "Change to \"Kind of Paper: Plain Paper\".");
 }
 
-TEST_F(OptionConflictsTest, TakingTheProposalEndsTheConflict) {
+TEST_F(OptionConflictsTest, AcceptingTheProposalResolvesTheConflict) {
   job.set("Duplex", "DuplexTumble");
   job.set("MediaType", "Transparency");
   ASSERT_TRUE(conflicts.take(*conflicts.proposal("MediaType")));
@@ -76,7 +76,7 @@ TEST_F(OptionConflictsTest, TakingTheProposalEndsTheConflict) {
   EXPECT_STREQ(job.get("MediaType"), "Transparency");
 }
 
-TEST_F(OptionConflictsTest, ThePrintersOwnWayOutIsTaken) {
+TEST_F(OptionConflictsTest, ThePpdsResolverIsUsed) {
   job.set("Stapler", "True");
   job.set("Fold", "Z");
   job.set("InputSlot", "Tray2");
@@ -85,14 +85,14 @@ TEST_F(OptionConflictsTest, ThePrintersOwnWayOutIsTaken) {
   EXPECT_EQ(proposal->sentence, "Change to \"Fold: Do not fold\".");
 }
 
-TEST_F(OptionConflictsTest, ALockedOptionIsNoWayOut) {
+TEST_F(OptionConflictsTest, ALockedOptionIsNotChanged) {
   job.set("Duplex", "DuplexTumble", true);
   job.set("MediaType", "Transparency");
   EXPECT_FALSE(conflicts.proposal("MediaType"));
   EXPECT_TRUE(conflicts.proposal("Duplex"));
 }
 
-TEST_F(OptionConflictsTest, AProposalThatCannotBeTakenWholeChangesNothing) {
+TEST_F(OptionConflictsTest, AProposalThatCannotBeAppliedCompletelyChangesNothing) {
   job.set("Fold", "Z", true);
   const ConflictProposal proposal{
       {{"Stapler", "Staple", "True", "Yes"}, {"Fold", "Fold", "None", "Do not fold"}}, ""};
@@ -101,7 +101,7 @@ TEST_F(OptionConflictsTest, AProposalThatCannotBeTakenWholeChangesNothing) {
   EXPECT_STREQ(ppdFindMarkedChoice(printer.ppd(), "Stapler")->choice, "False");
 }
 
-TEST(OptionConflicts, ACombinationIsReadFromStarToStarAsCupsReadsIt) {
+TEST(OptionConflicts, AConstraintIsReadLikeCupsDoes) {
   auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *cupsUIConstraints Three: "*Fold Z and *Stapler True (and)*Tray Two"
 *OpenUI *Fold/Fold: PickOne
@@ -128,7 +128,7 @@ TEST(OptionConflicts, ACombinationIsReadFromStarToStarAsCupsReadsIt) {
   EXPECT_NE(ppdConflicts(printer.ppd()), 0);
 }
 
-TEST(OptionConflicts, TextsOfADescriptionAreWellFormedInSentences) {
+TEST(OptionConflicts, SentencesAreWellFormedUtf8) {
   auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *LanguageEncoding: UTF-8
 *UIConstraints: *Fold Z *Stapler True

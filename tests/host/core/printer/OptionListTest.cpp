@@ -15,7 +15,7 @@ PrinterOption mediaSize() {
   return option;
 }
 
-TEST(OptionList, NamesGroupsOptionsAndChoicesWithAStarBeforeTheChosenOne) {
+TEST(OptionList, ListsGroupsOptionsAndChoicesWithAStarBeforeTheChosenOne) {
   EXPECT_EQ(writeOptionList({{"General", "General settings", {mediaSize()}}}),
             "General settings\n"
             "  PageSize: Media Size\n"
@@ -23,13 +23,13 @@ TEST(OptionList, NamesGroupsOptionsAndChoicesWithAStarBeforeTheChosenOne) {
             "  * Letter: US Letter\n");
 }
 
-TEST(OptionList, HasNoStarWhereNothingIsChosen) {
+TEST(OptionList, HasNoStarIfNothingIsChosen) {
   PrinterOption option = mediaSize();
   option.chosen.clear();
   EXPECT_EQ(writeOptionList({{"General", "General", {option}}}).find('*'), std::string::npos);
 }
 
-TEST(OptionList, SaysWhereAValueCanBeGiven) {
+TEST(OptionList, ShowsWhichOptionsAcceptACustomValue) {
   PrinterOption option = mediaSize();
   option.takesCustomValue = true;
   EXPECT_NE(writeOptionList({{"General", "General", {option}}}).find("\n    Custom.WIDTHxHEIGHT\n"),
@@ -39,7 +39,7 @@ TEST(OptionList, SaysWhereAValueCanBeGiven) {
             std::string::npos);
 }
 
-TEST(OptionList, HidesAPasswordThatTheJobHas) {
+TEST(OptionList, HidesAPasswordOfTheJob) {
   PrinterOption option;
   option.keyword = "Secret";
   option.text = "Private Printing";
@@ -58,7 +58,7 @@ TEST(OptionList, HidesAPasswordThatTheJobHas) {
                                                                  "    Custom.VALUE\n");
 }
 
-TEST(OptionList, KeepsATextWithLineBreaksOnItsLine) {
+TEST(OptionList, ShowsANameWithLineBreaksOnOneLine) {
   PrinterOption option = mediaSize();
   option.text = "Media\nDuplex: None";
   option.choices.push_back({"Custom.1\n\x1B[2J", "Custom: 1"});

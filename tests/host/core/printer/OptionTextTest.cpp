@@ -33,7 +33,7 @@ TEST(OptionText, IsOneLineForEachSetting) {
   EXPECT_EQ(writeOptionText(store), "Duplex=None\nLeftRightMargin=-3\n");
 }
 
-TEST(OptionText, IsReadBackByCupsWhateverTheValues) {
+TEST(OptionText, IsReadBackByCupsForAnyValues) {
   const char *const values[] = {"plain",
                                 "",
                                 " ",
@@ -70,7 +70,7 @@ TEST(OptionText, IsReadBackByCupsWhateverTheValues) {
   EXPECT_EQ(writeOptionText(parsedByCups(writeOptionText(all))), writeOptionText(all));
 }
 
-TEST(OptionText, WhatAShellWouldActOnStandsInQuotes) {
+TEST(OptionText, QuotesCharactersThatAShellInterprets) {
   EXPECT_EQ(writeOptionArgument("A", "$(x)"), "A=\"\\$(x)\"");
   EXPECT_EQ(writeOptionArgument("A", "`x`"), "A=\"\\`x\\`\"");
   for (const char *value : {"a;b", "a&b", "a|b", "a>b", "~", "*", "a#b", "!"})
@@ -79,7 +79,7 @@ TEST(OptionText, WhatAShellWouldActOnStandsInQuotes) {
     EXPECT_EQ(writeOptionArgument("A", value), "A=" + std::string(value));
 }
 
-TEST(OptionText, IsKnownAgain) {
+TEST(OptionText, IsRecognised) {
   PrintSettingsStore store;
   EXPECT_TRUE(isOptionText(writeOptionText(store)));
   int number = 0;
@@ -89,14 +89,14 @@ TEST(OptionText, IsKnownAgain) {
   EXPECT_TRUE(isOptionText(writeOptionText(store)));
 }
 
-TEST(OptionText, AnotherTextIsNotTakenForIt) {
+TEST(OptionText, OtherTextIsNotRecognised) {
   for (const char *text :
        {"\n", "a", "a\n", "a=1", "=1\n", "a=\n", "a=\"1\n", "a=\"1\"2\n", "a=1 b=2\n", "a=1\n\n",
         "# a=1\n", "export a=1\n", "a=$x\n", "a=\"\\", "a=1\nb", "a;b=1\n"})
     EXPECT_FALSE(isOptionText(text)) << text;
 }
 
-TEST(OptionText, AnArgumentIsReadAsLpReadsIt) {
+TEST(OptionText, AnArgumentIsReadLikeLpDoes) {
   PrintSettingsStore store;
   readOptionArgument("Duplex=None PageSize=A4 collate nofit-to-page job-name='a b'", store);
   EXPECT_THAT(store.get("Duplex"), StrEq("None"));
@@ -106,13 +106,13 @@ TEST(OptionText, AnArgumentIsReadAsLpReadsIt) {
   EXPECT_THAT(store.get("job-name"), StrEq("a b"));
 }
 
-TEST(OptionText, WhatCanBeNoOptionIsAMistake) {
+TEST(OptionText, AnInvalidOptionIsRefused) {
   for (const char *argument : {"", " ", "=", "=value", "na\xC3\xA4me=1", "Duplex=\xFF"}) {
     SCOPED_TRACE(argument);
     PrintSettingsStore store;
     try {
       readOptionArgument(argument, store);
-      ADD_FAILURE() << "was read";
+      ADD_FAILURE() << "was accepted";
     } catch (const Failure &failure) {
       EXPECT_EQ(failure.code(), ExitCode::Usage);
     }

@@ -32,12 +32,12 @@ std::string marked(const PrinterDescription &printer, const char *option) {
   return choice != nullptr ? choice->choice : "(none)";
 }
 
-TEST(PrinterDescription, NamesThePrinterAsItsDescriptionDoes) {
+TEST(PrinterDescription, HasTheNameFromThePpd) {
   const auto printer = PrinterDescription::fromFile(kSamples + "/duplex-plain.ppd");
   EXPECT_EQ(printer.name(), "Sample Duplex, two-sided");
 }
 
-TEST(PrinterDescription, NamesThePrinterOnOneLineOfUtf8) {
+TEST(PrinterDescription, HasANameOnOneLineOfUtf8) {
   const TemporaryFolder folder;
   const auto printer = PrinterDescription::fromFile(
       folder.write("a.ppd", "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*NickName: \"Sample\n"
@@ -52,7 +52,7 @@ TEST(PrinterDescription, ThePrintersDefaultsAreMarked) {
   EXPECT_EQ(marked(printer, "Unknown"), "(none)");
 }
 
-TEST(PrinterDescription, TheJobsOptionsAreMarkedOverTheDefaults) {
+TEST(PrinterDescription, TheJobsOptionsOverrideTheDefaults) {
   auto printer = PrinterDescription::fromFile(kSamples + "/duplex-shift.ppd");
   PrintSettingsStore job;
   job.set("Duplex", "None");
@@ -74,17 +74,17 @@ TEST(PrinterDescription, AttributesAreListedInTheFilesOrder) {
   EXPECT_THAT(printer.attributeValues("Unknown"), IsEmpty());
 }
 
-TEST(PrinterDescription, AMissingFileIsNamedWithItsReason) {
+TEST(PrinterDescription, AMissingFileIsReportedWithTheReason) {
   const std::string failure = failureOf("/nonexistent/x.ppd");
   EXPECT_THAT(failure, HasSubstr("/nonexistent/x.ppd"));
   EXPECT_THAT(failure, HasSubstr("No such file"));
 }
 
-TEST(PrinterDescription, AFolderIsNoDescription) {
+TEST(PrinterDescription, AFolderIsRefused) {
   EXPECT_THAT(failureOf(kSamples), HasSubstr("directory"));
 }
 
-TEST(PrinterDescription, AFileThatIsNoPpdIsNamedWithItsLine) {
+TEST(PrinterDescription, AFileThatIsNotAPpdIsReportedWithTheLine) {
   TemporaryFolder folder;
   const std::string text = failureOf(folder.write("notes.txt", "Dear diary\n"));
   EXPECT_THAT(text, HasSubstr("notes.txt"));
@@ -96,9 +96,9 @@ TEST(PrinterDescription, AFileThatIsNoPpdIsNamedWithItsLine) {
   EXPECT_THAT(failureOf(IMAGEPOSITION_SAMPLES "/two-sided.pdf"), HasSubstr("line 1"));
 }
 
-TEST(PrinterDescription, ACupsThatIsNotRunningIsNamedWithWhatToDo) {
+TEST(PrinterDescription, AnUnreachableCupsIsReportedWithAdvice) {
   setenv("CUPS_SERVER", "/nonexistent/cups.sock", 1);
-  cupsSetServer(nullptr); // it may have been read before
+  cupsSetServer(nullptr); // libcups may have cached it
   try {
     PrinterDescription::ofQueue("no-such-queue/draft");
     FAIL() << "was opened";

@@ -36,7 +36,7 @@ protected:
   PrinterOptions options{printer, job};
 };
 
-TEST_F(PrinterOptionsTest, EveryOptionStandsInItsGroup) {
+TEST_F(PrinterOptionsTest, EveryOptionIsInItsGroup) {
   EXPECT_THAT(keywords(options.all()),
               ElementsAre("General/PageSize", "General/PageRegion", "Paper and Trays/MediaType",
                           "Paper and Trays/InputSlot", "Finishing/Duplex", "Finishing/Stapler",
@@ -44,14 +44,14 @@ TEST_F(PrinterOptionsTest, EveryOptionStandsInItsGroup) {
                           "What Is Installed/OptionalTray"));
 }
 
-TEST_F(PrinterOptionsTest, ThePaneLeavesOutWhatHasItsPlaceElsewhere) {
+TEST_F(PrinterOptionsTest, ThePaneOmitsOptionsThatAreElsewhere) {
   EXPECT_THAT(keywords(options.listed({"pagesize", "Duplex", "OptionalTray"})),
               ElementsAre("Paper and Trays/MediaType", "Paper and Trays/InputSlot",
                           "Finishing/Stapler", "Finishing/Fold", "Finishing/LeftRightMargin",
                           "Finishing/Watermark"));
 }
 
-TEST_F(PrinterOptionsTest, OptionsAndChoicesHaveTexts) {
+TEST_F(PrinterOptionsTest, OptionsAndChoicesHaveNames) {
   const PrinterOption media = option("MediaType");
   EXPECT_EQ(media.text, "Kind of Paper");
   EXPECT_EQ(media.kind, PrinterOption::Kind::List);
@@ -64,7 +64,7 @@ TEST_F(PrinterOptionsTest, OptionsAndChoicesHaveTexts) {
   EXPECT_FALSE(options.find("Unknown"));
 }
 
-TEST_F(PrinterOptionsTest, AChoiceThatIsEnteredIsListedOnlyWhileItHolds) {
+TEST_F(PrinterOptionsTest, ACustomValueIsListedOnlyWhileItIsChosen) {
   EXPECT_TRUE(option("Watermark").takesCustomValue);
   EXPECT_EQ(option("Watermark").choices.size(), 2U);
   job.set("Watermark", "Custom.Mine");
@@ -76,7 +76,7 @@ TEST_F(PrinterOptionsTest, AChoiceThatIsEnteredIsListedOnlyWhileItHolds) {
   EXPECT_EQ(option("Watermark").choices.size(), 2U);
 }
 
-TEST_F(PrinterOptionsTest, AValueOfOnesOwnCanBeThePrintersDefault) {
+TEST_F(PrinterOptionsTest, ACustomValueCanBeThePrintersDefault) {
   std::string text = imageposition::test::kOptionsPpd;
   const std::string before = "*DefaultWatermark: None";
   ASSERT_NE(text.find(before), std::string::npos);
@@ -88,13 +88,13 @@ TEST_F(PrinterOptionsTest, AValueOfOnesOwnCanBeThePrintersDefault) {
   EXPECT_EQ(watermark.textOf(watermark.chosen), "Custom: Ours");
 }
 
-TEST_F(PrinterOptionsTest, AnEnteredValueIsReadOnOneLine) {
+TEST_F(PrinterOptionsTest, ACustomValueIsShownOnOneLine) {
   job.set("Watermark", "Custom.a\x1B[2Jb");
   EXPECT_EQ(option("Watermark").textOf(option("Watermark").chosen), "Custom: a\\x1b[2Jb");
   EXPECT_EQ(option("Duplex").textOf("un\nknown"), "un\\nknown");
 }
 
-TEST_F(PrinterOptionsTest, AnEntryWithoutItsValueIsNoOtherChoice) {
+TEST_F(PrinterOptionsTest, CustomWithoutAValueIsListedAsAChoice) {
   job.set("Watermark", "Custom");
   const PrinterOption watermark = option("Watermark");
   EXPECT_EQ(watermark.chosen, "Custom");
@@ -118,28 +118,28 @@ TEST_F(PrinterOptionsTest, ChoosingTheDefaultRemovesTheEntry) {
   EXPECT_STREQ(ppdFindMarkedChoice(printer.ppd(), "MediaType")->choice, "Plain");
 }
 
-TEST_F(PrinterOptionsTest, AChangeOfTheJobByOthersIsSeen) {
+TEST_F(PrinterOptionsTest, AnExternalChangeOfTheJobIsSeen) {
   job.set("Stapler", "True");
   EXPECT_EQ(option("Stapler").chosen, "True");
   job.remove("Stapler");
   EXPECT_EQ(option("Stapler").chosen, "False");
 }
 
-TEST_F(PrinterOptionsTest, ALockedOptionStaysAsItIs) {
+TEST_F(PrinterOptionsTest, ALockedOptionIsUnchanged) {
   job.set("Stapler", "True", true);
   EXPECT_TRUE(option("Stapler").isLocked);
   EXPECT_FALSE(options.choose("Stapler", "False"));
   EXPECT_THAT(job.get("Stapler"), StrEq("True"));
 }
 
-TEST_F(PrinterOptionsTest, WhatThePrinterDoesNotHaveIsNotChosen) {
+TEST_F(PrinterOptionsTest, OptionsAndChoicesThatThePrinterLacksAreRefused) {
   EXPECT_FALSE(options.choose("Unknown", "True"));
   EXPECT_FALSE(options.choose("MediaType", "Gold"));
   EXPECT_FALSE(options.choose("MediaType", ""));
   EXPECT_EQ(job.optionCount(), 0);
 }
 
-TEST_F(PrinterOptionsTest, AChoiceReplacesWhatTheJobSaidInOtherWords) {
+TEST_F(PrinterOptionsTest, AChoiceReplacesEquivalentSettingsOfTheJob) {
   job.set("sides", "two-sided-long-edge");
   job.set("media", "A5");
   EXPECT_EQ(option("Duplex").chosen, "DuplexNoTumble");
@@ -151,7 +151,7 @@ TEST_F(PrinterOptionsTest, AChoiceReplacesWhatTheJobSaidInOtherWords) {
   EXPECT_EQ(job.optionCount(), 0);
 }
 
-TEST_F(PrinterOptionsTest, TheTwoSidedOptionIsFoundUnderItsOlderName) {
+TEST_F(PrinterOptionsTest, TheTwoSidedOptionIsFoundUnderOlderNames) {
   ASSERT_TRUE(options.twoSided());
   EXPECT_EQ(options.twoSided()->keyword, "Duplex");
   std::string text = imageposition::test::kOptionsPpd;
@@ -162,7 +162,7 @@ TEST_F(PrinterOptionsTest, TheTwoSidedOptionIsFoundUnderItsOlderName) {
   EXPECT_EQ(PrinterOptions(older, job).twoSided().value_or(PrinterOption()).keyword, "JCLDuplex");
 }
 
-TEST_F(PrinterOptionsTest, TextsAreInThePersonsLanguage) {
+TEST_F(PrinterOptionsTest, NamesAreInTheUsersLanguage) {
   setenv("LANG", "de_DE.UTF-8", 1);
   setenv("LC_ALL", "de_DE.UTF-8", 1);
   PrinterDescription german = optionsPrinter();
@@ -174,7 +174,7 @@ TEST_F(PrinterOptionsTest, TextsAreInThePersonsLanguage) {
   EXPECT_EQ(media.choices[1].text, "Foil") << "not translated";
 }
 
-/// CUPS remembers what it has read of the environment, so that this is a process's own.
+/// Runs in a separate process, because CUPS caches what it reads from the environment.
 [[noreturn]] void exitWithWordsIn(const std::string &language, const std::string &twoSided) {
   speak(language, "/nowhere");
   PrinterDescription printer =
@@ -184,14 +184,14 @@ TEST_F(PrinterOptionsTest, TextsAreInThePersonsLanguage) {
   std::exit(option && option->text == twoSided ? 0 : 1);
 }
 
-TEST(PrinterOptions, SpeakTheProgramsLanguageWhereTheDescriptionHasIt) {
+TEST(PrinterOptions, AreInTheProgramsLanguageIfTheDescriptionHasIt) {
   EXPECT_EXIT(exitWithWordsIn("en", "Two-Sided"), testing::ExitedWithCode(0), "");
   EXPECT_EXIT(exitWithWordsIn("de", "Beidseitig"), testing::ExitedWithCode(0), "");
   EXPECT_EXIT(exitWithWordsIn("zh_CN", "双面"), testing::ExitedWithCode(0), "");
   EXPECT_EXIT(exitWithWordsIn("nl", "Two-Sided"), testing::ExitedWithCode(0), "");
 }
 
-TEST(PrinterOptions, TextsOfADescriptionAreWellFormedAndOnOneLine) {
+TEST(PrinterOptions, NamesAreWellFormedUtf8OnOneLine) {
   auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *LanguageEncoding: UTF-8
 *OpenGroup: Paper/Paper)ppd"
@@ -224,7 +224,7 @@ TEST(PrinterOptions, TextsOfADescriptionAreWellFormedAndOnOneLine) {
   EXPECT_EQ(option.custom->parameters[0].text, "The\\x80\uFFFDname");
 }
 
-/// CUPS marks the first alone.
+/// CUPS marks only the first.
 TEST(PrinterOptions, AnOptionThatTheDescriptionRepeatsIsListedOnce) {
   auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *OpenGroup: One/One
@@ -252,7 +252,7 @@ TEST(PrinterOptions, AnOptionThatTheDescriptionRepeatsIsListedOnce) {
   EXPECT_EQ(count, 1);
 }
 
-TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
+TEST(PrinterOptions, OptionsThatAJobCannotHoldAreNotListed) {
   auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *OpenUI *Finishing/Finishing: PickMany
 *DefaultFinishing: None
@@ -283,7 +283,7 @@ TEST(PrinterOptions, WhatNoJobCanCarryIsNotListed) {
   EXPECT_EQ(listed, "Finishing=None Tray=One Tray=Th,ree ");
 }
 
-TEST(PrinterOptions, AGroupWithoutANameIsGeneral) {
+TEST(PrinterOptions, AGroupWithoutANameIsCalledGeneral) {
   auto printer = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *OpenGroup: /
 *OpenUI *Tray/Tray: PickOne

@@ -28,22 +28,22 @@ protected:
   PrinterDescription printer = optionsPrinter();
 };
 
-TEST_F(ValueCheck, AcceptsAChoiceInAnyCaseAsTheDescriptionSpellsIt) {
+TEST_F(ValueCheck, AcceptsAChoiceInAnyCaseAndReturnsThePpdsSpelling) {
   EXPECT_THAT(accepted("Duplex", "duplextumble"), Optional(std::string("DuplexTumble")));
   EXPECT_FALSE(accepted("Duplex", "Tumble"));
   EXPECT_FALSE(accepted("Duplex", ""));
   EXPECT_FALSE(accepted("Duplex", "Custom.1"));
 }
 
-TEST_F(ValueCheck, AcceptsACustomValueAsItIs) {
+TEST_F(ValueCheck, AcceptsACustomValueUnchanged) {
   for (const char *value : {"Custom.-50", "50", "0"})
     EXPECT_THAT(accepted("LeftRightMargin", value), Optional(std::string(value)));
   for (const char *value : {"Custom.51", "51", "7.5", "Custom.", "Custom", "", "much"})
     EXPECT_FALSE(accepted("LeftRightMargin", value)) << value;
 }
 
-/// A user who enters a value, a preset and a choice are held to the same.
-TEST_F(ValueCheck, AcceptsWhatCanBeChosen) {
+/// Entered values, presets and choices follow the same rules.
+TEST_F(ValueCheck, AcceptsEveryValueThatCanBeChosen) {
   PrintSettingsStore job;
   PrinterOptions options(printer, job);
   for (const char *keyword : {"LeftRightMargin", "Watermark", "PageSize", "Duplex"})
@@ -56,7 +56,7 @@ TEST_F(ValueCheck, AcceptsWhatCanBeChosen) {
     }
 }
 
-TEST_F(ValueCheck, NeitherChangesNorRepeatsAPinThatIsOutOfRange) {
+TEST_F(ValueCheck, NeitherChangesNorShowsAPinThatIsOutOfRange) {
   const PrinterDescription locked = optionsPrinter(R"ppd(*PPD-Adobe: "4.3"
 *OpenUI *UserPin/PIN: PickOne
 *DefaultUserPin: None
@@ -70,7 +70,7 @@ TEST_F(ValueCheck, NeitherChangesNorRepeatsAPinThatIsOutOfRange) {
   EXPECT_THAT(pin.change, AllOf(HasSubstr("PIN"), Not(HasSubstr("12345"))));
 }
 
-TEST_F(ValueCheck, KeepsNamesThatTheDescriptionDoesNotHaveWhereTheyMayBeKnown) {
+TEST_F(ValueCheck, KeepsNamesOfCupsAndPanelsThatThePpdLacks) {
   for (const char *name : {"copies", "com.example.OwnBack"})
     EXPECT_THAT(fitted(name, "1").value, Optional(std::string("1"))) << name;
   EXPECT_FALSE(fitted("Saddle", "On").value);

@@ -9,7 +9,7 @@ namespace {
 using namespace imageposition;
 using imageposition::test::TestPpd;
 
-TEST(Availability, SaysWhichChoiceIsInTheWay) {
+TEST(Availability, NamesTheChoiceThatPreventsIt) {
   const struct {
     const char *duplex; // null: the printer has no such option
     const char *banner;
@@ -23,7 +23,7 @@ TEST(Availability, SaysWhichChoiceIsInTheWay) {
       {nullptr, nullptr, ""},
       {nullptr, "True", "Banner pages are on."},
       {"None", nullptr, "Two-sided printing is off."},
-      {"none", "true", ""}, // the panel compares exactly as well
+      {"none", "true", ""}, // the panel is case-sensitive, too
   };
   for (const auto &row : rows) {
     std::vector<std::string> lines;
@@ -41,7 +41,7 @@ TEST(Availability, SaysWhichChoiceIsInTheWay) {
   }
 }
 
-TEST(Availability, AdvisesAboutWhatIsInTheWayAndNothingElse) {
+TEST(Availability, AdvisesOnlyAboutTheObstacles) {
   EXPECT_EQ(adviceText({true, false}),
             "Two-sided printing is off. Choose it, such as with -o Duplex=DuplexNoTumble.");
   EXPECT_EQ(adviceText({false, true}),
@@ -56,8 +56,6 @@ TEST(Availability, FollowsTheMarkedChoice) {
   EXPECT_FALSE(availabilityOf(ppd).isAvailable());
 }
 
-TEST(Availability, WithoutAPrinterNothingIsInTheWay) {
-  EXPECT_TRUE(availabilityOf(nullptr).isAvailable());
-}
+TEST(Availability, IsGivenWithoutAPrinter) { EXPECT_TRUE(availabilityOf(nullptr).isAvailable()); }
 
 } // namespace

@@ -44,7 +44,7 @@ PrintSettingsStore storeOf(const Settings &settings) {
   return store;
 }
 
-/// 100 by 200 points, printable but for 5, 10, 15 and 20 points at the left, top, right and bottom.
+/// 100 by 200 points, with margins of 5, 10, 15 and 20 points at the left, top, right and bottom.
 PageShape portraitPage() { return {{100}, {200}, {{5}, {10}, {85}, {180}}, true, true}; }
 PageShape landscapePage() { return {{200}, {100}, {{5}, {10}, {185}, {80}}, true, true}; }
 
@@ -96,7 +96,7 @@ TEST(PreviewRequest, ReadsTheOffsetsOfBothSides) {
       {{{kEnable, "False"}, {"LeftRightMargin", "3"}, {"BackLeftRightMargin", "-5"}},
        {{3}, {0}},
        {{3}, {0}}},
-      // The panel takes no other spelling for "True".
+      // The panel accepts no other spelling of "True".
       {{{kEnable, "true"}, {"LeftRightMargin", "3"}, {"BackLeftRightMargin", "-5"}},
        {{3}, {0}},
        {{3}, {0}}},
@@ -115,7 +115,7 @@ TEST(PreviewRequest, ReadsTheOffsetsOfBothSides) {
   }
 }
 
-TEST(PreviewRequest, TakesTheTurningFromTheMarkedChoice) {
+TEST(PreviewRequest, ReadsTheTurningFromTheMarkedChoice) {
   const struct {
     const char *marked;
     Turning expected;
@@ -130,13 +130,13 @@ TEST(PreviewRequest, TakesTheTurningFromTheMarkedChoice) {
   }
 }
 
-TEST(PreviewRequest, WithoutADuplexOptionTheSheetIsTurnedAboutItsLongEdge) {
+TEST(PreviewRequest, AssumesTheLongEdgeWithoutADuplexOption) {
   TestPpd ppd;
   EXPECT_EQ(readPreviewRequest({}, ppd).turning, Turning::LongEdge);
   EXPECT_EQ(readPreviewRequest({}, nullptr).turning, Turning::LongEdge);
 }
 
-TEST(PreviewRequest, TakesThePageFromTheMarkedMedia) {
+TEST(PreviewRequest, ReadsThePageFromTheMarkedMedia) {
   PrinterDescription printer =
       PrinterDescription::fromFile(IMAGEPOSITION_SAMPLES "/duplex-shift.ppd");
   EXPECT_EQ(readPreviewRequest({}, printer.ppd()).page.imageable,
@@ -162,7 +162,7 @@ TEST(PreviewRequest, MeasuresTheImageableAreaFromTheTop) {
   EXPECT_EQ(page.imageable.bottom, Point{742});
 }
 
-TEST(PreviewRequest, AnA4PageStandsInForOneOfUnknownSize) {
+TEST(PreviewRequest, AssumesA4ForAnUnknownSize) {
   TestPpd unmarked;
   ppdPageSize(unmarked, nullptr)->marked = 0;
   TestPpd empty;
@@ -177,7 +177,7 @@ TEST(PreviewRequest, AnA4PageStandsInForOneOfUnknownSize) {
   }
 }
 
-TEST(PreviewRequest, TheWholePageStandsInForASenselessImageableArea) {
+TEST(PreviewRequest, ReplacesAnInvalidImageableAreaByTheWholePage) {
   TestPpd ppd;
   ppd_size_t *const size = ppdPageSize(ppd, nullptr);
   size->left = 400;
@@ -193,7 +193,7 @@ TEST(PreviewRequest, TheWholePageStandsInForASenselessImageableArea) {
   EXPECT_TRUE(std::isfinite(page.imageable.right.count));
 }
 
-TEST(Preview, PositiveMovesRightAndDownAsTheReaderOfTheSideSeesIt) {
+TEST(Preview, PositiveOffsetsShiftRightAndDownForTheReaderOfTheSide) {
   const Preview preview =
       makePreview(requestFor(portraitPage(), {inches(1), -inches(1)}, {-inches(2), inches(2)}));
   EXPECT_THAT(preview.front.content, IsAbout(PageRectangle{{77}, {-62}, {157}, {108}}));
@@ -209,8 +209,8 @@ TEST(Preview, UnshiftedContentFillsTheImageableAreaAndLosesNothing) {
   EXPECT_THAT(preview.backSeenThrough->lost, IsEmpty());
 }
 
-TEST(Preview, AgainstTheLightTheBackIsMirroredAboutTheEdgeOfTurning) {
-  // The margins of the page differ on all sides, so that a wrong mirror cannot look right.
+TEST(Preview, AgainstTheLightTheBackIsMirroredAboutTheTurningEdge) {
+  // All margins differ, so a wrong mirror axis cannot go unnoticed.
   const struct {
     PageShape page;
     Turning turning;
@@ -235,7 +235,7 @@ TEST(Preview, AgainstTheLightTheBackIsMirroredAboutTheEdgeOfTurning) {
   }
 }
 
-TEST(Preview, MirroredTwiceThereIsTheBackAgain) {
+TEST(Preview, MirroringTwiceReturnsTheBack) {
   const Preview once =
       makePreview(requestFor(portraitPage(), {}, {inches(1), inches(1)}, Turning::LongEdge));
   const PageRectangle &seen = once.backSeenThrough->content;
@@ -244,7 +244,7 @@ TEST(Preview, MirroredTwiceThereIsTheBackAgain) {
   EXPECT_DOUBLE_EQ(lostArea(*once.backSeenThrough), lostArea(*once.back));
 }
 
-TEST(Preview, WhatLeavesTheImageableAreaIsLostOnce) {
+TEST(Preview, ContentOutsideTheImageableAreaIsLostOnce) {
   const struct {
     Offset offset;
     std::vector<PageRectangle> lost;
@@ -254,7 +254,7 @@ TEST(Preview, WhatLeavesTheImageableAreaIsLostOnce) {
       {{{0}, inches(1)}, {{{5}, {180}, {85}, {252}}}},
       {{{0}, -inches(1)}, {{{5}, {-62}, {85}, {10}}}},
       {{inches(1), inches(1)}, {{{77}, {180}, {157}, {252}}, {{85}, {82}, {157}, {180}}}},
-      // So far away that nothing is left.
+      // Shifted so far that nothing is left.
       {{inches(2), {0}}, {{{149}, {10}, {229}, {180}}}},
       {{{0}, inches(3)}, {{{5}, {226}, {85}, {396}}}},
   };
@@ -265,7 +265,7 @@ TEST(Preview, WhatLeavesTheImageableAreaIsLostOnce) {
   }
 }
 
-TEST(Preview, OneSidedThereIsNoBack) {
+TEST(Preview, OneSidedPrintingHasNoBack) {
   const Preview preview = makePreview(requestFor(portraitPage(), {}, {}, Turning::OneSided));
   EXPECT_FALSE(preview.back);
   EXPECT_FALSE(preview.backSeenThrough);
@@ -281,7 +281,7 @@ TEST(Preview, NothingIsShiftedWhileTheAdjustmentIsNotAvailable) {
   EXPECT_THAT(describePreview(preview), ElementsAre("Banner pages are on."));
 }
 
-TEST(Preview, DiffersWhenAnythingThatIsDrawnDiffers) {
+TEST(Preview, DiffersIfAnythingToDrawDiffers) {
   const PreviewRequest request = requestFor(portraitPage(), {{1}, {2}}, {{3}, {4}});
   const Preview preview = makePreview(request);
   EXPECT_EQ(preview, makePreview(request));
@@ -297,7 +297,7 @@ TEST(Preview, DiffersWhenAnythingThatIsDrawnDiffers) {
   EXPECT_NE(preview, changed([](PreviewRequest &r) { r.availability.bannerPages = true; }));
 }
 
-TEST(PreviewSentences, SayWhereEachSideGoes) {
+TEST(PreviewSentences, DescribeTheShiftOfEachSide) {
   const struct {
     Offset front;
     Offset back;
@@ -336,12 +336,12 @@ TEST(PreviewSentences, SayWhereEachSideGoes) {
         row.expected);
 }
 
-TEST(PreviewSentences, MoreThanThePageHasCannotBeLost) {
+TEST(PreviewSentences, LossesAreLimitedToTheContent) {
   const Preview preview = makePreview(requestFor(portraitPage(), {inches(100), {0}}, {}));
   EXPECT_THAT(describePreview(preview), Contains(HasSubstr("loses 28.2 mm at the right")));
 }
 
-TEST(PreviewSentences, SayWhatThePrinterDoesNot) {
+TEST(PreviewSentences, MentionWhatThePpdLacks) {
   EXPECT_THAT(describePreview(makePreview({}, nullptr)), Contains(HasSubstr("A4")));
   TestPpd ppd;
   EXPECT_THAT(describePreview(makePreview({}, ppd)), Not(Contains(HasSubstr("A4"))));
@@ -349,7 +349,7 @@ TEST(PreviewSentences, SayWhatThePrinterDoesNot) {
   EXPECT_THAT(describePreview(makePreview({}, ppd)), Contains(HasSubstr("whole page")));
 }
 
-TEST(PreviewSentences, SayWhyThereIsNoBack) {
+TEST(PreviewSentences, ExplainWhyThereIsNoBack) {
   TestPpd ppd(TestPpd::option("Duplex", {"None", "DuplexTumble"}));
   EXPECT_THAT(describePreview(makePreview(storeOf({{"LeftRightMargin", "5"}}), ppd)),
               ElementsAre("Two-sided printing is off."));

@@ -82,7 +82,7 @@ TEST(PreviewLayout, TheScaleOfTheGridGrowsInFewSteps) {
   }
 }
 
-TEST(PreviewLayout, EveryMarkLiesInTheGrid) {
+TEST(PreviewLayout, EveryMarkIsInTheGrid) {
   for (const std::int64_t offset : {0, 1, 10, 11, 50, 100, 200, 2147483647})
     for (const std::int64_t sign : {-1, 1}) {
       const PreviewLayout layout =
@@ -92,7 +92,7 @@ TEST(PreviewLayout, EveryMarkLiesInTheGrid) {
     }
 }
 
-TEST(PreviewLayout, MarksAreMovedBySquares) {
+TEST(PreviewLayout, MarksAreShiftedBySquares) {
   const PreviewLayout layout = layoutOf(previewOf({{20}, {-10}}, {}));
   ASSERT_EQ(layout.squareLength.count, 10);
   const Pixel centre = layout.gridCentre();
@@ -101,7 +101,7 @@ TEST(PreviewLayout, MarksAreMovedBySquares) {
   EXPECT_DOUBLE_EQ(mark.y - centre.y, -layout.squarePixels);
 }
 
-TEST(PreviewLayout, NumbersOnTheAxesStayApartHoweverSmallTheSquares) {
+TEST(PreviewLayout, NumbersOnTheAxesStayApartWithSmallSquares) {
   for (const double height : {130.0, 200.0, 288.0, 364.0}) {
     const PreviewLayout layout = layOutPreview(previewOf({{5}, {5}}, {}), {338, height, 13});
     for (const double width : {4.0, 16.0, 25.0}) {
@@ -112,7 +112,7 @@ TEST(PreviewLayout, NumbersOnTheAxesStayApartHoweverSmallTheSquares) {
   }
 }
 
-TEST(PreviewLayout, ATinyPictureHasNoPlacesOfNegativeSize) {
+TEST(PreviewLayout, ATinyPictureHasNoAreaOfNegativeSize) {
   for (const double side : {0.0, 1.0, 20.0, 60.0, 120.0}) {
     const PreviewLayout layout = layOutPreview(previewOf({{5}, {5}}, {}), {side, side, 13});
     EXPECT_GE(layout.squarePixels, 0);

@@ -17,15 +17,15 @@ protected:
   const std::string shift = sample("duplex-shift.ppd");
 };
 
-TEST_F(Batch, WhatIsTypedArrivesInTheJobsSettings) {
+TEST_F(Batch, EntriesReachTheJobsSettings) {
   const auto result = batch(shift, {"--set", "FrontLRM=-3", "--back", "on", "--summary"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_EQ(settingsIn(result.output), offsets("-3", "0", "0", "0", "True"));
   EXPECT_THAT(result.errors, IsEmpty());
 }
 
-/// As a person can, who has the printer and not yet the panel.
-TEST_F(Batch, WhatWasEnteredAsThePrintersOwnOptionReachesThePanel) {
+/// For example with lp, before the panel was installed.
+TEST_F(Batch, ACustomValueOfThePrintersOptionReachesThePanel) {
   const auto result = batch(
       shift, {"-o", "LeftRightMargin=Custom.7", "-o", "TopBottomMargin=Custom.x", "--summary"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
@@ -46,7 +46,7 @@ TEST_F(Batch, TheSummaryListsThePanelsValuesInItsOrder) {
       << testing::PrintToString(result);
 }
 
-TEST_F(Batch, EveryCombinationOfSideSignAndRangeEndArrives) {
+TEST_F(Batch, EveryCombinationOfSideSignAndRangeEndReachesTheJob) {
   for (const char *back : {"on", "off"}) {
     for (const char *value : {"-100", "-1", "0", "1", "100"}) {
       SCOPED_TRACE(std::string(back) + " " + value);
@@ -66,7 +66,7 @@ TEST_F(Batch, EveryCombinationOfSideSignAndRangeEndArrives) {
 }
 
 // Key by key: the second minus of "--4" makes a zero, which the 4 then follows.
-TEST_F(Batch, TextIsFilteredAsTypedKeysAre) {
+TEST_F(Batch, EntriesAreFilteredLikeTypedKeys) {
   const struct {
     const char *typed;
     const char *becomes;
@@ -92,14 +92,14 @@ TEST_F(Batch, TextIsFilteredAsTypedKeysAre) {
   }
 }
 
-TEST_F(Batch, APrinterWithANarrowRangeGetsNoMore) {
+TEST_F(Batch, ANarrowRangeIsEnforced) {
   const auto result =
       batch(sample("duplex-shift-narrow.ppd"), {"--set", "FrontLRM=-51", "--set", "FrontTBM=50"});
   EXPECT_EQ(settingsIn(result.output), offsets("-50", "50", "0", "0", "False"));
   EXPECT_THAT(result.errors, HasSubstr("\"-50\" of \"-51\""));
 }
 
-TEST_F(Batch, APrinterWithAWideRangeAndBackSideDefaultsStartsThere) {
+TEST_F(Batch, TheDefaultsOfAPrinterWithAWideRangeAreUsed) {
   const auto result = batch(sample("duplex-shift-wide.ppd"), {"--set", "FrontLRM=200"});
   const auto settings = settingsIn(result.output);
   EXPECT_THAT(settings, Contains(Pair("LeftRightMargin", "200")));
@@ -116,7 +116,7 @@ TEST_F(Batch, APrinterThatCannotShiftHasNoPanelAndNothingIsWritten) {
   EXPECT_EQ(folder.fileCount(), 0U);
 }
 
-TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreOffToo) {
+TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreDisabled) {
   const struct {
     const char *off;
     const char *reason;
@@ -144,19 +144,19 @@ TEST_F(Batch, TheBackSidesFieldsNeedTheCheckbox) {
   EXPECT_EQ(batch(shift, {"--set", "BackLRM=1", "--back", "on"}).status, kDone);
 }
 
-TEST_F(Batch, AnUnknownFieldIsAnsweredWithTheKnownOnes) {
+TEST_F(Batch, TheErrorForAnUnknownFieldListsTheKnownOnes) {
   const auto result = batch(shift, {"--set", "Nothing=1"});
   EXPECT_EQ(result.status, kValue);
   EXPECT_THAT(result.errors, HasSubstr("FrontLRMText, FrontTBMText, BackLRMText, BackTBMText"));
 }
 
-TEST_F(Batch, ABeginningThatFitsSeveralFieldsIsRefused) {
+TEST_F(Batch, AnAmbiguousFieldNameIsRefused) {
   const auto result = batch(shift, {"--set", "Front=1"});
   EXPECT_EQ(result.status, kValue);
   EXPECT_THAT(result.errors, HasSubstr("FrontLRMText, FrontTBMText"));
 }
 
-TEST_F(Batch, OptionsGoIntoTheJobAndToThePanel) {
+TEST_F(Batch, OptionsReachTheJobAndThePanel) {
   const auto result = batch(shift, {"-o", "LeftRightMargin=-7 MediaType=Heavy"});
   const auto settings = settingsIn(result.output);
   EXPECT_THAT(settings, Contains(Pair("LeftRightMargin", "-7")));
@@ -170,7 +170,7 @@ TEST_F(Batch, ATicketIsWrittenInBothFormsAndReadAgain) {
   EXPECT_THAT(result.output, IsEmpty());
   EXPECT_EQ(settingsIn(contentOf(folder.path("job.options"))),
             offsets("-3", "0", "0", "0", "True"));
-  // An enable flag that is stored outlives a job in which nobody touches the checkbox.
+  // A stored enable flag survives a job that does not change the checkbox.
   result = batch(shift, {"--ticket", ticket, "--set", "BackTBM=4"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_EQ(settingsIn(contentOf(folder.path("job.options"))),
@@ -186,7 +186,7 @@ TEST_F(Batch, ALockedSettingKeepsItsValueAndThePanelShowsIt) {
   EXPECT_THAT(result.errors, HasSubstr("\"7\" of \"1\""));
 }
 
-TEST_F(Batch, StoredValuesThatAreNoNumbersAreRead) {
+TEST_F(Batch, StoredValuesThatAreNotNumbersAreRead) {
   const struct {
     const char *stored;
     const char *becomes;
@@ -206,7 +206,7 @@ TEST_F(Batch, ADocumentIsNamedInTheTicket) {
   EXPECT_EQ(batch(shift, {folder.path("missing.pdf")}).status, kUsage);
 }
 
-TEST_F(Batch, SeveralDocumentsAreNamedInTheTicketAndEachIsLookedAt) {
+TEST_F(Batch, SeveralDocumentsAreCheckedAndNamedInTheTicket) {
   const std::string first = sample("two-sided.pdf"), second = folder.write("a.txt", "text");
   const auto result = batch(shift, {"-s", "--ticket", folder.path("job.json"), first, second});
   EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
@@ -215,8 +215,8 @@ TEST_F(Batch, SeveralDocumentsAreNamedInTheTicketAndEachIsLookedAt) {
   EXPECT_EQ(batch(shift, {first, folder.path("missing.pdf")}).status, kUsage);
 }
 
-// It takes no room on the disk.
-TEST_F(Batch, ADocumentOfFiveGigabytesIsTaken) {
+// The file is sparse.
+TEST_F(Batch, ADocumentOfFiveGigabytesIsAccepted) {
   const std::string large = folder.write("large.pdf", "%PDF");
   std::filesystem::resize_file(large, 0x140000000);
   const auto result = batch(shift, {"--ticket", folder.path("job.json"), large});
@@ -224,7 +224,7 @@ TEST_F(Batch, ADocumentOfFiveGigabytesIsTaken) {
   EXPECT_THAT(contentOf(folder.path("job.json")), HasSubstr("large.pdf"));
 }
 
-TEST_F(Batch, EachKindOfTroubleHasItsStatus) {
+TEST_F(Batch, EachKindOfErrorHasAnExitStatus) {
   EXPECT_EQ(dialog({"--nonsense"}).status, kUsage);
   EXPECT_EQ(batch(sample("two-sided.pdf"), {}).status, kPrinter);
   EXPECT_EQ(batch(shift, {"--plugin", folder.path("none.plugin")}).status, kPlugin);
@@ -232,42 +232,42 @@ TEST_F(Batch, EachKindOfTroubleHasItsStatus) {
   EXPECT_EQ(batch(shift, {"--ticket", folder.write("bad.json", "{")}).status, kTicket);
 }
 
-TEST_F(Batch, AnArgumentThatIsNoTextIsNamed) {
+TEST_F(Batch, AnArgumentThatIsNotUtf8IsReported) {
   const auto result = batch(shift, {"--ticket", folder.path("job\xFF.json")});
   EXPECT_EQ(result.status, kUsage);
   EXPECT_THAT(result.errors, HasSubstr("job\xEF\xBF\xBD.json\" is not UTF-8"));
 }
 
-TEST_F(Batch, AVariableThatIsNoTextDoesNoHarm) {
+TEST_F(Batch, AVariableThatIsNotUtf8IsHarmless) {
   const auto result = batch(shift, {"--set", "FrontLRM=-3"}, {"OLDPWD=/tmp/caf\xE9"});
   EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_THAT(settingsIn(result.output), Contains(Pair("LeftRightMargin", "-3")));
 }
 
-TEST_F(Batch, AFolderIsNoDocument) {
+TEST_F(Batch, AFolderIsRefusedAsADocument) {
   const auto result = batch(shift, {folder.path()});
   EXPECT_EQ(result.status, kUsage);
   EXPECT_THAT(result.errors, HasSubstr("directory"));
 }
 
-TEST_F(Batch, SettingsThatReachNobodyAreAFailure) {
+TEST_F(Batch, UnwritableSettingsAreAFailure) {
   const auto result = runProcess(
       {"/bin/sh", "-c", "exec \"$0\" --batch --ppd \"$1\" >/dev/full", PRINT_DIALOG, shift});
   EXPECT_EQ(result.status, kTicket);
   EXPECT_THAT(result.errors, HasSubstr("--ticket"));
 }
 
-TEST_F(Batch, WithoutADisplayAPrivateOneIsStartedAndEnded) {
+TEST_F(Batch, WithoutADisplayAPrivateOneIsStartedAndStopped) {
   const auto result = batch(shift, {"--set", "FrontLRM=-3"}, {"DISPLAY"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_THAT(settingsIn(result.output), Contains(Pair("LeftRightMargin", "-3")));
   EXPECT_THAT(result.errors, IsEmpty());
 }
 
-/// An Xvfb that leaves a trace, and never a display.
-class FalseXvfb : public Batch {
+/// A fake Xvfb that creates a file and never starts a display.
+class FakeXvfb : public Batch {
 protected:
-  FalseXvfb() {
+  FakeXvfb() {
     const std::string file =
         folder.write("Xvfb", "#!/bin/sh\ntouch \"${0%/*}/trace\"\necho '(EE) no keymap' >&2\n");
     chmod(file.c_str(), 0755);
@@ -281,7 +281,7 @@ protected:
   bool hasRun() const { return std::filesystem::exists(folder.path("trace")); }
 };
 
-TEST_F(FalseXvfb, OfTheCurrentFolderIsNotRun) {
+TEST_F(FakeXvfb, InTheCurrentFolderIsNotRun) {
   for (const char *path : {".:/usr/bin:/bin", ":/usr/bin:/bin", "../tmp/.:./.:/usr/bin"}) {
     const auto result = batchWithPath(path);
     EXPECT_EQ(result.status, kDone) << path << testing::PrintToString(result);
@@ -289,21 +289,21 @@ TEST_F(FalseXvfb, OfTheCurrentFolderIsNotRun) {
   }
 }
 
-TEST_F(FalseXvfb, OfAFolderThatOthersMayWriteToIsNotRun) {
+TEST_F(FakeXvfb, InAFolderThatOthersCanWriteToIsNotRun) {
   chmod(folder.path().c_str(), 0777);
   const auto result = batchWithPath(folder.path() + ":/usr/bin:/bin");
   EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_FALSE(hasRun());
 }
 
-TEST_F(FalseXvfb, SaysItselfWhyItFails) {
+TEST_F(FakeXvfb, IsQuotedWhenItFails) {
   const auto result = batchWithPath(folder.path() + ":/usr/bin:/bin");
   EXPECT_EQ(result.status, kDisplay) << testing::PrintToString(result);
   EXPECT_TRUE(hasRun());
   EXPECT_THAT(result.errors, HasSubstr("(EE) no keymap"));
 }
 
-TEST_F(Batch, NoDaemonIsStartedThatOutlivesIt) {
+TEST_F(Batch, NoDaemonOutlivesTheProgram) {
   const std::string listCompanions =
       "for folder in /proc/[0-9]*; do grep -qzxF"
       " \"IMAGEPOSITION_PRIVATE_USER=$IMAGEPOSITION_PRIVATE_USER\" $folder/environ && "
@@ -317,7 +317,7 @@ TEST_F(Batch, NoDaemonIsStartedThatOutlivesIt) {
   EXPECT_THAT(result.output, testing::Not(HasSubstr("gpbs")));
 }
 
-TEST_F(Batch, WhereNoDisplayCanBeStartedItSaysWhatToDo) {
+TEST_F(Batch, AMissingDisplayIsReportedWithAdvice) {
   auto result = batch(shift, {}, {"DISPLAY", "PATH=/nonexistent"});
   EXPECT_EQ(result.status, kDisplay);
   EXPECT_THAT(result.errors, HasSubstr("install Xvfb"));
@@ -329,7 +329,7 @@ TEST_F(Batch, WhereNoDisplayCanBeStartedItSaysWhatToDo) {
   EXPECT_THAT(result.errors, HasSubstr(":4711"));
 }
 
-TEST_F(Batch, ThePanelSpeaksThePersonsLanguage) {
+TEST_F(Batch, ThePanelIsInTheUsersLanguage) {
   const PlatformDefaults defaults("NSLanguages = (de);");
   const auto result = batch(shift, {"--summary"});
   EXPECT_EQ(result.status, kDone);

@@ -1,5 +1,5 @@
-// Printer descriptions that others wrote, as Debian packages them, with and without the attribute
-// that asks for the panel.
+// Third-party printer descriptions, from Debian packages, with and without the attribute that
+// enables the panel.
 #include "DialogFixture.hpp"
 
 #include <cups/ppd.h>
@@ -39,7 +39,7 @@ std::vector<ForeignPrinter> filesIn(const std::string &folder) {
   return printers;
 }
 
-/// Evenly spread over the archive, so that many makers and drivers are among them.
+/// Evenly spread over the archive, to include many makers and drivers.
 std::vector<ForeignPrinter> fromArchive() {
   const TemporaryFolder folder;
   runProcess({"python3", UNPACK_PPDS, kArchive, folder.path("ppds"), kFromArchive});
@@ -48,7 +48,7 @@ std::vector<ForeignPrinter> fromArchive() {
 
 struct BatchOnPrinter {
   std::string name;
-  std::string ppd; ///< Its text.
+  std::string ppd; ///< The content of the PPD.
   std::vector<std::string> words;
 };
 
@@ -65,12 +65,12 @@ protected:
            "foomatic-db-compressed-ppds";
   }
 
-  /// Without an attribute of that name already there, which would come first.
+  /// Removes an existing attribute of that name, which would take precedence.
   static std::string supporting(const ForeignPrinter &printer) {
     return printer.text + "\n*AdjustDuplexPositionSupport: \"true\"\n";
   }
 
-  /// The option that turns two-sided printing on; none when the printer does not have it.
+  /// The option that turns two-sided printing on; none if the printer lacks it.
   static Words turningTwoSidedOn(const std::string &path) {
     Words words;
     ppd_file_t *const ppd = ppdOpenFile(path.c_str());
@@ -83,7 +83,7 @@ protected:
     return words;
   }
 
-  /// Two at a time; `check` sees each one's result, in their order.
+  /// Runs two at a time. Calls `check` with each result, in order.
   template <typename Check>
   void batchOnEach(const std::vector<BatchOnPrinter> &runs, Check &&check) const {
     std::deque<std::unique_ptr<Process>> running;
@@ -119,7 +119,7 @@ TEST_F(ForeignPrinters, WithoutTheAttributeThereIsNoPanel) {
   });
 }
 
-TEST_F(ForeignPrinters, WithTheAttributeTheValuesArrive) {
+TEST_F(ForeignPrinters, WithTheAttributeTheValuesReachTheJob) {
   std::vector<BatchOnPrinter> runs;
   for (const ForeignPrinter &printer : printers) {
     Words words{"--set", "FrontLRM=-3", "--set", "BackTBM=12", "--back", "on"};
@@ -137,18 +137,18 @@ TEST_F(ForeignPrinters, WithTheAttributeTheValuesArrive) {
   });
 }
 
-/// A job's settings, and what CUPS says of them on a printer.
+/// A job's settings, and CUPS's view of them on a printer.
 struct DrawnJob {
   std::vector<std::string> words;
-  std::set<std::string> lines; ///< Of each option and choice that there is.
+  std::set<std::string> lines; ///< One for each option and choice.
   bool conflicts = false;
 };
 
-/// What a value of one's own looks like.
+/// The form of a custom value.
 std::string enteredForm(ppd_coption_t &option) {
   if (option.keyword == std::string("PageSize"))
     return "Custom.WIDTHxHEIGHT";
-  std::multimap<int, std::string> parts; // by their place in the driver's own code
+  std::multimap<int, std::string> parts; // by their order in the driver's code
   for (ppd_cparam_t *part = ppdFirstCustomParam(&option); part; part = ppdNextCustomParam(&option))
     parts.emplace(part->order, part->name);
   if (parts.size() < 2)
@@ -159,8 +159,7 @@ std::string enteredForm(ppd_coption_t &option) {
   return "{" + form.substr(1) + "}";
 }
 
-/// A choice of each option, and both sides of a constraint where there is one, drawn with the same
-/// luck every time.
+/// A random choice of each option, and both sides of a constraint if there is one. Reproducible.
 DrawnJob drawJob(const std::string &path, std::mt19937 &random) {
   DrawnJob job;
   ppd_file_t *const ppd = ppdOpenFile(path.c_str());

@@ -1,4 +1,4 @@
-// What other users of the computer try to get their code into the program.
+// Attempts by other users of the computer to get their code into the program.
 #include "OtherUsersFixture.hpp"
 #include "PluginFixture.hpp"
 
@@ -13,7 +13,7 @@ using testing::StrEq;
 
 namespace fs = std::filesystem;
 
-/// The folder that programs are run in, while the object lives.
+/// Changes the current folder during its lifetime.
 class WorkingFolder {
 public:
   explicit WorkingFolder(const std::string &path) { fs::current_path(path); }
@@ -29,7 +29,7 @@ class OtherUsers : public PluginFixture {
 protected:
   void SetUp() override { chmod(folder.path().c_str(), 0755); }
 
-  /// A folder in which everybody may write.
+  /// A world-writable folder.
   std::string openFolder(const std::string &name = "open", mode_t mode = 0777) const {
     fs::create_directories(folder.path(name));
     chmod(folder.path(name).c_str(), mode);
@@ -54,7 +54,7 @@ protected:
 };
 
 TEST_F(OtherUsers, CannotReplaceAPluginsCodeThroughTheUsersOwnGroup) {
-  // The group has no other members, and yet is the group of another account.
+  // The group has no other members, but is also another account's group.
   const std::string accounts = folder.write("passwd", "root:x:0:0::/:/bin/sh\n"
                                                       "victim:x:12345:12345::/:/bin/sh\n"
                                                       "other:x:12346:12345::/:/bin/sh\n");
@@ -103,13 +103,13 @@ TEST_F(OtherUsers, CannotPutLibrariesWhereAPluginsCodeLooksForThem) {
   }
 }
 
-TEST_F(OtherUsers, CannotMakeAFolderThatAPluginsCodeLooksInBeforeItIsThere) {
+TEST_F(OtherUsers, CannotCreateAMissingFolderOfAPluginsRunPath) {
   const std::string missing = openFolder("open", 01777) + "/later/libs";
   const std::string bundle = linked("Copy.plugin", {"-Wl,-rpath," + missing});
   expectNamed(bundle, bundle + "/Fixture", missing);
 }
 
-TEST_F(OtherUsers, CannotPutLibrariesIntoTheFolderThatTheProgramIsRunIn) {
+TEST_F(OtherUsers, CannotPutLibrariesIntoTheCurrentFolder) {
   const WorkingFolder open(openFolder());
   buildLibrary("libneeded.so", "theirs", {"-Wl,-soname,libneeded.so"});
   for (const std::string path : {".", "libs/..", ":/usr/lib", "/usr/lib:"}) {
@@ -118,19 +118,19 @@ TEST_F(OtherUsers, CannotPutLibrariesIntoTheFolderThatTheProgramIsRunIn) {
     expectUnheard(load(bundle), bundle + "/Fixture");
     fs::remove_all(bundle);
   }
-  buildLibrary("libneeded.so", "theirs", {}); // without a name of its own it keeps the linker's
+  buildLibrary("libneeded.so", "theirs", {}); // without a soname, the linker records the path
   const std::string bundle = linked("Copy.plugin", {"./libneeded.so"});
   expectNamed(bundle, bundle + "/Fixture", "./libneeded.so");
 }
 
 TEST_F(OtherUsers, CannotReplaceALibraryThatIsNamedByItsPath) {
   const std::string open = openFolder();
-  buildLibrary(open + "/libneeded.so", "theirs", {}); // without a name of its own
+  buildLibrary(open + "/libneeded.so", "theirs", {}); // without a soname
   const std::string bundle = linked("Copy.plugin", {open + "/libneeded.so"});
   expectNamed(bundle, bundle + "/Fixture", open + "/libneeded.so");
 }
 
-TEST_F(OtherUsers, CannotReplaceWhatALibraryOfThePluginNeeds) {
+TEST_F(OtherUsers, CannotReplaceTheDependenciesOfAPluginsLibrary) {
   const std::string open = openFolder();
   buildLibrary(open + "/libdeep.so", "theirs", {"-Wl,-soname,libdeep.so"});
   fs::create_directory(folder.path("libs"));
@@ -143,7 +143,7 @@ TEST_F(OtherUsers, CannotReplaceWhatALibraryOfThePluginNeeds) {
   expectNamed(bundle, middle, open);
 }
 
-TEST_F(OtherUsers, CannotReplaceWhatALibraryIsAFilterFor) {
+TEST_F(OtherUsers, CannotReplaceTheTargetOfAFilterLibrary) {
   const std::string open = openFolder();
   buildLibrary(open + "/libneeded.so", "theirs", {});
   for (const std::string option : {"-Wl,--filter=", "-Wl,--auxiliary="}) {
@@ -154,9 +154,9 @@ TEST_F(OtherUsers, CannotReplaceWhatALibraryIsAFilterFor) {
   }
 }
 
-TEST_F(OtherUsers, CannotOwnALibraryOfThePlugin) {
+TEST_F(OtherUsers, CannotOwnAPluginsLibrary) {
   if (geteuid() != 0)
-    return; // nobody else can give a file away
+    return; // only root can change the owner of a file
   fs::create_directory(folder.path("libs"));
   const std::string needed = folder.path("libs/libneeded.so");
   buildLibrary(needed, "theirs", {"-Wl,-soname,libneeded.so"});
@@ -165,7 +165,7 @@ TEST_F(OtherUsers, CannotOwnALibraryOfThePlugin) {
   expectNamed(bundle, bundle + "/Fixture", needed);
 }
 
-TEST_F(OtherUsers, AreNoReasonToRefuseLibrariesOfTheOwnersFolders) {
+TEST_F(OtherUsers, DoNotMatterForLibrariesInTheOwnersFolders) {
   const std::string bundle = copy();
   fs::remove(bundle + "/Fixture");
   buildLibrary(bundle + "/libneeded.so", "ours", {"-Wl,-soname,libneeded.so"});
@@ -175,9 +175,9 @@ TEST_F(OtherUsers, AreNoReasonToRefuseLibrariesOfTheOwnersFolders) {
   EXPECT_THAT(contentOf(journal), StrEq("ours\nthe plug-in\n"));
 }
 
-TEST_F(OtherUsers, CannotTurnALinkInsideThePluginElsewhere) {
+TEST_F(OtherUsers, CannotRedirectALinkInsideThePlugin) {
   if (geteuid() != 0)
-    return; // nobody else can give a link away
+    return; // only root can change the owner of a link
   const std::string bundle = copy();
   const std::string open = openFolder("open", 01777);
   fs::rename(bundle + "/Resources", folder.path("resources"));
@@ -187,7 +187,7 @@ TEST_F(OtherUsers, CannotTurnALinkInsideThePluginElsewhere) {
   expectUnheard(load(bundle), "\"" + open + "/link\" belongs to another user");
 }
 
-TEST_F(OtherUsers, CannotHideInAFolderThatIsNotListed) {
+TEST_F(OtherUsers, CannotHideInAnUnreadableFolder) {
   const std::string bundle = copy();
   chmod((bundle + "/Resources/Info-gnustep.plist").c_str(), 0666);
   chmod((bundle + "/Resources").c_str(), 0311);

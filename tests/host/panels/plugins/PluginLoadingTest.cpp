@@ -1,4 +1,4 @@
-// What print-dialog does with plug-ins that are broken in every way.
+// How print-dialog handles plug-ins that are broken in various ways.
 #include "PluginFixture.hpp"
 
 namespace {
@@ -16,7 +16,7 @@ protected:
   }
 };
 
-TEST_F(PluginLoading, APanelIsDrivenInTheOrderThatPanelsExpect) {
+TEST_F(PluginLoading, APanelsMethodsAreCalledInTheDocumentedOrder) {
   const auto result = behave("", {"--set", "Number=5", "--back", "on"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_EQ(contentOf(journal), "initWithBundle:\n"
@@ -33,27 +33,27 @@ TEST_F(PluginLoading, APanelIsDrivenInTheOrderThatPanelsExpect) {
                                 "summaryInfo\n");
 }
 
-TEST_F(PluginLoading, ASummaryKeepsItsOrderAndWhatTheOrderForgot) {
+TEST_F(PluginLoading, ASummaryKeepsItsOrderAndAppendsUnorderedItems) {
   const auto result = behave("", {"--summary"});
   EXPECT_THAT(result.output, HasSubstr("Fixture Panel\n  First: 1\n  Second: 2\n  Forgotten: 3\n"));
 }
 
-TEST_F(PluginLoading, AFieldsWholeNameIsPreferredToABeginning) {
+TEST_F(PluginLoading, AFieldsFullNameIsPreferredToAPrefix) {
   EXPECT_EQ(behave("", {"--set", "Number=5"}).status, kDone);
   EXPECT_EQ(behave("", {"--set", "Num=5"}).status, kValue);
 }
 
-TEST_F(PluginLoading, APanelWithoutANameIsCalledByItsKind) {
+TEST_F(PluginLoading, APanelWithoutANameIsShownByItsKind) {
   EXPECT_THAT(behave("no name", {"--summary"}).output, HasSubstr("fixture.kind\n"));
 }
 
-TEST_F(PluginLoading, WrongTypesCountAsNothing) {
+TEST_F(PluginLoading, ValuesOfWrongTypesAreIgnored) {
   const auto result = behave("wrong types", {"--summary"});
   EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_THAT(result.output, HasSubstr("Not available"));
 }
 
-TEST_F(PluginLoading, APanelThatDoesNotSaveStopsTheJobInItsOwnWords) {
+TEST_F(PluginLoading, APanelThatCannotSaveStopsTheJobWithItsMessage) {
   const auto result = behave("say no to save");
   EXPECT_EQ(result.status, kPlugin) << testing::PrintToString(result);
   EXPECT_THAT(result.errors, HasSubstr("\"Fixture Panel\""));
@@ -62,14 +62,14 @@ TEST_F(PluginLoading, APanelThatDoesNotSaveStopsTheJobInItsOwnWords) {
   EXPECT_FALSE(fs::exists(folder.path("job.json")));
 }
 
-TEST_F(PluginLoading, APanelThatDoesNotSaveWithoutAWordIsNamed) {
+TEST_F(PluginLoading, APanelThatCannotSaveWithoutAMessageIsNamed) {
   const auto result = behave("say no without a word to save");
   EXPECT_EQ(result.status, kPlugin) << testing::PrintToString(result);
   EXPECT_THAT(result.errors, HasSubstr("\"Fixture Panel\" could not add its settings"));
   EXPECT_FALSE(fs::exists(folder.path("job.json")));
 }
 
-TEST_F(PluginLoading, WhateverIsRaisedLeavesThePluginOutWithItsOperationNamed) {
+TEST_F(PluginLoading, AnExceptionDisablesThePluginAndNamesTheOperation) {
   for (const char *operation : {"initWithBundle:", "PDEPanelsForType:withHostInfo:", "panelKind",
                                 "panelName", "supportedPPDOptionKeys", "panelView", "willShow",
                                 "shouldPrint", "saveValuesAndReturnError:", "summaryInfo"}) {
@@ -82,17 +82,17 @@ TEST_F(PluginLoading, WhateverIsRaisedLeavesThePluginOutWithItsOperationNamed) {
   }
 }
 
-TEST_F(PluginLoading, WhatAButtonsActionRaisesLeavesThePluginOut) {
+TEST_F(PluginLoading, AnExceptionInAButtonsActionDisablesThePlugin) {
   expectLeftOut(behave("raise action", {"--back", "on"}), "raised on demand");
 }
 
-// The platform's own notifications carry the end of editing, and swallow what is raised there.
-TEST_F(PluginLoading, WhatAnEntryFieldsActionRaisesDoesNoHarm) {
+// GNUstep posts the end of editing as a notification and catches exceptions there.
+TEST_F(PluginLoading, AnExceptionInAnEntryFieldsActionIsHarmless) {
   const auto result = behave("raise action", {"--set", "Number=5"});
   EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
 }
 
-TEST_F(PluginLoading, EachAnswerThatIsNoPanelIsNamed) {
+TEST_F(PluginLoading, EachResultThatIsNotAPanelIsReported) {
   expectLeftOut(behave("refuse"), "was not loaded");
   expectLeftOut(behave("no array"), "could not be loaded");
   expectLeftOut(behave("stranger"), "lacks \"panelView\"");
@@ -110,7 +110,7 @@ TEST_F(PluginLoading, APanelThatRefusesTheJobStopsIt) {
   EXPECT_FALSE(fs::exists(folder.path("job.json")));
 }
 
-TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
+TEST_F(PluginLoading, EachFailingStepIsReported) {
   expectLeftOut(load(folder.path("none.plugin"), ""), "does not exist");
   expectLeftOut(load(folder.write("file.plugin", "text"), ""), "not a bundle with code");
   fs::create_directory(folder.path("empty.plugin"));
@@ -152,8 +152,8 @@ TEST_F(PluginLoading, EachStepThatFailsIsNamed) {
   expectLeftOut(load(garbled, ""), "");
 }
 
-// A description comes from a server.
-TEST_F(PluginLoading, NoDescriptionBringsCodeFromAnywhere) {
+// A PPD comes from a server.
+TEST_F(PluginLoading, APpdCannotLoadCodeFromOtherFolders) {
   const std::string description = contentOf(sample("duplex-shift.ppd"));
   for (const std::string &path :
        {std::string(FIXTURE_PLUGIN), copy("MorvaADPImagePosition.plugin"), "../" + copy()}) {
@@ -162,12 +162,12 @@ TEST_F(PluginLoading, NoDescriptionBringsCodeFromAnywhere) {
         folder.write("evil.ppd", description + "*APDialogExtension: \"" + path + "\"\n");
     const auto result = batch(ppd, {"--summary"}, {"FIXTURE_JOURNAL=" + journal});
     EXPECT_EQ(result.status, kDone) << testing::PrintToString(result);
-    EXPECT_THAT(result.output, HasSubstr("Image Position\n")); // the one beside the program
+    EXPECT_THAT(result.output, HasSubstr("Image Position\n")); // the one next to the program
     EXPECT_FALSE(fs::exists(journal));
   }
 }
 
-TEST_F(PluginLoading, WhatOtherUsersMayChangeIsLeftOut) {
+TEST_F(PluginLoading, ABundleThatOtherUsersCanModifyIsRefused) {
   const auto everybody = fs::perms::others_write;
   const std::string bundle = copy("place/Copy.plugin");
   for (const std::string &part : {folder.path("place"), bundle, bundle + "/Fixture",
@@ -180,7 +180,7 @@ TEST_F(PluginLoading, WhatOtherUsersMayChangeIsLeftOut) {
   EXPECT_EQ(load(bundle, "").status, kDone);
 }
 
-TEST_F(PluginLoading, ALinkStandsForWhatItLeadsTo) {
+TEST_F(PluginLoading, ALinkIsCheckedAtItsTarget) {
   const std::string bundle = copy("place/Copy.plugin");
   fs::create_directory_symlink(bundle, folder.path("Link.plugin"));
   EXPECT_EQ(load(folder.path("Link.plugin"), "").status, kDone);
@@ -190,7 +190,7 @@ TEST_F(PluginLoading, ALinkStandsForWhatItLeadsTo) {
                 "Link.plugin\" was not loaded: other users may change");
 }
 
-TEST_F(PluginLoading, ABundleThatNamesCodeElsewhereIsLookedAtThereToo) {
+TEST_F(PluginLoading, CodeOutsideTheBundleIsCheckedToo) {
   const std::string bundle = copy();
   fs::create_directory(folder.path("open"));
   fs::rename(bundle + "/Fixture", folder.path("open/Fixture"));
@@ -233,13 +233,13 @@ TEST_F(PluginLoading, ASecondCopyIsRefusedByName) {
   const auto result = load(FIXTURE_PLUGIN, "", {"--plugin", copy()});
   expectLeftOut(result, "Copy.plugin\" was not loaded: its class \"FixturePlugin\"");
 
-  // A bundle with an identifier, by which the platform would answer the first copy.
+  // GNUstep would return the first copy for a bundle with the same identifier.
   fs::copy(IMAGE_POSITION_PLUGIN, folder.path("Other.plugin"), fs::copy_options::recursive);
   expectLeftOut(load(IMAGE_POSITION_PLUGIN, "", {"--plugin", folder.path("Other.plugin")}),
                 "Other.plugin\" was not loaded: its class \"MorvaADPPdePluginRV2\"");
 }
 
-TEST_F(PluginLoading, TwoPluginsWorkSideBySide) {
+TEST_F(PluginLoading, TwoPluginsWorkTogether) {
   const auto result = load(
       FIXTURE_PLUGIN, "",
       {"--plugin", IMAGE_POSITION_PLUGIN, "--summary", "--set", "FrontLRM=4", "--set", "Number=5"});
