@@ -256,7 +256,8 @@ TEST_F(PreviewViewOnScreen, IsEmptyUntilThereIsSomethingToShow) {
 TEST_F(PreviewViewOnScreen, DescribesWhatItShows) {
   show(previewOf({{1}, {0}}, {{1}, {0}}, Turning::ShortEdge));
   const std::string text = toText([view_ accessibilityLabel]);
-  EXPECT_EQ(text.rfind("Each side is moved 0.1 mm to the right as its reader sees it. Held", 0), 0u)
+  EXPECT_EQ(text.rfind("Each side moves 0.1 mm to the right, as you look at that side. Held", 0),
+            0u)
       << text;
   EXPECT_EQ(toText([view_ view:view_ stringForToolTip:0 point:NSZeroPoint userData:nullptr]), text);
 }
