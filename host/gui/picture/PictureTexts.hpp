@@ -1,6 +1,6 @@
-/// Texts in the picture, where there is little room.
-#ifndef IMAGEPOSITION_HOST_PICTURETEXTS_HPP
-#define IMAGEPOSITION_HOST_PICTURETEXTS_HPP
+/// Strings in the picture, which has little room for them.
+#ifndef IMAGEPOSITION_GUI_PICTURE_PICTURETEXTS_HPP
+#define IMAGEPOSITION_GUI_PICTURE_PICTURETEXTS_HPP
 
 #include "Text.hpp"
 
@@ -8,7 +8,6 @@
 
 namespace imageposition::messages {
 
-// In the picture, where there is little room.
 extern const Text kPreviewFront;
 extern const Text kPreviewBack;
 extern const Text kPreviewAgainstLight;

@@ -1,13 +1,13 @@
 /// The colours of the picture beside the panel.
-#ifndef IMAGEPOSITION_HOST_PREVIEWCOLOURS_HPP
-#define IMAGEPOSITION_HOST_PREVIEWCOLOURS_HPP
+#ifndef IMAGEPOSITION_GUI_PICTURE_PREVIEWCOLOURS_HPP
+#define IMAGEPOSITION_GUI_PICTURE_PREVIEWCOLOURS_HPP
 
 #include "Rgb.hpp"
 
 namespace imageposition {
 
-/// Front, back and loss are a blue, a green and a vermilion that people with any kind of
-/// colour blindness tell apart; line patterns and names repeat what they say.
+/// Front, back and lost areas are blue, green and vermilion, which users with any kind of colour
+/// blindness can tell apart. Line patterns and labels make the same distinction.
 struct PreviewColours {
   Rgb text;
   Rgb secondaryText;

@@ -79,7 +79,7 @@ void hatch(const PixelRectangle &rectangle, Rgb colour) {
   setColour(colour, 0.3);
   NSRectFillUsingOperation(toRect(rectangle), NSCompositeSourceOver);
   NSBezierPath *const lines = [NSBezierPath bezierPath];
-  // From a grid that all parts share, so that the pattern goes on across their edges.
+  // All parts share one grid, which continues the pattern across their edges.
   const double first = std::floor((rectangle.x + rectangle.y) / kDistance) * kDistance;
   const double last = rectangle.right() + rectangle.bottom();
   const int count = static_cast<int>((last - first) / kDistance);

@@ -12,7 +12,7 @@ void strokeLine(Pixel from, Pixel to) {
   [NSBezierPath strokeLineFromPoint:NSMakePoint(from.x, from.y) toPoint:NSMakePoint(to.x, to.y)];
 }
 
-/// In the middle of a pixel a line of one pixel's width is crisp.
+/// A line one pixel wide is crisp when it is centred on a pixel.
 double crisp(double coordinate) { return std::floor(coordinate) + 0.5; }
 
 void drawGridLines(const PreviewLayout &layout) {
@@ -34,7 +34,7 @@ void drawGridLines(const PreviewLayout &layout) {
   strokeLine({grid.x, crisp(centre.y)}, {grid.right(), crisp(centre.y)});
 }
 
-/// Millimetres along both axes, at every other square or less often.
+/// Labels both axes in millimetres, at every second square or less often.
 void drawScale(const PreviewLayout &layout) {
   const PixelRectangle &grid = layout.grid;
   const Pixel centre = layout.gridCentre();
@@ -61,7 +61,7 @@ void drawScale(const PreviewLayout &layout) {
   }
 }
 
-/// A cross in a circle, or in a diamond with broken lines.
+/// A cross in a circle for the front; a dashed cross in a diamond for the back.
 struct Mark {
   Offset offset;
   Rgb colour;
@@ -69,8 +69,8 @@ struct Mark {
   bool isBack;
 };
 
-/// From where the mark would be when nothing is shifted.
-void strokeWay(const PreviewLayout &layout, const Mark &mark) {
+/// Draws a line to the mark from its unshifted position.
+void strokeShift(const PreviewLayout &layout, const Mark &mark) {
   const Pixel centre = layout.gridCentre();
   const Pixel at = layout.mark(mark.offset);
   [NSBezierPath setDefaultLineWidth:1.5];
@@ -110,9 +110,8 @@ void strokeMark(const PreviewLayout &layout, const Mark &mark) {
   [cross stroke];
 }
 
-/// Beside the mark, the front's to the upper left and the back's to the lower right, or wherever
-/// the grid has room.
-void nameMark(const PreviewLayout &layout, const Mark &mark, bool toTheLeft, bool above) {
+/// Labels the mark on the given side, or as near to it as the label fits in the grid.
+void labelMark(const PreviewLayout &layout, const Mark &mark, bool toTheLeft, bool above) {
   constexpr double kDistance = 11;
   const PixelRectangle &grid = layout.grid;
   const Pixel at = layout.mark(mark.offset);
@@ -133,11 +132,11 @@ void drawMarks(const Preview &preview, const PreviewLayout &layout) {
   const Mark back = {preview.backSeenThrough->offset, previewColours().back, messages::kPreviewBack,
                      true};
   const bool frontIsLeft = front.offset.right.count <= back.offset.right.count;
-  strokeWay(layout, front);
-  strokeWay(layout, back);
+  strokeShift(layout, front);
+  strokeShift(layout, back);
   const bool frontIsAbove = front.offset.down.count <= back.offset.down.count;
-  nameMark(layout, front, frontIsLeft, frontIsAbove);
-  nameMark(layout, back, !frontIsLeft, !frontIsAbove);
+  labelMark(layout, front, frontIsLeft, frontIsAbove);
+  labelMark(layout, back, !frontIsLeft, !frontIsAbove);
   strokeMark(layout, front);
   strokeMark(layout, back);
 }

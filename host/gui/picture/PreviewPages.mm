@@ -8,7 +8,7 @@
 namespace imageposition {
 namespace {
 
-/// A side as it is drawn on one of the pages.
+/// A side of the sheet, as drawn on one of the pages.
 struct DrawnSide {
   const SidePreview *side;
   Rgb colour;
@@ -38,7 +38,7 @@ struct Block {
   double bottom;
 };
 
-/// A heading, two paragraphs that end short, and a picture: nothing of it looks the same mirrored.
+/// A heading, two paragraphs with a short last line, and a picture: mirroring changes all of them.
 constexpr Block kBlocks[] = {
     {0.08, 0.06, 0.55, 0.10}, {0.08, 0.17, 0.92, 0.19}, {0.08, 0.23, 0.92, 0.25},
     {0.08, 0.29, 0.92, 0.31}, {0.08, 0.35, 0.48, 0.37}, {0.08, 0.45, 0.92, 0.47},
@@ -59,7 +59,7 @@ void drawBlocks(const DrawnSide &drawn, const PixelRectangle &content) {
   }
 }
 
-/// However narrow, it must be seen: it grows away from the imageable area.
+/// Widens a narrow loss to a visible size, away from the imageable area.
 PixelRectangle visibleLoss(PixelRectangle loss, const PixelRectangle &imageable) {
   constexpr double kNarrowest = 4;
   const double width = std::max(kNarrowest, loss.width);
@@ -114,7 +114,7 @@ std::string shiftCaption(const Offset &offset) {
   return arrows.empty() ? messages::kPreviewNotShifted.str() : arrows;
 }
 
-/// Content that is moved beyond the page is shown as far as the next page allows.
+/// Shows content that is shifted beyond the page, as far as the next page allows.
 void clipAround(const PixelRectangle &page) {
   NSRectClip(NSInsetRect(toRect(page), -previewLineHeight() / 2, -previewLineHeight() / 4));
 }
@@ -149,7 +149,7 @@ void drawPage(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnS
   drawTexts(place, title, shiftCaption(drawn.side->offset), drawn.colour);
 }
 
-/// A sample of a pattern and what it means; answers where the next one begins.
+/// Draws a sample of a pattern and its meaning. Returns where the next entry begins.
 double drawLegendEntry(double left, const PixelRectangle &line, const std::string &meaning,
                        bool isLoss) {
   const double height = std::round(line.height * 0.6);

@@ -1,16 +1,16 @@
-/// Starts AppKit's application object the way a dialog needs it.
+/// Starts AppKit's application object for a dialog.
 #ifndef IMAGEPOSITION_GUI_STARTUP_APPLICATION_H
 #define IMAGEPOSITION_GUI_STARTUP_APPLICATION_H
 
 namespace imageposition {
 
-/// Registers defaults of GNUstep's. Call it before the application is there. GNUstep's log goes to
-/// the system's log, away from this program's messages; the user default GSLogSyslog, set to NO,
-/// brings it back to standard error.
+/// Registers GNUstep defaults. Call it before the application object exists. GNUstep then logs to
+/// the system log, separate from this program's messages; set the user default GSLogSyslog to NO to
+/// log to standard error.
 void setPlatformDefaults();
 
-/// Connects to the display, and loads nothing that a dialog does not need: no application icon, no
-/// menu. Throws a `Failure` with `ExitCode::Display`.
+/// Connects to the display without loading what a dialog does not need, such as an application icon
+/// or a menu. Throws a `Failure` with `ExitCode::Display`.
 void startApplication();
 
 } // namespace imageposition

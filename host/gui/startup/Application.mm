@@ -21,8 +21,8 @@ namespace {
 
 id doNothing(id, SEL, ...) { return nil; }
 
-/// Loading ImageMagick takes longer than showing the dialog, which has no image that needs it.
-/// GNUstep asks for the class as soon as it deals with images.
+/// Loading ImageMagick takes longer than showing the dialog, which shows no image that needs it.
+/// GNUstep asks for the class as soon as it handles images.
 void leaveOutImageLoaders() {
   const Class magick = NSClassFromString(@"GSImageMagickImageRep");
   if (magick == Nil)
@@ -44,7 +44,8 @@ void setPlatformDefaults() {
   NSMutableDictionary *const defaults = [NSMutableDictionary dictionary];
   [defaults setObject:@"YES" forKey:@"GSLogSyslog"];
   [defaults setObject:@"YES" forKey:@"GSSuppressAppIcon"];
-  [defaults setObject:@"NSWindows95InterfaceStyle" forKey:@"NSScrollViewInterfaceStyle"]; // right
+  [defaults setObject:@"NSWindows95InterfaceStyle"
+               forKey:@"NSScrollViewInterfaceStyle"]; // scrollers on the right
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
 }
 

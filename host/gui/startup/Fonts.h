@@ -1,11 +1,11 @@
-/// Fonts for languages that GNUstep's usual one cannot write.
-#ifndef IMAGEPOSITION_HOST_FONTS_H
-#define IMAGEPOSITION_HOST_FONTS_H
+/// Fonts for languages that GNUstep's default font does not cover.
+#ifndef IMAGEPOSITION_GUI_STARTUP_FONTS_H
+#define IMAGEPOSITION_GUI_STARTUP_FONTS_H
 
 namespace imageposition {
 
-/// Makes a font that can write the user's language the default for this program, unless the user
-/// has chosen one; see `LanguageFonts.hpp`. Call it before the application is there, which looks at
+/// Makes a font that covers the user's language the default for this program, unless the user has
+/// chosen one; see `LanguageFonts.hpp`. Call it before the application object exists, which reads
 /// the defaults.
 void chooseFontsForLanguage();
 

@@ -9,7 +9,7 @@
 namespace imageposition {
 namespace {
 
-// GNUstep keeps a font for each of these roles, and takes none of them from another.
+// GNUstep has a separate default for each of these roles; none falls back on another.
 NSString *const kRegularRoles[] = {@"NSFont",        @"NSUserFont",     @"NSMenuFont",
                                    @"NSMenuBarFont", @"NSMessageFont",  @"NSControlContentFont",
                                    @"NSLabelFont",   @"NSToolTipsFont", @"NSPaletteFont",

@@ -21,7 +21,7 @@ bool isInLatinLetters(const FcChar8 *language) {
   return letters == nullptr || FcCharSetHasChar(letters, 'a') != FcFalse;
 }
 
-/// Null where there is no font at all.
+/// Null if no font is installed.
 Pattern match(const char *family, const FcChar8 *language, int weight) {
   const Pattern wanted(FcPatternCreate());
   FcPatternAddString(wanted.get(), FC_FAMILY, bytesOf(family));
@@ -33,7 +33,7 @@ Pattern match(const char *family, const FcChar8 *language, int weight) {
   return Pattern(FcFontMatch(nullptr, wanted.get(), &ignored));
 }
 
-/// fontconfig chooses some font in any case.
+/// fontconfig always chooses a font, even one that lacks the language.
 bool canWrite(const FcPattern &font, const FcChar8 *language) {
   FcLangSet *languages = nullptr; // the font's
   return FcPatternGetLangSet(&font, FC_LANG, 0, &languages) == FcResultMatch &&

@@ -13,10 +13,11 @@ namespace imageposition {
 namespace {
 
 NSString *const kLanguages = @"NSLanguages";
-/// GNUstep's domain of the languages that it has worked out. It comes before all others.
+/// GNUstep's domain for the languages that it has determined. It takes precedence over all others.
 NSString *const kPrimaryDomain = @"GSPrimaryDomain";
 
-/// The user's own default. `stringArrayForKey:` would include what GNUstep made of the locale.
+/// Reads only the user's default. `stringArrayForKey:` would include languages that GNUstep derived
+/// from the locale.
 std::vector<std::string> languagesInDefaults(NSUserDefaults *defaults) {
   NSDictionary *const domains[] = {
       [defaults persistentDomainForName:[[NSProcessInfo processInfo] processName]],

@@ -1,16 +1,16 @@
-/// Leaves out, or puts off, what GNUstep does at the start of every program.
+/// Skips or postpones work that GNUstep does at the start of every program.
 #ifndef IMAGEPOSITION_GUI_STARTUP_QUICKSTART_H
 #define IMAGEPOSITION_GUI_STARTUP_QUICKSTART_H
 
 namespace imageposition {
 
-/// Leaves out the application's icon; the workspace, which would start a further program to look
-/// for all applications on the disk; and other programs' services, which only a menu would offer.
+/// Skips the application icon; the workspace, which would start another program to look for all
+/// applications on the disk; and other programs' services, which only a menu would offer.
 void leaveOutIconAndServices();
 
-/// While this lives, GNUstep looks for the window manager's answers every fifth of a millisecond
-/// instead of every ten. The first GNUstep program on a display asks for the frames of fifteen
-/// kinds of windows, one after the other.
+/// During its lifetime, GNUstep checks for the window manager's replies every fifth of a
+/// millisecond instead of every ten milliseconds. The first GNUstep program on a display requests
+/// the frame sizes of fifteen kinds of windows, one after another.
 class ShortWaits {
 public:
   ShortWaits();

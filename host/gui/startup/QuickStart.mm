@@ -26,7 +26,7 @@ Replaced &sleeping() {
   return it;
 }
 
-/// Every caller that waits this way at the start checks again, and has its own deadline.
+/// At startup, every caller that waits this way checks again and has its own deadline.
 void sleepShortly(id, SEL, NSDate *date) {
   constexpr NSTimeInterval kLongest = 0.0002;
   const NSTimeInterval wanted = [date timeIntervalSinceNow];

@@ -20,7 +20,7 @@ bool isDefault(NSCell *cell, NSView *view) {
   return cell != nil && [[view window] defaultButtonCell] == cell;
 }
 
-/// Interface files give a rounded button more room than it fills, by this platform's rule for them.
+/// Interface files give a rounded button a larger frame than its bezel fills.
 NSRect bezelRect(NSRect frame, int style) {
   if (style == NSRoundedBezelStyle && NSHeight(frame) >= 30)
     return NSIntegralRect(NSInsetRect(frame, 6, 3));
@@ -49,11 +49,11 @@ NSRect bezelRect(NSRect frame, int style) {
   if (!isEnabled || !hasFocus(state))
     return;
   drawFocusRing(rect, kCornerRadius, palette.focusRing);
-  if (isAccent) // the ring has nearly the button's colour
+  if (isAccent) // the ring's colour is close to the button's
     drawRoundRect(NSInsetRect(rect, 2, 2), kCornerRadius - 2, fill, palette.onAccent);
 }
 
-/// Room for a title; the platform adds a margin to it.
+/// GNUstep adds a margin to these.
 - (GSThemeMargins)buttonMarginsForCell:(NSCell *)cell
                                  style:(int)style
                                  state:(GSThemeControlState)state {
@@ -63,7 +63,7 @@ NSRect bezelRect(NSRect frame, int style) {
   return {4, 4, 3, 3};
 }
 
-/// A bezel and the box of a checkbox show the focus themselves.
+/// Buttons with a bezel and checkboxes draw their own focus ring.
 - (void)drawFocusFrame:(NSRect)frame view:(NSView *)view {
   const bool isButton = [view isKindOfClass:[NSButton class]];
   if (!isButton || (![(NSButton *)view isBordered] && !isCheckbox([(NSButton *)view cell])))
@@ -71,7 +71,7 @@ NSRect bezelRect(NSRect frame, int style) {
                   palette.focusRing);
 }
 
-/// The default button is known by its colour; it needs no picture of a key.
+/// The colour marks the default button, so no key symbol is drawn.
 - (void)setKeyEquivalent:(NSString *)key forButtonCell:(NSButtonCell *)cell {
   (void)key;
   (void)cell;

@@ -6,7 +6,7 @@ using namespace imageposition;
 
 namespace {
 
-/// A secure field has an editor of its own, which it does not tell of.
+/// `currentEditor` is null for a secure field, which uses a separate editor.
 bool isBeingEdited(NSView *view) {
   id const responder = [[view window] firstResponder];
   return [view isKindOfClass:[NSTextField class]] &&
@@ -28,7 +28,7 @@ bool isUsable(NSView *view) {
   NSRectFill(frame);
 }
 
-/// Text fields and whatever else has a bezel: a flat field with a thin edge.
+/// Draws text fields and other views with a bezel as a flat field with a thin edge.
 - (void)drawBorderType:(NSBorderType)type frame:(NSRect)frame view:(NSView *)view {
   if (type == NSNoBorder)
     return;
@@ -72,7 +72,7 @@ bool isUsable(NSView *view) {
   return 12;
 }
 
-/// A knob without arrows or a slot.
+/// Draws only the knob.
 - (void)drawScrollerRect:(NSRect)rect
                   inView:(NSView *)view
                  hitPart:(NSScrollerPart)hitPart
@@ -87,7 +87,7 @@ bool isUsable(NSView *view) {
   drawRoundRect(NSInsetRect(knob, 2, 2), 4, color, color);
 }
 
-// Everything else that the platform would draw in relief.
+// The remaining frames, which GNUstep would draw in relief.
 
 - (NSRect)drawGrayBezel:(NSRect)border withClip:(NSRect)clip {
   (void)clip;

@@ -29,7 +29,7 @@ using namespace imageposition;
   return 9;
 }
 
-/// The edge on top of the items, which fill the whole menu.
+/// Draws the edge last: the items fill the whole menu.
 - (void)drawMenuRect:(NSRect)rect
               inView:(NSView *)view
         isHorizontal:(BOOL)horizontal

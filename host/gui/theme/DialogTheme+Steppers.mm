@@ -10,7 +10,7 @@ namespace {
 constexpr CGFloat kStepperWidth = 17;
 constexpr CGFloat kStepperHeight = 22; // a text field's
 
-/// In the frame that interface files give it, the stepper stands beside a text field on one line.
+/// Interface files give a stepper more room than it fills beside a text field.
 NSRect stepperRect(NSRect frame) {
   const CGFloat height = std::min(NSHeight(frame), kStepperHeight);
   const CGFloat width = std::min(NSWidth(frame), kStepperWidth);

@@ -1,12 +1,12 @@
-/// The platform theme that draws the dialog; see host/Theme.h for how it comes into use.
-#ifndef IMAGEPOSITION_HOST_DIALOGTHEME_H
-#define IMAGEPOSITION_HOST_DIALOGTHEME_H
+/// The GNUstep theme that draws the dialog; `installTheme` in Theme.h installs it.
+#ifndef IMAGEPOSITION_GUI_THEME_DIALOGTHEME_H
+#define IMAGEPOSITION_GUI_THEME_DIALOGTHEME_H
 
 #import "ThemeColors.h"
 
 #import <GNUstepGUI/GSTheme.h>
 
-/// One category a kind of control, in files of their own.
+/// Each kind of control has a category in a separate file.
 @interface DialogTheme : GSTheme {
 @public
   imageposition::ThemeColors palette;
@@ -22,18 +22,18 @@
 
 namespace imageposition {
 
-/// A rectangle of whole points with round corners, filled and with a thin edge inside it.
+/// Fills a rectangle with round corners and draws an edge inside it. `rect` is in whole points.
 void drawRoundRect(NSRect rect, CGFloat radius, Rgb fill, Rgb edge, CGFloat lineWidth = 1);
-/// Around what has the keyboard's focus.
+/// Marks the view that has the keyboard focus.
 void drawFocusRing(NSRect rect, CGFloat radius, Rgb color);
-/// Two lines that meet in a point, which looks up or down. `flipped` says which way the view
-/// counts.
+/// Draws two lines that meet in a point at the top or the bottom. `flipped` is the view's
+/// `isFlipped`.
 void drawChevron(NSPoint centre, CGFloat halfWidth, bool up, bool flipped, Rgb color);
 
 constexpr CGFloat kCornerRadius = 4;
 
-/// Replaces what platform classes do where a theme is not asked: the colours of texts, the images
-/// of switches and of pop-up buttons. Once per process.
+/// Replaces the drawing that GNUstep does not leave to a theme: text colours, and the images of
+/// switches and pop-up buttons. Call it once per process.
 void replacePlatformDrawing();
 
 } // namespace imageposition

@@ -1,13 +1,13 @@
-/// Drawing at scales at which the platform's rounding shows.
-#ifndef IMAGEPOSITION_HOST_REDRAWROUNDING_H
-#define IMAGEPOSITION_HOST_REDRAWROUNDING_H
+/// Works around a GNUstep rounding error at fractional scales.
+#ifndef IMAGEPOSITION_GUI_THEME_REDRAWROUNDING_H
+#define IMAGEPOSITION_GUI_THEME_REDRAWROUNDING_H
 
 namespace imageposition {
 
-/// Has each view be drawn once where it has to be. A view that shows its superview's ground is
-/// drawn with that; where the scale is no whole number, the rectangle comes down to it too small by
-/// the last digit of a number, the platform takes the rest for still to be drawn, and draws the
-/// view once more upon itself: its text looks bold. Once per process.
+/// Makes GNUstep draw each view only once. GNUstep draws a transparent view together with its
+/// superview. At a fractional scale, rounding makes the rectangle that it passes down slightly too
+/// small; it then considers the remainder invalid and draws the view again over itself, which makes
+/// text look bold. Call it once per process.
 void drawOnceAtAnyScale();
 
 } // namespace imageposition

@@ -7,18 +7,18 @@
 #include <optional>
 
 @interface NSView (RedrawRounding)
-/// With all that is still to be drawn, when that is in `rect` but for rounding; or else `rect`.
-- (NSRect)allThatIsMeantBy:(NSRect)rect;
+/// `rect`, extended to the whole invalid rectangle if it lacks only a rounding error of that.
+- (NSRect)rectWithRoundedOffEdges:(NSRect)rect;
 @end
 
 @implementation NSView (RedrawRounding)
 
-- (NSRect)allThatIsMeantBy:(NSRect)rect {
+- (NSRect)rectWithRoundedOffEdges:(NSRect)rect {
   constexpr CGFloat kRounding = 0.01; // points: less than any pixel
   const NSRect needed = NSIntersectionRect(_invalidRect, [self visibleRect]);
-  const bool isAll = !NSIsEmptyRect(rect) && !NSIsEmptyRect(needed) &&
-                     NSContainsRect(NSInsetRect(rect, -kRounding, -kRounding), needed);
-  return isAll ? NSUnionRect(rect, needed) : rect;
+  const bool isWhole = !NSIsEmptyRect(rect) && !NSIsEmptyRect(needed) &&
+                       NSContainsRect(NSInsetRect(rect, -kRounding, -kRounding), needed);
+  return isWhole ? NSUnionRect(rect, needed) : rect;
 }
 
 @end
@@ -31,7 +31,7 @@ std::optional<Replaced> drawing;
 
 void displayAll(NSView *view, SEL operation, NSRect rect, NSGraphicsContext *context) {
   using Operation = void(id, SEL, NSRect, NSGraphicsContext *);
-  drawing->before<Operation>()(view, operation, [view allThatIsMeantBy:rect], context);
+  drawing->before<Operation>()(view, operation, [view rectWithRoundedOffEdges:rect], context);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-/// The look of the dialog: a platform theme of our own, light and dark.
-#ifndef IMAGEPOSITION_HOST_THEME_H
-#define IMAGEPOSITION_HOST_THEME_H
+/// The appearance of the dialog: a GNUstep theme, light or dark.
+#ifndef IMAGEPOSITION_GUI_THEME_THEME_H
+#define IMAGEPOSITION_GUI_THEME_THEME_H
 
 #include "Appearance.hpp"
 
@@ -10,20 +10,20 @@
 
 namespace imageposition {
 
-/// Before the application object is made: fonts and everything that a window measures grow by this
-/// factor (1 is the usual size).
+/// Scales fonts and all measurements of windows by this factor; 1 is the usual size. Call it before
+/// the application object exists.
 void setTextScale(double scale);
 
-/// Makes every control look so from now on. After the application object is made; best before the
-/// first window, as those that are there have to be drawn anew.
+/// Applies the theme to every control. Call it after the application object exists, and preferably
+/// before the first window: existing windows have to be redrawn.
 void installTheme(Appearance appearance);
 
 #ifdef __OBJC__
-/// For what the dialog draws itself, once the theme is installed.
-NSColor *accentColor();        ///< Marks what is chosen or has the focus.
-NSColor *secondaryTextColor(); ///< Explanations beside a control; contrast at least 4.5 to 1.
-NSColor *warningTextColor();   ///< Troubles and conflicts; contrast at least 4.5 to 1.
-NSColor *outlineColor();       ///< Edges of controls, sheets of paper, separators.
+/// Colours for the dialog's own drawing, once the theme is installed.
+NSColor *accentColor();        ///< Marks the selection and the focus.
+NSColor *secondaryTextColor(); ///< For explanations beside a control; contrast at least 4.5 to 1.
+NSColor *warningTextColor();   ///< For errors and conflicts; contrast at least 4.5 to 1.
+NSColor *outlineColor();       ///< For edges of controls and paper, and for separators.
 #endif
 
 } // namespace imageposition

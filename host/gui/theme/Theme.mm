@@ -12,8 +12,8 @@ const ThemeColors &colorsInUse() {
   return theme != nil ? theme->palette : themeColors(Appearance::Light);
 }
 
-/// The platform puts the theme that the user's defaults name in place of this one whenever any
-/// default changes.
+/// Whenever a default changes, GNUstep would replace this theme with the one that the user's
+/// defaults name.
 void keepTheme() {
   [[NSNotificationCenter defaultCenter] removeObserver:[GSTheme class]
                                                   name:NSUserDefaultsDidChangeNotification
@@ -25,8 +25,9 @@ void keepTheme() {
 void setTextScale(double scale) {
   if (scale == 1)
     return;
-  // Letters as wide as they are drawn: widths in whole pixels of the unscaled size would not do.
-  // Cairo's figures: bits 4 and up for metrics (1: not rounded), the others for shapes (2: slight).
+  // Does not round glyph widths: GNUstep would round them to whole pixels at the unscaled size. The
+  // values are Cairo's: bits 4 and up for metrics (1: not rounded), the others for shapes (2:
+  // slight).
   constexpr int kHinting = 1 << 4 | 2;
   NSDictionary *const defaults = [NSDictionary
       dictionaryWithObjectsAndKeys:[NSNumber numberWithDouble:scale], @"GSScaleFactor",

@@ -1,6 +1,6 @@
 /// The theme's colours, one set for each appearance.
-#ifndef IMAGEPOSITION_HOST_THEMECOLORS_H
-#define IMAGEPOSITION_HOST_THEMECOLORS_H
+#ifndef IMAGEPOSITION_GUI_THEME_THEMECOLORS_H
+#define IMAGEPOSITION_GUI_THEME_THEMECOLORS_H
 
 #include "Appearance.hpp"
 #include "Rgb.hpp"
@@ -9,23 +9,23 @@
 
 namespace imageposition {
 
-/// Texts have a contrast of at least 4.5 to 1 to what they stand on, edges and marks that tell a
-/// control's state at least 3 to 1.
+/// Text has a contrast of at least 4.5 to 1 against its background; edges and marks that show a
+/// control's state have at least 3 to 1.
 struct ThemeColors {
   Rgb window;
   Rgb text;
   Rgb secondaryText;
   Rgb disabledText;
   Rgb warningText;
-  Rgb field;           ///< What is typed into, and lists.
-  Rgb disabledControl; ///< Fields and buttons that cannot be used.
+  Rgb field;           ///< The background of entry fields and lists.
+  Rgb disabledControl; ///< The background of disabled fields and buttons.
   Rgb button;
   Rgb pressedButton;
-  Rgb outline;         ///< Edges of what can be used.
-  Rgb disabledOutline; ///< Edges of what cannot, and lines between things.
+  Rgb outline;         ///< Edges of enabled controls.
+  Rgb disabledOutline; ///< Edges of disabled controls, and separators.
   Rgb accent;          ///< The default button, a tick, the focus.
   Rgb pressedAccent;
-  Rgb onAccent; ///< Texts and marks on the accent colour.
+  Rgb onAccent; ///< Text and marks on the accent colour.
   Rgb focusRing;
   Rgb selection; ///< Behind selected text.
   Rgb menu;
@@ -36,8 +36,8 @@ const ThemeColors &themeColors(Appearance appearance);
 
 NSColor *toColor(Rgb rgb, double opacity = 1);
 
-/// The platform's own colours by their names, so that what it draws by itself agrees. Not owned by
-/// the caller.
+/// The system colours by name, so that GNUstep's own drawing matches the theme. The caller does not
+/// own the list.
 NSColorList *makeSystemColors(const ThemeColors &colors);
 
 } // namespace imageposition

@@ -8,27 +8,27 @@ namespace imageposition {
 namespace {
 
 using Colour = NSColor *(*)(id, SEL);
-using GroundDrawing = void (*)(id, SEL, NSRect, NSView *);
+using BackgroundDrawing = void (*)(id, SEL, NSRect, NSView *);
 using TitleDrawing = NSRect (*)(id, SEL, NSAttributedString *, NSRect, NSView *);
 using ImageDrawing = void (*)(id, SEL, NSImage *, NSRect, NSView *);
 
 Colour textFieldColor = nullptr;
-GroundDrawing fieldGround = nullptr;
+BackgroundDrawing fieldBackground = nullptr;
 Colour buttonColor = nullptr;
 TitleDrawing buttonTitle = nullptr;
 ImageDrawing buttonImage = nullptr;
 
 template <typename Function> Function replace(Class owner, SEL operation, Function replacement) {
   Method const method = class_getInstanceMethod(owner, operation);
-  if (method == nullptr) // another release of the platform draws this in another way
+  if (method == nullptr) // other releases of GNUstep may draw this differently
     return nullptr;
   return reinterpret_cast<Function>(reinterpret_cast<void *>(method_setImplementation(
       method, reinterpret_cast<IMP>(reinterpret_cast<void *>(replacement)))));
 }
 
-/// Panels say black for a text that can be used and light gray for one that cannot, whatever the
-/// window's colour: what they mean is shown instead.
-NSColor *meantColor(id cell, SEL operation) {
+/// Panels set black for enabled text and light gray for disabled text, whatever the window's
+/// colour. Uses the theme's colours for enabled and disabled text instead.
+NSColor *themedTextColor(id cell, SEL operation) {
   NSColor *const color = textFieldColor(cell, operation);
   DialogTheme *const theme = [DialogTheme current];
   if (theme == nil)
@@ -40,10 +40,10 @@ NSColor *meantColor(id cell, SEL operation) {
   return color;
 }
 
-/// The ground of a field that cannot be used comes with its border.
-void drawFieldGround(id cell, SEL operation, NSRect frame, NSView *view) {
+/// The theme draws the background of a disabled field with its border.
+void drawFieldBackground(id cell, SEL operation, NSRect frame, NSView *view) {
   if ([DialogTheme current] == nil || [cell isEnabled] || ![cell isBezeled])
-    fieldGround(cell, operation, frame, view);
+    fieldBackground(cell, operation, frame, view);
 }
 
 NSColor *titleColor(id cell, SEL operation) {
@@ -58,7 +58,7 @@ NSColor *titleColor(id cell, SEL operation) {
 
 enum class Picture { Other, Switch, Radio, PopUp, PullDown };
 
-/// By the platform's names for its own images.
+/// Recognizes GNUstep's images by their names.
 Picture pictureOf(NSImage *image) {
   NSString *const name = [image name];
   if ([name hasPrefix:@"GSSwitch"] || [name hasPrefix:@"common_Switch"])
@@ -113,7 +113,7 @@ void drawSwitch(NSButtonCell *cell, NSRect frame, NSView *view, bool isRound) {
     drawTick(box, [view isFlipped], mark);
 }
 
-/// Where a click opens a menu: a mark to both sides, or down.
+/// Marks a control that opens a menu, with one chevron or with two.
 void drawMenuMark(NSCell *cell, NSRect frame, NSView *view, bool bothWays) {
   const ThemeColors &palette = [DialogTheme current]->palette;
   const Rgb color = [cell isEnabled] ? palette.text : palette.disabledText;
@@ -125,7 +125,7 @@ void drawMenuMark(NSCell *cell, NSRect frame, NSView *view, bool bothWays) {
   drawChevron(NSMakePoint(centre.x, centre.y - away), 3, false, flipped, color);
 }
 
-/// A little away from the box, which would touch its title when it has the focus.
+/// Moves the title away from the box, whose focus ring would touch it.
 NSRect drawButtonTitle(id cell, SEL operation, NSAttributedString *title, NSRect frame,
                        NSView *view) {
   const Picture picture = [DialogTheme current] != nil ? pictureOf([cell image]) : Picture::Other;
@@ -144,8 +144,8 @@ void drawButtonImage(id cell, SEL operation, NSImage *image, NSRect frame, NSVie
     drawMenuMark(cell, frame, view, picture == Picture::PopUp);
 }
 
-/// Has their names and sizes, in place of the platform's own images, which are never seen here: to
-/// read those, the libraries of three image formats would be needed.
+/// Replaces GNUstep's images with blank ones of the same names and sizes. The theme never shows
+/// them, and loading them would require the libraries of three image formats.
 void putBlankImages() {
   static const struct {
     NSString *name;
@@ -156,7 +156,7 @@ void putBlankImages() {
   for (const auto &[name, size] : kImages) {
     NSImage *const blank = [[NSImage alloc] initWithSize:size];
     (void)[blank setName:name];
-    [blank release]; // it is kept by its name
+    [blank release]; // AppKit retains a named image
   }
 }
 
@@ -166,9 +166,10 @@ void replacePlatformDrawing() {
   if (textFieldColor != nullptr)
     return;
   putBlankImages();
-  textFieldColor = replace([NSTextFieldCell class], @selector(textColor), meantColor);
-  fieldGround = replace([NSTextFieldCell class],
-                        sel_registerName("_drawBackgroundWithFrame:inView:"), drawFieldGround);
+  textFieldColor = replace([NSTextFieldCell class], @selector(textColor), themedTextColor);
+  fieldBackground =
+      replace([NSTextFieldCell class], sel_registerName("_drawBackgroundWithFrame:inView:"),
+              drawFieldBackground);
   buttonColor = replace([NSButtonCell class], @selector(textColor), titleColor);
   buttonTitle =
       replace([NSButtonCell class], @selector(drawTitle:withFrame:inView:), drawButtonTitle);

@@ -11,8 +11,8 @@
 
 namespace imageposition {
 
-/// Shows the choices and selects the one that holds. Where the user can enter a value, one more
-/// item, the last, leads there. Returns the choices' keywords in the order of the items.
+/// Shows the choices and selects the current one. If the user can enter a custom value, adds a last
+/// item for it. Returns the choices' keywords in the order of the items.
 std::vector<std::string> showChoices(NSPopUpButton *popUp, const PrinterOption &option);
 
 } // namespace imageposition

@@ -9,7 +9,7 @@ namespace imageposition {
 
 namespace {
 
-/// Leaves items alone that are there already: the user may have the pop-up open.
+/// Leaves existing items alone: the user may have the pop-up open.
 void showTitles(NSPopUpButton *popUp, const std::vector<std::string> &titles) {
   bool isShown = static_cast<std::size_t>([popUp numberOfItems]) == titles.size();
   for (std::size_t i = 0; isShown && i < titles.size(); i++)
@@ -17,7 +17,7 @@ void showTitles(NSPopUpButton *popUp, const std::vector<std::string> &titles) {
   if (isShown)
     return;
   [popUp removeAllItems];
-  // Through the menu: the pop-up itself removes an earlier item of the same title.
+  // Uses the menu: the pop-up itself would remove an earlier item with the same title.
   for (const std::string &title : titles)
     [[popUp menu] addItemWithTitle:toString(title) action:nullptr keyEquivalent:@""];
 }

@@ -1,4 +1,4 @@
-/// Disables controls for a while.
+/// Disables controls temporarily.
 #ifndef IMAGEPOSITION_GUI_WIDGETS_CONTROLLOCK_H
 #define IMAGEPOSITION_GUI_WIDGETS_CONTROLLOCK_H
 
@@ -8,11 +8,11 @@
 
 namespace imageposition {
 
-/// Disables what a user can change or press in a view, and enables the same controls, and no
-/// others, when it is destroyed. Scrollers stay enabled. Main thread.
+/// Disables the controls of a view that a user can change or press. The destructor enables exactly
+/// those again. Scrollers stay enabled. Main thread.
 class ControlLock {
 public:
-  /// All below `root` but `exception`.
+  /// Locks everything below `root` except `exception`.
   ControlLock(NSView *root, NSView *exception);
   ~ControlLock();
   ControlLock(const ControlLock &) = delete;

@@ -27,7 +27,8 @@ void collect(NSView *view, std::vector<NSView *> &controls) {
     collect([subviews objectAtIndex:i], controls);
 }
 
-/// Lines from the top, each from the left. Controls of one line may differ a little in height.
+/// Orders by line from the top, then from the left. Controls on one line may differ slightly in
+/// height.
 void sortForReading(std::vector<NSView *> &controls) {
   const auto centre = [](NSView *view) {
     const NSRect frame = [view convertRect:[view bounds] toView:nil];
@@ -40,7 +41,7 @@ void sortForReading(std::vector<NSView *> &controls) {
   });
 }
 
-/// The controls of the chain from `first` on, while it stays inside the pane.
+/// The controls of the key view chain from `first` until it leaves the pane.
 std::vector<NSView *> chainFrom(NSView *first, NSView *pane) {
   std::vector<NSView *> chain{first};
   for (NSView *next = [first nextKeyView]; next != nil && [next isDescendantOf:pane];

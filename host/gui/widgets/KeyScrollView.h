@@ -1,11 +1,11 @@
-/// A list that scrolls, by keys as well.
+/// A list that scrolls by mouse and by keyboard.
 #ifndef IMAGEPOSITION_GUI_WIDGETS_KEYSCROLLVIEW_H
 #define IMAGEPOSITION_GUI_WIDGETS_KEYSCROLLVIEW_H
 
 #import <AppKit/AppKit.h>
 
-/// Takes the focus when its content does not fit; then the arrow keys, Page Up, Page Down, Home and
-/// End move the content. Scrolls up and down only.
+/// Accepts the focus when its content does not fit; then the arrow keys, Page Up, Page Down, Home
+/// and End move the content. Scrolls vertically only.
 @interface KeyScrollView : NSScrollView
 /// Shows `rows`, a flipped view as high as its content, from the top.
 - (void)showRows:(NSView *)rows;

@@ -47,7 +47,7 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
   [[self verticalScroller] setArrowsPosition:NSScrollerArrowsNone]; // the theme draws none
 }
 
-/// GNUstep adds one when scrollers hide by themselves.
+/// Ignored: GNUstep would add one to a view that hides its scrollers automatically.
 - (void)setHasHorizontalScroller:(BOOL)has {
   (void)has;
 }

@@ -1,4 +1,4 @@
-/// A window with the keys of a dialog.
+/// A window with the keyboard handling of a dialog.
 #ifndef IMAGEPOSITION_GUI_WIDGETS_KEYWINDOW_H
 #define IMAGEPOSITION_GUI_WIDGETS_KEYWINDOW_H
 
@@ -8,23 +8,23 @@
 #include <string>
 #include <vector>
 
-/// What the window sends its delegate beyond a window's own messages.
+/// Messages to the delegate in addition to those of every window.
 @protocol KeyWindowDelegate <NSObject>
-/// Return, wherever the focus is, except on a push button, which it presses.
+/// The user pressed Return. With the focus on a push button, Return presses the button instead.
 - (void)confirm;
-/// Escape.
+/// The user pressed Escape.
 - (void)dismiss;
-/// An exception, in words, ended what the window was doing. `view` is the one whose code ran, since
-/// an event was for it or it lost the focus; null when the dialog's own code ran.
+/// An exception, which `what` describes, ended the current event. `view` is the view whose code was
+/// running because it received an event or lost the focus; null for the dialog's own code.
 - (void)exception:(NSString *)what in:(NSView *)view;
-/// The pasteboard could not be reached, which is not the fault of any view.
+/// The pasteboard could not be reached; no view is at fault.
 - (void)pasteboardFailed:(NSString *)what;
 @optional
-/// F1.
+/// The user pressed F1.
 - (void)help;
-/// After `wakeModalLoop`.
+/// Follows `wakeModalLoop`.
 - (void)wake;
-/// The window has handled a click on the view, or a key while it had the focus. Not sent for the
+/// The window handled a click on the view, or a key while the view had the focus. Not sent for the
 /// dialog's own keys.
 - (void)userActedOn:(NSView *)view;
 @end
@@ -33,35 +33,35 @@ namespace imageposition {
 
 struct ControlKey {
   std::string letter; ///< In lower case.
-  NSView *control;    ///< The window's.
+  NSView *control;    ///< Owned by the window.
 };
 
-/// Sends the window's delegate `wake` as the next event. There it can show another modal window, or
-/// end its own, which a modal loop notices only after an event. Main thread.
+/// Sends the window's delegate `wake` as the next event. The delegate can then show another modal
+/// window or end the current one; a modal loop notices its end only after an event. Main thread.
 void wakeModalLoop(NSWindow *window);
 
 } // namespace imageposition
 
-/// Return confirms, also from an entry field, after the field has taken its text. Control with C,
-/// X, V and A edits in a field, as Linux users expect; there is no menu to do it. Alt with a letter
-/// reaches a control.
+/// Return confirms, also from an entry field, once the field has committed its text. Control with
+/// C, X, V or A edits in a field, as Linux users expect; there is no menu for it. Alt with a letter
+/// activates a control.
 ///
-/// An exception ends only the event that it is raised in, and goes to the delegate.
+/// An exception ends only the event in which it is raised, and is reported to the delegate.
 @interface KeyWindow : NSWindow {
   std::vector<imageposition::ControlKey> *controlKeys; ///< Owned; may be null.
-  NSView *focusShown; ///< What had the focus when it was last drawn; owned; may be null.
-  NSView *running;    ///< Whose code runs; null for the dialog's own.
+  NSView *focusShown; ///< The view last drawn with the focus; owned; may be null.
+  NSView *running;    ///< The view whose code is running; null for the dialog's own.
 }
 
-/// Has Alt with the letter that is marked in the string (see Mnemonic.hpp) press a button, and give
-/// any other control the focus. Controls with the same letter take turns; those that are hidden or
-/// disabled are passed over.
+/// Makes Alt with the letter marked in the string (see Mnemonic.hpp) press a button, or give
+/// another control the focus. Controls with the same letter take turns; hidden or disabled ones are
+/// skipped.
 - (void)reach:(NSView *)control by:(const std::string &)marked;
 /// The control that has the focus, also while its field editor has it; may be null.
 - (NSView *)focusedView;
-/// Gives the view the focus unless it has it. A field that loses it takes its text.
+/// Gives the view the focus unless it has it. A field that loses the focus commits its text.
 - (void)focus:(NSView *)view;
-/// Runs code of the dialog outside an event, with the same protection. False when it raised.
+/// Runs code of the dialog outside an event, with the same protection. Returns false if it raised.
 - (BOOL)protect:(const std::function<void()> &)code;
 
 @end

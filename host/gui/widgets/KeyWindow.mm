@@ -11,7 +11,7 @@ using imageposition::isCheckbox;
 
 namespace {
 
-constexpr CGFloat kFocusMargin = 6; // shown above and below what has the focus
+constexpr CGFloat kFocusMargin = 6; // visible above and below the focused view
 
 enum class Key { Other, Confirm, Dismiss, Help };
 
@@ -63,7 +63,7 @@ BOOL isPushButton(id responder) {
   return isButton(responder) && !isCheckbox([(NSButton *)responder cell]);
 }
 
-/// While it is open the keys are the menu's.
+/// An open menu handles the keys itself.
 BOOL hasOpenMenu(id responder) {
   return [responder isKindOfClass:[NSPopUpButton class]] &&
          [[[(NSPopUpButton *)responder menu] window] isVisible];
@@ -79,7 +79,7 @@ constexpr NSUInteger kMouseEvents =
     NSRightMouseUpMask | NSRightMouseDraggedMask | NSOtherMouseDownMask | NSOtherMouseUpMask |
     NSOtherMouseDraggedMask | NSMouseMovedMask | NSScrollWheelMask;
 
-/// The view that an event is for; null where it is for none.
+/// The view that an event is for, or null.
 NSView *targetOf(NSEvent *event, KeyWindow *window) {
   const NSUInteger mask = NSEventMaskFromType([event type]);
   if ((mask & kMouseEvents) != 0)
@@ -87,13 +87,13 @@ NSView *targetOf(NSEvent *event, KeyWindow *window) {
   return (mask & (NSKeyDownMask | NSKeyUpMask)) != 0 ? [window focusedView] : nil;
 }
 
-/// Whether the user may have changed something with it.
+/// Whether the user may have changed something with the event.
 bool isAct(NSEvent *event) {
   return [event type] == NSLeftMouseDown || ([event type] == NSKeyDown && !movesFocus(event));
 }
 
-/// The letter of Alt and a letter, in lower case; null for other keys. What AltGr types into a
-/// field does not count: then the key has typed something else than its letter.
+/// The letter that was pressed with Alt, in lower case; null for other keys. A character typed with
+/// AltGr does not count: it differs from the key's letter.
 NSString *letterOf(NSEvent *event) {
   constexpr NSUInteger kAlt =
       NSAlternateKeyMask | NSCommandKeyMask; // GNUstep maps the key to either
@@ -112,13 +112,13 @@ bool canBeReached(NSView *control) {
 } // namespace
 
 @interface KeyWindow ()
-/// Whether a control is reached this way.
+/// Activates the control of an Alt key; false if there is none.
 - (BOOL)reachControl:(NSEvent *)event;
-/// Handles the dialog's own keys, and other events as every window does.
+/// Handles the dialog's own keys, and passes other events to NSWindow.
 - (void)handleEvent:(NSEvent *)event;
 /// Whether the key was the dialog's own.
 - (BOOL)handleKey:(NSEvent *)event;
-/// Tells the delegate of an exception.
+/// Reports an exception to the delegate.
 - (void)report:(NSString *)what in:(NSView *)view;
 @end
 
@@ -140,8 +140,8 @@ bool canBeReached(NSView *control) {
   controlKeys->push_back({imageposition::toText(lower), control});
 }
 
-// Scrolls to what gets the focus. Redraws both views whole: a text field by itself redraws only its
-// text. The view that loses the focus may send its action here, and so runs code.
+// Scrolls to the newly focused view. Redraws both views completely: a text field redraws only its
+// text. The view that loses the focus may send its action here, so its code may run.
 - (BOOL)makeFirstResponder:(NSResponder *)responder {
   NSView *const before = running;
   if (NSView *const leaving = [self focusedView])
@@ -185,7 +185,7 @@ bool canBeReached(NSView *control) {
   const bool isLast = current == reached.end() || current + 1 == reached.end();
   NSView *const control = isLast ? reached.front() : *(current + 1);
   const bool isAlone = reached.size() == 1;
-  if (!isAlone || !isPushButton(control)) // a field that is left takes its text
+  if (!isAlone || !isPushButton(control)) // the field that loses the focus commits its text
     [self makeFirstResponder:control];
   if (isAlone && isButton(control))
     [(NSButton *)control performClick:self];
@@ -211,7 +211,7 @@ bool canBeReached(NSView *control) {
     else
       [owner exception:what in:view];
   });
-  if (raised) // there is nobody left to tell
+  if (raised) // the delegate failed, too
     NSLog(@"%@; then %@", what, imageposition::toString(*raised));
 }
 
@@ -226,7 +226,7 @@ bool canBeReached(NSView *control) {
     [owner wake];
     return;
   }
-  NSView *const target = [[targetOf(event, self) retain] autorelease]; // it may go with the event
+  NSView *const target = [[targetOf(event, self) retain] autorelease]; // the event may release it
   if ([event type] == NSKeyDown && [self handleKey:event])
     return;
   running = target;
@@ -236,7 +236,7 @@ bool canBeReached(NSView *control) {
     [owner userActedOn:target];
 }
 
-// The default button would otherwise take Return before the control that has the focus.
+// The default button would otherwise handle Return before the focused control.
 - (BOOL)performKeyEquivalent:(NSEvent *)event {
   if (keyOf(event) != Key::Other)
     return NO;

@@ -12,7 +12,7 @@ constexpr NSUInteger kLongestLine = 1000;
 constexpr NSUInteger kLongestParagraph = 4000;
 constexpr CGFloat kCellMargin = 2; // of a text field, to both sides of its text
 
-/// Keeps that many UTF-16 units, more of them at the end, where a path has its file's name.
+/// Keeps that many UTF-16 units, more of them at the end, where a path has its file name.
 NSString *withoutMiddle(NSString *text, NSUInteger kept) {
   const NSUInteger head = kept / 3;
   const NSUInteger tail = [text length] - (kept - head);

@@ -4,9 +4,9 @@
 
 #import "KeyScrollView.h"
 
-/// Wraps its text, and scrolls when that is higher than the view.
+/// Wraps its text, and scrolls if it is higher than the view.
 @interface MessageView : KeyScrollView {
-  NSTextField *label; ///< The view's.
+  NSTextField *label; ///< Owned by the view.
 }
 - (void)setStringValue:(NSString *)text;
 @end

@@ -2,7 +2,7 @@
 
 #import "Labels.h"
 
-/// Begins at the top.
+/// Flipped: the text begins at the top.
 @interface MessageLabel : NSTextField
 @end
 
@@ -36,7 +36,7 @@
 - (void)setStringValue:(NSString *)whole {
   constexpr NSUInteger kLongest = 10000;
   NSString *const text = imageposition::cutTo(kLongest, whole);
-  // The scroller may come, and must not cut anything off.
+  // A scroller may appear and must not cover the text.
   const CGFloat width = NSWidth([self frame]) - [NSScroller scrollerWidth] - 4;
   [label setStringValue:text];
   [label

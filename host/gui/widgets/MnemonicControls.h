@@ -1,4 +1,4 @@
-/// Titles and buttons that underline the letter that reaches a control.
+/// Titles and buttons with an underlined letter for the keyboard.
 #ifndef IMAGEPOSITION_GUI_WIDGETS_MNEMONICCONTROLS_H
 #define IMAGEPOSITION_GUI_WIDGETS_MNEMONICCONTROLS_H
 
@@ -8,9 +8,10 @@
 
 namespace imageposition {
 
-// The caller owns nothing that these functions return. Mnemonic.hpp says how strings are marked.
+// The caller owns nothing that these functions return. Mnemonic.hpp documents how strings are
+// marked.
 
-/// A control's title, as large as it needs to be, with its letter underlined.
+/// A control's title, as large as needed, with its letter underlined.
 NSTextField *makeTitle(const std::string &marked);
 
 /// A push button, at least `kButtonWidth` wide, and `kButtonHeight` high.

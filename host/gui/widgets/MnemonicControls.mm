@@ -26,7 +26,7 @@ Underline underlineOf(const MnemonicText &mnemonic, NSFont *font) {
   const auto width = [=](const std::string &text) {
     return text.empty() ? 0 : [font widthOfString:toString(text)];
   };
-  // With the key: a blank at the end of a text is not measured.
+  // Includes the key: AppKit does not measure a trailing space.
   const std::string upToKey = mnemonic.text.substr(0, mnemonic.keyAt) + mnemonic.key;
   return {width(upToKey) - width(mnemonic.key), width(mnemonic.key)};
 }

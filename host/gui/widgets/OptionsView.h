@@ -9,15 +9,15 @@
 #include <string>
 #include <vector>
 
-/// What the user does with an option's control, which is `sender`.
+/// The user's actions on an option's control, which is `sender`.
 @protocol OptionsViewOwner <NSObject>
-/// Chose an item of the pop-up.
+/// The user chose an item of the pop-up.
 - (void)option:(const std::string &)keyword
      wasChosen:(const std::string &)choice
             by:(NSView *)sender;
-/// Chose the item that leads to entering a value.
+/// The user chose the item for entering a custom value.
 - (void)option:(const std::string &)keyword wantsValueBy:(NSView *)sender;
-/// Ticked a check box of an option that takes several choices, or took the tick away.
+/// The user ticked or cleared a checkbox of an option that accepts several choices.
 - (void)option:(const std::string &)keyword
         choice:(const std::string &)choice
      wasTicked:(bool)on
@@ -28,17 +28,17 @@ namespace imageposition {
 struct OptionsViewRow;
 }
 
-/// A heading for each group, and a pop-up for each option, or a check box for each choice of an
-/// option that takes several. Scrolls when they do not fit, and follows the focus.
+/// A heading for each group, and a pop-up for each option, or a checkbox for each choice of an
+/// option that accepts several. Scrolls if they do not fit, and follows the focus.
 @interface OptionsView : KeyScrollView {
   id<OptionsViewOwner> owner;                       ///< Not owned.
   std::vector<imageposition::OptionsViewRow> *rows; ///< Owned.
-  std::string *shape; ///< The options and check boxes that are shown; owned.
+  std::string *shape;                               ///< The options and checkboxes shown; owned.
 }
 
 - (id)initWithFrame:(NSRect)frame owner:(id<OptionsViewOwner>)theOwner;
-/// Reuses the controls when the same options are shown already. Shows the first 500 options, and
-/// how many it leaves out.
+/// Reuses the controls if the same options are already shown. Shows the first 500 options and the
+/// number of the others.
 - (void)showGroups:(std::vector<imageposition::OptionGroup>)groups;
 
 @end

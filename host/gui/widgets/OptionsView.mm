@@ -18,8 +18,8 @@ namespace imageposition {
 struct OptionsViewRow {
   std::string keyword;
   std::vector<std::string> choices;
-  NSPopUpButton *popUp;             // the view's; null with check boxes
-  std::vector<NSButton *> switches; // the view's; one for each choice
+  NSPopUpButton *popUp;             // owned by the view; null for checkboxes
+  std::vector<NSButton *> switches; // owned by the view; one for each choice
 };
 
 namespace {
@@ -93,13 +93,13 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
   [super dealloc];
 }
 
-/// Its controls take the focus.
+/// Only its controls accept the focus.
 - (BOOL)acceptsFirstResponder {
   return NO;
 }
 
 - (void)choose:(id)sender {
-  const OptionsViewRow row = rows->at([sender tag]); // a copy: the owner may have other rows shown
+  const OptionsViewRow row = rows->at([sender tag]); // a copy: the owner may replace the rows
   const NSInteger chosen = [sender indexOfSelectedItem];
   if (chosen >= static_cast<NSInteger>(row.choices.size()))
     [owner option:row.keyword wantsValueBy:sender];
@@ -128,7 +128,7 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
   return popUp;
 }
 
-/// Puts them one below the other; returns the lower edge.
+/// Places the checkboxes one below another; returns their lower edge.
 - (CGFloat)addSwitchesFor:(const PrinterOption &)option to:(NSView *)document frame:(NSRect)frame {
   OptionsViewRow row{option.keyword, {}, nil, {}};
   for (const OptionChoice &choice : option.choices) {

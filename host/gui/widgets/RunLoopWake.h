@@ -1,4 +1,4 @@
-/// Lets other threads have the main thread do something.
+/// Lets other threads wake the main thread.
 #ifndef IMAGEPOSITION_GUI_WIDGETS_RUNLOOPWAKE_H
 #define IMAGEPOSITION_GUI_WIDGETS_RUNLOOPWAKE_H
 
@@ -13,15 +13,16 @@ namespace imageposition {
 /// main thread.
 class RunLoopWake {
 public:
-  /// Calls `woken` on the main thread after each signal; several signals may lead to one call, and
-  /// none is lost. `woken` must not raise. Throws `std::system_error` without a file descriptor
+  /// Calls `woken` on the main thread after each signal; several signals may lead to one call, but
+  /// none is lost. `woken` must not raise. Throws `std::system_error` if no file descriptor is
   /// left.
   explicit RunLoopWake(const std::function<void()> &woken);
   ~RunLoopWake();
   RunLoopWake(const RunLoopWake &) = delete;
   RunLoopWake &operator=(const RunLoopWake &) = delete;
 
-  /// Signals when called, on any thread. It may outlive this object, and then does nothing.
+  /// Returns a function that signals, on any thread. It may outlive this object, and then does
+  /// nothing.
   std::function<void()> signal() const;
 
 private:

@@ -10,7 +10,7 @@
 
 namespace imageposition {
 
-/// A counter of the kernel's, which keeps its descriptor readable while it is not zero.
+/// A kernel counter whose descriptor is readable while the count is not zero.
 class RunLoopWake::Event {
 public:
   Event() : descriptor_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
@@ -38,7 +38,7 @@ private:
 
 } // namespace imageposition
 
-/// What the run loop calls.
+/// Receives the run loop's events.
 @interface RunLoopWatcher : NSObject <RunLoopEvents> {
 @public
   const std::function<void()> *received; ///< Not owned.
@@ -74,7 +74,7 @@ void *asData(int descriptor) {
 
 RunLoopWake::RunLoopWake(const std::function<void()> &woken)
     : event_(std::make_shared<const Event>()), received_([=] {
-        event_->clear(); // first: a signal that comes while `woken` looks has it look again
+        event_->clear(); // first: a signal during `woken` must cause another call
         woken();
       }),
       watcher_([[RunLoopWatcher alloc] init]) {

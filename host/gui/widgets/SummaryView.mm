@@ -25,7 +25,7 @@ using imageposition::SummarySection;
 
 namespace {
 
-/// Of each section; a line is two views.
+/// Per section; each line has two views.
 constexpr std::size_t kMostLines = 500;
 
 constexpr CGFloat kMargin = 12;
@@ -118,7 +118,7 @@ private:
 
 - (void)showSections:(const std::vector<SummarySection> &)sections {
   NSView *const rows = [[[SummaryRows alloc] initWithFrame:NSZeroRect] autorelease];
-  // The scroller may come, and must not cut anything off.
+  // A scroller may appear and must not cover anything.
   const CGFloat width = NSWidth([self frame]) - [NSScroller scrollerWidth] - 4;
   Writer writer(rows, width, titleColumn(sections, width));
   for (const SummarySection &section : sections)

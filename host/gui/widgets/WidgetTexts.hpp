@@ -1,4 +1,4 @@
-/// Texts of the window's controls and views.
+/// Strings of the window's controls and views.
 #ifndef IMAGEPOSITION_GUI_WIDGETS_WIDGETTEXTS_HPP
 #define IMAGEPOSITION_GUI_WIDGETS_WIDGETTEXTS_HPP
 

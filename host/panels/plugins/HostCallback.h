@@ -4,14 +4,14 @@
 
 #import "MorvaADPPdeCallbackRV2.h"
 
-/// Returns what the dialog owns, or null to a plug-in that keeps this object longer than the dialog
-/// lives.
+/// Gives plug-ins access to objects that the dialog owns. Returns null to a plug-in that keeps this
+/// object longer than the dialog exists.
 @interface HostCallback : NSObject <MorvaADPPdeCallbackRV2> {
   ppd_file_t *ppd;
   PMPrintSettings settings;
 }
 
-/// Borrows both.
+/// Owns neither; both must exist until `forget`.
 - (id)initWithPpd:(ppd_file_t *)printer settings:(PMPrintSettings)job;
 /// Returns null for both from now on.
 - (void)forget;

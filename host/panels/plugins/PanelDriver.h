@@ -1,6 +1,6 @@
 /// One panel of a plug-in, driven in the order that panels expect.
-#ifndef IMAGEPOSITION_HOST_PANELDRIVER_H
-#define IMAGEPOSITION_HOST_PANELDRIVER_H
+#ifndef IMAGEPOSITION_PANELS_PLUGINS_PANELDRIVER_H
+#define IMAGEPOSITION_PANELS_PLUGINS_PANELDRIVER_H
 
 #import <ApplicationServices/ApplicationServices.h>
 
@@ -13,39 +13,39 @@
 
 namespace imageposition {
 
-/// Whether a panel wants to be hidden is not asked: this dialog offers every panel that it gets.
+/// Does not send `shouldHide`: this dialog offers every panel.
 ///
-/// A panel without a view is asked for nothing else: it may keep values in its controls, and would
-/// store those of controls that do not exist.
+/// A panel without a view receives no further messages: it may keep its values in its controls, and
+/// would save the values of controls that do not exist.
 ///
 /// Every operation throws a `Failure` with `ExitCode::Plugin` when the panel raises; its owner then
 /// leaves the panel out. Main thread only.
 class PanelDriver {
 public:
-  /// Asks for kind, name, option keys and view, in this order. The view comes before everything
-  /// that touches values, as above. `pluginPath` is named in messages.
+  /// Requests kind, name, option keys and view, in this order. The view must exist before the panel
+  /// reads or writes values. Error messages name `pluginPath`.
   PanelDriver(id panel, std::string pluginPath);
   ~PanelDriver();
   PanelDriver(const PanelDriver &) = delete;
   PanelDriver &operator=(const PanelDriver &) = delete;
 
   const std::string &kind() const noexcept { return kind_; }
-  /// For people; the kind when the panel has no name.
+  /// The name to show users; the kind if the panel has no name.
   const std::string &name() const noexcept { return name_; }
   /// PPD options that the panel handles.
   const std::vector<std::string> &optionKeys() const noexcept { return optionKeys_; }
   /// The panel's view; null for a panel without one, unless it has a placeholder.
   NSView *view() const noexcept { return view_; }
-  /// What a window shows in place of the view that the panel lacks. Retained.
+  /// Sets the view that a window shows if the panel has none. Retained.
   void setPlaceholder(NSView *view);
   bool hasView() const noexcept { return hasView_; }
   const std::string &pluginPath() const noexcept { return pluginPath_; }
 
   void willShow();
-  /// Has the panel write its values to the job's settings. None when it did; otherwise why not, as
-  /// a sentence with the panel's name and, where it gave a reason, its own words.
+  /// Makes the panel write its values to the job's settings. Returns none on success; otherwise a
+  /// sentence with the panel's name and the reason that the panel gave, if any.
   std::optional<std::string> save();
-  /// The same for reading its values from the job's settings.
+  /// The same, but the panel reads its values from the job's settings.
   std::optional<std::string> restore();
   /// False when the panel does not allow the job.
   bool mayPrint();

@@ -27,8 +27,8 @@ void checkOperations(id panel, const std::string &pluginPath) {
       throw Failure(ExitCode::Plugin, messages::panelWithoutOperation(pluginPath, operation));
 }
 
-/// Of an array, or of whatever a panel gave in its place.
-std::vector<std::string> textsOf(id array) {
+/// None if the panel returned something other than an array.
+std::vector<std::string> stringsIn(id array) {
   std::vector<std::string> texts;
   if (![array isKindOfClass:[NSArray class]])
     return texts;
@@ -44,7 +44,7 @@ void appendLine(NSDictionary *info, NSString *title, std::vector<SummaryLine> &l
     lines.push_back({toText(title), toText([value description])});
 }
 
-/// The ordered titles first, then those that the order forgot, by name.
+/// Titles in the panel's display order first, then the others by name.
 std::vector<SummaryLine> linesOf(id info) {
   std::vector<SummaryLine> lines;
   if (![info isKindOfClass:[NSDictionary class]])
@@ -66,8 +66,8 @@ std::vector<SummaryLine> linesOf(id info) {
   return lines;
 }
 
-/// Ends what is being typed in a field of the view, without the field's action: the field would
-/// send it as soon as it loses the focus.
+/// Ends editing in a field of the view without sending the field's action, which the field would
+/// send when it loses the focus.
 void abandonEditing(NSView *view) {
   id const focus = [[view window] firstResponder];
   if (![focus isKindOfClass:[NSText class]] || ![focus isDescendantOf:view])
@@ -77,7 +77,7 @@ void abandonEditing(NSView *view) {
     [field abortEditing];
 }
 
-/// A scroll view would keep a pointer to its document that has gone.
+/// A scroll view would keep a dangling pointer to its document view.
 void takeOut(NSView *view) {
   NSScrollView *const scroll = [view enclosingScrollView];
   if (scroll != nil && [scroll documentView] == view)
@@ -96,7 +96,7 @@ PanelDriver::PanelDriver(id panel, std::string pluginPath)
     guarded("panelKind", [this] { kind_ = toOptionalText([panel_ panelKind]).value_or(""); });
     guarded("panelName", [this] { name_ = toOptionalText([panel_ panelName]).value_or(""); });
     guarded("supportedPPDOptionKeys",
-            [this] { optionKeys_ = textsOf([panel_ supportedPPDOptionKeys]); });
+            [this] { optionKeys_ = stringsIn([panel_ supportedPPDOptionKeys]); });
     guarded("panelView", [this] { view_ = [[panel_ panelView] retain]; });
   } catch (const Failure &) {
     [(id)panel_ release];
@@ -110,7 +110,7 @@ PanelDriver::PanelDriver(id panel, std::string pluginPath)
 }
 
 PanelDriver::~PanelDriver() {
-  // A panel that raises here is gone anyway.
+  // The panel is being destroyed, so an exception changes nothing.
   whatIsRaisedBy([this] {
     abandonEditing(view_);
     takeOut(view_);

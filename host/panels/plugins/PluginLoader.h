@@ -12,7 +12,7 @@
 
 namespace imageposition {
 
-/// One loaded plug-in. Its code stays in the process for good.
+/// One loaded plug-in. Its code is never unloaded.
 class Plugin {
 public:
   /// Checks each step: that the path exists, that no other user could have changed what is there,
@@ -36,8 +36,8 @@ private:
 /// Loads each plug-in once, and keeps it.
 class LoadedPlugins {
 public:
-  /// The plug-in at `path`, which the first call loads. Throws the same `Failure` each time for one
-  /// that failed, without trying again: its code may be in the process already.
+  /// Returns the plug-in at `path`; the first call loads it. Does not retry a plug-in that failed,
+  /// because its code may already be in the process: throws the same `Failure` each time.
   Plugin &at(const std::string &path);
 
 private:

@@ -13,7 +13,7 @@ namespace imageposition {
 
 namespace {
 
-/// The type under which print dialogs ask for panels.
+/// The type with which print dialogs request panels.
 NSString *const kPrintDialogType = @"BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Plugin, message); }
@@ -24,7 +24,7 @@ void checkTrust(const std::string &path, const std::string &plugin) {
     refuse(messages::pluginUntrusted(plugin, *part));
 }
 
-/// Refuses code with which another user's could be loaded.
+/// Refuses code that could load code of another user.
 void checkLibraries(const std::string &code, const std::string &plugin) {
   const auto place = untrustedLibraryPlace(code, TrustedPeople::here());
   if (!place)
@@ -62,8 +62,8 @@ NSBundle *bundleAt(const std::string &path) {
   return bundle;
 }
 
-/// GNUstep writes the reason only to its log; the dynamic loader gives it again.
-std::string loadingTrouble(NSBundle *bundle) {
+/// GNUstep only logs the reason; loading the code again gets it from the dynamic loader.
+std::string loadError(NSBundle *bundle) {
   const char *reason = nullptr;
   if (dlopen(toText([bundle executablePath]).c_str(), RTLD_NOW | RTLD_LOCAL) == nullptr)
     reason = dlerror();
@@ -84,7 +84,7 @@ Class principalClassOf(NSBundle *bundle, const std::string &path) {
   if (raised)
     refuse(messages::pluginRaised(path, "load", *raised));
   if (!loaded)
-    refuse(messages::pluginNotLoadable(path, loadingTrouble(bundle)));
+    refuse(messages::pluginNotLoadable(path, loadError(bundle)));
   const Class principal = NSClassFromString(toString(*name));
   if (principal == Nil)
     refuse(messages::pluginWithoutClass(path, *name));
@@ -122,17 +122,17 @@ Plugin::~Plugin() {
 }
 
 std::vector<std::unique_ptr<PanelDriver>> Plugin::panels(id hostInfo) {
-  id answer = nil;
+  id result = nil;
   const auto raised = whatIsRaisedBy(
-      [&] { answer = [[plugin_ PDEPanelsForType:kPrintDialogType withHostInfo:hostInfo] retain]; });
+      [&] { result = [[plugin_ PDEPanelsForType:kPrintDialogType withHostInfo:hostInfo] retain]; });
   if (raised)
     refuse(messages::pluginRaised(path_, "PDEPanelsForType:withHostInfo:", *raised));
-  [answer autorelease];
-  if (![answer isKindOfClass:[NSArray class]])
+  [result autorelease];
+  if (![result isKindOfClass:[NSArray class]])
     refuse(messages::panelNotBuilt(path_));
   std::vector<std::unique_ptr<PanelDriver>> panels;
-  for (NSUInteger i = 0; i < [answer count]; i++)
-    panels.push_back(std::make_unique<PanelDriver>([answer objectAtIndex:i], path_));
+  for (NSUInteger i = 0; i < [result count]; i++)
+    panels.push_back(std::make_unique<PanelDriver>([result objectAtIndex:i], path_));
   return panels;
 }
 

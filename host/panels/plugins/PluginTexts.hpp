@@ -11,10 +11,10 @@ namespace imageposition::messages {
 
 std::string pluginMissing(const std::string &path);
 std::string pluginNotBundle(const std::string &path);
-/// `part` is the bundle, something in it, or a folder on the way.
+/// `part` is the bundle, something in it, or a folder on its path.
 std::string pluginWritable(const std::string &path, const std::string &part);
 std::string pluginOwnedByOthers(const std::string &path, const std::string &part);
-/// `part` is also a library's place that `pluginLoadsCode` is about.
+/// `part` may also be the place of a library, as in `pluginLoadsCode`.
 std::string pluginUnexamined(const std::string &path, const std::string &part,
                              const std::string &reason);
 /// `library` is the file that makes the loader look in `place`, which other users may change.
@@ -23,7 +23,7 @@ std::string pluginLoadsCode(const std::string &path, const std::string &library,
 /// The same for a place that depends on the current folder.
 std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &library,
                                     const std::string &place);
-/// The message of the above that fits `part`.
+/// Chooses the message above that fits `part`.
 std::string pluginUntrusted(const std::string &path, const UntrustedPart &part);
 extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
@@ -37,7 +37,7 @@ std::string panelNotBuilt(const std::string &path);
 std::string panelWithoutOperation(const std::string &path, const std::string &operation);
 std::string panelWithoutView(const std::string &path);
 std::string panelRefusedJob(const std::string &panel);
-/// `reason` is in the panel's own words; may be empty.
+/// `reason` comes from the panel and may be empty.
 std::string panelNotSaved(const std::string &panel, const std::string &reason);
 std::string panelNotRestored(const std::string &panel, const std::string &reason);
 

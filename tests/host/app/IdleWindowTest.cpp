@@ -1,4 +1,4 @@
-// A window that nobody uses leaves the processor alone.
+// An idle window uses almost no processor time.
 #include "WindowFixture.hpp"
 
 #include <fstream>
@@ -9,7 +9,7 @@ using namespace imageposition::test;
 
 class IdleWindow : public QueueWindow {
 protected:
-  /// How often the main thread has gone to sleep, and so been woken.
+  /// How often the main thread has slept, and so been woken.
   long wakes() const {
     const std::string id = std::to_string(dialogProcess->id());
     std::ifstream status("/proc/" + id + "/task/" + id + "/status");
@@ -21,7 +21,7 @@ protected:
   }
 };
 
-TEST_F(IdleWindow, WakesForThePrintersAlone) {
+TEST_F(IdleWindow, WakesOnlyForThePrinters) {
   openQueue();
   const auto isIdleForASecond = [&] {
     const long before = wakes();
@@ -29,11 +29,11 @@ TEST_F(IdleWindow, WakesForThePrintersAlone) {
     return wakes() == before;
   };
   ASSERT_TRUE(becomesTrue(isIdleForASecond));
-  constexpr int kSeconds = 10; // in which CUPS is asked two or three times
+  constexpr int kSeconds = 10; // in which the dialog queries CUPS two or three times
   int busySeconds = 0;
   for (int second = 0; second < kSeconds; second++)
     busySeconds += !isIdleForASecond();
-  EXPECT_LE(busySeconds, 6); // an answer may come in the second after its question
+  EXPECT_LE(busySeconds, 6); // a response may arrive in the second after its request
   EXPECT_GE(busySeconds, 1) << "CUPS is not asked";
 }
 

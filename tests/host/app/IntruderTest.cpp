@@ -1,5 +1,5 @@
-// What somebody else could hand the program to have GNUstep run their code: names of documents,
-// words of the command line, the environment, folders that others may write to.
+// Ways in which another user might make GNUstep run their code: names of documents, words of the
+// command line, the environment, and folders that others may write to.
 #include "DialogFixture.hpp"
 #include "OfficeQueue.hpp"
 #include "PlatformDefaults.hpp"
@@ -23,14 +23,14 @@ protected:
 
   std::string trace() const { return folder.path("trace"); }
 
-  /// In the folder, as a user who has unpacked the documents there.
+  /// Runs in the folder, like a user who has unpacked the documents there.
   ProcessResult print(const Words &words, const Words &environment = {}) const {
     Words all{"env", "-C", folder.path(), PRINT_DIALOG, "--batch", "-d", "office"};
     all.insert(all.end(), words.begin(), words.end());
     return runProcess(all, variablesWith(environment));
   }
 
-  /// As a user who names all files of the folder with a star.
+  /// Prints all files of the folder, like a user who types "*".
   ProcessResult printAll(const std::string &wordsBefore) const {
     return runProcess({"env", "-C", folder.path(), "sh", "-c",
                        "exec \"$0\" --batch -d office --dry-run " + wordsBefore + " *",
@@ -58,7 +58,7 @@ protected:
   const std::string pdf = contentOf(sample("two-sided.pdf"));
 };
 
-TEST_F(Intruder, DocumentsThatAreNamedLikeADefaultDoNotRunABundleBesideThem) {
+TEST_F(Intruder, DocumentsNamedLikeADefaultDoNotLoadABundleBesideThem) {
   putBundle(".h.bundle");
   const Words names{"-GSAppKitUserBundles", "(\".h.bundle\")", "a.pdf"};
   Words words{"-H", "hold", "--"};
@@ -72,21 +72,21 @@ TEST_F(Intruder, DocumentsThatAreNamedLikeADefaultDoNotRunABundleBesideThem) {
   cups->run({"cancel", "-a", "-x"});
 }
 
-TEST_F(Intruder, ADocumentThatIsNamedLikeADefaultDoesNotChooseTheTheme) {
+TEST_F(Intruder, ADocumentNamedLikeADefaultDoesNotChooseTheTheme) {
   const std::string theme = putBundle("x.theme");
   folder.write("-GSTheme", pdf);
   print({"--dry-run", "--", "-GSTheme", theme});
   EXPECT_FALSE(fs::exists(trace()));
 }
 
-TEST_F(Intruder, AnOptionsValueThatIsNamedLikeADefaultIsOnlyTheOptionsValue) {
+TEST_F(Intruder, AnOptionValueThatLooksLikeADefaultIsOnlyAnOptionValue) {
   putBundle(".h.bundle");
   folder.write("(\".h.bundle\")", pdf);
   for (const char *option : {"-t", "-o"})
     expectNoTrace(print({"--dry-run", option, "-GSAppKitUserBundles", "(\".h.bundle\")"}));
 }
 
-TEST_F(Intruder, DocumentsAndTitlesThatAreNamedLikeDefaultsReachCupsAsWithLp) {
+TEST_F(Intruder, DocumentsAndTitlesNamedLikeDefaultsReachCupsAsWithLp) {
   for (const char *name : {"-NSDraft", "-GSPlan", "--GNU-Debug=dflt", "a.pdf"})
     folder.write(name, pdf);
   const Words line{
@@ -103,7 +103,7 @@ TEST_F(Intruder, DocumentsAndTitlesThatAreNamedLikeDefaultsReachCupsAsWithLp) {
   cups->run({"cancel", "-a", "-x"});
 }
 
-TEST_F(Intruder, AFileThatIsNamedLikeAnOptionIsNotTakenForOne) {
+TEST_F(Intruder, AFileNamedLikeAnOptionIsNotMistakenForOne) {
   putBundle(".x.plugin");
   folder.write("a.pdf", pdf);
   for (const char *name : {"--plugin=.x.plugin", "--ticket=a.json", "-hevil.example:631", "-s"}) {
@@ -117,13 +117,13 @@ TEST_F(Intruder, AFileThatIsNamedLikeAnOptionIsNotTakenForOne) {
   }
 }
 
-TEST_F(Intruder, ALinkToNowhereThatIsNamedLikeAnOptionIsNotTakenForOne) {
+TEST_F(Intruder, ADanglingLinkNamedLikeAnOptionIsNotMistakenForOne) {
   folder.write("a.pdf", pdf);
   fs::create_symlink("nowhere", folder.path("-hevil.example:631"));
   EXPECT_EQ(printAll("").status, kUsage);
 }
 
-TEST_F(Intruder, AFileThatIsNamedLikeAnOptionIsADocumentBehindTwoDashes) {
+TEST_F(Intruder, AFileNamedLikeAnOptionIsADocumentAfterTwoDashes) {
   folder.write("--plugin=.x.plugin", pdf);
   folder.write("a.pdf", pdf);
   const auto result = printAll("--");
@@ -156,12 +156,12 @@ protected:
   }
 };
 
-TEST_F(Configuration, OfTheUsersOwnCounts) {
+TEST_F(Configuration, OfTheUserIsRead) {
   EXPECT_EQ(printWithIt().status, kDone);
   EXPECT_TRUE(fs::exists(trace()));
 }
 
-TEST_F(Configuration, InAFolderThatOthersMayWriteToDoesNotCount) {
+TEST_F(Configuration, InAFolderThatOthersMayWriteToIsIgnored) {
   for (const mode_t mode : {0777, 01777}) { // with the latter, others can add GlobalDefaults.plist
     chmod(folder.path("shared").c_str(), mode);
     const auto result = printWithIt();
@@ -170,7 +170,7 @@ TEST_F(Configuration, InAFolderThatOthersMayWriteToDoesNotCount) {
   }
 }
 
-TEST_F(Configuration, OfAnotherUserDoesNotCount) {
+TEST_F(Configuration, OfAnotherUserIsIgnored) {
   if (geteuid() != 0)
     return; // only root can give a file away
   const std::string file = folder.path("shared/GNUstep.conf");
@@ -186,7 +186,7 @@ TEST_F(Intruder, AVariableDoesNotChangeHowGnustepReadsNames) {
                       {"GNUSTEP_STRING_ENCODING=NSASCIIStringEncoding"}));
 }
 
-TEST_F(Intruder, ABundleOfTheUsersDefaultsIsLoadedOnlyIfNobodyElseMayChangeIt) {
+TEST_F(Intruder, ABundleInTheUserDefaultsIsLoadedOnlyIfNoOtherUserCanChangeIt) {
   const std::string bundle = putBundle("Mine.bundle");
   const PlatformDefaults defaults("GSAppKitUserBundles = (\"" + bundle + "\");");
   EXPECT_EQ(print({"--dry-run"}).status, kDone);
@@ -198,7 +198,7 @@ TEST_F(Intruder, ABundleOfTheUsersDefaultsIsLoadedOnlyIfNobodyElseMayChangeIt) {
   EXPECT_THAT(result.errors, HasSubstr("\"" + bundle + "\""));
 }
 
-TEST_F(Intruder, AThemeOfTheUsersDefaultsIsLoadedOnlyIfNobodyElseMayChangeIt) {
+TEST_F(Intruder, AThemeInTheUserDefaultsIsLoadedOnlyIfNoOtherUserCanChangeIt) {
   const std::string theme = putBundle("Mine.theme");
   const PlatformDefaults defaults("GSTheme = \"" + theme + "\";");
   chmod(theme.c_str(), 0777);

@@ -1,4 +1,4 @@
-// What print-dialog writes for people and for programs, and what becomes of it where nobody reads.
+// What print-dialog writes for users and for programs, and what happens if nobody can read it.
 #include "WindowFixture.hpp"
 
 #include <regex>
@@ -10,13 +10,13 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-/// Clears a terminal, goes back to the line's beginning, begins a command as one character, turns
-/// what follows round, and begins another line.
+/// Clears a terminal, returns to the start of the line, starts a control sequence with one
+/// character, reverses the following text, and starts another line.
 const std::string kHostile = "a\x1b[2J\rb\xC2\x9B"
                              "2Jc\xE2\x80\xAE"
                              "d\ne";
 
-/// Whether a terminal shows it as it is, line by line.
+/// Whether a terminal shows the output unchanged, line by line.
 bool isHarmless(const std::string &text) {
   return !std::regex_search(
       text, std::regex("[\\x01-\\x08\\x0B-\\x1F\\x7F]|\xC2[\x80-\x9F]|\xE2\x80[\xAA-\xAE]"));
@@ -28,7 +28,7 @@ protected:
     text.replace(text.find(what), what.size(), with);
     return text;
   }
-  /// A printer whose names are hostile; libcups takes an option's only in hexadecimal digits.
+  /// A printer whose names are hostile; libcups accepts an option's only in hexadecimal digits.
   std::string hostilePpd() const {
     std::string ppd = contentOf(sample("duplex-shift.ppd"));
     ppd = replaced(ppd, "/Two-Sided", "/Two<1B5B324A0A0D9B>Sided");
@@ -82,16 +82,16 @@ TEST_F(Output, OfSettingsIsExactForAProgramAndHarmlessOnATerminal) {
   EXPECT_THAT(shown.output, Not(HasSubstr("\x1b[2J")));
 }
 
-TEST_F(Output, OfSettingsIsAFailureWhereItsDescriptorIsClosed) {
+TEST_F(Output, OfSettingsFailsIfItsDescriptorIsClosed) {
   const auto result =
       runProcess({"/bin/sh", "-c", "exec \"$0\" --batch --ppd \"$1\" >&-", PRINT_DIALOG, shift});
   EXPECT_EQ(result.status, kTicket);
   EXPECT_THAT(result.errors, HasSubstr("--ticket"));
 }
 
-/// Without its standard descriptors the program would get others in their places, such as the
-/// connection to the display, and write its messages there.
-TEST_F(Window, WithoutStandardDescriptorsHasNothingElseInTheirPlaces) {
+/// If the standard descriptors were closed, other files such as the connection to the display would
+/// take their numbers and receive the program's messages.
+TEST_F(Window, DoesNotReuseClosedStandardDescriptors) {
   const std::string closed[] = {"<&-", ">&-", "2>&-", "<&- 2>&-", "<&- >&- 2>&-"};
   for (const std::string &redirections : closed) {
     SCOPED_TRACE(redirections);
@@ -105,7 +105,7 @@ TEST_F(Window, WithoutStandardDescriptorsHasNothingElseInTheirPlaces) {
       EXPECT_THAT(place.string(), Not(HasSubstr("socket"))) << name;
     }
     goTo(kCopies);
-    type("x"); // of which the window says something, also on standard error
+    type("x"); // which the window reports on standard error, too
     press({"Return", "ctrl+a"});
     type("2");
     press({"Return"});
@@ -117,7 +117,7 @@ TEST_F(Window, WithoutStandardDescriptorsHasNothingElseInTheirPlaces) {
 
 class OutputOfAJob : public WithOfficeQueue<Output> {
 protected:
-  /// Of a shell that runs the program with `redirection`, its words and the document.
+  /// Runs the program in a shell with `redirection`, its words and the document.
   ProcessResult printTo(const std::string &redirection, const std::string &words = "") const {
     return runProcess({"/bin/bash", "-c",
                        "exec {gone}> >(exit); wait $!; exec \"$0\" --batch -d office -H hold " +
@@ -128,8 +128,8 @@ protected:
   std::string jobs() const { return cups->run({"lpstat", "-o"}).output; }
 };
 
-/// A script that took a failure for the job's would print it again.
-TEST_F(OutputOfAJob, IsNoFailureWhereNobodyCanReadIt) {
+/// A script that saw a failure would print the job again.
+TEST_F(OutputOfAJob, DoesNotFailTheJobIfItCannotBeWritten) {
   for (const char *redirection : {">/dev/full", ">&-", ">&$gone"})
     for (const char *words : {"", "--summary"}) {
       SCOPED_TRACE(std::string(redirection) + words);
@@ -143,7 +143,7 @@ TEST_F(OutputOfAJob, IsNoFailureWhereNobodyCanReadIt) {
     }
 }
 
-TEST_F(OutputOfAJob, IsNoFailureWhereNobodyCanReadWhatIsSaidOfIt) {
+TEST_F(OutputOfAJob, DoesNotFailTheJobIfErrorsCannotBeWrittenEither) {
   for (const char *redirection : {">&$gone 2>&$gone", ">/dev/full 2>/dev/full", ">&- 2>&-"}) {
     SCOPED_TRACE(redirection);
     EXPECT_EQ(printTo(redirection, "--set FrontLRM=9999").status, kDone);
@@ -152,7 +152,7 @@ TEST_F(OutputOfAJob, IsNoFailureWhereNobodyCanReadWhatIsSaidOfIt) {
   }
 }
 
-TEST_F(OutputOfAJob, IsNotMissedInSilence) {
+TEST_F(OutputOfAJob, ReportsThatItCannotBeWritten) {
   const auto result = printTo(">/dev/full", "-s");
   EXPECT_EQ(result.status, kDone);
   EXPECT_THAT(result.errors, IsEmpty());

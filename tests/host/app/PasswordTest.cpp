@@ -1,4 +1,4 @@
-// A CUPS that wants a password.
+// A CUPS server that requires a password.
 #include "AskingCups.hpp"
 #include "WindowFixture.hpp"
 
@@ -26,7 +26,7 @@ TEST_F(PasswordWindow, CancelLeavesTheDialogOpenAndNothingPrinted) {
   ASSERT_TRUE(becomesTrue([] { return hasKeyboard(); }));
   ASSERT_TRUE(says("ancel"));
   EXPECT_FALSE(dialogProcess->hasEnded());
-  press({"Return"}); // and it can be tried again
+  press({"Return"}); // the user can try again
   ASSERT_TRUE(isAsked());
   press({"Escape"});
   ASSERT_TRUE(says("ancelled. Nothing was printed.\nCancelled"));
@@ -75,8 +75,8 @@ TEST_F(PasswordWindow, AWrongPasswordIsAskedForAgain) {
   EXPECT_EQ(ended().status, kCancelled);
 }
 
-/// What print-dialog writes on a terminal where somebody types the password that libcups asks for
-/// there, since the printer's description is only for users that the CUPS at `host` knows.
+/// What print-dialog writes on a terminal where the user types the password that libcups asks for.
+/// The CUPS server at `host` gives the printer's description only to users that it knows.
 class PasswordOnATerminal : public DialogFixture {
 protected:
   std::string terminal(const std::string &host) const {
@@ -92,7 +92,7 @@ protected:
   }
 };
 
-TEST_F(PasswordOnATerminal, IsWarnedOfWhereItCanBeReadOnTheWay) {
+TEST_F(PasswordOnATerminal, CausesAWarningIfOthersCanReadItOnTheNetwork) {
   const std::string said = terminal(networkAddress());
   const std::size_t warning = said.find("not encrypted");
   ASSERT_NE(warning, std::string::npos) << said;
@@ -100,10 +100,10 @@ TEST_F(PasswordOnATerminal, IsWarnedOfWhereItCanBeReadOnTheWay) {
   EXPECT_THAT(said, testing::HasSubstr(networkAddress()));
   EXPECT_THAT(said, testing::HasSubstr("-E"));
   EXPECT_EQ(said.find("not encrypted", warning + 1), std::string::npos) << said;
-  EXPECT_THAT(said, testing::HasSubstr("PageSize:")); // and the password is taken
+  EXPECT_THAT(said, testing::HasSubstr("PageSize:")); // the password is accepted
 }
 
-TEST_F(PasswordOnATerminal, IsNotWarnedOfWhereItStaysOnTheMachine) {
+TEST_F(PasswordOnATerminal, CausesNoWarningIfItStaysOnTheMachine) {
   const std::string said = terminal("127.0.0.1");
   EXPECT_THAT(said, testing::HasSubstr("Password for"));
   EXPECT_THAT(said, testing::Not(testing::HasSubstr("not encrypted")));

@@ -15,7 +15,7 @@ protected:
   const std::string temporary = folder.path("temporary");
   const std::string secure = temporary + "/GNUstepSecure" + std::to_string(geteuid());
 
-  /// As /tmp is.
+  /// With the permissions of /tmp.
   void makeTemporaryFolder() const {
     std::filesystem::create_directory(temporary);
     chmod(temporary.c_str(), 01777);
@@ -23,7 +23,7 @@ protected:
 
   void openWithTemporaryFolder() { open("duplex-shift.ppd", {}, {"TEMP=" + temporary}); }
 
-  /// Presses the key in a field with a value; the panel is there to print it afterwards.
+  /// Presses the key in a field with a value; afterwards the panel can still print it.
   void expectTroubleOnly(const std::string &key, const std::string &trouble) {
     type("42");
     press({"ctrl+a", key});
@@ -35,7 +35,7 @@ protected:
   }
 };
 
-TEST_F(Pasteboard, WhoseFolderBelongsToAnotherUserCostsNoPanel) {
+TEST_F(Pasteboard, WhoseFolderBelongsToAnotherUserDisablesNoPanel) {
   if (geteuid() != 0)
     return; // only root can give a folder away
   makeTemporaryFolder();
@@ -48,7 +48,7 @@ TEST_F(Pasteboard, WhoseFolderBelongsToAnotherUserCostsNoPanel) {
   }
 }
 
-TEST_F(Pasteboard, WithoutAFolderForItCostsNoPanel) {
+TEST_F(Pasteboard, WithoutAFolderDisablesNoPanel) {
   for (const char *key : {"ctrl+c", "ctrl+x", "ctrl+v"}) {
     SCOPED_TRACE(key);
     openWithTemporaryFolder();
@@ -56,7 +56,7 @@ TEST_F(Pasteboard, WithoutAFolderForItCostsNoPanel) {
   }
 }
 
-TEST_F(Pasteboard, WhoseServerIsNotInstalledKeepsWhatWouldBeCut) {
+TEST_F(Pasteboard, WhoseServerIsNotInstalledKeepsTheTextToCut) {
   const std::string configuration =
       folder.write("GNUstep.conf", contentOf(std::getenv("GNUSTEP_CONFIG_FILE")) +
                                        "GNUSTEP_SYSTEM_TOOLS=/nonexistent\n");

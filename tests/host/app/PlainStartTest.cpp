@@ -1,5 +1,5 @@
-// What needs neither a window nor a panel is done without GNUstep, whose start takes most of the
-// time that a program of it takes.
+// Commands that need neither a window nor a panel do not load GNUstep, which takes most of a
+// program's startup time.
 #include "DialogFixture.hpp"
 
 namespace {
@@ -11,13 +11,13 @@ using testing::Not;
 
 class PlainStart : public DialogFixture {
 protected:
-  /// The dynamic loader says on standard error which libraries it loads, whenever it does.
+  /// The dynamic loader reports each library that it loads on standard error.
   ProcessResult traced(const Words &words) const { return dialog(words, {"LD_DEBUG=files"}); }
 
   const std::string printer = sample("duplex-shift.ppd");
 };
 
-TEST_F(PlainStart, LoadsNoGnustepForWhatNeedsNoWindowAndNoPanel) {
+TEST_F(PlainStart, DoesNotLoadGnustepWithoutAWindowOrPanel) {
   const struct {
     Words words;
     int status;

@@ -1,4 +1,4 @@
-// Printers of a CUPS that the test runs.
+// Printers of a private CUPS server.
 #include "DialogFixture.hpp"
 #include "OfficeQueue.hpp"
 
@@ -34,7 +34,7 @@ TEST_F(Queue, ItsDescriptionComesFromCups) {
   EXPECT_THAT(contentOf(folder.path("job.json")), HasSubstr("\"printer\": \"office\""));
 }
 
-TEST_F(Queue, ItsDefaultsAreMarkedAndTheJobsOptionsOverThem) {
+TEST_F(Queue, TheJobsOptionsOverrideItsDefaults) {
   cups->run({"lpadmin", "-p", "office", "-o", "Duplex=None"});
   EXPECT_EQ(print("office", {"--set", "FrontLRM=-3"}).status, kValue);
   const auto result = print("office", {"-o", "Duplex=DuplexTumble", "--set", "FrontLRM=-3"});
@@ -42,14 +42,14 @@ TEST_F(Queue, ItsDefaultsAreMarkedAndTheJobsOptionsOverThem) {
   EXPECT_THAT(settingsIn(result.output), Contains(Pair("Duplex", "DuplexTumble")));
 }
 
-TEST_F(Queue, AnInstancesDefaultsAreItsOwn) {
+TEST_F(Queue, AnInstanceHasSeparateDefaults) {
   cups->run({"lpoptions", "-p", "office/single", "-o", "Duplex=None"});
   EXPECT_EQ(print("office", {"--set", "FrontLRM=-3"}).status, kDone);
   EXPECT_EQ(print("office/single", {"--set", "FrontLRM=-3"}).status, kValue);
   cups->run({"lpoptions", "-x", "office/single"});
 }
 
-TEST_F(Queue, AnInstancesOffsetOutOfRangeBecomesTheNearestAndIsNamed) {
+TEST_F(Queue, AnInstancesOffsetOutOfRangeIsLimitedAndReported) {
   cups->run({"lpoptions", "-p", "office/far", "-o", "LeftRightMargin=Custom.400", "-o",
              "TopBottomMargin=-7"});
   const auto result = print("office/far", {});
@@ -58,7 +58,7 @@ TEST_F(Queue, AnInstancesOffsetOutOfRangeBecomesTheNearestAndIsNamed) {
   cups->run({"lpoptions", "-x", "office/far"});
 }
 
-TEST_F(Queue, TheTicketsOptionFormIsWhatLpTakes) {
+TEST_F(Queue, LpAcceptsTheOptionsInTheTicket) {
   print("office", {"--set", "FrontLRM=-3", "--back", "on", "--ticket", folder.path("job.json")});
   const std::string options = contentOf(folder.path("job.options"));
   const auto sent = cups->run({"lp", "-d", "office", "-o", options, sample("two-sided.pdf")});
@@ -66,20 +66,20 @@ TEST_F(Queue, TheTicketsOptionFormIsWhatLpTakes) {
   EXPECT_THAT(sent.output, HasSubstr("request id is office-"));
 }
 
-TEST_F(Queue, OneThatIsNotThereIsNamedWithWhereToLook) {
+TEST_F(Queue, AnErrorNamesAMissingOneAndWhereToLook) {
   const auto result = print("attic", {});
   EXPECT_EQ(result.status, kPrinter);
   EXPECT_THAT(result.errors, HasSubstr("\"attic\""));
   EXPECT_THAT(result.errors, HasSubstr("lpstat -e"));
 }
 
-TEST_F(Queue, OneWithoutADescriptionIsNamed) {
+TEST_F(Queue, AnErrorNamesOneWithoutADescription) {
   cups->run({"lpadmin", "-p", "plain", "-E", "-v", "file:///dev/null", "-m", "raw"});
   EXPECT_EQ(print("plain", {}).status, kPrinter);
   cups->run({"lpadmin", "-x", "plain"});
 }
 
-TEST_F(Queue, NothingOfItsDescriptionIsLeftBehind) {
+TEST_F(Queue, LeavesNoCopyOfItsDescriptionBehind) {
   print("office", {});
   TemporaryFolder empty;
   const auto result =
@@ -95,7 +95,7 @@ int jobIn(const std::string &output) {
   return dash == std::string::npos ? 0 : std::atoi(output.c_str() + dash + 7);
 }
 
-TEST_F(Queue, AnswersAsLpDoes) {
+TEST_F(Queue, ReportsTheJobAsLpDoes) {
   const std::string document = sample("two-sided.pdf");
   const Words lp{"lp", "-d", "office", "-H", "hold", "-t", "a", document, document};
   const auto theirs = cups->run(lp);
@@ -108,7 +108,7 @@ TEST_F(Queue, AnswersAsLpDoes) {
   cups->run({"cancel", "-a", "-x"});
 }
 
-/// A time of day at which no hold ends soon; names such as "night" say nothing at night.
+/// A time of day at which no hold ends soon; a name such as "night" does not hold a job at night.
 std::string halfADayFromNow() {
   const std::time_t then = std::time(nullptr) + 12 * 60 * 60;
   char text[sizeof "23:59"];
@@ -116,7 +116,7 @@ std::string halfADayFromNow() {
   return text;
 }
 
-TEST_F(Queue, AJobIsToCupsWhatLpsIs) {
+TEST_F(Queue, SendsCupsTheSameJobAsLp) {
   const std::string document = sample("two-sided.pdf");
   const std::vector<Words> lines = {
       {document},
@@ -143,7 +143,7 @@ TEST_F(Queue, AJobIsToCupsWhatLpsIs) {
   }
 }
 
-TEST_F(Queue, SilenceAndMailSayNothingOfTheJob) {
+TEST_F(Queue, WritesNothingAboutTheJobWithSilenceOrMail) {
   const std::string document = sample("two-sided.pdf");
   for (const char *option : {"-s", "-m"}) {
     const auto result = print("office", {option, "-H", "hold", document});
@@ -154,7 +154,7 @@ TEST_F(Queue, SilenceAndMailSayNothingOfTheJob) {
   }
 }
 
-TEST_F(Queue, AServerThatIsNamedServesTheWholeProgram) {
+TEST_F(Queue, TheWholeProgramUsesTheNamedServer) {
   const auto result = dialog(
       {"--batch", "-h", cups->socket(), "-d", "office", "-H", "hold", sample("two-sided.pdf")},
       {"CUPS_SERVER=/nonexistent/cups.sock"});
@@ -162,7 +162,7 @@ TEST_F(Queue, AServerThatIsNamedServesTheWholeProgram) {
   cups->run({"cancel", "-a", "-x"});
 }
 
-/// The sockets that a process has open, as the system numbers them.
+/// The inode numbers of the sockets that a process has open.
 std::set<std::string> socketsOf(const std::string &process) {
   std::set<std::string> numbers;
   std::error_code gone;
@@ -194,10 +194,10 @@ std::string displayStartedBy(pid_t process) {
   return {};
 }
 
-TEST_F(Queue, ADisplayOfItsOwnIsNobodyElses) {
+TEST_F(Queue, APrivateDisplayRefusesOtherPrograms) {
   Words environment = cups->environment();
   environment.emplace_back("DISPLAY");
-  // It waits for its document with the panel made.
+  // It waits for its document after creating the panel.
   Process waiting(
       {"/bin/bash", "-c", "exec \"$0\" --batch -d office - < <(exec sleep 60)", PRINT_DIALOG},
       environment);

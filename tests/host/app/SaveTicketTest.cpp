@@ -18,7 +18,7 @@ protected:
   static bool isAsked() {
     return becomesTrue([] { return isFocused("Save as ticket"); });
   }
-  /// In place of the suggestion, which is selected.
+  /// Replaces the suggestion, which is selected.
   static void save(const std::string &path) {
     press({"ctrl+a"});
     type(path);
@@ -43,7 +43,7 @@ TEST_F(SaveTicket, CancelGoesBackToTheDialog) {
   EXPECT_EQ(folder.fileCount(), 0U);
 }
 
-TEST_F(SaveTicket, AnotherPlaceCanBeNamedWhereOneCannotBeWritten) {
+TEST_F(SaveTicket, AnotherPathCanBeEnteredIfOneCannotBeWritten) {
   save("/nonexistent/job.json");
   ASSERT_TRUE(says("Cannot write "));
   ASSERT_TRUE(becomesTrue([] { return hasKeyboard(); }));
@@ -54,7 +54,7 @@ TEST_F(SaveTicket, AnotherPlaceCanBeNamedWhereOneCannotBeWritten) {
   EXPECT_THAT(printed(), Contains(Pair("LeftRightMargin", "-3")));
 }
 
-TEST_F(SaveTicket, AFileThatIsThereIsReplacedOnlyWhenThePersonSaysSo) {
+TEST_F(SaveTicket, AnExistingFileIsReplacedOnlyIfTheUserConfirms) {
   folder.write("job.json", "mine");
   save(ticket);
   ASSERT_TRUE(becomesTrue([] { return isFocused("Replace"); }));

@@ -1,4 +1,5 @@
-// Options whose values IPP or CUPS keeps secret by their names, in all that print-dialog writes.
+// Options whose names mark their values as secret in IPP or CUPS, in everything that print-dialog
+// writes.
 #include "DialogFixture.hpp"
 #include "OfficeQueue.hpp"
 
@@ -49,7 +50,7 @@ TEST_F(Secret, IsHiddenUnderNamesThatPrinterMakersUse) {
         << name;
 }
 
-TEST_F(Secret, OfTheQueuesOwnDefaultsOrOfAnInstanceIsHiddenInADryRun) {
+TEST_F(Secret, InTheDefaultsOfAQueueOrInstanceIsHiddenInADryRun) {
   cups->run({"lpoptions", "-p", "office", "-o", "job-password=hunter2"});
   cups->run({"lpoptions", "-p", "office/private", "-o", "auth-info=mary,hunter2"});
   for (const char *queue : {"office", "office/private"}) {
@@ -61,7 +62,7 @@ TEST_F(Secret, OfTheQueuesOwnDefaultsOrOfAnInstanceIsHiddenInADryRun) {
   cups->run({"lpoptions", "-x", "office"});
 }
 
-TEST_F(Secret, InATicketIsForTheTicketsOwnerAlone) {
+TEST_F(Secret, InATicketIsReadableOnlyByTheOwner) {
   const std::string ticket = folder.write("job.json", "{\"settings\": {}}");
   chmod(ticket.c_str(), 0644);
   const auto result = batchOn("office", {"--ticket", ticket, "-o", "Auth-Info=mary,hunter2", "-s"});
@@ -74,14 +75,14 @@ TEST_F(Secret, InATicketIsForTheTicketsOwnerAlone) {
   }
 }
 
-TEST_F(Secret, IsNotRepeatedWhereWhatStandsBesideItIsNoOption) {
+TEST_F(Secret, IsNotRepeatedInAnErrorAboutTheWordBesideIt) {
   const auto result = batchOn("office", {"-o", "auth-info=mary,hunter2 caf\u00e9=1"});
   EXPECT_EQ(result.status, kUsage);
   EXPECT_THAT(result.errors, HasSubstr("caf\u00e9"));
   EXPECT_THAT(result.errors, Not(HasSubstr("hunter2")));
 }
 
-TEST_F(Secret, IsNotRepeatedWhereATicketBreaksOff) {
+TEST_F(Secret, IsNotRepeatedInAnErrorAboutATruncatedTicket) {
   const auto result = batchOn(
       "office", {"--ticket", folder.write("job.json", R"({"settings":{"auth-info":"hunter2)")});
   EXPECT_EQ(result.status, kTicket);

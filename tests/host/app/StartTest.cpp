@@ -1,4 +1,4 @@
-// What the dialog leaves out or puts off at its start, and nobody misses.
+// What the dialog skips or postpones at startup without a visible effect.
 #include "WindowFixture.hpp"
 
 namespace {
@@ -12,7 +12,7 @@ protected:
     return id.substr(0, id.find('\n'));
   }
 
-  /// The line that is a whole number and nothing else, among a server's remarks.
+  /// The line of a server's output that is only a whole number.
   static std::string numberLine(const std::string &text) {
     std::istringstream lines(text.substr(0, text.rfind('\n') + 1));
     for (std::string line; std::getline(lines, line);)
@@ -21,7 +21,7 @@ protected:
     return {};
   }
 
-  /// A property's numbers, as xprop writes them after the sign.
+  /// The numbers of a property, which xprop writes after the equals sign.
   static std::vector<int> numbersOf(const Words &window, const std::string &property) {
     Words words{"xprop"};
     words.insert(words.end(), window.begin(), window.end());
@@ -35,7 +35,7 @@ protected:
   }
 };
 
-/// With a keyboard that has keys for accents.
+/// Uses a keyboard with dead keys for accents.
 class AccentKeys : public Start {
 protected:
   void SetUp() override {
@@ -47,8 +47,7 @@ protected:
 
 TEST_F(AccentKeys, TheVeryFirstKeyIsComposedWithTheSecond) {
   open("duplex-shift.ppd", {}, utf8);
-  press(
-      {"dead_acute", "1", "2", "Return"}); // there is no accent for a digit, which is lost with it
+  press({"dead_acute", "1", "2", "Return"}); // no digit has an accent: both are dropped
   EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
   EXPECT_EQ(printed(), offsets("2", "0", "0", "0", "False"));
 }
@@ -59,7 +58,7 @@ TEST_F(AccentKeys, AnAccentAndALetterAreOneCharacter) {
   EXPECT_TRUE(says("\"é\"")) << dialogProcess->errorsSoFar();
 }
 
-TEST_F(Start, TheFirstProgramOnADisplayKnowsTheFramesThatWindowsGet) {
+TEST_F(Start, TheFirstProgramOnADisplayKnowsTheFramesOfWindows) {
   runProcess({"xprop", "-root", "-remove", "_GNUSTEP_FRAME_OFFSETS"});
   open("duplex-shift.ppd");
   const auto frame = numbersOf({"-id", windowId()}, "_NET_FRAME_EXTENTS");
@@ -78,11 +77,11 @@ TEST_F(Start, NoOtherProgramIsStarted) {
   EXPECT_EQ(mine.output, "");
 }
 
-TEST_F(Start, ADocumentThatIsNamedBeforeAllElseIsTheDialogsToPrint) {
+TEST_F(Start, ADocumentNamedFirstIsPrinted) {
   start({sample("two-sided.pdf"), "--ppd", sample("duplex-shift.ppd"), "--ticket", ticket}, {});
 }
 
-TEST_F(Start, WithoutAWindowManagerTheWindowStandsInTheMiddle) {
+TEST_F(Start, WithoutAWindowManagerTheWindowIsCentred) {
   Process server({"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
   std::string display;
   ASSERT_TRUE(becomesTrue([&] {

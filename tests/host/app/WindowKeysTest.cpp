@@ -1,4 +1,4 @@
-// Every control of the window by its key.
+// Keyboard access to every control of the window.
 #include "WindowFixture.hpp"
 
 namespace {
@@ -18,7 +18,7 @@ TEST_F(WindowKeys, AltAndALetterGivesAFieldTheFocus) {
   EXPECT_THAT(printed(), Contains(Pair("copies", "3")));
 }
 
-TEST_F(WindowKeys, TheFieldThatIsLeftByALetterTakesItsText) {
+TEST_F(WindowKeys, AFieldThatLosesTheFocusToALetterCommitsItsText) {
   open("duplex-shift.ppd");
   type("-3");
   press({"alt+c", "Return"});
@@ -47,14 +47,14 @@ TEST_F(WindowKeys, AltAndALetterSwitchesACheckbox) {
               Contains(Pair("multiple-document-handling", "separate-documents-collated-copies")));
 }
 
-TEST_F(WindowKeys, TheArrowKeysCountTheCopies) {
+TEST_F(WindowKeys, TheArrowKeysChangeTheCopies) {
   open("duplex-shift.ppd");
   press({"alt+c", "Up", "Up", "Up", "Down", "Return"});
   EXPECT_EQ(ended().status, kDone);
   EXPECT_THAT(printed(), Contains(Pair("copies", "3")));
 }
 
-TEST_F(WindowKeys, ThereIsNoLessThanOneCopy) {
+TEST_F(WindowKeys, TheCopiesStopAtOne) {
   open("duplex-shift.ppd");
   press({"alt+c", "Up", "Down", "Down", "Return"});
   EXPECT_EQ(ended().status, kDone);

@@ -15,7 +15,7 @@ using testing::Pair;
 
 namespace fs = std::filesystem;
 
-TEST_F(Window, ReturnTakesWhatIsBeingTypedAndPrints) {
+TEST_F(Window, ReturnCommitsTheTypedTextAndPrints) {
   open("duplex-shift.ppd");
   type("-3");
   press({"Return"});
@@ -23,7 +23,7 @@ TEST_F(Window, ReturnTakesWhatIsBeingTypedAndPrints) {
   EXPECT_EQ(printed(), offsets("-3", "0", "0", "0", "False"));
 }
 
-TEST_F(Window, TabLeadsFromFieldToField) {
+TEST_F(Window, TabMovesFromFieldToField) {
   open("duplex-shift.ppd");
   type("-3");
   press({"Tab"});
@@ -41,7 +41,7 @@ TEST_F(Window, ControlKeysCopyAndPaste) {
   EXPECT_EQ(printed(), offsets("42", "42", "0", "0", "False"));
 }
 
-TEST_F(Window, ControlXTakesTheTextAway) {
+TEST_F(Window, ControlXRemovesTheText) {
   open("duplex-shift.ppd");
   type("42");
   press({"ctrl+a", "ctrl+x", "Tab", "ctrl+v", "Return"});
@@ -87,7 +87,7 @@ TEST_F(Window, ATicketsValuesAreShownAndKept) {
   EXPECT_EQ(printed(), offsets("9", "4", "0", "0", "True"));
 }
 
-TEST_F(Window, APrinterWithoutAPanelIsPrintedOnAllTheSame) {
+TEST_F(Window, APrinterWithoutAPanelPrints) {
   open("duplex-plain.ppd", {"-o", "MediaType=Heavy"});
   EXPECT_TRUE(says("No plug-in has a panel for this printer."));
   press({"Return"});
@@ -162,7 +162,7 @@ TEST_F(Window, APluginThatCannotBeLoadedIsNamedAndTheDialogGoesOn) {
   EXPECT_EQ(ended().status, kDone);
 }
 
-TEST_F(Window, TurningTwoSidedOffGoesIntoTheJobAndSwitchesThePanelOff) {
+TEST_F(Window, TurningTwoSidedOffChangesTheJobAndDisablesThePanel) {
   open("duplex-shift.ppd");
   goTo(kTwoSided);
   press({"space", "Up", "Return"});
@@ -187,7 +187,7 @@ TEST_F(Window, CopiesAreTypedAndMistakesKeepTheDialogOpen) {
   EXPECT_THAT(printed(), Contains(Pair("copies", "3")));
 }
 
-TEST_F(Window, ARangeOfPagesIsTypedAndSentAsCupsReadsIt) {
+TEST_F(Window, ATypedRangeOfPagesIsSentInTheFormatOfCups) {
   open("duplex-shift.ppd");
   goTo(kPages);
   press({"space", "Down", "Down", "Down", "Return"}); // the entry field has the focus then
@@ -197,7 +197,7 @@ TEST_F(Window, ARangeOfPagesIsTypedAndSentAsCupsReadsIt) {
   EXPECT_THAT(printed(), Contains(Pair("page-ranges", "\"1-3,7\"")));
 }
 
-TEST_F(Window, OddPagesAreThoseOfARange) {
+TEST_F(Window, OddPagesApplyToARange) {
   open("duplex-shift.ppd");
   goTo(kPages);
   press({"space", "Down", "Return", "Tab"});
@@ -229,7 +229,7 @@ TEST_F(Window, AConflictIsResolvedByItsButton) {
   EXPECT_THAT(printed(), Contains(Pair("Duplex", "None")));
 }
 
-TEST_F(QueueWindow, PrintHandsTheJobToCups) {
+TEST_F(QueueWindow, PrintSendsTheJobToCups) {
   openQueue();
   type("-3");
   press({"Return"});
@@ -246,7 +246,7 @@ TEST_F(QueueWindow, ADryRunShowsWhatCupsWouldBeSent) {
   EXPECT_EQ(cups->run({"lpstat", "-W", "not-completed", "-o"}).output, "");
 }
 
-TEST_F(QueueWindow, AQueueDeletedMeanwhileIsASentenceAndTheDialogStays) {
+TEST_F(QueueWindow, AQueueDeletedMeanwhileIsReportedAndTheDialogStays) {
   openQueue();
   type("-3");
   ASSERT_EQ(cups->run({"lpadmin", "-x", "office"}).status, 0);
@@ -278,7 +278,7 @@ TEST_F(QueueWindow, ASavedPresetIsOneThatCupsKnows) {
   EXPECT_THAT(result.output, HasSubstr("-3"));
 }
 
-TEST_F(Window, WithLargeTextItIsNoLargerThanTheScreen) {
+TEST_F(Window, WithLargeTextFitsTheScreen) {
   open("duplex-shift.ppd", {}, {"PRINT_DIALOG_TEXT_SCALE=1.5"});
   const auto numbers = [](const std::string &text) {
     std::istringstream stream(text);

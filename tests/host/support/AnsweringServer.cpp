@@ -19,7 +19,7 @@ namespace {
 constexpr int kMostRequests = 64;
 constexpr std::size_t kLongest = 1 << 17;
 
-/// Big-endian, as IPP has them.
+/// Big-endian, as in IPP.
 std::string bytes(std::uint32_t number, int count) {
   std::string result;
   for (int shift = 8 * (count - 1); shift >= 0; shift -= 8)
@@ -45,7 +45,7 @@ std::string valueFor(unsigned tag, const std::string &text) {
   return text;
 }
 
-/// The first word of a text, which is taken off.
+/// Removes and returns the first word of a string.
 std::string takeWord(std::string &text) {
   const std::size_t end = std::min(text.find(' '), text.size());
   const std::string word = text.substr(0, end);
@@ -57,14 +57,14 @@ std::size_t sizeIn(const std::string &text) {
   return std::min<std::size_t>(std::strtoul(text.c_str(), nullptr, 10), kLongest);
 }
 
-/// One answer, line by line.
+/// Builds an answer line by line.
 class Writer {
 public:
   explicit Writer(std::string line) {
     const std::size_t status = sizeIn(takeWord(line));
     answer_.head = "HTTP/1.1 " + std::to_string(status) + " OK\r\n";
     answer_.operation = static_cast<unsigned>(std::strtoul(line.c_str(), nullptr, 16));
-    answer_.isHonest = status >= 200; // after others one more would follow
+    answer_.isHonest = status >= 200; // another response would follow a 1xx status
   }
 
   void add(std::string line) {
@@ -117,7 +117,7 @@ public:
 private:
   void addHeader(const std::string &line) {
     answer_.head += line + "\r\n";
-    answer_.isHonest = false; // it can be about the length
+    answer_.isHonest = false; // it may change the length
   }
   void addAttribute(const std::string &word, std::string line) {
     constexpr unsigned kFirstValueTag = 0x10;
@@ -154,7 +154,7 @@ private:
   Answer answer_;
   std::uint32_t status_ = 0;
   std::string groups_;
-  std::string start_, value_, attribute_; // of the last one
+  std::string start_, value_, attribute_; // of the last attribute
   std::string body_, length_;
   std::size_t cut_ = 0, chunk_ = 0;
   bool isSilent_ = false;
@@ -171,12 +171,12 @@ bool sendAll(int descriptor, const std::string &text) {
 }
 
 struct Request {
-  std::size_t size = 0; // 0 while it is not all there
+  std::size_t size = 0; // 0 while it is incomplete
   unsigned operation = 0;
-  bool isWaiting = false; // for word to go on
+  bool isWaiting = false; // for 100 Continue
 };
 
-/// As far as libcups writes them.
+/// Parses only what libcups writes.
 Request requestIn(const std::string &received) {
   Request request;
   const std::size_t end = received.find("\r\n\r\n");
@@ -235,7 +235,7 @@ AnsweringServer::AnsweringServer() {
 }
 
 AnsweringServer::~AnsweringServer() {
-  shutdown(listener_, SHUT_RDWR); // which ends `accept4`
+  shutdown(listener_, SHUT_RDWR); // makes `accept4` return
   thread_.join();
   close(listener_);
 }
@@ -278,7 +278,7 @@ bool AnsweringServer::respond(Connection &connection, unsigned operation) {
   return sendAll(connection.descriptor, text) && isHonest;
 }
 
-/// Takes what has come; false ends the connection.
+/// Reads the available data; false ends the connection.
 bool AnsweringServer::serve(Connection &connection) {
   char piece[65536];
   const ssize_t count = recv(connection.descriptor, piece, sizeof piece, 0);
@@ -286,10 +286,10 @@ bool AnsweringServer::serve(Connection &connection) {
     return false;
   connection.received.append(piece, static_cast<std::size_t>(count));
   if (connection.received.front() < 'A' || connection.received.front() > 'Z')
-    return false; // TLS, which answers can ask for
+    return false; // TLS, which an answer can request
   for (;;) {
     const Request request = requestIn(connection.received);
-    if (request.isWaiting) { // and its body comes only then
+    if (request.isWaiting) { // the client sends the body only then
       const std::size_t expectation = connection.received.find("Expect: ");
       connection.received.replace(expectation, 6, "Was-so");
       if (!sendAll(connection.descriptor, "HTTP/1.1 100 Continue\r\n\r\n"))

@@ -1,6 +1,6 @@
-/// A CUPS that asks for a password, on an address of this machine.
-#ifndef IMAGEPOSITION_TESTS_HOST_ASKINGCUPS_HPP
-#define IMAGEPOSITION_TESTS_HOST_ASKINGCUPS_HPP
+/// A private CUPS server that requires a password, on an address of this machine.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_ASKINGCUPS_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_ASKINGCUPS_HPP
 
 #include "OfficeQueue.hpp"
 
@@ -16,7 +16,7 @@
 
 namespace imageposition::test {
 
-/// A port of the address that nothing listens on.
+/// A port of the address on which no program listens.
 inline std::string freePort(const std::string &address) {
   const int listener = socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in place{};
@@ -44,8 +44,8 @@ inline std::string networkAddress() {
   return found;
 }
 
-/// The names, passwords and services that the system knows, for programs that are started with
-/// this environment: they would be the machine's otherwise.
+/// Replaces the machine's users, passwords and PAM services for programs that run with this
+/// environment.
 class KnownUsers {
 public:
   KnownUsers() {
@@ -62,11 +62,11 @@ private:
   TemporaryFolder folder_;
 };
 
-/// Its queue "office" does what is limited for the user "somebody" alone, whose password is
-/// "open sesame".
+/// On its queue "office", only the user "somebody" with the password "open sesame" may perform the
+/// limited operations.
 class AskingCups {
 public:
-  /// `limited` are operations, as a policy in cupsd.conf names them.
+  /// `limited` lists operations by the names that cupsd.conf uses.
   explicit AskingCups(const std::string &host, const std::string &limited = "Create-Job")
       : address_(host + ":" + freePort(host)),
         cups_("Listen " + address_ +
@@ -79,9 +79,9 @@ public:
     addOfficeQueue(cups_, {"-o", "printer-op-policy=asking"});
   }
 
-  /// On its socket, where the system tells it who asks, it wants no password.
+  /// The same server on its socket, where it requires no password: the system identifies the user.
   const PrivateCups &onSocket() const noexcept { return cups_; }
-  /// To lay over a program's environment, so that it reaches this CUPS by the address.
+  /// Variables with which a program reaches this server by its address.
   std::vector<std::string> environment() const {
     return {"CUPS_SERVER=" + address_, "CUPS_SERVERROOT=" + cups_.root()};
   }

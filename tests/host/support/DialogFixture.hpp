@@ -1,6 +1,6 @@
 /// Runs print-dialog on the sample printers.
-#ifndef IMAGEPOSITION_TESTS_HOST_DIALOGFIXTURE_HPP
-#define IMAGEPOSITION_TESTS_HOST_DIALOGFIXTURE_HPP
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_DIALOGFIXTURE_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_DIALOGFIXTURE_HPP
 
 #include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
@@ -14,7 +14,7 @@
 
 namespace imageposition::test {
 
-/// What print-dialog ends with; see its help.
+/// The exit statuses of print-dialog; see its help.
 enum Status {
   kDone = 0,
   kCancelled = 1,
@@ -46,7 +46,7 @@ protected:
     return dialog(all, environment);
   }
 
-  /// The "name=value" lines of an output, which end at the first other line.
+  /// The "name=value" lines at the start of the output.
   static std::map<std::string, std::string> settingsIn(const std::string &output) {
     std::map<std::string, std::string> settings;
     std::istringstream lines(output);

@@ -1,6 +1,6 @@
-/// A printer on the network that needs no driver.
-#ifndef IMAGEPOSITION_TESTS_HOST_DRIVERLESSPRINTER_HPP
-#define IMAGEPOSITION_TESTS_HOST_DRIVERLESSPRINTER_HPP
+/// A driverless printer on the network.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_DRIVERLESSPRINTER_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_DRIVERLESSPRINTER_HPP
 
 #include "PrivateCups.hpp"
 #include "ProcessRun.hpp"
@@ -10,26 +10,26 @@
 
 namespace imageposition::test {
 
-/// CUPS's own ippeveprinter, in colour and two-sided, on a free port of this machine. Ended with
-/// this object.
+/// Runs CUPS's ippeveprinter as a two-sided colour printer on a free port of this machine. The
+/// destructor stops it.
 class DriverlessPrinter {
 public:
   DriverlessPrinter();
 
-  /// Whether it answered in time.
+  /// Whether it responded in time.
   bool isReady() const noexcept { return isReady_; }
 
-  /// Makes a queue for it, of the description that CUPS writes from what the printer says of
-  /// itself. False when CUPS has none in time.
+  /// Adds a queue for it with the description that CUPS generates from the printer's attributes.
+  /// Returns false if CUPS does not generate it in time.
   bool addQueue(const PrivateCups &cups, const std::string &name) const;
 
-  /// What it wrote about itself.
+  /// Its log.
   std::string log() { return process_.errorsSoFar(); }
 
 private:
   TemporaryFolder folder_;
   const int port_;
-  Process process_; // ends before the folder goes
+  Process process_; // destroyed before the folder
   bool isReady_ = false;
 };
 

@@ -10,7 +10,7 @@ FocusedWindow FocusedWindow::find() {
   Display *const display = XOpenDisplay(nullptr);
   if (display == nullptr)
     return found;
-  // A window can go at any time.
+  // A window may disappear at any time.
   const auto before = XSetErrorHandler([](Display *, XErrorEvent *) { return 0; });
   Window window = None, child = None;
   int ignored;

@@ -1,6 +1,6 @@
-/// The window that has the keyboard, as the X server knows it.
-#ifndef IMAGEPOSITION_TESTS_HOST_FOCUSEDWINDOW_HPP
-#define IMAGEPOSITION_TESTS_HOST_FOCUSEDWINDOW_HPP
+/// The window with the keyboard focus, according to the X server.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_FOCUSEDWINDOW_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_FOCUSEDWINDOW_HPP
 
 #include <string>
 
@@ -11,7 +11,7 @@ struct FocusedWindow {
   int x = 0; ///< Of its content, from the display's upper left corner.
   int y = 0;
 
-  /// Without a title when there is none.
+  /// The title is empty if no window has the focus.
   static FocusedWindow find();
 };
 

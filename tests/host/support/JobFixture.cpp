@@ -9,14 +9,15 @@ namespace imageposition::test {
 
 namespace {
 
-/// Everything is on disk at once, as a CUPS that is ended keeps nothing else. "asking" wants a
+/// Writes everything to disk immediately, so a killed server loses nothing. "asking" requires a
 /// password.
 constexpr char kPolicies[] =
     "LogLevel warn\nDirtyCleanInterval 0\nLimitRequestBody 202m\n"
     "<Policy asking>\n<Limit Create-Job>\nAuthType Basic\nRequire user somebody\n</Limit>\n"
     "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
 
-/// The CUPS, and where its filter is and writes; the filter's user is another.
+/// The server, and the folder of its filter and the filter's output. The filter runs as another
+/// user.
 struct Printers {
   TemporaryFolder folder;
   PrivateCups cups{kPolicies};
@@ -61,7 +62,7 @@ struct Printers {
   }
 };
 
-std::unique_ptr<Printers> printers; // ended by the environment, before the program does
+std::unique_ptr<Printers> printers; // destroyed by the test environment, before the program ends
 
 class PrintersEnvironment : public testing::Environment {
   void TearDown() override { printers.reset(); }
@@ -146,7 +147,7 @@ JobRequest JobFixture::requestFor(const std::string &queue) {
 
 std::string JobFixture::document(std::size_t size) const {
   const std::string path = folder.write("document.pdf", "%PDF-1.4\n");
-  std::filesystem::resize_file(path, size); // takes no room on the disk
+  std::filesystem::resize_file(path, size); // uses no disk space
   return path;
 }
 

@@ -1,6 +1,6 @@
-/// Jobs that a CUPS of the tests' own prints, on printers that write down what they are given.
-#ifndef IMAGEPOSITION_TESTS_HOST_JOBFIXTURE_HPP
-#define IMAGEPOSITION_TESTS_HOST_JOBFIXTURE_HPP
+/// Prints jobs on a private CUPS server whose filter records its input.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_JOBFIXTURE_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_JOBFIXTURE_HPP
 
 #include "JobSubmission.hpp"
 #include "PrivateCups.hpp"
@@ -14,19 +14,19 @@
 
 namespace imageposition::test {
 
-/// What a printer's filter was given.
+/// The input of a printer's filter.
 struct PrintedJob {
   std::vector<std::string> arguments;         ///< Job, user, title, copies, options: argv[1] on.
-  std::string optionText;                     ///< argv[5], as it was.
+  std::string optionText;                     ///< argv[5], unparsed.
   std::map<std::string, std::string> options; ///< As CUPS parses them.
   std::map<std::string, std::string> environment;
   std::size_t bytes = 0; ///< Of the document.
 };
 
-/// Polls with a deadline; false when it never held.
+/// Polls with a deadline; false if the condition never held.
 bool comesTrue(const std::function<bool()> &condition);
 
-/// Each test has the queue "office". This process talks to the tests' CUPS alone.
+/// Each test has the queue "office". This process uses only the private CUPS server.
 class JobFixture : public testing::Test {
 protected:
   static void SetUpTestSuite();
@@ -34,22 +34,22 @@ protected:
   void TearDown() override;
 
   static PrivateCups &cups();
-  /// Runs one of CUPS's commands; a failure of it fails the test.
+  /// Runs a CUPS command; fails the test if the command fails.
   static std::string command(const std::vector<std::string> &words);
-  /// A printer as one of the samples describes it.
+  /// Adds a queue with the description of a sample.
   static void addQueue(const std::string &name, const std::string &sample = "duplex-shift.ppd");
 
   static JobRequest requestFor(const std::string &queue = "office");
-  /// A document that CUPS takes for PDF.
+  /// A document that CUPS recognizes as PDF.
   std::string document(std::size_t size = 1000) const;
-  /// Waits until it has been printed; fails the test when it is not.
+  /// Waits until the job has been printed; fails the test if that does not happen.
   static PrintedJob printed(int job, int document = 1);
-  /// Of all jobs that ever were in this test and are not finished.
+  /// The unfinished jobs of this test.
   static std::string waitingJobs() { return command({"lpstat", "-o"}); }
   static bool hasPrinted(int job, int document = 1);
-  /// Documents of this test that have reached the filter.
+  /// The number of documents of this test that reached the filter.
   static int printedCount();
-  /// Submits and expects a refusal.
+  /// Submits the job and expects a refusal.
   static SubmissionFailure refusal(const JobRequest &request, const std::string &path,
                                    const ProgressCallback &progress = {});
 

@@ -1,6 +1,6 @@
-/// Printer descriptions with more of everything than printers have.
-#ifndef IMAGEPOSITION_TESTS_HOST_LARGEPPD_HPP
-#define IMAGEPOSITION_TESTS_HOST_LARGEPPD_HPP
+/// Printer descriptions that are far larger than real ones.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_LARGEPPD_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_LARGEPPD_HPP
 
 #include "PrinterDescription.hpp"
 #include "TemporaryFolder.hpp"
@@ -40,7 +40,7 @@ inline std::string manyOptions(int count) {
   return text;
 }
 
-/// As many constraints, each between two further options, and violated by the defaults.
+/// That many constraints, each between two options and violated by the defaults.
 inline std::string violatedPairs(int constraints) {
   std::string pairs;
   int options = 1;
@@ -51,7 +51,7 @@ inline std::string violatedPairs(int constraints) {
   return manyOptions(options) + pairs;
 }
 
-/// One option, "Several", that takes any of its choices "C0", "C1", ...
+/// One option, "Several", that accepts any of its choices "C0", "C1", ...
 inline std::string manyChoices(int count) {
   std::string text = kPpdBeginning + "*OpenUI *Several: PickMany\n*DefaultSeveral: C0\n";
   for (int i = 0; i < count; i++)
@@ -66,7 +66,7 @@ inline std::string allChoices(int count) {
   return list;
 }
 
-/// The printer of such a text, whose file goes when it has been read.
+/// The printer with such a description. Deletes the file after reading it.
 inline PrinterDescription largePrinter(const std::string &text) {
   const TemporaryFolder folder;
   return PrinterDescription::fromFile(folder.write("large.ppd", text));

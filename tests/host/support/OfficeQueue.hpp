@@ -1,6 +1,6 @@
-/// A queue "office", of a CUPS of the tests' own.
-#ifndef IMAGEPOSITION_TESTS_HOST_OFFICEQUEUE_HPP
-#define IMAGEPOSITION_TESTS_HOST_OFFICEQUEUE_HPP
+/// A queue "office" on a private CUPS server.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_OFFICEQUEUE_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_OFFICEQUEUE_HPP
 
 #include "PrivateCups.hpp"
 
@@ -12,7 +12,7 @@
 
 namespace imageposition::test {
 
-/// `words` go to lpadmin, too.
+/// `words` are further arguments of lpadmin.
 inline void addOfficeQueue(const PrivateCups &cups, const std::vector<std::string> &words = {}) {
   ASSERT_TRUE(cups.isRunning()) << cups.log();
   std::vector<std::string> all{"lpadmin", "-p",
@@ -24,7 +24,7 @@ inline void addOfficeQueue(const PrivateCups &cups, const std::vector<std::strin
   ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
 }
 
-/// A fixture with the queue: one CUPS for all tests of it, each with the queue anew.
+/// A fixture with the queue. All its tests share one CUPS server; each gets a new queue.
 template <typename Fixture> class WithOfficeQueue : public Fixture {
 protected:
   static void SetUpTestSuite() { cups = std::make_unique<PrivateCups>(); }

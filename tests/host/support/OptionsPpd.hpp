@@ -1,6 +1,6 @@
-/// A printer description with one of everything that options can be.
-#ifndef IMAGEPOSITION_TESTS_HOST_OPTIONSPPD_HPP
-#define IMAGEPOSITION_TESTS_HOST_OPTIONSPPD_HPP
+/// A printer description with an option of every kind.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_OPTIONSPPD_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_OPTIONSPPD_HPP
 
 #include "PrinterDescription.hpp"
 #include "TemporaryFolder.hpp"
@@ -112,7 +112,7 @@ inline const std::string kOptionsPpd = R"ppd(*PPD-Adobe: "4.3"
 *de.MediaType Plain/Normalpapier: ""
 )ppd";
 
-/// The options' printer, whose file goes when it has been read.
+/// The printer with these options. Deletes the file after reading it.
 inline PrinterDescription optionsPrinter(const std::string &text = kOptionsPpd) {
   const TemporaryFolder folder;
   return PrinterDescription::fromFile(folder.write("options.ppd", text));

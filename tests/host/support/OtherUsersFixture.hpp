@@ -1,6 +1,6 @@
-/// Means of another user of the computer.
-#ifndef IMAGEPOSITION_TESTS_HOST_OTHERUSERSFIXTURE_HPP
-#define IMAGEPOSITION_TESTS_HOST_OTHERUSERSFIXTURE_HPP
+/// What another user of the computer can do.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_OTHERUSERSFIXTURE_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_OTHERUSERSFIXTURE_HPP
 
 #include "ProcessRun.hpp"
 
@@ -14,7 +14,7 @@
 
 namespace imageposition::test {
 
-/// Neither root nor anybody else who has files here.
+/// Neither root nor a user with files here.
 constexpr uid_t kAnotherUser = 12346;
 
 /// Compiles a library that adds a line with `word` to the file that FIXTURE_JOURNAL names as soon

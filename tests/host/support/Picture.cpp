@@ -7,7 +7,7 @@ namespace imageposition::test {
 
 namespace {
 
-// Outlines are longer than this, as fractions of the pages' part of the picture; letters are not.
+// Outlines are longer than this fraction of the pages' part of the picture; letters are shorter.
 constexpr double kShortestSide = 0.2;
 constexpr int kShortestArm = 18;
 
@@ -54,7 +54,7 @@ int Picture::inRow(int y, int left, int right, const Pixel &colour) const {
   return count;
 }
 
-/// The leftmost two upright lines of that colour, and the horizontal ones between them.
+/// The two leftmost vertical lines of that colour, and the horizontal ones between them.
 Outline Picture::outline(const Pixel &colour) const {
   Outline found;
   for (int x = 0; x < width_ && found.right < 0; x++)
@@ -72,7 +72,7 @@ Outline Picture::front() const { return outline({0, 40, 130}); }
 Outline Picture::back() const { return outline({0, 133, 100}); }
 Outline Picture::paper() const { return outline({120, 120, 128}); }
 
-/// The back's cross may cover a part of the front's.
+/// The back's cross may cover part of the front's.
 int Picture::frontMarkX() const {
   int found = -1;
   for (int x = 0, most = kShortestArm; x < width_; x++) {

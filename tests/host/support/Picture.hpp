@@ -1,6 +1,6 @@
-/// The picture beside the panel, by its pixels on the display.
-#ifndef IMAGEPOSITION_TESTS_HOST_PICTURE_HPP
-#define IMAGEPOSITION_TESTS_HOST_PICTURE_HPP
+/// Reads the picture beside the panel from the display's pixels.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_PICTURE_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_PICTURE_HPP
 
 #include "Screen.hpp"
 
@@ -16,18 +16,18 @@ struct Outline {
   int bottom = -1;
 };
 
-/// A screenshot of it, in its light colours.
+/// A screenshot of the picture in its light colours.
 class Picture {
 public:
-  /// Empty without a picture on the screen.
+  /// Empty if there is no picture on the screen.
   explicit Picture(const Screen &screen);
 
-  /// What is printed, on the pages named "Front" and "Back".
+  /// The outlines of the content on the pages "Front" and "Back".
   Outline front() const;
   Outline back() const;
-  /// The paper of the page named "Front".
+  /// The outline of the paper of the page "Front".
   Outline paper() const;
-  /// Where the front's cross is in the enlarged centre; -1 when it is hidden.
+  /// The position of the front's cross in the enlarged centre; -1 if it is hidden.
   int frontMarkX() const;
   int frontMarkY() const;
 
@@ -42,7 +42,7 @@ private:
   };
   Pixel at(int x, int y) const;
   Outline outline(const Pixel &colour) const;
-  /// How many pixels of a part of a column, or a row, have that colour.
+  /// The number of pixels of that colour in part of a column or row.
   int inColumn(int x, int top, int bottom, const Pixel &colour) const;
   int inRow(int y, int left, int right, const Pixel &colour) const;
   int pagesHeight() const { return height_ / 2; }

@@ -10,7 +10,7 @@ namespace imageposition::test {
 namespace {
 
 std::string folderOfDefaults() {
-  const char *const home = std::getenv("IMAGEPOSITION_PRIVATE_USER"); // of tools/with-private-user
+  const char *const home = std::getenv("IMAGEPOSITION_PRIVATE_USER"); // by tools/with-private-user
   if (home == nullptr)
     throw std::runtime_error("the defaults are a real user's: run this with tools/with-display");
   return std::string(home) + "/GNUstep/Defaults";

@@ -1,13 +1,13 @@
-/// GNUstep's defaults for print-dialog, as a user sets them.
-#ifndef IMAGEPOSITION_TESTS_HOST_PLATFORMDEFAULTS_HPP
-#define IMAGEPOSITION_TESTS_HOST_PLATFORMDEFAULTS_HPP
+/// Sets GNUstep user defaults for print-dialog.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_PLATFORMDEFAULTS_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_PLATFORMDEFAULTS_HPP
 
 #include <string>
 
 namespace imageposition::test {
 
-/// Has each print-dialog that starts find these defaults until this object is gone. There is one
-/// set of them for the private user that the tests run as; throws without such a user.
+/// Sets these defaults, for every print-dialog that starts, until this object is destroyed. The
+/// private user that the tests run as has one set of them; throws without such a user.
 class PlatformDefaults {
 public:
   /// `entries` is the inside of a property list: `NSLanguages = (de);`.

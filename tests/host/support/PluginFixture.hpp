@@ -1,6 +1,6 @@
-/// Runs print-dialog with copies of the fixture plug-in, whole or spoilt.
-#ifndef IMAGEPOSITION_TESTS_HOST_PLUGINFIXTURE_HPP
-#define IMAGEPOSITION_TESTS_HOST_PLUGINFIXTURE_HPP
+/// Runs print-dialog with copies of the fixture plug-in, intact or damaged.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_PLUGINFIXTURE_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_PLUGINFIXTURE_HPP
 
 #include "DialogFixture.hpp"
 
@@ -16,7 +16,7 @@ protected:
                  {"FIXTURE_BEHAVIOUR=" + behaviour, "FIXTURE_JOURNAL=" + journal});
   }
 
-  /// A copy of the plug-in to be spoilt.
+  /// A copy of the plug-in for the test to damage.
   std::string copy(const std::string &name = "Copy.plugin") const {
     std::filesystem::create_directories(std::filesystem::path(folder.path(name)).parent_path());
     std::filesystem::copy(FIXTURE_PLUGIN, folder.path(name),
@@ -32,7 +32,7 @@ protected:
     EXPECT_FALSE(std::filesystem::exists(folder.path("job.json")));
   }
 
-  /// Left out before any of its code ran.
+  /// Expects the plug-in to be left out before any of its code ran.
   void expectUnheard(const ProcessResult &result, const std::string &reason) const {
     expectLeftOut(result, reason);
     EXPECT_FALSE(std::filesystem::exists(journal)) << contentOf(journal);

@@ -11,7 +11,7 @@ namespace imageposition::test {
 
 namespace {
 
-/// What a person does next makes no sense then.
+/// Aborts the test: further user actions would make no sense.
 [[noreturn]] void giveUp(const std::string &missing, const Screen &shown) {
   std::string text = missing + ", in \"" + shown.keyWindow + "\" at " + std::to_string(shown.x) +
                      ", " + std::to_string(shown.y) + ":";
@@ -107,7 +107,7 @@ Control PrintWindow::awaited(const std::string &what,
 
 void PrintWindow::clickAt(int x, int y, const std::function<void()> &before) {
   xdotool({"mousemove", std::to_string(x), std::to_string(y), "mousedown", "1"});
-  // A button that stayed down would fail every test after this one.
+  // A mouse button that stayed down would fail every later test.
   try {
     if (!becomes([](const Screen &shown) { return shown.isTracking; }))
       giveUp("nothing to click on", screen());

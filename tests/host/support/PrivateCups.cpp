@@ -65,7 +65,7 @@ void PrivateCups::writeConfiguration(const std::string &policies) const {
                                   "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n"
                                   "</Limit>\n</Policy>\n" +
                                   policies);
-  // As root it insists on another user for what it runs.
+  // As root, cupsd requires another user for the programs that it runs.
   const std::string user = getuid() == 0 ? "User lp\nGroup lp\n" : "";
   folder_.write("cups-files.conf", "ServerRoot " + folder + "\nRequestRoot " + folder +
                                        "/spool\nCacheDir " + folder + "/cache\nStateDir " + folder +

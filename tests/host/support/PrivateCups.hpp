@@ -1,6 +1,6 @@
-/// A CUPS of the test's own.
-#ifndef IMAGEPOSITION_TESTS_HOST_PRIVATECUPS_HPP
-#define IMAGEPOSITION_TESTS_HOST_PRIVATECUPS_HPP
+/// A private CUPS server for tests.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_PRIVATECUPS_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_PRIVATECUPS_HPP
 
 #include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
@@ -11,40 +11,40 @@
 
 namespace imageposition::test {
 
-/// Listens on a socket in a temporary folder, in which everything else of it stands too. Ended with
-/// this object.
+/// Listens on a socket in a temporary folder, which holds all its other files as well. The
+/// destructor stops it.
 class PrivateCups {
 public:
-  /// `policies` are further lines of its cupsd.conf; `environment` is laid over this process's for
-  /// it.
+  /// `policies` are further lines of its cupsd.conf; `environment` modifies this process's
+  /// environment for it.
   explicit PrivateCups(const std::string &policies = "", std::vector<std::string> environment = {});
 
-  /// Whether it answered in time.
+  /// Whether it responded in time.
   bool isRunning() const noexcept { return isRunning_; }
-  /// Ends it at once, as a crash would.
+  /// Kills it, as a crash would.
   void stop();
-  /// Starts it again with all that it had on disk, and waits for it.
+  /// Restarts it with its files on disk, and waits for it.
   void start();
-  /// Lets it stand still, and go on.
+  /// Suspends and resumes it.
   void send(int signal) const {
     if (server_)
       server_->send(signal);
   }
-  /// As CUPS_SERVER names it.
+  /// The value for CUPS_SERVER.
   std::string socket() const { return folder_.path("socket"); }
-  /// As CUPS_SERVERROOT names it.
+  /// The value for CUPS_SERVERROOT.
   std::string root() const { return folder_.path(); }
-  /// Of a person who has nothing of CUPS's yet.
+  /// The home folder of a user without CUPS settings.
   std::string home() const { return folder_.path("home"); }
-  /// To lay over a program's environment, so that it talks to this CUPS.
+  /// Variables with which a program uses this server.
   std::vector<std::string> environment() const {
     return {"CUPS_SERVER=" + socket(), "CUPS_SERVERROOT=" + folder_.path(), "HOME=" + home()};
   }
-  /// Runs one of CUPS's commands against it.
+  /// Runs a CUPS command against it.
   ProcessResult run(const std::vector<std::string> &words) const;
-  /// What it knows of a job, as text; empty for nothing.
+  /// An attribute of a job as a string; empty if there is none.
   std::string jobAttribute(int job, const char *name) const;
-  /// What it wrote about itself.
+  /// Its log.
   std::string log() const;
 
 private:
@@ -52,7 +52,7 @@ private:
 
   TemporaryFolder folder_;
   const std::vector<std::string> environment_;
-  std::unique_ptr<Process> server_; // ends before the folder goes
+  std::unique_ptr<Process> server_; // destroyed before the folder
   bool isRunning_ = false;
 };
 

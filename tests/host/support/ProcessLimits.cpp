@@ -10,7 +10,7 @@ namespace imageposition::test {
 
 namespace {
 
-/// Of no more than the system administrator allows.
+/// Allows at most as many as the system administrator does.
 void allow(rlim_t processes) {
   rlimit limit;
   if (getrlimit(RLIMIT_NPROC, &limit) == 0) {

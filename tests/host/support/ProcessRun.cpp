@@ -47,7 +47,8 @@ void applyEnvironment(const std::vector<std::string> &environment) {
   _exit(127);
 }
 
-/// What is there. The end of the pipe tells nothing: what the program started may keep it open.
+/// Reads the available output. Does not wait for the end of the pipe, which the program's children
+/// may keep open.
 void drain(int descriptor, std::string &text) {
   char buffer[4096];
   ssize_t count;

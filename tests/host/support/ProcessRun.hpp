@@ -1,6 +1,6 @@
-/// Runs a program to its end.
-#ifndef IMAGEPOSITION_TESTS_HOST_PROCESSRUN_HPP
-#define IMAGEPOSITION_TESTS_HOST_PROCESSRUN_HPP
+/// Runs a program until it exits.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_PROCESSRUN_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_PROCESSRUN_HPP
 
 #include <ostream>
 #include <string>
@@ -10,32 +10,32 @@
 namespace imageposition::test {
 
 struct ProcessResult {
-  int status = -1; ///< The exit status; 128 and the signal's number when a signal ended it.
+  int status = -1; ///< The exit status; 128 plus the signal's number if a signal ended it.
   std::string output;
   std::string errors;
 };
 
-/// How a result shows in a failed expectation.
+/// Prints a result in a failed expectation.
 void PrintTo(const ProcessResult &result, std::ostream *stream);
 
-/// A program that runs beside the test. It is ended with this object.
+/// A program that runs alongside the test. The destructor ends it.
 class Process {
 public:
   static constexpr int kPatience = 120; ///< Seconds.
 
-  /// As `runProcess`; ends the program after `patience` seconds.
+  /// Like `runProcess`, but ends the program after `patience` seconds.
   Process(const std::vector<std::string> &words, const std::vector<std::string> &environment = {},
           int patience = kPatience);
   ~Process();
   Process(const Process &) = delete;
   Process &operator=(const Process &) = delete;
 
-  /// Once it has ended.
+  /// Waits until it has ended.
   const ProcessResult &wait();
   bool hasEnded();
   void send(int signal) const;
   pid_t id() const noexcept { return child_; }
-  /// What it has written so far.
+  /// Its standard error so far.
   std::string errorsSoFar();
 
 private:
@@ -48,8 +48,8 @@ private:
   ProcessResult result_;
 };
 
-/// `environment` is laid over this process's: "NAME=value" sets, "NAME" alone unsets. Standard
-/// input is empty. Ends the program after two minutes.
+/// `environment` modifies this process's: "NAME=value" sets, "NAME" alone unsets. Standard input is
+/// empty. Ends the program after two minutes.
 ProcessResult runProcess(const std::vector<std::string> &words,
                          const std::vector<std::string> &environment = {});
 

@@ -1,6 +1,6 @@
-/// A folder that is gone after the test.
-#ifndef IMAGEPOSITION_TESTS_HOST_TEMPORARYFOLDER_HPP
-#define IMAGEPOSITION_TESTS_HOST_TEMPORARYFOLDER_HPP
+/// A folder that is deleted after the test.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_TEMPORARYFOLDER_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_TEMPORARYFOLDER_HPP
 
 #include <filesystem>
 #include <fstream>
@@ -29,7 +29,7 @@ public:
   std::string path() const { return path_.string(); }
   std::string path(const std::string &name) const { return (path_ / name).string(); }
 
-  /// Makes the file with its folders; answers its path.
+  /// Creates the file and its folders; returns its path.
   std::string write(const std::string &name, const std::string &content) const {
     std::filesystem::create_directories((path_ / name).parent_path());
     std::ofstream(path_ / name, std::ios::binary) << content;

@@ -1,6 +1,6 @@
-/// Waiting for what another process does.
-#ifndef IMAGEPOSITION_TESTS_HOST_WAITING_HPP
-#define IMAGEPOSITION_TESTS_HOST_WAITING_HPP
+/// Waits for another process.
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_WAITING_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_WAITING_HPP
 
 #include <chrono>
 #include <functional>
@@ -8,7 +8,7 @@
 
 namespace imageposition::test {
 
-/// False when it has not become true in time.
+/// Returns false if the condition does not become true in time.
 inline bool becomesTrue(const std::function<bool()> &condition) {
   const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
   while (!condition()) {

@@ -1,6 +1,6 @@
 /// The dialog's window, used with real key events.
-#ifndef IMAGEPOSITION_TESTS_HOST_WINDOWFIXTURE_HPP
-#define IMAGEPOSITION_TESTS_HOST_WINDOWFIXTURE_HPP
+#ifndef IMAGEPOSITION_TESTS_HOST_SUPPORT_WINDOWFIXTURE_HPP
+#define IMAGEPOSITION_TESTS_HOST_SUPPORT_WINDOWFIXTURE_HPP
 
 #include "DialogFixture.hpp"
 #include "OfficeQueue.hpp"
@@ -19,7 +19,7 @@ protected:
   const std::string journal = folder.path("journal");
   std::unique_ptr<Process> dialogProcess;
 
-  /// Opens the dialog and waits until it has the keyboard.
+  /// Opens the dialog and waits until it has the keyboard focus.
   void open(const std::string &printer, const Words &words = {}, const Words &environment = {}) {
     Words all{"--ppd", sample(printer), "--ticket", ticket};
     all.insert(all.end(), words.begin(), words.end());
@@ -39,14 +39,14 @@ protected:
          {"FIXTURE_BEHAVIOUR=" + behaviour, "FIXTURE_JOURNAL=" + journal});
   }
 
-  /// Whether a window of that title has the keyboard.
+  /// Whether a window with that title has the keyboard focus.
   static bool isFocused(const std::string &title) {
     return runProcess({"xdotool", "getwindowfocus", "getwindowname"}).output == title + "\n";
   }
 
   static bool hasKeyboard() { return isFocused("Print"); }
 
-  /// Backwards from the pane's first control; each of the window's rows has its place there.
+  /// The position of each row of the window, counted backwards from the pane's first control.
   enum Back { kPanes = 1, kMedia, kTwoSided, kPages, kCollate, kCopies, kPresets };
   static void goTo(Back control) { press(Words(control, "shift+Tab")); }
 
@@ -73,7 +73,7 @@ protected:
         [&] { return dialogProcess->errorsSoFar().find(text) != std::string::npos; });
   }
 
-  /// How the dialog ended; it must end by itself.
+  /// Waits for the dialog to exit and returns its result.
   const ProcessResult &ended() {
     EXPECT_TRUE(becomesTrue([&] { return dialogProcess->hasEnded(); }));
     return dialogProcess->wait();

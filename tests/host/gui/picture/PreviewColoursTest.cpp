@@ -14,7 +14,7 @@ double linear(int component) {
   return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
 }
 
-/// As WCAG 2 defines it.
+/// As defined by WCAG 2.
 double luminance(Rgb colour) {
   return 0.2126 * linear(redOf(colour)) + 0.7152 * linear(greenOf(colour)) +
          0.0722 * linear(blueOf(colour));
@@ -25,13 +25,13 @@ double contrast(Rgb a, Rgb b) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
-TEST(PreviewColours, WhatIsWrittenStandsOutFromThePaper) {
+TEST(PreviewColours, TextStandsOutFromThePaper) {
   for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
     for (const Rgb colour : {colours->text, colours->secondaryText, colours->front, colours->back})
       EXPECT_GE(contrast(colour, colours->paper), 4.5) << std::hex << colour;
 }
 
-TEST(PreviewColours, WhatIsDrawnStandsOutFromThePaper) {
+TEST(PreviewColours, LinesStandOutFromThePaper) {
   for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
     for (const Rgb colour : {colours->lost, colours->outline, colours->printable})
       EXPECT_GE(contrast(colour, colours->paper), 3) << std::hex << colour;
@@ -42,7 +42,7 @@ struct Blindness {
   double matrix[3][3];
 };
 
-// The whole loss of one kind of cone, in linear light (Machado, Oliveira and Fernandes 2009).
+// The complete loss of one kind of cone, in linear light (Machado, Oliveira and Fernandes 2009).
 constexpr Blindness kBlindnesses[] = {
     {"protanopia",
      {{0.152286, 1.052583, -0.204868},
@@ -63,7 +63,7 @@ double encoded(double value) {
   return 255 * (value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1 / 2.4) - 0.055);
 }
 
-/// Between two colours as they are seen, in components from 0 to 255.
+/// The distance between two perceived colours, in components from 0 to 255.
 double distance(Rgb a, Rgb b, const Blindness &blindness) {
   double sum = 0;
   for (const auto &row : blindness.matrix) {
@@ -76,7 +76,7 @@ double distance(Rgb a, Rgb b, const Blindness &blindness) {
   return std::sqrt(sum);
 }
 
-TEST(PreviewColours, ColourBlindPeopleTellSidesAndLossApart) {
+TEST(PreviewColours, ColourBlindUsersCanTellSidesAndLossApart) {
   constexpr double kClearlyDifferent = 60;
   for (const PreviewColours *colours : {&kLightPreview, &kDarkPreview})
     for (const Blindness &blindness : kBlindnesses) {

@@ -23,7 +23,7 @@ Preview previewOf(Offset front, Offset back, Turning turning = Turning::LongEdge
   return makePreview(request);
 }
 
-/// The view in a window, and what a person sees of it.
+/// Shows the view in a window and reads its pixels.
 class PreviewViewOnScreen : public testing::Test {
 protected:
   void SetUp() override {
@@ -49,7 +49,7 @@ protected:
   void show(const Preview &preview) {
     [view_ showPreview:preview];
     [window_ display];
-    // Of the content view, which is not flipped, so that the first row is the uppermost.
+    // Reads from the content view, which is not flipped: the first row is then the top one.
     NSView *const content = [window_ contentView];
     [content lockFocus];
     [bitmap_ release];
@@ -73,7 +73,7 @@ protected:
            kTolerance;
   }
 
-  /// Within a pixel of there.
+  /// Whether a pixel of that colour is at most one pixel away.
   bool isAround(const Pixel &pixel, Rgb colour) const {
     for (int y = -1; y <= 1; y++)
       for (int x = -1; x <= 1; x++)
@@ -99,7 +99,7 @@ protected:
     return found;
   }
 
-  /// How much of the area is drawn over, in the sum of what all pixels lack of white.
+  /// How much of the area is covered: the sum of all pixels' differences from white.
   double ink(const PixelRectangle &area) const {
     double sum = 0;
     for (int y = static_cast<int>(area.y); y < area.bottom(); y++)
@@ -119,7 +119,7 @@ protected:
   const PreviewColours &colours_ = kLightPreview;
 };
 
-TEST_F(PreviewViewOnScreen, TheFrontsContentIsWhereItsOffsetPutsIt) {
+TEST_F(PreviewViewOnScreen, TheFrontsContentIsAtItsOffset) {
   for (const int offset : {-200, -100, -60, 0, 50, 100}) {
     SCOPED_TRACE(offset);
     const Preview preview = previewOf({{offset}, {0}}, {});
@@ -149,7 +149,7 @@ TEST_F(PreviewViewOnScreen, DownIsDown) {
   EXPECT_EQ(count({imageable.x, imageable.y + 1, imageable.width, 4}, colours_.front), 0);
 }
 
-TEST_F(PreviewViewOnScreen, WhatIsLostIsInTheWarningColourAndOnlyThere) {
+TEST_F(PreviewViewOnScreen, TheWarningColourMarksTheLostAreaAndNothingElse) {
   show(previewOf({}, {}));
   EXPECT_EQ(count(whole(), colours_.lost), 0);
   const Preview preview = previewOf({{100}, {0}}, {});
@@ -161,7 +161,7 @@ TEST_F(PreviewViewOnScreen, WhatIsLostIsInTheWarningColourAndOnlyThere) {
   EXPECT_EQ(count(layout_.pages[PreviewLayout::Back].page, colours_.lost), 0);
 }
 
-TEST_F(PreviewViewOnScreen, ALossOfATenthOfAMillimetreIsSeen) {
+TEST_F(PreviewViewOnScreen, ALossOfATenthOfAMillimetreIsVisible) {
   for (const Offset &offset :
        {Offset{{1}, {0}}, Offset{{-1}, {0}}, Offset{{0}, {1}}, Offset{{0}, {-1}}}) {
     show(previewOf(offset, {}));
@@ -197,7 +197,7 @@ TEST_F(PreviewViewOnScreen, AgainstTheLightTheBackIsMirrored) {
   }
 }
 
-TEST_F(PreviewViewOnScreen, TheMarksStandWhereTheOffsetsPutThem) {
+TEST_F(PreviewViewOnScreen, TheMarksAreAtTheirOffsets) {
   const struct {
     Offset front;
     Offset back;
@@ -239,7 +239,7 @@ TEST_F(PreviewViewOnScreen, WithoutASecondSideThereIsNoBackAndNoGrid) {
   EXPECT_GT(count(layout_.grid, colours_.text), 20) << "does not say why";
 }
 
-TEST_F(PreviewViewOnScreen, IsDrawnAnewOnlyWhenItDiffers) {
+TEST_F(PreviewViewOnScreen, IsRedrawnOnlyWhenThePreviewChanges) {
   show(previewOf({{1}, {0}}, {}));
   EXPECT_FALSE([view_ needsDisplay]);
   [view_ showPreview:previewOf({{1}, {0}}, {})];
@@ -253,10 +253,11 @@ TEST_F(PreviewViewOnScreen, IsEmptyUntilThereIsSomethingToShow) {
   EXPECT_EQ(toText([view_ accessibilityLabel]), "");
 }
 
-TEST_F(PreviewViewOnScreen, SaysWhatItShows) {
+TEST_F(PreviewViewOnScreen, DescribesWhatItShows) {
   show(previewOf({{1}, {0}}, {{1}, {0}}, Turning::ShortEdge));
   const std::string text = toText([view_ accessibilityLabel]);
-  EXPECT_EQ(text.rfind("Each side is moved 0.1 mm to the right as its reader sees it. Held", 0), 0u)
+  EXPECT_EQ(text.rfind("Each side moves 0.1 mm to the right, as you look at that side. Held", 0),
+            0u)
       << text;
   EXPECT_EQ(toText([view_ view:view_ stringForToolTip:0 point:NSZeroPoint userData:nullptr]), text);
 }

@@ -1,4 +1,4 @@
-// Which fonts write a language that the usual one cannot.
+// Fonts for languages that the default font does not cover.
 #include "LanguageFonts.hpp"
 
 #include <fontconfig/fontconfig.h>
@@ -25,7 +25,7 @@ bool canWrite(const std::string &font, const std::u32string &text) {
   return can;
 }
 
-TEST(LanguageFonts, WriteTheLanguageAndLatin) {
+TEST(LanguageFonts, CoverTheLanguageAndLatin) {
   const std::pair<const char *, std::u32string> kTexts[] = {
       {"ja", U"印刷プリンタのほうへ ABC xyz 0123 (A4)"},
       {"zh_CN", U"打印机选项 ABC xyz 0123 (A4)"},
@@ -39,12 +39,12 @@ TEST(LanguageFonts, WriteTheLanguageAndLatin) {
   }
 }
 
-TEST(LanguageFonts, AreTheUsualOnesForLatinLetters) {
+TEST(LanguageFonts, AreTheDefaultsForLatinLetters) {
   for (const char *language : {"en", "de", "es", "fr", "it"})
     EXPECT_FALSE(fontsFor(language)) << language;
 }
 
-TEST(LanguageFonts, AreTheUsualOnesForALanguageThatNobodyKnows) {
+TEST(LanguageFonts, AreTheDefaultsForAnUnknownLanguage) {
   for (const char *language : {"", "C", "xx", "Klingon"})
     EXPECT_FALSE(fontsFor(language)) << language;
 }

@@ -13,7 +13,7 @@
 
 using namespace imageposition;
 
-/// Has the focus and shows nothing.
+/// An invisible view that holds the focus.
 @interface FocusHolder : NSView
 @end
 
@@ -29,7 +29,7 @@ namespace {
 
 using Pixel = std::array<double, 3>; // red, green and blue, each 0 to 1
 
-/// As WCAG 2 defines it.
+/// As defined by WCAG 2.
 double luminance(const Pixel &pixel) {
   const auto linear = [](double c) {
     return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
@@ -50,7 +50,7 @@ bool differ(const Pixel &one, const Pixel &other) {
   return false;
 }
 
-/// What is shown within a window's content, row by row.
+/// The pixels of a window's content, row by row.
 struct Picture {
   long width = 0;
   std::vector<Pixel> pixels;
@@ -64,7 +64,7 @@ struct Picture {
   }
 };
 
-/// Of the pixels that differ between two pictures of the same size.
+/// Describes the pixels that differ between two pictures of the same size.
 struct Difference {
   long count = 0;
   double contrast = 1; ///< The largest between before and after.
@@ -137,7 +137,7 @@ protected:
     return shown();
   }
 
-  /// Without drawing anything anew.
+  /// Does not redraw anything.
   Picture shown() {
     NSView *const view = [window contentView];
     [view lockFocus];
@@ -174,8 +174,8 @@ protected:
   FocusHolder *elsewhere = nil;
 };
 
-/// The platform rounds where the scale is no whole number: the tests run at several, which have to
-/// be known before there is an application.
+/// GNUstep rounds at fractional scales. These tests run at several scales, each of which must be
+/// set before the application object exists.
 const bool isScaled = [] {
   NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
   const char *const scale = std::getenv("PRINT_DIALOG_TEXT_SCALE");
@@ -187,7 +187,7 @@ const bool isScaled = [] {
 
 class ScaledTheme : public Theme {
 protected:
-  /// The columns of pixels at which something begins that differs from the ground.
+  /// The pixel columns at which something other than the background begins.
   static std::vector<long> beginnings(const Picture &picture) {
     std::vector<long> found;
     bool wasGround = true;
@@ -218,13 +218,13 @@ TEST_P(Theme, TheWindowIsAsLightOrDarkAsAsked) {
     EXPECT_GT(ground, 0.8);
 }
 
-TEST_P(Theme, TextThatAPanelMadeBlackIsLegible) {
+TEST_P(Theme, BlackTextOfAPanelIsLegible) {
   const Picture empty = picture();
   addLabel([NSColor blackColor]);
   EXPECT_GE(picture().largestContrastTo(empty.corner()), 7);
 }
 
-TEST_P(Theme, TextThatAPanelMadeLightGrayLooksUnusableAndCanBeRead) {
+TEST_P(Theme, LightGrayTextOfAPanelLooksDisabledAndIsLegible) {
   const Picture empty = picture();
   addLabel([NSColor lightGrayColor]);
   const double shown = picture().largestContrastTo(empty.corner());
@@ -257,7 +257,7 @@ TEST_P(Theme, AButtonsTitleIsLegible) {
   EXPECT_GE(difference(bareDefault, picture()).contrast, 4.5);
 }
 
-TEST_P(Theme, WhatIsTypedIsLegible) {
+TEST_P(Theme, TypedTextIsLegible) {
   NSTextField *const field = add([[NSTextField alloc] initWithFrame:NSZeroRect]);
   [field setTextColor:[NSColor blackColor]];
   const Picture empty = picture();
@@ -274,12 +274,12 @@ TEST_P(Theme, TheDefaultButtonIsDistinct) {
   EXPECT_GE(found.contrast, 1.5);
 }
 
-TEST_P(Theme, AStepperThatCannotBeUsedLooksSo) {
+TEST_P(Theme, ADisabledStepperLooksDisabled) {
   NSStepper *const stepper = add([[NSStepper alloc] initWithFrame:NSZeroRect]);
   EXPECT_GT(whenDisabled(stepper).count, 100);
 }
 
-TEST_P(Theme, OtherControlsThatCannotBeUsedLookSo) {
+TEST_P(Theme, OtherDisabledControlsLookDisabled) {
   NSButton *const button = addButton();
   EXPECT_GT(whenDisabled(button).count, 1000);
   [button removeFromSuperview];
@@ -289,7 +289,7 @@ TEST_P(Theme, OtherControlsThatCannotBeUsedLookSo) {
   EXPECT_GT(whenDisabled(add([[NSTextField alloc] initWithFrame:NSZeroRect])).count, 1000);
 }
 
-TEST_P(Theme, ATickShows) {
+TEST_P(Theme, ATickIsVisible) {
   NSButton *const checkbox = addCheckbox();
   const Picture off = picture();
   [checkbox setState:NSOnState];
@@ -314,7 +314,7 @@ TEST_P(Theme, TheFocusIsVisible) {
   EXPECT_GT(whenFocused(field).count, 300) << "field";
 }
 
-TEST_P(Theme, ThePlatformsOwnColoursAgree) {
+TEST_P(Theme, TheSystemColoursMatch) {
   NSColor *const color =
       [[NSColor windowBackgroundColor] colorUsingColorSpaceName:NSDeviceRGBColorSpace];
   const Pixel named = {[color redComponent], [color greenComponent], [color blueComponent]};
@@ -328,7 +328,7 @@ TEST_P(Theme, StaysWhenAUserDefaultChanges) {
   EXPECT_EQ([GSTheme theme], before);
 }
 
-TEST_P(ScaledTheme, WhatIsDrawnTwiceLooksAsIfDrawnOnce) {
+TEST_P(ScaledTheme, RedrawingChangesNothing) {
   NSView *const panel = add([[NSView alloc] initWithFrame:NSZeroRect]);
   [panel setFrame:NSMakeRect(7, 3, 227, 71)];
   std::vector<NSView *> views;
@@ -347,8 +347,8 @@ TEST_P(ScaledTheme, WhatIsDrawnTwiceLooksAsIfDrawnOnce) {
   }
 }
 
-// The platform draws sixteen letters at a time, and places the next ones by what it measured.
-TEST_P(ScaledTheme, LettersAreAsFarApartAsTheyWereMeasured) {
+// GNUstep draws sixteen letters at a time, and positions the next ones by the measured width.
+TEST_P(ScaledTheme, LettersAreSpacedAsMeasured) {
   [addLabel([NSColor blackColor]) setStringValue:@"l l l l l l l l l l l l"];
   const std::vector<long> begun = beginnings(picture());
   ASSERT_EQ(begun.size(), 12u);

@@ -14,7 +14,7 @@ using namespace imageposition;
 
 namespace {
 
-/// Runs the loop until it is so; false after thirty seconds.
+/// Runs the loop until the condition holds; false after thirty seconds.
 bool becomesTrue(NSString *mode, const std::function<bool()> &condition) {
   NSDate *const deadline = [NSDate dateWithTimeIntervalSinceNow:30];
   while (!condition()) {
@@ -54,7 +54,7 @@ TEST(RunLoopWake, LosesNoWakeWhileSeveralThreadsSignal) {
     thread.join();
 }
 
-TEST(RunLoopWake, IgnoresSignalsAfterItsEnd) {
+TEST(RunLoopWake, IgnoresSignalsAfterItsDestruction) {
   int calls = 0;
   std::function<void()> signal;
   {

@@ -1,4 +1,4 @@
-// What is set in the panel is what the printer's filter is given.
+// The printer's filter receives the settings of the panel.
 #include "WholeJob.hpp"
 
 #include <cstdlib>
@@ -9,7 +9,7 @@ namespace {
 
 using namespace imageposition::test;
 
-/// Each two of the four offsets and the checkbox meet in each pair of their values: 25 of 650.
+/// Covers each pair of values of any two of the four offsets and the checkbox: 25 of 650.
 std::vector<PanelValues> pairwise() {
   std::vector<PanelValues> rows;
   for (int a = 0; a < 5; a++)
@@ -20,7 +20,7 @@ std::vector<PanelValues> pairwise() {
   return rows;
 }
 
-/// The back's fields are off without the tick: 625 with it, 25 without.
+/// The back's fields are disabled without the tick: 625 with it, 25 without.
 std::vector<PanelValues> all() {
   std::vector<PanelValues> rows;
   for (const int a : kTellingValues)
@@ -33,7 +33,7 @@ std::vector<PanelValues> all() {
   return rows;
 }
 
-/// A window takes half a second and more, all of them some ten minutes.
+/// A window takes at least half a second, and all of them some ten minutes.
 std::vector<PanelValues> forTheWindow() {
   return std::getenv("IMAGEPOSITION_ALL_COMBINATIONS") != nullptr ? all() : pairwise();
 }
@@ -60,7 +60,7 @@ TEST_F(Combination, OfSettingsArrivesFromTheWindow) {
   }
 }
 
-/// Two programs at a time.
+/// Runs two programs at a time.
 TEST_F(Combination, OfAllSettingsArrivesFromTheCommandLine) {
   std::deque<std::pair<PanelValues, std::unique_ptr<Process>>> running;
   const auto takeOldest = [&] {

@@ -1,4 +1,4 @@
-// A printer that needs no driver, which CUPS describes in its own process's language.
+// A driverless printer, which CUPS describes in the language of its process.
 #include "DriverlessPrinter.hpp"
 #include "PrintWindow.hpp"
 #include "WindowFixture.hpp"
@@ -48,7 +48,7 @@ protected:
   static inline bool isThere = false;
 };
 
-TEST_F(Driverless, IsDescribedByCupsInNoLanguageOfUsers) {
+TEST_F(Driverless, IsDescribedByCupsInTheCLocale) {
   const std::string description = contentOf(cups->root() + "/ppd/photo.ppd");
   EXPECT_THAT(description, HasSubstr("*C.Translation cupsPrintQuality/Print Quality"));
   EXPECT_THAT(description, HasSubstr("\n*OpenUI *OutputBin: PickOne"));
@@ -75,7 +75,7 @@ TEST_F(Driverless, ListsItsOptionsInGerman) {
     EXPECT_THAT(options, HasSubstr(line));
 }
 
-TEST_F(Driverless, ListsItsOptionsAsFarAsCupsSpeaksTheLanguage) {
+TEST_F(Driverless, ListsItsOptionsAsFarAsCupsTranslatesThem) {
   const std::string options = optionsIn("ja");
   for (const char *line :
        {"PageSize: 用紙サイズ\n", "A4: A4\n", "DuplexNoTumble: 長辺給紙 (縦向き)\n",

@@ -1,4 +1,4 @@
-// Options of several choices, and values of a person's own, from keys and clicks to the printer.
+// Options with several choices, and custom values, from keys and clicks to the printer.
 #include "OptionsPpd.hpp"
 #include "Picture.hpp"
 #include "WholeJob.hpp"
@@ -41,7 +41,7 @@ protected:
     window.press("Return");
     ASSERT_TRUE(shows(window, "Preset:", name));
   }
-  /// Whether the field beside the label is drawn with the focus, as the light theme does.
+  /// Whether the field beside the label has the light theme's focus ring.
   static bool hasRing(const Screen &shown, const char *label) {
     const Control *const field = shown.beside(label, "field");
     if (field == nullptr)
@@ -58,7 +58,7 @@ protected:
   }
 };
 
-TEST_F(EnteredValue, OfSeveralChoicesAllThatAreTickedArePrinted) {
+TEST_F(EnteredValue, OfSeveralChoicesAllTickedOnesArePrinted) {
   PrintWindow window(onQueue("finisher"));
   EXPECT_TRUE(isTicked(window, "Punch")) << "the PPD's default";
   window.tick("Staple", true);
@@ -101,7 +101,7 @@ TEST_F(EnteredValue, OfSeveralChoicesNoneCanBeTickedAndOneInConflictIsNamed) {
   EXPECT_THAT(job.options, Contains(Pair("MediaType", "Heavy")));
 }
 
-TEST_F(EnteredValue, OfThePageIsCheckedWhileItIsTypedShownAndPrinted) {
+TEST_F(EnteredValue, OfThePageSizeIsCheckedDuringTypingShownAndPrinted) {
   PrintWindow window(onQueue("finisher"));
   window.choose("Media:", "Custom");
   ASSERT_TRUE(asks(window, "Media Size"));
@@ -141,7 +141,7 @@ TEST_F(EnteredValue, OfThePageIsCheckedWhileItIsTypedShownAndPrinted) {
   EXPECT_THAT(printed(jobOf(again.ended())).options, Contains(Pair("PageSize", "A5")));
 }
 
-TEST_F(EnteredValue, IsAskedForWithTheFocusInOneFieldAndWhatIsWrongInAnyOfThem) {
+TEST_F(EnteredValue, ShowsTheFocusInOneFieldAndErrorsOfAnyField) {
   PrintWindow window(onQueue("finisher"));
   window.choose("Media:", "Custom");
   ASSERT_TRUE(asks(window, "Media Size"));
@@ -163,7 +163,7 @@ TEST_F(EnteredValue, IsAskedForWithTheFocusInOneFieldAndWhatIsWrongInAnyOfThem) 
   window.press("Escape");
 }
 
-TEST_F(EnteredValue, OnTheCommandLineIsShownAndCanBeLeftAgain) {
+TEST_F(EnteredValue, OnTheCommandLineIsShownAndCanBeReplaced) {
   Words words = onQueue("finisher");
   words.insert(words.begin(), {"-o", "PageSize=Custom.4x6in", "-o", "Finishing=Staple,Fold"});
   PrintWindow window(words);
@@ -198,7 +198,7 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
   EXPECT_TRUE(window.says("Password: that has a length of 3. The printer takes 4 to 16"));
   window.write(" \\'d");
   for (const char *key : {"ctrl+a", "ctrl+c", "alt+u", "End", "ctrl+v"})
-    window.press(key);   // a hidden text is not copied, see `shown`
+    window.press(key);   // hidden text is not copied, see `shown`
   window.press("alt+c"); // to the code
   window.write("12a4");
   EXPECT_TRUE(window.says("Code must consist of digits."));
@@ -225,7 +225,7 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
   EXPECT_THAT(window.ended().errors, Not(HasSubstr("0123")));
 }
 
-TEST_F(EnteredValue, OfAPasswordIsInATicketForItsOwnerAlone) {
+TEST_F(EnteredValue, OfAPasswordIsInATicketThatOnlyItsOwnerCanRead) {
   const std::string ticket = folder.write("job.json", "{\"settings\": {}}");
   chmod(ticket.c_str(), 0644);
   PrintWindow window({"--ppd", IMAGEPOSITION_SAMPLES "/finisher.ppd", "--ticket", ticket, "-o",
@@ -240,7 +240,7 @@ TEST_F(EnteredValue, OfAPasswordIsInATicketForItsOwnerAlone) {
   }
 }
 
-TEST_F(EnteredValue, OfAPanelsOptionIsAskedWithoutThePanelAndReachesIt) {
+TEST_F(EnteredValue, OfAPanelsOptionIsEnteredOutsideThePanelAndReachesIt) {
   folder.write("printer.ppd", kOptionsPpd);
   PrintWindow window(
       {"--ppd", folder.path("printer.ppd"), "--ticket", folder.path("job.json"), document()});

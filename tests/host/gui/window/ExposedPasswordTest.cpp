@@ -1,4 +1,4 @@
-// The window's question for a password that others could read on its way.
+// The window's request for a password that others could read on the network.
 #include "AskingCups.hpp"
 #include "WholeJob.hpp"
 
@@ -8,7 +8,7 @@ using namespace imageposition::test;
 
 class ExposedPassword : public WholeJob {
 protected:
-  /// Whether the question of a CUPS at that address warns; it has appeared then.
+  /// Waits for the password request of a CUPS server at that address, and returns whether it warns.
   static bool isWarnedOf(const std::string &host, const Words &words = {}) {
     const AskingCups cups(host);
     Words all = onQueue("office");
@@ -25,15 +25,15 @@ protected:
   }
 };
 
-TEST_F(ExposedPassword, IsWarnedOfWhereItCanBeReadOnTheWay) {
+TEST_F(ExposedPassword, CausesAWarningIfOthersCanReadItOnTheNetwork) {
   EXPECT_TRUE(isWarnedOf(networkAddress()));
 }
 
-TEST_F(ExposedPassword, IsNotWarnedOfWhereItStaysOnTheMachine) {
+TEST_F(ExposedPassword, CausesNoWarningIfItStaysOnTheMachine) {
   EXPECT_FALSE(isWarnedOf("127.0.0.1"));
 }
 
-TEST_F(ExposedPassword, IsNotWarnedOfOnAnEncryptedConnection) {
+TEST_F(ExposedPassword, CausesNoWarningOnAnEncryptedConnection) {
   EXPECT_FALSE(isWarnedOf(networkAddress(), {"-E"}));
 }
 

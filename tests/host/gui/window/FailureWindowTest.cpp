@@ -1,5 +1,5 @@
-// What goes wrong between opening the window and the printed sheet: it is said, and nothing that
-// was entered is lost.
+// Failures between opening the window and printing: the window reports them and keeps the user's
+// input.
 #include "WholeJob.hpp"
 
 #include <csignal>
@@ -35,7 +35,7 @@ protected:
     EXPECT_EQ(job.arguments.at(3), "2");
   }
 
-  /// What can be used, with what it shows.
+  /// The enabled controls with their content.
   static std::vector<std::string> usable(const PrintWindow &window) {
     std::vector<std::string> found;
     for (const Control &control : window.screen().controls)
@@ -44,7 +44,7 @@ protected:
     return found;
   }
 
-  /// Closes the window that says why the job waits.
+  /// Closes the window that explains why the job waits.
   static void closeNote(PrintWindow &window, const std::string &why, const std::string &key) {
     ASSERT_TRUE(window.becomes([&](const Screen &shown) {
       return shown.keyWindow == "The job is waiting" && shown.says(why);
@@ -63,7 +63,7 @@ protected:
     return -1;
   }
 
-  /// CUPS stands still as soon as it has some of a document.
+  /// Suspends CUPS as soon as it has part of a document.
   static bool stopsCupsHalfWay() {
     const auto spooled = [] {
       std::uintmax_t most = 0;
@@ -75,7 +75,7 @@ protected:
       return most;
     };
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    while (spooled() < (1u << 20)) // without a pause: all of it takes less than a second
+    while (spooled() < (1u << 20)) // without a pause: the whole transfer takes less than a second
       if (std::chrono::steady_clock::now() > deadline)
         return false;
     cups().send(SIGSTOP);
@@ -83,7 +83,7 @@ protected:
   }
 };
 
-TEST_F(Failing, ACupsThatIsStoppedMeanwhileIsSaidAndPrintWorksOnceItRunsAgain) {
+TEST_F(Failing, AStoppedServerIsReportedAndPrintWorksOnceItRunsAgain) {
   PrintWindow window(onQueue("office"));
   fillIn(window);
   cups().stop();
@@ -96,7 +96,7 @@ TEST_F(Failing, ACupsThatIsStoppedMeanwhileIsSaidAndPrintWorksOnceItRunsAgain) {
   expectPrinted(window);
 }
 
-TEST_F(Failing, AQueueThatIsDeletedMeanwhileIsSaidAndPrintWorksOnceItIsBack) {
+TEST_F(Failing, ADeletedQueueIsReportedAndPrintWorksOnceItIsBack) {
   PrintWindow window(onQueue("office"));
   fillIn(window);
   command({"lpadmin", "-x", "office"});
@@ -108,7 +108,7 @@ TEST_F(Failing, AQueueThatIsDeletedMeanwhileIsSaidAndPrintWorksOnceItIsBack) {
   expectPrinted(window);
 }
 
-TEST_F(Failing, AQueueThatRefusesMeanwhileIsSaidAndPrintWorksOnceItAccepts) {
+TEST_F(Failing, ARejectingQueueIsReportedAndPrintWorksOnceItAccepts) {
   PrintWindow window(onQueue("office"));
   fillIn(window);
   command({"cupsreject", "office"});
@@ -120,7 +120,7 @@ TEST_F(Failing, AQueueThatRefusesMeanwhileIsSaidAndPrintWorksOnceItAccepts) {
   expectPrinted(window);
 }
 
-TEST_F(Failing, APausedQueueTakesTheJobAndItIsSaidWhatResumesIt) {
+TEST_F(Failing, APausedQueueAcceptsTheJobAndTheWindowExplainsHowToResumeIt) {
   PrintWindow window(onQueue("office"));
   fillIn(window);
   command({"cupsdisable", "office"});
@@ -135,7 +135,7 @@ TEST_F(Failing, APausedQueueTakesTheJobAndItIsSaidWhatResumesIt) {
   expectPrinted(window);
 }
 
-TEST_F(Failing, AHeldJobIsKeptAndItIsSaidWhatReleasesIt) {
+TEST_F(Failing, AHeldJobIsKeptAndTheWindowExplainsHowToReleaseIt) {
   PrintWindow window({"-d", "office", "-o", "job-hold-until=indefinite", document()});
   fillIn(window);
   window.click("Print");
@@ -148,7 +148,7 @@ TEST_F(Failing, AHeldJobIsKeptAndItIsSaidWhatReleasesIt) {
   expectPrinted(window);
 }
 
-TEST_F(Failing, ALargeDocumentIsStreamedWithProgressAndCancelledLeavesNothing) {
+TEST_F(Failing, ALargeDocumentIsStreamedWithProgressAndCancelLeavesNothing) {
   PrintWindow window({"-d", "office", JobFixture::document(kLarge)});
   fillIn(window);
   const long before = peakMemoryInKilobytes(window);
@@ -166,17 +166,17 @@ TEST_F(Failing, ALargeDocumentIsStreamedWithProgressAndCancelledLeavesNothing) {
   EXPECT_FALSE(window.process().hasEnded());
   EXPECT_THAT(waitingJobs(), IsEmpty());
   expectAllIsStillThere(window);
-  // Little of the document; with sanitizers, what is freed takes room for a while.
+  // A small part of the document; sanitizers keep freed memory for a while.
   EXPECT_LT(peakMemoryInKilobytes(window) - before, long{kLarge / 1024 / 8});
 
   window.click("Print");
   const PrintedJob job = printed(jobOf(window.ended()));
   EXPECT_EQ(job.bytes, kLarge);
   expectValues(job, kEntered);
-  EXPECT_EQ(printedCount(), 1); // nothing of the one that was cancelled
+  EXPECT_EQ(printedCount(), 1); // the cancelled one left nothing
 }
 
-TEST_F(Failing, WhileADocumentIsSentNothingButCancelCanBeUsedAndThenEverythingAsBefore) {
+TEST_F(Failing, OnlyCancelIsEnabledWhileADocumentIsSent) {
   PrintWindow window({"-d", "office", JobFixture::document(kLarge)});
   fillIn(window);
   const auto before = usable(window);
@@ -195,7 +195,7 @@ TEST_F(Failing, WhileADocumentIsSentNothingButCancelCanBeUsedAndThenEverythingAs
   window.press("Escape");
   cups().send(SIGCONT);
   ASSERT_TRUE(window.says("Nothing was printed"));
-  EXPECT_EQ(window.screen().keyWindow, "Print"); // and no help
+  EXPECT_EQ(window.screen().keyWindow, "Print"); // not the help
   EXPECT_EQ(usable(window), before);
   expectAllIsStillThere(window);
   window.press("ctrl+a"); // the field has the keyboard again
@@ -203,7 +203,7 @@ TEST_F(Failing, WhileADocumentIsSentNothingButCancelCanBeUsedAndThenEverythingAs
   EXPECT_TRUE(window.becomes([&](const Screen &) { return window.field("Copies:") == "3"; }));
 }
 
-TEST_F(Failing, AClockThatIsSetBackMeanwhileDoesNotKeepTheWindowFromEnding) {
+TEST_F(Failing, AClockThatIsSetBackDoesNotKeepTheWindowOpen) {
   const std::string setBack = folder.path("set back");
   PrintWindow window({"-d", "office", JobFixture::document(kLarge)},
                      {"LD_PRELOAD=" CLOCK, "CLOCK_FILE=" + setBack});
@@ -214,7 +214,7 @@ TEST_F(Failing, AClockThatIsSetBackMeanwhileDoesNotKeepTheWindowFromEnding) {
   EXPECT_EQ(printed(jobOf(window.ended())).bytes, kLarge);
 }
 
-TEST_F(Failing, APanelWithoutAViewSaysSoInItsPaneAndIsAskedForNothingElse) {
+TEST_F(Failing, APanelWithoutAViewIsReportedInItsPaneAndNotUsed) {
   const std::string journal = folder.path("journal");
   PrintWindow window({"--plugin", FIXTURE_PLUGIN, "-d", "office", document()},
                      {"FIXTURE_BEHAVIOUR=no view", "FIXTURE_JOURNAL=" + journal});

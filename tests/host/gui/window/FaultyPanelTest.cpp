@@ -1,5 +1,5 @@
-// Panels that raise or refuse, and a fault of the dialog's own code: the window says whose fault it
-// is, and goes on.
+// Panels that raise or refuse, and a fault in the dialog's own code: the window names the culprit
+// and continues.
 #include "WholeJob.hpp"
 
 namespace {
@@ -27,7 +27,7 @@ protected:
     ASSERT_TRUE(window.becomes([](const Screen &shown) { return shown.find("field", "5"); }));
   }
 
-  /// A preset of the queue, so that loading it has the panels restore.
+  /// Adds a preset to the queue; loading it makes the panels restore their values.
   static void loadPreset(PrintWindow &window) { window.choose("Preset:", "calm"); }
   static void addPreset() { command({"lpoptions", "-p", "office/calm", "-o", "number-up=2"}); }
 
@@ -94,7 +94,7 @@ TEST_F(FaultyPanel, AFaultOfTheDialogWhileAPanelHasTheFocusIsNotBlamedOnThePanel
   printed(jobOf(window.ended()));
 }
 
-TEST_F(FaultyPanel, OneThatDoesNotSaveIsNotPrintedThroughUnlessTheUserSaysSo) {
+TEST_F(FaultyPanel, OneThatDoesNotSaveStopsPrintingUnlessTheUserConfirms) {
   PrintWindow window(words(), behaviour("say no to save"));
   window.click("Print");
   ASSERT_TRUE(asksWhetherToPrint(window));
@@ -120,7 +120,7 @@ TEST_F(FaultyPanel, OneThatDoesNotSaveAndGivesNoReasonIsNamed) {
   EXPECT_EQ(printedCount(), 0);
 }
 
-TEST_F(FaultyPanel, OneThatDoesNotRestoreStaysAndItIsSaid) {
+TEST_F(FaultyPanel, OneThatDoesNotRestoreStaysAndIsReported) {
   addPreset();
   PrintWindow window(words(), behaviour("say no to restore"));
   ASSERT_TRUE(offersPane(window, "Fixture Panel"));

@@ -1,5 +1,5 @@
-// The window with more of everything than it has room for, as somebody may send it who wants it to
-// hang.
+// The window with more data than it has room for, as from a printer or program that tries to make
+// it hang.
 #include "LargePpd.hpp"
 #include "PrintWindow.hpp"
 
@@ -31,7 +31,7 @@ TEST_F(LargePrinterWindow, ShowsTheFirstOfThousandsOfOptionsAndCountsTheOthers) 
   EXPECT_TRUE(window.says("There is no space for 4500 more options."));
 }
 
-TEST_F(LargePrinterWindow, CutsADocumentsNameOfAMegabyte) {
+TEST_F(LargePrinterWindow, ShortensADocumentNameOfAMegabyte) {
   const std::string name(1000000, 'n');
   folder.write("job.json", R"({"settings": {}, "documents": ["begins-)" + name + R"(-ends"]})");
   PrintWindow window(onPpd(manyOptions(1)));

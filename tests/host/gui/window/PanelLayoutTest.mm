@@ -1,4 +1,4 @@
-// The small windows as they are laid out in the language of this process: no text clipped, nothing
+// The layout of the small windows in the language of this process: no text clipped, nothing
 // overlapping.
 #import "HelpPanel.h"
 #import "KeyWindow.h"
@@ -23,12 +23,12 @@
 
 using namespace imageposition;
 
-/// Looks at every modal window, confirms the first `confirmed` ones and cancels the others.
+/// Checks every modal window, confirms the first `confirmed` ones and cancels the others.
 @interface ModalVisitor : NSObject {
 @public
   int confirmed;
   int visited;
-  NSInteger last; ///< The number of the window that was looked at.
+  NSInteger last; ///< The number of the window checked last.
 }
 - (void)visit:(NSTimer *)timer;
 @end
@@ -41,7 +41,7 @@ bool isEditable(NSView *view) {
   return [view isKindOfClass:[NSTextField class]] && [(NSTextField *)view isEditable];
 }
 
-/// In one line, or in as many as the field is high enough for.
+/// Expects the text to fit on one line, or on as many as the field has room for.
 void expectWholeText(NSControl *control) {
   const NSSize size = [control frame].size;
   if ([[control cell] cellSize].width <= size.width + 0.5)
@@ -107,24 +107,24 @@ protected:
   NSTimer *timer_ = nil; // the run loop's
 };
 
-TEST_F(PanelLayout, TheHelpHasRoomForItsTexts) {
+TEST_F(PanelLayout, TheHelpHasRoomForItsText) {
   showHelp(parent_);
   EXPECT_EQ(visited(), 1);
 }
 
-TEST_F(PanelLayout, TheQuestionForANameHasRoomForItsTexts) {
+TEST_F(PanelLayout, TheRequestForANameHasRoomForItsText) {
   askForName(parent_, messages::kPresetNameQuestion, "draft");
   EXPECT_EQ(visited(), 1);
 }
 
-TEST_F(PanelLayout, TheQuestionForAPasswordHasRoomForItsTexts) {
+TEST_F(PanelLayout, TheRequestForAPasswordHasRoomForItsText) {
   askForPassword(parent_, "office", {"somebody", false});
   askForPassword(parent_, "office", {"somebody", false, "print.example.com:631"});
   askForPassword(parent_, "the printer on the second floor beside the stairs", {"somebody", true});
   EXPECT_EQ(visited(), 3);
 }
 
-TEST_F(PanelLayout, TheQuestionForAValueHasRoomForItsTexts) {
+TEST_F(PanelLayout, TheRequestForAValueHasRoomForItsText) {
   CustomParameter side{"Width", messages::kPageWidth, CustomParameter::Kind::Length, 200, 40000,
                        false};
   CustomParameter text{"Words", "Words of the Watermark", CustomParameter::Kind::Text, 1, 100,
@@ -138,7 +138,7 @@ TEST_F(PanelLayout, TheQuestionForAValueHasRoomForItsTexts) {
   EXPECT_EQ(visited(), 3);
 }
 
-TEST_F(PanelLayout, TheQuestionsForATicketsFileHaveRoomForTheirTexts) {
+TEST_F(PanelLayout, TheRequestsForATicketsFileHaveRoomForTheirText) {
   test::TemporaryFolder folder;
   folder.write("report.json", "mine");
   confirmFirst();
@@ -146,7 +146,7 @@ TEST_F(PanelLayout, TheQuestionsForATicketsFileHaveRoomForTheirTexts) {
   EXPECT_EQ(visited(), 2); // the second asks whether to replace it
 }
 
-TEST_F(PanelLayout, TheQuestionWhetherToPrintAnywayHasRoomForItsTexts) {
+TEST_F(PanelLayout, TheQuestionWhetherToPrintAnywayHasRoomForItsText) {
   isConfirmed(parent_, {messages::kPrintAnywayWindow, messages::panelNotSaved("Image Position", ""),
                         messages::kPrintAnyway, messages::kGoBack});
   EXPECT_EQ(visited(), 1);
@@ -160,7 +160,7 @@ TEST_F(PanelLayout, TheQuestionWhetherToPrintAnywayHasRoomForItsTexts) {
   (void)timer;
   NSWindow *const window = [NSApp modalWindow];
   if (window == nil || [window windowNumber] == last)
-    return; // it has been answered, and is about to go
+    return; // it was answered and is about to close
   last = [window windowNumber];
   expectLaidOut(window);
   answer(visited++ < confirmed ? NSOKButton : NSCancelButton, window);

@@ -1,4 +1,4 @@
-// A plug-in in a window in which the printer is chosen several times.
+// A plug-in in a window while the user changes the printer several times.
 #include "WholeJob.hpp"
 
 #include <algorithm>
@@ -51,7 +51,7 @@ TEST_F(Plugin, ThatCannotStartIsNotStartedAgain) {
   EXPECT_EQ(count("initWithBundle:"), 1);
 }
 
-TEST_F(Plugin, ThatRaisesOverAPrintersPanelsIsAskedForTheNextOnes) {
+TEST_F(Plugin, ThatRaisesForOnePrinterIsAskedForPanelsOfTheNext) {
   choosePrinters("raise PDEPanelsForType:withHostInfo:");
   EXPECT_EQ(count("initWithBundle:"), 1);
   EXPECT_EQ(count("PDEPanelsForType:withHostInfo:"), 4);

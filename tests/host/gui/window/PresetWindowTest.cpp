@@ -1,4 +1,4 @@
-// Presets, as a person keeps them with the window.
+// Presets, as a user manages them in the window.
 #include "WholeJob.hpp"
 
 #include <algorithm>
@@ -79,11 +79,11 @@ TEST_F(PresetWindow, APresetIsRenamedAndDeleted) {
   window.choose("Preset:", "Delete this preset");
   EXPECT_TRUE(showsPreset(window, "None"));
   EXPECT_THAT(contentOf(lpoptions()), Not(HasSubstr("final")));
-  EXPECT_EQ(window.field(kTopBottom), "-7"); // what it had set stays in the job
+  EXPECT_EQ(window.field(kTopBottom), "-7"); // its settings stay in the job
   cancel(window);
 }
 
-/// Presets of a printer that moves the image further, on one that does so less.
+/// Presets of a printer with a large offset range, used on one with a smaller range.
 class PresetOfAnotherPrinter : public PresetWindow {
 protected:
   void SetUp() override {
@@ -97,7 +97,7 @@ protected:
   static bool shows(const PrintWindow &window, const std::string &label, const std::string &value) {
     return window.becomes([&](const Screen &) { return window.field(label) == value; });
   }
-  /// Keeps the values as "office/far".
+  /// Saves the values as "office/far".
   static void saveOnOffice(const PanelValues &values) {
     PrintWindow window(onQueue("office"));
     enter(window, values);
@@ -106,7 +106,7 @@ protected:
   }
 };
 
-TEST_F(PresetOfAnotherPrinter, LoadsWhatFitsAndSaysWhatBecameOfTheRest) {
+TEST_F(PresetOfAnotherPrinter, LoadsWhatFitsAndReportsWhatBecameOfTheRest) {
   saveOnOffice({false, {80, -7, 0, 0}});
   PrintWindow window(onQueue("small"));
   window.choose("Preset:", "office/far");
@@ -126,7 +126,7 @@ TEST_F(PresetOfAnotherPrinter, KeepsTheOffsetsOfTheBack) {
   expectValues(printed(jobOf(window.ended())), {true, {3, -7, 7, -50}});
 }
 
-TEST_F(PresetOfAnotherPrinter, SaysWhatThePanelMakesOfAValueThatTheDescriptionAllows) {
+TEST_F(PresetOfAnotherPrinter, ReportsHowThePanelChangesAValueThatTheDescriptionAllows) {
   std::string description = contentOf(IMAGEPOSITION_SAMPLES "/duplex-shift-narrow.ppd");
   const std::string narrow = "1 int -50 50";
   for (std::size_t at; (at = description.find(narrow)) != std::string::npos;)
@@ -140,7 +140,7 @@ TEST_F(PresetOfAnotherPrinter, SaysWhatThePanelMakesOfAValueThatTheDescriptionAl
   cancel(window);
 }
 
-TEST_F(PresetOfAnotherPrinter, IsSaidToDifferWhereTheWindowStartsWithIt) {
+TEST_F(PresetOfAnotherPrinter, IsReportedToDifferIfTheWindowStartsWithIt) {
   command({"lpoptions", "-p", "small/far", "-o", "LeftRightMargin=80", "-o", "TopBottomMargin=-7"});
   PrintWindow window(onQueue("small/far"));
   EXPECT_TRUE(window.says("set to 50 instead of 80: this printer takes -50 to 50"));
@@ -149,10 +149,10 @@ TEST_F(PresetOfAnotherPrinter, IsSaidToDifferWhereTheWindowStartsWithIt) {
   cancel(window);
 }
 
-/// Its panel writes down what it is asked.
+/// Its panel records the messages that it receives.
 class PresetOfAPanel : public PresetWindow {
 protected:
-  /// How often the panel was asked for an operation.
+  /// How often the panel received a message.
   long asked(const std::string &operation) const {
     const std::string text = "\n" + contentOf(journal);
     long count = 0;
@@ -166,7 +166,7 @@ protected:
   const Words environment{"FIXTURE_JOURNAL=" + journal};
 };
 
-TEST_F(PresetOfAPanel, ItIsSavedWithTheJobsPresetAndRestoredFromIt) {
+TEST_F(PresetOfAPanel, IsSavedWithTheJobsPresetAndRestoredFromIt) {
   PrintWindow window(words, environment);
   const long saved = asked("saveValuesAndReturnError:");
   EXPECT_EQ(asked("restoreValuesAndReturnError:"), 0);

@@ -1,4 +1,4 @@
-// The dialog as a person uses it, with a CUPS and printers of the tests' own.
+// The dialog as a user operates it, with a private CUPS server.
 #include "WholeJob.hpp"
 
 #include "Picture.hpp"
@@ -29,7 +29,7 @@ TEST_F(WholeJob, APrinterIsChosenByMouseAndItsPanelAppears) {
   command({"lpadmin", "-x", "attic"});
 }
 
-TEST_F(WholeJob, TwoSidedOffSwitchesThePanelOffAndSaysWhyUntilItIsOnAgain) {
+TEST_F(WholeJob, TwoSidedOffDisablesThePanelAndExplainsWhyUntilItIsOnAgain) {
   const auto arePanelControlsOn = [](bool on) {
     return [on](const Screen &shown) {
       const Control *const field = shown.beside(kLeftRight, "field");
@@ -54,7 +54,7 @@ TEST_F(WholeJob, TwoSidedOffSwitchesThePanelOffAndSaysWhyUntilItIsOnAgain) {
   EXPECT_THAT(job.options, Contains(Pair("Duplex", "DuplexTumble")));
 }
 
-TEST_F(WholeJob, TheChoiceOfARangeStaysShownWhenTheRangeIsRefused) {
+TEST_F(WholeJob, TheChoiceOfARangeStaysWhenTheRangeIsRejected) {
   PrintWindow window(onQueue("office"));
   for (const char *key : {"alt+a", "space", "Down", "Down", "Down", "Return"})
     window.press(key);
@@ -73,8 +73,8 @@ TEST_F(WholeJob, TheChoiceOfARangeStaysShownWhenTheRangeIsRefused) {
 
 class ThePicture : public WholeJob {
 protected:
-  /// How far an outline has moved, in tenths of a millimetre on the paper; half a pixel is not
-  /// seen.
+  /// Expects an outline to have moved this far, in tenths of a millimetre on the paper, give or
+  /// take a pixel.
   static void expectMoved(const Outline &from, const Outline &to, const Outline &paper, int right,
                           int down) {
     constexpr double kPaperWidth = 2100; // A4
@@ -85,7 +85,7 @@ protected:
     EXPECT_NEAR(to.bottom - from.bottom, down * pixels, 1);
   }
 
-  /// Waits until the picture is painted: it may come later than the words beside it.
+  /// Waits until the picture is drawn, which may be after the text beside it.
   static Picture painted(const PrintWindow &window) {
     std::optional<Picture> picture;
     EXPECT_TRUE(window.becomes([&](const Screen &shown) {
@@ -108,7 +108,7 @@ protected:
   }
 };
 
-TEST_F(ThePicture, MovesWhatIsPrintedByWhatIsTypedToScale) {
+TEST_F(ThePicture, MovesTheContentToScaleByTheTypedOffset) {
   PrintWindow window(onQueue("office"));
   window.tick(kSeparateOffsets, true);
   const Picture still = painted(window);

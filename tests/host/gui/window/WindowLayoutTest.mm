@@ -1,5 +1,4 @@
-// The window as it is laid out in the language of this process: no text clipped, nothing
-// overlapping.
+// The layout of the window in the language of this process: no text clipped, nothing overlapping.
 #import "PrintDialog.h"
 
 #include "Language.hpp"
@@ -57,7 +56,7 @@ protected:
     return found;
   }
 
-  /// As when there is a conflict.
+  /// Shows the buttons that appear for a conflict.
   void showResolve() {
     for (NSButton *button : placedOf<NSButton>([NSButton class]))
       [button setHidden:NO];
@@ -73,7 +72,7 @@ protected:
 TEST_P(WindowLayout, ClipsNoTitle) {
   for (NSUInteger i = 0; i < [placed() count]; i++) {
     NSView *const view = [placed() objectAtIndex:i];
-    // A stepper has no title, and measuring one destroys the stack of 32-bit systems.
+    // A stepper has no title, and measuring one corrupts the stack on 32-bit systems.
     if (![view isKindOfClass:[NSControl class]] || [view isKindOfClass:[NSPopUpButton class]] ||
         [view isKindOfClass:[NSStepper class]] || [[(NSControl *)view cell] wraps])
       continue;
@@ -91,7 +90,7 @@ TEST_P(WindowLayout, ClipsNoChoiceOfItsPopUps) {
     }
 }
 
-TEST_P(WindowLayout, HasRoomForWhatItsPopUpsMayOffer) {
+TEST_P(WindowLayout, HasRoomForLaterItemsOfItsPopUps) {
   NSPopUpButton *const presets = placedOf<NSPopUpButton>([NSPopUpButton class]).at(1);
   for (const Text &title : {messages::kSavePreset, messages::kRenamePreset, messages::kDeletePreset,
                             messages::kNotOffered})
@@ -99,7 +98,7 @@ TEST_P(WindowLayout, HasRoomForWhatItsPopUpsMayOffer) {
         << title.str();
 }
 
-TEST_P(WindowLayout, PutsNothingOnTopOfAnother) {
+TEST_P(WindowLayout, OverlapsNoViews) {
   for (NSUInteger i = 0; i < [placed() count]; i++) {
     NSView *const one = [placed() objectAtIndex:i];
     EXPECT_TRUE(NSContainsRect([[[dialog_ window] contentView] bounds], [one frame]))
@@ -112,7 +111,7 @@ TEST_P(WindowLayout, PutsNothingOnTopOfAnother) {
   }
 }
 
-TEST_P(WindowLayout, HasRoomForTheWordsOfThePicture) {
+TEST_P(WindowLayout, HasRoomForTheTextOfThePicture) {
   const NSSize size = [PreviewView preferredSize];
   PreviewRequest request;
   request.page = {{595}, {842}, {{12}, {12}, {583}, {830}}, true, true};
@@ -144,13 +143,13 @@ TEST_P(WindowLayout, HasRoomForTheWordsOfThePicture) {
     EXPECT_LE(widthOf(words, previewFont()), layout.relation.width) << words;
 }
 
-TEST_P(WindowLayout, IsNoLargerThanItsRoom) {
+TEST_P(WindowLayout, FitsTheScreen) {
   const NSSize size = [[[dialog_ window] contentView] frame].size;
   EXPECT_LE(size.width, GetParam().width);
   EXPECT_LE(size.height, GetParam().height);
 }
 
-TEST_P(WindowLayout, LeavesMuchOfAPanelInSight) {
+TEST_P(WindowLayout, KeepsMuchOfAPanelVisible) {
   EXPECT_GE(NSHeight([placedOf<PaneArea>([PaneArea class]).at(0) frame]), 160);
 }
 

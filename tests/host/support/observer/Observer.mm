@@ -1,5 +1,6 @@
-// Tells the tests what a window of print-dialog shows, and where on the display. The platform loads
-// it into the program, as it does any bundle that the user's default GSAppKitUserBundles names.
+// Reports to the tests what a window of print-dialog shows, and where on the display. GNUstep loads
+// this bundle into the program, as it does any bundle that the user default GSAppKitUserBundles
+// names.
 #import <AppKit/AppKit.h>
 
 #include <cmath>
@@ -9,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-/// Writes the file that OBSERVER_FILE names, whole, whenever what is shown has changed.
+/// Atomically replaces the file that OBSERVER_FILE names whenever the window's content changes.
 @interface Observer : NSObject {
   std::string *shown; ///< Owned.
 }
@@ -45,7 +46,7 @@ const char *kindOf(NSView *view) {
 }
 
 std::string textOf(NSView *view) {
-  if ([view isKindOfClass:[NSPopUpButton class]]) // what is drawn, not what would be answered
+  if ([view isKindOfClass:[NSPopUpButton class]]) // the title that is drawn
     return oneLine([[[(NSPopUpButton *)view cell] menuItem] title]);
   if ([view isKindOfClass:[NSButton class]])
     return oneLine([(NSButton *)view title]);
@@ -53,7 +54,7 @@ std::string textOf(NSView *view) {
     return std::to_string([(NSProgressIndicator *)view doubleValue]);
   if (![view isKindOfClass:[NSTextField class]])
     return "";
-  // Asking the field itself would end what is being typed.
+  // Asking the field itself would end editing.
   NSText *const editor = [(NSTextField *)view currentEditor];
   return oneLine(editor != nil ? [editor string] : [[(NSTextField *)view cell] stringValue]);
 }
@@ -103,7 +104,7 @@ std::string listing() {
   std::ostringstream out;
   NSWindow *const key = [NSApp isActive] ? [NSApp keyWindow] : nil;
   out << oneLine([[NSRunLoop currentRunLoop] currentMode]);
-  if (key != nil) // nobody answers with a rectangle on 32-bit systems: the caller's stack is lost
+  if (key != nil) // on 32-bit systems, a message to nil that returns a rectangle corrupts the stack
     writePlace(out, [key contentView], [[key contentView] bounds]);
   else
     out << "\t0\t0\t0\t0";
