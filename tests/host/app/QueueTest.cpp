@@ -54,7 +54,7 @@ TEST_F(Queue, AnInstancesOffsetOutOfRangeIsLimitedAndReported) {
              "TopBottomMargin=-7"});
   const auto result = print("office/far", {});
   EXPECT_EQ(settingsIn(result.output), offsets("100", "-7", "0", "0", "False"));
-  EXPECT_THAT(result.errors, HasSubstr("was set to 100 instead of 400"));
+  EXPECT_THAT(result.errors, HasSubstr("to 100 instead of 400"));
   cups->run({"lpoptions", "-x", "office/far"});
 }
 

@@ -148,7 +148,7 @@ TEST_F(Window, APanelWhoseControlRaisesIsLeftOut) {
 TEST_F(Window, APanelThatRefusesTheJobKeepsTheDialogOpen) {
   openFixture("veto");
   press({"Return"});
-  ASSERT_TRUE(says("\"Fixture Panel\" does not allow the job"));
+  ASSERT_TRUE(says("\"Fixture Panel\" does not allow printing"));
   EXPECT_FALSE(dialogProcess->hasEnded());
   press({"Escape"});
   EXPECT_EQ(ended().status, kCancelled);

@@ -144,8 +144,8 @@ TEST(CommandLine, ADryRunIsRead) { EXPECT_TRUE(read({"--dry-run", "a.pdf"}).isDr
 
 TEST(CommandLine, AnEmptyValueIsRefused) {
   for (const char *option : {"--ticket", "--back", "-d", "-h", "-U"})
-    EXPECT_THAT(mistake({"--ppd", "a.ppd", "--batch", option, ""}), HasSubstr("empty text"));
-  EXPECT_THAT(mistake({"--ppd", "a.ppd", ""}), HasSubstr("empty text"));
+    EXPECT_THAT(mistake({"--ppd", "a.ppd", "--batch", option, ""}), HasSubstr("empty value"));
+  EXPECT_THAT(mistake({"--ppd", "a.ppd", ""}), HasSubstr("empty value"));
 }
 
 TEST(CommandLine, JobOptionsKeepTheirOrder) {
@@ -180,7 +180,7 @@ TEST(CommandLine, BatchOptionsAreRead) {
 }
 
 TEST(CommandLine, ErrorMessagesNameTheCorrectForm) {
-  EXPECT_THAT(mistake({"--batch", "--ppd", "a", "--set", "FrontLRM"}), HasSubstr("NAME=TEXT"));
+  EXPECT_THAT(mistake({"--batch", "--ppd", "a", "--set", "FrontLRM"}), HasSubstr("NAME=VALUE"));
   EXPECT_THAT(mistake({"--batch", "--ppd", "a", "--back", "yes"}), HasSubstr("\"on\" or \"off\""));
   EXPECT_THAT(mistake({"--ppd", "a", "--set", "FrontLRM=1"}), HasSubstr("--batch"));
   EXPECT_THAT(mistake({"--ppd", "a", "--summary"}), HasSubstr("--batch"));

@@ -195,7 +195,7 @@ TEST(StateReasons, AreTranslated) {
   } kRows[] = {{"none", ""},
                {"", ""},
                {"media-empty-error", "out of paper"},
-               {"media-empty,toner-low-warning", "out of paper, little toner left"},
+               {"media-empty,toner-low-warning", "out of paper, toner low"},
                {"door-open-report,other", "door open"},
                {"cover-open,interlock-open", "cover open"},
                {"maker-special-warning", "maker-special"}};

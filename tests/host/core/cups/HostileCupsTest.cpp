@@ -132,7 +132,7 @@ TEST_F(HostileCups, AnErrorMessageIsOneLineOfUtf8) {
 
 TEST_F(HostileCups, AResponseWithoutAJobNumberIsAFailureWithoutASuccessMessage) {
   const std::string reason = refusal(printer() + "answer 200 0005\n02\n41 job-id 7\n");
-  EXPECT_THAT(reason, HasSubstr("CUPS did not take the job for \"office\". "));
+  EXPECT_THAT(reason, HasSubstr("CUPS did not accept the job for \"office\". "));
   EXPECT_THAT(reason, Not(HasSubstr("successful")));
 }
 
@@ -166,10 +166,10 @@ TEST_F(HostileCups, AJobWhoseDocumentIsNeverConfirmedFails) {
 /// Under UndefinedBehaviorSanitizer, the numbers must not be stored in CUPS's enumerations.
 TEST_F(HostileCups, AnUndefinedStatusIsAFailure) {
   EXPECT_THAT(printers("answer 200 0\nipp 7FFF\n01\n41 status-message Odd.\n").reason,
-              HasSubstr("CUPS does not say which printers it has (Odd)."));
+              HasSubstr("CUPS refused to list its printers (Odd)."));
   EXPECT_THAT(refusal(printer() + "answer 200 0005\nipp 7FFF\n01\n41 status-message Odd.\n"),
-              HasSubstr("CUPS did not take the job for \"office\" (Odd)."));
-  EXPECT_THAT(printers("answer 131072 0\nbody odd\n").reason, HasSubstr("CUPS does not "));
+              HasSubstr("CUPS did not accept the job for \"office\" (Odd)."));
+  EXPECT_THAT(printers("answer 131072 0\nbody odd\n").reason, HasSubstr("CUPS is not responding"));
 }
 
 std::vector<std::string> wordsFor(const std::vector<Term> &terms) {

@@ -196,7 +196,7 @@ TEST_F(Job, IsRefusedForADeletedQueue) {
   const SubmissionFailure failure = refusal(requestFor(), document());
   EXPECT_EQ(failure.problem(), JobProblem::QueueGone) << failure.what();
   EXPECT_EQ(failure.code(), ExitCode::Job);
-  EXPECT_THAT(failure.what(), HasSubstr("no printer \"office\" any more"));
+  EXPECT_THAT(failure.what(), HasSubstr("no longer has a printer \"office\""));
 }
 
 TEST_F(Job, IsRefusedWithoutCups) {

@@ -67,8 +67,8 @@ TEST(PageRanges, AnErrorIsExplainedWithAnExample) {
     const char *reason;
     const char *example;
   } rows[] = {
-      {"", "No pages", "1-3, 7"},
-      {" , ", "No pages", "1-3, 7"},
+      {"", "page range is empty", "1-3, 7"},
+      {" , ", "page range is empty", "1-3, 7"},
       {"all", "\"all\"", "1-3, 7"},
       {"1-3, x7", "\"x7\"", "1-3, 7"},
       {"3a", "\"3a\"", "1-3, 7"},
@@ -79,7 +79,7 @@ TEST(PageRanges, AnErrorIsExplainedWithAnExample) {
       {"1-2-3", "\"-3\"", "1-3, 7"},
       {"0", "start at 1", "1-3"},
       {"0-3", "start at 1", "1-3"},
-      {"7-3", "7-3 runs backwards", "Write 3-7"},
+      {"7-3", "7-3 is in the wrong order", "Use 3-7"},
       {"2147483647", "is too large", "5-"},
       {"99999999999999999999", "99999999999999999999", "5-"},
   };

@@ -88,16 +88,16 @@ TEST(Ticket, AnInvalidTicketIsRefusedWithItsNameAndTheReason) {
       {R"({"settings": {"a": null}})", "\"a\" is neither"},
       {R"({"settings": {"a": 1.5}})", "\"a\" is neither"},
       {R"({"settings": {"a": true}})", "\"a\" is neither"},
-      {R"({"settings": {"": "1"}})", "can carry"},
+      {R"({"settings": {"": "1"}})", "cannot hold"},
       {R"({"settings": {"a=b": "1"}})", "\"a=b\""},
-      {R"({"settings": {"a": "\u0000"}})", "can carry"},
-      {R"({"settings": {"a": "1", "A": "2"}, "locked": ["a"]})", "there twice"},
+      {R"({"settings": {"a": "\u0000"}})", "cannot hold"},
+      {R"({"settings": {"a": "1", "A": "2"}, "locked": ["a"]})", "appears twice"},
       {R"({"settings": {"a": "1", "a": "2"}})", "\"a\" appears twice"},
       {R"({"settings": {"a": "1", "A": "2"}})", "appears twice"},
       {R"({"settings": {}, "settings": {"a": "1"}})", "\"settings\" appears twice"},
       {R"({"settings": {}, "x": [{"b": 1, "b": 1}]})", "\"b\" appears twice"},
       {R"({"settings": {"touch$IFS$HOME/x;A": "1"}})", "\"touch$IFS$HOME/x;A\""},
-      {R"({"settings": {"A\u0007": "1"}})", "can carry"},
+      {R"({"settings": {"A\u0007": "1"}})", "cannot hold"},
       {R"({"settings": {}, "locked": "a"})", "list of strings"},
       {R"({"settings": {}, "locked": [1]})", "list of strings"},
       {R"({"settings": {}, "documents": "a"})", "\"documents\" is not a list"},
@@ -263,7 +263,7 @@ TEST(TicketFile, AHugeFileIsRefused) {
 }
 
 TEST(TicketFile, ADeviceIsNotReplaced) {
-  EXPECT_THAT(failureOf([] { writeTicket(sample(), "/dev/null"); }), HasSubstr("ordinary"));
+  EXPECT_THAT(failureOf([] { writeTicket(sample(), "/dev/null"); }), HasSubstr("regular file"));
 }
 
 } // namespace

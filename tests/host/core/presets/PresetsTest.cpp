@@ -186,8 +186,9 @@ TEST_F(PresetsTest, PresetsOfOtherPrintersAreListed) {
 TEST_F(PresetsTest, SharedPresetsAreLoadedAndCannotBeChanged) {
   folder.write("etc/lpoptions", "Dest office/house Fold=Z Stapler=True\n");
   EXPECT_THAT(presets.names(), ElementsAre("house"));
-  EXPECT_THAT(failureOf([&] { presets.remove("house"); }), HasSubstr("everybody"));
-  EXPECT_THAT(failureOf([&] { presets.rename("house", "home"); }), HasSubstr("everybody"));
+  EXPECT_THAT(failureOf([&] { presets.remove("house"); }), HasSubstr("belongs to all users"));
+  EXPECT_THAT(failureOf([&] { presets.rename("house", "home"); }),
+              HasSubstr("belongs to all users"));
   presets.save("house", settings({{"Stapler", "False"}}));
   const LoadedPreset loaded = presets.load("house", printer);
   EXPECT_THAT(loaded.settings.get("Fold"), StrEq("Z"));
@@ -205,7 +206,7 @@ TEST_F(PresetsTest, SettingsThatDoNotFitAreDroppedAndReported) {
       {"MediaType", "Gold",
        "\"Kind of Paper\" to this printer's default: the printer does not offer"},
       {"Stapler", "true", nullptr},
-      {"Saddle", "On", "\"Saddle\" (On) was left out"},
+      {"Saddle", "On", "Left out \"Saddle\" (On)"},
       {"copies", "2", nullptr},
       {"number-up", "4", nullptr},
       {"LeftRightMargin", "0", nullptr},
@@ -217,7 +218,7 @@ TEST_F(PresetsTest, SettingsThatDoNotFitAreDroppedAndReported) {
       {"Watermark", "Custom.Mine", nullptr},
       {"Watermark", "Mine", "does not offer"},
       {"PageSize", "Custom.300x400", nullptr},
-      {"PageSize", "Custom.300x4000", "Height: that is out of range"},
+      {"PageSize", "Custom.300x4000", "Height is out of range"},
       {"PageSize", "Letter", "does not offer \"Letter\""},
       {"BackShift", "7", nullptr}, // a setting of a panel
   };
@@ -250,8 +251,8 @@ TEST_F(PresetsTest, ANumberOutOfRangeBecomesTheNearestAndIsReported) {
       const auto loaded = Presets::load(PresetName{owner, "far"}, printer);
       EXPECT_THAT(loaded.settings.get("LeftRightMargin"), StrEq(row.nearest));
       ASSERT_THAT(loaded.misfits, SizeIs(1));
-      EXPECT_THAT(loaded.misfits[0], AllOf(HasSubstr("\"Shift\" was set to"),
-                                           HasSubstr("this printer takes -50 to 50")));
+      EXPECT_THAT(loaded.misfits[0], AllOf(HasSubstr("Set \"Shift\" to"),
+                                           HasSubstr("this printer accepts -50 to 50")));
     }
 }
 

@@ -196,7 +196,7 @@ TEST_F(CustomValue, OfANumberMustBeInItsRange) {
     EXPECT_EQ(check("Holes", typed).problem, "Number of Holes is out of range. Enter 1 to 12.");
   EXPECT_THAT(check("Holes", "2.5").problem, HasSubstr("must be a whole number"));
   for (const char *typed : {"", "x", "nan", "inf", "0x5", "1e1", "1,2,3", "3 holes", "--3"})
-    EXPECT_THAT(check("Holes", typed).problem, HasSubstr("no number")) << typed;
+    EXPECT_THAT(check("Holes", typed).problem, HasSubstr("must be a number")) << typed;
   EXPECT_EQ(check("Gloss", "0,75").entry, "0.75");
   EXPECT_THAT(check("Gloss", "2.5001").problem, HasSubstr("out of range"));
   EXPECT_THAT(check("Gloss", "2.5").problem, IsEmpty());
@@ -217,21 +217,21 @@ TEST_F(CustomValue, OfALengthMustBeInItsRangeInAnyUnit) {
   EXPECT_THAT(check("Trim", "25.57").problem, IsEmpty()) << "half a point";
   for (const char *beyond : {"3.3", "25.6", "-10"})
     EXPECT_EQ(check("Trim", beyond).problem, "Width is out of range. Enter 3.53 to 25.4 mm.");
-  EXPECT_THAT(check("Trim", "10 miles").problem, HasSubstr("no number"));
+  EXPECT_THAT(check("Trim", "10 miles").problem, HasSubstr("must be a number"));
   const std::string digits(308, '9');
   EXPECT_THAT(check("Trim", digits).problem, HasSubstr("out of range"));
   EXPECT_THAT(check("Trim", "-" + digits + "mm").problem, HasSubstr("out of range"));
-  EXPECT_THAT(check("Trim", digits + "m").problem, HasSubstr("no number"));
+  EXPECT_THAT(check("Trim", digits + "m").problem, HasSubstr("must be a number"));
 }
 
 TEST_F(CustomValue, OfAStringIsLimitedInBytes) {
   EXPECT_THAT(check("Stamp", "a").problem, IsEmpty());
   EXPECT_THAT(check("Stamp", std::string(20, 'a')).problem, IsEmpty());
-  EXPECT_THAT(check("Stamp", "").problem, HasSubstr("length of 0. The printer takes 1 to 20."));
+  EXPECT_THAT(check("Stamp", "").problem, HasSubstr("length of 0. The printer accepts 1 to 20."));
   EXPECT_THAT(check("Stamp", std::string(21, 'a')).problem, HasSubstr("length of 21"));
   EXPECT_THAT(check("Stamp", "文文文文文文").problem, IsEmpty());
   EXPECT_EQ(check("Stamp", "文文文文文文文").problem,
-            "Words: that has a length of 21. The printer takes 1 to 20; a letter such as é counts "
+            "Words has a length of 21. The printer accepts 1 to 20, and a letter such as é counts "
             "as two or more.");
   EXPECT_EQ(check("Stamp", "It's \"mine\" {x}").entry, "It's \"mine\" {x}");
   EXPECT_THAT(check("Stamp", "a\nb").problem, HasSubstr("a print job cannot hold"));
@@ -251,9 +251,9 @@ TEST_F(CustomValue, OfAPasswordOrPasscodeIsLimitedInLength) {
   EXPECT_THAT(password("abc"), HasSubstr("4 to 16"));
   EXPECT_THAT(password("abcdefghijklmnopq"), HasSubstr("4 to 16"));
   EXPECT_THAT(code("0123"), IsEmpty());
-  EXPECT_THAT(code("123"), HasSubstr("takes 4."));
-  EXPECT_THAT(code("12345"), HasSubstr("takes 4."));
-  EXPECT_THAT(code("12a4"), HasSubstr("digits only"));
+  EXPECT_THAT(code("123"), HasSubstr("accepts 4."));
+  EXPECT_THAT(code("12345"), HasSubstr("accepts 4."));
+  EXPECT_THAT(code("12a4"), HasSubstr("must consist of digits"));
   EXPECT_THAT(password("secret\n").find("secret"), std::string::npos);
 }
 

@@ -43,9 +43,9 @@ TEST(Availability, NamesTheChoiceThatPreventsIt) {
 
 TEST(Availability, AdvisesOnlyAboutTheObstacles) {
   EXPECT_EQ(adviceText({true, false}),
-            "Two-sided printing is off. Choose it, such as with -o Duplex=DuplexNoTumble.");
+            "Two-sided printing is off. Turn it on, for example with -o Duplex=DuplexNoTumble.");
   EXPECT_EQ(adviceText({false, true}),
-            "Banner pages are on. Switch them off with -o MVBannerPagePrint=False.");
+            "Banner pages are on. Turn them off with -o MVBannerPagePrint=False.");
   EXPECT_EQ(adviceText({}), "");
 }
 

@@ -151,7 +151,7 @@ TEST_F(EnteredValue, ShowsTheFocusInOneFieldAndErrorsOfAnyField) {
   EXPECT_TRUE(window.becomes(
       [](const Screen &shown) { return hasRing(shown, "Height:") && !hasRing(shown, "Width:"); }));
   window.write("1");
-  EXPECT_TRUE(window.says("Height: that is out of range."));
+  EXPECT_TRUE(window.says("Height is out of range."));
   window.write("50");
   EXPECT_TRUE(window.says("Width is out of range.")) << "the height is 150";
   window.press("Return");
@@ -195,7 +195,7 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
   window.write("it's \"me\"");
   window.press("Tab");
   window.write("abc");
-  EXPECT_TRUE(window.says("Password: that has a length of 3. The printer takes 4 to 16"));
+  EXPECT_TRUE(window.says("Password has a length of 3. The printer accepts 4 to 16"));
   window.write(" \\'d");
   for (const char *key : {"ctrl+a", "ctrl+c", "alt+u", "End", "ctrl+v"})
     window.press(key);   // hidden text is not copied, see `shown`
@@ -204,7 +204,8 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
   EXPECT_TRUE(window.says("Code must consist of digits."));
   window.press("ctrl+a");
   window.write("0123");
-  EXPECT_TRUE(window.becomes([](const Screen &shown) { return !shown.says("digits only"); }));
+  EXPECT_TRUE(
+      window.becomes([](const Screen &shown) { return !shown.says("must consist of digits"); }));
   window.press("Return");
   ASSERT_TRUE(asks(window, "Print"));
   const char *const shown = "Custom: User: it's \"me\", Password: ••••, Code: ••••";
@@ -212,7 +213,7 @@ TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
   window.choose("Settings:", "Summary");
   EXPECT_TRUE(window.says(shown));
   savePreset(window, "private");
-  EXPECT_TRUE(window.says("The preset does not keep \"Secret\""));
+  EXPECT_TRUE(window.says("The preset leaves out \"Secret\""));
   EXPECT_THAT(command({"lpoptions", "-p", "finisher/private"}), Not(HasSubstr("0123")));
   window.choose("Settings:", "Summary");
   for (const Control &control : window.screen().controls)

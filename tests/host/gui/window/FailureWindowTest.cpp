@@ -101,7 +101,7 @@ TEST_F(Failing, ADeletedQueueIsReportedAndPrintWorksOnceItIsBack) {
   fillIn(window);
   command({"lpadmin", "-x", "office"});
   window.click("Print");
-  ASSERT_TRUE(window.says("CUPS has no printer \"office\" any more. Choose another printer"));
+  ASSERT_TRUE(window.says("CUPS no longer has a printer \"office\". Choose another printer"));
   expectAllIsStillThere(window);
   addQueue("office");
   window.click("Print");

@@ -110,7 +110,7 @@ TEST_F(PresetOfAnotherPrinter, LoadsWhatFitsAndReportsWhatBecameOfTheRest) {
   saveOnOffice({false, {80, -7, 0, 0}});
   PrintWindow window(onQueue("small"));
   window.choose("Preset:", "office/far");
-  EXPECT_TRUE(window.says("set to 50 instead of 80: this printer takes -50 to 50"));
+  EXPECT_TRUE(window.says("to 50 instead of 80: this printer accepts -50 to 50"));
   EXPECT_TRUE(shows(window, kTopBottom, "-7"));
   EXPECT_TRUE(shows(window, kLeftRight, "50"));
   window.click("Print");
@@ -143,7 +143,7 @@ TEST_F(PresetOfAnotherPrinter, ReportsHowThePanelChangesAValueThatTheDescription
 TEST_F(PresetOfAnotherPrinter, IsReportedToDifferIfTheWindowStartsWithIt) {
   command({"lpoptions", "-p", "small/far", "-o", "LeftRightMargin=80", "-o", "TopBottomMargin=-7"});
   PrintWindow window(onQueue("small/far"));
-  EXPECT_TRUE(window.says("set to 50 instead of 80: this printer takes -50 to 50"));
+  EXPECT_TRUE(window.says("to 50 instead of 80: this printer accepts -50 to 50"));
   EXPECT_EQ(window.field(kLeftRight), "50");
   EXPECT_EQ(window.field(kTopBottom), "-7");
   cancel(window);

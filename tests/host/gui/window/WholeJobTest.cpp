@@ -60,7 +60,7 @@ TEST_F(WholeJob, TheChoiceOfARangeStaysWhenTheRangeIsRejected) {
     window.press(key);
   window.write("9-2");
   window.press("Tab");
-  ASSERT_TRUE(window.says("9-2 runs backwards"));
+  ASSERT_TRUE(window.says("9-2 is in the wrong order"));
   EXPECT_TRUE(window.becomes([](const Screen &shown) {
     const Control *const pages = shown.beside("Pages:", "popup");
     return pages != nullptr && pages->text == "Range";

@@ -96,7 +96,7 @@ TEST_F(Batch, ANarrowRangeIsEnforced) {
   const auto result =
       batch(sample("duplex-shift-narrow.ppd"), {"--set", "FrontLRM=-51", "--set", "FrontTBM=50"});
   EXPECT_EQ(settingsIn(result.output), offsets("-50", "50", "0", "0", "False"));
-  EXPECT_THAT(result.errors, HasSubstr("\"-50\" of \"-51\""));
+  EXPECT_THAT(result.errors, HasSubstr("from \"-51\" to \"-50\""));
 }
 
 TEST_F(Batch, TheDefaultsOfAPrinterWithAWideRangeAreUsed) {
@@ -120,8 +120,8 @@ TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreDisabled) {
   const struct {
     const char *off;
     const char *reason;
-  } rows[] = {{"Duplex=None", "off. Two-sided printing is off. Choose"},
-              {"MVBannerPagePrint=True", "off. Banner pages are on. Switch"}};
+  } rows[] = {{"Duplex=None", "settings. Two-sided printing is off. Turn it on"},
+              {"MVBannerPagePrint=True", "settings. Banner pages are on. Turn them off"}};
   for (const auto &[off, reason] : rows) {
     SCOPED_TRACE(off);
     auto result = batch(shift, {"-o", off, "--set", "FrontLRM=1"});
@@ -140,7 +140,7 @@ TEST_F(Batch, WithTwoSidedPrintingOffTheFieldsAreDisabled) {
 TEST_F(Batch, TheBackSidesFieldsNeedTheCheckbox) {
   const auto result = batch(shift, {"--set", "BackLRM=1"});
   EXPECT_EQ(result.status, kValue);
-  EXPECT_THAT(result.errors, HasSubstr("off. Separate offsets for the back side"));
+  EXPECT_THAT(result.errors, HasSubstr("settings. For an offset of the back"));
   EXPECT_EQ(batch(shift, {"--set", "BackLRM=1", "--back", "on"}).status, kDone);
 }
 
@@ -183,7 +183,7 @@ TEST_F(Batch, ALockedSettingKeepsItsValueAndThePanelShowsIt) {
   const auto result = batch(shift, {"--ticket", ticket, "--set", "FrontLRM=1", "--summary"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_THAT(contentOf(ticket), HasSubstr("\"LeftRightMargin\": \"7\""));
-  EXPECT_THAT(result.errors, HasSubstr("\"7\" of \"1\""));
+  EXPECT_THAT(result.errors, HasSubstr("from \"1\" to \"7\""));
 }
 
 TEST_F(Batch, StoredValuesThatAreNotNumbersAreRead) {
@@ -235,7 +235,7 @@ TEST_F(Batch, EachKindOfErrorHasAnExitStatus) {
 TEST_F(Batch, AnArgumentThatIsNotUtf8IsReported) {
   const auto result = batch(shift, {"--ticket", folder.path("job\xFF.json")});
   EXPECT_EQ(result.status, kUsage);
-  EXPECT_THAT(result.errors, HasSubstr("job\xEF\xBF\xBD.json\" is not UTF-8"));
+  EXPECT_THAT(result.errors, HasSubstr("job\xEF\xBF\xBD.json\" is not valid UTF-8"));
 }
 
 TEST_F(Batch, AVariableThatIsNotUtf8IsHarmless) {

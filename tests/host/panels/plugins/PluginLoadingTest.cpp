@@ -187,7 +187,7 @@ TEST_F(PluginLoading, ALinkIsCheckedAtItsTarget) {
   fs::remove(folder.path("job.json"));
   fs::permissions(folder.path("place"), fs::perms::others_write, fs::perm_options::add);
   expectLeftOut(load(folder.path("Link.plugin"), ""),
-                "Link.plugin\" was not loaded: other users may change");
+                "Link.plugin\" was not loaded: other users can modify");
 }
 
 TEST_F(PluginLoading, CodeOutsideTheBundleIsCheckedToo) {
@@ -197,7 +197,7 @@ TEST_F(PluginLoading, CodeOutsideTheBundleIsCheckedToo) {
   fs::permissions(folder.path("open"), fs::perms::others_write, fs::perm_options::add);
   std::ofstream(bundle + "/Resources/Info-gnustep.plist")
       << "{ NSExecutable = \"../open/Fixture\"; NSPrincipalClass = FixturePlugin; }";
-  expectLeftOut(load(bundle, ""), "Copy.plugin\" was not loaded: other users may change");
+  expectLeftOut(load(bundle, ""), "Copy.plugin\" was not loaded: other users can modify");
 }
 
 TEST_F(PluginLoading, ThePanelWithoutOneOfItsDefinitionsCannotBeLoaded) {
