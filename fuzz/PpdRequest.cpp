@@ -10,7 +10,6 @@
 #include "Strings.hpp"
 #include "ValueCheck.hpp"
 
-
 namespace imageposition::fuzz {
 
 namespace {
@@ -106,7 +105,8 @@ void checkSummary(const SummarySection &section) {
   checkWords(section.panelName, "a heading");
   for (const SummaryLine &line : section.lines) {
     checkWords(line.title, "a title of the summary");
-    check(isWellFormedUtf8(line.value), "a value of the summary is UTF-8"); // unchanged from the job
+    check(isWellFormedUtf8(line.value),
+          "a value of the summary is UTF-8"); // unchanged from the job
   }
 }
 
