@@ -138,12 +138,17 @@ void PrintWindow::choose(const std::string &label, const std::string &item) {
     return nullptr;
   };
   clickAt(popUp.middleX(), popUp.middleY(), [&] {
-    const Control chosen = awaited(item, find);
-    xdotool({"mousemove", std::to_string(chosen.middleX()), std::to_string(chosen.middleY())});
-    awaited(item + " under the pointer", [&](const Screen &shown) {
-      const Control *const found = find(shown);
-      return found != nullptr && found->isOn ? found : nullptr;
-    });
+    awaited(item, find);
+    int nudge = 0;
+    // A list that has just opened may miss the first movement, as it does for a user.
+    if (!becomes([&](const Screen &shown) {
+          const Control *const found = find(shown);
+          if (found != nullptr && !found->isOn)
+            xdotool({"mousemove", std::to_string(found->middleX()),
+                     std::to_string(found->middleY() + (nudge = 1 - nudge))});
+          return found != nullptr && found->isOn;
+        }))
+      giveUp(item + " is not highlighted", screen());
   });
 }
 
