@@ -21,7 +21,7 @@
 #include <unistd.h>
 #include <utility>
 
-using namespace imageposition;
+namespace imageposition {
 
 namespace {
 
@@ -91,11 +91,14 @@ ExitCode runProgram(int argc, char **argv) {
 
 } // namespace
 
+} // namespace imageposition
+
 int main(int argc, char **argv) {
-  keepStandardDescriptors();
-  const VisibleStream output(std::cout), errors(std::cerr);
+  imageposition::keepStandardDescriptors();
+  const imageposition::VisibleStream output(std::cout), errors(std::cerr);
   // A write beyond the file-size limit then fails instead of killing the program. Child processes
   // do not inherit the handler.
   std::signal(SIGXFSZ, [](int) {});
-  return static_cast<int>(exitCodeOf([=] { return runProgram(argc, argv); }, std::cerr));
+  return static_cast<int>(
+      imageposition::exitCodeOf([=] { return imageposition::runProgram(argc, argv); }, std::cerr));
 }

@@ -108,7 +108,7 @@ const IppName *findIppName(const std::string &option, const std::string &choice)
 }
 
 cups_size_t toCupsSize(const ppd_size_t &size) {
-  const auto fromPoints = [](float points) { return static_cast<int>(points * 2540 / 72 + 0.5F); };
+  const auto fromPoints = [](float points) { return PWG_FROM_POINTS(points); };
   cups_size_t result{};
   result.width = fromPoints(size.width);
   result.length = fromPoints(size.length);
