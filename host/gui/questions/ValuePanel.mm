@@ -1,6 +1,7 @@
 #import "ValuePanel.h"
 
 #import "Labels.h"
+#import "ListPopUp.h"
 #include "Mnemonic.hpp"
 #import "MnemonicControls.h"
 #import "ModalPanel.h"
@@ -184,9 +185,9 @@ NSTextField *makeRange(const CustomParameter &parameter) {
 }
 
 NSPopUpButton *makeUnits(ValueForm *form) {
-  NSPopUpButton *const popUp =
-      [[[NSPopUpButton alloc] initWithFrame:NSMakeRect(0, 0, kUnitWidth, kButtonHeight)
-                                  pullsDown:NO] autorelease];
+  ListPopUp *const popUp =
+      [[[ListPopUp alloc] initWithFrame:NSMakeRect(0, 0, kUnitWidth, kButtonHeight)
+                              pullsDown:NO] autorelease];
   for (const LengthUnit unit : kUnits)
     [[popUp menu] addItemWithTitle:toString(unitName(unit)) action:nullptr keyEquivalent:@""];
   [popUp selectItemAtIndex:std::find(std::begin(kUnits), std::end(kUnits), form->unit) -

@@ -24,6 +24,10 @@ NSColor *accentColor();        ///< Marks the selection and the focus.
 NSColor *secondaryTextColor(); ///< For explanations beside a control; contrast at least 4.5 to 1.
 NSColor *warningTextColor();   ///< For errors and conflicts; contrast at least 4.5 to 1.
 NSColor *outlineColor();       ///< For edges of controls and paper, and for separators.
+
+/// Draws the mark of a chosen item or of a checkbox that is on; `flipped` is the view's
+/// `isFlipped`.
+void drawTick(NSRect box, bool flipped, NSColor *color);
 #endif
 
 } // namespace imageposition

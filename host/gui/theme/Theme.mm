@@ -45,6 +45,22 @@ void installTheme(Appearance appearance) {
   keepTheme();
 }
 
+void drawTick(NSRect box, bool flipped, NSColor *color) {
+  const CGFloat side = NSWidth(box);
+  const auto point = [=](CGFloat x, CGFloat y) {
+    return NSMakePoint(NSMinX(box) + x * side, NSMinY(box) + (flipped ? 1 - y : y) * side);
+  };
+  NSBezierPath *const path = [NSBezierPath bezierPath];
+  [path moveToPoint:point(0.24, 0.50)];
+  [path lineToPoint:point(0.43, 0.30)];
+  [path lineToPoint:point(0.76, 0.71)];
+  [path setLineWidth:2];
+  [path setLineCapStyle:NSRoundLineCapStyle];
+  [path setLineJoinStyle:NSRoundLineJoinStyle];
+  [color set];
+  [path stroke];
+}
+
 NSColor *accentColor() { return toColor(colorsInUse().accent); }
 NSColor *secondaryTextColor() { return toColor(colorsInUse().secondaryText); }
 NSColor *warningTextColor() { return toColor(colorsInUse().warningText); }

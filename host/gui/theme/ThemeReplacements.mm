@@ -1,4 +1,5 @@
 #import "DialogTheme.h"
+#import "Theme.h"
 
 #include <cmath>
 #include <objc/runtime.h>
@@ -72,22 +73,6 @@ Picture pictureOf(NSImage *image) {
   return Picture::Other;
 }
 
-void drawTick(NSRect box, bool flipped, Rgb color) {
-  const CGFloat side = NSWidth(box);
-  const auto point = [=](CGFloat x, CGFloat y) {
-    return NSMakePoint(NSMinX(box) + x * side, NSMinY(box) + (flipped ? 1 - y : y) * side);
-  };
-  NSBezierPath *const path = [NSBezierPath bezierPath];
-  [path moveToPoint:point(0.24, 0.50)];
-  [path lineToPoint:point(0.43, 0.30)];
-  [path lineToPoint:point(0.76, 0.71)];
-  [path setLineWidth:2];
-  [path setLineCapStyle:NSRoundLineCapStyle];
-  [path setLineJoinStyle:NSRoundLineJoinStyle];
-  [toColor(color) set];
-  [path stroke];
-}
-
 void drawSwitch(NSButtonCell *cell, NSRect frame, NSView *view, bool isRound) {
   const ThemeColors &palette = [DialogTheme current]->palette;
   constexpr CGFloat kSide = 14;
@@ -110,7 +95,7 @@ void drawSwitch(NSButtonCell *cell, NSRect frame, NSView *view, bool isRound) {
   if (isOn && isRound)
     drawRoundRect(NSInsetRect(box, 4, 4), 3, mark, mark);
   else if (isOn)
-    drawTick(box, [view isFlipped], mark);
+    drawTick(box, [view isFlipped], toColor(mark));
 }
 
 /// Marks a control that opens a menu, with one chevron or with two.

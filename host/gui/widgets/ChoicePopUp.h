@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_GUI_WIDGETS_CHOICEPOPUP_H
 #define IMAGEPOSITION_GUI_WIDGETS_CHOICEPOPUP_H
 
-#import <AppKit/AppKit.h>
+#import "ListPopUp.h"
 
 #include "PrinterOptions.hpp"
 
@@ -13,7 +13,7 @@ namespace imageposition {
 
 /// Shows the choices and selects the current one. If the user can enter a custom value, adds a last
 /// item for it. Returns the choices' keywords in the order of the items.
-std::vector<std::string> showChoices(NSPopUpButton *popUp, const PrinterOption &option);
+std::vector<std::string> showChoices(ListPopUp *popUp, const PrinterOption &option);
 
 } // namespace imageposition
 

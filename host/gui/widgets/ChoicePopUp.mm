@@ -10,7 +10,7 @@ namespace imageposition {
 namespace {
 
 /// Leaves existing items alone: the user may have the pop-up open.
-void showTitles(NSPopUpButton *popUp, const std::vector<std::string> &titles) {
+void showTitles(ListPopUp *popUp, const std::vector<std::string> &titles) {
   bool isShown = static_cast<std::size_t>([popUp numberOfItems]) == titles.size();
   for (std::size_t i = 0; isShown && i < titles.size(); i++)
     isShown = toText([popUp itemTitleAtIndex:static_cast<NSInteger>(i)]) == titles[i];
@@ -24,7 +24,7 @@ void showTitles(NSPopUpButton *popUp, const std::vector<std::string> &titles) {
 
 } // namespace
 
-std::vector<std::string> showChoices(NSPopUpButton *popUp, const PrinterOption &option) {
+std::vector<std::string> showChoices(ListPopUp *popUp, const PrinterOption &option) {
   std::vector<std::string> keywords, titles;
   for (const OptionChoice &choice : option.choices) {
     keywords.push_back(choice.keyword);
@@ -33,6 +33,8 @@ std::vector<std::string> showChoices(NSPopUpButton *popUp, const PrinterOption &
   if (option.custom)
     titles.push_back(messages::kEnterValue);
   showTitles(popUp, titles);
+  if (option.custom)
+    [popUp markLastItemAsCommand];
   const auto chosen = std::find(keywords.begin(), keywords.end(), option.chosen);
   [popUp selectItemAtIndex:chosen == keywords.end() ? -1 : chosen - keywords.begin()];
   [popUp setEnabled:!option.isLocked];

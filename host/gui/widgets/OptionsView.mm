@@ -2,6 +2,7 @@
 
 #import "ChoicePopUp.h"
 #import "Labels.h"
+#import "ListPopUp.h"
 #include "Mnemonic.hpp"
 #import "MnemonicControls.h"
 #include "OptionRows.hpp"
@@ -18,7 +19,7 @@ namespace imageposition {
 struct OptionsViewRow {
   std::string keyword;
   std::vector<std::string> choices;
-  NSPopUpButton *popUp;             // owned by the view; null for checkboxes
+  ListPopUp *popUp;                 // owned by the view; null for checkboxes
   std::vector<NSButton *> switches; // owned by the view; one for each choice
 };
 
@@ -117,10 +118,8 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
                by:sender];
 }
 
-- (NSPopUpButton *)popUpFor:(const PrinterOption &)option frame:(NSRect)frame {
-  NSPopUpButton *const popUp = [[[NSPopUpButton alloc] initWithFrame:frame
-                                                           pullsDown:NO] autorelease];
-  [popUp setAutoenablesItems:NO];
+- (ListPopUp *)popUpFor:(const PrinterOption &)option frame:(NSRect)frame {
+  ListPopUp *const popUp = [[[ListPopUp alloc] initWithFrame:frame pullsDown:NO] autorelease];
   [popUp setTag:static_cast<NSInteger>(rows->size())];
   [popUp setTarget:self];
   [popUp setAction:@selector(choose:)];

@@ -3,6 +3,7 @@
 #define IMAGEPOSITION_GUI_WINDOW_DIALOGLAYOUT_H
 
 #import "KeyWindow.h"
+#import "ListPopUp.h"
 
 #include <string>
 #include <vector>
@@ -42,11 +43,13 @@ struct DialogContent {
 };
 
 /// A pop-up of the usual size, which the caller does not own.
-NSPopUpButton *makePopUp(id target, SEL action);
+ListPopUp *makePopUp(id target, SEL action);
 /// An entry field, which the caller does not own.
 NSTextField *makeField(CGFloat width, id target, SEL action);
 /// Adds an item. Through the menu: the pop-up itself removes an earlier item of the same title.
 void addItem(NSPopUpButton *popUp, const std::string &title, bool enabled = true);
+/// Adds an item that does something when it is chosen.
+void addCommand(ListPopUp *popUp, const std::string &title, bool enabled = true);
 
 /// The largest content of a window that fits on the screen, in points.
 NSSize roomOnScreen();

@@ -172,11 +172,9 @@ void Layout::linkKeys() {
 
 } // namespace
 
-NSPopUpButton *makePopUp(id target, SEL action) {
+ListPopUp *makePopUp(id target, SEL action) {
   const NSRect frame = NSMakeRect(0, 0, kPopUpWidth, kRowHeight);
-  NSPopUpButton *const popUp = [[[NSPopUpButton alloc] initWithFrame:frame
-                                                           pullsDown:NO] autorelease];
-  [popUp setAutoenablesItems:NO];
+  ListPopUp *const popUp = [[[ListPopUp alloc] initWithFrame:frame pullsDown:NO] autorelease];
   [popUp setTarget:target];
   [popUp setAction:action];
   return popUp;
@@ -197,6 +195,11 @@ void addItem(NSPopUpButton *popUp, const std::string &title, bool enabled) {
                                                       action:nullptr
                                                keyEquivalent:@""];
   [item setEnabled:enabled];
+}
+
+void addCommand(ListPopUp *popUp, const std::string &title, bool enabled) {
+  addItem(popUp, title, enabled);
+  [popUp markLastItemAsCommand];
 }
 
 NSSize roomOnScreen() {

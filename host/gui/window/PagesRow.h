@@ -7,7 +7,7 @@
 
 @interface PagesRow : NSObject {
   id<DialogServices> dialog; ///< Not owned.
-  NSPopUpButton *pages;      ///< Owned; so below.
+  ListPopUp *pages;          ///< Owned; so below.
   NSTextField *ranges;
 }
 

@@ -16,7 +16,7 @@
 @interface Panes : NSObject {
   id<DialogServices> dialog; ///< Not owned; so is the next.
   id<OptionsViewOwner> optionsOwner;
-  NSPopUpButton *popUp; ///< Owned; so below.
+  ListPopUp *popUp; ///< Owned; so below.
   PaneArea *area;
   OptionsView *options; ///< Null before it is first shown; so is the next.
   SummaryView *summary;

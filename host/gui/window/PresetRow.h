@@ -17,7 +17,7 @@ struct PresetRowState;
 /// The pop-up lists: none; this printer's presets; those of other printers; save, rename, delete.
 @interface PresetRow : NSObject {
   id<DialogServices> dialog;            ///< Not owned.
-  NSPopUpButton *popUp;                 ///< Owned.
+  ListPopUp *popUp;                     ///< Owned.
   imageposition::PresetRowState *state; ///< Owned.
 }
 

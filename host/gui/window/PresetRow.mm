@@ -102,9 +102,9 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
       [popUp selectItemAtIndex:[popUp numberOfItems] - 1];
     }
   }
-  addItem(popUp, messages::kSavePreset);
-  addItem(popUp, messages::kRenamePreset, isChosen);
-  addItem(popUp, messages::kDeletePreset, isChosen);
+  addCommand(popUp, messages::kSavePreset);
+  addCommand(popUp, messages::kRenamePreset, isChosen);
+  addCommand(popUp, messages::kDeletePreset, isChosen);
   if (unlisted > 0)
     addItem(popUp, messages::presetsNotListed(unlisted), false);
 }

@@ -15,8 +15,8 @@ struct PrinterOptionState;
 
 @interface PrinterOptionRows : NSObject <OptionsViewOwner> {
   id<DialogServices> dialog; ///< Not owned.
-  NSPopUpButton *twoSided;   ///< Owned; so below.
-  NSPopUpButton *media;
+  ListPopUp *twoSided;       ///< Owned; so below.
+  ListPopUp *media;
   NSTextField *hint;
   NSButton *resolve;
   imageposition::PrinterOptionState *state;

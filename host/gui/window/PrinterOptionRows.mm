@@ -31,7 +31,7 @@ namespace {
 constexpr std::size_t kMostConflicts = 2; // that the hint has room for
 
 /// Fills a pop-up with an option's choices; returns their keywords.
-std::vector<std::string> fill(NSPopUpButton *popUp, const std::optional<PrinterOption> &option) {
+std::vector<std::string> fill(ListPopUp *popUp, const std::optional<PrinterOption> &option) {
   if (option)
     return showChoices(popUp, *option);
   [popUp removeAllItems];

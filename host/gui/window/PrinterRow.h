@@ -15,7 +15,7 @@ struct PrinterRowState;
 /// Below the printers the pop-up offers to save a ticket instead of printing.
 @interface PrinterRow : NSObject {
   id<DialogServices> dialog; ///< Not owned.
-  NSPopUpButton *popUp;      ///< Owned; so below.
+  ListPopUp *popUp;          ///< Owned; so below.
   NSTextField *stateLabel;
   imageposition::PrinterRowState *state;
   NSTimer *timer; ///< The run loop's; null while CUPS is not asked.

@@ -101,7 +101,7 @@ std::string titleOf(const Destination &destination) {
     current = names.insert(names.end(), job.queue());
     addItem(popUp, job.queue());
   }
-  addItem(popUp, messages::kSaveAsTicket);
+  addCommand(popUp, messages::kSaveAsTicket);
   const auto item = job.isSubmitted() ? current : names.end(); // the ticket's is the last
   [popUp selectItemAtIndex:item - names.begin()];
   [self showState];
@@ -129,7 +129,8 @@ std::string titleOf(const Destination &destination) {
   const std::string queue = isTicket ? job.queue() : state->names.at(chosen);
   if (queue != job.queue())
     [dialog chooseQueue:queue];
-  job.setSubmitted(!isTicket && queue == job.queue());
+  if (isTicket || queue == job.queue()) // a printer that cannot be used changes nothing
+    job.setSubmitted(!isTicket);
   [self refresh];
 }
 

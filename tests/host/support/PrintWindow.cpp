@@ -118,7 +118,10 @@ void PrintWindow::clickAt(int x, int y, const std::function<void()> &before) {
     throw;
   }
   xdotool({"mouseup", "1"});
-  if (!becomesTrue([&] { return process_.hasEnded() || !screen().isTracking; }))
+  if (!becomesTrue([&] {
+        const Screen shown = screen();
+        return process_.hasEnded() || !shown.isTracking || shown.isListOpen();
+      }))
     giveUp("the button is not let go", screen());
 }
 
@@ -131,25 +134,21 @@ void PrintWindow::click(const std::string &button) {
 void PrintWindow::choose(const std::string &label, const std::string &item) {
   const Control popUp =
       awaited(label, [&](const Screen &shown) { return shown.beside(label, "popup"); });
+  clickAt(popUp.middleX(), popUp.middleY());
+  chooseInList(item);
+}
+
+void PrintWindow::chooseInList(const std::string &item) {
   const auto find = [&](const Screen &shown) -> const Control * {
     for (const Control &control : shown.controls)
       if (control.kind == "item" && startsWith(control.text, item))
         return &control;
     return nullptr;
   };
-  clickAt(popUp.middleX(), popUp.middleY(), [&] {
-    awaited(item, find);
-    int nudge = 0;
-    // A list that has just opened may miss the first movement, as it does for a user.
-    if (!becomes([&](const Screen &shown) {
-          const Control *const found = find(shown);
-          if (found != nullptr && !found->isOn)
-            xdotool({"mousemove", std::to_string(found->middleX()),
-                     std::to_string(found->middleY() + (nudge = 1 - nudge))});
-          return found != nullptr && found->isOn;
-        }))
-      giveUp(item + " is not highlighted", screen());
-  });
+  const Control chosen = awaited(item, find);
+  clickAt(chosen.middleX(), chosen.middleY());
+  if (!becomesTrue([&] { return process_.hasEnded() || !screen().isListOpen(); }))
+    giveUp("the list stays open", screen());
 }
 
 void PrintWindow::enter(const std::string &label, const std::string &text) {

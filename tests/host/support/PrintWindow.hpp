@@ -41,6 +41,8 @@ public:
   void click(const std::string &button);
   /// Chooses the item whose title begins with `item` in the pop-up beside the label.
   void choose(const std::string &label, const std::string &item);
+  /// Clicks on an item of the open list, given the start of its title.
+  void chooseInList(const std::string &item);
   /// Replaces the content of the field beside the label, and leaves the field.
   void enter(const std::string &label, const std::string &text);
   /// Clicks the upper or the lower half of the stepper beside the label.

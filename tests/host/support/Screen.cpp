@@ -1,5 +1,6 @@
 #include "Screen.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -54,6 +55,11 @@ const Control *Screen::beside(const std::string &label, const std::string &kind)
         (nearest == nullptr || control.x < nearest->x))
       nearest = &control;
   return nearest;
+}
+
+bool Screen::isListOpen() const {
+  return std::any_of(controls.begin(), controls.end(),
+                     [](const Control &control) { return control.kind == "item"; });
 }
 
 bool Screen::says(const std::string &text) const {

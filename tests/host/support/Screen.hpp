@@ -25,7 +25,7 @@ struct Control {
 
 /// The state that the observer bundle wrote last.
 struct Screen {
-  bool isTracking = false; ///< A mouse button is held down in a control of the program.
+  bool isTracking = false; ///< A control follows the mouse, or a list is open.
   std::string keyWindow;   ///< Its title, once the program is active.
   int x = 0;               ///< Of the key window's content, according to the program.
   int y = 0;
@@ -38,6 +38,8 @@ struct Screen {
   const Control *find(const std::string &kind, const std::string &text) const;
   /// The next control of that kind to the right of the label.
   const Control *beside(const std::string &label, const std::string &kind) const;
+  /// Whether the list of a pop-up is open.
+  bool isListOpen() const;
   /// Whether a label contains `text`.
   bool says(const std::string &text) const;
 };

@@ -17,6 +17,15 @@
 - (void)look:(NSTimer *)timer;
 @end
 
+/// What the program's open list has.
+@protocol ListOfItems
+- (NSInteger)numberOfItems;
+- (NSString *)itemTitleAtIndex:(NSInteger)index;
+- (BOOL)isItemEnabledAtIndex:(NSInteger)index;
+- (NSRect)rectOfItemAtIndex:(NSInteger)index;
+- (NSInteger)highlightedItemIndex;
+@end
+
 namespace {
 
 constexpr NSTimeInterval kInterval = 0.02;
@@ -84,11 +93,27 @@ void writeMenu(std::ostream &out, NSMenuView *view) {
   }
 }
 
+/// Only the items in sight.
+void writeList(std::ostream &out, NSView<ListOfItems> *list) {
+  for (NSInteger i = 0; i < [list numberOfItems]; i++) {
+    const NSRect place = [list rectOfItemAtIndex:i];
+    if (!NSContainsRect([list visibleRect], place))
+      continue;
+    out << "item";
+    writePlace(out, list, place);
+    out << '\t' << ([list isItemEnabledAtIndex:i] ? 1 : 0) << '\t'
+        << ([list highlightedItemIndex] == i ? 1 : 0) << '\t' << oneLine([list itemTitleAtIndex:i])
+        << '\n';
+  }
+}
+
 void writeView(std::ostream &out, NSView *view) {
   if ([view isHidden])
     return;
   if ([view isKindOfClass:[NSMenuView class]])
     return writeMenu(out, (NSMenuView *)view);
+  if ([view isKindOfClass:NSClassFromString(@"ChoiceListView")])
+    return writeList(out, (NSView<ListOfItems> *)view);
   if (const char *const kind = kindOf(view)) {
     const bool enabled =
         ![view respondsToSelector:@selector(isEnabled)] || [(NSControl *)view isEnabled];

@@ -1,0 +1,104 @@
+#import "ListPopUp.h"
+
+#import "ListKeyEvent.h"
+#import "OpenList.h"
+
+using imageposition::ListItem;
+using imageposition::ListKey;
+
+namespace {
+
+constexpr NSInteger kCommandTag = 1;
+constexpr int kPage = 10; // items, for Page Up and Page Down in a closed list
+
+} // namespace
+
+@interface ListPopUp ()
+/// Opens the list and returns when it is closed. `event` is the mouse press that opens it, or null.
+- (void)openList:(NSEvent *)event;
+- (void)choose:(NSInteger)index;
+/// What the keys can choose while the list is closed.
+- (std::vector<ListItem>)itemsForKeys;
+@end
+
+@implementation ListPopUp
+
+- (id)initWithFrame:(NSRect)frame pullsDown:(BOOL)pullsDown {
+  if ((self = [super initWithFrame:frame pullsDown:pullsDown]) != nil) {
+    typeAhead = new imageposition::TypeAhead;
+    [self setAutoenablesItems:NO];
+  }
+  return self;
+}
+
+- (void)dealloc {
+  delete typeAhead;
+  [super dealloc];
+}
+
+- (void)markLastItemAsCommand {
+  [[self lastItem] setTag:kCommandTag];
+}
+
+- (void)openList:(NSEvent *)event {
+  if (![self isEnabled] || [self numberOfItems] == 0)
+    return;
+  OpenList *const list = [[[OpenList alloc] initWithPopUp:self] autorelease];
+  NSString *const title = [list titleChosenFrom:event];
+  if (title == nil)
+    return;
+  // The items may have changed while the list was open.
+  const NSInteger index = [list chosenIndex];
+  const BOOL isSame = index < [self numberOfItems] && [[self itemTitleAtIndex:index]
+                                                          isEqualToString:title];
+  [self choose:isSame ? index : [self indexOfItemWithTitle:title]];
+}
+
+- (void)choose:(NSInteger)index {
+  if (index < 0)
+    return;
+  [self selectItemAtIndex:index];
+  [self sendAction:[self action] to:[self target]];
+}
+
+- (void)mouseDown:(NSEvent *)event {
+  [[self window] makeFirstResponder:self];
+  [self openList:event];
+}
+
+- (void)performClick:(id)sender {
+  (void)sender;
+  [self openList:nil];
+}
+
+- (std::vector<ListItem>)itemsForKeys {
+  std::vector<ListItem> items;
+  for (NSInteger i = 0; i < [self numberOfItems]; i++) {
+    id<NSMenuItem> const item = [self itemAtIndex:i];
+    items.push_back(
+        imageposition::listItem([item title], [item isEnabled] && [item tag] != kCommandTag));
+  }
+  return items;
+}
+
+- (void)keyDown:(NSEvent *)event {
+  using Kind = ListKey::Kind;
+  const ListKey key = imageposition::listKeyOf(event);
+  const auto now = imageposition::TypeAhead::Time::clock::now();
+  const bool isTyped =
+      key.kind == Kind::Letters || (key.kind == Kind::Blank && typeAhead->isTyping(now));
+  const int current = static_cast<int>([self indexOfSelectedItem]);
+  if (key.kind == Kind::Toggle || (key.kind == Kind::Blank && !isTyped)) {
+    [self openList:nil];
+  } else if ((key.kind == Kind::Move || isTyped) && [self isEnabled]) {
+    const std::vector<ListItem> items = [self itemsForKeys];
+    const int next = isTyped ? typeAhead->type(items, current, key.letters, now)
+                             : imageposition::movedInList(items, current, key.move, kPage);
+    if (next != current)
+      [self choose:next];
+  } else {
+    [super keyDown:event];
+  }
+}
+
+@end

@@ -1,0 +1,291 @@
+#include "Person.hpp"
+
+#include "FocusedWindow.hpp"
+#include "Waiting.hpp"
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <sstream>
+#include <thread>
+
+namespace imageposition::test {
+
+namespace {
+
+constexpr int kClick = 80; // milliseconds, of an ordinary click
+
+std::string run(std::vector<std::string> words) {
+  const ProcessResult result = runProcess(words);
+  if (result.status != 0)
+    throw StepFailure(words.front() + ": " + result.errors);
+  return result.output;
+}
+
+void xdotool(std::vector<std::string> words) {
+  words.insert(words.begin(), "xdotool");
+  run(words);
+}
+
+/// A mouse button is down for as long as a hand takes.
+void holdFor(int milliseconds) {
+  std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+/// Splits at blanks outside of quotes.
+std::vector<std::string> wordsOf(const std::string &line) {
+  std::vector<std::string> words;
+  std::istringstream stream(line);
+  for (std::string word; stream >> std::ws;) {
+    if (stream.peek() == '"') {
+      stream.get();
+      std::getline(stream, word, '"');
+    } else if (!(stream >> word))
+      break;
+    words.push_back(word);
+  }
+  return words;
+}
+
+bool startsWith(const std::string &text, const std::string &start) {
+  return text.compare(0, start.size(), start) == 0;
+}
+
+void signalCups(int signal) {
+  const char *const server = std::getenv("CUPS_PID");
+  if (server == nullptr || kill(std::atoi(server), signal) != 0)
+    throw StepFailure("there is no CUPS server");
+}
+
+} // namespace
+
+std::string Person::described() const {
+  const Screen shown = screen();
+  std::string text = "The window \"" + shown.keyWindow + "\" shows:";
+  for (const Control &control : shown.controls)
+    text += "\n  " + control.kind + (control.isEnabled ? " " : " (off) ") + control.text +
+            (control.isOn ? " *" : "") + " at " + std::to_string(control.x) + "," +
+            std::to_string(control.y) + " " + std::to_string(control.width) + "x" +
+            std::to_string(control.height);
+  return text;
+}
+
+void Person::see(const std::string &what, const Look &look) {
+  if (!becomesTrue([&] { return look(screen()); }))
+    throw StepFailure("the user does not see " + what + "\n" + described());
+}
+
+Control Person::find(const std::string &what,
+                     const std::function<const Control *(const Screen &)> &search) {
+  Control result;
+  see(what, [&](const Screen &shown) {
+    const Control *const found = search(shown);
+    if (found != nullptr)
+      result = *found;
+    return found != nullptr && found->isEnabled;
+  });
+  return result;
+}
+
+Control Person::button(const std::string &title) {
+  return find("the button " + title,
+              [&](const Screen &shown) { return shown.find("button", title); });
+}
+
+Control Person::beside(const std::string &label, const std::string &kind) {
+  return find("the " + kind + " beside " + label,
+              [&](const Screen &shown) { return shown.beside(label, kind); });
+}
+
+Control Person::item(const std::string &title) {
+  return find("the item " + title, [&](const Screen &shown) -> const Control * {
+    const auto found =
+        std::find_if(shown.controls.begin(), shown.controls.end(), [&](const Control &control) {
+          return control.kind == "item" && startsWith(control.text, title);
+        });
+    return found == shown.controls.end() ? nullptr : &*found;
+  });
+}
+
+void Person::open(const std::string &words) {
+  std::vector<std::string> command{PRINT_DIALOG}, environment = environment_;
+  for (const std::string &word : wordsOf(words))
+    command.push_back(word);
+  environment.push_back("OBSERVER_FILE=" + folder_.path("screen"));
+  environment.push_back("PRINT_DIALOG_APPEARANCE=light");
+  dialog_ = std::make_unique<Process>(command, environment);
+  see("a window with the keyboard", [&](const Screen &shown) {
+    if (dialog_->hasEnded())
+      throw StepFailure("the dialog has ended: " + dialog_->wait().errors);
+    return !shown.keyWindow.empty() && FocusedWindow::find().title == shown.keyWindow;
+  });
+}
+
+void Person::pointAt(const Control &control) {
+  xdotool({"mousemove", std::to_string(control.middleX()), std::to_string(control.middleY())});
+}
+
+void Person::click(const Control &control, int milliseconds) {
+  pointAt(control);
+  xdotool({"mousedown", "1"});
+  holdFor(milliseconds);
+  xdotool({"mouseup", "1"});
+}
+
+void Person::type(const std::string &text) { xdotool({"type", "--delay", "20", "--", text}); }
+
+void Person::press(const std::string &key, int times) {
+  for (int i = 0; i < times; i++)
+    xdotool({"key", key});
+}
+
+/// From another application.
+void Person::paste(const std::string &text) {
+  clipboard_ = std::make_unique<Process>(std::vector<std::string>{
+      "sh", "-c", "printf %s \"$0\" | xclip -quiet -selection clipboard", text});
+  if (!becomesTrue([&] {
+        return runProcess({"xclip", "-o", "-selection", "clipboard"}).output == text;
+      }))
+    throw StepFailure("the clipboard does not hold the text");
+  press("ctrl+v", 1);
+}
+
+void Person::resize(int width, int height) {
+  xdotool(
+      {"getwindowfocus", "windowsize", "--sync", std::to_string(width), std::to_string(height)});
+}
+
+void Person::seeValue(const std::string &value, const std::string &label) {
+  see(value + " beside " + label, [&](const Screen &shown) {
+    return std::any_of(shown.controls.begin(), shown.controls.end(), [&](const Control &control) {
+      return (control.kind == "popup" || control.kind == "field") && control.text == value &&
+             (shown.beside(label, "popup") == &control || shown.beside(label, "field") == &control);
+    });
+  });
+}
+
+void Person::seeOnDisplay(const std::string &title) {
+  std::istringstream size(run({"xdotool", "getdisplaygeometry"}));
+  int width = 0, height = 0;
+  size >> width >> height;
+  see("all of the button " + title, [&](const Screen &shown) {
+    const Control *const found = shown.find("button", title);
+    return found != nullptr && found->x >= 0 && found->y >= 0 && found->x + found->width <= width &&
+           found->y + found->height <= height;
+  });
+}
+
+void Person::seeJobs(int count) {
+  std::string jobs;
+  const auto counted = [&] {
+    jobs = run({"lpstat", "-W", "all", "-o"});
+    return std::count(jobs.begin(), jobs.end(), '\n') == count;
+  };
+  if (!becomesTrue(counted))
+    throw StepFailure("not " + std::to_string(count) + " jobs, but: " + jobs);
+}
+
+void Person::endWith(int status) {
+  if (!becomesTrue([&] { return dialog_->hasEnded(); }))
+    throw StepFailure("the dialog does not end\n" + described());
+  const ProcessResult &result = dialog_->wait();
+  if (result.status != status)
+    throw StepFailure("the dialog ends with status " + std::to_string(result.status) + ": " +
+                      result.output + result.errors);
+}
+
+std::vector<Sentence> Person::sentences() {
+  const auto number = [](const std::string &digits) { return std::atoi(digits.c_str()); };
+  return {
+      {"in the environment ...", [=](const StepValues &v) { environment_ = wordsOf(v[0]); }},
+      {"open the dialog with ...", [=](const StepValues &v) { open(v[0]); }},
+      {"open the dialog", [=](const StepValues &) { open(""); }},
+      {"click on \"*\"", [=](const StepValues &v) { click(button(v[0]), kClick); }},
+      {"click on the list beside \"*\"",
+       [=](const StepValues &v) { click(beside(v[0], "popup"), kClick); }},
+      {"click on the list beside \"*\" for # ms",
+       [=](const StepValues &v) { click(beside(v[0], "popup"), number(v[1])); }},
+      {"click in the field beside \"*\"",
+       [=](const StepValues &v) { click(beside(v[0], "field"), kClick); }},
+      {"click on the item \"*\"", [=](const StepValues &v) { click(item(v[0]), kClick); }},
+      {"point at the item \"*\"", [=](const StepValues &v) { pointAt(item(v[0])); }},
+      {"drag from the list beside \"*\" to the item \"*\"",
+       [=](const StepValues &v) {
+         pointAt(beside(v[0], "popup"));
+         xdotool({"mousedown", "1"});
+         pointAt(item(v[1]));
+         see(v[1] + " highlighted", [&](const Screen &shown) {
+           const Control *const found = shown.find("item", v[1]);
+           return found != nullptr && found->isOn;
+         });
+         xdotool({"mouseup", "1"});
+       }},
+      {"turn the wheel # notches up",
+       [=](const StepValues &v) {
+         xdotool({"click", "--repeat", v[0], "--delay", "50", "4"});
+       }},
+      {"turn the wheel # notches down",
+       [=](const StepValues &v) {
+         xdotool({"click", "--repeat", v[0], "--delay", "50", "5"});
+       }},
+      {"type \"*\"", [=](const StepValues &v) { type(v[0]); }},
+      {"paste \"*\"", [=](const StepValues &v) { paste(v[0]); }},
+      {"press \"*\"", [=](const StepValues &v) { press(v[0], 1); }},
+      {"press \"*\" # times", [=](const StepValues &v) { press(v[0], number(v[1])); }},
+      {"resize the window to # by #",
+       [=](const StepValues &v) { resize(number(v[0]), number(v[1])); }},
+      {"run ...",
+       [=](const StepValues &v) {
+         run({"sh", "-c", v[0]});
+       }},
+      {"CUPS hangs", [=](const StepValues &) { signalCups(SIGSTOP); }},
+      {"CUPS goes on", [=](const StepValues &) { signalCups(SIGCONT); }},
+      {"CUPS crashes", [=](const StepValues &) { signalCups(SIGKILL); }},
+      {"see the list open",
+       [=](const StepValues &) {
+         see("an open list", [](const Screen &shown) { return shown.isListOpen(); });
+       }},
+      {"see no list",
+       [=](const StepValues &) {
+         see("the list closed", [](const Screen &shown) { return !shown.isListOpen(); });
+       }},
+      {"see the item \"*\"", [=](const StepValues &v) { item(v[0]); }},
+      {"see \"*\" highlighted",
+       [=](const StepValues &v) {
+         see(v[0] + " highlighted", [&](const Screen &shown) {
+           return std::any_of(
+               shown.controls.begin(), shown.controls.end(), [&](const Control &control) {
+                 return control.kind == "item" && control.isOn && startsWith(control.text, v[0]);
+               });
+         });
+       }},
+      {"see \"*\" beside \"*\"", [=](const StepValues &v) { seeValue(v[0], v[1]); }},
+      {"see \"*\" ticked",
+       [=](const StepValues &v) {
+         see(v[0] + " ticked", [&](const Screen &shown) {
+           const Control *const found = shown.find("button", v[0]);
+           return found != nullptr && found->isOn;
+         });
+       }},
+      {"read \"*\"",
+       [=](const StepValues &v) {
+         see(v[0], [&](const Screen &shown) { return shown.says(v[0]); });
+       }},
+      {"no longer read \"*\"",
+       [=](const StepValues &v) {
+         see("that it is gone: " + v[0], [&](const Screen &shown) { return !shown.says(v[0]); });
+       }},
+      {"see the window \"*\"",
+       [=](const StepValues &v) {
+         see("the window " + v[0], [&](const Screen &shown) {
+           return shown.keyWindow == v[0] && FocusedWindow::find().title == v[0];
+         });
+       }},
+      {"see all of \"*\"", [=](const StepValues &v) { seeOnDisplay(v[0]); }},
+      {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
+      {"the dialog ends with status #", [=](const StepValues &v) { endWith(number(v[0])); }},
+  };
+}
+
+} // namespace imageposition::test
