@@ -176,6 +176,16 @@ void Person::seeOnDisplay(const std::string &title) {
   });
 }
 
+void Person::seeOnTop(const std::string &title) {
+  const auto top = [] {
+    std::string words = run({"xprop", "-root", "_NET_CLIENT_LIST_STACKING"});
+    words.erase(words.find_last_not_of(" \n") + 1);
+    return runProcess({"xdotool", "getwindowname", words.substr(words.rfind(' ') + 1)}).output;
+  };
+  if (!becomesTrue([&] { return top() == title + "\n"; }))
+    throw StepFailure(title + " is not on top, but " + top());
+}
+
 void Person::seeJobs(int count) {
   std::string jobs;
   const auto counted = [&] {
@@ -261,6 +271,7 @@ std::vector<Sentence> Person::sentences() {
          });
        }},
       {"see \"*\" beside \"*\"", [=](const StepValues &v) { seeValue(v[0], v[1]); }},
+      {"see the button \"*\"", [=](const StepValues &v) { button(v[0]); }},
       {"see \"*\" ticked",
        [=](const StepValues &v) {
          see(v[0] + " ticked", [&](const Screen &shown) {
@@ -283,6 +294,7 @@ std::vector<Sentence> Person::sentences() {
          });
        }},
       {"see all of \"*\"", [=](const StepValues &v) { seeOnDisplay(v[0]); }},
+      {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
       {"the dialog ends with status #", [=](const StepValues &v) { endWith(number(v[0])); }},
   };

@@ -5,9 +5,7 @@
 #include "PasteboardTrouble.hpp"
 #include "QuestionTexts.hpp"
 #import "TextBridge.h"
-
-#include <algorithm>
-#include <cmath>
+#import "WindowPlacement.h"
 
 @interface ModalPanelController : NSObject <KeyWindowDelegate> {
 @public
@@ -100,15 +98,14 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
   if (first == nil)
     first = order.empty() ? confirm_ : order.front();
   [window_ setInitialFirstResponder:first];
-  const NSRect frame = [parent frame];
-  const NSSize size = [window_ frame].size;
-  [window_ setFrameOrigin:NSMakePoint(std::round(NSMidX(frame) - size.width / 2),
-                                      std::round(NSMidY(frame) - size.height / 2))];
+  placeOver(window_, parent);
+  [parent addChildWindow:window_ ordered:NSWindowAbove];
   [window_ makeKeyAndOrderFront:nil];
   [window_ makeFirstResponder:first];
   const NSInteger answer = [NSApp runModalForWindow:window_];
   static_cast<ModalPanelController *>(controller_)->mayConfirm = nullptr;
   [window_ makeFirstResponder:nil];
+  [parent removeChildWindow:window_];
   [window_ orderOut:nil];
   [parent makeKeyAndOrderFront:nil];
   return answer == NSOKButton;

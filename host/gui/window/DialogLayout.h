@@ -51,9 +51,6 @@ void addItem(NSPopUpButton *popUp, const std::string &title, bool enabled = true
 /// Adds an item that does something when it is chosen.
 void addCommand(ListPopUp *popUp, const std::string &title, bool enabled = true);
 
-/// The largest content of a window that fits on the screen, in points.
-NSSize roomOnScreen();
-
 /// Makes the window, which the caller owns. `pane` is the size of the largest pane, `room` that of
 /// the largest content of a window. In a narrow room the picture stands beside the rows alone; in a
 /// low one the area of the panes is lower than the largest pane.

@@ -19,7 +19,6 @@ constexpr CGFloat kRowGap = 8;
 constexpr CGFloat kHintHeight = 36;
 constexpr int kMessageLines = 3; // more of them scroll
 constexpr CGFloat kSmallestPaneHeight = 72;
-constexpr NSSize kWindowFrame = {8, 40}; // pixels, of most window managers
 
 CGFloat messageHeight() {
   return kMessageLines * paragraphHeight(@"Ag", [NSFont systemFontOfSize:0], 100) + 3;
@@ -200,14 +199,6 @@ void addItem(NSPopUpButton *popUp, const std::string &title, bool enabled) {
 void addCommand(ListPopUp *popUp, const std::string &title, bool enabled) {
   addItem(popUp, title, enabled);
   [popUp markLastItemAsCommand];
-}
-
-NSSize roomOnScreen() {
-  NSScreen *const screen = [NSScreen mainScreen];
-  const CGFloat scale = [screen userSpaceScaleFactor];
-  const NSSize pixels = [screen visibleFrame].size;
-  return NSMakeSize(std::floor((pixels.width - kWindowFrame.width) / scale),
-                    std::floor((pixels.height - kWindowFrame.height) / scale));
 }
 
 KeyWindow *layOutDialog(const DialogContent &content, NSSize pane, NSSize room) {

@@ -2,6 +2,7 @@
 
 #import "Pool.h"
 #import "PrintDialog.h"
+#import "WindowPlacement.h"
 
 #include <algorithm>
 

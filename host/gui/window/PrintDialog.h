@@ -4,6 +4,7 @@
 
 #import "CopiesRow.h"
 #import "DialogServices.h"
+#import "HelpWindow.h"
 #import "KeyWindow.h"
 #import "MessageView.h"
 #import "PagesRow.h"
@@ -32,6 +33,7 @@ struct PrintDialogState;
   PrinterOptionRows *options;
   Panes *panes;
   Sending *sending;
+  HelpWindow *help; ///< Null before it is first shown.
 }
 
 /// Borrows the session, whose panels are loaded, and `theErrors`. `pane` is the size of the largest

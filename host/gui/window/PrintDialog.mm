@@ -2,7 +2,6 @@
 
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
-#import "HelpPanel.h"
 #include "HelpTexts.hpp"
 #import "Labels.h"
 #import "MnemonicControls.h"
@@ -77,7 +76,7 @@ struct imageposition::PrintDialogState {
   [window setDelegate:nil];
   [window close];
   for (id part : {(id)printers, (id)presets, (id)copies, (id)pages, (id)options, (id)panes,
-                  (id)sending, (id)message, (id)picture, (id)window})
+                  (id)sending, (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -95,7 +94,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)buildWindowForPane:(NSSize)pane room:(NSSize)room {
-  NSButton *const help = makeButton(messages::kHelpButton, self, @selector(help));
+  NSButton *const helpButton = makeButton(messages::kHelpButton, self, @selector(help));
   NSButton *const cancel = makeButton(messages::kCancel, self, @selector(dismiss));
   NSButton *const print = makeButton(messages::kPrint, self, @selector(confirm));
   sending = [[Sending alloc] initWithDialog:self
@@ -113,11 +112,11 @@ struct imageposition::PrintDialogState {
   rows.push_back([panes row]);
   NSButton *const resolve = [options resolveButton];
   window = layOutDialog({rows, picture, [panes area], [options hint], resolve, message,
-                         [sending progressView], help, cancel, print},
+                         [sending progressView], helpButton, cancel, print},
                         pane, room);
   [window setDelegate:(id)self];
   [window reach:resolve by:messages::kResolve];
-  [window reach:help by:messages::kHelpButton];
+  [window reach:helpButton by:messages::kHelpButton];
   [window reach:cancel by:messages::kCancel];
   [window reach:print by:messages::kPrint];
   [panes linkBefore:resolve];
@@ -214,8 +213,9 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)help {
-  if (![sending isUnderWay]) // whose end would end the help
-    showHelp(window);
+  if (help == nil)
+    help = [[HelpWindow alloc] init];
+  [help showBeside:window];
 }
 
 - (void)wake {
@@ -283,6 +283,7 @@ struct imageposition::PrintDialogState {
 - (BOOL)run {
   [self show];
   const NSInteger answer = [NSApp runModalForWindow:window];
+  [help hide];
   if (const std::string note = [sending note]; !note.empty()) // desktops hide standard error
     showNote(window, messages::kJobWaits, note);
   [window orderOut:nil];

@@ -1,6 +1,7 @@
 // The layout of the small windows in the language of this process: no text clipped, nothing
 // overlapping.
-#import "HelpPanel.h"
+#import "HelpWindow.h"
+#import "KeyScrollView.h"
 #import "KeyWindow.h"
 #import "Labels.h"
 #import "NamePanel.h"
@@ -51,8 +52,7 @@ void expectWholeText(NSControl *control) {
       << toText([control stringValue]);
 }
 
-void expectLaidOut(NSWindow *window) {
-  NSView *const content = [window contentView];
+void expectLaidOut(NSView *content) {
   NSArray *const placed = [content subviews];
   for (NSUInteger i = 0; i < [placed count]; i++) {
     NSView *const one = [placed objectAtIndex:i];
@@ -108,8 +108,16 @@ protected:
 };
 
 TEST_F(PanelLayout, TheHelpHasRoomForItsText) {
-  showHelp(parent_);
-  EXPECT_EQ(visited(), 1);
+  HelpWindow *const help = [[[HelpWindow alloc] init] autorelease];
+  [help showBeside:parent_];
+  NSView *const content = [[help window] contentView];
+  expectLaidOut(content);
+  for (NSUInteger i = 0; i < [[content subviews] count]; i++) {
+    NSView *const view = [[content subviews] objectAtIndex:i];
+    if ([view isKindOfClass:[KeyScrollView class]])
+      expectLaidOut([(KeyScrollView *)view documentView]);
+  }
+  [help hide];
 }
 
 TEST_F(PanelLayout, TheRequestForANameHasRoomForItsText) {
@@ -162,7 +170,7 @@ TEST_F(PanelLayout, TheQuestionWhetherToPrintAnywayHasRoomForItsText) {
   if (window == nil || [window windowNumber] == last)
     return; // it was answered and is about to close
   last = [window windowNumber];
-  expectLaidOut(window);
+  expectLaidOut([window contentView]);
   answer(visited++ < confirmed ? NSOKButton : NSCancelButton, window);
 }
 

@@ -1,0 +1,49 @@
+#import "WindowPlacement.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace imageposition {
+
+namespace {
+
+constexpr NSSize kWindowFrame = {8, 40}; // pixels, of most window managers
+
+/// The corner with which a window of that size is on the screen, nearest to the wanted one. The
+/// window's upper edge comes first: it has the title.
+NSPoint onScreen(NSPoint wanted, NSSize size, NSRect screen) {
+  const CGFloat right = NSMaxX(screen) - size.width;
+  const CGFloat top = NSMaxY(screen) - size.height;
+  return NSMakePoint(std::round(std::max(NSMinX(screen), std::min(wanted.x, right))),
+                     std::round(std::min(std::max(wanted.y, NSMinY(screen)), top)));
+}
+
+} // namespace
+
+NSSize roomOnScreen() {
+  NSScreen *const screen = [NSScreen mainScreen];
+  const CGFloat scale = [screen userSpaceScaleFactor];
+  const NSSize pixels = [screen visibleFrame].size;
+  return NSMakeSize(std::floor((pixels.width - kWindowFrame.width) / scale),
+                    std::floor((pixels.height - kWindowFrame.height) / scale));
+}
+
+void placeOver(NSWindow *window, NSWindow *parent) {
+  const NSRect frame = [parent frame];
+  const NSSize size = [window frame].size;
+  const NSPoint corner =
+      NSMakePoint(NSMidX(frame) - size.width / 2, NSMidY(frame) - size.height / 2);
+  [window setFrameOrigin:onScreen(corner, size, [[parent screen] visibleFrame])];
+}
+
+void placeBeside(NSWindow *window, NSWindow *parent) {
+  const NSRect frame = [parent frame];
+  const NSRect screen = [[parent screen] visibleFrame];
+  const NSSize size = [window frame].size;
+  const bool isRight = NSMaxX(screen) - NSMaxX(frame) >= NSMinX(frame) - NSMinX(screen);
+  const NSPoint corner = NSMakePoint(isRight ? NSMaxX(frame) : NSMinX(frame) - size.width,
+                                     NSMaxY(frame) - size.height);
+  [window setFrameOrigin:onScreen(corner, size, screen)];
+}
+
+} // namespace imageposition
