@@ -47,9 +47,17 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
   [[self verticalScroller] setArrowsPosition:NSScrollerArrowsNone]; // the theme draws none
 }
 
-/// Ignored: GNUstep would add one to a view that hides its scrollers automatically.
+/// GNUstep would add one to a view that hides its scrollers automatically.
 - (void)setHasHorizontalScroller:(BOOL)has {
-  (void)has;
+  if (!isSideways)
+    return;
+  [super setHasHorizontalScroller:has];
+  [[self horizontalScroller] setArrowsPosition:NSScrollerArrowsNone];
+}
+
+- (void)scrollSidewaysToo {
+  isSideways = YES;
+  [self setHasHorizontalScroller:YES];
 }
 
 - (BOOL)hasMore {

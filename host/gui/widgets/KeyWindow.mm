@@ -74,6 +74,15 @@ BOOL movesFocus(NSEvent *event) {
   return [characters isEqualToString:@"\t"] || [characters isEqualToString:@"\x19"];
 }
 
+/// GNUstep scrolls only the innermost of nested views.
+void scrollIntoSight(NSView *view) {
+  const NSRect shown = NSInsetRect([view bounds], 0, -kFocusMargin);
+  [view scrollRectToVisible:shown];
+  for (NSScrollView *outer = [view enclosingScrollView]; outer != nil;
+       outer = [outer enclosingScrollView])
+    [outer scrollRectToVisible:[outer convertRect:shown fromView:view]];
+}
+
 constexpr NSUInteger kMouseEvents =
     NSLeftMouseDownMask | NSLeftMouseUpMask | NSLeftMouseDraggedMask | NSRightMouseDownMask |
     NSRightMouseUpMask | NSRightMouseDraggedMask | NSOtherMouseDownMask | NSOtherMouseUpMask |
@@ -154,7 +163,7 @@ bool canBeReached(NSView *control) {
   [focusShown release];
   focusShown = [view retain];
   if (isTaken && view != nil && [view window] == self)
-    [view scrollRectToVisible:NSInsetRect([view bounds], 0, -kFocusMargin)];
+    scrollIntoSight(view);
   return isTaken;
 }
 

@@ -9,6 +9,7 @@
   NSTextField *label; ///< Owned by the view.
 }
 - (void)setStringValue:(NSString *)text;
+- (BOOL)hasText;
 @end
 
 #endif

@@ -2,6 +2,8 @@
 
 #import "Labels.h"
 
+#include <algorithm>
+
 /// Flipped: the text begins at the top.
 @interface MessageLabel : NSTextField
 @end
@@ -33,11 +35,16 @@
     [self setStringValue:[label stringValue]];
 }
 
+- (BOOL)hasText {
+  return [[label stringValue] length] > 0;
+}
+
 - (void)setStringValue:(NSString *)whole {
   constexpr NSUInteger kLongest = 10000;
   NSString *const text = imageposition::cutTo(kLongest, whole);
   // A scroller may appear and must not cover the text.
-  const CGFloat width = NSWidth([self frame]) - [NSScroller scrollerWidth] - 4;
+  const CGFloat width =
+      std::max<CGFloat>(NSWidth([self frame]) - [NSScroller scrollerWidth] - 4, 50);
   [label setStringValue:text];
   [label
       setFrame:NSMakeRect(0, 0, width, imageposition::paragraphHeight(text, [label font], width))];

@@ -120,6 +120,7 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
 
 - (ListPopUp *)popUpFor:(const PrinterOption &)option frame:(NSRect)frame {
   ListPopUp *const popUp = [[[ListPopUp alloc] initWithFrame:frame pullsDown:NO] autorelease];
+  [popUp setAutoresizingMask:NSViewWidthSizable];
   [popUp setTag:static_cast<NSInteger>(rows->size())];
   [popUp setTarget:self];
   [popUp setAction:@selector(choose:)];
@@ -186,7 +187,8 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
     top = NSMaxY([note frame]) + kRowGap;
   }
   const NSSize visible = [self contentSize];
-  [document setFrameSize:NSMakeSize(visible.width, std::max(top, visible.height))];
+  [document setFrameSize:NSMakeSize(visible.width, top)];
+  [document setAutoresizingMask:NSViewWidthSizable];
   [self setDocumentView:document];
 }
 

@@ -6,8 +6,9 @@
 
 namespace imageposition {
 
-/// Keeps the window manager from placing the window or giving it the focus, as it should with a list
-/// (X's override-redirect). Call it before the window is shown; the window must not be deferred.
+/// Keeps the window manager from placing the window or giving it the focus, as it should with a
+/// list (X's override-redirect). Call it before the window is shown; the window must not be
+/// deferred.
 void hideFromWindowManager(NSWindow *window);
 
 } // namespace imageposition

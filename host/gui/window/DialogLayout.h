@@ -2,8 +2,10 @@
 #ifndef IMAGEPOSITION_GUI_WINDOW_DIALOGLAYOUT_H
 #define IMAGEPOSITION_GUI_WINDOW_DIALOGLAYOUT_H
 
+#import "KeyScrollView.h"
 #import "KeyWindow.h"
 #import "ListPopUp.h"
+#import "MessageView.h"
 
 #include <string>
 #include <vector>
@@ -27,15 +29,14 @@ struct DialogRow {
   std::vector<RowControl> controls;
 };
 
-/// Everything in the window. The layout gives the views their places and sizes; buttons and the
-/// controls of rows keep their sizes where there is room.
+/// Everything in the window, which owns the views.
 struct DialogContent {
   std::vector<DialogRow> rows;
   NSView *picture;
   NSView *paneArea;
-  NSView *hint;
+  NSTextField *hint;
   NSButton *resolve;
-  NSView *message;
+  MessageView *message;
   NSView *progress;
   NSButton *help;
   NSButton *cancel;
@@ -51,10 +52,49 @@ void addItem(NSPopUpButton *popUp, const std::string &title, bool enabled = true
 /// Adds an item that does something when it is chosen.
 void addCommand(ListPopUp *popUp, const std::string &title, bool enabled = true);
 
-/// Makes the window, which the caller owns. `pane` is the size of the largest pane, `room` that of
-/// the largest content of a window. In a narrow room the picture stands beside the rows alone; in a
-/// low one the area of the panes is lower than the largest pane.
-KeyWindow *layOutDialog(const DialogContent &content, NSSize pane, NSSize room);
+/// Gives the views their places and sizes; buttons and the controls of rows keep their sizes where
+/// there is room. In a wide window the picture stands beside everything else, in a narrow one
+/// beside the rows; both grow with the window. In a low one, rows and pane scroll, and the texts
+/// take room only if they say something. The buttons stay visible.
+class DialogLayout {
+public:
+  /// Makes the window. `pane` is the size of the largest pane, `room` that of the largest content
+  /// of a window.
+  DialogLayout(const DialogContent &content, NSSize pane, NSSize room);
+  ~DialogLayout();
+  DialogLayout(const DialogLayout &) = delete;
+  DialogLayout &operator=(const DialogLayout &) = delete;
+
+  /// The caller owns it.
+  KeyWindow *window() const noexcept { return window_; }
+  /// Adapts to the window's size, and to whether there is a message or a hint.
+  void layOut();
+
+private:
+  CGFloat rowsHeight() const;
+  CGFloat rowsWidth() const;
+  CGFloat footHeight(bool hasRoom) const;
+  bool hasHint() const;
+  void makeWindow(NSSize size, NSSize room);
+  void addViews();
+  void placeFoot(NSSize size, bool hasRoom);
+  void placeUpper(NSSize size, CGFloat foot);
+  NSRect placeBeside(CGFloat width, CGFloat height, CGFloat paneTop);
+  NSRect placeBelow(CGFloat width, CGFloat paneTop);
+  void placeRows(CGFloat middle);
+  void linkKeys();
+
+  const DialogContent content_;
+  const NSSize pane_;
+  KeyWindow *window_ = nil;
+  KeyScrollView *scroll_ = nil; // owned
+  NSView *upper_ = nil;
+  std::vector<NSTextField *> titles_;
+  std::vector<CGFloat> widths_; // of the controls of rows, before the layout
+  CGFloat titleWidth_ = 0;
+  CGFloat rowsRight_ = 0;
+  bool scrolled_ = false;
+};
 
 } // namespace imageposition
 

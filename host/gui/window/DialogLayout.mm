@@ -18,7 +18,9 @@ constexpr CGFloat kGap = kControlGap;
 constexpr CGFloat kRowGap = 8;
 constexpr CGFloat kHintHeight = 36;
 constexpr int kMessageLines = 3; // more of them scroll
-constexpr CGFloat kSmallestPaneHeight = 72;
+constexpr CGFloat kSmallestPaneHeight = 110;
+constexpr CGFloat kLargestPicture = 1.6;  // times its usual size
+constexpr CGFloat kSmallestPicture = 0.8; // smaller, its texts overlap
 
 CGFloat messageHeight() {
   return kMessageLines * paragraphHeight(@"Ag", [NSFont systemFontOfSize:0], 100) + 3;
@@ -31,134 +33,213 @@ bool isInTabOrder(NSView *control) {
   return ![control isKindOfClass:[NSStepper class]];
 }
 
-class Layout {
-public:
-  Layout(const DialogContent &content, NSSize pane, NSSize room)
-      : content_(content), pane_(pane), room_(room) {}
-
-  KeyWindow *build() {
-    makeTitles();
-    makeWindow();
-    placeRows();
-    placeMessages();
-    placeButtons();
-    linkKeys();
-    return window_;
-  }
-
-private:
-  void makeTitles();
-  void makeWindow();
-  void placeRow(const DialogRow &row, NSTextField *title, CGFloat middle);
-  void placeRows();
-  void placeMessages();
-  void placeButtons();
-  void linkKeys();
-  void add(NSView *view, NSRect frame) {
-    [view setFrame:frame];
-    [[window_ contentView] addSubview:view];
-  }
-  NSSize size() const { return [[window_ contentView] frame].size; }
-
-  const DialogContent &content_;
-  NSSize pane_; // becomes what of it has room
-  NSSize room_;
-  KeyWindow *window_ = nil;
-  std::vector<NSTextField *> titles_;
-  CGFloat titleWidth_ = 0;
-  CGFloat rowsRight_ = 0;
-};
-
-void Layout::makeTitles() {
-  for (const DialogRow &row : content_.rows) {
-    titles_.push_back(makeTitle(row.title));
-    titleWidth_ = std::max(titleWidth_, NSWidth([titles_.back() frame]));
-  }
+/// GNUstep's views do not adapt their content to `setFrame:`.
+void place(NSView *view, NSRect frame) {
+  [view setFrameOrigin:frame.origin];
+  [view setFrameSize:frame.size];
 }
 
-void Layout::makeWindow() {
-  NSSize picture = [PreviewView preferredSize];
-  const CGFloat rows = static_cast<CGFloat>(content_.rows.size()) * (kRowHeight + kRowGap);
-  const CGFloat rowsWidth = titleWidth_ + kGap + kPopUpWidth;
-  const CGFloat foot = kHintHeight + messageHeight() + kRowHeight + 3 * kGap;
-  NSSize size = {pane_.width + picture.width + 3 * kMargin, 0};
-  if (size.width > room_.width) {
-    size.width = std::min(room_.width,
-                          std::max(pane_.width, rowsWidth + kMargin + picture.width) + 2 * kMargin);
-    picture.width = std::clamp<CGFloat>(size.width - rowsWidth - 3 * kMargin, 0.0, picture.width);
-    picture.height = std::min(picture.height, rows);
-    pane_.width = size.width - 2 * kMargin;
+/// The size of the window that shows everything, as far as the screen has room.
+NSSize wantedSize(NSSize pane, CGFloat rows, CGFloat rowsWidth, CGFloat foot, NSSize room) {
+  const NSSize picture = [PreviewView preferredSize];
+  const NSSize wide = {pane.width + picture.width + 3 * kMargin,
+                       std::max(rows + kGap + pane.height, picture.height) + foot + kMargin};
+  const CGFloat narrow = std::max(pane.width, rowsWidth + kMargin + picture.width) + 2 * kMargin;
+  const NSSize size = {wide.width <= room.width ? wide.width : narrow,
+                       wide.width <= room.width ? wide.height
+                                                : rows + kGap + pane.height + foot + kMargin};
+  return NSMakeSize(std::min(size.width, room.width), std::min(size.height, room.height));
+}
+
+} // namespace
+
+DialogLayout::DialogLayout(const DialogContent &content, NSSize pane, NSSize room)
+    : content_(content), pane_(pane) {
+  CGFloat titleWidth = 0;
+  for (const DialogRow &row : content_.rows) {
+    titles_.push_back(makeTitle(row.title));
+    titleWidth = std::max(titleWidth, NSWidth([titles_.back() frame]));
   }
-  const CGFloat paneRoom = room_.height - rows - kGap - foot - 2 * kMargin;
-  pane_.height = std::min(pane_.height, std::max(paneRoom, kSmallestPaneHeight));
-  size.height = std::max(rows + kGap + pane_.height, picture.height) + foot + 2 * kMargin;
+  titleWidth_ = titleWidth;
+  makeWindow(wantedSize(pane, rowsHeight(), rowsWidth(), footHeight(true), room), room);
+  addViews();
+  linkKeys();
+  layOut();
+}
+
+DialogLayout::~DialogLayout() { [scroll_ release]; }
+
+CGFloat DialogLayout::rowsHeight() const {
+  return static_cast<CGFloat>(content_.rows.size()) * (kRowHeight + kRowGap);
+}
+
+CGFloat DialogLayout::rowsWidth() const { return titleWidth_ + kGap + kPopUpWidth; }
+
+/// The buttons, the message and the hint; the texts only if they have something to say, or if
+/// there is room anyway.
+CGFloat DialogLayout::footHeight(bool hasRoom) const {
+  CGFloat height = kMargin + kRowHeight + kGap;
+  if (hasRoom || [content_.message hasText])
+    height += messageHeight() + kGap;
+  if (hasRoom || hasHint())
+    height += kHintHeight + kGap;
+  return height;
+}
+
+bool DialogLayout::hasHint() const {
+  return [[content_.hint stringValue] length] > 0 || ![content_.resolve isHidden];
+}
+
+void DialogLayout::makeWindow(NSSize size, NSSize room) {
+  const NSUInteger style = NSTitledWindowMask | NSClosableWindowMask | NSMiniaturizableWindowMask |
+                           NSResizableWindowMask;
   window_ = [[KeyWindow alloc] initWithContentRect:NSMakeRect(0, 0, size.width, size.height)
-                                         styleMask:NSTitledWindowMask | NSClosableWindowMask
+                                         styleMask:style
                                            backing:NSBackingStoreBuffered
                                              defer:YES];
   [window_ setReleasedWhenClosed:NO];
   [window_ setTitle:toString(messages::kPrintWindow)];
-  const CGFloat pictureLeft = size.width - kMargin - picture.width;
-  rowsRight_ = pictureLeft - kMargin;
-  add(content_.picture, NSMakeRect(pictureLeft, size.height - kMargin - picture.height,
-                                   picture.width, picture.height));
-  const CGFloat paneTop = size.height - kMargin - rows - kGap;
-  add(content_.paneArea, NSMakeRect(kMargin, paneTop - pane_.height, pane_.width, pane_.height));
+  const CGFloat buttons = NSWidth([content_.help frame]) + NSWidth([content_.cancel frame]) +
+                          NSWidth([content_.print frame]) + 2 * kMargin;
+  const NSSize smallest = {std::max(rowsWidth(), buttons) + 2 * kMargin,
+                           footHeight(false) + kSmallestPaneHeight};
+  [window_ setContentMinSize:NSMakeSize(std::min(smallest.width, room.width),
+                                        std::min(smallest.height, room.height))];
 }
 
-void Layout::placeRow(const DialogRow &row, NSTextField *title, CGFloat middle) {
-  NSRect frame = [title frame];
-  frame.origin =
-      NSMakePoint(kMargin + titleWidth_ - NSWidth(frame), std::round(middle - NSHeight(frame) / 2));
-  add(title, frame);
-  CGFloat left = kMargin + titleWidth_ + kGap;
-  for (const RowControl &control : row.controls) {
-    frame = [control.view frame];
-    const CGFloat rest = rowsRight_ - left;
-    frame.size.width = control.takesRest ? rest : std::min(NSWidth(frame), rest);
-    frame.origin = NSMakePoint(left, std::round(middle - NSHeight(frame) / 2));
-    add(control.view, frame);
-    [window_ reach:control.view by:control.title];
-    left = NSMaxX(frame) + control.gap;
+void DialogLayout::addViews() {
+  scroll_ = [[KeyScrollView alloc] initWithFrame:NSZeroRect];
+  upper_ = [[[NSView alloc] initWithFrame:NSZeroRect] autorelease];
+  [scroll_ setDocumentView:upper_];
+  NSView *const content = [window_ contentView];
+  for (NSView *view : std::initializer_list<NSView *>{
+           scroll_, content_.hint, content_.resolve, content_.message, content_.progress,
+           content_.help, content_.cancel, content_.print})
+    [content addSubview:view];
+  [upper_ addSubview:content_.picture];
+  [upper_ addSubview:content_.paneArea];
+  for (std::size_t i = 0; i < titles_.size(); i++) {
+    const DialogRow &row = content_.rows[i];
+    [upper_ addSubview:titles_[i]];
+    for (const RowControl &control : row.controls) {
+      [upper_ addSubview:control.view];
+      widths_.push_back(NSWidth([control.view frame]));
+      [window_ reach:control.view by:control.title];
+    }
+    if (!row.controls.empty())
+      [window_ reach:row.controls.front().view by:row.title];
   }
-  if (!row.controls.empty())
-    [window_ reach:row.controls.front().view by:row.title];
-}
-
-void Layout::placeRows() {
-  CGFloat middle = size().height - kMargin - kRowHeight / 2;
-  for (std::size_t i = 0; i < titles_.size(); i++, middle -= kRowHeight + kRowGap)
-    placeRow(content_.rows[i], titles_[i], middle);
-}
-
-void Layout::placeMessages() {
-  const CGFloat width = size().width - 2 * kMargin;
-  const CGFloat messageBottom = kMargin + kRowHeight + kGap;
-  const CGFloat hintBottom = messageBottom + messageHeight() + kGap;
-  NSRect resolve = [content_.resolve frame];
-  resolve.origin =
-      NSMakePoint(kMargin + width - NSWidth(resolve), hintBottom + (kHintHeight - kRowHeight) / 2);
-  add(content_.hint, NSMakeRect(kMargin, hintBottom, width - NSWidth(resolve) - kGap, kHintHeight));
-  add(content_.resolve, resolve);
-  add(content_.message, NSMakeRect(kMargin, messageBottom, width, messageHeight()));
-}
-
-void Layout::placeButtons() {
-  NSRect help = [content_.help frame], cancel = [content_.cancel frame];
-  NSRect print = [content_.print frame];
-  help.origin = NSMakePoint(kMargin, kMargin);
-  print.origin = NSMakePoint(size().width - kMargin - NSWidth(print), kMargin);
-  cancel.origin = NSMakePoint(NSMinX(print) - kGap - NSWidth(cancel), kMargin);
-  const CGFloat barLeft = NSMaxX(help) + kMargin;
-  add(content_.progress,
-      NSMakeRect(barLeft, kMargin + 4, NSMinX(cancel) - kMargin - barLeft, kRowHeight - 8));
-  add(content_.help, help);
-  add(content_.cancel, cancel);
-  add(content_.print, print);
   [window_ setDefaultButtonCell:[content_.print cell]];
 }
 
-void Layout::linkKeys() {
+void DialogLayout::layOut() {
+  const NSSize size = [[window_ contentView] frame].size;
+  const CGFloat full = kMargin + rowsHeight() + kGap + pane_.height + footHeight(true);
+  const CGFloat foot = footHeight(size.height >= full);
+  placeFoot(size, size.height >= full);
+  placeUpper(NSMakeSize(size.width, std::max<CGFloat>(size.height - foot, 1)), foot);
+}
+
+void DialogLayout::placeFoot(NSSize size, bool hasRoom) {
+  NSRect help = [content_.help frame], cancel = [content_.cancel frame];
+  NSRect print = [content_.print frame];
+  help.origin = NSMakePoint(kMargin, kMargin);
+  print.origin = NSMakePoint(size.width - kMargin - NSWidth(print), kMargin);
+  cancel.origin = NSMakePoint(NSMinX(print) - kGap - NSWidth(cancel), kMargin);
+  place(content_.help, help);
+  place(content_.cancel, cancel);
+  place(content_.print, print);
+  const CGFloat barLeft = NSMaxX(help) + kMargin;
+  place(content_.progress,
+        NSMakeRect(barLeft, kMargin + 4, std::max<CGFloat>(NSMinX(cancel) - kMargin - barLeft, 0),
+                   kRowHeight - 8));
+  const CGFloat width = size.width - 2 * kMargin;
+  CGFloat bottom = kMargin + kRowHeight + kGap;
+  const bool hasMessage = hasRoom || [content_.message hasText];
+  place(content_.message, NSMakeRect(kMargin, bottom, width, hasMessage ? messageHeight() : 0));
+  [content_.message setHidden:!hasMessage];
+  bottom += hasMessage ? messageHeight() + kGap : 0;
+  const CGFloat hint = hasRoom || hasHint() ? kHintHeight : 0;
+  [content_.hint setHidden:hint <= 0];
+  NSRect resolve = [content_.resolve frame];
+  resolve.origin = NSMakePoint(kMargin + width - NSWidth(resolve),
+                               bottom + std::max<CGFloat>((hint - kRowHeight) / 2, 0));
+  place(content_.resolve, resolve);
+  place(content_.hint, NSMakeRect(kMargin, bottom, width - NSWidth(resolve) - kGap, hint));
+}
+
+void DialogLayout::placeUpper(NSSize size, CGFloat foot) {
+  place(scroll_, NSMakeRect(0, foot, size.width, size.height));
+  const NSSize picture = [PreviewView preferredSize];
+  const bool isBeside = size.width - [NSScroller scrollerWidth] - rowsWidth() - 3 * kMargin >=
+                        kSmallestPicture * picture.width;
+  const CGFloat below = isBeside ? 0 : picture.height + kGap;
+  const CGFloat paneHeight = std::min(pane_.height, kSmallestPaneHeight);
+  const CGFloat needed = kMargin + rowsHeight() + kGap + paneHeight + below;
+  const bool scrolls = needed > size.height;
+  const CGFloat width = size.width - (scrolls ? [NSScroller scrollerWidth] : 0);
+  // Where everything scrolls anyway, the pane need not scroll, too.
+  const CGFloat height = scrolls ? needed - paneHeight + pane_.height : size.height;
+  [upper_ setFrameSize:NSMakeSize(width, height)];
+  if (scrolls && !scrolled_) // begins with the first control
+    [upper_ scrollRectToVisible:NSMakeRect(0, height - 1, 1, 1)];
+  scrolled_ = scrolls;
+  const CGFloat paneTop = height - kMargin - rowsHeight() - kGap;
+  const NSRect pane = isBeside ? placeBeside(width, height, paneTop) : placeBelow(width, paneTop);
+  place(content_.paneArea, pane);
+  placeRows(height - kMargin - kRowHeight / 2);
+}
+
+/// Places the picture beside the rows; returns the place of the panes.
+NSRect DialogLayout::placeBeside(CGFloat width, CGFloat height, CGFloat paneTop) {
+  const NSSize picture = [PreviewView preferredSize];
+  const bool isWide = width >= pane_.width + picture.width + 3 * kMargin;
+  NSSize shown = picture;
+  if (isWide) {
+    shown.width = std::min(width - pane_.width - 3 * kMargin, kLargestPicture * picture.width);
+    shown.height = std::min(height - kMargin, picture.height * shown.width / picture.width);
+  } else {
+    shown.width = std::min(width - rowsWidth() - 3 * kMargin, picture.width);
+    shown.height = std::min(picture.height, rowsHeight());
+  }
+  const CGFloat left = width - kMargin - shown.width;
+  place(content_.picture,
+        NSMakeRect(left, height - kMargin - shown.height, shown.width, shown.height));
+  rowsRight_ = left - kMargin;
+  return NSMakeRect(kMargin, 0, (isWide ? left - kMargin : width - kMargin) - kMargin, paneTop);
+}
+
+/// Places the picture below the panes; returns the place of the panes.
+NSRect DialogLayout::placeBelow(CGFloat width, CGFloat paneTop) {
+  const NSSize picture = [PreviewView preferredSize];
+  const CGFloat whole = width - 2 * kMargin;
+  place(content_.picture, NSMakeRect(kMargin, 0, std::min(whole, picture.width), picture.height));
+  rowsRight_ = std::max(width - kMargin, kMargin + rowsWidth());
+  const CGFloat bottom = picture.height + kGap;
+  return NSMakeRect(kMargin, bottom, whole, paneTop - bottom);
+}
+
+void DialogLayout::placeRows(CGFloat middle) {
+  std::size_t at = 0;
+  for (std::size_t i = 0; i < titles_.size(); i++, middle -= kRowHeight + kRowGap) {
+    NSRect frame = [titles_[i] frame];
+    frame.origin = NSMakePoint(kMargin + titleWidth_ - NSWidth(frame),
+                               std::round(middle - NSHeight(frame) / 2));
+    place(titles_[i], frame);
+    CGFloat left = kMargin + titleWidth_ + kGap;
+    for (const RowControl &control : content_.rows[i].controls) {
+      frame = [control.view frame];
+      const CGFloat rest = rowsRight_ - left;
+      frame.size.width = control.takesRest ? rest : std::min(widths_[at], rest);
+      frame.origin = NSMakePoint(left, std::round(middle - NSHeight(frame) / 2));
+      place(control.view, frame);
+      left = NSMaxX(frame) + control.gap;
+      at++;
+    }
+  }
+}
+
+void DialogLayout::linkKeys() {
   std::vector<NSView *> order;
   for (const DialogRow &row : content_.rows)
     for (const RowControl &control : row.controls)
@@ -168,8 +249,6 @@ void Layout::linkKeys() {
   for (std::size_t i = 0; i < order.size(); i++)
     [order[i] setNextKeyView:order[(i + 1) % order.size()]];
 }
-
-} // namespace
 
 ListPopUp *makePopUp(id target, SEL action) {
   const NSRect frame = NSMakeRect(0, 0, kPopUpWidth, kRowHeight);
@@ -199,10 +278,6 @@ void addItem(NSPopUpButton *popUp, const std::string &title, bool enabled) {
 void addCommand(ListPopUp *popUp, const std::string &title, bool enabled) {
   addItem(popUp, title, enabled);
   [popUp markLastItemAsCommand];
-}
-
-KeyWindow *layOutDialog(const DialogContent &content, NSSize pane, NSSize room) {
-  return Layout(content, pane, room).build();
 }
 
 } // namespace imageposition

@@ -4,8 +4,10 @@
 
 #import <AppKit/AppKit.h>
 
-@interface PaneArea : NSView
-/// Shows a pane in place of the one before. A pane that is higher than the area scrolls.
+@interface PaneArea : NSView {
+  NSView *shownPane; ///< Owned; null before the first.
+}
+/// Shows a pane in place of the one before. A pane that is larger than the area scrolls.
 - (void)showPane:(NSView *)pane;
 @end
 

@@ -30,6 +30,8 @@
 - (id)initWithDialog:(id<DialogServices>)theDialog optionsOwner:(id<OptionsViewOwner>)theOwner;
 - (imageposition::DialogRow)row;
 - (NSView *)area;
+/// Called after the size of the area has changed.
+- (void)areaResized;
 /// Tab leads from the pane's last control to `view`.
 - (void)linkBefore:(NSView *)view;
 /// The first control of the pane; null where it has none.

@@ -73,6 +73,14 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
   return area;
 }
 
+- (void)areaResized {
+  const NSRect whole = [area bounds];
+  [options setFrame:whole];
+  [summary setFrame:whole];
+  if (summary != nil && [summary superview] == area)
+    [self showSummary]; // wraps its texts anew
+}
+
 - (void)linkBefore:(NSView *)view {
   after = view;
 }

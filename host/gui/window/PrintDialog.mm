@@ -37,11 +37,14 @@ struct imageposition::PrintDialogState {
   std::ostream *errors;
   PictureRedrawing redrawing;
   std::unique_ptr<RunLoopWake> wake;
+  std::unique_ptr<DialogLayout> layout;
+  std::string documents;
 };
 
 @interface PrintDialog ()
 - (void)buildParts;
 - (void)buildWindowForPane:(NSSize)pane room:(NSSize)room;
+- (void)layOut;
 - (NSView *)firstControl;
 - (void)keepFocus;
 - (void)look;
@@ -58,7 +61,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -101,26 +104,44 @@ struct imageposition::PrintDialogState {
                                cancelButton:cancel
                                        wake:*state->wake
                                      errors:state->errors];
-  const std::string document = documentsInWords(state->session->job().documents());
-  NSTextField *const documentName = makeLabel("");
+  state->documents = documentsInWords(state->session->job().documents());
+  documentLabel = makeLabel("");
   std::vector<DialogRow> rows = [printers rows];
-  if (!document.empty())
-    rows.push_back({messages::kDocumentRow, {{documentName, true}}});
+  if (!state->documents.empty())
+    rows.push_back({messages::kDocumentRow, {{documentLabel, true}}});
   rows.insert(rows.end(), {[presets row], [copies row], [pages row]});
   for (DialogRow &row : [options rows])
     rows.push_back(std::move(row));
   rows.push_back([panes row]);
   NSButton *const resolve = [options resolveButton];
-  window = layOutDialog({rows, picture, [panes area], [options hint], resolve, message,
-                         [sending progressView], helpButton, cancel, print},
-                        pane, room);
+  state->layout = std::make_unique<DialogLayout>(
+      DialogContent{rows, picture, [panes area], [options hint], resolve, message,
+                    [sending progressView], helpButton, cancel, print},
+      pane, room);
+  window = state->layout->window();
   [window setDelegate:(id)self];
   [window reach:resolve by:messages::kResolve];
   [window reach:helpButton by:messages::kHelpButton];
   [window reach:cancel by:messages::kCancel];
   [window reach:print by:messages::kPrint];
   [panes linkBefore:resolve];
-  showCut(documentName, document, NSWidth([documentName frame]));
+  showCut(documentLabel, state->documents, NSWidth([documentLabel frame]));
+}
+
+/// Adapts to the window's size, or to a message or hint that has come or gone.
+- (void)layOut {
+  state->layout->layOut();
+  showCut(documentLabel, state->documents, NSWidth([documentLabel frame]));
+  [printers showState];
+}
+
+- (void)windowDidResize:(NSNotification *)notification {
+  (void)notification;
+  PrintDialog *const dialog = self;
+  [window protect:[=] {
+    [dialog layOut];
+    [dialog->panes areaResized];
+  }];
 }
 
 - (KeyWindow *)window {
@@ -133,6 +154,7 @@ struct imageposition::PrintDialogState {
 
 - (void)show:(const std::string &)text {
   [message setStringValue:toString(text)];
+  [self layOut];
 }
 
 - (void)say:(const std::string &)text {
@@ -171,6 +193,7 @@ struct imageposition::PrintDialogState {
 
 - (void)refreshOptions {
   [options refresh];
+  [self layOut];
   [panes refresh];
   [self refreshPicture];
   [self keepFocus];

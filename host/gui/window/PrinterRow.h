@@ -27,6 +27,8 @@ struct PrinterRowState;
 - (std::vector<imageposition::DialogRow>)rows;
 /// Lists the printers that are known, and shows the job's.
 - (void)refresh;
+/// Shows the state of the chosen printer, as far as its label has room.
+- (void)showState;
 /// Asks CUPS for its printers, now and every five seconds.
 - (void)startAsking;
 - (void)stopAsking;

@@ -31,7 +31,6 @@ std::string titleOf(const Destination &destination) {
 
 @interface PrinterRow ()
 - (void)ask:(NSTimer *)asking;
-- (void)showState;
 - (void)printerChosen:(id)sender;
 @end
 

@@ -23,6 +23,7 @@ constexpr CGFloat kArrowsOfPopUp = 30;
 const NSSize kWide = {2000, 1200};
 const NSSize kLargeTextOnSmallScreen = {848, 656}; // points, of 1280 by 1024 pixels at 1.5
 const NSSize kSmallScreen = {1016, 728};
+const NSSize kLargeTextOnOldScreen = {528, 373}; // points, of 800 by 600 pixels at 1.5
 
 Arguments argumentsForPlainPrinter() {
   Arguments arguments;
@@ -46,7 +47,18 @@ protected:
 
   void TearDown() override { [dialog_ release]; }
 
-  NSArray *placed() const { return [[[dialog_ window] contentView] subviews]; }
+  /// The views of the window, and those of the part that scrolls when the window is low.
+  NSArray *placed() const {
+    NSArray *const views = [[[dialog_ window] contentView] subviews];
+    KeyScrollView *const upper = [views objectAtIndex:0];
+    NSArray *const rest = [views subarrayWithRange:NSMakeRange(1, [views count] - 1)];
+    NSMutableArray *const visible = [NSMutableArray array];
+    NSArray *const all = [[[upper documentView] subviews] arrayByAddingObjectsFromArray:rest];
+    for (NSUInteger i = 0; i < [all count]; i++)
+      if (![[all objectAtIndex:i] isHidden])
+        [visible addObject:[all objectAtIndex:i]];
+    return visible;
+  }
 
   template <typename View> std::vector<View *> placedOf(Class kind) const {
     std::vector<View *> found;
@@ -58,8 +70,11 @@ protected:
 
   /// Shows the buttons that appear for a conflict.
   void showResolve() {
-    for (NSButton *button : placedOf<NSButton>([NSButton class]))
-      [button setHidden:NO];
+    NSArray *const views = [[[dialog_ window] contentView] subviews];
+    for (NSUInteger i = 0; i < [views count]; i++)
+      if ([[views objectAtIndex:i] isKindOfClass:[NSButton class]])
+        [[views objectAtIndex:i] setHidden:NO];
+    [dialog_ windowDidResize:nil];
   }
 
   const Arguments arguments_ = argumentsForPlainPrinter();
@@ -101,11 +116,11 @@ TEST_P(WindowLayout, HasRoomForLaterItemsOfItsPopUps) {
 TEST_P(WindowLayout, OverlapsNoViews) {
   for (NSUInteger i = 0; i < [placed() count]; i++) {
     NSView *const one = [placed() objectAtIndex:i];
-    EXPECT_TRUE(NSContainsRect([[[dialog_ window] contentView] bounds], [one frame]))
-        << toText([one description]);
+    EXPECT_TRUE(NSContainsRect([[one superview] bounds], [one frame])) << toText([one description]);
     for (NSUInteger j = i + 1; j < [placed() count]; j++) {
       NSView *const other = [placed() objectAtIndex:j];
-      EXPECT_FALSE(NSIntersectsRect([one frame], [other frame]))
+      EXPECT_FALSE([one superview] == [other superview] &&
+                   NSIntersectsRect([one frame], [other frame]))
           << toText([one description]) << " " << toText([other description]);
     }
   }
@@ -143,6 +158,18 @@ TEST_P(WindowLayout, HasRoomForTheTextOfThePicture) {
     EXPECT_LE(widthOf(words, previewFont()), layout.relation.width) << words;
 }
 
+TEST_P(WindowLayout, FollowsTheSizeOfItsWindow) {
+  for (const NSSize size : {NSMakeSize(520, 370), NSMakeSize(900, 500), NSMakeSize(1800, 1100)}) {
+    [[dialog_ window] setContentSize:size];
+    [dialog_ windowDidResize:nil];
+    for (NSUInteger i = 0; i < [placed() count]; i++) {
+      NSView *const view = [placed() objectAtIndex:i];
+      EXPECT_TRUE(NSContainsRect([[view superview] bounds], [view frame]))
+          << toText([view description]) << " at " << size.width;
+    }
+  }
+}
+
 TEST_P(WindowLayout, FitsTheScreen) {
   const NSSize size = [[[dialog_ window] contentView] frame].size;
   EXPECT_LE(size.width, GetParam().width);
@@ -178,3 +205,4 @@ TEST_P(WindowLayout, ScrollsAPaneThatIsHigherThanItsAreaToTheControlWithTheFocus
 INSTANTIATE_TEST_SUITE_P(Wide, WindowLayout, testing::Values(kWide));
 INSTANTIATE_TEST_SUITE_P(LargeText, WindowLayout, testing::Values(kLargeTextOnSmallScreen));
 INSTANTIATE_TEST_SUITE_P(SmallScreen, WindowLayout, testing::Values(kSmallScreen));
+INSTANTIATE_TEST_SUITE_P(OldScreen, WindowLayout, testing::Values(kLargeTextOnOldScreen));
