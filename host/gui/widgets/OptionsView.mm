@@ -175,7 +175,9 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
 
 - (void)build:(const std::vector<OptionGroup> &)groups leavingOut:(std::size_t)leftOut {
   rows->clear();
-  NSView *const document = [[[OptionRows alloc] initWithFrame:NSZeroRect] autorelease];
+  const CGFloat width = [self contentSize].width;
+  NSView *const document =
+      [[[OptionRows alloc] initWithFrame:NSMakeRect(0, 0, width, 1)] autorelease];
   CGFloat top = kMargin;
   for (const OptionGroup &group : groups)
     top = [self add:group to:document below:top];
@@ -186,8 +188,7 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
     [document addSubview:note];
     top = NSMaxY([note frame]) + kRowGap;
   }
-  const NSSize visible = [self contentSize];
-  [document setFrameSize:NSMakeSize(visible.width, top)];
+  [document setFrameSize:NSMakeSize(width, top)];
   [document setAutoresizingMask:NSViewWidthSizable];
   [self setDocumentView:document];
 }

@@ -26,7 +26,7 @@ struct PrintDialogState;
   KeyWindow *window;
   MessageView *message;
   PreviewView *picture;
-  NSTextField *documentLabel; ///< The window's; not in the window without a document.
+  NSTextField *documentLabel; ///< In the window only if there is a document.
   PrinterRow *printers;
   PresetRow *presets;
   CopiesRow *copies;

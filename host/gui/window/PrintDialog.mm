@@ -79,7 +79,7 @@ struct imageposition::PrintDialogState {
   [window setDelegate:nil];
   [window close];
   for (id part : {(id)printers, (id)presets, (id)copies, (id)pages, (id)options, (id)panes,
-                  (id)sending, (id)message, (id)picture, (id)help, (id)window})
+                  (id)sending, (id)message, (id)documentLabel, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -105,7 +105,7 @@ struct imageposition::PrintDialogState {
                                        wake:*state->wake
                                      errors:state->errors];
   state->documents = documentsInWords(state->session->job().documents());
-  documentLabel = makeLabel("");
+  documentLabel = [makeLabel("") retain];
   std::vector<DialogRow> rows = [printers rows];
   if (!state->documents.empty())
     rows.push_back({messages::kDocumentRow, {{documentLabel, true}}});
@@ -236,6 +236,8 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)help {
+  if ([sending isUnderWay]) // only Cancel can be used
+    return;
   if (help == nil)
     help = [[HelpWindow alloc] init];
   [help showBeside:window];

@@ -66,8 +66,8 @@ TEST_F(Start, TheFirstProgramOnADisplayKnowsTheFramesOfWindows) {
   ASSERT_EQ(frame.size(), 4U);
   ASSERT_EQ(known.size(), 60U);
   EXPECT_GT(frame[2], 0); // a title bar
-  constexpr int kTitledAndClosable = 3;
-  const auto first = known.begin() + 4 * (kTitledAndClosable - 1);
+  constexpr int kTitledClosableMiniaturizableResizable = 15;
+  const auto first = known.begin() + 4 * (kTitledClosableMiniaturizableResizable - 1);
   EXPECT_EQ(std::vector<int>(first, first + 4), frame);
 }
 
