@@ -138,7 +138,7 @@ void checkRequest(PrinterDescription &printer, const PrintSettingsStore &job) {
   checkSummary(sentSection(request));
   try {
     const PrintSettingsStore options = optionsToSend(request);
-    const Ipp known = sentAndReceived(request, options);
+    const IppMessage known = sentAndReceived(request, options);
     for (int i = 0; i < options.optionCount(); ++i)
       if (hasCapital(options.options()[i].name) &&
           !isForeignCollection(request, options.options()[i]))
