@@ -72,7 +72,7 @@ bool isUsable(NSView *view) {
   return 12;
 }
 
-/// Draws only the knob.
+/// Draws the knob on the background of what scrolls: GNUstep does not erase the knob where it was.
 - (void)drawScrollerRect:(NSRect)rect
                   inView:(NSView *)view
                  hitPart:(NSScrollerPart)hitPart
@@ -80,6 +80,10 @@ bool isUsable(NSView *view) {
   (void)rect;
   (void)isHorizontal;
   NSScroller *const scroller = (NSScroller *)view;
+  NSScrollView *const owner = [scroller enclosingScrollView];
+  const bool isOnField = [owner borderType] != NSNoBorder || [[owner documentView] isOpaque];
+  [toColor(isOnField ? palette.field : palette.window) set];
+  NSRectFill([scroller bounds]);
   const NSRect knob = [scroller rectForPart:NSScrollerKnob];
   if (NSIsEmptyRect(knob))
     return;

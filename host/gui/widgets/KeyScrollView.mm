@@ -7,6 +7,7 @@
 namespace {
 
 constexpr CGFloat kLine = 20;
+constexpr CGFloat kNotch = 75; // of the mouse's wheel: about three rows of controls
 
 /// How far a key moves the content, downwards; 0 for other keys.
 CGFloat movementOf(NSEvent *event, CGFloat page) {
@@ -38,6 +39,7 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
     [self setHasVerticalScroller:YES];
     [self setAutohidesScrollers:YES];
     [self setDrawsBackground:NO];
+    [self setVerticalLineScroll:kNotch];
   }
   return self;
 }

@@ -147,7 +147,6 @@ constexpr NSTimeInterval kScrollInterval = 0.05;
   scroll = [[KeyScrollView alloc] initWithFrame:NSMakeRect(kEdge, kEdge, width, height)];
   [list setFrameSize:NSMakeSize(width - (scrolls ? kScroller : 0), wanted.height)];
   [scroll showRows:list];
-  [scroll setVerticalLineScroll:3 * kListRowHeight];
   [frame addSubview:scroll];
   const NSSize size = [window frame].size;
   const CGFloat left = std::max(NSMinX(screen), std::min(low.x, NSMaxX(screen) - size.width));
