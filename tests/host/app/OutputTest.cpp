@@ -146,7 +146,7 @@ TEST_F(OutputOfAJob, DoesNotFailTheJobIfItCannotBeWritten) {
 TEST_F(OutputOfAJob, DoesNotFailTheJobIfErrorsCannotBeWrittenEither) {
   for (const char *redirection : {">&$gone 2>&$gone", ">/dev/full 2>/dev/full", ">&- 2>&-"}) {
     SCOPED_TRACE(redirection);
-    EXPECT_EQ(printTo(redirection, "--set FrontLRM=9999").status, kDone);
+    EXPECT_EQ(printTo(redirection, "--set FrontLRM=+9").status, kDone);
     EXPECT_THAT(jobs(), HasSubstr("office-"));
     cups->run({"cancel", "-a", "-x"});
   }
