@@ -46,7 +46,7 @@ TEST_F(Output, ShowsControlCharactersOfNamesAsEscapes) {
   const std::string ticket =
       folder.write("job.json", R"({"settings": {"a\u001b[2J\n\u009bb\u202ec": 1.5}})");
   const Words rows[] = {{"--ppd", ppd, "--list-options"},
-                        {"--ppd", foreign, "--batch"},
+                        {"--ppd", foreign, "--batch", "--summary"},
                         {"--ppd", kHostile, "--batch"},
                         {"--ppd", shift, "--batch", kHostile},
                         {"--ppd", shift, "--batch", "--plugin", kHostile},
