@@ -86,6 +86,8 @@ std::string utf8FromUtf16(std::u16string_view text) {
   return result;
 }
 
+std::string wellFormedUtf8(std::string_view text) { return utf8FromUtf16(utf16FromUtf8(text)); }
+
 bool isWellFormedUtf8(std::string_view text) {
   while (!text.empty()) {
     const std::size_t length = firstCharacterLength(text);

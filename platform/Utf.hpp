@@ -15,6 +15,9 @@ std::string utf8FromUtf16(std::u16string_view text);
 /// surrogates.
 std::u16string utf16FromUtf8(std::string_view text);
 
+/// Replaces as `utf16FromUtf8` does.
+std::string wellFormedUtf8(std::string_view text);
+
 bool isWellFormedUtf8(std::string_view text);
 
 /// Bytes of the character that UTF-8 begins with; 0 for no text, and where it is malformed there.

@@ -73,6 +73,7 @@ ExitCode run(const std::vector<std::string> &words) {
     return ExitCode::Done;
   }
   const Arguments &arguments = std::get<Arguments>(request);
+  requireUtf8Arguments(words, arguments.documents);
   setEnvironment(arguments);
   const TerminalWarning warning(std::cerr);
   for (const std::string &path : arguments.documents)
@@ -85,7 +86,7 @@ ExitCode runProgram(int argc, char **argv) {
   const std::string catalogues = catalogueFolder();
   speak(chosenLanguage(wantedLanguages(std::getenv), catalogues), catalogues);
   const std::vector<std::string> words(argv + 1, argv + argc);
-  requireUtf8Arguments(words);
+  hideArgumentsThatAreNotUtf8(argv);
   return run(words);
 }
 

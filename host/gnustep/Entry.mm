@@ -36,8 +36,9 @@ ExitCode runInBatch(PrintJob &job) {
     std::cerr << messages::kProgram << trouble << '\n';
   if (!session.panels().troubles().empty())
     return ExitCode::Plugin;
-  if (session.panels().panels().empty())
+  if (session.panels().panels().empty() && arguments.batch.needsPanel())
     throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), session.plugins()));
+  job.requireNumbers(session.panels().optionKeys());
   const auto summary = runBatch(session.panels(), job.printer().ppd(), arguments.batch, std::cerr);
   if (const auto submission =
           job.print(job.isSubmitted() ? readDestinations() : DestinationList(), arguments.ticket))

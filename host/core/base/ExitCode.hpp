@@ -14,7 +14,7 @@ enum class ExitCode : int {
   Usage = 2,     ///< The command line is invalid, or its document cannot be read.
   Printer = 3,   ///< No usable printer description.
   Plugin = 4,    ///< A plug-in or its panel cannot be used.
-  NoPanel = 5,   ///< Batch: no plug-in has a panel for this printer.
+  NoPanel = 5,   ///< Batch: an option requires a panel, and the printer has none.
   Ticket = 6,    ///< The ticket or the output cannot be read or written.
   Display = 7,   ///< There is no display, and none could be started.
   Value = 8,     ///< Batch: a value cannot be set on the panel.

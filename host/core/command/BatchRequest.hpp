@@ -25,6 +25,9 @@ struct BatchRequest {
   std::optional<bool> back;   ///< Separate offsets for the back side; absent: unchanged.
   std::vector<Entry> entries; ///< Typed in this order, after `back`.
   bool summary = false;       ///< Print the summary.
+
+  /// Whether there is something to do that only a panel can.
+  bool needsPanel() const noexcept { return back || summary || !entries.empty(); }
 };
 
 } // namespace imageposition

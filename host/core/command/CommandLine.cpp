@@ -5,7 +5,9 @@
 #include "Copies.hpp"
 #include "ExitCode.hpp"
 #include "HoldTime.hpp"
+#include "JobTexts.hpp"
 #include "OptionText.hpp"
+#include "PageRanges.hpp"
 #include "PrinterTexts.hpp"
 #include "Strings.hpp"
 
@@ -52,6 +54,13 @@ void addRefused(CLI::App &app) {
       ->group("");
 }
 
+int copiesIn(const std::string &typed) {
+  const auto copies = readCopies(typed);
+  if (!copies)
+    throw Failure(ExitCode::Usage, messages::copiesNotUnderstood());
+  return *copies;
+}
+
 void addPrinterOptions(CLI::App &app, Arguments &arguments) {
   addText(app, "--ppd", arguments.ppd, messages::kHelpPpd, "FILE");
   addText(app, "-d,--queue", arguments.queue, messages::kHelpQueue, "QUEUE");
@@ -70,13 +79,16 @@ void addJobOptions(CLI::App &app, Arguments &arguments) {
       [&arguments](const std::string &text) { arguments.options.push_back(text); },
       messages::kHelpOption)
       ->type_name("NAME=VALUE");
-  addRepeated<int>(
-      app, "-n", [add](int copies) { add("copies", std::to_string(copies)); },
-      messages::kHelpCopies)
-      ->type_name("COPIES")
-      ->check(between(1, kMostCopies));
   addRepeated<std::string>(
-      app, "-P", [add](const std::string &pages) { add("page-ranges", pages); },
+      app, "-n",
+      [add](const std::string &typed) { add("copies", std::to_string(copiesIn(typed))); },
+      messages::kHelpCopies)
+      ->type_name("COPIES");
+  addRepeated<std::string>(
+      app, "-P",
+      [add](const std::string &pages) {
+        add("page-ranges", PageRanges::parse(pages).optionValue());
+      },
       messages::kHelpPages)
       ->type_name("PAGES");
   addRepeated<int>(
@@ -152,8 +164,7 @@ void fillBatchRequest(RawArguments &raw) {
     if (!batch.back)
       refuse(messages::badSwitch(raw.back));
   }
-  const bool hasBatchOptions = !batch.entries.empty() || batch.back || batch.summary;
-  if (hasBatchOptions && !raw.arguments.isBatch)
+  if (batch.needsPanel() && !raw.arguments.isBatch)
     refuse(messages::kOnlyInBatch);
 }
 

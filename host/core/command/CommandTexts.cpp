@@ -38,8 +38,9 @@ const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exi
                                 "written by Print. The same as NAME=VALUE lines goes\n"
                                 "beside it (job.options for job.json)";
 const char *const kHelpDocument = "What to print, several as one job; \"-\" is standard input,\n"
-                                  "which is also read when the window prints and no document\n"
-                                  "is named. After \"--\" a name may begin with a dash";
+                                  "which is also read when no document is named and the\n"
+                                  "window prints, or batch has a file or a pipe there.\n"
+                                  "After \"--\" a name may begin with a dash";
 const char *const kHelpAppearance = "How the window looks; without it, as the desktop does";
 const char *const kHelpTextScale = "How much larger texts are than usual, such as 1.25";
 const char *const kHelpBatch = "Show no window: set the panel, then write the job's\n"
@@ -72,7 +73,7 @@ const char *const kHelpFooter =
     "  2  the command line cannot be understood, or its document not be read\n"
     "  3  no usable printer description\n"
     "  4  a plug-in or its panel cannot be used\n"
-    "  5  batch: no plug-in has a panel for this printer\n"
+    "  5  batch: no panel for this printer, but an option requires one\n"
     "  6  the ticket or the output cannot be read or written\n"
     "  7  no display, and none could be started\n"
     "  8  batch: a value cannot be set on the panel\n"

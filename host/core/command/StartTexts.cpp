@@ -4,7 +4,9 @@
 #include "ExitCode.hpp"
 #include "Utf.hpp"
 
+#include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <unistd.h>
 
 namespace imageposition {
@@ -24,12 +26,22 @@ std::vector<std::string> variablesNamed(const std::string &start) {
   return names;
 }
 
+bool isNotAscii(char c) { return static_cast<unsigned char>(c) >= 0x80; }
+
 } // namespace
 
-void requireUtf8Arguments(const std::vector<std::string> &words) {
+void requireUtf8Arguments(const std::vector<std::string> &words,
+                          const std::vector<std::string> &documents) {
   for (const std::string &word : words)
-    if (!isWellFormedUtf8(word))
-      throw Failure(ExitCode::Usage, messages::argumentNotUtf8(utf8FromUtf16(utf16FromUtf8(word))));
+    if (!isWellFormedUtf8(word) &&
+        std::find(documents.begin(), documents.end(), word) == documents.end())
+      throw Failure(ExitCode::Usage, messages::argumentNotUtf8(wellFormedUtf8(word)));
+}
+
+void hideArgumentsThatAreNotUtf8(char **argv) {
+  for (char **argument = argv; *argument != nullptr; argument++)
+    if (!isWellFormedUtf8(*argument))
+      std::replace_if(*argument, *argument + std::strlen(*argument), isNotAscii, '?');
 }
 
 void removeVariablesThatAreNotUtf8() {

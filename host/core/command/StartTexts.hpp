@@ -13,8 +13,15 @@
 
 namespace imageposition {
 
-/// Throws a `Failure` with `ExitCode::Usage` that names the first argument that is not UTF-8.
-void requireUtf8Arguments(const std::vector<std::string> &words);
+/// Throws a `Failure` with `ExitCode::Usage` that names the first argument that is not UTF-8. The
+/// `documents` among them may have any encoding.
+void requireUtf8Arguments(const std::vector<std::string> &words,
+                          const std::vector<std::string> &documents);
+
+/// Replaces the letters outside ASCII by "?" in arguments that are not UTF-8, where the kernel
+/// keeps them: GNUstep reads /proc/self/cmdline when it is loaded. `argv` is main's. Copy it
+/// before.
+void hideArgumentsThatAreNotUtf8(char **argv);
 
 /// Removes the environment variables that are not UTF-8, for example OLDPWD with a folder name in
 /// another encoding.

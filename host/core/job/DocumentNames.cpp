@@ -1,12 +1,15 @@
 #include "DocumentNames.hpp"
 
 #include "JobTexts.hpp"
+#include "Utf.hpp"
 #include "VisibleText.hpp"
 
 namespace imageposition {
 
 std::string documentName(const std::string &path) {
-  return path == "-" ? "(stdin)" : path.substr(path.rfind('/') + 1); // npos + 1 is 0
+  if (path == "-")
+    return "(stdin)";
+  return wellFormedUtf8(path.substr(path.rfind('/') + 1)); // npos + 1 is 0
 }
 
 std::string documentsInWords(const std::vector<std::string> &paths) {

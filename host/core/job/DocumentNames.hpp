@@ -7,7 +7,8 @@
 
 namespace imageposition {
 
-/// The name without folders: "report.pdf"; "(stdin)" for standard input.
+/// The name without folders: "report.pdf"; "(stdin)" for standard input. A file's name may have any
+/// encoding; the result is UTF-8, with U+FFFD where the name is not.
 std::string documentName(const std::string &path);
 
 /// Describes the documents to the user: "report.pdf and 2 more". Empty for none.

@@ -81,6 +81,15 @@ std::string nameOf(const std::string &path) {
   return path == "-" ? messages::kStandardInput : path;
 }
 
+[[noreturn]] void failEmpty(const std::string &path) {
+  fail(JobProblem::Document,
+       path == "-" ? messages::kInputEmpty.str() : messages::documentEmpty(path));
+}
+
+[[noreturn]] void failUnreadable(const std::string &path, const std::system_error &error) {
+  fail(JobProblem::Document, messages::documentNotRead(nameOf(path), error.code().message()));
+}
+
 /// The submission of one job.
 class Submission {
 public:
@@ -101,7 +110,6 @@ private:
   void findPrinter();
   void createJob();
   void createJobWithCompounds();
-  void checkDocuments(const JobDocuments &documents);
   std::string_view firstChunk(DocumentStream &document);
   void sendDocuments(const JobDocuments &documents);
   void sendAll(const JobDocuments &documents);
@@ -224,18 +232,6 @@ void Submission::createJob() {
     failWithCupsError();
 }
 
-/// Determines the total size, and refuses unusable documents, before anything is sent.
-void Submission::checkDocuments(const JobDocuments &documents) {
-  state_.total = 0;
-  for (const std::string &path : documents) {
-    documentPath_ = path;
-    const auto size = documentSize(path);
-    if (size == 0u)
-      fail(JobProblem::Document, messages::documentEmpty(nameOf(path)));
-    state_.total = size && state_.total ? std::optional(*state_.total + *size) : std::nullopt;
-  }
-}
-
 std::string_view Submission::nextChunk(DocumentStream &document) {
   const auto chunk = document.next([this] { return report(); });
   if (!chunk)
@@ -246,7 +242,7 @@ std::string_view Submission::nextChunk(DocumentStream &document) {
 std::string_view Submission::firstChunk(DocumentStream &document) {
   const std::string_view chunk = nextChunk(document);
   if (chunk.empty())
-    fail(JobProblem::Document, messages::documentEmpty(nameOf(documentPath_)));
+    failEmpty(documentPath_);
   return chunk;
 }
 
@@ -352,11 +348,10 @@ void Submission::cleanUp(const SubmissionFailure &failure) {
 }
 
 void Submission::sendAll(const JobDocuments &documents) try {
-  checkDocuments(documents);
+  state_.total = totalSize(documents); // refuses unusable documents before anything is sent
   sendDocuments(documents);
 } catch (const std::system_error &error) {
-  fail(JobProblem::Document,
-       messages::documentNotRead(nameOf(documentPath_), error.code().message()));
+  failUnreadable(documentPath_, error);
 }
 
 SubmittedJob Submission::run(const JobDocuments &documents) {
@@ -370,6 +365,20 @@ SubmittedJob Submission::run(const JobDocuments &documents) {
 }
 
 } // namespace
+
+std::optional<std::uint64_t> totalSize(const JobDocuments &documents) {
+  std::optional<std::uint64_t> total = 0;
+  for (const std::string &path : documents)
+    try {
+      const auto size = documentSize(path);
+      if (size == 0u)
+        failEmpty(path);
+      total = size && total ? std::optional(*total + *size) : std::nullopt;
+    } catch (const std::system_error &error) {
+      failUnreadable(path, error);
+    }
+  return total;
+}
 
 SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
                        const ProgressCallback &progress, const PasswordCallback &password) {

@@ -55,6 +55,10 @@ struct SubmittedJob {
   std::string note; ///< Why it does not print yet (stopped, held), with what to do; or empty.
 };
 
+/// The size of all documents in bytes; none if one of them is a pipe. Throws a `SubmissionFailure`
+/// if a document is empty or cannot be read.
+std::optional<std::uint64_t> totalSize(const JobDocuments &documents);
+
 /// Called before each chunk, after the last one, and while waiting for CUPS or a pipe. Returns
 /// false to cancel. Must not throw.
 using ProgressCallback = std::function<bool(const JobProgress &)>;

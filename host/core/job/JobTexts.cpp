@@ -1,5 +1,6 @@
 #include "JobTexts.hpp"
 
+#include "Copies.hpp"
 #include "Phrases.hpp"
 
 namespace imageposition::messages {
@@ -65,6 +66,7 @@ std::string optionRefused(const std::string &queue, const std::string &reason) {
 std::string documentEmpty(const std::string &name) {
   return text("The document \"{1}\" is empty. Choose another document.").with(name);
 }
+const Text kInputEmpty = text("Standard input is empty. Nothing was printed.");
 std::string documentShrank(const std::string &name) {
   return text("The document \"{1}\" became shorter while it was being sent. Nothing was printed. "
               "Print it again when it is complete.")
@@ -134,6 +136,9 @@ std::string waitsForRelease(const std::string &queue, int job, const std::string
     return text("The job is on hold. To print it now: lp -i {1} -H resume").with(name);
   return text("The job is on hold until {2}. To print it now: lp -i {1} -H resume")
       .with(name, until);
+}
+std::string copiesNotUnderstood() {
+  return text("Enter a number of copies from 1 to {1}.").with(kMostCopies);
 }
 const Text kNoPages = text("The page range is empty. Use, for example, 1-3, 7.");
 std::string pagesNotUnderstood(const std::string &part) {

@@ -35,6 +35,7 @@ std::string queueRefuses(const std::string &queue);
 std::string notAllowed(const std::string &queue, const std::string &reason);
 std::string optionRefused(const std::string &queue, const std::string &reason);
 std::string documentEmpty(const std::string &name);
+extern const Text kInputEmpty;
 std::string documentShrank(const std::string &name);
 std::string documentNotRead(const std::string &name, const std::string &reason);
 std::string formatRefused(const std::string &name, const std::string &reason);
@@ -54,6 +55,7 @@ std::string waitsForPrinter(const std::string &queue, const std::string &state);
 std::string waitsForRelease(const std::string &queue, int job, const std::string &until);
 
 // Pages.
+std::string copiesNotUnderstood();
 extern const Text kNoPages;
 std::string pagesNotUnderstood(const std::string &part);
 extern const Text kPagesWithoutNumber;

@@ -69,6 +69,9 @@ std::string letters(const std::string &count) { return text("Letters: {1}").with
 std::string entryNoNumber(const std::string &name, const std::string &range) {
   return text("{1} must be a number. Enter {2}.").with(name, range);
 }
+std::string notANumber(const std::string &name, const std::string &value) {
+  return text("{1}: \"{2}\" is not a number.").with(name, value);
+}
 std::string entryNotWhole(const std::string &name, const std::string &range) {
   return text("{1} must be a whole number. Enter {2}.").with(name, range);
 }

@@ -38,6 +38,7 @@ std::string fromTo(const std::string &low, const std::string &high);
 std::string digits(const std::string &count);
 std::string letters(const std::string &count);
 std::string entryNoNumber(const std::string &name, const std::string &range);
+std::string notANumber(const std::string &name, const std::string &value);
 std::string entryNotWhole(const std::string &name, const std::string &range);
 std::string entryOutOfRange(const std::string &name, const std::string &range);
 std::string entryLength(const std::string &name, const std::string &letters,

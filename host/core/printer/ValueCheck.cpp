@@ -163,6 +163,32 @@ CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typ
                                         : checkNumber(parameter, typed);
 }
 
+std::string wholeNumberProblem(const std::string &name, const std::string &typed, double low,
+                               double high) {
+  CustomParameter parameter;
+  parameter.text = name;
+  parameter.kind = Kind::Integer;
+  parameter.minimum = low;
+  parameter.maximum = high;
+  if (!readNumber(typed))
+    return messages::notANumber(name, typed);
+  if (typed.find_first_of(".,") != std::string::npos) // a panel would drop the point of "5.0"
+    return messages::entryNotWhole(name, rangeText(parameter, LengthUnit::Point));
+  return checkEntry(parameter, typed, LengthUnit::Point).problem;
+}
+
+std::string wholeNumberProblem(ppd_file_t *ppd, const std::string &keyword,
+                               const std::string &value) {
+  const auto option = customOption(ppd, keyword);
+  if (!option || option->parameters.size() != 1 ||
+      option->parameters.front().kind != Kind::Integer ||
+      acceptedValue(ppd, *ppdFindOption(ppd, keyword.c_str()), value))
+    return {};
+  const CustomParameter &parameter = option->parameters.front();
+  return wholeNumberProblem(keyword, withoutCustomPrefix(value), parameter.minimum,
+                            parameter.maximum);
+}
+
 std::string customValueProblem(const CustomOption &option, const std::string &value) {
   const auto entries = readCustomValue(option, value);
   if (!entries)

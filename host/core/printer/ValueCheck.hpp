@@ -23,6 +23,16 @@ struct CheckedEntry {
 CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typed,
                         LengthUnit unit);
 
+/// Why `typed` is not a whole number from `low` to `high`: a sentence that begins with `name`.
+/// Empty if it is one.
+std::string wholeNumberProblem(const std::string &name, const std::string &typed, double low,
+                               double high);
+
+/// The same for a value of an option whose custom value is a whole number. Empty for a choice of
+/// the option, and for any other option.
+std::string wholeNumberProblem(ppd_file_t *ppd, const std::string &keyword,
+                               const std::string &value);
+
 /// Why the printer rejects the custom value; empty if it accepts it.
 std::string customValueProblem(const CustomOption &option, const std::string &value);
 

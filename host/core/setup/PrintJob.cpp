@@ -124,6 +124,18 @@ PrintJob::PrintJob(const Arguments &arguments)
   printer_->mark(ticket_.settings);
 }
 
+void PrintJob::requireNumbers(const std::vector<std::string> &keywords) const {
+  PrintSettingsStore given;
+  applyLpOptions(arguments_, given);
+  for (const std::string &keyword : keywords) {
+    const char *const value = given.get(keyword);
+    const std::string problem =
+        value != nullptr ? wholeNumberProblem(printer_->ppd(), keyword, value) : "";
+    if (!problem.empty())
+      throw Failure(ExitCode::Value, problem);
+  }
+}
+
 std::unique_ptr<PrinterDescription> PrintJob::openPrinter(const std::string &queue) const {
   return std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue));
 }
@@ -148,9 +160,7 @@ void PrintJob::takePrinter(const std::string &queue, std::unique_ptr<PrinterDesc
   printer_->mark(ticket_.settings);
 }
 
-bool PrintJob::hasDocument() const {
-  return !arguments_.documents.empty() || (!arguments_.isBatch && isInputGiven());
-}
+bool PrintJob::hasDocument() const { return !arguments_.documents.empty() || isInputGiven(); }
 
 std::vector<std::string> PrintJob::documentsToSend() const {
   return arguments_.documents.empty() ? std::vector<std::string>{"-"} : arguments_.documents;
@@ -188,6 +198,7 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
   }
   JobRequest request = this->request(destinations);
   if (arguments_.isDryRun) {
+    totalSize(documentsToSend()); // fails where a submission would
     std::cout << writeRequestText(request);
     return nullptr;
   }

@@ -36,6 +36,10 @@ public:
   /// the printer does not accept it. The constructor writes them to standard error.
   const std::vector<std::string> &misfits() const noexcept { return preset_.misfits; }
 
+  /// Throws a `Failure` with `ExitCode::Value` if the command line gives one of these options a
+  /// value that is not a number, or one that is out of the printer's range.
+  void requireNumbers(const std::vector<std::string> &keywords) const;
+
   /// Whether `print` submits the job to CUPS; otherwise it writes the settings.
   bool isSubmitted() const noexcept { return isSubmitted_; }
   /// Stays false if there is no queue.
@@ -49,7 +53,7 @@ public:
 
   /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
-  /// Whether there is something to print: a document, or, with a window, redirected input.
+  /// Whether there is something to print: a document, or redirected input.
   bool hasDocument() const;
 
   /// The request to send to CUPS: the job's settings and, if `destinations` has the queue, its

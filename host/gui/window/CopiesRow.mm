@@ -2,6 +2,7 @@
 
 #include "Collation.hpp"
 #include "Copies.hpp"
+#include "JobTexts.hpp"
 #import "MnemonicControls.h"
 #import "TextBridge.h"
 #include "WindowTexts.hpp"

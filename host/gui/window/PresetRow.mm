@@ -141,7 +141,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   const std::vector<std::string> keys = session.panels().optionKeys();
   const LoadedPreset loaded = Presets::load(preset, job.printer(), keys);
   job.settings() = loaded.settings;
-  session.panels().takePlainNumbers();
+  session.panels().takePanelValues();
   const PrintSettingsStore given = job.settings();
   job.printer().mark(job.settings());
   const PanelReplies replies = session.panels().restore();

@@ -40,9 +40,6 @@ const Text kStateUnknown = text("Looking for printers…");
 std::string printerState(const std::string &state, const std::string &location) {
   return location.empty() ? state : state + " · " + location;
 }
-std::string copiesNotUnderstood() {
-  return text("Enter a number of copies from 1 to {1}.").with(kMostCopies);
-}
 const Text kNothingToPrint = text(
     "There is no document to print. Start print-dialog with a file, or choose \"Save as ticket\".");
 const Text kPrintAnywayWindow = text("Print anyway?");

@@ -39,7 +39,6 @@ std::string presetSaved(const std::string &lpName);
 extern const Text kJobWaits;
 extern const Text kStateUnknown;
 std::string printerState(const std::string &state, const std::string &location);
-std::string copiesNotUnderstood();
 extern const Text kNothingToPrint;
 extern const Text kPrintAnywayWindow;
 extern const Text kPrintAnyway;

@@ -7,6 +7,7 @@
 #import "PanelControls.h"
 #include "Phrases.hpp"
 #include "PluginTexts.hpp"
+#include "ValueCheck.hpp"
 
 #include <ostream>
 
@@ -100,17 +101,38 @@ FoundField findField(const UnseenPanels &panels, const std::string &name) {
   return found.front();
 }
 
+/// What the field shows after `text` is typed into it; none if it is disabled.
+std::optional<std::string> typeInto(const FoundField &found, const std::string &text) {
+  std::optional<std::string> shown;
+  actingOn(found.panel->panel, "--set", [&] { shown = PanelControls::type(found.field, text); });
+  return shown;
+}
+
+/// Why a field that shows a number did not accept the entry; empty for any other field, and if the
+/// number is in range. The dialog knows a field only as a view: typing numbers far out of range
+/// shows the printer's range.
+std::string numberProblem(const FoundField &found, const Entry &entry) {
+  const auto low = readNumber(typeInto(found, "-99999").value_or(""));
+  const auto high = readNumber(typeInto(found, "99999").value_or(""));
+  if (!low || !high || *low == *high) // a locked setting always shows its own value
+    return {};
+  return wholeNumberProblem(entry.name, entry.text, *low, *high);
+}
+
 void typeEntry(const UnseenPanels &panels, ppd_file_t *ppd, const Entry &entry,
                std::ostream &notes) {
   const FoundField found = findField(panels, entry.name);
-  std::optional<std::string> shown;
-  actingOn(found.panel->panel, "--set",
-           [&] { shown = PanelControls::type(found.field, entry.text); });
+  const auto shown = typeInto(found, entry.text);
   if (!shown)
     throw Failure(ExitCode::Value,
                   messages::fieldUnavailable(found.field.name, adviceText(availabilityOf(ppd))));
-  if (*shown != entry.text)
-    notes << messages::valueAdjusted(entry.name, entry.text, *shown) << '\n';
+  if (*shown == entry.text)
+    return;
+  const std::string problem = numberProblem(found, entry);
+  if (!problem.empty())
+    throw Failure(ExitCode::Value, problem);
+  typeInto(found, entry.text);
+  notes << messages::valueAdjusted(entry.name, entry.text, *shown) << '\n';
 }
 
 } // namespace

@@ -36,11 +36,9 @@ public:
   /// among the troubles. `loaded` outlives the session.
   void load(const std::vector<std::string> &paths, LoadedPlugins &loaded);
 
-  /// Makes custom values of the panels' options into plain numbers, which is how panels read them:
-  /// while the panels were missing, the user could enter these options as the printer's own. Call
-  /// it for settings that come from elsewhere, before the panels read them; `load` and `revert` do
-  /// so.
-  void takePlainNumbers();
+  /// Converts the settings to the forms that panels read (`makePanelValues`). Call it for settings
+  /// that come from elsewhere, before the panels read them; `load` and `revert` do so.
+  void takePanelValues();
 
   /// The PPD options that the panels handle.
   std::vector<std::string> optionKeys() const;

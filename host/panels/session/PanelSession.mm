@@ -1,7 +1,7 @@
 #import "PanelSession.h"
 
-#include "CustomValue.hpp"
 #include "ExitCode.hpp"
+#include "PanelValues.hpp"
 #include "PluginTexts.hpp"
 
 #include <algorithm>
@@ -28,13 +28,10 @@ void PanelSession::load(const std::vector<std::string> &paths, LoadedPlugins &lo
       troubles_.push_back(failure.what());
     }
   }
-  takePlainNumbers();
+  takePanelValues();
 }
 
-void PanelSession::takePlainNumbers() {
-  for (const std::string &keyword : optionKeys())
-    makePlainNumber(ppd_, keyword, settings_);
-}
+void PanelSession::takePanelValues() { makePanelValues(ppd_, optionKeys(), settings_); }
 
 std::string PanelSession::troubleText() const {
   std::string text;
@@ -82,7 +79,7 @@ PanelReplies PanelSession::restore() {
 
 void PanelSession::revert() {
   settings_ = before_;
-  takePlainNumbers();
+  takePanelValues();
   restore();
 }
 

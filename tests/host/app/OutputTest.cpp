@@ -46,7 +46,7 @@ TEST_F(Output, ShowsControlCharactersOfNamesAsEscapes) {
   const std::string ticket =
       folder.write("job.json", R"({"settings": {"a\u001b[2J\n\u009bb\u202ec": 1.5}})");
   const Words rows[] = {{"--ppd", ppd, "--list-options"},
-                        {"--ppd", foreign, "--batch"},
+                        {"--ppd", foreign, "--batch", "--summary"},
                         {"--ppd", kHostile, "--batch"},
                         {"--ppd", shift, "--batch", kHostile},
                         {"--ppd", shift, "--batch", "--plugin", kHostile},
@@ -146,7 +146,7 @@ TEST_F(OutputOfAJob, DoesNotFailTheJobIfItCannotBeWritten) {
 TEST_F(OutputOfAJob, DoesNotFailTheJobIfErrorsCannotBeWrittenEither) {
   for (const char *redirection : {">&$gone 2>&$gone", ">/dev/full 2>/dev/full", ">&- 2>&-"}) {
     SCOPED_TRACE(redirection);
-    EXPECT_EQ(printTo(redirection, "--set FrontLRM=9999").status, kDone);
+    EXPECT_EQ(printTo(redirection, "--set FrontLRM=+9").status, kDone);
     EXPECT_THAT(jobs(), HasSubstr("office-"));
     cups->run({"cancel", "-a", "-x"});
   }

@@ -81,6 +81,15 @@ TEST_F(Start, ADocumentNamedFirstIsPrinted) {
   start({sample("two-sided.pdf"), "--ppd", sample("duplex-shift.ppd"), "--ticket", ticket}, {});
 }
 
+TEST_F(QueueWindow, ADocumentWithALatin1NamePrints) {
+  const std::string latin = folder.path("caf\xE9.pdf");
+  std::filesystem::copy_file(sample("two-sided.pdf"), latin);
+  start({"-d", "office", latin}, cups->environment());
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_THAT(ended().output, testing::HasSubstr("request id is office-"));
+}
+
 TEST_F(Start, WithoutAWindowManagerTheWindowIsCentred) {
   Process server({"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
   std::string display;

@@ -23,6 +23,13 @@ TEST_F(Window, ReturnCommitsTheTypedTextAndPrints) {
   EXPECT_EQ(printed(), offsets("-3", "0", "0", "0", "False"));
 }
 
+TEST_F(Window, OpensWithTheFlagForTheBackThatAnOptionSetsLikeLp) {
+  open("duplex-shift.ppd", {"-o", "com.morva.printsettings.19AImagePositionEnable"});
+  press({"Return"});
+  EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
+  EXPECT_EQ(printed(), offsets("0", "0", "0", "0", "True"));
+}
+
 TEST_F(Window, TabMovesFromFieldToField) {
   open("duplex-shift.ppd");
   type("-3");

@@ -42,6 +42,9 @@ std::string PrivateCups::jobAttribute(int job, const char *name) const {
   ipp_t *const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
   const std::string uri = "ipp://localhost/jobs/" + std::to_string(job);
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+  // Only its owner sees a job's name.
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
   ipp_t *const answer = cupsDoRequest(http, request, "/jobs");
   char text[1024] = "";
   if (ipp_attribute_t *const attribute = ippFindAttribute(answer, name, IPP_TAG_ZERO))

@@ -133,7 +133,14 @@ TEST(CommandLine, AppearanceAndTextScaleAreChecked) {
     EXPECT_THAT(mistake({"--text-scale", scale}), HasSubstr("1.25")) << scale;
 }
 
+TEST(CommandLine, PagesAreWrittenAsCupsReadsThem) {
+  EXPECT_THAT(read({"-P", "7; 1 - 3", "a.pdf"}).options, ElementsAre("page-ranges=\"1-3,7\""));
+  for (const char *pages : {"", "abc", "3-1", "0", "-"})
+    mistake({"-P", pages});
+}
+
 TEST(CommandLine, CopiesAndPriorityMustBeInTheRangesOfCups) {
+  EXPECT_THAT(read({"-n2", "a.pdf"}).options, ElementsAre("copies=2"));
   for (const char *copies : {"0", "-1", "10000", "two"})
     mistake({"-n", copies});
   for (const char *priority : {"0", "101", "high"})

@@ -11,6 +11,7 @@ TEST(DocumentNames, ADocumentHasTheNameOfItsFile) {
   EXPECT_EQ(documentName("report.pdf"), "report.pdf");
   EXPECT_EQ(documentName("/home/mary/report.pdf"), "report.pdf");
   EXPECT_EQ(documentName("-"), "(stdin)");
+  EXPECT_EQ(documentName("/tmp/caf\xE9.pdf"), "caf\xEF\xBF\xBD.pdf");
 }
 
 TEST(DocumentNames, SeveralAreDescribedByTheFirstAndACount) {

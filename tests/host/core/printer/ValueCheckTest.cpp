@@ -78,4 +78,33 @@ TEST_F(ValueCheck, KeepsNamesOfCupsAndPanelsThatThePpdLacks) {
   EXPECT_THAT(fitted("Saddle", "On", true).value, Optional(std::string("On")));
 }
 
+TEST(WholeNumber, OutOfRangeOrInAnotherFormIsExplained) {
+  const struct {
+    const char *typed;
+    const char *problem;
+  } rows[] = {{"-5", ""},
+              {"+5", ""},
+              {" 5", ""},
+              {"-6", "Shift is out of range. Enter -5 to 5."},
+              {"99999999999", "Shift is out of range. Enter -5 to 5."},
+              {"1.5", "Shift must be a whole number. Enter -5 to 5."},
+              {"5.0", "Shift must be a whole number. Enter -5 to 5."},
+              {"", "Shift: \"\" is not a number."},
+              {"--3", "Shift: \"--3\" is not a number."},
+              {"5-", "Shift: \"5-\" is not a number."}};
+  for (const auto &row : rows)
+    EXPECT_EQ(wholeNumberProblem("Shift", row.typed, -5, 5), row.problem) << row.typed;
+}
+
+TEST(WholeNumber, OfAnOptionIsCheckedOnlyIfThePrinterHasARange) {
+  const PrinterDescription printer =
+      PrinterDescription::fromFile(std::string(IMAGEPOSITION_SAMPLES) + "/duplex-shift.ppd");
+  for (const char *value : {"0", "-7", "Custom.100"})
+    EXPECT_EQ(wholeNumberProblem(printer.ppd(), "LeftRightMargin", value), "") << value;
+  for (const char *value : {"101", "Custom.-101", "abc", "Custom.x", ""})
+    EXPECT_NE(wholeNumberProblem(printer.ppd(), "LeftRightMargin", value), "") << value;
+  EXPECT_EQ(wholeNumberProblem(printer.ppd(), "Duplex", "abc"), "");
+  EXPECT_EQ(wholeNumberProblem(printer.ppd(), "Unknown", "abc"), "");
+}
+
 } // namespace

@@ -100,7 +100,8 @@ TEST_F(PluginLoading, EachResultThatIsNotAPanelIsReported) {
 }
 
 TEST_F(PluginLoading, AnEmptyArrayMeansNoPanelForThisPrinter) {
-  EXPECT_EQ(behave("nothing").status, kNoPanel);
+  EXPECT_EQ(behave("nothing", {"--summary"}).status, kNoPanel);
+  EXPECT_EQ(behave("nothing").status, kDone);
 }
 
 TEST_F(PluginLoading, APanelThatRefusesTheJobStopsIt) {
