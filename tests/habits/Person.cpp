@@ -261,6 +261,11 @@ std::vector<Sentence> Person::sentences() {
          });
        }},
       {"see \"*\" beside \"*\"", [=](const StepValues &v) { seeValue(v[0], v[1]); }},
+      {"see the field \"*\"",
+       [=](const StepValues &v) {
+         see("the field " + v[0],
+             [&](const Screen &shown) { return shown.find("field", v[0]) != nullptr; });
+       }},
       {"see \"*\" ticked",
        [=](const StepValues &v) {
          see(v[0] + " ticked", [&](const Screen &shown) {
@@ -284,6 +289,16 @@ std::vector<Sentence> Person::sentences() {
        }},
       {"see all of \"*\"", [=](const StepValues &v) { seeOnDisplay(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
+      {"it writes \"*\"",
+       [=](const StepValues &v) {
+         if (dialog_->wait().output.find(v[0]) == std::string::npos)
+           throw StepFailure("the output is: " + dialog_->wait().output);
+       }},
+      {"it does not write \"*\"",
+       [=](const StepValues &v) {
+         if (dialog_->wait().output.find(v[0]) != std::string::npos)
+           throw StepFailure("the output is: " + dialog_->wait().output);
+       }},
       {"the dialog ends with status #", [=](const StepValues &v) { endWith(number(v[0])); }},
   };
 }

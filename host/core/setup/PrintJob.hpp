@@ -36,6 +36,12 @@ public:
   /// the printer does not accept it. The constructor writes them to standard error.
   const std::vector<std::string> &misfits() const noexcept { return preset_.misfits; }
 
+  /// The settings with which the job began, without those of the first queue's preset.
+  const PrintSettingsStore &settingsWithoutPreset() const noexcept { return withoutPreset_; }
+  /// Leaves the preset that the queue names, so that CUPS no longer adds its settings: the queue is
+  /// then the printer. Keeps the job's settings.
+  void leavePreset();
+
   /// Whether `print` submits the job to CUPS; otherwise it writes the settings.
   bool isSubmitted() const noexcept { return isSubmitted_; }
   /// Stays false if there is no queue.
@@ -82,6 +88,7 @@ private:
   std::unique_ptr<PrinterDescription> printer_;
   LoadedPreset preset_; // of the first queue
   Ticket ticket_;
+  PrintSettingsStore withoutPreset_;
   bool isSubmitted_;
   std::string sentName_;
   std::string done_;

@@ -30,8 +30,17 @@ const Text kPrint = text("Print");
 const Text kNoPresetChosen = text("None");
 const Text kSavePreset = text("Save as preset…");
 const Text kRenamePreset = text("Rename this preset…");
-const Text kDeletePreset = text("Delete this preset");
+const Text kDeletePreset = text("Delete this preset…");
+const Text kPresetNameWindow = text("Name of the preset");
 const Text kPresetNameQuestion = text("Name of the preset:");
+std::string presetSuggestion(std::size_t number) {
+  // Translators: a name without blanks, for a preset that is to be saved.
+  return text("Preset-{1}").with(std::to_string(number));
+}
+const Text kDelete = text("Delete");
+std::string deleteQuestion(const std::string &preset) {
+  return text("Delete the preset \"{1}\"?").with(preset);
+}
 std::string presetSaved(const std::string &lpName) {
   return text("The preset is saved. lp -d {1} prints with it too.").with(lpName);
 }
