@@ -144,8 +144,10 @@ void Person::press(const std::string &key, int times) {
 void Person::paste(const std::string &text) {
   clipboard_ = std::make_unique<Process>(std::vector<std::string>{
       "sh", "-c", "printf %s \"$0\" | xclip -quiet -selection clipboard", text});
+  // xclip waits forever for an earlier owner that ends just then.
   if (!becomesTrue([&] {
-        return runProcess({"xclip", "-o", "-selection", "clipboard"}).output == text;
+        return runProcess({"timeout", "1", "xclip", "-o", "-selection", "clipboard"}).output ==
+               text;
       }))
     throw StepFailure("the clipboard does not hold the text");
   press("ctrl+v", 1);
@@ -286,6 +288,11 @@ std::vector<Sentence> Person::sentences() {
          see("the window " + v[0], [&](const Screen &shown) {
            return shown.keyWindow == v[0] && FocusedWindow::find().title == v[0];
          });
+       }},
+      {"look at the picture", [=](const StepValues &) { picture_ = Picture(screen()); }},
+      {"see the picture change",
+       [=](const StepValues &) {
+         see("another picture", [&](const Screen &shown) { return Picture(shown) != picture_; });
        }},
       {"see all of \"*\"", [=](const StepValues &v) { seeOnDisplay(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},

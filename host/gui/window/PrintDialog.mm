@@ -7,6 +7,7 @@
 #import "Labels.h"
 #import "MnemonicControls.h"
 #import "NotePanel.h"
+#include "NumberText.hpp"
 #include "PasteboardTrouble.hpp"
 #include "Phrases.hpp"
 #import "Pool.h"
@@ -16,6 +17,7 @@
 #include "WindowTexts.hpp"
 
 #include <ostream>
+#include <utility>
 
 using namespace imageposition;
 
@@ -38,6 +40,8 @@ struct imageposition::PrintDialogState {
   std::ostream *errors;
   PictureRedrawing redrawing;
   std::unique_ptr<RunLoopWake> wake;
+  std::string message;    // that is shown
+  std::string numberNote; // the last message about a number; may be empty
 };
 
 @interface PrintDialog ()
@@ -59,7 +63,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, {}, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -133,6 +137,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)show:(const std::string &)text {
+  state->message = text;
   [message setStringValue:toString(text)];
 }
 
@@ -236,6 +241,23 @@ struct imageposition::PrintDialogState {
 - (void)userActedOn:(NSView *)view {
   if (![sending isUnderWay])
     [panes userActedOn:view];
+}
+
+- (BOOL)takesNumbers:(NSTextField *)field {
+  return [panes isPanels:field];
+}
+
+/// A message about a number disappears with the next edit, unless another has replaced it.
+- (void)number:(NSTextField *)field wasEdited:(const NumberEdit &)edit {
+  const bool isEnd = edit.kind == NumberEdit::Kind::Ended;
+  if (!isEnd && isWholeNumber(edit.shown))
+    [panes takeNumber:field keepingIt:edit.kind == NumberEdit::Kind::Typed];
+  const std::string note = messages::numberChange(edit.typed, edit.shown, isEnd);
+  const std::string last = std::exchange(state->numberNote, note);
+  if (!note.empty() && isEnd)
+    [self say:note];
+  else if (!note.empty() || (!last.empty() && state->message == last))
+    [self show:note];
 }
 
 - (BOOL)windowShouldClose:(id)sender {

@@ -1,6 +1,7 @@
 #include "WindowTexts.hpp"
 
 #include "Copies.hpp"
+#include "NumberText.hpp"
 #include "Phrases.hpp"
 
 namespace imageposition::messages {
@@ -51,6 +52,16 @@ std::string printerState(const std::string &state, const std::string &location) 
 }
 std::string copiesNotUnderstood() {
   return text("Enter a number of copies from 1 to {1}.").with(kMostCopies);
+}
+std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd) {
+  const bool isNumber = isWholeNumber(typed);
+  const bool isBeginning = typed.empty() || (!isEnd && (typed == "-" || typed == "+"));
+  if (typed == shown || isBeginning || (isNumber && isSameNumber(typed, shown)))
+    return {};
+  return (isEnd && isNumber
+              ? text("\"{1}\" was changed to {2}, the nearest number that is allowed.")
+              : text("\"{1}\" was changed to {2}."))
+      .with(typed, shown);
 }
 const Text kNothingToPrint = text(
     "There is no document to print. Start print-dialog with a file, or choose \"Save as ticket\".");

@@ -44,6 +44,9 @@ extern const Text kJobWaits;
 extern const Text kStateUnknown;
 std::string printerState(const std::string &state, const std::string &location);
 std::string copiesNotUnderstood();
+/// What the panel made of a number that was typed; empty if it is the same, or if the user has only
+/// begun.
+std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd);
 extern const Text kNothingToPrint;
 extern const Text kPrintAnywayWindow;
 extern const Text kPrintAnyway;
