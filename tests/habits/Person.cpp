@@ -144,8 +144,10 @@ void Person::press(const std::string &key, int times) {
 void Person::paste(const std::string &text) {
   clipboard_ = std::make_unique<Process>(std::vector<std::string>{
       "sh", "-c", "printf %s \"$0\" | xclip -quiet -selection clipboard", text});
+  // xclip waits forever for an earlier owner that ends just then.
   if (!becomesTrue([&] {
-        return runProcess({"xclip", "-o", "-selection", "clipboard"}).output == text;
+        return runProcess({"timeout", "1", "xclip", "-o", "-selection", "clipboard"}).output ==
+               text;
       }))
     throw StepFailure("the clipboard does not hold the text");
   press("ctrl+v", 1);
@@ -272,6 +274,11 @@ std::vector<Sentence> Person::sentences() {
        }},
       {"see \"*\" beside \"*\"", [=](const StepValues &v) { seeValue(v[0], v[1]); }},
       {"see the button \"*\"", [=](const StepValues &v) { button(v[0]); }},
+      {"see the field \"*\"",
+       [=](const StepValues &v) {
+         see("the field " + v[0],
+             [&](const Screen &shown) { return shown.find("field", v[0]) != nullptr; });
+       }},
       {"see \"*\" ticked",
        [=](const StepValues &v) {
          see(v[0] + " ticked", [&](const Screen &shown) {
@@ -293,9 +300,24 @@ std::vector<Sentence> Person::sentences() {
            return shown.keyWindow == v[0] && FocusedWindow::find().title == v[0];
          });
        }},
+      {"look at the picture", [=](const StepValues &) { picture_ = Picture(screen()); }},
+      {"see the picture change",
+       [=](const StepValues &) {
+         see("another picture", [&](const Screen &shown) { return Picture(shown) != picture_; });
+       }},
       {"see all of \"*\"", [=](const StepValues &v) { seeOnDisplay(v[0]); }},
       {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
+      {"it writes \"*\"",
+       [=](const StepValues &v) {
+         if (dialog_->wait().output.find(v[0]) == std::string::npos)
+           throw StepFailure("the output is: " + dialog_->wait().output);
+       }},
+      {"it does not write \"*\"",
+       [=](const StepValues &v) {
+         if (dialog_->wait().output.find(v[0]) != std::string::npos)
+           throw StepFailure("the output is: " + dialog_->wait().output);
+       }},
       {"the dialog ends with status #", [=](const StepValues &v) { endWith(number(v[0])); }},
   };
 }

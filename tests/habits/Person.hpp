@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_TESTS_HABITS_PERSON_HPP
 #define IMAGEPOSITION_TESTS_HABITS_PERSON_HPP
 
+#include "Picture.hpp"
 #include "PlatformDefaults.hpp"
 #include "ProcessRun.hpp"
 #include "Screen.hpp"
@@ -51,6 +52,7 @@ private:
   TemporaryFolder folder_;
   PlatformDefaults defaults_{"GSAppKitUserBundles = (\"" OBSERVER_BUNDLE "\");"};
   std::vector<std::string> environment_;
+  Picture picture_;                 // that the user looked at last
   std::unique_ptr<Process> dialog_; // destroyed before the folder
   std::unique_ptr<Process> clipboard_;
 };

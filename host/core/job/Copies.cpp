@@ -1,11 +1,14 @@
 #include "Copies.hpp"
 
+#include "NumberText.hpp"
+
 #include <algorithm>
 #include <cstdlib>
 
 namespace imageposition {
 
-std::optional<int> readCopies(const std::string &text) {
+std::optional<int> readCopies(const std::string &typed) {
+  const std::string text = asciiNumber(typed);
   char *end = nullptr;
   const long number = std::strtol(text.c_str(), &end, 10);
   if (text.empty() || *end != '\0' || number < 1 || number > kMostCopies)

@@ -2,6 +2,7 @@
 
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
+#include "NumberText.hpp"
 
 #include <algorithm>
 #include <cstdint>
@@ -13,34 +14,14 @@ namespace {
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Usage, message); }
 
-/// Characters that other keyboard layouts and smart punctuation produce instead of ASCII.
-struct Substitute {
-  const char *written;
-  char meant;
-};
-constexpr Substitute kSubstitutes[] = {
-    {"\xE2\x80\x90", '-'}, {"\xE2\x80\x91", '-'}, {"\xE2\x80\x92", '-'}, {"\xE2\x80\x93", '-'},
-    {"\xE2\x80\x94", '-'}, {"\xE2\x88\x92", '-'}, {"\xEF\xBC\x8D", '-'}, {"\xE3\x83\xBC", '-'},
-    {"\xEF\xBC\x8C", ','}, {"\xE3\x80\x81", ','}, {"\xE3\x80\x80", ' '}, {"\xC2\xA0", ' '},
-    {"\xEF\xBC\x90", '0'}, {"\xEF\xBC\x91", '1'}, {"\xEF\xBC\x92", '2'}, {"\xEF\xBC\x93", '3'},
-    {"\xEF\xBC\x94", '4'}, {"\xEF\xBC\x95", '5'}, {"\xEF\xBC\x96", '6'}, {"\xEF\xBC\x97", '7'},
-    {"\xEF\xBC\x98", '8'}, {"\xEF\xBC\x99", '9'}};
+/// Commas as other keyboard layouts and users write them.
+constexpr std::string_view kCommas[] = {"\uFF0C", "\u3001", ";"};
 
 std::string plainText(std::string_view text) {
-  std::string plain;
-  while (!text.empty()) {
-    const auto substitute =
-        std::find_if(std::begin(kSubstitutes), std::end(kSubstitutes), [&](const Substitute &s) {
-          return text.substr(0, std::strlen(s.written)) == s.written;
-        });
-    if (substitute != std::end(kSubstitutes)) {
-      plain += substitute->meant;
-      text.remove_prefix(std::strlen(substitute->written));
-      continue;
-    }
-    plain += text.front() == ';' ? ',' : text.front();
-    text.remove_prefix(1);
-  }
+  std::string plain = withAsciiDigits(text);
+  for (const std::string_view comma : kCommas)
+    for (std::size_t at = 0; (at = plain.find(comma, at)) != std::string::npos;)
+      plain.replace(at, comma.size(), ",");
   return plain;
 }
 

@@ -208,15 +208,18 @@ std::vector<std::string> Presets::save(const std::string &name, const PrintSetti
   return lost;
 }
 
-void Presets::rename(const std::string &name, const std::string &newName) const {
+void Presets::rename(const std::string &name, const std::string &newName, bool mayReplace) const {
   const std::string usable = usableName(newName);
   changeFile([&](DestinationFile &file) {
     const bool isShared = contains(names(), name);
     if (!file.has({printer_, name}))
       throw Failure(ExitCode::Usage, isShared ? messages::presetIsShared(name, sharedPath())
                                               : messages::presetMissing(printer_, name));
-    if (!isSame(name, usable) && contains(names(), usable))
-      throw Failure(ExitCode::Usage, messages::presetExists(printer_, usable));
+    if (!isSame(name, usable) && contains(names(), usable)) {
+      if (!mayReplace)
+        throw Failure(ExitCode::Usage, messages::presetExists(printer_, usable));
+      file.remove({printer_, usable});
+    }
     file.rename({printer_, name}, usable);
   });
 }
@@ -258,6 +261,18 @@ LoadedPreset Presets::load(const PresetName &preset, const PrinterDescription &p
       loaded.misfits.push_back(fitted.change);
   }
   return loaded;
+}
+
+PrintSettingsStore Presets::withDocumentOf(const PrintSettingsStore &job,
+                                           const PrintSettingsStore &settings) {
+  PrintSettingsStore all;
+  for (const auto &[source, isOfDocument] : {std::pair(&job, true), std::pair(&settings, false)})
+    for (int i = 0; i < source->optionCount(); i++) {
+      const cups_option_t &option = source->options()[i];
+      if (isKept(option.name) != isOfDocument)
+        all.set(option.name, option.value);
+    }
+  return all;
 }
 
 std::vector<std::string> adjustments(ppd_file_t *ppd, const std::vector<std::string> &keywords,

@@ -47,8 +47,8 @@ public:
   /// preset therefore lacks.
   std::vector<std::string> save(const std::string &name, const PrintSettingsStore &settings,
                                 ppd_file_t *ppd = nullptr) const;
-  /// Renames to `usableName(newName)`, which must not exist.
-  void rename(const std::string &name, const std::string &newName) const;
+  /// Renames to `usableName(newName)`. A preset of that name is replaced only if `mayReplace`.
+  void rename(const std::string &name, const std::string &newName, bool mayReplace = false) const;
   /// Does nothing if there is no such preset.
   void remove(const std::string &name) const;
 
@@ -60,6 +60,11 @@ public:
   /// announce, which are kept even if the PPD lacks them.
   static LoadedPreset load(const PresetName &preset, const PrinterDescription &printer,
                            const std::vector<std::string> &panelKeywords = {});
+
+  /// Returns `settings`, but as in `job` what applies to a single document, which no preset
+  /// contains.
+  static PrintSettingsStore withDocumentOf(const PrintSettingsStore &job,
+                                           const PrintSettingsStore &settings);
 
   /// Turns what a user typed into a name that CUPS and `lp` accept: "Two sided" becomes
   /// "Two-sided". Throws a `Failure` with `ExitCode::Usage` if nothing usable is left.

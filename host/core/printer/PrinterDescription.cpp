@@ -139,6 +139,15 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   return printer;
 }
 
+void PrinterDescription::leaveInstance() {
+  const QueueName name = QueueName::parse(name_);
+  if (name.instance.empty())
+    return;
+  name_ = name.printer;
+  queueDefaults_ = defaultsOf({name.printer, {}});
+  defaultChoices_.reset();
+}
+
 void PrinterDescription::mark(const PrintSettingsStore &job) {
   ppdMarkDefaults(ppd());
   for (const PrintSettingsStore *settings : {&std::as_const(queueDefaults_), &job})

@@ -38,6 +38,10 @@ public:
   /// Defaults for all jobs, set by the queue's users or an administrator. Empty for a file.
   const PrintSettingsStore &queueDefaults() const noexcept { return queueDefaults_; }
 
+  /// Takes the defaults of the queue's printer in place of those of its instance, and its name.
+  /// Does nothing for a queue without an instance.
+  void leaveInstance();
+
   /// The choices that are marked for a job without settings, by keyword; a list for an option that
   /// accepts several. Computed at the first call, which marks the PPD.
   const std::map<std::string, std::string> &defaultChoices();

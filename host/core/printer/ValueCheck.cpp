@@ -2,6 +2,7 @@
 
 #include "ChoiceList.hpp"
 #include "ForeignText.hpp"
+#include "NumberText.hpp"
 #include "PrinterTexts.hpp"
 #include "Strings.hpp"
 
@@ -159,8 +160,9 @@ CheckedEntry checkEntry(const CustomParameter &parameter, const std::string &typ
                         LengthUnit unit) {
   if (parameter.isText())
     return checkText(parameter, typed);
-  return parameter.kind == Kind::Length ? checkLength(parameter, typed, unit)
-                                        : checkNumber(parameter, typed);
+  const std::string number = asciiNumber(typed);
+  return parameter.kind == Kind::Length ? checkLength(parameter, number, unit)
+                                        : checkNumber(parameter, number);
 }
 
 std::string wholeNumberProblem(const std::string &name, const std::string &typed, double low,

@@ -119,6 +119,8 @@ std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
 PrintJob::PrintJob(const Arguments &arguments)
     : arguments_(arguments), queue_(queueFor(arguments)), printer_(firstPrinter(arguments, queue_)),
       preset_(presetOf(queue_, *printer_)), ticket_(openTicket(arguments, preset_.settings)),
+      withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
+                                                         : openTicket(arguments, {}).settings),
       isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
@@ -158,6 +160,14 @@ void PrintJob::takePrinter(const std::string &queue, std::unique_ptr<PrinterDesc
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
   printer_->mark(ticket_.settings);
+}
+
+void PrintJob::leavePreset() {
+  if (queue_.empty())
+    return;
+  queue_ = QueueName::parse(queue_).printer;
+  printer_->leaveInstance();
+  ticket_.printer = printer_->name();
 }
 
 bool PrintJob::hasDocument() const { return !arguments_.documents.empty() || isInputGiven(); }

@@ -40,6 +40,12 @@ public:
   /// value that is not a number, or one that is out of the printer's range.
   void requireNumbers(const std::vector<std::string> &keywords) const;
 
+  /// The settings with which the job began, without those of the first queue's preset.
+  const PrintSettingsStore &settingsWithoutPreset() const noexcept { return withoutPreset_; }
+  /// Leaves the preset that the queue names, so that CUPS no longer adds its settings: the queue is
+  /// then the printer. Keeps the job's settings.
+  void leavePreset();
+
   /// Whether `print` submits the job to CUPS; otherwise it writes the settings.
   bool isSubmitted() const noexcept { return isSubmitted_; }
   /// Stays false if there is no queue.
@@ -86,6 +92,7 @@ private:
   std::unique_ptr<PrinterDescription> printer_;
   LoadedPreset preset_; // of the first queue
   Ticket ticket_;
+  PrintSettingsStore withoutPreset_;
   bool isSubmitted_;
   std::string sentName_;
   std::string done_;

@@ -18,51 +18,62 @@ constexpr CGFloat kNameWidth = 340;
 constexpr CGFloat kPathWidth = 480;
 constexpr CGFloat kGap = 8;
 
-struct Question {
-  std::string title, text, suggestion, confirmTitle;
+struct Look {
+  std::string confirmTitle;
   CGFloat width;
 };
 
-std::optional<std::string> ask(NSWindow *parent, const Question &question) {
+std::optional<std::string> ask(NSWindow *parent, const NameQuestion &question, const Look &look,
+                               const NameCheck &mayTake) {
   NSTextField *const label = makeLabel(question.text);
   NSTextField *const field = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
   const CGFloat fieldHeight = [[field cell] cellSize].height;
-  ModalPanel panel(question.title, question.width, NSHeight([label frame]) + kGap + fieldHeight,
-                   question.confirmTitle, messages::kCancel);
+  ModalPanel panel(question.title, look.width, NSHeight([label frame]) + kGap + fieldHeight,
+                   look.confirmTitle, messages::kCancel);
   [label setFrameOrigin:NSMakePoint(kPanelMargin, panel.bottom() + fieldHeight + kGap)];
-  [field setFrame:NSMakeRect(kPanelMargin, panel.bottom(), question.width - 2 * kPanelMargin,
+  [field setFrame:NSMakeRect(kPanelMargin, panel.bottom(), look.width - 2 * kPanelMargin,
                              fieldHeight)];
   [field setStringValue:toString(question.suggestion)];
   panel.add(label);
   panel.add(field);
-  const bool isConfirmed = panel.run(parent, {field});
-  const std::string name = toText([field stringValue]);
+  std::string name;
+  const bool isConfirmed = panel.run(parent, {field}, nil, [&] {
+    name = toText([field stringValue]);
+    return name.empty() || !mayTake || mayTake(panel.window(), name);
+  });
   if (!isConfirmed || name.empty())
     return std::nullopt;
   return name;
 }
 
-bool mayReplace(NSWindow *parent, const std::string &path) {
+/// Writing to anything but a file fails with a message where it is impossible.
+bool mayWrite(NSWindow *parent, const std::string &path) {
   std::error_code ignored;
-  if (!std::filesystem::is_regular_file(path, ignored))
-    return true; // writing it fails with a message where that is impossible
-  return isConfirmed(parent, {messages::kReplace, messages::ticketExists(path), messages::kReplace,
-                              messages::kCancel});
+  return !std::filesystem::is_regular_file(path, ignored) || mayReplace(parent, path);
 }
 
 } // namespace
 
-std::optional<std::string> askForName(NSWindow *parent, const std::string &question,
-                                      const std::string &suggestion) {
-  return ask(parent, {question, question, suggestion, messages::kOk, kNameWidth});
+bool mayReplace(NSWindow *parent, const std::string &name) {
+  return isConfirmed(parent, {messages::kReplace, messages::alreadyExists(name), messages::kReplace,
+                              messages::kCancel});
+}
+
+std::optional<std::string> askForName(NSWindow *parent, const NameQuestion &question,
+                                      const NameCheck &mayTake) {
+  return ask(parent, question, {messages::kOk, kNameWidth}, mayTake);
 }
 
 std::optional<std::string> askForTicket(NSWindow *parent, const std::string &suggestion) {
   const char *const home = std::getenv("HOME");
-  const auto typed = ask(parent, {messages::kSaveAsTicket, messages::kTicketQuestion, suggestion,
-                                  messages::kSave, kPathWidth});
-  const std::string path = typed ? ticketPath(*typed, home != nullptr ? home : "") : "";
-  if (path.empty() || !mayReplace(parent, path))
+  std::string path;
+  const auto typed =
+      ask(parent, {messages::kSaveAsTicket, messages::kTicketQuestion, suggestion},
+          {messages::kSave, kPathWidth}, [&](NSWindow *window, const std::string &name) {
+            path = ticketPath(name, home != nullptr ? home : "");
+            return path.empty() || mayWrite(window, path);
+          });
+  if (!typed || path.empty())
     return std::nullopt;
   return path;
 }

@@ -33,8 +33,8 @@ const Text kSaveAsTicket = text("Save as ticket");
 const Text kTicketQuestion = text("File for the job's settings:");
 const Text kSave = text("Save");
 const Text kReplace = text("Replace");
-std::string ticketExists(const std::string &path) {
-  return text("\"{1}\" already exists. Replace it?").with(path);
+std::string alreadyExists(const std::string &name) {
+  return text("\"{1}\" already exists. Replace it?").with(name);
 }
 const Text kPasswordWindow = text("Password");
 const Text kWrongPasswordWindow = text("Wrong password");

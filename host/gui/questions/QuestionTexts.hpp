@@ -28,7 +28,7 @@ extern const Text kSaveAsTicket;
 extern const Text kTicketQuestion;
 extern const Text kSave;
 extern const Text kReplace;
-std::string ticketExists(const std::string &path);
+std::string alreadyExists(const std::string &name);
 
 // Passwords.
 extern const Text kPasswordWindow;

@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_GUI_WIDGETS_KEYWINDOW_H
 #define IMAGEPOSITION_GUI_WIDGETS_KEYWINDOW_H
 
-#import <AppKit/AppKit.h>
+#import "FieldEditor.h"
 
 #include <functional>
 #include <string>
@@ -43,14 +43,16 @@ void wakeModalLoop(NSWindow *window);
 } // namespace imageposition
 
 /// Return confirms, also from an entry field, once the field has committed its text. Control with
-/// C, X, V or A edits in a field, as Linux users expect; there is no menu for it. Alt with a letter
-/// activates a control.
+/// C, X, V, A or Z edits in a field, as Linux users expect; there is no menu for it. Alt with a
+/// letter activates a control.
 ///
-/// An exception ends only the event in which it is raised, and is reported to the delegate.
+/// An exception ends only the event in which it is raised, and is reported to the delegate. A
+/// `FieldEditor` edits the fields; the delegate may be their `NumberFieldOwner`.
 @interface KeyWindow : NSWindow {
   std::vector<imageposition::ControlKey> *controlKeys; ///< Owned; may be null.
-  NSView *focusShown; ///< The view last drawn with the focus; owned; may be null.
-  NSView *running;    ///< The view whose code is running; null for the dialog's own.
+  NSView *focusShown;       ///< The view last drawn with the focus; owned; may be null.
+  NSView *running;          ///< The view whose code is running; null for the dialog's own.
+  FieldEditor *fieldEditor; ///< Owned; null before a field is first edited.
 }
 
 /// Makes Alt with the letter marked in the string (see Mnemonic.hpp) press a button, or give

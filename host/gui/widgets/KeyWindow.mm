@@ -49,6 +49,8 @@ SEL editingOperationOf(NSEvent *event) {
     return @selector(paste:);
   case 'a':
     return @selector(selectAll:);
+  case 'z':
+    return @selector(undoEdit:);
   default:
     return nullptr;
   }
@@ -136,7 +138,16 @@ bool canBeReached(NSView *control) {
 - (void)dealloc {
   delete controlKeys;
   [focusShown release];
+  [fieldEditor release];
+  fieldEditor = nil;
   [super dealloc];
+}
+
+- (NSText *)fieldEditor:(BOOL)isMade forObject:(id)field {
+  (void)field;
+  if (fieldEditor == nil && isMade)
+    fieldEditor = [[FieldEditor alloc] initForWindow:self];
+  return fieldEditor;
 }
 
 - (void)reach:(NSView *)control by:(const std::string &)marked {
@@ -153,11 +164,14 @@ bool canBeReached(NSView *control) {
 // text. The view that loses the focus may send its action here, so its code may run.
 - (BOOL)makeFirstResponder:(NSResponder *)responder {
   NSView *const before = running;
-  if (NSView *const leaving = [self focusedView])
-    running = [[leaving retain] autorelease];
+  NSView *const leaving = [[[self focusedView] retain] autorelease];
+  if (leaving != nil)
+    running = leaving;
   const BOOL isTaken = [super makeFirstResponder:responder];
   running = before;
   NSView *const view = [self focusedView];
+  if (view != leaving)
+    [fieldEditor endEdits];
   [focusShown setNeedsDisplay:YES];
   [view setNeedsDisplay:YES];
   [focusShown release];
@@ -265,7 +279,8 @@ bool canBeReached(NSView *control) {
   const SEL editing = editingOperationOf(event);
   if (editing != nullptr && [focus isKindOfClass:[NSText class]]) {
     running = [self focusedView];
-    [focus performSelector:editing withObject:self];
+    if ([focus respondsToSelector:editing]) // a password is not undone
+      [focus performSelector:editing withObject:self];
     return YES;
   }
   switch (keyOf(event)) {

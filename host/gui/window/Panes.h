@@ -53,6 +53,11 @@
 /// Has the shown panel save after an act of the user on one of its views, so that the picture shows
 /// what it does. What is being typed is left alone.
 - (void)userActedOn:(NSView *)view;
+/// Whether the view is the shown panel's.
+- (BOOL)isPanels:(NSView *)view;
+/// Has the shown panel take a number while it is typed, so that the picture shows what it does. The
+/// field keeps what is typed if `isKept`, and otherwise shows what the panel made of it.
+- (void)takeNumber:(NSTextField *)field keepingIt:(BOOL)isKept;
 /// Leaves out the shown panel if the view, whose code raised `what`, is the panel's. NO if not.
 - (BOOL)leaveOutPanelOf:(NSView *)view because:(const std::string &)what;
 

@@ -215,8 +215,24 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
   });
 }
 
+- (BOOL)isPanels:(NSView *)view {
+  return shown != nullptr && [view isDescendantOf:shown->view()];
+}
+
+- (void)takeNumber:(NSTextField *)field keepingIt:(BOOL)isKept {
+  NSText *const editor = [field currentEditor];
+  NSString *const typed = [[[editor string] copy] autorelease];
+  const NSRange selected = [editor selectedRange];
+  [field sendAction:[field action] to:[field target]];
+  if ([field currentEditor] != editor || !isKept) // the panel may have been left out
+    return;
+  if (![[editor string] isEqualToString:typed])
+    [editor setString:typed];
+  [editor setSelectedRange:selected];
+}
+
 - (void)userActedOn:(NSView *)view {
-  if (shown == nullptr || ![view isDescendantOf:shown->view()])
+  if (![self isPanels:view])
     return;
   KeyWindow *const window = (KeyWindow *)[view window];
   if ([view isKindOfClass:[NSButton class]])
@@ -235,7 +251,7 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
 }
 
 - (BOOL)leaveOutPanelOf:(NSView *)view because:(const std::string &)what {
-  if (shown == nullptr || ![view isDescendantOf:shown->view()])
+  if (![self isPanels:view])
     return NO;
   [self leaveOut:shown because:messages::pluginRaised(shown->pluginPath(), "event", what)];
   return YES;

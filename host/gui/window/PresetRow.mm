@@ -2,8 +2,11 @@
 
 #include "ExitCode.hpp"
 #import "NamePanel.h"
+#import "NotePanel.h"
 #include "Phrases.hpp"
+#include "QuestionTexts.hpp"
 #include "QueueName.hpp"
+#include "Strings.hpp"
 #import "TextBridge.h"
 #include "WindowTexts.hpp"
 
@@ -36,9 +39,17 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 
 @interface PresetRow ()
 - (std::string)printer;
+/// Selects the chosen preset, or else none. Whether it is listed.
+- (BOOL)showChosen;
 - (void)presetChosen:(id)sender;
 - (void)choose:(std::size_t)item;
 - (void)load:(const PresetName &)preset;
+- (void)takeNone;
+- (void)take:(const LoadedPreset &)loaded;
+- (std::string)suggestion;
+/// Asks for a name, and before it replaces another preset than `old`. Returns a usable name.
+- (std::optional<std::string>)askForNameInsteadOf:(const std::string &)old
+                                       suggestion:(const std::string &)suggestion;
 - (void)save;
 - (void)rename;
 - (void)remove;
@@ -93,15 +104,9 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   const std::size_t listed = std::min(state->presets.size(), kMostPresets);
   const std::size_t unlisted = state->presets.size() - listed;
   state->presets.resize(listed);
-  bool isChosen = false;
-  for (const PresetName &preset : state->presets) {
-    const bool isOwn = preset.printer == printer;
-    addItem(popUp, isOwn ? preset.name : preset.printer + "/" + preset.name);
-    if (isOwn && preset.name == state->chosen) {
-      isChosen = true;
-      [popUp selectItemAtIndex:[popUp numberOfItems] - 1];
-    }
-  }
+  for (const PresetName &preset : state->presets)
+    addItem(popUp, preset.printer == printer ? preset.name : preset.printer + "/" + preset.name);
+  const bool isChosen = [self showChosen];
   addCommand(popUp, messages::kSavePreset);
   addCommand(popUp, messages::kRenamePreset, isChosen);
   addCommand(popUp, messages::kDeletePreset, isChosen);
@@ -109,10 +114,26 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
     addItem(popUp, messages::presetsNotListed(unlisted), false);
 }
 
+- (BOOL)showChosen {
+  const std::string printer = [self printer];
+  [popUp selectItemAtIndex:0];
+  for (std::size_t i = 0; i < state->presets.size(); i++) {
+    const PresetName &preset = state->presets[i];
+    if (preset.printer != printer || preset.name != state->chosen)
+      continue;
+    [popUp selectItemAtIndex:static_cast<NSInteger>(i) + 1];
+    return YES;
+  }
+  return NO;
+}
+
 - (void)presetChosen:(id)sender {
   [(KeyWindow *)[sender window] focus:popUp];
   try {
-    [self choose:static_cast<std::size_t>([popUp indexOfSelectedItem])];
+    const auto item = static_cast<std::size_t>([popUp indexOfSelectedItem]);
+    if (item > state->presets.size())
+      [self showChosen]; // the question comes over it
+    [self choose:item];
   } catch (const Failure &failure) {
     [dialog say:failure.what()];
   }
@@ -123,7 +144,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 - (void)choose:(std::size_t)item {
   const std::size_t count = state->presets.size();
   if (item == 0)
-    state->chosen.clear();
+    [self takeNone];
   else if (item <= count)
     [self load:PresetName(state->presets[item - 1])];
   else if (item == count + 1)
@@ -134,39 +155,83 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
     [self remove];
 }
 
-/// The panels' values are among the settings, so that the panels read them anew.
 - (void)load:(const PresetName &)preset {
   PrintSession &session = [dialog session];
+  const LoadedPreset loaded =
+      Presets::load(preset, session.job().printer(), session.panels().optionKeys());
+  state->chosen = preset.printer == [self printer] ? preset.name : "";
+  [self take:loaded];
+}
+
+- (void)takeNone {
+  state->chosen.clear();
+  LoadedPreset none;
+  none.settings = [dialog session].job().settingsWithoutPreset();
+  [self take:none];
+}
+
+/// The panels' values are among the settings, so that the panels read them anew. What applies to
+/// this document alone stays.
+- (void)take:(const LoadedPreset &)loaded {
+  PrintSession &session = [dialog session];
   PrintJob &job = session.job();
-  const std::vector<std::string> keys = session.panels().optionKeys();
-  const LoadedPreset loaded = Presets::load(preset, job.printer(), keys);
-  job.settings() = loaded.settings;
+  if (QueueName::parse(job.queue()).instance != state->chosen)
+    job.leavePreset();
+  job.settings() = Presets::withDocumentOf(job.settings(), loaded.settings);
   session.panels().takePanelValues();
   const PrintSettingsStore given = job.settings();
   job.printer().mark(job.settings());
   const PanelReplies replies = session.panels().restore();
-  state->chosen = preset.printer == [self printer] ? preset.name : "";
   [dialog refresh];
   if (![dialog savePanels])
     return;
-  const auto changes = adjustments(job.printer().ppd(), keys, given, job.settings());
+  const auto changes =
+      adjustments(job.printer().ppd(), session.panels().optionKeys(), given, job.settings());
   std::vector<std::string> notes;
   for (const auto *sentences : {&replies.failures, &replies.refusals, &loaded.misfits, &changes})
     notes.insert(notes.end(), sentences->begin(), sentences->end());
   [dialog say:messages::sentences(notes)];
 }
 
+/// The chosen preset's name, or one that does not exist yet.
+- (std::string)suggestion {
+  if (!state->chosen.empty())
+    return state->chosen;
+  const std::vector<std::string> names = Presets([self printer]).names();
+  std::size_t number = 1;
+  while (contains(names, messages::presetSuggestion(number)))
+    number++;
+  return messages::presetSuggestion(number);
+}
+
+- (std::optional<std::string>)askForNameInsteadOf:(const std::string &)old
+                                       suggestion:(const std::string &)suggestion {
+  const std::vector<std::string> names = Presets([self printer]).names();
+  const auto mayTake = [&](NSWindow *window, const std::string &typed) {
+    try {
+      const std::string name = Presets::usableName(typed);
+      return isSame(name, old) || !contains(names, name) || mayReplace(window, name);
+    } catch (const Failure &failure) {
+      showNote(window, messages::kPresetNameWindow, failure.what());
+      return false;
+    }
+  };
+  const auto typed = askForName(
+      [popUp window], { messages::kPresetNameWindow, messages::kPresetNameQuestion, suggestion },
+      mayTake);
+  return typed ? std::optional(Presets::usableName(*typed)) : std::nullopt;
+}
+
 - (void)save {
   if (![dialog takeEntries])
     return;
-  const auto typed = askForName([popUp window], messages::kPresetNameQuestion, state -> chosen);
-  if (!typed)
+  const auto name = [self askForNameInsteadOf:"" suggestion:[self suggestion]];
+  if (!name)
     return;
   PrintJob &job = [dialog session].job();
-  const std::string name = Presets::usableName(*typed);
-  const auto missing = Presets([self printer]).save(name, job.settings(), job.printer().ppd());
-  state->chosen = name;
-  const std::string saved = messages::presetSaved(QueueName{[self printer], name}.text());
+  const auto missing = Presets([self printer]).save(*name, job.settings(), job.printer().ppd());
+  state->chosen = *name;
+  const std::string saved = messages::presetSaved(QueueName{[self printer], *name}.text());
   if (missing.empty())
     [dialog show:saved];
   else
@@ -174,19 +239,26 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 }
 
 - (void)rename {
-  const auto typed = askForName([popUp window], messages::kPresetNameQuestion, state -> chosen);
-  if (!typed || state->chosen.empty())
+  if (state->chosen.empty())
     return;
-  const std::string name = Presets::usableName(*typed);
-  Presets([self printer]).rename(state->chosen, name);
-  state->chosen = name;
+  const auto name = [self askForNameInsteadOf:state->chosen suggestion:state->chosen];
+  if (!name)
+    return;
+  Presets([self printer]).rename(state->chosen, *name, true);
+  state->chosen = *name;
+  [dialog show:""];
 }
 
 - (void)remove {
   if (state->chosen.empty())
     return;
+  const Proposal question{messages::kDelete, messages::deleteQuestion(state->chosen),
+                          messages::kDelete, messages::kCancel};
+  if (!isConfirmed([popUp window], question))
+    return;
   Presets([self printer]).remove(state->chosen);
   state->chosen.clear();
+  [dialog show:""];
 }
 
 @end

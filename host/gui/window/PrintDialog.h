@@ -21,7 +21,7 @@ namespace imageposition {
 struct PrintDialogState;
 }
 
-@interface PrintDialog : NSObject <DialogServices, KeyWindowDelegate> {
+@interface PrintDialog : NSObject <DialogServices, KeyWindowDelegate, NumberFieldOwner> {
   imageposition::PrintDialogState *state; ///< Owned; so below.
   KeyWindow *window;
   MessageView *message;

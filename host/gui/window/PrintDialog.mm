@@ -6,6 +6,7 @@
 #import "Labels.h"
 #import "MnemonicControls.h"
 #import "NotePanel.h"
+#include "NumberText.hpp"
 #include "PasteboardTrouble.hpp"
 #include "Phrases.hpp"
 #import "Pool.h"
@@ -15,6 +16,7 @@
 #include "WindowTexts.hpp"
 
 #include <ostream>
+#include <utility>
 
 using namespace imageposition;
 
@@ -39,6 +41,8 @@ struct imageposition::PrintDialogState {
   std::unique_ptr<RunLoopWake> wake;
   std::unique_ptr<DialogLayout> layout;
   std::string documents;
+  std::string message;    // that is shown
+  std::string numberNote; // the last message about a number; may be empty
 };
 
 @interface PrintDialog ()
@@ -61,7 +65,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -153,6 +157,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)show:(const std::string &)text {
+  state->message = text;
   [message setStringValue:toString(text)];
   [self layOut];
 }
@@ -261,6 +266,23 @@ struct imageposition::PrintDialogState {
 - (void)userActedOn:(NSView *)view {
   if (![sending isUnderWay])
     [panes userActedOn:view];
+}
+
+- (BOOL)takesNumbers:(NSTextField *)field {
+  return [panes isPanels:field];
+}
+
+/// A message about a number disappears with the next edit, unless another has replaced it.
+- (void)number:(NSTextField *)field wasEdited:(const NumberEdit &)edit {
+  const bool isEnd = edit.kind == NumberEdit::Kind::Ended;
+  if (!isEnd && isWholeNumber(edit.shown))
+    [panes takeNumber:field keepingIt:edit.kind == NumberEdit::Kind::Typed];
+  const std::string note = messages::numberChange(edit.typed, edit.shown, isEnd);
+  const std::string last = std::exchange(state->numberNote, note);
+  if (!note.empty() && isEnd)
+    [self say:note];
+  else if (!note.empty() || (!last.empty() && state->message == last))
+    [self show:note];
 }
 
 - (BOOL)windowShouldClose:(id)sender {

@@ -1,6 +1,7 @@
 #include "WindowTexts.hpp"
 
 #include "Copies.hpp"
+#include "NumberText.hpp"
 #include "Phrases.hpp"
 
 namespace imageposition::messages {
@@ -30,8 +31,17 @@ const Text kPrint = text("Print");
 const Text kNoPresetChosen = text("None");
 const Text kSavePreset = text("Save as preset…");
 const Text kRenamePreset = text("Rename this preset…");
-const Text kDeletePreset = text("Delete this preset");
+const Text kDeletePreset = text("Delete this preset…");
+const Text kPresetNameWindow = text("Name of the preset");
 const Text kPresetNameQuestion = text("Name of the preset:");
+std::string presetSuggestion(std::size_t number) {
+  // Translators: a name without blanks, for a preset that is to be saved.
+  return text("Preset-{1}").with(std::to_string(number));
+}
+const Text kDelete = text("Delete");
+std::string deleteQuestion(const std::string &preset) {
+  return text("Delete the preset \"{1}\"?").with(preset);
+}
 std::string presetSaved(const std::string &lpName) {
   return text("The preset is saved. lp -d {1} prints with it too.").with(lpName);
 }
@@ -39,6 +49,16 @@ const Text kJobWaits = text("The job is waiting");
 const Text kStateUnknown = text("Looking for printers…");
 std::string printerState(const std::string &state, const std::string &location) {
   return location.empty() ? state : state + " · " + location;
+}
+std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd) {
+  const bool isNumber = isWholeNumber(typed);
+  const bool isBeginning = typed.empty() || (!isEnd && (typed == "-" || typed == "+"));
+  if (typed == shown || isBeginning || (isNumber && isSameNumber(typed, shown)))
+    return {};
+  return (isEnd && isNumber
+              ? text("\"{1}\" was changed to {2}, the nearest number that is allowed.")
+              : text("\"{1}\" was changed to {2}."))
+      .with(typed, shown);
 }
 const Text kNothingToPrint = text(
     "There is no document to print. Start print-dialog with a file, or choose \"Save as ticket\".");

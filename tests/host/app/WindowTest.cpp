@@ -271,7 +271,7 @@ TEST_F(QueueWindow, ASavedPresetIsOneThatCupsKnows) {
   press({"space", "Down", "Return"});
   ASSERT_TRUE(becomesTrue([&] {
     return runProcess({"xdotool", "getwindowfocus", "getwindowname"}).output ==
-           "Name of the preset:\n";
+           "Name of the preset\n";
   }));
   type("thrifty");
   press({"Return"});

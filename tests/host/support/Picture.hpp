@@ -19,8 +19,12 @@ struct Outline {
 /// A screenshot of the picture in its light colours.
 class Picture {
 public:
+  /// Empty.
+  Picture() = default;
   /// Empty if there is no picture on the screen.
   explicit Picture(const Screen &screen);
+
+  bool operator!=(const Picture &other) const { return pixels_ != other.pixels_; }
 
   /// The outlines of the content on the pages "Front" and "Back".
   Outline front() const;

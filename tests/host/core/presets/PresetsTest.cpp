@@ -164,6 +164,23 @@ TEST_F(PresetsTest, RenamingKeepsTheSettings) {
   EXPECT_THAT(presets.names(), ElementsAre("Fine", "quick-one"));
 }
 
+TEST_F(PresetsTest, RenamingReplacesAnotherPresetOnlyIfItMay) {
+  presets.save("draft", settings({{"Fold", "Z"}}));
+  presets.save("fine", settings({{"Fold", "None"}}));
+  presets.rename("draft", "FINE", true);
+  EXPECT_THAT(presets.names(), ElementsAre("FINE"));
+  EXPECT_THAT(presets.load("fine", printer).settings.get("Fold"), StrEq("Z"));
+}
+
+TEST_F(PresetsTest, WhatAppliesToTheDocumentStaysWithTheJob) {
+  const PrintSettingsStore merged =
+      Presets::withDocumentOf(settings({{"page-ranges", "2-3"}, {"Fold", "Z"}}),
+                              settings({{"page-ranges", "9"}, {"copies", "2"}}));
+  EXPECT_EQ(merged.optionCount(), 2);
+  EXPECT_THAT(merged.get("page-ranges"), StrEq("2-3"));
+  EXPECT_THAT(merged.get("copies"), StrEq("2"));
+}
+
 TEST_F(PresetsTest, RemovingKeepsEverythingElse) {
   folder.write("home/.cups/lpoptions", "# mine\nDefault office Duplex=None\nDest gone/x A=1\n");
   presets.save("draft", settings({{"Fold", "Z"}}));

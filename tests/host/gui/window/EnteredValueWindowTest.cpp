@@ -36,7 +36,7 @@ protected:
   }
   static void savePreset(PrintWindow &window, const char *name) {
     window.choose("Preset:", "Save as preset");
-    ASSERT_TRUE(asks(window, "Name of the preset:"));
+    ASSERT_TRUE(asks(window, "Name of the preset"));
     window.write(name);
     window.press("Return");
     ASSERT_TRUE(shows(window, "Preset:", name));

@@ -121,7 +121,7 @@ TEST_F(PanelLayout, TheHelpHasRoomForItsText) {
 }
 
 TEST_F(PanelLayout, TheRequestForANameHasRoomForItsText) {
-  askForName(parent_, messages::kPresetNameQuestion, "draft");
+  askForName(parent_, {messages::kPresetNameWindow, messages::kPresetNameQuestion, "draft"});
   EXPECT_EQ(visited(), 1);
 }
 
