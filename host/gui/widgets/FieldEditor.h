@@ -37,8 +37,6 @@ struct FieldEditorState;
   imageposition::FieldEditorState *state; ///< Owned.
 }
 - (id)initForWindow:(NSWindow *)window;
-/// Whether an edit is under way. Meanwhile the field may leave the editor and come back.
-- (BOOL)isBusy;
 /// Restores the content before the last edit.
 - (void)undoEdit:(id)sender;
 /// Called after the field has lost the focus.

@@ -19,7 +19,7 @@ struct imageposition::FieldEditorState {
   bool isTyping = false;              // the last edit was a key's
   bool isUndoing = false;
   bool isStepping = false;
-  bool isBusy = false;
+  bool isBusy = false; // an edit is under way: the field may leave the editor and come back
 };
 
 namespace {
@@ -63,10 +63,6 @@ private:
   delete state;
   state = nullptr;
   [super dealloc];
-}
-
-- (BOOL)isBusy {
-  return state->isBusy;
 }
 
 - (void)forget {

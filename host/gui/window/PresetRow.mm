@@ -241,10 +241,12 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 - (void)rename {
   if (state->chosen.empty())
     return;
+  const Presets presets([self printer]);
+  const std::vector<std::string> names = presets.names(); // another may come up meanwhile
   const auto name = [self askForNameInsteadOf:state->chosen suggestion:state->chosen];
   if (!name)
     return;
-  Presets([self printer]).rename(state->chosen, *name, true);
+  presets.rename(state->chosen, *name, contains(names, *name));
   state->chosen = *name;
   [dialog show:""];
 }

@@ -191,6 +191,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)refresh {
+  [printers refresh];
   [copies refresh];
   [pages refresh];
   [self refreshOptions];
