@@ -9,7 +9,7 @@
 @interface ChoiceListView : NSView {
   NSArray *titles; ///< Owned; so below.
   NSIndexSet *disabled;
-  NSFont *font;
+  NSArray *fonts; ///< Of the titles.
   NSInteger chosen;
   NSInteger highlighted;
 }

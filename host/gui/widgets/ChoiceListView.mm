@@ -30,7 +30,10 @@ constexpr NSUInteger kMostCharacters = 200; // AppKit lays out all of a title, w
   for (NSInteger i = 0; i < [popUp numberOfItems]; i++)
     [all addObject:imageposition::cutTo(kMostCharacters, [popUp itemTitleAtIndex:i])];
   titles = [all copy];
-  font = [[popUp font] retain];
+  NSMutableArray *const each = [NSMutableArray array];
+  for (NSUInteger i = 0; i < [titles count]; i++)
+    [each addObject:imageposition::fontThatShows([titles objectAtIndex:i], [popUp font])];
+  fonts = [each copy];
   chosen = [popUp indexOfSelectedItem];
   highlighted = -1;
   NSMutableIndexSet *const off = [NSMutableIndexSet indexSet];
@@ -45,7 +48,7 @@ constexpr NSUInteger kMostCharacters = 200; // AppKit lays out all of a title, w
 - (void)dealloc {
   [titles release];
   [disabled release];
-  [font release];
+  [fonts release];
   [super dealloc];
 }
 
@@ -60,7 +63,7 @@ constexpr NSUInteger kMostCharacters = 200; // AppKit lays out all of a title, w
 - (NSSize)wantedSize {
   CGFloat widest = 0;
   for (NSUInteger i = 0; i < [titles count]; i++)
-    widest = std::max(widest, [font widthOfString:[titles objectAtIndex:i]]);
+    widest = std::max(widest, [[fonts objectAtIndex:i] widthOfString:[titles objectAtIndex:i]]);
   return NSMakeSize(std::ceil(kTextLeft + widest + kTextRight),
                     kListRowHeight * static_cast<CGFloat>([titles count]));
 }
@@ -125,9 +128,9 @@ constexpr NSUInteger kMostCharacters = 200; // AppKit lays out all of a title, w
     imageposition::drawTick(NSMakeRect(NSMinX(frame) + (kTextLeft - kTick) / 2,
                                        NSMidY(frame) - kTick / 2, kTick, kTick),
                             true, color);
-  NSDictionary *const look =
-      [NSDictionary dictionaryWithObjectsAndKeys:font, NSFontAttributeName, color,
-                                                 NSForegroundColorAttributeName, nil];
+  NSDictionary *const look = [NSDictionary
+      dictionaryWithObjectsAndKeys:[fonts objectAtIndex:static_cast<NSUInteger>(row)],
+                                   NSFontAttributeName, color, NSForegroundColorAttributeName, nil];
   NSString *const title = [self itemTitleAtIndex:row];
   const CGFloat height = [title sizeWithAttributes:look].height;
   [title drawAtPoint:NSMakePoint(NSMinX(frame) + kTextLeft, std::round(NSMidY(frame) - height / 2))

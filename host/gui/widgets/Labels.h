@@ -18,6 +18,9 @@ void makeIntoLabel(NSTextField *field, const std::string &text, bool bold);
 /// AppKit lays out all of a string, however little of it is visible.
 NSString *cutTo(NSUInteger most, NSString *text);
 
+/// `font`, or a font of its size that has the characters of the string, for names that users gave.
+NSFont *fontThatShows(NSString *text, NSFont *font);
+
 /// A label wrapped to that width, as high as its text; a very long string is cut. The caller does
 /// not own it.
 NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold = false);

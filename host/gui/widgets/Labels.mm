@@ -1,6 +1,7 @@
 #import "Labels.h"
 
 #import "TextBridge.h"
+#include "TextFont.hpp"
 
 #include <cmath>
 
@@ -56,6 +57,17 @@ NSString *cutTo(NSUInteger most, NSString *text) {
   return [text length] <= most ? text : withoutMiddle(text, most);
 }
 
+NSFont *fontThatShows(NSString *text, NSFont *font) {
+  const std::string current = toText([font fontName]);
+  const std::string name = fontFor(toText(text), current);
+  if (name == current)
+    return font;
+  NSFont *const other = [NSFont fontWithName:toString(name) size:[font pointSize]];
+  if (other == nil)
+    return font;
+  return other;
+}
+
 NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold) {
   NSTextField *const label = makeLabel("", bold);
   [label setStringValue:cutTo(kLongestParagraph, toString(text))];
@@ -67,6 +79,7 @@ NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold) {
 void showCut(NSTextField *label, const std::string &text, CGFloat width) {
   NSString *const whole = cutTo(kLongestLine, toString(text));
   NSString *shown = whole;
+  [label setFont:fontThatShows(whole, [NSFont systemFontOfSize:[[label font] pointSize]])];
   const CGFloat room = width - 2 * kCellMargin;
   for (NSUInteger kept = [whole length]; kept > 0 && [[label font] widthOfString:shown] > room;)
     shown = withoutMiddle(whole, --kept);

@@ -45,6 +45,7 @@
   // A scroller may appear and must not cover the text.
   const CGFloat width =
       std::max<CGFloat>(NSWidth([self frame]) - [NSScroller scrollerWidth] - 4, 50);
+  [label setFont:imageposition::fontThatShows(text, [NSFont systemFontOfSize:0])];
   [label setStringValue:text];
   [label
       setFrame:NSMakeRect(0, 0, width, imageposition::paragraphHeight(text, [label font], width))];
