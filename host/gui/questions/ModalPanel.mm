@@ -5,6 +5,7 @@
 #include "PasteboardTrouble.hpp"
 #include "QuestionTexts.hpp"
 #import "TextBridge.h"
+#import "WindowFocus.h"
 #import "WindowPlacement.h"
 
 @interface ModalPanelController : NSObject <KeyWindowDelegate> {
@@ -15,6 +16,10 @@
 @end
 
 @implementation ModalPanelController
+
+- (void)takeFocus {
+  imageposition::askForFocus(window);
+}
 
 - (void)confirm {
   if (mayConfirm != nullptr && *mayConfirm && !(*mayConfirm)())
@@ -47,6 +52,12 @@
 @end
 
 namespace imageposition {
+
+namespace {
+
+constexpr NSTimeInterval kFocusDelays[] = {0.2, 1, 3}; // seconds
+
+} // namespace
 
 ModalPanel::ModalPanel(const std::string &title, CGFloat width, CGFloat height,
                        const std::string &confirmTitle, const std::string &cancelTitle)
@@ -102,7 +113,13 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
   [parent addChildWindow:window_ ordered:NSWindowAbove];
   [window_ makeKeyAndOrderFront:nil];
   [window_ makeFirstResponder:first];
+  for (const NSTimeInterval delay : kFocusDelays)
+    [controller_ performSelector:@selector(takeFocus)
+                      withObject:nil
+                      afterDelay:delay
+                         inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
   const NSInteger answer = [NSApp runModalForWindow:window_];
+  [NSObject cancelPreviousPerformRequestsWithTarget:controller_];
   static_cast<ModalPanelController *>(controller_)->mayConfirm = nullptr;
   [window_ makeFirstResponder:nil];
   [parent removeChildWindow:window_];

@@ -4,18 +4,14 @@
 
 #import <AppKit/AppKit.h>
 
-#include "ListKeys.hpp"
-
 /// A pop-up button with the habits of other Linux dialogs. (GNUstep's own closes its list when the
 /// mouse button is released, and leaves most keys to the window.)
 ///
-/// A click, the space bar, F4 or Alt with an arrow key opens the list. It stays open until the user
-/// chooses an item, clicks elsewhere, presses Escape or leaves the window. Pressing, moving and
-/// releasing the mouse button chooses, too. Arrow keys, Page Up, Page Down, Home, End and the first
-/// letters of a title move through an open list; in a closed one they choose.
-@interface ListPopUp : NSPopUpButton {
-  imageposition::TypeAhead *typeAhead; ///< Owned.
-}
+/// A click, the space bar, a letter, F4 or Alt with an arrow key opens the list. It stays open
+/// until the user chooses an item, clicks elsewhere, presses Escape or leaves the window. Pressing,
+/// moving and releasing the mouse button chooses, too. Arrow keys, Page Up, Page Down, Home and End
+/// move through an open list, as the first letters of a title do; in a closed one they choose.
+@interface ListPopUp : NSPopUpButton
 
 /// Marks the last item as one that does something when it is chosen. The keys pass over it while
 /// the list is closed.

@@ -14,7 +14,8 @@ constexpr int kPage = 10; // items, for Page Up and Page Down in a closed list
 } // namespace
 
 @interface ListPopUp ()
-/// Opens the list and returns when it is closed. `event` is the mouse press that opens it, or null.
+/// Opens the list and returns when it is closed. `event` is the mouse press that opens it, or the
+/// first letter of an item; null for other keys.
 - (void)openList:(NSEvent *)event;
 - (void)choose:(NSInteger)index;
 /// What the keys can choose while the list is closed.
@@ -24,16 +25,9 @@ constexpr int kPage = 10; // items, for Page Up and Page Down in a closed list
 @implementation ListPopUp
 
 - (id)initWithFrame:(NSRect)frame pullsDown:(BOOL)pullsDown {
-  if ((self = [super initWithFrame:frame pullsDown:pullsDown]) != nil) {
-    typeAhead = new imageposition::TypeAhead;
+  if ((self = [super initWithFrame:frame pullsDown:pullsDown]) != nil)
     [self setAutoenablesItems:NO];
-  }
   return self;
-}
-
-- (void)dealloc {
-  delete typeAhead;
-  [super dealloc];
 }
 
 - (void)markLastItemAsCommand {
@@ -84,16 +78,13 @@ constexpr int kPage = 10; // items, for Page Up and Page Down in a closed list
 - (void)keyDown:(NSEvent *)event {
   using Kind = ListKey::Kind;
   const ListKey key = imageposition::listKeyOf(event);
-  const auto now = imageposition::TypeAhead::Time::clock::now();
-  const bool isTyped =
-      key.kind == Kind::Letters || (key.kind == Kind::Blank && typeAhead->isTyping(now));
   const int current = static_cast<int>([self indexOfSelectedItem]);
-  if (key.kind == Kind::Toggle || (key.kind == Kind::Blank && !isTyped)) {
+  if (key.kind == Kind::Toggle || key.kind == Kind::Blank) {
     [self openList:nil];
-  } else if ((key.kind == Kind::Move || isTyped) && [self isEnabled]) {
-    const std::vector<ListItem> items = [self itemsForKeys];
-    const int next = isTyped ? typeAhead->type(items, current, key.letters, now)
-                             : imageposition::movedInList(items, current, key.move, kPage);
+  } else if (key.kind == Kind::Letters) {
+    [self openList:event]; // Return then chooses, instead of printing
+  } else if (key.kind == Kind::Move && [self isEnabled]) {
+    const int next = imageposition::movedInList([self itemsForKeys], current, key.move, kPage);
     if (next != current)
       [self choose:next];
   } else {

@@ -197,10 +197,12 @@ constexpr NSTimeInterval kScrollInterval = 0.05;
                          NSMenuDidChangeItemNotification})
     [center addObserver:self selector:@selector(itemsChanged:) name:name object:[popUp menu]];
   isOpen = YES;
-  isPressed = event != nil;
+  isPressed = event != nil && [event type] == NSLeftMouseDown;
   pressed = [NSEvent mouseLocation];
   [self show:[popUp indexOfSelectedItem]];
   [window orderFront:nil];
+  if (event != nil && [event type] == NSKeyDown)
+    [self key:event];
   [self follow];
   [center removeObserver:self];
   [NSObject cancelPreviousPerformRequestsWithTarget:self];
