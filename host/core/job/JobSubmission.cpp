@@ -398,7 +398,6 @@ struct JobSubmission::Work {
   std::atomic<std::uint64_t> sent{0};
   std::atomic<std::int64_t> total{-1}; // -1: unknown
   std::atomic<bool> isCancelled{false};
-  std::atomic<bool> isDone{false};
   std::shared_future<SubmittedJob> outcome;
   std::thread thread;
   Changed changed;
@@ -440,7 +439,6 @@ struct JobSubmission::Work {
 
   /// Called once `outcome` is ready.
   void finish() {
-    isDone = true;
     if (changed)
       changed();
   }
@@ -493,7 +491,9 @@ void JobSubmission::answer(std::optional<Credentials> credentials) {
   work_->answered.notify_one();
 }
 
-bool JobSubmission::isDone() const { return work_->isDone; }
+bool JobSubmission::isDone() const {
+  return work_->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
 
 SubmittedJob JobSubmission::result() { return work_->outcome.get(); }
 

@@ -77,7 +77,7 @@ void hatch(const PixelRectangle &rectangle, Rgb colour) {
   [NSGraphicsContext saveGraphicsState];
   NSRectClip(toRect(rectangle));
   setColour(colour, 0.3);
-  NSRectFillUsingOperation(toRect(rectangle), NSCompositeSourceOver);
+  [NSBezierPath fillRect:toRect(rectangle)];
   NSBezierPath *const lines = [NSBezierPath bezierPath];
   // All parts share one grid, which continues the pattern across their edges.
   const double first = std::floor((rectangle.x + rectangle.y) / kDistance) * kDistance;

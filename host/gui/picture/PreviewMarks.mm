@@ -123,7 +123,7 @@ void labelMark(const PreviewLayout &layout, const Mark &mark, bool toTheLeft, bo
   top = std::min(std::max(top, grid.y + 1), grid.bottom() - line - 1);
   const PixelRectangle place = {std::round(left), std::round(top), width, line};
   setColour(previewColours().paper, 0.85);
-  NSRectFillUsingOperation(toRect(place), NSCompositeSourceOver);
+  [NSBezierPath fillRect:toRect(place)];
   drawLine(mark.name, place, previewBoldFont(), mark.colour, Alignment::Centre);
 }
 

@@ -27,7 +27,7 @@ void fill(const PixelRectangle &rectangle, Rgb colour, double opacity) {
   if (rectangle.width <= 0 || rectangle.height <= 0)
     return;
   setColour(colour, opacity);
-  NSRectFillUsingOperation(toRect(rectangle), NSCompositeSourceOver);
+  [NSBezierPath fillRect:toRect(rectangle)];
 }
 
 /// A part of a page's text or picture, in fractions of the content.
