@@ -14,7 +14,8 @@ namespace imageposition::test {
 
 namespace {
 
-constexpr int kClick = 80; // milliseconds, of an ordinary click
+constexpr int kClick = 80;   // milliseconds, of an ordinary click
+constexpr int kGlance = 100; // milliseconds
 
 std::string run(std::vector<std::string> words) {
   const ProcessResult result = runProcess(words);
@@ -76,16 +77,26 @@ void Person::see(const std::string &what, const Look &look) {
     throw StepFailure("the user does not see " + what + "\n" + described());
 }
 
+/// A user looks once more before the hand gets there: what was just resized or scrolled may move.
 Control Person::find(const std::string &what,
                      const std::function<const Control *(const Screen &)> &search) {
-  Control result;
-  see(what, [&](const Screen &shown) {
-    const Control *const found = search(shown);
-    if (found != nullptr)
-      result = *found;
-    return found != nullptr && found->isEnabled;
-  });
-  return result;
+  const auto look = [&] {
+    Control result;
+    see(what, [&](const Screen &shown) {
+      const Control *const found = search(shown);
+      if (found != nullptr)
+        result = *found;
+      return found != nullptr && found->isEnabled;
+    });
+    return result;
+  };
+  Control now = look(), before;
+  do {
+    before = now;
+    holdFor(kGlance);
+    now = look();
+  } while (now.x != before.x || now.y != before.y);
+  return now;
 }
 
 Control Person::button(const std::string &title) {
