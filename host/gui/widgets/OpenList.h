@@ -27,7 +27,7 @@
 
 - (id)initWithPopUp:(NSPopUpButton *)thePopUp;
 /// Returns when the list is closed: the title of the chosen item, or null. `event` is the mouse
-/// press that opens the list; null for a key.
+/// press that opens the list, or the first letter of an item; null for other keys.
 - (NSString *)titleChosenFrom:(NSEvent *)event;
 /// -1 before an item is chosen.
 - (NSInteger)chosenIndex;
