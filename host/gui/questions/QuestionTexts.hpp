@@ -30,6 +30,12 @@ extern const Text kSave;
 extern const Text kReplace;
 std::string alreadyExists(const std::string &name);
 
+// Documents.
+extern const Text kOpenWindow;
+extern const Text kOpenButton;
+extern const Text kFileRow;
+std::string documentNotOpened(const std::string &path, const std::string &reason);
+
 // Passwords.
 extern const Text kPasswordWindow;
 extern const Text kWrongPasswordWindow;

@@ -4,6 +4,7 @@
 
 #import "CopiesRow.h"
 #import "DialogServices.h"
+#import "DocumentRow.h"
 #import "HelpWindow.h"
 #import "KeyWindow.h"
 #import "MessageView.h"
@@ -26,8 +27,8 @@ struct PrintDialogState;
   KeyWindow *window;
   MessageView *message;
   PreviewView *picture;
-  NSTextField *documentLabel; ///< In the window only if there is a document.
   PrinterRow *printers;
+  DocumentRow *documents;
   PresetRow *presets;
   CopiesRow *copies;
   PagesRow *pages;

@@ -1,9 +1,7 @@
 #import "PrintDialog.h"
 
-#include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "HelpTexts.hpp"
-#import "Labels.h"
 #import "MnemonicControls.h"
 #import "NotePanel.h"
 #include "NumberText.hpp"
@@ -40,7 +38,6 @@ struct imageposition::PrintDialogState {
   PictureRedrawing redrawing;
   std::unique_ptr<RunLoopWake> wake;
   std::unique_ptr<DialogLayout> layout;
-  std::string documents;
   std::string message;    // that is shown
   std::string numberNote; // the last message about a number; may be empty
 };
@@ -65,7 +62,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, {}};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -82,8 +79,8 @@ struct imageposition::PrintDialogState {
   [printers stopAsking];
   [window setDelegate:nil];
   [window close];
-  for (id part : {(id)printers, (id)presets, (id)copies, (id)pages, (id)options, (id)panes,
-                  (id)sending, (id)message, (id)documentLabel, (id)picture, (id)help, (id)window})
+  for (id part : {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options,
+                  (id)panes, (id)sending, (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -93,6 +90,7 @@ struct imageposition::PrintDialogState {
   message = [[MessageView alloc] initWithFrame:NSZeroRect];
   picture = [[PreviewView alloc] initWithFrame:NSZeroRect];
   printers = [[PrinterRow alloc] initWithDialog:self wake:*state->wake];
+  documents = [[DocumentRow alloc] initWithDialog:self];
   presets = [[PresetRow alloc] initWithDialog:self];
   copies = [[CopiesRow alloc] initWithDialog:self];
   pages = [[PagesRow alloc] initWithDialog:self];
@@ -108,12 +106,8 @@ struct imageposition::PrintDialogState {
                                cancelButton:cancel
                                        wake:*state->wake
                                      errors:state->errors];
-  state->documents = documentsInWords(state->session->job().documents());
-  documentLabel = [makeLabel("") retain];
   std::vector<DialogRow> rows = [printers rows];
-  if (!state->documents.empty())
-    rows.push_back({messages::kDocumentRow, {{documentLabel, true}}});
-  rows.insert(rows.end(), {[presets row], [copies row], [pages row]});
+  rows.insert(rows.end(), {[documents row], [presets row], [copies row], [pages row]});
   for (DialogRow &row : [options rows])
     rows.push_back(std::move(row));
   rows.push_back([panes row]);
@@ -129,13 +123,13 @@ struct imageposition::PrintDialogState {
   [window reach:cancel by:messages::kCancel];
   [window reach:print by:messages::kPrint];
   [panes linkBefore:resolve];
-  showCut(documentLabel, state->documents, NSWidth([documentLabel frame]));
+  [documents refresh];
 }
 
 /// Adapts to the window's size, or to a message or hint that has come or gone.
 - (void)layOut {
   state->layout->layOut();
-  showCut(documentLabel, state->documents, NSWidth([documentLabel frame]));
+  [documents refresh];
   [printers showState];
 }
 
@@ -250,6 +244,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)wake {
+  [documents askForDocument];
   [options askForChosenValue];
   [sending askForPassword];
 }

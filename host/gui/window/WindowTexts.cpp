@@ -16,6 +16,9 @@ std::string presetsNotListed(std::size_t count) {
 const Text kPrintWindow = text("Print");
 const Text kPrinterRow = text("&Printer:");
 const Text kDocumentRow = text("Document:");
+const Text kNoDocument = text("No document");
+// Translators: a button that opens a window to choose a document.
+const Text kOpen = text("Op&en…");
 const Text kPresetsRow = text("P&reset:");
 const Text kCopiesRow = text("&Copies:");
 const Text kPagesRow = text("P&ages:");
@@ -61,7 +64,7 @@ std::string numberChange(const std::string &typed, const std::string &shown, boo
       .with(typed, shown);
 }
 const Text kNothingToPrint = text(
-    "There is no document to print. Start print-dialog with a file, or choose \"Save as ticket\".");
+    "There is no document to print. Choose one with Open…, or drop a file on this window.");
 const Text kPrintAnywayWindow = text("Print anyway?");
 const Text kPrintAnyway = text("Print anyway");
 const Text kGoBack = text("Go back");

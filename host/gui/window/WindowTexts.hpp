@@ -16,6 +16,8 @@ std::string presetsNotListed(std::size_t count);
 extern const Text kPrintWindow;
 extern const Text kPrinterRow;
 extern const Text kDocumentRow;
+extern const Text kNoDocument;
+extern const Text kOpen;
 extern const Text kPresetsRow;
 extern const Text kCopiesRow;
 extern const Text kPagesRow;

@@ -1,0 +1,21 @@
+/// Asks for a document.
+#ifndef IMAGEPOSITION_GUI_QUESTIONS_OPENPANEL_H
+#define IMAGEPOSITION_GUI_QUESTIONS_OPENPANEL_H
+
+#import <AppKit/AppKit.h>
+
+#include <optional>
+#include <string>
+
+namespace imageposition {
+
+/// Waits for the user, over `parent`; returns the absolute path of a file that can be read, or none
+/// when the user cancelled. Begins in the folder; in place of one that cannot be read, in the
+/// nearest one above it. Main thread.
+///
+/// In place of NSOpenPanel, for the reasons in ModalPanel.h.
+std::optional<std::string> askForDocument(NSWindow *parent, const std::string &folder);
+
+} // namespace imageposition
+
+#endif
