@@ -16,6 +16,9 @@ namespace imageposition {
 /// In place of NSOpenPanel, for the reasons in ModalPanel.h.
 std::optional<std::string> askForDocument(NSWindow *parent, const std::string &folder);
 
+/// A sentence that says why the file cannot be printed; empty if it can be.
+std::string documentTrouble(const std::string &path);
+
 } // namespace imageposition
 
 #endif

@@ -1,5 +1,6 @@
 #import "OpenPanel.h"
 
+#include "DocumentStream.hpp"
 #include "FileContent.hpp"
 #include "Folder.hpp"
 #import "ItemList.h"
@@ -13,10 +14,9 @@
 #import "WindowPlacement.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <unistd.h>
+#include <system_error>
 
 using namespace imageposition;
 
@@ -35,15 +35,6 @@ std::string inFolder(const std::string &folder, const std::string &name) {
 
 std::string parentOf(const std::string &folder) {
   return std::filesystem::path(folder).parent_path().string();
-}
-
-/// Why the file cannot be printed, or 0: an `errno` value.
-int troubleWith(const std::string &path) {
-  std::error_code error;
-  const auto status = std::filesystem::status(path, error);
-  if (!std::filesystem::exists(status))
-    return error ? error.value() : ENOENT;
-  return access(path.c_str(), R_OK) == 0 ? 0 : errno;
 }
 
 struct Place {
@@ -87,7 +78,6 @@ NSArray *titlesOf(const std::vector<FolderEntry> &entries) {
 - (std::string)path;
 /// Enters a folder and returns false; returns true for a document.
 - (BOOL)take:(const std::string &)path;
-- (void)complain:(const std::string &)path reason:(const std::string &)reason;
 @end
 
 @implementation DocumentChooser
@@ -182,25 +172,30 @@ NSArray *titlesOf(const std::vector<FolderEntry> &entries) {
     return NO;
   }
   if (!std::filesystem::is_directory(path, ignored)) {
-    const int trouble = troubleWith(path);
-    if (trouble != 0)
-      [self complain:path reason:FileTrouble(trouble).what()];
     *chosen = path;
-    return trouble == 0;
+    const std::string trouble = documentTrouble(path);
+    if (!trouble.empty())
+      showNote(window, messages::kOpenWindow, trouble);
+    return trouble.empty();
   }
   if (![self enter:path highlight:""])
-    [self complain:path reason:FileTrouble(EACCES).what()];
+    showNote(window, messages::kOpenWindow, documentTrouble(path));
   [window makeFirstResponder:list];
   return NO;
-}
-
-- (void)complain:(const std::string &)path reason:(const std::string &)reason {
-  showNote(window, messages::kOpenWindow, messages::documentNotOpened(path, reason));
 }
 
 @end
 
 namespace imageposition {
+
+std::string documentTrouble(const std::string &path) {
+  try {
+    documentSize(path);
+    return {};
+  } catch (const std::system_error &error) {
+    return messages::documentNotOpened(path, FileTrouble(error.code().value()).what());
+  }
+}
 
 std::optional<std::string> askForDocument(NSWindow *parent, const std::string &folder) {
   NSTextField *const title = makeTitle(messages::kFileRow);

@@ -1,5 +1,6 @@
 #import "DialogLayout.h"
 
+#import "DropView.h"
 #import "Labels.h"
 #import "MnemonicControls.h"
 #import "PreviewView.h"
@@ -99,6 +100,8 @@ void DialogLayout::makeWindow(NSSize size, NSSize room) {
                                              defer:YES];
   [window_ setReleasedWhenClosed:NO];
   [window_ setTitle:toString(messages::kPrintWindow)];
+  [window_
+      setContentView:[[[DropView alloc] initWithFrame:[[window_ contentView] frame]] autorelease]];
   const CGFloat buttons = NSWidth([content_.help frame]) + NSWidth([content_.cancel frame]) +
                           NSWidth([content_.print frame]) + 2 * kMargin;
   const NSSize smallest = {std::max(rowsWidth(), buttons) + 2 * kMargin,

@@ -22,7 +22,8 @@
 - (void)refresh;
 /// Asks for a document if the button was pressed: in an event, where a window can be shown.
 - (void)askForDocument;
-/// Prints these documents, at least one, in place of the job's. Paths of files.
+/// Prints these files, at least one, in place of the job's documents. A message says why one of
+/// them cannot be printed; nothing has changed then.
 - (void)take:(const std::vector<std::string> &)paths;
 
 @end

@@ -68,6 +68,11 @@ std::string folderToOpen(const std::vector<std::string> &documents) {
 }
 
 - (void)take:(const std::vector<std::string> &)paths {
+  for (const std::string &path : paths)
+    if (const std::string trouble = documentTrouble(path); !trouble.empty()) {
+      [dialog say:trouble];
+      return;
+    }
   [dialog session].job().setDocuments(paths);
   [dialog say:""];
   [dialog refresh];

@@ -5,6 +5,7 @@
 #import "CopiesRow.h"
 #import "DialogServices.h"
 #import "DocumentRow.h"
+#import "DropView.h"
 #import "HelpWindow.h"
 #import "KeyWindow.h"
 #import "MessageView.h"
@@ -22,7 +23,8 @@ namespace imageposition {
 struct PrintDialogState;
 }
 
-@interface PrintDialog : NSObject <DialogServices, KeyWindowDelegate, NumberFieldOwner> {
+@interface PrintDialog
+    : NSObject <DialogServices, KeyWindowDelegate, NumberFieldOwner, FileReceiver> {
   imageposition::PrintDialogState *state; ///< Owned; so below.
   KeyWindow *window;
   MessageView *message;

@@ -281,6 +281,14 @@ struct imageposition::PrintDialogState {
     [self show:note];
 }
 
+- (BOOL)takesFiles {
+  return ![sending isUnderWay] && [NSApp modalWindow] == window;
+}
+
+- (void)takeFiles:(const std::vector<std::string> &)paths {
+  [documents take:paths];
+}
+
 - (BOOL)windowShouldClose:(id)sender {
   (void)sender;
   [self dismiss];
