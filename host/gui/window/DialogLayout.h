@@ -23,7 +23,8 @@ struct RowControl {
   std::string title = {};    ///< Its own, with a key marked that reaches it; may be empty.
 };
 
-/// A title and its controls, from left to right. The first control is reached by the title's key.
+/// A title and its controls, from left to right; hidden ones take no room. The first control is
+/// reached by the title's key.
 struct DialogRow {
   std::string title; ///< With its key marked; may be empty.
   std::vector<RowControl> controls;

@@ -231,13 +231,15 @@ void DialogLayout::placeRows(CGFloat middle) {
     place(titles_[i], frame);
     CGFloat left = kMargin + titleWidth_ + kGap;
     for (const RowControl &control : content_.rows[i].controls) {
+      const CGFloat width = widths_[at++];
+      if ([control.view isHidden])
+        continue;
       frame = [control.view frame];
       const CGFloat rest = rowsRight_ - left;
-      frame.size.width = control.takesRest ? rest : std::min(widths_[at], rest);
+      frame.size.width = control.takesRest ? rest : std::min(width, rest);
       frame.origin = NSMakePoint(left, std::round(middle - NSHeight(frame) / 2));
       place(control.view, frame);
       left = NSMaxX(frame) + control.gap;
-      at++;
     }
   }
 }

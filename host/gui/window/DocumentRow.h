@@ -8,20 +8,32 @@
 #include <string>
 #include <vector>
 
-/// Names the documents, and lets the user choose another.
+namespace imageposition {
+class RunLoopWake;
+struct DocumentRowState;
+}
+
+/// Names the documents, tells the pages and the paper of a single one, and lets the user choose
+/// another.
 @interface DocumentRow : NSObject {
   id<DialogServices> dialog; ///< Not owned.
   NSTextField *label;        ///< Owned; so below.
   NSButton *openButton;
-  BOOL isAskedFor; ///< The button was pressed.
+  NSButton *listButton; ///< Hidden unless there are several documents.
+  NSButton *pressed;    ///< Not owned; null if `showQuestion` has nothing to do.
+  imageposition::DocumentRowState *state;
 }
 
-- (id)initWithDialog:(id<DialogServices>)theDialog;
+/// Signals `wake`, which is borrowed, when `refresh` is due because a document has been examined.
+- (id)initWithDialog:(id<DialogServices>)theDialog wake:(const imageposition::RunLoopWake &)wake;
 - (imageposition::DialogRow)row;
-/// Adapts to the label's width and to the job.
+/// Adapts to the label's width, to the job, and to what is known of the document.
 - (void)refresh;
-/// Asks for a document if the button was pressed: in an event, where a window can be shown.
-- (void)askForDocument;
+/// The number of pages of the job's only document; 0 while it is not known.
+- (int)pages;
+/// Opens the window of the button that was pressed, if any: in an event, where a window can be
+/// shown.
+- (void)showQuestion;
 /// Prints these files, at least one, in place of the job's documents. A message says why one of
 /// them cannot be printed; nothing has changed then.
 - (void)take:(const std::vector<std::string> &)paths;

@@ -1,5 +1,6 @@
 #import "PagesRow.h"
 
+#include "DocumentTexts.hpp"
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
 #include "PageRanges.hpp"
@@ -19,6 +20,7 @@ constexpr CGFloat kPagesWidth = 130;
 @interface PagesRow ()
 - (void)pagesChosen:(id)sender;
 - (void)rangesChanged:(id)sender;
+- (void)check:(const std::optional<imageposition::PageRanges> &)chosen;
 - (BOOL)store;
 @end
 
@@ -69,6 +71,16 @@ constexpr CGFloat kPagesWidth = 130;
   return NO;
 }
 
+/// Mentions pages that the document lacks. Throws a `Failure` if nothing would be printed.
+- (void)check:(const std::optional<PageRanges> &)chosen {
+  const int count = [dialog documentPages];
+  const bool isBeyond = chosen && count > 0 && chosen->namesPagesBeyond(count);
+  if (isBeyond && !chosen->hasPagesUpTo(count))
+    throw Failure(ExitCode::Usage, messages::documentHasPages(count));
+  if (isBeyond)
+    [dialog show:messages::documentHasPages(count)];
+}
+
 /// Odd and even pages are those of the ranges, or without ranges of the whole document. NO, with a
 /// message, when the ranges are not understood.
 - (BOOL)store {
@@ -79,6 +91,7 @@ constexpr CGFloat kPagesWidth = 130;
   try {
     if (item == kRangeItem || (item != kAllItem && !typed.empty()))
       choice.ranges = PageRanges::parse(typed);
+    [self check:choice.ranges];
   } catch (const Failure &failure) {
     [dialog say:failure.what()];
     return NO;

@@ -90,7 +90,7 @@ struct imageposition::PrintDialogState {
   message = [[MessageView alloc] initWithFrame:NSZeroRect];
   picture = [[PreviewView alloc] initWithFrame:NSZeroRect];
   printers = [[PrinterRow alloc] initWithDialog:self wake:*state->wake];
-  documents = [[DocumentRow alloc] initWithDialog:self];
+  documents = [[DocumentRow alloc] initWithDialog:self wake:*state->wake];
   presets = [[PresetRow alloc] initWithDialog:self];
   copies = [[CopiesRow alloc] initWithDialog:self];
   pages = [[PagesRow alloc] initWithDialog:self];
@@ -160,6 +160,10 @@ struct imageposition::PrintDialogState {
   [self show:text];
   if (!text.empty())
     *state->errors << text << std::endl;
+}
+
+- (int)documentPages {
+  return [documents pages];
 }
 
 - (BOOL)savePanels {
@@ -244,7 +248,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)wake {
-  [documents askForDocument];
+  [documents showQuestion];
   [options askForChosenValue];
   [sending askForPassword];
 }
@@ -252,9 +256,11 @@ struct imageposition::PrintDialogState {
 /// Another thread has found something.
 - (void)look {
   PrinterRow *const printerRow = printers;
+  DocumentRow *const documentRow = documents;
   Sending *const sender = sending;
   [window protect:[=] {
     [sender look];
+    [documentRow refresh];
     [printerRow takeAnswer];
   }];
 }

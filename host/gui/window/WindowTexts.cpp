@@ -19,6 +19,9 @@ const Text kDocumentRow = text("Document:");
 const Text kNoDocument = text("No document");
 // Translators: a button that opens a window to choose a document.
 const Text kOpen = text("Op&en…");
+// Translators: a button that lists all documents of the job.
+const Text kListDocuments = text("&List…");
+const Text kDocumentsWindow = text("Documents");
 const Text kPresetsRow = text("P&reset:");
 const Text kCopiesRow = text("&Copies:");
 const Text kPagesRow = text("P&ages:");

@@ -18,6 +18,8 @@ extern const Text kPrinterRow;
 extern const Text kDocumentRow;
 extern const Text kNoDocument;
 extern const Text kOpen;
+extern const Text kListDocuments;
+extern const Text kDocumentsWindow;
 extern const Text kPresetsRow;
 extern const Text kCopiesRow;
 extern const Text kPagesRow;
