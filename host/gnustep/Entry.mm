@@ -106,6 +106,7 @@ ExitCode run(const Arguments &arguments) {
 
 ExitCode printDialogRun(const Arguments &arguments) {
   const ExitCode code = exitCodeOf([&] { return run(arguments); }, std::cerr);
+  endSubmissions();
   endIfCallsAreRunning(code);
   return code;
 }

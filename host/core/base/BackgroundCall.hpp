@@ -2,6 +2,8 @@
 #ifndef IMAGEPOSITION_CORE_BASE_BACKGROUNDCALL_HPP
 #define IMAGEPOSITION_CORE_BASE_BACKGROUNDCALL_HPP
 
+#include "SignalBlock.hpp"
+
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -49,6 +51,7 @@ public:
     done_ = done;
     const auto deadline = deadline_;
     const auto running = std::make_shared<RunningCall>();
+    const SignalBlock noSignals; // they are the main thread's
     if (changed)
       std::thread([done, deadline, changed, running] {
         if (done.wait_until(deadline) != std::future_status::ready)

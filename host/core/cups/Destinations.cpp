@@ -205,6 +205,8 @@ bool Destinations::takeAnswer() {
     return false;
   DestinationList list = call_->take();
   call_.reset();
+  if (list.destinations.empty() && list.reason != messages::kNoPrinters.str())
+    list.destinations = list_.destinations; // what is known of them
   const bool differs = !(list == list_);
   list_ = std::move(list);
   return differs;

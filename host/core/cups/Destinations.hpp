@@ -39,7 +39,7 @@ struct DestinationList {
   /// Sorted by name, a queue before its instances. Omits destinations whose names are not UTF-8 on
   /// one line.
   std::vector<Destination> destinations;
-  std::string reason; ///< Why the list is empty, with what to do; otherwise empty.
+  std::string reason; ///< Why the list is empty or old, with what to do; otherwise empty.
 
   /// Returns null if no destination has that full name.
   const Destination *find(const std::string &fullName) const;
@@ -63,7 +63,8 @@ public:
                std::chrono::milliseconds timeout = std::chrono::seconds(5));
   bool isRefreshing() const noexcept { return call_.has_value(); }
 
-  /// Updates the list if a response has arrived. Returns true if the list changed.
+  /// Updates the list if a response has arrived. Keeps the printers if CUPS cannot be asked.
+  /// Returns true if the list changed.
   bool takeAnswer();
 
 private:

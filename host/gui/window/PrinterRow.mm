@@ -106,10 +106,12 @@ constexpr NSTimeInterval kBetweenQuestions = 5;
   std::string text;
   if (!job.isSubmitted())
     text = job.printer().name();
-  else if (destination != nullptr)
-    text = messages::printerState(destination->stateText, destination->location);
+  else if (!list.reason.empty())
+    text = list.reason;
   else
-    text = list.reason.empty() ? messages::kStateUnknown : list.reason;
+    text = destination != nullptr
+               ? messages::printerState(destination->stateText, destination->location)
+               : messages::kStateUnknown.str();
   showCut(stateLabel, text, NSWidth([stateLabel frame]));
 }
 
