@@ -32,7 +32,8 @@ public:
   CGFloat bottom() const noexcept;
   void add(NSView *view);
 
-  /// Shows the window in the middle of `parent` and waits; true when the user confirmed. `order`
+  /// Shows the window in the middle of `parent`, or if that is null, of the screen, and waits; true
+  /// when the user confirmed. `order`
   /// has the views that take keys, in the order of Tab, without the buttons. `first` gets the
   /// focus; if null, the first view of `order`, or else the button that confirms. The window stays
   /// when `mayConfirm` returns false. Main thread.

@@ -36,6 +36,14 @@ extern const Text kOpenButton;
 extern const Text kFileRow;
 std::string documentNotOpened(const std::string &path, const std::string &reason);
 
+// Opening a printer.
+extern const Text kPleaseWait; ///< A window's title.
+std::string waitingForCups(const std::string &server);
+extern const Text kNoPrinterWindow; ///< A window's title.
+extern const Text kPrinterChoiceRow;
+extern const Text kContinue;
+extern const Text kTryAgain;
+
 // Passwords.
 extern const Text kPasswordWindow;
 extern const Text kWrongPasswordWindow;

@@ -78,7 +78,7 @@ protected:
   }
 
   const Arguments arguments_ = argumentsForPlainPrinter();
-  PrintJob job_{arguments_};
+  PrintJob job_{arguments_, openPrinter(arguments_)};
   PrintSession session_{job_};
   std::ostringstream errors_;
   PrintDialog *dialog_ = nil;
