@@ -166,7 +166,10 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
     }
   }
   sections.push_back(optionSection(job.printer(), job.settings(), session.panels().optionKeys()));
-  sections.push_back(sentSection(job.request(session.destinations().list())));
+  const SummarySection others = otherSection(job.request(session.destinations().list()),
+                                             job.printer(), session.panels().optionKeys());
+  if (!others.lines.empty())
+    sections.push_back(others);
   if (summary == nil)
     summary = [[SummaryView alloc] initWithFrame:[area bounds]];
   [summary showSections:sections];

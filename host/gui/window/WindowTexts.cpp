@@ -3,6 +3,7 @@
 #include "Copies.hpp"
 #include "NumberText.hpp"
 #include "Phrases.hpp"
+#include "Strings.hpp"
 
 namespace imageposition::messages {
 
@@ -43,7 +44,7 @@ std::string deleteQuestion(const std::string &preset) {
   return text("Delete the preset \"{1}\"?").with(preset);
 }
 std::string presetSaved(const std::string &lpName) {
-  return text("The preset is saved. lp -d {1} prints with it too.").with(lpName);
+  return text("The preset is saved. lp -d {1} prints with it too.").with(shellWord(lpName));
 }
 const Text kJobWaits = text("The job is waiting");
 const Text kStateUnknown = text("Looking for printers…");
