@@ -31,6 +31,8 @@ public:
   /// The lower edge of the content.
   CGFloat bottom() const noexcept;
   void add(NSView *view);
+  /// Makes Return cancel. Returns the button that should have the focus.
+  NSButton *preferCancel();
 
   /// Shows the window in the middle of `parent` and waits; true when the user confirmed. `order`
   /// has the views that take keys, in the order of Tab, without the buttons. `first` gets the
