@@ -33,6 +33,13 @@ void checkDocument(const std::string &path) {
                   messages::documentUnreadable(path, systemReason(isFolder ? EISDIR : errno)));
 }
 
+/// A window opens all the same, and says what is the matter with the document.
+bool isWindowWanted(const Arguments &arguments) {
+  const char *const display = std::getenv("DISPLAY");
+  return !arguments.isBatch && !arguments.isListingOptions && display != nullptr &&
+         *display != '\0';
+}
+
 /// Uses environment variables because libcups's setters affect only the calling thread.
 void setEnvironment(const Arguments &arguments) {
   const std::pair<const char *, std::string> variables[] = {
@@ -47,7 +54,7 @@ void setEnvironment(const Arguments &arguments) {
 }
 
 ExitCode listOptions(const Arguments &arguments) {
-  PrintJob job(arguments);
+  PrintJob job(arguments, openPrinter(arguments));
   std::cout << writeOptionList(PrinterOptions(job.printer(), job.settings()).all());
   constexpr std::size_t kMostConflicts = 20;
   OptionConflicts conflicts(job.printer(), job.settings());
@@ -76,9 +83,10 @@ ExitCode run(const std::vector<std::string> &words) {
   requireUtf8Arguments(words, arguments.documents);
   setEnvironment(arguments);
   const TerminalWarning warning(std::cerr);
-  for (const std::string &path : arguments.documents)
-    if (path != "-")
-      checkDocument(path);
+  if (!isWindowWanted(arguments))
+    for (const std::string &path : arguments.documents)
+      if (path != "-")
+        checkDocument(path);
   return arguments.isListingOptions ? listOptions(arguments) : runOnGnustep(arguments);
 }
 

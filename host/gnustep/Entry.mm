@@ -8,6 +8,7 @@
 #include "EntryTexts.hpp"
 #include "ExitStatus.hpp"
 #include "JobSubmission.hpp"
+#import "OpenPrinter.h"
 #include "Phrases.hpp"
 #import "PlatformLanguage.h"
 #import "PlatformProcess.h"
@@ -19,13 +20,25 @@
 
 #include <csignal>
 #include <iostream>
+#include <memory>
+#include <utility>
+#include <variant>
 
 using namespace imageposition;
 
 namespace {
 
-ExitCode runInBatch(PrintJob &job) {
-  const Arguments &arguments = job.arguments();
+/// A job that CUPS has accepted is a success even if standard output cannot be written: a script
+/// that saw a failure would print the job again.
+void requireOutputUnlessSent(const PrintJob &job) {
+  if (job.sentName().empty())
+    requireOutput(job.done());
+  else if (!std::cout.flush())
+    std::cerr << messages::kProgram << messages::jobSentWithoutOutput(job.sentName()) << '\n';
+}
+
+ExitCode runInBatch(const Arguments &arguments) {
+  PrintJob job(arguments, openPrinter(arguments));
   PrintSession session(job);
   if (!isDisplayNamed())
     startPrivateDisplay();
@@ -45,32 +58,38 @@ ExitCode runInBatch(PrintJob &job) {
     job.report(submission->result(), std::cout, std::cerr);
   if (arguments.batch.summary)
     std::cout << writeSummary(summary);
+  requireOutputUnlessSent(job);
   return ExitCode::Done;
 }
 
-ExitCode runInWindow(PrintJob &job) {
-  const Arguments &arguments = job.arguments();
-  if (!arguments.ticket.empty())
-    checkTicketPlace(arguments.ticket); // before the user enters settings that would be lost
+ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer) {
+  PrintJob job(arguments, std::move(printer));
   PrintSession session(job);
-  startPasteboardOnDemand();
-  startApplication();
   session.loadPanels();
   if (!runDialog(session, std::cerr)) {
     session.panels().revert();
     std::cerr << messages::kCancelled.view() << '\n';
     return ExitCode::Cancelled;
   }
+  requireOutputUnlessSent(job);
   return ExitCode::Done;
 }
 
-/// A job that CUPS has accepted is a success even if standard output cannot be written: a script
-/// that saw a failure would print the job again.
-void requireOutputUnlessSent(const PrintJob &job) {
-  if (job.sentName().empty())
-    requireOutput(job.done());
-  else if (!std::cout.flush())
-    std::cerr << messages::kProgram << messages::jobSentWithoutOutput(job.sentName()) << '\n';
+/// The printer is being opened while the application starts.
+ExitCode runInWindow(const Arguments &arguments) {
+  if (!arguments.ticket.empty())
+    checkTicketPlace(arguments.ticket); // before the user enters settings that would be lost
+  std::unique_ptr<PrinterOpening> opening;
+  if (arguments.ppd.empty())
+    opening = std::make_unique<PrinterOpening>(arguments.queue);
+  startPasteboardOnDemand();
+  startApplication();
+  if (!opening)
+    return showDialog(arguments, openPrinter(arguments));
+  auto first = awaitFirstPrinter(std::move(opening), arguments.queue, std::cerr);
+  if (const auto *code = std::get_if<ExitCode>(&first))
+    return *code;
+  return showDialog(arguments, std::get<OpenedPrinter>(std::move(first)));
 }
 
 ExitCode run(const Arguments &arguments) {
@@ -78,16 +97,16 @@ ExitCode run(const Arguments &arguments) {
   refuseUntrustedBundles();
   const Pool pool;
   agreeOnLanguage();
-  PrintJob job(arguments);
   setPlatformDefaults();
   std::signal(SIGPIPE, SIG_IGN); // a closed pipe must not kill the program during a job
-  const ExitCode code = arguments.isBatch ? runInBatch(job) : runInWindow(job);
-  requireOutputUnlessSent(job);
-  return code;
+  return arguments.isBatch ? runInBatch(arguments) : runInWindow(arguments);
 }
 
 } // namespace
 
 ExitCode printDialogRun(const Arguments &arguments) {
-  return exitCodeOf([&] { return run(arguments); }, std::cerr);
+  const ExitCode code = exitCodeOf([&] { return run(arguments); }, std::cerr);
+  endSubmissions();
+  endIfCallsAreRunning(code);
+  return code;
 }

@@ -1,6 +1,10 @@
 #include "ExitStatus.hpp"
 
+#include "BackgroundCall.hpp"
 #include "Phrases.hpp"
+
+#include <cstdlib>
+#include <iostream>
 
 namespace imageposition {
 
@@ -14,6 +18,14 @@ ExitCode exitCodeOf(const std::function<ExitCode()> &run, std::ostream &errors) 
     errors << messages::kProgram << exception.what() << '\n';
     return ExitCode::Fault;
   }
+}
+
+void endIfCallsAreRunning(ExitCode code) {
+  if (RunningCall::count() == 0)
+    return;
+  std::cout.flush();
+  std::cerr.flush();
+  std::_Exit(static_cast<int>(code));
 }
 
 } // namespace imageposition

@@ -13,6 +13,10 @@ namespace imageposition {
 /// the `Failure`'s code, or `Fault` for any other exception.
 ExitCode exitCodeOf(const std::function<ExitCode()> &run, std::ostream &errors);
 
+/// Ends the process at once if a background thread still waits for CUPS; otherwise returns. Ending
+/// as usual would destroy objects that the thread uses. Standard output must have been checked.
+void endIfCallsAreRunning(ExitCode code);
+
 } // namespace imageposition
 
 #endif

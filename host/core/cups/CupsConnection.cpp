@@ -10,8 +10,6 @@ namespace imageposition {
 
 namespace {
 
-constexpr double kSecondsBetweenCallbacks = 0.25;
-
 int onTimeout(http_t *, void *keepWaiting) {
   return (*static_cast<CupsConnection::KeepWaiting *>(keepWaiting))() ? 1 : 0;
 }
@@ -29,7 +27,8 @@ std::unique_ptr<CupsConnection> CupsConnection::open(std::chrono::milliseconds t
 
 CupsConnection::CupsConnection(http_t *http, KeepWaiting keepWaiting)
     : http_(http), keepWaiting_(std::move(keepWaiting)) {
-  httpSetTimeout(http_, kSecondsBetweenCallbacks, onTimeout, &keepWaiting_);
+  httpSetTimeout(http_, std::chrono::duration<double>(kBetweenCalls).count(), onTimeout,
+                 &keepWaiting_);
 }
 
 CupsConnection::~CupsConnection() { httpClose(http_); }

@@ -15,9 +15,10 @@ namespace imageposition {
 /// default connection. Use it on one thread at a time.
 class CupsConnection {
 public:
-  /// Called about four times a second while waiting for the server. Returns false to give up. Must
+  /// Called every `kBetweenCalls` while waiting for the server. Returns false to give up. Must
   /// not throw.
   using KeepWaiting = std::function<bool()>;
+  static constexpr std::chrono::milliseconds kBetweenCalls{250};
 
   /// Returns null if the server cannot be reached; `cupsLastErrorString` or errno gives the reason.
   static std::unique_ptr<CupsConnection> open(std::chrono::milliseconds timeout,
@@ -33,6 +34,21 @@ private:
 
   http_t *http_;
   KeepWaiting keepWaiting_;
+};
+
+/// Gives up when CUPS has been silent for too long. Counts the calls, because time may pass without
+/// silence: while the user enters a password. Pass it with `std::ref`.
+class SilenceLimit {
+public:
+  static constexpr std::chrono::seconds kLimit{10};
+
+  bool operator()() noexcept { return ++calls_ < kMostCalls; }
+  bool isExceeded() const noexcept { return calls_ >= kMostCalls; }
+
+private:
+  static constexpr int kMostCalls = static_cast<int>(kLimit / CupsConnection::kBetweenCalls);
+
+  int calls_ = 0;
 };
 
 /// The address of the CUPS server, for messages.

@@ -13,18 +13,15 @@ const Text kPrinterRefuses = text("Not accepting jobs");
 std::string stateBecause(const std::string &state, const std::string &reasons) {
   return state + because(reasons);
 }
-const Text kNoPrinters = text("CUPS has no printers. Add one in the system settings or with "
-                              "lpadmin, or save the job's settings as a ticket.");
+const Text kNoPrinters =
+    text("CUPS has no printers. Add one in the system settings or with lpadmin.");
 std::string noCups(const std::string &server, const std::string &reason) {
-  return text("CUPS is not responding at {1}{2}. Start it (systemctl start cups) and try again, or "
-              "save the job's settings as a ticket.")
+  return text("CUPS is not responding at {1}{2}. Start it (systemctl start cups) and try again.")
       .with(server, because(reason));
 }
 const Text kNoAnswer = text("timed out");
 std::string printersNotListed(const std::string &reason) {
-  return text("CUPS refused to list its printers{1}. Ask its administrator, or save the job's "
-              "settings as a ticket.")
-      .with(because(reason));
+  return text("CUPS refused to list its printers{1}. Ask its administrator.").with(because(reason));
 }
 std::string passwordExposed(const std::string &server) {
   return text("The connection to CUPS at {1} is not encrypted, so others on the network could read "

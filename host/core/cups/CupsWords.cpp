@@ -1,14 +1,13 @@
 #include "CupsWords.hpp"
 
+#include "BackgroundCall.hpp"
 #include "CupsConnection.hpp"
 #include "CupsHandles.hpp"
 #include "PasswordQuestion.hpp"
 
 #include <algorithm>
-#include <future>
 #include <iterator>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 namespace imageposition {
@@ -70,17 +69,15 @@ std::vector<std::string> ask(const std::string &queue, const std::vector<Term> &
 
 std::vector<std::string> wordsOfCups(const std::string &queue, const std::vector<Term> &terms,
                                      std::chrono::milliseconds timeout) {
-  // libcups may fetch a printer's translations over another connection, without our timeout.
-  std::packaged_task<std::vector<std::string>()> task([=] { return ask(queue, terms, timeout); });
-  auto answer = task.get_future();
-  try {
-    std::thread(std::move(task)).detach();
-  } catch (const std::system_error &) { // too many processes
-    return std::vector<std::string>(terms.size());
-  }
   std::vector<std::string> words;
-  if (answer.wait_for(timeout) == std::future_status::ready)
-    words = answer.get();
+  try {
+    // libcups may fetch a printer's translations over another connection, without our timeout.
+    BackgroundCall<std::vector<std::string>> call([=] { return ask(queue, terms, timeout); },
+                                                  timeout);
+    if (call.waitFor(timeout))
+      words = call.take();
+  } catch (const std::system_error &) { // too many processes
+  }
   words.resize(terms.size());
   return words;
 }

@@ -1,5 +1,6 @@
 #include "Destinations.hpp"
 
+#include "BackgroundCall.hpp"
 #include "CupsConnection.hpp"
 #include "CupsTexts.hpp"
 #include "PasswordQuestion.hpp"
@@ -9,11 +10,9 @@
 #include "VisibleText.hpp"
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <cstring>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 namespace imageposition {
@@ -186,6 +185,11 @@ Destination toDestination(const cups_dest_t &dest) {
 
 std::string Destination::fullName() const { return QueueName{name, instance}.text(); }
 
+std::string Destination::title() const {
+  const std::string full = fullName();
+  return description.empty() || description == full ? full : description + " (" + full + ")";
+}
+
 const Destination *DestinationList::find(const std::string &fullName) const {
   for (const Destination &destination : destinations)
     if (isSame(destination.fullName(), fullName))
@@ -212,37 +216,26 @@ DestinationList readDestinations(std::chrono::milliseconds timeout) {
   return list;
 }
 
-struct Destinations::Response {
-  std::atomic<bool> isReady{false};
-  DestinationList list; // belongs to the background thread until `isReady`
-};
-
-Destinations::Destinations() = default;
-Destinations::~Destinations() = default;
-
-void Destinations::refresh(std::function<void()> answered, std::chrono::milliseconds timeout) {
-  if (response_)
+void Destinations::refresh(const std::function<void()> &answered,
+                           std::chrono::milliseconds timeout) {
+  if (call_)
     return;
-  response_ = std::make_shared<Response>();
-  // Looking up a server's name can exceed the timeout, so nothing waits for this thread.
   try {
-    std::thread([response = response_, answered = std::move(answered), timeout] {
-      response->list = readDestinations(timeout);
-      response->isReady = true;
-      if (answered)
-        answered();
-    }).detach();
+    // Looking up a server's name can exceed the timeout.
+    call_.emplace([timeout] { return readDestinations(timeout); }, timeout, answered);
   } catch (const std::system_error &) { // too many processes; a later call may succeed
-    response_.reset();
   }
 }
 
 bool Destinations::takeAnswer() {
-  if (!response_ || !response_->isReady)
+  if (!call_ || !call_->isDone())
     return false;
-  const bool differs = !(response_->list == list_);
-  list_ = std::move(response_->list);
-  response_.reset();
+  DestinationList list = call_->take();
+  call_.reset();
+  if (list.destinations.empty() && list.reason != messages::kNoPrinters.str())
+    list.destinations = list_.destinations; // what is known of them
+  const bool differs = !(list == list_);
+  list_ = std::move(list);
   return differs;
 }
 

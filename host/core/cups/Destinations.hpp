@@ -2,11 +2,12 @@
 #ifndef IMAGEPOSITION_CORE_CUPS_DESTINATIONS_HPP
 #define IMAGEPOSITION_CORE_CUPS_DESTINATIONS_HPP
 
+#include "BackgroundCall.hpp"
 #include "PrintSettingsStore.hpp"
 
 #include <chrono>
 #include <functional>
-#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,13 +31,15 @@ struct Destination {
 
   /// "queue" or "queue/instance", as -d accepts it.
   std::string fullName() const;
+  /// What users see: "Office printer (office)".
+  std::string title() const;
 };
 
 struct DestinationList {
   /// Sorted by name, a queue before its instances. Omits destinations whose names are not UTF-8 on
   /// one line.
   std::vector<Destination> destinations;
-  std::string reason; ///< Why the list is empty, with what to do; otherwise empty.
+  std::string reason; ///< Why the list is empty or old, with what to do; otherwise empty.
 
   /// Returns null if no destination has that full name.
   const Destination *find(const std::string &fullName) const;
@@ -50,29 +53,23 @@ DestinationList readDestinations(std::chrono::milliseconds timeout = std::chrono
 /// thread; none of them waits, not even the destructor.
 class Destinations {
 public:
-  Destinations();
-  ~Destinations();
-  Destinations(const Destinations &) = delete;
-  Destinations &operator=(const Destinations &) = delete;
-
   /// Empty without a reason until `takeAnswer` has taken a response.
   const DestinationList &list() const noexcept { return list_; }
 
   /// Queries CUPS again. Does nothing while a query is running, or if no thread can be created.
   /// Calls `answered` on the background thread once `takeAnswer` has a response, possibly after
   /// this object was destroyed.
-  void refresh(std::function<void()> answered = {},
+  void refresh(const std::function<void()> &answered = {},
                std::chrono::milliseconds timeout = std::chrono::seconds(5));
-  bool isRefreshing() const noexcept { return response_ != nullptr; }
+  bool isRefreshing() const noexcept { return call_.has_value(); }
 
-  /// Updates the list if a response has arrived. Returns true if the list changed.
+  /// Updates the list if a response has arrived. Keeps the printers if CUPS cannot be asked.
+  /// Returns true if the list changed.
   bool takeAnswer();
 
 private:
-  struct Response;
-
   DestinationList list_;
-  std::shared_ptr<Response> response_; // shared with the background thread; null if there is none
+  std::optional<BackgroundCall<DestinationList>> call_; // none if no query is running
 };
 
 /// Converts libcups's destination, whose options include the printer's state.

@@ -44,7 +44,8 @@ std::optional<std::uint64_t> documentSize(const std::string &path) {
 DocumentStream::DocumentStream(const std::string &path)
     : descriptor_(STDIN_FILENO), ownsDescriptor_(path != "-"), buffer_(kChunkSize) {
   if (ownsDescriptor_)
-    descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    descriptor_ =
+        ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); // a pipe may lack a writer
   if (descriptor_ < 0)
     fail(errno);
   missing_ = bytesAhead(descriptor_);
@@ -57,13 +58,13 @@ DocumentStream::~DocumentStream() {
 
 std::optional<std::string_view> DocumentStream::next(const std::function<bool()> &keepWaiting) {
   pollfd waiting{descriptor_, POLLIN, 0};
-  while (poll(&waiting, 1, kMillisecondsBetweenCallbacks) <= 0)
-    if (!keepWaiting())
-      return std::nullopt;
-  ssize_t count;
-  do
+  ssize_t count = -1;
+  do {
+    while (poll(&waiting, 1, kMillisecondsBetweenCallbacks) <= 0)
+      if (!keepWaiting())
+        return std::nullopt;
     count = read(descriptor_, buffer_.data(), buffer_.size());
-  while (count < 0 && errno == EINTR);
+  } while (count < 0 && (errno == EINTR || errno == EAGAIN));
   if (count < 0)
     fail(errno);
   const auto size = static_cast<std::size_t>(count);

@@ -1,26 +1,32 @@
 #include "JobSubmission.hpp"
 
+#include "BackgroundCall.hpp"
 #include "CupsConnection.hpp"
-#include "CupsHandles.hpp"
 #include "CupsTexts.hpp"
-#include "Destinations.hpp"
-#include "DocumentNames.hpp"
-#include "DocumentStream.hpp"
+#include "FileContent.hpp"
 #include "JobTexts.hpp"
 #include "Phrases.hpp"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
-#include <cerrno>
 #include <chrono>
 #include <condition_variable>
-#include <cstring>
+#include <csignal>
+#include <cstdint>
+#include <cstdlib>
+#include <exception>
+#include <functional>
 #include <future>
-#include <memory>
 #include <mutex>
-#include <string_view>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/signalfd.h>
 #include <system_error>
 #include <thread>
+#include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace imageposition {
 
@@ -28,473 +34,276 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 constexpr auto kReportInterval = std::chrono::milliseconds(50);
-constexpr auto kTimeout = std::chrono::seconds(30); // without a response from CUPS
+constexpr auto kLookInterval = std::chrono::milliseconds(250);
+constexpr auto kSilence = std::chrono::seconds(10);    // worth mentioning
+constexpr auto kGivingUp = std::chrono::seconds(35);   // longer than what `submitJob` waits
+constexpr auto kCancelTime = std::chrono::seconds(1);  // for `submitJob` to remove the job
+constexpr auto kRemovalTime = std::chrono::seconds(5); // the same, at the end of the process
 
-[[noreturn]] void fail(JobProblem problem, const std::string &message) {
-  ExitCode code = ExitCode::Job;
-  if (problem == JobProblem::Document)
-    code = ExitCode::Usage;
-  if (problem == JobProblem::Cancelled)
-    code = ExitCode::Cancelled;
-  throw SubmissionFailure(problem, code, message);
-}
+} // namespace
 
-[[noreturn]] void failCancelled() { fail(JobProblem::Cancelled, messages::kCancelled); }
-
-/// Interprets CUPS's status, which can be any number.
-JobProblem problemOf(int status) {
-  switch (status) {
-  case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
-  case IPP_STATUS_ERROR_TIMEOUT:
-    return JobProblem::NoCups;
-  case IPP_STATUS_ERROR_NOT_FOUND:
-  case IPP_STATUS_ERROR_GONE:
-    return JobProblem::QueueGone;
-  case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
-    return JobProblem::RefusesJobs;
-  case IPP_STATUS_ERROR_FORBIDDEN:
-  case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
-  case IPP_STATUS_ERROR_NOT_AUTHORIZED:
-  case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
-    return JobProblem::Authentication;
-  case IPP_STATUS_ERROR_BAD_REQUEST:
-  case IPP_STATUS_ERROR_ATTRIBUTES_OR_VALUES:
-  case IPP_STATUS_ERROR_CONFLICTING:
-  case IPP_STATUS_ERROR_REQUEST_VALUE:
-    return JobProblem::BadOption;
-  case IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED:
-  case IPP_STATUS_ERROR_DOCUMENT_FORMAT_ERROR:
-  case IPP_STATUS_ERROR_DOCUMENT_UNPRINTABLE:
-    return JobProblem::Format;
-  case IPP_STATUS_ERROR_REQUEST_ENTITY:
-  case IPP_STATUS_ERROR_NOT_POSSIBLE:
-  case IPP_STATUS_ERROR_TOO_MANY_JOBS:
-  case IPP_STATUS_ERROR_TOO_MANY_DOCUMENTS:
-  case IPP_STATUS_ERROR_ACCOUNT_LIMIT_REACHED:
-    return JobProblem::Spool;
-  default:
-    return JobProblem::Other;
-  }
-}
-
-std::string nameOf(const std::string &path) {
-  return path == "-" ? messages::kStandardInput : path;
-}
-
-[[noreturn]] void failEmpty(const std::string &path) {
-  fail(JobProblem::Document,
-       path == "-" ? messages::kInputEmpty.str() : messages::documentEmpty(path));
-}
-
-[[noreturn]] void failUnreadable(const std::string &path, const std::system_error &error) {
-  fail(JobProblem::Document, messages::documentNotRead(nameOf(path), error.code().message()));
-}
-
-/// The submission of one job.
-class Submission {
+/// Shared by the submission, the thread that submits and the thread that watches it.
+class SubmissionWork {
 public:
-  Submission(const JobRequest &request, const ProgressCallback &progress)
-      : request_(request), options_(optionsToSend(request)), progress_(progress) {}
+  SubmissionWork(JobRequest request, JobDocuments documents, JobSubmission::Changed changed)
+      : request_(std::move(request)), documents_(std::move(documents)),
+        changed_(std::move(changed)), ended_(eventfd(0, EFD_CLOEXEC)) {}
 
-  SubmittedJob run(const JobDocuments &documents);
-  /// Restarts the timeout, which excludes the time that the user took to answer.
-  void restartTimeout() {
-    lastResponse_ = Clock::now();
-    report();
-  }
+  /// The two threads.
+  void submit();
+  void watch();
+
+  void cancel();
+  void answer(std::optional<Credentials> credentials);
+  std::optional<PasswordRequest> question() const;
+  JobProgress progress() const;
+  bool isSilentFor(Clock::duration time) const;
+  /// Of `submit`.
+  bool hasEnded() const { return hasEnded_; }
+  const std::shared_future<SubmittedJob> &outcome() const { return outcome_; }
 
 private:
-  bool report();
-  bool keepWaiting();
-  void connect();
-  void findPrinter();
-  void createJob();
-  void createJobWithCompounds();
-  std::string_view firstChunk(DocumentStream &document);
-  void sendDocuments(const JobDocuments &documents);
-  void sendAll(const JobDocuments &documents);
-  void cleanUp(const SubmissionFailure &failure);
-  void sendDocument(DocumentStream &document, std::string_view chunk, bool isLast);
-  void startDocument(bool isLast);
-  void finishDocument();
-  const char *format() const;
-  void sendChunk(std::string_view chunk);
-  std::string_view nextChunk(DocumentStream &document);
-  bool removeJob();
-  std::string note() const;
-  [[noreturn]] void failWithCupsError();
-  std::string messageFor(JobProblem problem, const std::string &reason) const;
+  std::optional<Credentials> ask(const PasswordRequest &asked);
+  bool take(const JobProgress &progress);
+  void settle(const std::function<void()> &set);
+  void settle(const std::exception_ptr &failure);
+  void giveUpIfDue();
+  SubmissionFailure failure(const JobProgress &reached) const;
+  [[noreturn]] void endBy(int signal);
 
-  const JobRequest &request_;
-  const PrintSettingsStore options_;
-  const ProgressCallback &progress_;
-  std::string documentPath_; // of the current document
-  JobProgress state_;
-  Clock::time_point lastResponse_ = Clock::now();
-  bool isCancelled_ = false;
-  bool hasTimedOut_ = false;
-  bool isAllSent_ = false; // every document, though CUPS may not have confirmed the last one
-  std::unique_ptr<CupsConnection> connection_;
-  CupsDestination printer_;
-  CupsDestinationInfo info_;
-  int job_ = 0;
+  const JobRequest request_;
+  const JobDocuments documents_;
+  const JobSubmission::Changed changed_; // may be null
+  const Descriptor ended_;               // readable once `submit` has ended
+  std::promise<SubmittedJob> promise_;
+  const std::shared_future<SubmittedJob> outcome_ = promise_.get_future().share();
+  std::atomic<bool> isCancelled_{false}, hasEnded_{false};
+
+  mutable std::mutex mutex_; // guards the following members
+  std::condition_variable answered_;
+  JobProgress progress_;
+  Clock::time_point lastReport_{}, cancelledAt_{};
+  Clock::time_point lastSign_ = Clock::now(); // of CUPS, or of the document
+  std::optional<PasswordRequest> question_;
+  std::optional<Credentials> credentials_;
+  bool isSettled_ = false;
 };
 
-bool Submission::report() {
-  isCancelled_ = isCancelled_ || (progress_ && !progress_(state_));
-  return !isCancelled_;
+namespace {
+
+void notify(const JobSubmission::Changed &changed) {
+  if (changed)
+    changed();
 }
 
-bool Submission::keepWaiting() {
-  hasTimedOut_ = Clock::now() - lastResponse_ >= kTimeout;
-  return report() && !hasTimedOut_;
+/// The signal that arrived, or 0 once `ended` is readable or a little time has passed.
+int awaitSignal(const Descriptor &signals, const Descriptor &ended) {
+  std::array<pollfd, 2> waiting{{{signals.get(), POLLIN, 0}, {ended.get(), POLLIN, 0}}};
+  if (poll(waiting.data(), waiting.size(), static_cast<int>(kLookInterval.count())) <= 0 ||
+      (waiting[0].revents & POLLIN) == 0)
+    return 0;
+  signalfd_siginfo received{};
+  return read(signals.get(), &received, sizeof received) == sizeof received
+             ? static_cast<int>(received.ssi_signo)
+             : 0;
 }
 
-/// Throws for CUPS's last error.
-void Submission::failWithCupsError() {
-  if (isCancelled_)
-    failCancelled();
-  if (hasTimedOut_ && job_ != 0)
-    fail(JobProblem::NoAnswer, messages::noAnswerToJob(cupsServerName()));
-  const std::string reason = cupsReason();
-  const bool isLost = httpError(connection_->http()) != 0;
-  const JobProblem problem = isLost ? JobProblem::NoCups : problemOf(cupsLastError());
-  fail(problem, messageFor(problem, reason));
+struct AllSubmissions {
+  std::mutex mutex;
+  std::vector<std::weak_ptr<SubmissionWork>> works;
+};
+
+/// Never destroyed: `exit` needs it.
+AllSubmissions &allSubmissions() {
+  static auto *const all = new AllSubmissions;
+  return *all;
 }
 
-std::string Submission::messageFor(JobProblem problem, const std::string &reason) const {
-  const std::string &queue = request_.printer;
-  switch (problem) {
-  case JobProblem::NoCups:
-    return job_ != 0 ? messages::connectionLost(cupsServerName(), reason)
-                     : messages::noCups(cupsServerName(), reason);
-  case JobProblem::QueueGone:
-    return messages::queueGone(queue);
-  case JobProblem::RefusesJobs:
-    return messages::queueRefuses(queue);
-  case JobProblem::Authentication:
-    return messages::notAllowed(queue, reason);
-  case JobProblem::BadOption:
-    return messages::optionRefused(queue, reason);
-  case JobProblem::Format:
-    return messages::formatRefused(nameOf(documentPath_), reason);
-  case JobProblem::Spool:
-    return messages::spoolRefuses(reason);
-  default:
-    return messages::jobNotTaken(queue, reason);
-  }
-}
-
-void Submission::connect() {
-  connection_ = CupsConnection::open(kTimeout, [this] { return keepWaiting(); });
-  if (!connection_)
-    fail(JobProblem::NoCups, messages::noCups(cupsServerName(), systemReason(errno)));
-}
-
-void Submission::findPrinter() {
-  printer_.reset(cupsGetNamedDest(connection_->http(), request_.printer.c_str(), nullptr));
-  if (!printer_)
-    failWithCupsError();
-  info_.reset(cupsCopyDestInfo(connection_->http(), printer_.get()));
-  if (!info_)
-    failWithCupsError();
-}
-
-/// Does what cupsCreateDestJob does, which would lose a value in several parts.
-void Submission::createJobWithCompounds() {
-  const char *const uri =
-      cupsGetOption("printer-uri-supported", printer_->num_options, printer_->options);
-  char scheme[32], user[256], host[256], resource[1024];
-  int port = 0;
-  if (uri == nullptr ||
-      httpSeparateURI(HTTP_URI_CODING_ALL, uri, scheme, sizeof scheme, user, sizeof user, host,
-                      sizeof host, &port, resource, sizeof resource) < HTTP_URI_STATUS_OK)
-    failWithCupsError();
-  JobRequest request = request_;
-  request.printerUri = uri;
-  const IppMessage response(
-      cupsDoRequest(connection_->http(), newJobRequest(request, options_), resource));
-  ipp_attribute_t *const id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
-  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE || id == nullptr)
-    failWithCupsError();
-  job_ = ippGetInteger(id, 0);
-}
-
-void Submission::createJob() {
-  if (hasCompound(request_, options_)) {
-    createJobWithCompounds();
-    return;
-  }
-  const int status = cupsCreateDestJob(
-      connection_->http(), printer_.get(), info_.get(), &job_, request_.title.c_str(),
-      options_.optionCount(), const_cast<cups_option_t *>(options_.options())); // not modified
-  if (status > IPP_STATUS_OK_EVENTS_COMPLETE || job_ == 0)
-    failWithCupsError();
-}
-
-std::string_view Submission::nextChunk(DocumentStream &document) {
-  const auto chunk = document.next([this] { return report(); });
-  if (!chunk)
-    failCancelled();
-  return *chunk;
-}
-
-std::string_view Submission::firstChunk(DocumentStream &document) {
-  const std::string_view chunk = nextChunk(document);
-  if (chunk.empty())
-    failEmpty(documentPath_);
-  return chunk;
-}
-
-const char *Submission::format() const {
-  if (options_.get("raw") != nullptr)
-    return CUPS_FORMAT_RAW;
-  const char *const chosen = options_.get("document-format");
-  return chosen != nullptr ? chosen : CUPS_FORMAT_AUTO;
-}
-
-void Submission::startDocument(bool isLast) {
-  if (cupsStartDestDocument(connection_->http(), printer_.get(), info_.get(), job_,
-                            documentName(documentPath_).c_str(), format(), 0, nullptr,
-                            isLast ? 1 : 0) != HTTP_STATUS_CONTINUE)
-    failWithCupsError();
-}
-
-void Submission::sendChunk(std::string_view chunk) {
-  if (cupsWriteRequestData(connection_->http(), chunk.data(), chunk.size()) != HTTP_STATUS_CONTINUE)
-    failWithCupsError();
-  lastResponse_ = Clock::now();
-  state_.sent += chunk.size();
-}
-
-void Submission::finishDocument() {
-  const int status = cupsFinishDestDocument(connection_->http(), printer_.get(), info_.get());
-  // Without a response, libcups returns the status of the previous request.
-  if (status > IPP_STATUS_OK_EVENTS_COMPLETE ||
-      httpGetStatus(connection_->http()) != HTTP_STATUS_OK)
-    failWithCupsError();
-}
-
-void Submission::sendDocument(DocumentStream &document, std::string_view chunk, bool isLast) {
-  startDocument(isLast);
-  while (!chunk.empty()) {
-    if (!report())
-      failCancelled();
-    sendChunk(chunk);
-    chunk = nextChunk(document);
-  }
-  if (document.missing() > 0)
-    fail(JobProblem::Document, messages::documentShrank(nameOf(documentPath_)));
-  if (!report())
-    failCancelled();
-  lastResponse_ = Clock::now();
-  isAllSent_ = isLast;
-  finishDocument();
-}
-
-/// Creates the job only after the first document has produced data.
-void Submission::sendDocuments(const JobDocuments &documents) {
-  for (const std::string &path : documents) {
-    documentPath_ = path;
-    DocumentStream document(path);
-    const std::string_view chunk = firstChunk(document);
-    if (job_ == 0) {
-      if (!report())
-        failCancelled();
-      connect();
-      findPrinter();
-      createJob();
-    }
-    sendDocument(document, chunk, &path == &documents.back());
-  }
-}
-
-/// Closes the connection, on which an incomplete document blocks other requests, and uses a new
-/// one. CUPS then discards the incomplete document.
-bool Submission::removeJob() {
-  connection_.reset();
-  isCancelled_ = false;
-  const Clock::time_point deadline = Clock::now() + std::chrono::seconds(5);
-  connection_ =
-      CupsConnection::open(std::chrono::seconds(5), [=] { return Clock::now() < deadline; });
-  return connection_ != nullptr && cupsCancelDestJob(connection_->http(), printer_.get(), job_) <=
-                                       IPP_STATUS_OK_EVENTS_COMPLETE;
-}
-
-std::string Submission::note() const {
-  const char *const hold = options_.get("job-hold-until");
-  if (hold != nullptr && std::strcmp(hold, "no-hold") != 0)
-    return messages::waitsForRelease(request_.printer, job_, hold);
-  const Destination printer = toDestination(*printer_);
-  return printer.state == DestinationState::Stopped
-             ? messages::waitsForPrinter(request_.printer, printer.stateText)
-             : "";
-}
-
-/// Removes a job that failed. Throws another failure if the message must say what became of the
-/// job.
-void Submission::cleanUp(const SubmissionFailure &failure) {
-  if (job_ == 0)
-    return;
-  if (!removeJob())
-    throw SubmissionFailure(failure.problem(), failure.code(),
-                            messages::jobLeftBehind(failure.what(), request_.printer, job_));
-  if (failure.problem() == JobProblem::NoAnswer)
-    fail(JobProblem::NoAnswer, messages::jobTakenBack(failure.what(), request_.printer, job_));
-  if (failure.problem() == JobProblem::Cancelled && isAllSent_)
-    fail(JobProblem::Cancelled, messages::jobCancelled(request_.printer, job_));
-  if (failure.problem() == JobProblem::NoCups) // CUPS is still running
-    fail(JobProblem::Spool, messages::kDocumentBrokenOff);
-}
-
-void Submission::sendAll(const JobDocuments &documents) try {
-  state_.total = totalSize(documents); // refuses unusable documents before anything is sent
-  sendDocuments(documents);
-} catch (const std::system_error &error) {
-  failUnreadable(documentPath_, error);
-}
-
-SubmittedJob Submission::run(const JobDocuments &documents) {
-  try {
-    sendAll(documents);
-  } catch (const SubmissionFailure &failure) {
-    cleanUp(failure);
-    throw;
-  }
-  return {job_, note()};
+void endWithProcess(const std::shared_ptr<SubmissionWork> &work) {
+  AllSubmissions &all = allSubmissions();
+  const std::lock_guard<std::mutex> lock(all.mutex);
+  [[maybe_unused]] static const int registered = std::atexit(endSubmissions);
+  all.works.erase(std::remove_if(all.works.begin(), all.works.end(),
+                                 [](const auto &candidate) { return candidate.expired(); }),
+                  all.works.end());
+  all.works.push_back(work);
 }
 
 } // namespace
 
-std::optional<std::uint64_t> totalSize(const JobDocuments &documents) {
-  std::optional<std::uint64_t> total = 0;
-  for (const std::string &path : documents)
-    try {
-      const auto size = documentSize(path);
-      if (size == 0u)
-        failEmpty(path);
-      total = size && total ? std::optional(*total + *size) : std::nullopt;
-    } catch (const std::system_error &error) {
-      failUnreadable(path, error);
-    }
-  return total;
+std::optional<Credentials> SubmissionWork::ask(const PasswordRequest &asked) {
+  std::unique_lock<std::mutex> lock(mutex_);
+  question_ = asked;
+  changed_();
+  answered_.wait(lock, [this] { return !question_ || isCancelled_; });
+  question_.reset();
+  lastSign_ = Clock::now();
+  return std::exchange(credentials_, std::nullopt);
 }
 
-SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
-                       const ProgressCallback &progress, const PasswordCallback &password) {
-  Submission submission(request, progress);
-  PasswordCallback asking;
-  if (password)
-    asking = [&](const PasswordRequest &asked) {
-      auto answer = password(asked);
-      submission.restartTimeout();
-      return answer;
-    };
-  const PasswordQuestion question(asking);
-  return submission.run(documents);
+bool SubmissionWork::take(const JobProgress &progress) {
+  const Clock::time_point now = Clock::now();
+  bool isReported = false;
+  {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    progress_ = progress;
+    if (!progress.isWaitingForCups)
+      lastSign_ = now;
+    isReported = now - lastReport_ >= kReportInterval;
+    if (isReported)
+      lastReport_ = now;
+  }
+  if (isReported)
+    notify(changed_);
+  return !isCancelled_;
 }
 
-struct JobSubmission::Work {
-  std::atomic<std::uint64_t> sent{0};
-  std::atomic<std::int64_t> total{-1}; // -1: unknown
-  std::atomic<bool> isCancelled{false};
-  std::shared_future<SubmittedJob> outcome;
-  std::thread thread;
-  Changed changed;
-  Clock::time_point lastReport{};
-
-  std::mutex mutex; // guards the following members
-  std::condition_variable answered;
-  std::optional<PasswordRequest> question;
-  std::optional<Credentials> credentials;
-
-  /// Called on the background thread: waits for `answer` or `cancel`.
-  std::optional<Credentials> ask(const PasswordRequest &asked) {
-    std::unique_lock<std::mutex> lock(mutex);
-    question = asked;
-    changed();
-    answered.wait(lock, [this] { return !question || isCancelled; });
-    question.reset();
-    return std::exchange(credentials, std::nullopt);
+void SubmissionWork::settle(const std::function<void()> &set) {
+  {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    if (!std::exchange(isSettled_, true))
+      set();
   }
+  notify(changed_);
+}
 
-  bool take(const JobProgress &progress) {
-    sent = progress.sent;
-    total = progress.total ? static_cast<std::int64_t>(*progress.total) : -1;
-    if (changed && Clock::now() - lastReport >= kReportInterval) {
-      lastReport = Clock::now();
-      changed();
-    }
-    return !isCancelled;
-  }
+void SubmissionWork::settle(const std::exception_ptr &failure) {
+  settle([&] { promise_.set_exception(failure); });
+}
 
-  SubmittedJob run(const JobRequest &request, const JobDocuments &documents) {
-    PasswordCallback password;
-    if (changed)
-      password = [this](const PasswordRequest &asked) { return ask(asked); };
-    return submitJob(
-        request, documents, [this](const JobProgress &progress) { return take(progress); },
+void SubmissionWork::submit() {
+  PasswordCallback password;
+  if (changed_)
+    password = [this](const PasswordRequest &asked) { return ask(asked); };
+  try {
+    const SubmittedJob job = submitJob(
+        request_, documents_, [this](const JobProgress &reached) { return take(reached); },
         password);
+    settle([&] { promise_.set_value(job); });
+  } catch (...) {
+    settle(std::current_exception());
   }
+  hasEnded_ = true;
+  const std::uint64_t one = 1;
+  [[maybe_unused]] const auto written = write(ended_.get(), &one, sizeof one);
+}
 
-  /// Called once `outcome` is ready.
-  void finish() {
-    if (changed)
-      changed();
+/// What to say when nothing is known but how far the job was.
+SubmissionFailure SubmissionWork::failure(const JobProgress &reached) const {
+  const std::string server = cupsServerName();
+  if (reached.job == 0)
+    return isCancelled_
+               ? SubmissionFailure(JobProblem::Cancelled, ExitCode::Cancelled, messages::kCancelled)
+               : SubmissionFailure(JobProblem::NoCups, ExitCode::Job,
+                                   messages::noCups(server, messages::kNoAnswer));
+  return {isCancelled_ ? JobProblem::Cancelled : JobProblem::NoAnswer,
+          isCancelled_ ? ExitCode::Cancelled : ExitCode::Job,
+          messages::jobLeftBehind(messages::noAnswerToJob(server), request_.printer, reached.job)};
+}
+
+void SubmissionWork::giveUpIfDue() {
+  std::unique_lock<std::mutex> lock(mutex_);
+  const Clock::time_point now = Clock::now();
+  const bool isCancelDue = isCancelled_ && now - cancelledAt_ >= kCancelTime;
+  const bool isTooLate = !question_ && now - lastSign_ >= kGivingUp;
+  if (isSettled_ || (!isCancelDue && !isTooLate))
+    return;
+  const JobProgress reached = progress_;
+  lock.unlock();
+  settle(std::make_exception_ptr(failure(reached)));
+  isCancelled_ = true;
+}
+
+void SubmissionWork::endBy(int signal) {
+  endSubmissions();
+  std::signal(signal, SIG_DFL);
+  const sigset_t signals = SignalBlock::blocked();
+  pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+  raise(signal);
+  std::_Exit(128 + signal);
+}
+
+void SubmissionWork::watch() {
+  const sigset_t wanted = SignalBlock::blocked();
+  const Descriptor signals(signalfd(-1, &wanted, SFD_CLOEXEC));
+  while (!hasEnded_) {
+    if (const int signal = awaitSignal(signals, ended_); signal != 0)
+      endBy(signal);
+    giveUpIfDue();
+    if (!hasEnded_)
+      notify(changed_);
   }
-};
+}
+
+void SubmissionWork::cancel() {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  if (!isCancelled_.exchange(true))
+    cancelledAt_ = Clock::now();
+  answered_.notify_one();
+}
+
+void SubmissionWork::answer(std::optional<Credentials> credentials) {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  credentials_ = std::move(credentials);
+  question_.reset();
+  answered_.notify_one();
+}
+
+std::optional<PasswordRequest> SubmissionWork::question() const {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  return question_;
+}
+
+JobProgress SubmissionWork::progress() const {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  return progress_;
+}
+
+bool SubmissionWork::isSilentFor(Clock::duration time) const {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  return !question_ && Clock::now() - lastSign_ >= time;
+}
 
 JobSubmission::JobSubmission(JobRequest request, JobDocuments documents, Changed changed)
-    : work_(std::make_unique<Work>()) {
-  Work *const work = work_.get(); // outlives the thread, which the destructor joins
-  work->changed = std::move(changed);
-  std::packaged_task<SubmittedJob()> task(
-      [work, request = std::move(request), documents = std::move(documents)] {
-        return work->run(request, documents);
-      });
-  work->outcome = task.get_future().share();
+    : work_(std::make_shared<SubmissionWork>(std::move(request), std::move(documents),
+                                             std::move(changed))) {
+  const auto work = work_;
+  const auto running = std::make_shared<RunningCall>();
+  endWithProcess(work);
   try {
-    work->thread = std::thread([work, task = std::move(task)]() mutable {
-      task();
-      work->finish();
-    });
+    std::thread([work, running] { work->submit(); }).detach();
+    std::thread([work, running] { work->watch(); }).detach();
   } catch (const std::system_error &error) { // too many processes
-    fail(JobProblem::Other, messages::noRoomToSend(systemReason(error.code().value())));
+    work->cancel();
+    throw SubmissionFailure(JobProblem::Other, ExitCode::Job,
+                            messages::noRoomToSend(systemReason(error.code().value())));
   }
 }
 
-JobSubmission::~JobSubmission() {
-  cancel();
-  work_->thread.join();
-}
-
-JobProgress JobSubmission::progress() const {
-  const std::int64_t total = work_->total;
-  return {work_->sent, total < 0 ? std::nullopt : std::optional(static_cast<std::uint64_t>(total))};
-}
-
-void JobSubmission::cancel() {
-  const std::lock_guard<std::mutex> lock(work_->mutex);
-  work_->isCancelled = true;
-  work_->answered.notify_one();
-}
-
-std::optional<PasswordRequest> JobSubmission::question() const {
-  const std::lock_guard<std::mutex> lock(work_->mutex);
-  return work_->question;
-}
-
+JobSubmission::~JobSubmission() { work_->cancel(); }
+JobProgress JobSubmission::progress() const { return work_->progress(); }
+bool JobSubmission::isCupsSilent() const { return work_->isSilentFor(kSilence); }
+void JobSubmission::cancel() { work_->cancel(); }
+std::optional<PasswordRequest> JobSubmission::question() const { return work_->question(); }
 void JobSubmission::answer(std::optional<Credentials> credentials) {
-  const std::lock_guard<std::mutex> lock(work_->mutex);
-  work_->credentials = std::move(credentials);
-  work_->question.reset();
-  work_->answered.notify_one();
+  work_->answer(std::move(credentials));
 }
-
 bool JobSubmission::isDone() const {
-  return work_->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+  return work_->outcome().wait_for(std::chrono::seconds(0)) == std::future_status::ready;
 }
+SubmittedJob JobSubmission::result() { return work_->outcome().get(); }
 
-SubmittedJob JobSubmission::result() { return work_->outcome.get(); }
+void endSubmissions() {
+  AllSubmissions &all = allSubmissions();
+  const std::lock_guard<std::mutex> lock(all.mutex);
+  const Clock::time_point deadline = Clock::now() + kRemovalTime;
+  for (const auto &candidate : all.works)
+    if (const auto work = candidate.lock()) {
+      work->cancel();
+      while (!work->hasEnded() && Clock::now() < deadline)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+  all.works.clear();
+}
 
 } // namespace imageposition

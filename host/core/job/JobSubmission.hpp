@@ -1,93 +1,45 @@
-/// Submits jobs to CUPS.
+/// Submits jobs to CUPS on a background thread.
 #ifndef IMAGEPOSITION_CORE_JOB_JOBSUBMISSION_HPP
 #define IMAGEPOSITION_CORE_JOB_JOBSUBMISSION_HPP
 
-#include "ExitCode.hpp"
-#include "JobRequest.hpp"
-#include "PasswordQuestion.hpp"
+#include "SignalBlock.hpp"
+#include "SubmitJob.hpp"
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace imageposition {
 
-enum class JobProblem {
-  NoCups,         ///< CUPS is not responding, or closed the connection.
-  NoAnswer,       ///< CUPS created the job, but did not respond in time.
-  QueueGone,      ///< There is no queue with that name.
-  RefusesJobs,    ///< The queue exists, but does not accept jobs.
-  Authentication, ///< CUPS requires a password, or the user may not print there.
-  BadOption,      ///< CUPS does not accept an option's value.
-  Document,       ///< The file cannot be read, or not completely.
-  Format,         ///< CUPS cannot print this type of file.
-  Spool,          ///< The document is too large, the disk is full, or there are too many jobs.
-  Cancelled,      ///< By the progress callback or `cancel`.
-  Other,
-};
+class SubmissionWork;
 
-/// The message is a sentence that says what to do. No job is left that would print. The code is
-/// `ExitCode::Job`, except for a document that cannot be read (`Usage`) and a cancelled job
-/// (`Cancelled`).
-class SubmissionFailure : public Failure {
-public:
-  SubmissionFailure(JobProblem problem, ExitCode code, const std::string &message)
-      : Failure(code, message), problem_(problem) {}
-  JobProblem problem() const noexcept { return problem_; }
-
-private:
-  JobProblem problem_;
-};
-
-struct JobProgress {
-  std::uint64_t sent = 0;             ///< Bytes, of all documents.
-  std::optional<std::uint64_t> total; ///< Bytes; unknown for a pipe.
-};
-
-/// The paths of the documents, at least one, in the order of printing; "-" for standard input.
-using JobDocuments = std::vector<std::string>;
-
-struct SubmittedJob {
-  int id = 0;       ///< lp's "printer-id".
-  std::string note; ///< Why it does not print yet (stopped, held), with what to do; or empty.
-};
-
-/// The size of all documents in bytes; none if one of them is a pipe. Throws a `SubmissionFailure`
-/// if a document is empty or cannot be read.
-std::optional<std::uint64_t> totalSize(const JobDocuments &documents);
-
-/// Called before each chunk, after the last one, and while waiting for CUPS or a pipe. Returns
-/// false to cancel. Must not throw.
-using ProgressCallback = std::function<bool(const JobProgress &)>;
-
-/// Submits the job, and returns when CUPS has received all of it. Streams the documents in chunks.
-/// Calls both callbacks on the calling thread. Without a password callback, a job that requires a
-/// password fails. Throws a `SubmissionFailure`, or what `optionsToSend` throws.
-SubmittedJob submitJob(const JobRequest &request, const JobDocuments &documents,
-                       const ProgressCallback &progress = {},
-                       const PasswordCallback &password = {});
-
-/// Submits a job on a background thread. Call all methods on one thread. Only `result` and the
-/// destructor wait.
+/// Submits a job on a background thread. Call all methods on one thread. Only `result` waits.
+///
+/// Neither `cancel` nor the timeouts depend on what CUPS does: if it does not respond, the
+/// background thread is left to itself, and removes the job as soon as it can.
+///
+/// While there is a submission, SIGINT, SIGTERM and SIGHUP first cancel it, and then end the
+/// process: CUPS would print a job of which it has only some of the documents.
 class JobSubmission {
 public:
-  /// Called on the background thread after each change: bytes sent (at most every 50 ms), a
-  /// password request, or the end.
+  /// Called on a background thread after each change: bytes sent (at most every 50 ms), a password
+  /// request, or the end; and about four times a second. May be called after this object was
+  /// destroyed.
   using Changed = std::function<void()>;
 
   /// Starts at once. Without `changed`, a job that requires a password fails. Throws a
   /// `SubmissionFailure` if no thread can be created.
   JobSubmission(JobRequest request, JobDocuments documents, Changed changed = {});
-  /// Cancels the submission, and waits for its end.
+  /// Cancels the submission.
   ~JobSubmission();
   JobSubmission(const JobSubmission &) = delete;
   JobSubmission &operator=(const JobSubmission &) = delete;
 
   JobProgress progress() const;
-  /// Takes effect before the next chunk; too late once everything has been sent.
+  /// Whether CUPS has not responded for ten seconds.
+  bool isCupsSilent() const;
+  /// Takes effect before the next chunk; too late once everything has been sent. `isDone` is true
+  /// within about a second.
   void cancel();
   bool isDone() const;
   /// The password request that is waiting for `answer`, if any.
@@ -98,9 +50,13 @@ public:
   SubmittedJob result();
 
 private:
-  struct Work;
-  std::unique_ptr<Work> work_;
+  const SignalBlock signals_; // before the threads, which inherit it
+  std::shared_ptr<SubmissionWork> work_;
 };
+
+/// Cancels all submissions that are not done, and waits for a few seconds until CUPS has removed
+/// their jobs. For the end of the process, which calls it in `exit`, too.
+void endSubmissions();
 
 } // namespace imageposition
 

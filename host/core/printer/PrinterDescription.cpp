@@ -2,9 +2,11 @@
 
 #include "ChoiceList.hpp"
 #include "CupsConnection.hpp"
-#include "ExitCode.hpp"
+#include "CupsTexts.hpp"
 #include "MissingTexts.hpp"
+#include "Phrases.hpp"
 #include "PpdSize.hpp"
+#include "PrinterFailure.hpp"
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
 #include "UsualTexts.hpp"
@@ -12,8 +14,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <ctime>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -47,17 +49,12 @@ std::string nameFromPpd(const ppd_file_t &ppd, const std::string &otherwise) {
   return otherwise;
 }
 
-bool isCupsReachable() {
-  return CupsConnection::open(std::chrono::seconds(5), [] { return false; }) != nullptr;
-}
-
 /// Defaults that users set with lpoptions, or an administrator for all users. The list also has the
 /// queue's state and location, which marking ignores because no PPD has options of those names.
-PrintSettingsStore defaultsOf(const QueueName &queue) {
+PrintSettingsStore defaultsOf(http_t *http, const QueueName &queue) {
   PrintSettingsStore defaults;
-  const CupsDestination destination(
-      cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.printer.c_str(),
-                       queue.instance.empty() ? nullptr : queue.instance.c_str()));
+  const CupsDestination destination(cupsGetNamedDest(
+      http, queue.printer.c_str(), queue.instance.empty() ? nullptr : queue.instance.c_str()));
   if (!destination)
     return defaults;
   for (int i = 0; i < destination->num_options; i++)
@@ -121,21 +118,29 @@ PrinterDescription PrinterDescription::fromFile(const std::string &path) {
 
 PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   const QueueName name = QueueName::parse(queue);
+  SilenceLimit silence;
+  const auto connection = CupsConnection::open(SilenceLimit::kLimit, std::ref(silence));
+  if (!connection)
+    throw PrinterFailure(messages::noCups(cupsServerName(), systemReason(errno)),
+                         messages::kOtherServer);
   char file[1024] = "";
   time_t changed = 0;
   const int status = // an int, because CUPS can send any number
-      cupsGetPPD3(CUPS_HTTP_DEFAULT, name.printer.c_str(), &changed, file, sizeof file);
+      cupsGetPPD3(connection->http(), name.printer.c_str(), &changed, file, sizeof file);
   if (status != HTTP_STATUS_OK) {
     if (*file != '\0')
       unlink(file);
-    if (!isCupsReachable())
-      throw Failure(ExitCode::Printer, messages::cupsUnreachable(cupsServer(), queue));
-    throw Failure(ExitCode::Printer,
-                  messages::queueWithoutPpd(queue, visible(cupsLastErrorString())));
+    if (silence.isExceeded())
+      throw PrinterFailure(messages::noCups(cupsServerName(), messages::kNoAnswer),
+                           messages::kOtherServer);
+    throw PrinterFailure(messages::queueWithoutPpd(queue, visible(cupsLastErrorString())),
+                         messages::kNamePrinter);
   }
   const TemporaryFile owner(file);
   PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);
-  printer.queueDefaults_ = defaultsOf(name);
+  printer.queueDefaults_ = defaultsOf(connection->http(), name);
+  if (!name.instance.empty())
+    printer.printerDefaults_ = defaultsOf(connection->http(), {name.printer, {}});
   printer.localize(file, name.printer);
   return printer;
 }
@@ -145,7 +150,7 @@ void PrinterDescription::leaveInstance() {
   if (name.instance.empty())
     return;
   name_ = name.printer;
-  queueDefaults_ = defaultsOf({name.printer, {}});
+  queueDefaults_ = printerDefaults_;
   defaultChoices_.reset();
 }
 

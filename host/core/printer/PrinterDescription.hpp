@@ -22,7 +22,8 @@ public:
   static PrinterDescription fromFile(const std::string &path);
 
   /// Requests from CUPS the PPD of a queue, or of "queue/instance", and the defaults that its users
-  /// have set. Throws a `Failure`.
+  /// have set. Gives up when CUPS is silent for ten seconds. Throws a `Failure`. Can be called on
+  /// any thread.
   static PrinterDescription ofQueue(const std::string &queue);
 
   /// Never null; owned by this object.
@@ -65,7 +66,8 @@ private:
   PpdFile ppd_;
   std::string name_;
   PrintSettingsStore queueDefaults_;
-  std::vector<ppd_option_t *> lists_; ///< Options that accept several choices; owned by the PPD.
+  PrintSettingsStore printerDefaults_; ///< Those without the instance; empty if there is none.
+  std::vector<ppd_option_t *> lists_;  ///< Options that accept several choices; owned by the PPD.
   std::optional<std::map<std::string, std::string>> defaultChoices_;
   std::optional<std::vector<OptionConstraint>> constraints_;
 };

@@ -41,16 +41,14 @@ std::string ppdMalformed(const std::string &path, int line, const std::string &r
       .with(path, line, reason);
 }
 std::string ppdOfQueue(const std::string &queue) { return text("PPD of queue {1}").with(queue); }
-std::string cupsUnreachable(const std::string &server, const std::string &queue) {
-  return text("Cannot reach CUPS at \"{2}\" for the queue \"{1}\". Start CUPS, set CUPS_SERVER, or "
-              "use --ppd with a printer description.")
-      .with(queue, server);
-}
+const Text kOtherServer = text("Or set CUPS_SERVER, or use --ppd with a printer description.");
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason) {
-  return text("CUPS has no printer description for the queue \"{1}\": {2}. List the queues with "
-              "lpstat -e, or use --ppd with a printer description.")
+  return text("CUPS has no printer description for the queue \"{1}\": {2}.")
       .with(queue, withoutStop(reason));
 }
+const Text kNoDefaultPrinter = text("There is no default printer.");
+const Text kNamePrinter = text("Specify one with -d QUEUE (lpstat -e lists the queues) or --ppd "
+                               "FILE.");
 std::string chosenOption(const std::string &option, const std::string &choice) {
   return text("\"{1}: {2}\"").with(option, choice);
 }

@@ -19,8 +19,11 @@ std::string ppdUnreadable(const std::string &path, const std::string &reason);
 std::string ppdTooLarge(const std::string &path);
 std::string ppdMalformed(const std::string &path, int line, const std::string &reason);
 std::string ppdOfQueue(const std::string &queue);
-std::string cupsUnreachable(const std::string &server, const std::string &queue);
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
+extern const Text kNoDefaultPrinter;
+// Advice for the command line, also where CUPS cannot be reached.
+extern const Text kOtherServer;
+extern const Text kNamePrinter;
 
 /// An option and a choice, by the names to show.
 std::string chosenOption(const std::string &option, const std::string &choice);

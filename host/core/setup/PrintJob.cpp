@@ -1,10 +1,15 @@
 #include "PrintJob.hpp"
 
+#include "CupsConnection.hpp"
+#include "CupsTexts.hpp"
 #include "CustomValue.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
+#include "Phrases.hpp"
+#include "PrinterFailure.hpp"
+#include "PrinterTexts.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
 #include "ValueCheck.hpp"
@@ -12,7 +17,9 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <functional>
 #include <iostream>
 #include <optional>
 #include <sys/stat.h>
@@ -25,27 +32,19 @@ namespace {
 
 /// The user's default, or the server's if the user has none.
 std::string defaultQueue() {
-  cups_dest_t *const destination = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
-  if (destination == nullptr)
-    throw Failure(ExitCode::Printer, messages::kNoDefaultPrinter);
-  std::string name = destination->name;
-  if (destination->instance != nullptr)
-    name += std::string("/") + destination->instance;
-  cupsFreeDests(1, destination);
-  return name;
-}
-
-std::string queueFor(const Arguments &arguments) {
-  if (!arguments.ppd.empty())
-    return {};
-  return arguments.queue.empty() ? defaultQueue() : arguments.queue;
-}
-
-std::unique_ptr<PrinterDescription> firstPrinter(const Arguments &arguments,
-                                                 const std::string &queue) {
-  return std::make_unique<PrinterDescription>(queue.empty()
-                                                  ? PrinterDescription::fromFile(arguments.ppd)
-                                                  : PrinterDescription::ofQueue(queue));
+  SilenceLimit silence;
+  const auto connection = CupsConnection::open(SilenceLimit::kLimit, std::ref(silence));
+  if (!connection)
+    throw PrinterFailure(messages::noCups(cupsServerName(), systemReason(errno)),
+                         messages::kOtherServer);
+  const CupsDestination destination(cupsGetNamedDest(connection->http(), nullptr, nullptr));
+  if (silence.isExceeded())
+    throw PrinterFailure(messages::noCups(cupsServerName(), messages::kNoAnswer),
+                         messages::kOtherServer);
+  if (!destination)
+    throw PrinterFailure(messages::kNoDefaultPrinter, messages::kNamePrinter);
+  return QueueName{destination->name, destination->instance != nullptr ? destination->instance : ""}
+      .text();
 }
 
 /// Where lp has CUPS send notifications about a job.
@@ -116,8 +115,19 @@ std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
 
 } // namespace
 
-PrintJob::PrintJob(const Arguments &arguments)
-    : arguments_(arguments), queue_(queueFor(arguments)), printer_(firstPrinter(arguments, queue_)),
+OpenedPrinter openPrinter(const Arguments &arguments) {
+  if (!arguments.ppd.empty())
+    return {{}, std::make_unique<PrinterDescription>(PrinterDescription::fromFile(arguments.ppd))};
+  return openQueue(arguments.queue);
+}
+
+OpenedPrinter openQueue(const std::string &wanted) {
+  const std::string queue = wanted.empty() ? defaultQueue() : wanted;
+  return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue))};
+}
+
+PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter first)
+    : arguments_(arguments), queue_(std::move(first.queue)), printer_(std::move(first.printer)),
       preset_(presetOf(queue_, *printer_)), ticket_(openTicket(arguments, preset_.settings)),
       withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
                                                          : openTicket(arguments, {}).settings),
@@ -138,10 +148,6 @@ void PrintJob::requireNumbers(const std::vector<std::string> &keywords) const {
   }
 }
 
-std::unique_ptr<PrinterDescription> PrintJob::openPrinter(const std::string &queue) const {
-  return std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue));
-}
-
 void PrintJob::keepWhatFits(const PrinterDescription &before) {
   const PrintSettingsStore all = settings();
   for (int i = 0; i < all.optionCount(); i++) {
@@ -154,9 +160,9 @@ void PrintJob::keepWhatFits(const PrinterDescription &before) {
   }
 }
 
-void PrintJob::takePrinter(const std::string &queue, std::unique_ptr<PrinterDescription> printer) {
-  const std::unique_ptr<PrinterDescription> before = std::exchange(printer_, std::move(printer));
-  queue_ = queue;
+void PrintJob::takePrinter(OpenedPrinter opened) {
+  const auto before = std::exchange(printer_, std::move(opened.printer));
+  queue_ = std::move(opened.queue);
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
   printer_->mark(ticket_.settings);

@@ -16,12 +16,24 @@
 
 namespace imageposition {
 
+struct OpenedPrinter {
+  std::string queue; ///< "queue" or "queue/instance"; empty for a description file.
+  std::unique_ptr<PrinterDescription> printer; ///< Not null.
+};
+
+/// Opens the printer that the command line names, or the default. Takes up to ten seconds if CUPS
+/// does not respond, and longer if its responses are slow. Throws a `Failure`. Can be called on any
+/// thread.
+OpenedPrinter openPrinter(const Arguments &arguments);
+/// The same for the printer of a queue; if the name is empty, of the default queue.
+OpenedPrinter openQueue(const std::string &queue);
+
 /// Main thread only.
 class PrintJob {
 public:
-  /// Opens the printer and the ticket that the command line names. Throws a `Failure`. `arguments`
-  /// is borrowed and must outlive this object.
-  explicit PrintJob(const Arguments &arguments);
+  /// Opens the ticket that the command line names. Throws a `Failure`. `arguments` is borrowed and
+  /// must outlive this object.
+  PrintJob(const Arguments &arguments, OpenedPrinter first);
   PrintJob(const PrintJob &) = delete;
   PrintJob &operator=(const PrintJob &) = delete;
 
@@ -51,11 +63,9 @@ public:
   /// Stays false if there is no queue.
   void setSubmitted(bool submitted) noexcept { isSubmitted_ = submitted && !queue_.empty(); }
 
-  /// Opens the printer of another queue. Throws a `Failure`.
-  std::unique_ptr<PrinterDescription> openPrinter(const std::string &queue) const;
-  /// Switches to another queue and its printer, and keeps the settings that the printer accepts.
-  /// Destroys the previous printer.
-  void takePrinter(const std::string &queue, std::unique_ptr<PrinterDescription> printer);
+  /// Switches to another printer, and keeps the settings that it accepts. Destroys the previous
+  /// printer.
+  void takePrinter(OpenedPrinter opened);
 
   /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }

@@ -4,8 +4,6 @@
 
 namespace imageposition::messages {
 
-const Text kNoDefaultPrinter = text("There is no default printer. Specify one with -d QUEUE "
-                                    "(lpstat -e lists the queues) or --ppd FILE.");
 std::string ticketWritten(const std::string &path, const std::string &optionPath) {
   return text("The job's settings are in {1} and {2}.")
       .with(shellWord(path), shellWord(optionPath));

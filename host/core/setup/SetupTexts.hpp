@@ -8,9 +8,6 @@
 
 namespace imageposition::messages {
 
-// Printers.
-extern const Text kNoDefaultPrinter;
-
 // Output.
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
 /// `done`: sentences about what cannot be undone; may be empty.

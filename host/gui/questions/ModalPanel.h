@@ -34,7 +34,8 @@ public:
   /// Makes Return cancel. Returns the button that should have the focus.
   NSButton *preferCancel();
 
-  /// Shows the window in the middle of `parent` and waits; true when the user confirmed. `order`
+  /// Shows the window in the middle of `parent`, or if that is null, of the screen, and waits; true
+  /// when the user confirmed. `order`
   /// has the views that take keys, in the order of Tab, without the buttons. `first` gets the
   /// focus; if null, the first view of `order`, or else the button that confirms. The window stays
   /// when `mayConfirm` returns false. Main thread.

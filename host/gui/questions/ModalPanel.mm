@@ -114,7 +114,11 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
   if (first == nil)
     first = order.empty() ? confirm_ : order.front();
   [window_ setInitialFirstResponder:first];
-  placeOver(window_, parent);
+  if (parent == nil) {
+    [window_ center];
+    activateApplication();
+  } else
+    placeOver(window_, parent);
   [parent addChildWindow:window_ ordered:NSWindowAbove];
   [window_ makeKeyAndOrderFront:nil];
   [window_ makeFirstResponder:first];

@@ -38,6 +38,14 @@ std::string alreadyExists(const std::string &name) {
 }
 const Text kPasswordWindow = text("Password");
 const Text kWrongPasswordWindow = text("Wrong password");
+const Text kPleaseWait = text("Please wait");
+std::string waitingForCups(const std::string &server) {
+  return text("Waiting for CUPS at {1}…").with(server);
+}
+const Text kNoPrinterWindow = text("The printer cannot be used");
+const Text kPrinterChoiceRow = text("&Printer:");
+const Text kContinue = text("Continue");
+const Text kTryAgain = text("Try again");
 const Text kUserRow = text("&User name:");
 const Text kPasswordRow = text("&Password:");
 std::string passwordWanted(const std::string &printer) {

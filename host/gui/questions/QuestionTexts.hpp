@@ -30,6 +30,14 @@ extern const Text kSave;
 extern const Text kReplace;
 std::string alreadyExists(const std::string &name);
 
+// Opening a printer.
+extern const Text kPleaseWait; ///< A window's title.
+std::string waitingForCups(const std::string &server);
+extern const Text kNoPrinterWindow; ///< A window's title.
+extern const Text kPrinterChoiceRow;
+extern const Text kContinue;
+extern const Text kTryAgain;
+
 // Passwords.
 extern const Text kPasswordWindow;
 extern const Text kWrongPasswordWindow;

@@ -10,6 +10,9 @@ namespace imageposition {
 /// display refuses if the window manager is slow and has not shown the window yet.
 void askForFocus(NSWindow *window);
 
+/// Lets the application's windows have the keyboard. Call it before the first window is shown.
+void activateApplication();
+
 } // namespace imageposition
 
 #endif

@@ -3,16 +3,19 @@
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "HelpTexts.hpp"
+#include "JobSubmission.hpp"
 #import "Labels.h"
 #import "MnemonicControls.h"
 #import "NotePanel.h"
 #include "NumberText.hpp"
+#import "OpenPrinter.h"
 #include "PasteboardTrouble.hpp"
 #include "Phrases.hpp"
 #import "Pool.h"
 #include "QuestionTexts.hpp"
 #import "RunLoopWake.h"
 #import "TextBridge.h"
+#import "WindowFocus.h"
 #include "WindowTexts.hpp"
 
 #include <ostream>
@@ -31,6 +34,16 @@ struct PictureRedrawing final : PrintSettingsStore::Observer {
   void settingsChanged() override { [dialog refreshPicture]; }
   PrintDialog *dialog = nil;
 };
+
+/// Why the documents cannot be printed; empty if they can.
+std::string problemWith(const JobDocuments &documents) {
+  try {
+    totalSize(documents);
+    return {};
+  } catch (const SubmissionFailure &failure) {
+    return failure.what();
+  }
+}
 
 } // namespace
 
@@ -187,7 +200,10 @@ struct imageposition::PrintDialogState {
   if (![self savePanels])
     return;
   try {
-    state->session->chooseQueue(queue);
+    auto opened = PrinterOpening(queue).await(window);
+    if (!opened)
+      return;
+    state->session->takePrinter(std::move(*opened));
     [self say:state->session->panels().troubleText()];
   } catch (const Failure &failure) {
     [self say:failure.what()];
@@ -326,12 +342,14 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-/// What is missing in the window, and which of the preset's settings the printer does not accept,
-/// which standard error has already.
+/// What is the matter with the documents, what is missing in the window, and which of the preset's
+/// settings the printer does not accept, which standard error has already.
 - (void)sayTroubles {
   PanelSession &panels = state->session->panels();
   const auto &misfits = state->session->job().misfits();
-  const std::string troubles = panels.troubleText();
+  std::string troubles = panels.troubleText();
+  if (const std::string problem = problemWith(state->session->job().documents()); !problem.empty())
+    troubles = problem;
   if (!troubles.empty())
     [self say:troubles];
   if (!misfits.empty())
@@ -346,8 +364,7 @@ struct imageposition::PrintDialogState {
   [window center];
   [window setInitialFirstResponder:[self firstControl]];
   [window makeFirstResponder:[self firstControl]];
-  [NSApp finishLaunching]; // no keys arrive before
-  [NSApp activateIgnoringOtherApps:YES];
+  activateApplication();
   [window makeKeyAndOrderFront:nil];
 }
 

@@ -20,13 +20,6 @@ namespace {
 
 constexpr NSTimeInterval kBetweenQuestions = 5;
 
-std::string titleOf(const Destination &destination) {
-  const std::string name = destination.fullName();
-  return destination.description.empty() || destination.description == name
-             ? name
-             : destination.description + " (" + name + ")";
-}
-
 } // namespace
 
 @interface PrinterRow ()
@@ -93,7 +86,7 @@ std::string titleOf(const Destination &destination) {
     if (!destination.instance.empty() && destination.fullName() != job.queue())
       continue; // presets have their own pop-up
     names.push_back(destination.fullName());
-    addItem(popUp, titleOf(destination));
+    addItem(popUp, destination.title());
   }
   auto current = std::find(names.begin(), names.end(), job.queue());
   if (!job.queue().empty() && current == names.end()) {
@@ -113,10 +106,12 @@ std::string titleOf(const Destination &destination) {
   std::string text;
   if (!job.isSubmitted())
     text = job.printer().name();
-  else if (destination != nullptr)
-    text = messages::printerState(destination->stateText, destination->location);
+  else if (!list.reason.empty())
+    text = list.reason;
   else
-    text = list.reason.empty() ? messages::kStateUnknown : list.reason;
+    text = destination != nullptr
+               ? messages::printerState(destination->stateText, destination->location)
+               : messages::kStateUnknown.str();
   showCut(stateLabel, text, NSWidth([stateLabel frame]));
 }
 

@@ -1,6 +1,7 @@
 #import "Sending.h"
 
 #import "ControlLock.h"
+#include "CupsConnection.hpp"
 #include "JobSubmission.hpp"
 #import "KeyWindow.h"
 #import "NamePanel.h"
@@ -132,8 +133,10 @@ struct imageposition::SendingState {
   const auto total = now.total.value_or(0);
   [progress
       setDoubleValue:total == 0 ? 0 : static_cast<double>(now.sent) / static_cast<double>(total)];
-  [dialog show:messages::sending(messages::byteCount(now.sent),
-                                 total == 0 ? "" : messages::byteCount(total))];
+  [dialog show:state->submission->isCupsSilent()
+                   ? messages::stillWaiting(cupsServerName())
+                   : messages::sending(messages::byteCount(now.sent),
+                                       total == 0 ? "" : messages::byteCount(total))];
 }
 
 - (void)finish {

@@ -69,6 +69,9 @@ std::string sending(const std::string &sent, const std::string &total) {
   return total.empty() ? text("Sending: {1}").with(sent)
                        : text("Sending: {1} of {2}").with(sent, total);
 }
+std::string stillWaiting(const std::string &server) {
+  return text("CUPS at {1} is not responding. Still waiting; you can cancel.").with(server);
+}
 std::string byteCount(unsigned long long bytes) {
   constexpr unsigned long long kTenthOfMegabyte = 100000;
   if (bytes < 10 * kTenthOfMegabyte)

@@ -51,6 +51,7 @@ extern const Text kPrintAnyway;
 extern const Text kGoBack;
 std::string sending(const std::string &sent, const std::string &total);
 /// In kilobytes or megabytes.
+std::string stillWaiting(const std::string &server);
 std::string byteCount(unsigned long long bytes);
 
 } // namespace imageposition::messages

@@ -22,14 +22,13 @@ public:
   PrintJob &job() noexcept { return job_; }
   /// Loads the plug-ins and their panels. Needs the application.
   void loadPanels();
-  /// Another session after each `chooseQueue`. Not before `loadPanels`.
+  /// Another session after each `takePrinter`. Not before `loadPanels`.
   PanelSession &panels() noexcept { return *panels_; }
   /// The paths of the plug-ins that the printer and the command line name.
   const std::vector<std::string> &plugins() const noexcept { return plugins_; }
 
-  /// Takes another queue, with its panels and those of the job's settings that fit its printer.
-  /// Throws a `Failure`, and then nothing has changed.
-  void chooseQueue(const std::string &queue);
+  /// Takes another printer, with its panels and those of the job's settings that it accepts.
+  void takePrinter(OpenedPrinter opened);
 
   /// The printers that CUPS has, as it answered last.
   Destinations &destinations() noexcept { return destinations_; }

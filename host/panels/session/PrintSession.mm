@@ -16,10 +16,9 @@ void PrintSession::loadPanels() {
   panels_->load(plugins_, loaded_);
 }
 
-void PrintSession::chooseQueue(const std::string &queue) {
-  auto printer = job_.openPrinter(queue);
+void PrintSession::takePrinter(OpenedPrinter opened) {
   panels_.reset();
-  job_.takePrinter(queue, std::move(printer));
+  job_.takePrinter(std::move(opened));
   loadPanels();
 }
 

@@ -27,7 +27,7 @@ TEST_F(PlainStart, DoesNotLoadGnustepWithoutAWindowOrPanel) {
       {{"--ppd", printer, "--list-options"}, kDone},
       {{"--no-such-option"}, kUsage},
       {{"--ppd", printer, "--summary"}, kUsage},
-      {{"--ppd", printer, folder.path("missing.pdf")}, kUsage},
+      {{"--batch", "--ppd", printer, folder.path("missing.pdf")}, kUsage},
   };
   for (const auto &[words, status] : rows) {
     SCOPED_TRACE(testing::PrintToString(words));

@@ -104,8 +104,7 @@ TEST(PrinterDescription, AnUnreachableCupsIsReportedWithAdvice) {
     FAIL() << "was opened";
   } catch (const Failure &failure) {
     EXPECT_EQ(failure.code(), ExitCode::Printer);
-    EXPECT_THAT(failure.what(), HasSubstr("no-such-queue/draft"));
-    EXPECT_THAT(failure.what(), HasSubstr("Cannot reach CUPS at \"/nonexistent/cups.sock\""));
+    EXPECT_THAT(failure.what(), HasSubstr("CUPS is not responding at /nonexistent/cups.sock"));
     EXPECT_THAT(failure.what(), HasSubstr("CUPS_SERVER"));
   }
 }

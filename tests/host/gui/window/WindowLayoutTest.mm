@@ -79,7 +79,7 @@ protected:
   }
 
   const Arguments arguments_ = argumentsForPrinter();
-  PrintJob job_{arguments_};
+  PrintJob job_{arguments_, openPrinter(arguments_)};
   PrintSession session_{job_};
   std::ostringstream errors_;
   PrintDialog *dialog_ = nil;
