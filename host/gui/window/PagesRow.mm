@@ -20,6 +20,7 @@ constexpr CGFloat kPagesWidth = 130;
 - (void)pagesChosen:(id)sender;
 - (void)rangesChanged:(id)sender;
 - (BOOL)store;
+- (void)showError:(const std::string &)text;
 @end
 
 @implementation PagesRow
@@ -33,6 +34,7 @@ constexpr CGFloat kPagesWidth = 130;
   for (const Text &title :
        {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange})
     addItem(pages, title);
+  error = [[ErrorLabel alloc] initWithFrame:NSZeroRect];
   ranges =
       [makeField(kPopUpWidth - kPagesWidth - kControlGap, self, @selector(rangesChanged:)) retain];
   return self;
@@ -42,13 +44,19 @@ constexpr CGFloat kPagesWidth = 130;
   [pages setTarget:nil];
   [ranges setTarget:nil];
   [ranges setDelegate:nil];
+  [error release];
   [pages release];
   [ranges release];
   [super dealloc];
 }
 
-- (DialogRow)row {
-  return {messages::kPagesRow, {{pages}, {ranges}}};
+- (std::vector<DialogRow>)rows {
+  return {{messages::kPagesRow, {{pages}, {ranges}}}, {"", {{error, true}}}};
+}
+
+- (void)showError:(const std::string &)text {
+  if ([error showError:text width:kPopUpWidth])
+    [dialog layOut];
 }
 
 - (void)refresh {
@@ -60,6 +68,7 @@ constexpr CGFloat kPagesWidth = 130;
   [pages selectItemAtIndex:item];
   [ranges setStringValue:toString(choice.ranges ? choice.ranges->text() : "")];
   [ranges setEnabled:item != kAllItem];
+  [self showError:""];
 }
 
 - (BOOL)takeEntry {
@@ -80,11 +89,21 @@ constexpr CGFloat kPagesWidth = 130;
     if (item == kRangeItem || (item != kAllItem && !typed.empty()))
       choice.ranges = PageRanges::parse(typed);
   } catch (const Failure &failure) {
-    [dialog say:failure.what()];
+    [self showError:failure.what()];
     return NO;
   }
+  [self showError:""];
   storePageChoice(choice, [dialog session].job().settings());
   return YES;
+}
+
+- (void)controlTextDidChange:(NSNotification *)notification {
+  (void)notification;
+  try {
+    PageRanges::parse(toText([[ranges currentEditor] string]));
+    [self showError:""];
+  } catch (const Failure &) { // it is not complete yet
+  }
 }
 
 - (void)controlTextDidEndEditing:(NSNotification *)notification {
