@@ -70,8 +70,8 @@ void checkLayout(const Preview &preview, const PictureSize &size) {
     check(isPlace(layout.onPage(place, preview.front.content)), "the content's rectangle is valid");
   }
   checkMark(layout, preview.front.offset);
-  if (preview.backSeenThrough)
-    checkMark(layout, preview.backSeenThrough->offset);
+  if (preview.frontSeenThrough)
+    checkMark(layout, preview.frontSeenThrough->offset);
 }
 
 } // namespace
@@ -82,11 +82,11 @@ void checkPicture(PrinterDescription &printer, const PrintSettingsStore &job) {
   checkPage(preview.page);
   checkSide(preview.front);
   check(preview.back.has_value() == (preview.turning != Turning::OneSided) &&
-            preview.back.has_value() == preview.backSeenThrough.has_value(),
+            preview.back.has_value() == preview.frontSeenThrough.has_value(),
         "two-sided printing has a back side");
   if (preview.back) {
     checkSide(*preview.back);
-    checkSide(*preview.backSeenThrough);
+    checkSide(*preview.frontSeenThrough);
   }
   check(preview == makePreview(job, printer.ppd()), "the same job has the same picture");
   for (const std::string &sentence : describePreview(preview))

@@ -202,6 +202,25 @@ void Person::seeOnDisplay(const std::string &title) {
   });
 }
 
+/// Whether scrolling has brought it into sight.
+void Person::seeInSight(const Control &control) {
+  see("all of the control", [&](const Screen &shown) {
+    const Control *largest = nullptr;
+    for (const Control &one : shown.controls)
+      if (one.kind == "viewport" &&
+          (largest == nullptr || one.width * one.height > largest->width * largest->height))
+        largest = &one;
+    const auto now =
+        std::find_if(shown.controls.begin(), shown.controls.end(), [&](const Control &one) {
+          return one.kind == control.kind && one.text == control.text &&
+                 one.width == control.width && one.x == control.x;
+        });
+    return largest != nullptr && now != shown.controls.end() && now->x >= largest->x &&
+           now->y >= largest->y && now->x + now->width <= largest->x + largest->width &&
+           now->y + now->height <= largest->y + largest->height;
+  });
+}
+
 void Person::seeOnTop(const std::string &title) {
   const auto top = [] {
     std::string words = run({"xprop", "-root", "_NET_CLIENT_LIST_STACKING"});
@@ -315,6 +334,19 @@ std::vector<Sentence> Person::sentences() {
        [=](const StepValues &v) {
          see(v[0], [&](const Screen &shown) { return shown.says(v[0]); });
        }},
+      {"read \"*\" near \"*\"",
+       [=](const StepValues &v) {
+         see(v[0] + " near " + v[1], [&](const Screen &shown) {
+           const Control *const label = shown.find("label", v[1]);
+           return label != nullptr &&
+                  std::any_of(shown.controls.begin(), shown.controls.end(),
+                              [&](const Control &control) {
+                                return control.kind == "label" && control.y > label->y &&
+                                       control.y < label->y + 3 * label->height &&
+                                       control.text.find(v[0]) != std::string::npos;
+                              });
+         });
+       }},
       {"no longer read \"*\"",
        [=](const StepValues &v) {
          see("that it is gone: " + v[0], [&](const Screen &shown) { return !shown.says(v[0]); });
@@ -331,6 +363,26 @@ std::vector<Sentence> Person::sentences() {
          see("another picture", [&](const Screen &shown) { return Picture(shown) != picture_; });
        }},
       {"see all of \"*\"", [=](const StepValues &v) { seeOnDisplay(v[0]); }},
+      {"see all of the field beside \"*\"",
+       [=](const StepValues &v) { seeInSight(beside(v[0], "field")); }},
+      {"see no picture",
+       [=](const StepValues &) {
+         see("that there is no picture",
+             [](const Screen &shown) { return shown.find("picture", "") == nullptr; });
+       }},
+      {"see a picture",
+       [=](const StepValues &) {
+         see("a picture", [](const Screen &shown) { return shown.find("picture", "") != nullptr; });
+       }},
+      {"see # bars that scroll \"*\"",
+       [=](const StepValues &v) {
+         see(v[0] + " bars", [&](const Screen &shown) {
+           return std::count_if(shown.controls.begin(), shown.controls.end(),
+                                [&](const Control &control) {
+                                  return control.kind == "scroller" && control.text == v[1];
+                                }) == number(v[0]);
+         });
+       }},
       {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
       {"it writes \"*\"",

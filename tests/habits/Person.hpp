@@ -46,6 +46,7 @@ private:
   void see(const std::string &what, const Look &look);
   void seeValue(const std::string &value, const std::string &label);
   void seeOnDisplay(const std::string &title);
+  void seeInSight(const Control &control);
   void seeOnTop(const std::string &title);
   void seeJobs(int count);
   std::string described() const;

@@ -1,6 +1,7 @@
 #include "Strings.hpp"
 
 #include <algorithm>
+#include <cctype>
 #include <strings.h>
 
 namespace imageposition {
@@ -18,6 +19,20 @@ std::string trimmed(std::string_view string, std::string_view blanks) {
   if (first == std::string_view::npos)
     return {};
   return std::string(string.substr(first, string.find_last_not_of(blanks) - first + 1));
+}
+
+std::string shellWord(const std::string &string) {
+  constexpr std::string_view kPlain = "%+-./:=@_,";
+  const auto isPlain = [=](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= 0x80 || std::isalnum(byte) != 0 || kPlain.find(c) != std::string_view::npos;
+  };
+  if (!string.empty() && std::all_of(string.begin(), string.end(), isPlain))
+    return string;
+  std::string word = "'";
+  for (const char c : string)
+    word += c == '\'' ? "'\\''" : std::string(1, c);
+  return word + '\'';
 }
 
 bool isSame(std::string_view left, std::string_view right) noexcept {

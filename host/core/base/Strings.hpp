@@ -13,6 +13,9 @@ bool endsWith(std::string_view string, std::string_view end) noexcept;
 /// Removes the characters in `blanks` from both ends.
 std::string trimmed(std::string_view string, std::string_view blanks);
 
+/// The string as one word of a shell command: in quotes if a shell would act on a character in it.
+std::string shellWord(const std::string &string);
+
 // For names and keywords: ignore the case of ASCII letters, as CUPS does.
 
 bool isSame(std::string_view left, std::string_view right) noexcept;

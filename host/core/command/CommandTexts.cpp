@@ -1,5 +1,7 @@
 #include "CommandTexts.hpp"
 
+#include "Strings.hpp"
+
 namespace imageposition::messages {
 
 const char *const kVersion = "print-dialog " IMAGEPOSITION_VERSION;
@@ -88,7 +90,7 @@ const Text kStandardInputRepeated =
 std::string jobsAreNotChanged(const std::string &job) {
   return text("print-dialog does not change jobs that CUPS already has. Change this job with lp -i "
               "{1}, or cancel it with cancel {1} and print again.")
-      .with(job);
+      .with(shellWord(job));
 }
 const Text kJobsAreNotRestarted =
     text("print-dialog does not restart jobs that CUPS already has. Use lp -i JOB -H restart.");

@@ -7,11 +7,11 @@ namespace imageposition::messages {
 const Text kPrinterIdle = text("Ready");
 const Text kPrinterPrinting = text("Printing");
 const Text kPrinterStopped = text("Stopped");
+const Text kPrinterPaused = text("Paused");
+const Text kPrinterFaulty = text("Needs attention");
+const Text kPrinterRefuses = text("Not accepting jobs");
 std::string stateBecause(const std::string &state, const std::string &reasons) {
-  return text("{1}: {2}").with(state, reasons);
-}
-std::string refusesJobs(const std::string &state) {
-  return text("Not accepting jobs ({1})").with(state);
+  return state + because(reasons);
 }
 const Text kNoPrinters =
     text("CUPS has no printers. Add one in the system settings or with lpadmin.");

@@ -12,8 +12,11 @@ namespace imageposition::messages {
 extern const Text kPrinterIdle;
 extern const Text kPrinterPrinting;
 extern const Text kPrinterStopped;
+extern const Text kPrinterPaused; ///< By its administrator, or by CUPS after a failure.
+extern const Text kPrinterFaulty; ///< Idle, but it may print nothing.
+extern const Text kPrinterRefuses;
+/// The reasons may be empty.
 std::string stateBecause(const std::string &state, const std::string &reasons);
-std::string refusesJobs(const std::string &state);
 extern const Text kNoPrinters;
 std::string noCups(const std::string &server, const std::string &reason);
 extern const Text kNoAnswer;

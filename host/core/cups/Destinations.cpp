@@ -29,10 +29,12 @@ struct ReasonWords {
 /// These mean nothing to users.
 constexpr const char *kIgnoredReasons[] = {"none", "other", "com.apple.print.recoverable"};
 
+constexpr const char *kPausedReason = "paused";
+
 /// The keywords of RFC 8011, section 5.4.12, and those that CUPS adds.
 constexpr ReasonWords kReasonWords[] = {
-    // Translators: what is the matter with a printer; it follows its state, "Stopped: ".
-    {"paused", text("paused")},
+    // Translators: what is the matter with a printer; in brackets after its state, "Stopped".
+    {kPausedReason, text("paused")},
     {"moving-to-paused", text("pausing")},
     {"media-empty", text("out of paper")},
     {"media-low", text("paper low")},
@@ -69,6 +71,17 @@ std::string withoutSeverity(const std::string &reason) {
   return reason;
 }
 
+/// CUPS separates them with commas.
+std::vector<std::string> splitReasons(const std::string &reasons) {
+  std::vector<std::string> all;
+  for (std::size_t start = 0; start < reasons.size();) {
+    const std::size_t comma = std::min(reasons.find(',', start), reasons.size());
+    all.push_back(reasons.substr(start, comma - start));
+    start = comma + 1;
+  }
+  return all;
+}
+
 std::string wordsFor(const std::string &reason) {
   std::string bare = withoutSeverity(reason);
   for (const char *ignored : kIgnoredReasons)
@@ -101,15 +114,29 @@ DestinationState stateOf(const cups_dest_t &dest) {
                                                         : DestinationState::Idle;
 }
 
+/// Whether the printer may print nothing although CUPS calls it idle.
+bool isFault(const std::string &reason) {
+  return endsWith(reason, "-error") || startsWith(reason, "cups-missing-filter") ||
+         startsWith(reason, "cups-insecure-filter");
+}
+
 std::string stateInWords(const Destination &destination, const std::string &reasons) {
+  const std::vector<std::string> all = splitReasons(reasons);
+  const bool isPaused = contains(all, kPausedReason);
+  if (!destination.acceptsJobs)
+    return messages::stateBecause(messages::kPrinterRefuses, stateReasonsInWords(reasons));
+  std::string others;
+  for (const std::string &reason : all)
+    if (reason != kPausedReason)
+      others += reason + ',';
   std::string state = messages::kPrinterIdle;
   if (destination.state == DestinationState::Printing)
     state = messages::kPrinterPrinting;
-  if (destination.state == DestinationState::Stopped)
-    state = messages::kPrinterStopped;
-  if (const std::string words = stateReasonsInWords(reasons); !words.empty())
-    state = messages::stateBecause(state, words);
-  return destination.acceptsJobs ? state : messages::refusesJobs(state);
+  else if (destination.state == DestinationState::Stopped)
+    state = isPaused ? messages::kPrinterPaused : messages::kPrinterStopped;
+  else if (std::any_of(all.begin(), all.end(), isFault))
+    state = messages::kPrinterFaulty;
+  return messages::stateBecause(state, stateReasonsInWords(others));
 }
 
 /// Why the list is empty.
@@ -226,12 +253,10 @@ bool operator==(const DestinationList &left, const DestinationList &right) {
 
 std::string stateReasonsInWords(const std::string &reasons) {
   std::string list;
-  for (std::size_t start = 0; start < reasons.size();) {
-    const std::size_t comma = std::min(reasons.find(',', start), reasons.size());
-    const std::string words = wordsFor(reasons.substr(start, comma - start));
+  for (const std::string &reason : splitReasons(reasons)) {
+    const std::string words = wordsFor(reason);
     if (!words.empty() && list.find(words) == std::string::npos)
       list = list.empty() ? words : messages::inOrder(list, words);
-    start = comma + 1;
   }
   return list;
 }

@@ -23,7 +23,7 @@ struct Destination {
   std::string location;    ///< May be empty.
   std::string uri;         ///< For its jobs; may be empty.
   DestinationState state = DestinationState::Idle;
-  std::string stateText; ///< For display: "Ready", "Stopped: out of paper".
+  std::string stateText; ///< For display: "Ready", "Paused (out of paper)".
   bool acceptsJobs = true;
   bool isDefault = false;
   /// Default job options, without attributes of the printer.

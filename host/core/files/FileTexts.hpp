@@ -12,6 +12,8 @@ namespace imageposition::messages {
 extern const Text kNotAnOrdinaryFile;
 extern const Text kLinkOfAnotherUser;
 extern const Text kNotWrittenByPrintDialog;
+/// `process` may be empty.
+std::string lockedBy(const std::string &process);
 
 } // namespace imageposition::messages
 

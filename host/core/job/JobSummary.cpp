@@ -7,8 +7,23 @@
 #include "PageRanges.hpp"
 #include "Phrases.hpp"
 #include "PrinterOptions.hpp"
+#include "Strings.hpp"
+
+#include <cstring>
 
 namespace imageposition {
+
+namespace {
+
+/// The settings that `jobSection` shows.
+const std::vector<std::string> kJobOptions = {"copies", "page-ranges", "page-set"};
+
+bool isOffByDefault(const PrinterOption &option) {
+  static const std::vector<std::string> kOff = {"None", "Off", "False"};
+  return !option.differsFromDefault() && (option.chosen.empty() || contains(kOff, option.chosen));
+}
+
+} // namespace
 
 SummarySection jobSection(const std::string &printer, const std::vector<std::string> &documents,
                           const PrintSettingsStore &job) {
@@ -34,6 +49,8 @@ SummarySection optionSection(PrinterDescription &printer, PrintSettingsStore &jo
   SummarySection section{messages::kOptionsPane, {}};
   for (const OptionGroup &group : PrinterOptions(printer, job).listed(announced))
     for (const PrinterOption &option : group.options) {
+      if (isOffByDefault(option))
+        continue;
       const bool differs = option.differsFromDefault();
       const std::string chosen = option.textOf(option.chosen);
       section.lines.push_back(
@@ -44,17 +61,21 @@ SummarySection optionSection(PrinterDescription &printer, PrintSettingsStore &jo
   return section;
 }
 
-SummarySection sentSection(const JobRequest &request) {
-  SummarySection section{messages::kSentSection, {}};
+SummarySection otherSection(const JobRequest &request, PrinterDescription &printer,
+                            const std::vector<std::string> &announced) {
+  SummarySection section{messages::kOtherSection, {}};
   try {
     const PrintSettingsStore options = optionsToSend(request);
     for (int i = 0; i < options.optionCount(); i++) {
       const cups_option_t &option = options.options()[i];
+      if (contains(kJobOptions, option.name) || contains(announced, option.name) ||
+          std::strchr(option.name, '.') != nullptr || isPrinterOption(printer, option.name))
+        continue;
       section.lines.push_back(
           {option.name, isSecret(request, option.name) ? kHiddenValue : option.value});
     }
   } catch (const Failure &failure) {
-    section.lines.push_back({messages::kSentSection, failure.what()});
+    section.lines.push_back({messages::kOtherSection, failure.what()});
   }
   return section;
 }

@@ -15,13 +15,16 @@ namespace imageposition {
 SummarySection jobSection(const std::string &printer, const std::vector<std::string> &documents,
                           const PrintSettingsStore &job);
 
-/// The printer's options by their display names, except those in `announced`, which panels show.
+/// The printer's options by their display names, except those in `announced`, which panels show,
+/// and those that are off by default.
 SummarySection optionSection(PrinterDescription &printer, PrintSettingsStore &job,
                              const std::vector<std::string> &announced);
 
-/// All options as sent to CUPS, with the names and in the order of the request. If the request is
-/// invalid, the section contains the reason instead.
-SummarySection sentSection(const JobRequest &request);
+/// The options sent to CUPS that no other section shows, with the names and in the order of the
+/// request. Options with a dot in their names belong to panels. If the request is invalid, the
+/// section contains the reason instead.
+SummarySection otherSection(const JobRequest &request, PrinterDescription &printer,
+                            const std::vector<std::string> &announced);
 
 } // namespace imageposition
 

@@ -2,6 +2,7 @@
 
 #include "Copies.hpp"
 #include "Phrases.hpp"
+#include "Strings.hpp"
 
 namespace imageposition::messages {
 
@@ -51,8 +52,8 @@ std::string queueGone(const std::string &queue) {
 }
 std::string queueRefuses(const std::string &queue) {
   return text("The printer \"{1}\" is not accepting jobs. Choose another printer, or let it accept "
-              "jobs again (cupsaccept {1}).")
-      .with(queue);
+              "jobs again: cupsaccept {2}")
+      .with(queue, shellWord(queue));
 }
 std::string notAllowed(const std::string &queue, const std::string &reason) {
   return text("You are not allowed to print on \"{1}\"{2}. Print as another user, choose another "
@@ -111,8 +112,8 @@ std::string noRoomToSend(const std::string &reason) {
 }
 std::string jobLeftBehind(const std::string &message, const std::string &queue, int job) {
   const std::string name = queue + "-" + std::to_string(job);
-  return text("{1} The unfinished job {2} could not be removed. To remove it: cancel {2}")
-      .with(message, name);
+  return text("{1} The unfinished job {2} could not be removed. To remove it: cancel {3}")
+      .with(message, name, shellWord(name));
 }
 std::string jobTakenBack(const std::string &message, const std::string &queue, int job) {
   const std::string name = queue + "-" + std::to_string(job);
@@ -126,12 +127,12 @@ std::string jobCancelled(const std::string &queue, int job) {
 }
 const Text kStandardInput = text("standard input");
 std::string waitsForPrinter(const std::string &queue, const std::string &state) {
-  return text("The printer \"{1}\" is not printing ({2}). CUPS keeps the job and prints it when "
-              "the printer is resumed (cupsenable {1}).")
-      .with(queue, state);
+  return text("CUPS keeps the job, because the printer \"{1}\" is not printing. Its state: {2}. To "
+              "resume it: cupsenable {3}")
+      .with(queue, state, shellWord(queue));
 }
 std::string waitsForRelease(const std::string &queue, int job, const std::string &until) {
-  const std::string name = queue + "-" + std::to_string(job);
+  const std::string name = shellWord(queue + "-" + std::to_string(job));
   if (until == "indefinite")
     return text("The job is on hold. To print it now: lp -i {1} -H resume").with(name);
   return text("The job is on hold until {2}. To print it now: lp -i {1} -H resume")
@@ -164,7 +165,7 @@ const Text kOddPages = text("Odd");
 const Text kEvenPages = text("Even");
 const Text kOptionsPane = text("Printer options");
 const Text kJobSection = text("Job");
-const Text kSentSection = text("As sent to CUPS");
+const Text kOtherSection = text("Other settings");
 std::string differingValue(const std::string &value, const std::string &usual) {
   return text("{1}  (usually {2})").with(value, usual);
 }

@@ -73,7 +73,7 @@ extern const Text kOddPages;
 extern const Text kEvenPages;
 extern const Text kOptionsPane;
 extern const Text kJobSection;
-extern const Text kSentSection; ///< Heads the list of options as sent to CUPS.
+extern const Text kOtherSection; ///< Heads the options that only CUPS has a name for.
 
 /// A value in the summary that differs from the printer's default, `usual`.
 std::string differingValue(const std::string &value, const std::string &usual);

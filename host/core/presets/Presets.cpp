@@ -3,6 +3,7 @@
 #include "CustomValue.hpp"
 #include "DestinationFile.hpp"
 #include "ExitCode.hpp"
+#include "FileLock.hpp"
 #include "FileReplacement.hpp"
 #include "ForeignText.hpp"
 #include "OptionText.hpp"
@@ -18,7 +19,6 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <set>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -81,35 +81,21 @@ std::vector<DestinationFile::Entry> allEntries() {
 
 /// Held while changing the file, from reading to writing it. Locks a separate file, because the
 /// guarded one is replaced.
-class Lock {
-public:
-  Lock() : file_(opened()) {
-    while (flock(file_.get(), LOCK_EX) != 0)
-      if (errno != EINTR)
-        failToWrite(systemReason(errno));
+FileLock lockPresets() {
+  const std::string folder = ownFolder();
+  if (!folder.empty())
+    mkdir(folder.c_str(), 0700); // opening the file reports any error
+  try {
+    return FileLock(ownPath() + ".lock");
+  } catch (const FileTrouble &trouble) {
+    failToWrite(trouble.what());
   }
-  Lock(const Lock &) = delete;
-  Lock &operator=(const Lock &) = delete;
-
-private:
-  static Descriptor opened() {
-    const std::string folder = ownFolder();
-    if (!folder.empty())
-      mkdir(folder.c_str(), 0700); // open reports any error
-    Descriptor file(open((ownPath() + ".lock").c_str(),
-                         O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
-    if (!file.isOpen())
-      failToWrite(systemReason(errno));
-    return file;
-  }
-
-  Descriptor file_;
-};
+}
 
 /// Reads, changes and writes the file under the lock. lpoptions(1) and CUPS's other programs ignore
 /// the lock: if one of them writes meanwhile, tries again with its version.
 template <typename Change> void changeFile(Change &&change) {
-  const Lock lock;
+  const FileLock lock = lockPresets();
   for (;;) {
     const std::string before = contentOf(ownPath());
     DestinationFile file(before);

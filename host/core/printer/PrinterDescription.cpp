@@ -9,6 +9,7 @@
 #include "PrinterFailure.hpp"
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
+#include "UsualTexts.hpp"
 #include "VisibleText.hpp"
 
 #include <algorithm>
@@ -179,10 +180,10 @@ const std::vector<OptionConstraint> &PrinterDescription::constraints() {
 
 void PrinterDescription::localize(const std::string &path, const std::string &queue) {
   ppdLocalize(ppd());
-  if (!isMissingTexts(*ppd()))
-    return;
   const bool isReadAgain = kindOf(path) == S_IFREG; // a pipe can be read only once
-  fillMissingTexts(*ppd(), isReadAgain ? readTranslations(path) : Translations(), queue);
+  if (isMissingTexts(*ppd()))
+    fillMissingTexts(*ppd(), isReadAgain ? readTranslations(path) : Translations(), queue);
+  translateUsualTexts(*ppd());
 }
 
 void PrinterDescription::markLists(const PrintSettingsStore &job) {

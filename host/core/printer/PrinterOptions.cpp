@@ -169,6 +169,16 @@ std::string PrinterOption::textOfSeveral(const ChoiceList &list) const {
   return names.empty() ? messages::kNothingChosen.str() : messages::inOrder(names);
 }
 
+bool isPrinterOption(const PrinterDescription &printer, const std::string &name) {
+  const auto isOption = [&](const char *keyword) {
+    return ppdFindOption(printer.ppd(), keyword) != nullptr;
+  };
+  return isOption(name.c_str()) ||
+         std::any_of(std::begin(kAliases), std::end(kAliases), [&](const auto &names) {
+           return isSame(names.second, name) && isOption(names.first);
+         });
+}
+
 PrinterOptions::PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job)
     : printer_(printer), job_(job) {}
 

@@ -41,6 +41,10 @@ private:
   std::string textOfSeveral(const ChoiceList &list) const;
 };
 
+/// Whether a job's setting of this name is the choice of one of the printer's options: it has the
+/// option's keyword or another name for it, such as "sides" for "Duplex".
+bool isPrinterOption(const PrinterDescription &printer, const std::string &name);
+
 struct OptionGroup {
   std::string keyword;
   std::string text; ///< Never empty.

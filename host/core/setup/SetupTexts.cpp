@@ -1,9 +1,12 @@
 #include "SetupTexts.hpp"
 
+#include "Strings.hpp"
+
 namespace imageposition::messages {
 
 std::string ticketWritten(const std::string &path, const std::string &optionPath) {
-  return text("The job's settings are in {1} and {2}.").with(path, optionPath);
+  return text("The job's settings are in {1} and {2}.")
+      .with(shellWord(path), shellWord(optionPath));
 }
 std::string outputUnwritable(const std::string &done) {
   if (done.empty())

@@ -190,7 +190,7 @@ bool operator==(const Preview &a, const Preview &b) noexcept {
          a.page.imageable == b.page.imageable && a.page.isSizeKnown == b.page.isSizeKnown &&
          a.page.isImageableKnown == b.page.isImageableKnown && a.turning == b.turning &&
          a.availability == b.availability && a.front == b.front && a.back == b.back &&
-         a.backSeenThrough == b.backSeenThrough;
+         a.frontSeenThrough == b.frontSeenThrough;
 }
 
 bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) noexcept {
@@ -219,8 +219,8 @@ Preview makePreview(const PreviewRequest &request) {
   if (request.turning == Turning::OneSided)
     return preview;
   preview.back = shiftedSide(request.page, shifts ? request.back : Offset{});
-  preview.backSeenThrough =
-      mirrored(*preview.back, request.page, turnsAboutVerticalAxis(request.page, request.turning));
+  preview.frontSeenThrough =
+      mirrored(preview.front, request.page, turnsAboutVerticalAxis(request.page, request.turning));
   return preview;
 }
 
@@ -240,8 +240,10 @@ std::vector<std::string> describePreview(const Preview &preview) {
   }
   describeShifts(preview.front, *preview.back, sentences);
   const Offset apart = backAgainstFront(preview);
-  sentences.push_back(isZero(apart) ? messages::kPreviewSidesCoincide
-                                    : messages::previewBackAgainstFront(directions(apart)));
+  if (!isZero(apart))
+    sentences.push_back(messages::previewBackAgainstFront(directions(apart)));
+  else if (!isZero(preview.back->offset))
+    sentences.emplace_back(messages::kPreviewSidesTogether);
   if (const std::string edges = lostEdges(preview.front); !edges.empty())
     sentences.push_back(messages::previewFrontLoses(edges));
   if (const std::string edges = lostEdges(*preview.back); !edges.empty())
@@ -250,10 +252,10 @@ std::vector<std::string> describePreview(const Preview &preview) {
 }
 
 Offset backAgainstFront(const Preview &preview) {
-  if (!preview.backSeenThrough)
+  if (!preview.frontSeenThrough)
     return {};
-  const Offset &back = preview.backSeenThrough->offset;
-  return {back.right - preview.front.offset.right, back.down - preview.front.offset.down};
+  const Offset &front = preview.frontSeenThrough->offset;
+  return {preview.back->offset.right - front.right, preview.back->offset.down - front.down};
 }
 
 } // namespace imageposition

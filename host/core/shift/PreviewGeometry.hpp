@@ -68,9 +68,9 @@ struct Preview {
   SidePreview front;
   /// As the reader of the back sees it. None for one-sided printing.
   std::optional<SidePreview> back;
-  /// The back as it lies behind the front when the sheet is held against the light, front towards
-  /// the reader: mirrored left-right or top-bottom. None for one-sided printing.
-  std::optional<SidePreview> backSeenThrough;
+  /// The front as it shines through the back when the sheet is held against the light, with the
+  /// back towards the reader: mirrored left-right or top-bottom. None for one-sided printing.
+  std::optional<SidePreview> frontSeenThrough;
 };
 
 bool operator==(const Offset &a, const Offset &b) noexcept;
@@ -90,12 +90,12 @@ Preview makePreview(const PreviewRequest &request);
 /// Combines `readPreviewRequest` and `makePreview`.
 Preview makePreview(const PrintSettingsStore &job, ppd_file_t *ppd);
 
-/// Whether the edge about which the sheet is turned runs down the page, which mirrors the back
+/// Whether the edge about which the sheet is turned runs down the page, which mirrors the front
 /// left-right. The long edges of a page that is wider than high run across it.
 bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) noexcept;
 
-/// The displacement of the back relative to the front, as the reader of the front sees it through
-/// the sheet. Zero for one-sided printing.
+/// How far the settings move the back relative to the front, as the reader of the back sees it
+/// against the light. Zero for one-sided printing.
 Offset backAgainstFront(const Preview &preview);
 
 /// Describes the picture, one sentence per element, for screen readers and the tool tip.

@@ -37,6 +37,10 @@ private:
   double lineHeight_;
 };
 
+bool overlap(const PixelRectangle &a, const PixelRectangle &b) {
+  return a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
+}
+
 PixelRectangle third(const PixelRectangle &row, std::size_t index, double gap) {
   const double width = std::max(0.0, std::floor((row.width - 2 * gap) / 3));
   return {row.x + static_cast<double>(index) * (width + gap), row.y, width, row.height};
@@ -63,8 +67,8 @@ TenthMillimetre squareFor(const Preview &preview) {
     return std::max(magnitude(offset.right), magnitude(offset.down));
   };
   std::int64_t reach = farthest(preview.front.offset);
-  if (preview.backSeenThrough)
-    reach = std::max(reach, farthest(preview.backSeenThrough->offset));
+  if (preview.back)
+    reach = std::max(reach, farthest(preview.back->offset));
   std::int64_t square = 2;
   while (reach > square * kSquares)
     square = nextSquare(square);
@@ -131,6 +135,29 @@ Pixel PreviewLayout::mark(const Offset &offset) const noexcept {
   const Pixel centre = gridCentre();
   return {centre.x + static_cast<double>(offset.right.count) * pixels,
           centre.y + static_cast<double>(offset.down.count) * pixels};
+}
+
+PixelRectangle PreviewLayout::labelPlace(const Pixel &mark, const PixelRectangle &size,
+                                         bool toTheLeft, bool above,
+                                         const std::vector<PixelRectangle> &taken) const {
+  constexpr double kAside = 11; // beside the mark's circle
+  const auto placed = [&](bool left, bool up, double away) -> PixelRectangle {
+    const double x = left ? mark.x - kAside - size.width : mark.x + kAside;
+    const double y = up ? mark.y - away - size.height : mark.y + away;
+    return {std::round(std::min(std::max(x, grid.x + 1), grid.right() - size.width - 1)),
+            std::round(std::min(std::max(y, grid.y + 1), grid.bottom() - size.height - 1)),
+            size.width, size.height};
+  };
+  constexpr double kNear = 4;
+  for (const double away : {kNear, kNear + size.height, kNear + 2 * size.height})
+    for (const bool left : {toTheLeft, !toTheLeft})
+      for (const bool up : {above, !above}) {
+        const PixelRectangle place = placed(left, up, away);
+        if (std::none_of(taken.begin(), taken.end(),
+                         [&](const PixelRectangle &other) { return overlap(place, other); }))
+          return place;
+      }
+  return placed(toTheLeft, above, kNear);
 }
 
 PixelRectangle PreviewLayout::onPage(Place place, const PageRectangle &rectangle) const noexcept {

@@ -63,6 +63,10 @@ struct PreviewLayout {
   int squaresPerNumber(double width) const noexcept;
   /// Where to draw a mark that is shifted by `offset`.
   Pixel mark(const Offset &offset) const noexcept;
+  /// Where to put a label of that size beside a mark: on the wanted side and, unless that covers a
+  /// rectangle in `taken`, on another one. Inside the grid.
+  PixelRectangle labelPlace(const Pixel &mark, const PixelRectangle &size, bool toTheLeft,
+                            bool above, const std::vector<PixelRectangle> &taken) const;
   PixelRectangle onPage(Place place, const PageRectangle &rectangle) const noexcept;
 };
 

@@ -20,10 +20,11 @@ std::string previewBothMoved(const std::string &directions) {
   return text("Each side moves {1}, as you look at that side.").with(directions);
 }
 std::string previewBackAgainstFront(const std::string &directions) {
-  return text("Held against the light, the back moves {1} relative to the front.").with(directions);
+  return text("Against the light, with the back towards you, the back moves {1} relative to the "
+              "front.")
+      .with(directions);
 }
-const Text kPreviewSidesCoincide =
-    text("Held against the light, the back lies exactly behind the front.");
+const Text kPreviewSidesTogether = text("Against the light, both sides move together.");
 std::string previewFrontLoses(const std::string &edges) {
   return text("A front that fills its printable area loses {1}.").with(edges);
 }

@@ -24,7 +24,7 @@ std::string previewFrontMoved(const std::string &directions);
 std::string previewBackMoved(const std::string &directions);
 std::string previewBothMoved(const std::string &directions);
 std::string previewBackAgainstFront(const std::string &directions);
-extern const Text kPreviewSidesCoincide;
+extern const Text kPreviewSidesTogether;
 std::string previewFrontLoses(const std::string &edges);
 std::string previewBackLoses(const std::string &edges);
 

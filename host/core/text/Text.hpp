@@ -23,6 +23,8 @@ class Text {
 public:
   constexpr Text(const char *context, const char *english) : context_(context), english_(english) {}
 
+  /// As written in the source.
+  std::string_view english() const { return english_; }
   /// The translation, valid until the program ends.
   std::string_view view() const;
   std::string str() const { return std::string(view()); }

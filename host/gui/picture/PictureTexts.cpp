@@ -11,11 +11,12 @@ const Text kPreviewPrintable = text("printable area");
 const Text kPreviewLost = text("cannot be printed");
 const Text kPreviewLongEdge = text("turned: long edge");
 const Text kPreviewShortEdge = text("turned: short edge");
-const Text kPreviewMarksCoincide = text("Back lies exactly behind front");
-const Text kPreviewEnlarged = text("Against the light, enlarged");
+const Text kPreviewNothingMoves = text("As set: nothing moves");
+const Text kPreviewMovesTogether = text("As set: both sides move together");
+const Text kPreviewEnlarged = text("Back towards you, enlarged");
 std::string previewSquare(const std::string &length) { return text("1 square = {1}").with(length); }
-std::string previewMarksApart(const std::string &arrows) {
-  return text("Back behind front: {1}").with(arrows);
+std::string previewMoves(const std::string &arrows) {
+  return text("As set: the back moves {1}").with(arrows);
 }
 
 } // namespace imageposition::messages

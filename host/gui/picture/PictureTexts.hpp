@@ -17,10 +17,13 @@ extern const Text kPreviewPrintable;
 extern const Text kPreviewLost;
 extern const Text kPreviewLongEdge;
 extern const Text kPreviewShortEdge;
-extern const Text kPreviewMarksCoincide;
 extern const Text kPreviewEnlarged;
+// What the settings do; where the sides really lie is unknown.
+extern const Text kPreviewNothingMoves;
+extern const Text kPreviewMovesTogether;
 std::string previewSquare(const std::string &length);
-std::string previewMarksApart(const std::string &arrows);
+/// `arrows` say how far the back moves against the front.
+std::string previewMoves(const std::string &arrows);
 
 } // namespace imageposition::messages
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 namespace imageposition {
 namespace {
@@ -34,31 +36,39 @@ void drawGridLines(const PreviewLayout &layout) {
   strokeLine({grid.x, crisp(centre.y)}, {grid.right(), crisp(centre.y)});
 }
 
-/// Labels both axes in millimetres, at every second square or less often.
-void drawScale(const PreviewLayout &layout) {
+/// A number on an axis.
+struct ScaleNumber {
+  std::string text;
+  PixelRectangle place;
+};
+
+/// Both axes in millimetres, at every second square or less often.
+std::vector<ScaleNumber> scaleNumbers(const PreviewLayout &layout) {
   const PixelRectangle &grid = layout.grid;
   const Pixel centre = layout.gridCentre();
   const double line = previewLineHeight();
   const auto label = [&](int squares) {
     return numberText({std::abs(squares) * layout.squareLength.count});
   };
+  std::vector<ScaleNumber> numbers;
   if (layout.squarePixels <= 0)
-    return;
+    return numbers;
   double widest = 0;
   for (int squares = 2; squares * layout.squarePixels < grid.width / 2 - line; squares += 2)
     widest = std::max(widest, widthOf(label(squares), previewFont()));
   const int every = layout.squaresPerNumber(widest);
   for (int squares = every; squares * layout.squarePixels < grid.width / 2 - line;
        squares += every) {
+    const std::string text = label(squares);
+    const double width = widthOf(text, previewFont());
     for (const int signedSquares : {-squares, squares}) {
       const double at = signedSquares * layout.squarePixels;
-      drawLine(label(squares), {centre.x + at, centre.y + 1, 0, line}, previewFont(),
-               previewColours().secondaryText, Alignment::Centre);
+      numbers.push_back({text, {centre.x + at - width / 2, centre.y + 1, width, line}});
       if (std::abs(at) + line / 2 < grid.height / 2)
-        drawLine(label(squares), {centre.x - 3, centre.y + at - line / 2, 0, line}, previewFont(),
-                 previewColours().secondaryText, Alignment::Right);
+        numbers.push_back({text, {centre.x - 3 - width, centre.y + at - line / 2, width, line}});
     }
   }
+  return numbers;
 }
 
 /// A cross in a circle for the front; a dashed cross in a diamond for the back.
@@ -110,42 +120,46 @@ void strokeMark(const PreviewLayout &layout, const Mark &mark) {
   [cross stroke];
 }
 
-/// Labels the mark on the given side, or as near to it as the label fits in the grid.
-void labelMark(const PreviewLayout &layout, const Mark &mark, bool toTheLeft, bool above) {
-  constexpr double kDistance = 11;
-  const PixelRectangle &grid = layout.grid;
-  const Pixel at = layout.mark(mark.offset);
-  const double line = previewLineHeight();
+/// Labels the mark where nothing in `taken` is covered, if possible. Adds the label's place to it.
+void labelMark(const PreviewLayout &layout, const Mark &mark, bool toTheLeft, bool above,
+               std::vector<PixelRectangle> &taken) {
   const double width = widthOf(mark.name, previewBoldFont()) + 4;
-  double left = toTheLeft ? at.x - kDistance - width : at.x + kDistance;
-  double top = above ? at.y - 4 - line : at.y + 4;
-  left = std::min(std::max(left, grid.x + 1), grid.right() - width - 1);
-  top = std::min(std::max(top, grid.y + 1), grid.bottom() - line - 1);
-  const PixelRectangle place = {std::round(left), std::round(top), width, line};
+  const PixelRectangle place = layout.labelPlace(
+      layout.mark(mark.offset), {0, 0, width, previewLineHeight()}, toTheLeft, above, taken);
   setColour(previewColours().paper, 0.85);
   [NSBezierPath fillRect:toRect(place)];
   drawLine(mark.name, place, previewBoldFont(), mark.colour, Alignment::Centre);
+  taken.push_back(place);
 }
 
-void drawMarks(const Preview &preview, const PreviewLayout &layout) {
-  const Mark front = {preview.front.offset, previewColours().front, messages::kPreviewFront, false};
-  const Mark back = {preview.backSeenThrough->offset, previewColours().back, messages::kPreviewBack,
-                     true};
+void drawMarks(const Preview &preview, const PreviewLayout &layout,
+               std::vector<PixelRectangle> taken) {
+  const Mark front = {preview.frontSeenThrough->offset, previewColours().front,
+                      messages::kPreviewFront, false};
+  const Mark back = {preview.back->offset, previewColours().back, messages::kPreviewBack, true};
   const bool frontIsLeft = front.offset.right.count <= back.offset.right.count;
   strokeShift(layout, front);
   strokeShift(layout, back);
   const bool frontIsAbove = front.offset.down.count <= back.offset.down.count;
-  labelMark(layout, front, frontIsLeft, frontIsAbove);
-  labelMark(layout, back, !frontIsLeft, !frontIsAbove);
+  labelMark(layout, front, frontIsLeft, frontIsAbove, taken);
+  labelMark(layout, back, !frontIsLeft, !frontIsAbove, taken);
   strokeMark(layout, front);
   strokeMark(layout, back);
+}
+
+/// What the settings do to the back.
+std::string movement(const Preview &preview) {
+  if (const std::string apart = arrowText(backAgainstFront(preview)); !apart.empty())
+    return messages::previewMoves(apart);
+  return preview.back->offset == Offset{} ? messages::kPreviewNothingMoves
+                                          : messages::kPreviewMovesTogether;
 }
 
 } // namespace
 
 void drawPreviewMarks(const Preview &preview, const PreviewLayout &layout) {
   const PreviewColours &colours = previewColours();
-  if (!preview.availability.isAvailable() || !preview.backSeenThrough) {
+  if (!preview.availability.isAvailable() || !preview.frontSeenThrough) {
     drawParagraph(reasonText(preview.availability), layout.grid, previewBoldFont(), colours.text);
     return;
   }
@@ -160,13 +174,16 @@ void drawPreviewMarks(const Preview &preview, const PreviewLayout &layout) {
   [NSGraphicsContext saveGraphicsState];
   NSRectClip(toRect(layout.grid));
   drawGridLines(layout);
-  drawScale(layout);
-  drawMarks(preview, layout);
+  std::vector<PixelRectangle> taken;
+  for (const ScaleNumber &number : scaleNumbers(layout)) {
+    drawLine(number.text, number.place, previewFont(), previewColours().secondaryText,
+             Alignment::Left);
+    taken.push_back(number.place);
+  }
+  drawMarks(preview, layout, std::move(taken));
   [NSGraphicsContext restoreGraphicsState];
   strokeRectangle(layout.grid, colours.outline, false);
-  const std::string apart = arrowText(backAgainstFront(preview));
-  drawLine(apart.empty() ? messages::kPreviewMarksCoincide : messages::previewMarksApart(apart),
-           layout.relation, previewFont(), colours.text, Alignment::Left);
+  drawLine(movement(preview), layout.relation, previewFont(), colours.text, Alignment::Left);
 }
 
 } // namespace imageposition

@@ -59,20 +59,22 @@ void drawBlocks(const DrawnSide &drawn, const PixelRectangle &content) {
   }
 }
 
-/// Widens a narrow loss to a visible size, away from the imageable area.
-PixelRectangle visibleLoss(PixelRectangle loss, const PixelRectangle &imageable) {
-  constexpr double kNarrowest = 4;
-  const double width = std::max(kNarrowest, loss.width);
-  const double height = std::max(kNarrowest, loss.height);
-  if (loss.right() <= imageable.x)
-    loss = {loss.right() - width, loss.y, width, loss.height};
-  else if (loss.x >= imageable.right())
-    loss.width = width;
-  if (loss.bottom() <= imageable.y)
-    loss = {loss.x, loss.bottom() - height, loss.width, height};
-  else if (loss.y >= imageable.bottom())
-    loss.height = height;
+/// To scale, but at least one pixel wide, beside the imageable area.
+PixelRectangle visibleLoss(const PixelRectangle &exact, const PixelRectangle &imageable) {
+  PixelRectangle loss = rounded(exact);
+  if (loss.width < 1)
+    loss = {loss.x < imageable.x + 1 ? imageable.x - 1 : imageable.right(), loss.y, 1, loss.height};
+  if (loss.height < 1)
+    loss = {loss.x, loss.y < imageable.y + 1 ? imageable.y - 1 : imageable.bottom(), loss.width, 1};
   return loss;
+}
+
+void drawLoss(const PixelRectangle &loss) {
+  constexpr double kNarrow = 3; // a pattern would not be recognized
+  if (std::min(loss.width, loss.height) < kNarrow)
+    fill(loss, previewColours().lost, 1);
+  else
+    hatch(loss, previewColours().lost);
 }
 
 void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const DrawnSide &drawn) {
@@ -84,17 +86,17 @@ void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const Dra
   drawBlocks(drawn, content);
   [NSGraphicsContext restoreGraphicsState];
   for (const PageRectangle &part : drawn.side->lost)
-    hatch(visibleLoss(rounded(layout.onPage(place, part)), imageable), previewColours().lost);
+    drawLoss(visibleLoss(layout.onPage(place, part), imageable));
   strokeRectangle(imageable, previewColours().printable, true);
   strokeRectangle(content, drawn.colour, drawn.isBack);
 }
 
-/// The edge about which the sheet is turned.
+/// The edge about which the sheet is turned, as seen from the back.
 void drawTurningEdge(const PixelRectangle &page, bool isVertical) {
   constexpr double kThickness = 3;
-  const PixelRectangle edge = isVertical
-                                  ? PixelRectangle{page.x - 1, page.y, kThickness, page.height}
-                                  : PixelRectangle{page.x, page.y - 1, page.width, kThickness};
+  const PixelRectangle edge =
+      isVertical ? PixelRectangle{page.right() - 2, page.y, kThickness, page.height}
+                 : PixelRectangle{page.x, page.bottom() - 2, page.width, kThickness};
   fill(edge, previewColours().text, 1);
 }
 
@@ -119,7 +121,8 @@ void clipAround(const PixelRectangle &page) {
   NSRectClip(NSInsetRect(toRect(page), -previewLineHeight() / 2, -previewLineHeight() / 4));
 }
 
-void drawBackBehindFront(const Preview &preview, const PreviewLayout &layout) {
+/// With the back towards the reader.
+void drawAgainstLight(const Preview &preview, const PreviewLayout &layout) {
   const PreviewColours &colours = previewColours();
   const PagePlace &place = layout.pages[PreviewLayout::AgainstLight];
   const bool vertical = turnsAboutVerticalAxis(preview.page, preview.turning);
@@ -127,9 +130,9 @@ void drawBackBehindFront(const Preview &preview, const PreviewLayout &layout) {
   [NSGraphicsContext saveGraphicsState];
   clipAround(place.page);
   drawSide(layout, PreviewLayout::AgainstLight,
-           {&*preview.backSeenThrough, colours.back, true, vertical, !vertical});
-  strokeRectangle(rounded(layout.onPage(PreviewLayout::AgainstLight, preview.front.content)),
-                  colours.front, false);
+           {&*preview.frontSeenThrough, colours.front, false, vertical, !vertical});
+  strokeRectangle(rounded(layout.onPage(PreviewLayout::AgainstLight, preview.back->content)),
+                  colours.back, true);
   [NSGraphicsContext restoreGraphicsState];
   drawTurningEdge(place.page, vertical);
   drawTexts(place, messages::kPreviewAgainstLight,
@@ -177,7 +180,7 @@ void drawPreviewPages(const Preview &preview, const PreviewLayout &layout) {
   if (preview.back) {
     drawPage(layout, PreviewLayout::Back, {&*preview.back, colours.back, true},
              messages::kPreviewBack);
-    drawBackBehindFront(preview, layout);
+    drawAgainstLight(preview, layout);
   }
   const double next =
       drawLegendEntry(layout.legend.x, layout.legend, messages::kPreviewPrintable, false);

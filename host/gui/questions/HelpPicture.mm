@@ -91,17 +91,17 @@ void drawPlus(double x, double y) {
   strokeRectangle(page, colours.outline, false);
   const PixelRectangle place{page.x + 36, page.y + 40, kPageWidth - 60, kPageHeight - 70};
   const PixelRectangle image = moved(place, -kShift);
-  drawContent(image, colours.front);
-  strokeRectangle(image, colours.front, false);
-  strokeRectangle(place, colours.back, true);
+  drawContent(image, colours.back);
+  strokeRectangle(image, colours.back, true);
+  strokeRectangle(place, colours.front, false);
   const double middle = image.y + 52;
   drawArrow(NSMakePoint(image.right(), middle), NSMakePoint(place.right(), middle), colours.text);
   const double centre = image.x + image.width / 2;
   drawArrow(NSMakePoint(centre, image.bottom()), NSMakePoint(centre, place.bottom()), colours.text);
   drawPlus(image.right() + kShift / 2, middle - 12);
   drawPlus(centre - 12, image.bottom() + kShift / 2);
-  drawLegend(texts.printed, page.bottom() + kGap, colours.front, false);
-  drawLegend(texts.wanted, page.bottom() + kGap + previewLineHeight() + 4, colours.back, true);
+  drawLegend(texts.printed, page.bottom() + kGap, colours.back, true);
+  drawLegend(texts.wanted, page.bottom() + kGap + previewLineHeight() + 4, colours.front, false);
 }
 
 @end

@@ -5,16 +5,22 @@ namespace imageposition {
 std::vector<HelpSection> helpSections() {
   return {
       {text("Make both sides meet"),
-       {text("Print a page with a frame or crosses on both sides of one sheet."),
-        text("Hold the sheet against the light and measure how far each side is from its place."),
-        text("Enter the distance back to its place in tenths of a millimetre: 15 moves the image "
-             "1.5 mm one way, −15 the other way."),
-        text("Print again. If a small error remains, add it to the numbers that you entered.")},
+       {text("Check \"Use separate offsets for the back side\"."),
+        text("Print a page with a frame or crosses on both sides of one sheet."),
+        text("Hold the sheet against the light, with the back towards you. The front shines "
+             "through."),
+        text("Measure how far the back is from the front, in tenths of a millimetre."),
+        // Translators: a number and its direction, as in "A positive number moves the image right".
+        text("Type that number into the back's fields, with the opposite sign. Is the back 1.5 mm "
+             "too far right? Type −15. Too far left? Type 15. Too low? Type a negative number. Too "
+             "high? Type a positive one."),
+        text("Print again. Is there a small error left? Measure it, and add its opposite to the "
+             "number in the field.")},
        true},
       {text("Positive is right and down"),
-       {text("Look at the side that you measured: positive numbers move its image right and down, "
-             "negative numbers left and up. Without separate offsets for the back, the front's "
-             "offsets move both sides.")}},
+       {text("A positive number moves the image right or down, as you look at that side. A "
+             "negative number moves it left or up."),
+        text("While the box is not checked, the front's offsets move both sides.")}},
       {text("Keep the offsets"),
        {text("A preset saves all settings for this printer under a name. lp -d printer/preset "
              "prints with them too."),
@@ -27,8 +33,8 @@ std::vector<HelpSection> helpSections() {
 }
 
 HelpPictureTexts helpPictureTexts() {
-  return {textIn("help picture", "where it was printed"),
-          textIn("help picture", "where it belongs")};
+  return {textIn("help picture", "the back, as printed"),
+          textIn("help picture", "the front, shining through")};
 }
 
 namespace messages {

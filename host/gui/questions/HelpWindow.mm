@@ -137,7 +137,8 @@ using namespace imageposition;
   NSView *const content = makeContent();
   const NSSize room = roomOnScreen();
   const CGFloat foot = 2 * kPanelMargin + kButtonHeight;
-  const NSSize text = [content frame].size;
+  const CGFloat ring = 2 * [KeyScrollView roomForFocus];
+  const NSSize text = {[content frame].size.width + ring, [content frame].size.height + ring};
   const CGFloat height = std::min(text.height, room.height - foot - kPanelMargin);
   const CGFloat width = text.width + (height < text.height ? kScroller : 0);
   window = [[BesideWindow alloc]
@@ -150,6 +151,7 @@ using namespace imageposition;
   [window setDelegate:self];
   KeyScrollView *const scroll = [[[KeyScrollView alloc]
       initWithFrame:NSMakeRect(kPanelMargin, foot, width, height)] autorelease];
+  [scroll leaveRoomForFocus];
   [scroll showRows:content];
   [[window contentView] addSubview:scroll];
   NSButton *const close = makeButton(messages::kClose, self, @selector(dismiss));

@@ -31,6 +31,8 @@ public:
   /// The lower edge of the content.
   CGFloat bottom() const noexcept;
   void add(NSView *view);
+  /// Makes Return cancel. Returns the button that should have the focus.
+  NSButton *preferCancel();
 
   /// Shows the window in the middle of `parent`, or if that is null, of the screen, and waits; true
   /// when the user confirmed. `order`

@@ -95,6 +95,11 @@ ModalPanel::~ModalPanel() {
 
 CGFloat ModalPanel::bottom() const noexcept { return 2 * kPanelMargin + kButtonHeight; }
 
+NSButton *ModalPanel::preferCancel() {
+  [window_ setDefaultButtonCell:[cancel_ cell]];
+  return cancel_;
+}
+
 void ModalPanel::add(NSView *view) { [[window_ contentView] addSubview:view]; }
 
 bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first,

@@ -56,7 +56,7 @@ bool mayWrite(NSWindow *parent, const std::string &path) {
 
 bool mayReplace(NSWindow *parent, const std::string &name) {
   return isConfirmed(parent, {messages::kReplace, messages::alreadyExists(name), messages::kReplace,
-                              messages::kCancel});
+                              messages::kCancel, true});
 }
 
 std::optional<std::string> askForName(NSWindow *parent, const NameQuestion &question,

@@ -14,8 +14,9 @@ void showNote(NSWindow *parent, const std::string &title, const std::string &not
 struct Proposal {
   std::string title;
   std::string text;
-  std::string confirmTitle; ///< Of the button that Return presses.
-  std::string cancelTitle;  ///< Of the button that Escape presses.
+  std::string confirmTitle;
+  std::string cancelTitle;     ///< Of the button that Escape presses.
+  bool losesSomething = false; ///< Return cancels, too; else it confirms.
 };
 
 /// Shows the text over `parent`; true when the user confirmed. Main thread.

@@ -17,13 +17,13 @@ bool show(NSWindow *parent, const Proposal &proposal, CGFloat width) {
                    proposal.cancelTitle);
   [text setFrameOrigin:NSMakePoint(kPanelMargin, panel.bottom())];
   panel.add(text);
-  return panel.run(parent, {});
+  return panel.run(parent, {}, proposal.losesSomething ? panel.preferCancel() : nil);
 }
 
 } // namespace
 
 void showNote(NSWindow *parent, const std::string &title, const std::string &note) {
-  show(parent, {title, note, messages::kClose, {}}, kNoteWidth);
+  show(parent, {title, note, messages::kClose, {}, false}, kNoteWidth);
 }
 
 bool isConfirmed(NSWindow *parent, const Proposal &proposal) {

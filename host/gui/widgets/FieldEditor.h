@@ -31,7 +31,7 @@ struct FieldEditorState;
 
 /// Undoes edits since the field got the focus. In a field that takes numbers, enters the digits and
 /// signs of all scripts as ASCII characters, and counts with the arrow keys. The field may filter
-/// what is entered.
+/// numbers that are entered; it never gets anything else.
 @interface FieldEditor : NSTextView {
   NSWindow *owner;                        ///< Not owned.
   imageposition::FieldEditorState *state; ///< Owned.
@@ -39,6 +39,8 @@ struct FieldEditorState;
 - (id)initForWindow:(NSWindow *)window;
 /// Restores the content before the last edit.
 - (void)undoEdit:(id)sender;
+/// Called before the field loses the focus. What is no number becomes the number before.
+- (void)finishEdits;
 /// Called after the field has lost the focus.
 - (void)endEdits;
 @end

@@ -14,6 +14,7 @@ struct imageposition::FieldEditorState {
   bool isNumber = false;
   std::vector<std::string> earlier;   // contents to restore
   std::string shown;                  // the content after the last edit
+  std::string kept;                   // the number, unless what is entered is one
   std::string typed;                  // what the field has changed; empty if it agrees
   std::optional<std::string> typedOn; // `typed` with what is being added to its end
   bool isTyping = false;              // the last edit was a key's
@@ -44,6 +45,8 @@ private:
 - (void)forget;
 - (void)replaceWith:(const std::string &)text;
 - (BOOL)step:(long)distance;
+/// Whether the content is a whole number or the beginning of one.
+- (BOOL)canBecomeNumber;
 - (void)report:(NumberEdit::Kind)kind;
 @end
 
@@ -81,6 +84,18 @@ private:
   state->isNumber = isWholeNumber(toText([self string])) &&
                     [delegate respondsToSelector:@selector(takesNumbers:)] &&
                     [delegate takesNumbers:field];
+  state->kept = toText([self string]);
+}
+
+- (void)finishEdits {
+  const std::string content = toText([self string]);
+  if (!state->isNumber || state->isBusy || [self delegate] != state->field || content.empty() ||
+      isWholeNumber(content))
+    return;
+  const Flag busy(state->isBusy);
+  [self setString:toString(state->kept)];
+  [super didChangeText];
+  state->typed = content;
 }
 
 - (void)endEdits {
@@ -140,18 +155,28 @@ private:
 /// Called after every edit of the user. Tells the field, which may filter its content.
 - (void)didChangeText {
   const Flag busy(state->isBusy);
+  if (state->isNumber && ![self canBecomeNumber]) { // the field would make another number of it
+    state->typed = state->shown = toText([self string]);
+    [self report:NumberEdit::Kind::Typed];
+    return;
+  }
   state->typed = state->typedOn.value_or(toText([self string]));
   [super didChangeText];
   state->shown = toText([self string]);
   if (!state->isNumber)
     return;
   if (state->isStepping)
-    state->typed = state->shown;
+    state->typed = state->kept = state->shown;
   [self report:state->isStepping ? NumberEdit::Kind::Stepped : NumberEdit::Kind::Typed];
   state->shown = toText([self string]);
   const bool isSame = isWholeNumber(state->typed) && isSameNumber(state->typed, state->shown);
   if (isSame || state->isStepping || state->typed == state->shown)
     state->typed.clear();
+}
+
+- (BOOL)canBecomeNumber {
+  const std::string content = toText([self string]);
+  return content.empty() || content == "-" || content == "+" || isWholeNumber(content);
 }
 
 - (void)replaceWith:(const std::string &)text {
@@ -183,6 +208,17 @@ private:
   [self replaceWith:std::to_string(std::strtol(number.c_str(), nullptr, 10) + distance)];
   [self selectAll:nil];
   return YES;
+}
+
+// The field takes its text before the window moves the focus.
+- (void)insertTab:(id)sender {
+  [self finishEdits];
+  [super insertTab:sender];
+}
+
+- (void)insertBacktab:(id)sender {
+  [self finishEdits];
+  [super insertBacktab:sender];
 }
 
 - (void)moveUp:(id)sender {

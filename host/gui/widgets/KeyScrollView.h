@@ -8,13 +8,19 @@
 /// and End move the content. Scrolls vertically unless told otherwise.
 @interface KeyScrollView : NSScrollView {
   BOOL isSideways;
+  BOOL hasRoomForFocus;
 }
 /// Shows `rows`, a flipped view as high as its content, from the top.
 - (void)showRows:(NSView *)rows;
 /// Whether some of the content is out of sight.
 - (BOOL)hasMore;
-/// Scrolls content that is too wide, by mouse.
-- (void)scrollSidewaysToo;
+/// Shows exactly these scrollers. GNUstep finds out by itself which ones are needed, but in both
+/// directions it may not come to an end.
+- (void)scrollUpright:(BOOL)upright sideways:(BOOL)sideways;
+/// Shows the focus around the content instead of on it.
+- (void)leaveRoomForFocus;
+/// Between the frame and the content, once there is room for the focus.
++ (CGFloat)roomForFocus;
 @end
 
 #endif

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr CGFloat kLine = 20;
+constexpr CGFloat kRoomForFocus = 6;
 constexpr CGFloat kNotch = 75; // of the mouse's wheel: about three rows of controls
 
 /// How far a key moves the content, downwards; 0 for other keys.
@@ -57,13 +58,38 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
   [[self horizontalScroller] setArrowsPosition:NSScrollerArrowsNone];
 }
 
-- (void)scrollSidewaysToo {
+- (void)scrollUpright:(BOOL)upright sideways:(BOOL)sideways {
+  [self setAutohidesScrollers:NO];
   isSideways = YES;
-  [self setHasHorizontalScroller:YES];
+  if ([self hasVerticalScroller] != upright)
+    [self setHasVerticalScroller:upright];
+  if ([self hasHorizontalScroller] != sideways)
+    [self setHasHorizontalScroller:sideways];
+}
+
+- (void)leaveRoomForFocus {
+  hasRoomForFocus = YES;
+  [self setAutohidesScrollers:NO]; // GNUstep would count without the room
+  [self setHasVerticalScroller:NO];
+  [self tile];
+}
+
++ (CGFloat)roomForFocus {
+  return kRoomForFocus;
+}
+
+- (void)tile {
+  [super tile];
+  if (!hasRoomForFocus)
+    return;
+  NSView *const clip = [self contentView];
+  const NSRect frame = NSInsetRect([clip frame], kRoomForFocus, kRoomForFocus);
+  [clip setFrameOrigin:frame.origin];
+  [clip setFrameSize:frame.size];
 }
 
 - (BOOL)hasMore {
-  return NSHeight([[self documentView] frame]) > [self contentSize].height + 0.5;
+  return NSHeight([[self documentView] frame]) > NSHeight([[self contentView] frame]) + 0.5;
 }
 
 - (void)showRows:(NSView *)rows {
@@ -71,6 +97,8 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
   frame.size.height = std::max(NSHeight(frame), [self contentSize].height);
   [rows setFrame:frame];
   [self setDocumentView:rows];
+  if (hasRoomForFocus)
+    [self setHasVerticalScroller:[self hasMore]];
 }
 
 - (BOOL)acceptsFirstResponder {

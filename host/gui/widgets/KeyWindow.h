@@ -61,6 +61,8 @@ void wakeModalLoop(NSWindow *window);
 - (void)reach:(NSView *)control by:(const std::string &)marked;
 /// The control that has the focus, also while its field editor has it; may be null.
 - (NSView *)focusedView;
+/// Scrolls to the view with the focus, if something may have covered it.
+- (void)keepFocusInSight;
 /// Gives the view the focus unless it has it. A field that loses the focus commits its text.
 - (void)focus:(NSView *)view;
 /// Runs code of the dialog outside an event, with the same protection. Returns false if it raised.

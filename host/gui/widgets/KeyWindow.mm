@@ -115,6 +115,11 @@ NSString *letterOf(NSEvent *event) {
   return isTyped && [letter length] > 0 ? letter : nil;
 }
 
+bool isPrintable(NSString *letter) {
+  const unichar character = [letter length] == 1 ? [letter characterAtIndex:0] : 0;
+  return character >= ' ' && (character < NSUpArrowFunctionKey || character > 0xF8FF);
+}
+
 bool canBeReached(NSView *control) {
   return ![control isHiddenOrHasHiddenAncestor] && [control window] != nil &&
          (![control isKindOfClass:[NSControl class]] || [(NSControl *)control isEnabled]);
@@ -167,6 +172,7 @@ bool canBeReached(NSView *control) {
   NSView *const leaving = [[[self focusedView] retain] autorelease];
   if (leaving != nil)
     running = leaving;
+  [fieldEditor finishEdits];
   const BOOL isTaken = [super makeFirstResponder:responder];
   running = before;
   NSView *const view = [self focusedView];
@@ -179,6 +185,11 @@ bool canBeReached(NSView *control) {
   if (isTaken && view != nil && [view window] == self)
     scrollIntoSight(view);
   return isTaken;
+}
+
+- (void)keepFocusInSight {
+  if (NSView *const view = [self focusedView])
+    scrollIntoSight(view);
 }
 
 - (void)focus:(NSView *)view {
@@ -301,7 +312,9 @@ bool canBeReached(NSView *control) {
   case Key::Other:
     break;
   }
-  return [self reachControl:event];
+  // A letter with Alt is not meant for a field, even if it is not a shortcut.
+  return [self reachControl:event] ||
+         ([focus isKindOfClass:[NSText class]] && isPrintable(letterOf(event)));
 }
 
 @end

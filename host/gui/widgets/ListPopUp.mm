@@ -1,5 +1,6 @@
 #import "ListPopUp.h"
 
+#import "Labels.h"
 #import "ListKeyEvent.h"
 #import "OpenList.h"
 
@@ -32,6 +33,16 @@ constexpr int kPage = 10; // items, for Page Up and Page Down in a closed list
 
 - (void)markLastItemAsCommand {
   [[self lastItem] setTag:kCommandTag];
+}
+
+/// GNUstep draws the title in one font, which may lack its characters.
+- (void)drawRect:(NSRect)dirty {
+  NSFont *const font = [[[self font] retain] autorelease];
+  NSString *const title = [[[self cell] menuItem] title];
+  if (title != nil)
+    [[self cell] setFont:imageposition::fontThatShows(title, font)];
+  [super drawRect:dirty];
+  [[self cell] setFont:font];
 }
 
 - (void)openList:(NSEvent *)event {

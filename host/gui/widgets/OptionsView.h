@@ -33,7 +33,7 @@ struct OptionsViewRow;
 @interface OptionsView : KeyScrollView {
   id<OptionsViewOwner> owner;                       ///< Not owned.
   std::vector<imageposition::OptionsViewRow> *rows; ///< Owned.
-  std::string *shape;                               ///< The options and checkboxes shown; owned.
+  std::string *shape; ///< The options and checkboxes shown, and the width; owned.
 }
 
 - (id)initWithFrame:(NSRect)frame owner:(id<OptionsViewOwner>)theOwner;

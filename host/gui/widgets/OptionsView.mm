@@ -195,7 +195,8 @@ void select(OptionsViewRow &row, const PrinterOption &option) {
 
 - (void)showGroups:(std::vector<OptionGroup>)groups {
   const std::size_t leftOut = cutToRows(groups, kMostRows);
-  const std::string wanted = shapeOf(groups) + std::to_string(leftOut);
+  const std::string wanted =
+      shapeOf(groups) + std::to_string(leftOut) + '\t' + std::to_string(NSWidth([self frame]));
   if (wanted != *shape || [self documentView] == nil)
     [self build:groups leavingOut:leftOut];
   *shape = wanted;

@@ -37,10 +37,17 @@ void placeOver(NSWindow *window, NSWindow *parent) {
 }
 
 void placeBeside(NSWindow *window, NSWindow *parent) {
-  const NSRect frame = [parent frame];
+  NSRect frame = [parent frame];
   const NSRect screen = [[parent screen] visibleFrame];
   const NSSize size = [window frame].size;
-  const bool isRight = NSMaxX(screen) - NSMaxX(frame) >= NSMinX(frame) - NSMinX(screen);
+  const CGFloat roomAtLeft = NSMinX(frame) - NSMinX(screen);
+  const CGFloat roomAtRight = NSMaxX(screen) - NSMaxX(frame);
+  // What the parent asks for is at its left.
+  const bool isRight = roomAtRight >= size.width || roomAtLeft < size.width;
+  if (isRight && roomAtRight < size.width && roomAtLeft + roomAtRight >= size.width) {
+    frame.origin.x = std::floor(NSMaxX(screen) - size.width - NSWidth(frame));
+    [parent setFrameOrigin:frame.origin];
+  }
   const NSPoint corner = NSMakePoint(isRight ? NSMaxX(frame) : NSMinX(frame) - size.width,
                                      NSMaxY(frame) - size.height);
   [window setFrameOrigin:onScreen(corner, size, screen)];

@@ -4,16 +4,18 @@
 
 #import "DialogLayout.h"
 #import "DialogServices.h"
+#import "ErrorLabel.h"
 
 @interface CopiesRow : NSObject {
   id<DialogServices> dialog; ///< Not owned.
   NSTextField *field;        ///< Owned; so below.
   NSStepper *stepper;
   NSButton *collate;
+  ErrorLabel *error;
 }
 
 - (id)initWithDialog:(id<DialogServices>)theDialog;
-- (imageposition::DialogRow)row;
+- (std::vector<imageposition::DialogRow>)rows;
 /// Shows what the job's settings say.
 - (void)refresh;
 /// Takes the number of copies into the job's settings. NO, with a message and the focus there, when

@@ -16,6 +16,7 @@ using namespace imageposition;
 - (void)copiesStepped:(id)sender;
 - (void)collateChanged:(id)sender;
 - (void)store:(int)copies;
+- (void)showError:(const std::string &)text;
 @end
 
 @implementation CopiesRow
@@ -31,12 +32,14 @@ using namespace imageposition;
   [stepper setValueWraps:NO];
   [stepper setTarget:self];
   [stepper setAction:@selector(copiesStepped:)];
+  error = [[ErrorLabel alloc] initWithFrame:NSZeroRect];
   collate = [makeSwitch(messages::kCollate, self, @selector(collateChanged:)) retain];
   return self;
 }
 
 - (void)dealloc {
   [field setDelegate:nil];
+  [error release];
   for (NSControl *control : {(NSControl *)field, (NSControl *)stepper, (NSControl *)collate}) {
     [control setTarget:nil];
     [control release];
@@ -44,15 +47,22 @@ using namespace imageposition;
   [super dealloc];
 }
 
-- (DialogRow)row {
-  return {messages::kCopiesRow,
-          {{field, false, 2}, {stepper}, {collate, false, 0, messages::kCollate}}};
+- (std::vector<DialogRow>)rows {
+  return {{messages::kCopiesRow,
+           {{field, false, 2}, {stepper}, {collate, false, 0, messages::kCollate}}},
+          {"", {{error, true}}}};
+}
+
+- (void)showError:(const std::string &)text {
+  if ([error showError:text width:kPopUpWidth])
+    [dialog layOut];
 }
 
 - (void)refresh {
   PrintJob &job = [dialog session].job();
   const char *const copies = job.settings().get("copies");
   [field setStringValue:toString(copies != nullptr ? copies : "1")];
+  [self showError:""];
   [stepper setIntValue:copies != nullptr ? nearestCopies(copies) : 1];
   [collate setState:isCollated(job.printer(), job.settings()) ? NSOnState : NSOffState];
 }
@@ -61,10 +71,11 @@ using namespace imageposition;
   const std::string typed = toText([field stringValue]);
   const auto copies = readCopies(typed);
   if (copies) {
+    [self showError:""];
     [self store:*copies];
     return YES;
   }
-  [dialog say:messages::copiesNotUnderstood()];
+  [self showError:messages::copiesNotUnderstood()];
   [[field window] makeFirstResponder:field];
   return NO;
 }
@@ -74,6 +85,12 @@ using namespace imageposition;
   PrintSettingsStore &settings = [dialog session].job().settings();
   if (copies != 1 || settings.get("copies") != nullptr)
     settings.set("copies", std::to_string(copies));
+}
+
+- (void)controlTextDidChange:(NSNotification *)notification {
+  (void)notification;
+  if (readCopies(toText([[field currentEditor] string])))
+    [self showError:""];
 }
 
 - (void)controlTextDidEndEditing:(NSNotification *)notification {
@@ -104,15 +121,17 @@ using namespace imageposition;
   const std::string typed = toText([field stringValue]);
   const auto copies = readCopies(typed);
   if (!copies) {
-    [dialog say:messages::copiesNotUnderstood()];
+    [self showError:messages::copiesNotUnderstood()];
     return;
   }
+  [self showError:""];
   [stepper setIntValue:*copies];
   [self store:*copies];
 }
 
 - (void)copiesStepped:(id)sender {
   [(KeyWindow *)[sender window] focus:field];
+  [self showError:""];
   const int copies = [stepper intValue];
   [field setIntValue:copies];
   [dialog session].job().settings().set("copies", std::to_string(copies));

@@ -23,8 +23,8 @@ struct RowControl {
   std::string title = {};    ///< Its own, with a key marked that reaches it; may be empty.
 };
 
-/// A title and its controls, from left to right; hidden ones take no room. The first control is
-/// reached by the title's key.
+/// A title and its controls, from left to right; hidden controls take no room, nor does a row of
+/// which all controls are hidden. The first control is reached by the title's key.
 struct DialogRow {
   std::string title; ///< With its key marked; may be empty.
   std::vector<RowControl> controls;
@@ -55,7 +55,8 @@ void addCommand(ListPopUp *popUp, const std::string &title, bool enabled = true)
 
 /// Gives the views their places and sizes; buttons and the controls of rows keep their sizes where
 /// there is room. In a wide window the picture stands beside everything else, in a narrow one
-/// beside the rows; both grow with the window. In a low one, rows and pane scroll, and the texts
+/// beside the rows; both grow with the window. A hidden picture leaves its room to the panes. In a
+/// low window, rows and pane scroll, and the texts
 /// take room only if they say something. The buttons stay visible.
 class DialogLayout {
 public:
@@ -80,9 +81,11 @@ private:
   void addViews();
   void placeFoot(NSSize size, bool hasRoom);
   void placeUpper(NSSize size, CGFloat foot);
+  CGFloat leastWidth() const;
+  NSRect placeAlone(CGFloat width, CGFloat paneTop);
   NSRect placeBeside(CGFloat width, CGFloat height, CGFloat paneTop);
   NSRect placeBelow(CGFloat width, CGFloat paneTop);
-  void placeRows(CGFloat middle);
+  void placeRows(CGFloat top);
   void linkKeys();
 
   const DialogContent content_;

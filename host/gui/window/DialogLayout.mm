@@ -40,6 +40,20 @@ void place(NSView *view, NSRect frame) {
   [view setFrameSize:frame.size];
 }
 
+bool isShown(const DialogRow &row) {
+  return std::any_of(row.controls.begin(), row.controls.end(),
+                     [](const RowControl &control) { return ![control.view isHidden]; });
+}
+
+/// A text may have several lines.
+CGFloat heightOf(const DialogRow &row) {
+  CGFloat height = kRowHeight;
+  for (const RowControl &control : row.controls)
+    if (control.takesRest)
+      height = std::max(height, NSHeight([control.view frame]));
+  return height;
+}
+
 /// The size of the window that shows everything, as far as the screen has room.
 NSSize wantedSize(NSSize pane, CGFloat rows, CGFloat rowsWidth, CGFloat foot, NSSize room) {
   const NSSize picture = [PreviewView preferredSize];
@@ -71,7 +85,10 @@ DialogLayout::DialogLayout(const DialogContent &content, NSSize pane, NSSize roo
 DialogLayout::~DialogLayout() { [scroll_ release]; }
 
 CGFloat DialogLayout::rowsHeight() const {
-  return static_cast<CGFloat>(content_.rows.size()) * (kRowHeight + kRowGap);
+  CGFloat height = 0;
+  for (const DialogRow &row : content_.rows)
+    height += isShown(row) ? heightOf(row) + kRowGap : 0;
+  return height;
 }
 
 CGFloat DialogLayout::rowsWidth() const { return titleWidth_ + kGap + kPopUpWidth; }
@@ -172,25 +189,46 @@ void DialogLayout::placeFoot(NSSize size, bool hasRoom) {
 }
 
 void DialogLayout::placeUpper(NSSize size, CGFloat foot) {
-  place(scroll_, NSMakeRect(0, foot, size.width, size.height));
+  const CGFloat scroller = [NSScroller scrollerWidth];
+  const bool hasPicture = ![content_.picture isHidden];
   const NSSize picture = [PreviewView preferredSize];
-  const bool isBeside = size.width - [NSScroller scrollerWidth] - rowsWidth() - 3 * kMargin >=
-                        kSmallestPicture * picture.width;
-  const CGFloat below = isBeside ? 0 : picture.height + kGap;
+  const bool isBeside = hasPicture && size.width - scroller - rowsWidth() - 3 * kMargin >=
+                                          kSmallestPicture * picture.width;
+  const CGFloat below = hasPicture && !isBeside ? picture.height + kGap : 0;
   const CGFloat paneHeight = std::min(pane_.height, kSmallestPaneHeight);
   const CGFloat needed = kMargin + rowsHeight() + kGap + paneHeight + below;
-  const bool scrolls = needed > size.height;
-  const CGFloat width = size.width - (scrolls ? [NSScroller scrollerWidth] : 0);
+  const CGFloat least = leastWidth();
+  const bool isTooNarrow = least > size.width - (needed > size.height ? scroller : 0);
+  const CGFloat inSight = size.height - (isTooNarrow ? scroller : 0);
+  const bool scrolls = needed > inSight;
+  const CGFloat width = std::max(least, size.width - (scrolls ? scroller : 0));
   // Where everything scrolls anyway, the pane need not scroll, too.
-  const CGFloat height = scrolls ? needed - paneHeight + pane_.height : size.height;
+  const CGFloat height = scrolls ? needed - paneHeight + pane_.height : inSight;
+  place(scroll_, NSMakeRect(0, foot, size.width, size.height));
+  [scroll_ scrollUpright:scrolls sideways:isTooNarrow];
   [upper_ setFrameSize:NSMakeSize(width, height)];
   if (scrolls && !scrolled_) // begins with the first control
     [upper_ scrollRectToVisible:NSMakeRect(0, height - 1, 1, 1)];
   scrolled_ = scrolls;
   const CGFloat paneTop = height - kMargin - rowsHeight() - kGap;
-  const NSRect pane = isBeside ? placeBeside(width, height, paneTop) : placeBelow(width, paneTop);
-  place(content_.paneArea, pane);
-  placeRows(height - kMargin - kRowHeight / 2);
+  place(content_.paneArea, !hasPicture ? placeAlone(width, paneTop)
+                           : isBeside  ? placeBeside(width, height, paneTop)
+                                       : placeBelow(width, paneTop));
+  placeRows(height - kMargin);
+}
+
+/// The width below which everything scrolls sideways: a panel cannot be narrower. It may scroll
+/// vertically.
+CGFloat DialogLayout::leastWidth() const {
+  const bool hasPanel = ![content_.picture isHidden];
+  const CGFloat pane = hasPanel ? pane_.width + [NSScroller scrollerWidth] + 2 : 0;
+  return std::max(pane, rowsWidth()) + 2 * kMargin;
+}
+
+/// Without the picture; returns the place of the panes.
+NSRect DialogLayout::placeAlone(CGFloat width, CGFloat paneTop) {
+  rowsRight_ = width - kMargin;
+  return NSMakeRect(kMargin, 0, width - 2 * kMargin, paneTop);
 }
 
 /// Places the picture beside the rows; returns the place of the panes.
@@ -222,9 +260,16 @@ NSRect DialogLayout::placeBelow(CGFloat width, CGFloat paneTop) {
   return NSMakeRect(kMargin, bottom, whole, paneTop - bottom);
 }
 
-void DialogLayout::placeRows(CGFloat middle) {
+void DialogLayout::placeRows(CGFloat top) {
   std::size_t at = 0;
-  for (std::size_t i = 0; i < titles_.size(); i++, middle -= kRowHeight + kRowGap) {
+  for (std::size_t i = 0; i < titles_.size(); i++) {
+    [titles_[i] setHidden:!isShown(content_.rows[i])];
+    if (!isShown(content_.rows[i])) {
+      at += content_.rows[i].controls.size();
+      continue;
+    }
+    const CGFloat middle = top - heightOf(content_.rows[i]) / 2;
+    top -= heightOf(content_.rows[i]) + kRowGap;
     NSRect frame = [titles_[i] frame];
     frame.origin = NSMakePoint(kMargin + titleWidth_ - NSWidth(frame),
                                std::round(middle - NSHeight(frame) / 2));

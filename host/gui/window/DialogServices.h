@@ -32,6 +32,8 @@
 - (void)refresh;
 /// The same after an option has changed; what is typed in the rows of copies and pages stays.
 - (void)refreshOptions;
+/// Gives the rows their places again, after an error has come or gone.
+- (void)layOut;
 @end
 
 #endif

@@ -4,15 +4,17 @@
 
 #import "DialogLayout.h"
 #import "DialogServices.h"
+#import "ErrorLabel.h"
 
 @interface PagesRow : NSObject {
   id<DialogServices> dialog; ///< Not owned.
   ListPopUp *pages;          ///< Owned; so below.
   NSTextField *ranges;
+  ErrorLabel *error;
 }
 
 - (id)initWithDialog:(id<DialogServices>)theDialog;
-- (imageposition::DialogRow)row;
+- (std::vector<imageposition::DialogRow>)rows;
 /// Shows what the job's settings say.
 - (void)refresh;
 /// Takes the pages into the job's settings. NO, with a message and the focus there, when the ranges

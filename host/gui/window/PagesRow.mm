@@ -20,8 +20,9 @@ constexpr CGFloat kPagesWidth = 130;
 @interface PagesRow ()
 - (void)pagesChosen:(id)sender;
 - (void)rangesChanged:(id)sender;
-- (void)check:(const std::optional<imageposition::PageRanges> &)chosen;
+- (std::string)noteOn:(const std::optional<imageposition::PageRanges> &)chosen;
 - (BOOL)store;
+- (void)showError:(const std::string &)text;
 @end
 
 @implementation PagesRow
@@ -35,6 +36,7 @@ constexpr CGFloat kPagesWidth = 130;
   for (const Text &title :
        {messages::kAllPages, messages::kOddPages, messages::kEvenPages, messages::kPageRange})
     addItem(pages, title);
+  error = [[ErrorLabel alloc] initWithFrame:NSZeroRect];
   ranges =
       [makeField(kPopUpWidth - kPagesWidth - kControlGap, self, @selector(rangesChanged:)) retain];
   return self;
@@ -44,13 +46,19 @@ constexpr CGFloat kPagesWidth = 130;
   [pages setTarget:nil];
   [ranges setTarget:nil];
   [ranges setDelegate:nil];
+  [error release];
   [pages release];
   [ranges release];
   [super dealloc];
 }
 
-- (DialogRow)row {
-  return {messages::kPagesRow, {{pages}, {ranges}}};
+- (std::vector<DialogRow>)rows {
+  return {{messages::kPagesRow, {{pages}, {ranges}}}, {"", {{error, true}}}};
+}
+
+- (void)showError:(const std::string &)text {
+  if ([error showError:text width:kPopUpWidth])
+    [dialog layOut];
 }
 
 - (void)refresh {
@@ -62,6 +70,7 @@ constexpr CGFloat kPagesWidth = 130;
   [pages selectItemAtIndex:item];
   [ranges setStringValue:toString(choice.ranges ? choice.ranges->text() : "")];
   [ranges setEnabled:item != kAllItem];
+  [self showError:""];
 }
 
 - (BOOL)takeEntry {
@@ -71,14 +80,15 @@ constexpr CGFloat kPagesWidth = 130;
   return NO;
 }
 
-/// Mentions pages that the document lacks. Throws a `Failure` if nothing would be printed.
-- (void)check:(const std::optional<PageRanges> &)chosen {
+/// Mentions pages that the document lacks; may be empty. Throws a `Failure` if nothing would be
+/// printed.
+- (std::string)noteOn:(const std::optional<PageRanges> &)chosen {
   const int count = [dialog documentPages];
-  const bool isBeyond = chosen && count > 0 && chosen->namesPagesBeyond(count);
-  if (isBeyond && !chosen->hasPagesUpTo(count))
+  if (!chosen || count == 0 || !chosen->namesPagesBeyond(count))
+    return {};
+  if (!chosen->hasPagesUpTo(count))
     throw Failure(ExitCode::Usage, messages::documentHasPages(count));
-  if (isBeyond)
-    [dialog show:messages::documentHasPages(count)];
+  return messages::documentHasPages(count);
 }
 
 /// Odd and even pages are those of the ranges, or without ranges of the whole document. NO, with a
@@ -88,16 +98,27 @@ constexpr CGFloat kPagesWidth = 130;
   PageChoice choice;
   choice.set = item == kOddItem ? PageSet::Odd : item == kEvenItem ? PageSet::Even : PageSet::All;
   const std::string typed = toText([ranges stringValue]);
+  std::string note;
   try {
     if (item == kRangeItem || (item != kAllItem && !typed.empty()))
       choice.ranges = PageRanges::parse(typed);
-    [self check:choice.ranges];
+    note = [self noteOn:choice.ranges];
   } catch (const Failure &failure) {
-    [dialog say:failure.what()];
+    [self showError:failure.what()];
     return NO;
   }
+  [self showError:note];
   storePageChoice(choice, [dialog session].job().settings());
   return YES;
+}
+
+- (void)controlTextDidChange:(NSNotification *)notification {
+  (void)notification;
+  try {
+    PageRanges::parse(toText([[ranges currentEditor] string]));
+    [self showError:""];
+  } catch (const Failure &) { // it is not complete yet
+  }
 }
 
 - (void)controlTextDidEndEditing:(NSNotification *)notification {

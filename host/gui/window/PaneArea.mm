@@ -9,6 +9,10 @@ namespace {
 
 /// The pane itself, or what scrolls it.
 NSView *fitted(NSView *pane, NSSize area) {
+  if ([pane isKindOfClass:[NSScrollView class]]) {
+    [pane setFrameSize:area];
+    return pane;
+  }
   const NSSize size = [pane frame].size;
   NSScrollView *const enclosing = [pane enclosingScrollView];
   NSScrollView *const before = [enclosing documentView] == pane ? enclosing : nil;
@@ -26,7 +30,6 @@ NSView *fitted(NSView *pane, NSSize area) {
   KeyScrollView *const scroll =
       [[[KeyScrollView alloc] initWithFrame:NSMakeRect(0, 0, width, area.height)] autorelease];
   [scroll setBorderType:NSNoBorder];
-  [scroll scrollSidewaysToo];
   [scroll setDocumentView:pane];
   [pane scrollRectToVisible:NSMakeRect(0, NSMaxY([pane bounds]) - 1, 1, 1)]; // its upper edge
   return scroll;

@@ -74,9 +74,6 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
 }
 
 - (void)areaResized {
-  const NSRect whole = [area bounds];
-  [options setFrame:whole];
-  [summary setFrame:whole];
   if (summary != nil && [summary superview] == area)
     [self showSummary]; // wraps its texts anew
 }
@@ -147,6 +144,7 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
   without.push_back(twoSided ? twoSided->keyword : "Duplex");
   if (options == nil)
     options = [[OptionsView alloc] initWithFrame:[area bounds] owner:optionsOwner];
+  [options setFrameSize:[area bounds].size];
   [options showGroups:printerOptions.listed(without)];
   [self show:options];
 }
@@ -166,9 +164,13 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
     }
   }
   sections.push_back(optionSection(job.printer(), job.settings(), session.panels().optionKeys()));
-  sections.push_back(sentSection(job.request(session.destinations().list())));
+  const SummarySection others = otherSection(job.request(session.destinations().list()),
+                                             job.printer(), session.panels().optionKeys());
+  if (!others.lines.empty())
+    sections.push_back(others);
   if (summary == nil)
     summary = [[SummaryView alloc] initWithFrame:[area bounds]];
+  [summary setFrameSize:[area bounds].size];
   [summary showSections:sections];
   [self show:summary];
 }

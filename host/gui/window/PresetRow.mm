@@ -255,7 +255,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   if (state->chosen.empty())
     return;
   const Proposal question{messages::kDelete, messages::deleteQuestion(state->chosen),
-                          messages::kDelete, messages::kCancel};
+                          messages::kDelete, messages::kCancel, true};
   if (!isConfirmed([popUp window], question))
     return;
   Presets([self printer]).remove(state->chosen);

@@ -51,16 +51,18 @@ struct imageposition::PrintDialogState {
   PictureRedrawing redrawing;
   std::unique_ptr<RunLoopWake> wake;
   std::unique_ptr<DialogLayout> layout;
-  std::string message;    // that is shown
-  std::string numberNote; // the last message about a number; may be empty
+  std::string message;          // that is shown
+  std::string numberNote;       // the last message about a number; may be empty
+  bool isNumberChanged = false; // when the editing of a number ended last
+  std::string acceptedConflict; // that the user has accepted; may be empty
 };
 
 @interface PrintDialog ()
 - (void)buildParts;
 - (void)buildWindowForPane:(NSSize)pane room:(NSSize)room;
-- (void)layOut;
 - (NSView *)firstControl;
 - (void)keepFocus;
+- (BOOL)acceptConflict;
 - (void)look;
 - (void)sayTroubles;
 - (void)show;
@@ -75,7 +77,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, false, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -120,7 +122,9 @@ struct imageposition::PrintDialogState {
                                        wake:*state->wake
                                      errors:state->errors];
   std::vector<DialogRow> rows = [printers rows];
-  rows.insert(rows.end(), {[documents row], [presets row], [copies row], [pages row]});
+  for (const std::vector<DialogRow> &part :
+       {std::vector<DialogRow>{[documents row], [presets row]}, [copies rows], [pages rows]})
+    rows.insert(rows.end(), part.begin(), part.end());
   for (DialogRow &row : [options rows])
     rows.push_back(std::move(row));
   rows.push_back([panes row]);
@@ -139,8 +143,10 @@ struct imageposition::PrintDialogState {
   [documents refresh];
 }
 
-/// Adapts to the window's size, or to a message or hint that has come or gone.
+/// Adapts to the window's size, or to a message, a hint or a panel that has come or gone. Without
+/// a panel, nothing can be shifted, so there is no picture.
 - (void)layOut {
+  [picture setHidden:state->session->panels().panels().empty()];
   state->layout->layOut();
   [documents refresh];
   [printers showState];
@@ -167,6 +173,7 @@ struct imageposition::PrintDialogState {
   state->message = text;
   [message setStringValue:toString(text)];
   [self layOut];
+  [window keepFocusInSight];
 }
 
 - (void)say:(const std::string &)text {
@@ -243,9 +250,26 @@ struct imageposition::PrintDialogState {
   if ([sending isUnderWay])
     return;
   NSView *const focused = [window focusedView];
+  state->isNumberChanged = false;
   [window makeFirstResponder:nil];
-  if ([copies takeEntry] && [pages takeEntry] && [panes allowPrinting])
+  if (state->isNumberChanged) { // the user should see what would be printed
+    [window makeFirstResponder:focused];
+    return;
+  }
+  if ([copies takeEntry] && [pages takeEntry] && [panes allowPrinting] && [self acceptConflict])
     [sending startWithFocus:focused];
+}
+
+/// Asks once about the same conflict.
+- (BOOL)acceptConflict {
+  const std::string conflict = [options conflict];
+  if (conflict.empty() || conflict == state->acceptedConflict)
+    return YES;
+  if (!isConfirmed(window, {messages::kPrintAnywayWindow, conflict, messages::kPrintAnyway,
+                            messages::kGoBack}))
+    return NO;
+  state->acceptedConflict = conflict;
+  return YES;
 }
 
 - (void)dismiss {
@@ -297,7 +321,8 @@ struct imageposition::PrintDialogState {
     [panes takeNumber:field keepingIt:edit.kind == NumberEdit::Kind::Typed];
   const std::string note = messages::numberChange(edit.typed, edit.shown, isEnd);
   const std::string last = std::exchange(state->numberNote, note);
-  if (!note.empty() && isEnd)
+  state->isNumberChanged = isEnd && !note.empty();
+  if (state->isNumberChanged)
     [self say:note];
   else if (!note.empty() || (!last.empty() && state->message == last))
     [self show:note];
@@ -332,8 +357,6 @@ struct imageposition::PrintDialogState {
   PanelSession &panels = state->session->panels();
   const auto &misfits = state->session->job().misfits();
   std::string troubles = panels.troubleText();
-  if (troubles.empty() && panels.panels().empty())
-    troubles = messages::kNoPanelHere;
   if (const std::string problem = problemWith(state->session->job().documents()); !problem.empty())
     troubles = problem;
   if (!troubles.empty())

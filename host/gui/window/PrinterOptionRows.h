@@ -28,6 +28,8 @@ struct PrinterOptionState;
 - (NSTextField *)hint;
 /// Resolves a conflict; hidden while there is no proposal for it.
 - (NSButton *)resolveButton;
+/// What the printer cannot combine; empty without a conflict.
+- (std::string)conflict;
 /// Shows what the job's settings say.
 - (void)refresh;
 /// Asks for the value that the user has chosen to enter, if any: once the pop-up's menu has closed

@@ -22,6 +22,7 @@ struct imageposition::PrinterOptionState {
   std::vector<std::string> twoSidedChoices; // keywords, in the order of the pop-up
   std::vector<std::string> mediaChoices;
   std::string chosenLast; // the option that the user changed last
+  std::string conflict;   // may be empty
   std::optional<ConflictProposal> proposal;
   std::string optionToEnter; // the option that the user is about to enter a value for
 };
@@ -106,6 +107,10 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   return resolve;
 }
 
+- (std::string)conflict {
+  return state->conflict;
+}
+
 - (void)refresh {
   PrintJob &job = [dialog session].job();
   PrinterOptions options(job.printer(), job.settings());
@@ -120,6 +125,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   PrintJob &job = [dialog session].job();
   OptionConflicts conflicts(job.printer(), job.settings());
   std::string text = messages::sentences(conflicts.sentences(kMostConflicts));
+  state->conflict = text;
   state->proposal = text.empty() ? std::nullopt : conflicts.proposal(state->chosenLast);
   if (state->proposal)
     text = messages::sentences({text, state->proposal->sentence});

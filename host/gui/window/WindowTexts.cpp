@@ -3,12 +3,10 @@
 #include "Copies.hpp"
 #include "NumberText.hpp"
 #include "Phrases.hpp"
+#include "Strings.hpp"
 
 namespace imageposition::messages {
 
-const Text kNoPanelHere = text(
-    "No plug-in has a panel for this printer. You can print with the settings shown here. To move "
-    "the image, choose a printer that supports it, or specify a plug-in with --plugin BUNDLE.");
 std::string presetsNotListed(std::size_t count) {
   // Translators: the last, grey item of a menu of presets.
   return counted(static_cast<long>(count), "{1} more preset", "{1} more presets");
@@ -49,7 +47,7 @@ std::string deleteQuestion(const std::string &preset) {
   return text("Delete the preset \"{1}\"?").with(preset);
 }
 std::string presetSaved(const std::string &lpName) {
-  return text("The preset is saved. lp -d {1} prints with it too.").with(lpName);
+  return text("The preset is saved. lp -d {1} prints with it too.").with(shellWord(lpName));
 }
 const Text kJobWaits = text("The job is waiting");
 const Text kStateUnknown = text("Looking for printers…");
@@ -59,11 +57,13 @@ std::string printerState(const std::string &state, const std::string &location) 
 std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd) {
   const bool isNumber = isWholeNumber(typed);
   const bool isBeginning = typed.empty() || (!isEnd && (typed == "-" || typed == "+"));
-  if (typed == shown || isBeginning || (isNumber && isSameNumber(typed, shown)))
+  if (isBeginning || (isNumber && isSameNumber(typed, shown)))
     return {};
-  return (isEnd && isNumber
-              ? text("\"{1}\" was changed to {2}, the nearest number that is allowed.")
-              : text("\"{1}\" was changed to {2}."))
+  if (!isNumber)
+    return isEnd ? text("\"{1}\" is not a whole number. {2} is kept.").with(typed, shown)
+                 : text("\"{1}\" is not a whole number.").with(typed);
+  return (isEnd ? text("\"{1}\" was changed to {2}, the nearest number that is allowed.")
+                : text("\"{1}\" was changed to {2}."))
       .with(typed, shown);
 }
 const Text kNothingToPrint = text(

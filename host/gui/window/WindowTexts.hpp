@@ -9,7 +9,6 @@
 namespace imageposition::messages {
 
 // The window.
-extern const Text kNoPanelHere;
 
 std::string presetsNotListed(std::size_t count);
 

@@ -2,14 +2,12 @@
 
 #include "ExitCode.hpp"
 #import "Guard.h"
+#import "PanelSummary.h"
 #include "PluginTexts.hpp"
-#include "SharedKeys.h"
 
 namespace imageposition {
 
 namespace {
-
-NSString *const kDisplayOrder = @IPA_SUMMARY_ORDER;
 
 const char *const kRequiredOperations[] = {"panelView",
                                            "panelName",
@@ -36,34 +34,6 @@ std::vector<std::string> stringsIn(id array) {
     if (const auto text = toOptionalText([array objectAtIndex:i]))
       texts.push_back(*text);
   return texts;
-}
-
-void appendLine(NSDictionary *info, NSString *title, std::vector<SummaryLine> &lines) {
-  id const value = [info objectForKey:title];
-  if (value != nil)
-    lines.push_back({toText(title), toText([value description])});
-}
-
-/// Titles in the panel's display order first, then the others by name.
-std::vector<SummaryLine> linesOf(id info) {
-  std::vector<SummaryLine> lines;
-  if (![info isKindOfClass:[NSDictionary class]])
-    return lines;
-  NSMutableDictionary *const rest = [NSMutableDictionary dictionaryWithDictionary:info];
-  id const order = [rest objectForKey:kDisplayOrder];
-  NSArray *const titles = [order isKindOfClass:[NSArray class]] ? order : [NSArray array];
-  [rest removeObjectForKey:kDisplayOrder];
-  for (NSUInteger i = 0; i < [titles count]; i++) {
-    id const title = [titles objectAtIndex:i];
-    if (![title isKindOfClass:[NSString class]])
-      continue;
-    appendLine(rest, title, lines);
-    [rest removeObjectForKey:title];
-  }
-  NSArray *const others = [[rest allKeys] sortedArrayUsingSelector:@selector(compare:)];
-  for (NSUInteger i = 0; i < [others count]; i++)
-    appendLine(rest, [others objectAtIndex:i], lines);
-  return lines;
 }
 
 /// Ends editing in a field of the view without sending the field's action, which the field would
@@ -171,7 +141,7 @@ bool PanelDriver::mayPrint() {
 
 SummarySection PanelDriver::summary() {
   SummarySection section{name_, {}};
-  guarded("summaryInfo", [&] { section.lines = linesOf([panel_ summaryInfo]); });
+  guarded("summaryInfo", [&] { section.lines = readSummary([panel_ summaryInfo], view_); });
   return section;
 }
 

@@ -1,6 +1,7 @@
 #include "PluginTexts.hpp"
 
 #include "Phrases.hpp"
+#include "Strings.hpp"
 
 namespace imageposition::messages {
 
@@ -14,9 +15,9 @@ std::string pluginNotBundle(const std::string &path) {
 }
 std::string pluginWritable(const std::string &path, const std::string &part) {
   return text("The plug-in \"{1}\" was not loaded: other users can modify \"{2}\", and so the "
-              "plug-in's code. Remove their write permission (chmod go-w \"{2}\"), or use a copy "
+              "plug-in's code. Remove their write permission (chmod go-w {3}), or use a copy "
               "of the plug-in in your own folder.")
-      .with(path, part);
+      .with(path, part, shellWord(part));
 }
 std::string pluginOwnedByOthers(const std::string &path, const std::string &part) {
   return text("The plug-in \"{1}\" was not loaded: \"{2}\" belongs to another user, who could "
@@ -54,6 +55,7 @@ std::string pluginUntrusted(const std::string &path, const UntrustedPart &part) 
     return pluginUnexamined(path, part.path, systemReason(part.error));
   }
 }
+const Text kOn = text("On");
 const Text kCodeCutShort = text("its end is missing");
 std::string pluginNotLoadable(const std::string &path, const std::string &reason) {
   return text("The code of the plug-in \"{1}\" could not be loaded{2}. It may be damaged or built "

@@ -25,6 +25,8 @@ std::string pluginLoadsCodeAnywhere(const std::string &path, const std::string &
                                     const std::string &place);
 /// Chooses the message above that fits `part`.
 std::string pluginUntrusted(const std::string &path, const UntrustedPart &part);
+/// The state of a checkbox, in a summary.
+extern const Text kOn;
 extern const Text kCodeCutShort;
 std::string pluginNotLoadable(const std::string &path, const std::string &reason);
 std::string pluginWithoutClass(const std::string &path, const std::string &className);

@@ -25,6 +25,16 @@ TEST(Strings, BlanksAreTrimmedFromBothEnds) {
   EXPECT_EQ(trimmed("", " \t"), "");
 }
 
+TEST(Strings, AreQuotedForAShellWhereItWouldActOnThem) {
+  for (const char *plain : {"office", "office/Two-sided", "a_b.pdf", "B\xC3\xBCro", "a=b,c"})
+    EXPECT_EQ(shellWord(plain), plain);
+  EXPECT_EQ(shellWord("my job.json"), "'my job.json'");
+  EXPECT_EQ(shellWord("a$(b)"), "'a$(b)'");
+  EXPECT_EQ(shellWord("it's"), "'it'\\''s'");
+  EXPECT_EQ(shellWord(""), "''");
+  EXPECT_EQ(shellWord("~x"), "'~x'");
+}
+
 TEST(Strings, NamesAreTheSameInAnyCase) {
   EXPECT_TRUE(isSame("PageSize", "pagesize"));
   EXPECT_TRUE(isSame("", ""));

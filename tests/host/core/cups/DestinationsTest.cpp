@@ -62,10 +62,10 @@ TEST_F(PrinterList, HasDefaultJobOptionsWithoutAttributesOfThePrinter) {
 TEST_F(PrinterList, DescribesAPrinterThatIsStoppedAndRefusesJobs) {
   command({"cupsdisable", "office"});
   EXPECT_EQ(office().state, DestinationState::Stopped);
-  EXPECT_EQ(office().stateText, "Stopped: paused");
+  EXPECT_EQ(office().stateText, "Paused");
   command({"cupsreject", "office"});
   EXPECT_FALSE(office().acceptsJobs);
-  EXPECT_EQ(office().stateText, "Not accepting jobs (Stopped: paused)");
+  EXPECT_EQ(office().stateText, "Not accepting jobs (paused)");
 }
 
 TEST_F(PrinterList, ListsInstancesAfterTheirQueueWithSeparateDefaults) {
@@ -142,7 +142,7 @@ TEST_F(PrinterList, ReportsWhetherItChanged) {
   command({"cupsdisable", "office"});
   printers.refresh();
   ASSERT_TRUE(comesTrue([&] { return printers.takeAnswer(); }));
-  EXPECT_EQ(printers.list().find("office")->stateText, "Stopped: paused");
+  EXPECT_EQ(printers.list().find("office")->stateText, "Paused");
 }
 
 TEST_F(PrinterList, CallsBackOnceTheResponseCanBeTaken) {
@@ -185,6 +185,44 @@ TEST_F(PrinterList, QueriesCupsAgainOnceAThreadCanBeCreated) {
     return comesTrue([&] { return printers.takeAnswer(); });
   };
   EXPECT_EXIT(std::_Exit(hasAnswered() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST(PrinterStates, AreInWords) {
+  constexpr const char *kIdle = "3", *kPrinting = "4", *kStopped = "5";
+  const struct {
+    const char *state;
+    const char *reasons;
+    const char *accepts;
+    const char *words;
+  } kRows[] = {
+      {kIdle, "none", "true", "Ready"},
+      {kIdle, "toner-low-warning", "true", "Ready (toner low)"},
+      {kIdle, "none", "false", "Not accepting jobs"},
+      {kIdle, "toner-low-warning", "false", "Not accepting jobs (toner low)"},
+      {kPrinting, "media-low-report", "true", "Printing (paper low)"},
+      {kStopped, "none", "true", "Stopped"},
+      {kStopped, "media-jam-error", "true", "Stopped (paper jam)"},
+      {kStopped, "paused", "true", "Paused"},
+      {kStopped, "media-empty-error,paused", "true", "Paused (out of paper)"},
+      {kStopped, "paused", "false", "Not accepting jobs (paused)"},
+      // It may print nothing.
+      {kIdle, "media-empty-error", "true", "Needs attention (out of paper)"},
+      {kIdle, "cups-missing-filter-warning", "true",
+       "Needs attention (part of the driver is missing)"},
+      {kIdle, "cups-insecure-filter-warning", "true",
+       "Needs attention (part of the driver has unsafe permissions)"},
+  };
+  for (const auto &row : kRows) {
+    cups_dest_t dest{};
+    char name[] = "office";
+    dest.name = name;
+    for (const auto &[option, value] :
+         {std::pair("printer-state", row.state), std::pair("printer-state-reasons", row.reasons),
+          std::pair("printer-is-accepting-jobs", row.accepts)})
+      dest.num_options = cupsAddOption(option, value, dest.num_options, &dest.options);
+    EXPECT_EQ(toDestination(dest).stateText, row.words) << row.state << " " << row.reasons;
+    cupsFreeOptions(dest.num_options, dest.options);
+  }
 }
 
 TEST(StateReasons, AreTranslated) {

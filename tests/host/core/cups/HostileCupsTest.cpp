@@ -103,7 +103,7 @@ TEST_F(HostileCups, CannotControlTheTerminalThroughThePropertiesOfAPrinter) {
   ASSERT_THAT(list.destinations, SizeIs(1));
   EXPECT_EQ(list.destinations[0].description, "Big \uFFFD\\x1b[31m");
   EXPECT_EQ(list.destinations[0].location, "\\x9b5n");
-  EXPECT_EQ(list.destinations[0].stateText, "Ready: odd\\x07\uFFFD");
+  EXPECT_EQ(list.destinations[0].stateText, "Ready (odd\\x07\uFFFD)");
 }
 
 TEST_F(HostileCups, APrinterWhoseNameCannotBeDisplayedIsOmitted) {

@@ -3,6 +3,7 @@
 #include "ExitCode.hpp"
 #include "OptionsPpd.hpp"
 #include "PrivateCups.hpp"
+#include "Waiting.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -321,6 +322,21 @@ TEST_F(PresetsTest, APipeIsReportedWithoutWaitingForIt) {
   ASSERT_EQ(mkfifo(folder.path("home/.cups/lpoptions").c_str(), 0600), 0);
   EXPECT_THAT(failureOf([&] { presets.names(); }, ExitCode::Printer),
               HasSubstr("home/.cups/lpoptions"));
+}
+
+TEST_F(PresetsTest, ALockThatAnotherProgramHoldsIsReportedWithItsName) {
+  presets.save("Draft", settings({{"Fold", "Z"}}));
+  const std::string before = file();
+  Process holder(
+      {"flock", folder.path("home/.cups/lpoptions.lock"), "sh", "-c", "echo >&2; exec sleep 60"});
+  ASSERT_TRUE(becomesTrue([&] { return !holder.errorsSoFar().empty(); }));
+  EXPECT_THAT(failureOf(
+                  [&] {
+                    presets.save("Other", settings({{"Fold", "Z"}}));
+                  },
+                  ExitCode::Printer),
+              HasSubstr(" is using it"));
+  EXPECT_EQ(file(), before);
 }
 
 TEST_F(PresetsTest, ConcurrentSavesLoseNothing) {

@@ -206,10 +206,10 @@ TEST(Preview, UnshiftedContentFillsTheImageableAreaAndLosesNothing) {
   EXPECT_EQ(preview.front.content, portraitPage().imageable);
   EXPECT_THAT(preview.front.lost, IsEmpty());
   EXPECT_THAT(preview.back->lost, IsEmpty());
-  EXPECT_THAT(preview.backSeenThrough->lost, IsEmpty());
+  EXPECT_THAT(preview.frontSeenThrough->lost, IsEmpty());
 }
 
-TEST(Preview, AgainstTheLightTheBackIsMirroredAboutTheTurningEdge) {
+TEST(Preview, AgainstTheLightTheFrontIsMirroredAboutTheTurningEdge) {
   // All margins differ, so a wrong mirror axis cannot go unnoticed.
   const struct {
     PageShape page;
@@ -225,23 +225,23 @@ TEST(Preview, AgainstTheLightTheBackIsMirroredAboutTheTurningEdge) {
   int index = 0;
   for (const auto &row : rows) {
     SCOPED_TRACE("row " + std::to_string(index++));
-    const Preview preview = makePreview(requestFor(row.page, {{1}, {1}}, {{3}, {5}}, row.turning));
-    ASSERT_TRUE(preview.backSeenThrough);
-    EXPECT_EQ(preview.backSeenThrough->offset, row.seen);
-    EXPECT_EQ(preview.backSeenThrough->imageable, row.imageable);
-    EXPECT_EQ(preview.back->offset, (Offset{{3}, {5}}));
+    const Preview preview = makePreview(requestFor(row.page, {{3}, {5}}, {{1}, {1}}, row.turning));
+    ASSERT_TRUE(preview.frontSeenThrough);
+    EXPECT_EQ(preview.frontSeenThrough->offset, row.seen);
+    EXPECT_EQ(preview.frontSeenThrough->imageable, row.imageable);
+    EXPECT_EQ(preview.front.offset, (Offset{{3}, {5}}));
     EXPECT_EQ(backAgainstFront(preview),
-              (Offset{row.seen.right - TenthMillimetre{1}, row.seen.down - TenthMillimetre{1}}));
+              (Offset{TenthMillimetre{1} - row.seen.right, TenthMillimetre{1} - row.seen.down}));
   }
 }
 
-TEST(Preview, MirroringTwiceReturnsTheBack) {
+TEST(Preview, MirroringTwiceReturnsTheFront) {
   const Preview once =
-      makePreview(requestFor(portraitPage(), {}, {inches(1), inches(1)}, Turning::LongEdge));
-  const PageRectangle &seen = once.backSeenThrough->content;
-  EXPECT_EQ(portraitPage().width - seen.right, once.back->content.left);
-  EXPECT_EQ(seen.top, once.back->content.top);
-  EXPECT_DOUBLE_EQ(lostArea(*once.backSeenThrough), lostArea(*once.back));
+      makePreview(requestFor(portraitPage(), {inches(1), inches(1)}, {}, Turning::LongEdge));
+  const PageRectangle &seen = once.frontSeenThrough->content;
+  EXPECT_EQ(portraitPage().width - seen.right, once.front.content.left);
+  EXPECT_EQ(seen.top, once.front.content.top);
+  EXPECT_DOUBLE_EQ(lostArea(*once.frontSeenThrough), lostArea(once.front));
 }
 
 TEST(Preview, ContentOutsideTheImageableAreaIsLostOnce) {
@@ -268,7 +268,7 @@ TEST(Preview, ContentOutsideTheImageableAreaIsLostOnce) {
 TEST(Preview, OneSidedPrintingHasNoBack) {
   const Preview preview = makePreview(requestFor(portraitPage(), {}, {}, Turning::OneSided));
   EXPECT_FALSE(preview.back);
-  EXPECT_FALSE(preview.backSeenThrough);
+  EXPECT_FALSE(preview.frontSeenThrough);
   EXPECT_EQ(backAgainstFront(preview), Offset{});
 }
 
@@ -304,30 +304,29 @@ TEST(PreviewSentences, DescribeTheShiftOfEachSide) {
     Turning turning;
     std::vector<std::string> expected;
   } rows[] = {
-      {{},
-       {},
-       Turning::LongEdge,
-       {"Neither side moves.", "Held against the light, the back lies exactly behind the front."}},
+      {{}, {}, Turning::LongEdge, {"Neither side moves."}},
       {{{25}, {-1}},
        {{-25}, {-1}},
        Turning::LongEdge,
        {"The front moves 2.5 mm to the right and 0.1 mm up.",
         "The back moves 2.5 mm to the left and 0.1 mm up, as you look at the back.",
-        "Held against the light, the back lies exactly behind the front.",
+        "Against the light, both sides move together.",
         "A front that fills its printable area loses 2.5 mm at the right and 0.1 mm at the top.",
         "A back that fills its printable area loses 2.5 mm at the left and 0.1 mm at the top."}},
       {{{0}, {10}},
        {{0}, {10}},
        Turning::ShortEdge,
        {"Each side moves 1 mm down, as you look at that side.",
-        "Held against the light, the back moves 2 mm up relative to the front.",
+        "Against the light, with the back towards you, the back moves 2 mm down relative to the "
+        "front.",
         "A front that fills its printable area loses 1 mm at the bottom.",
         "A back that fills its printable area loses 1 mm at the bottom."}},
       {{},
        {{7}, {0}},
        Turning::LongEdge,
        {"The back moves 0.7 mm to the right, as you look at the back.",
-        "Held against the light, the back moves 0.7 mm to the left relative to the front.",
+        "Against the light, with the back towards you, the back moves 0.7 mm to the right relative "
+        "to the front.",
         "A back that fills its printable area loses 0.7 mm at the right."}},
   };
   for (const auto &row : rows)

@@ -112,6 +112,30 @@ TEST(PreviewLayout, NumbersOnTheAxesStayApartWithSmallSquares) {
   }
 }
 
+TEST(PreviewLayout, ALabelOfAMarkCoversNoNumberOfTheAxes) {
+  for (int offset = -100; offset <= 100; offset += 5) {
+    const PreviewLayout layout = layoutOf(previewOf({{offset}, {offset / 3}}, {}));
+    const Pixel centre = layout.gridCentre();
+    std::vector<PixelRectangle> numbers;
+    for (int squares = 2; squares <= 10; squares += 2)
+      for (const int at : {-squares * layout.squarePixels, squares * layout.squarePixels}) {
+        numbers.push_back({centre.x + at - 9, centre.y + 1, 18, 13});
+        numbers.push_back({centre.x - 21, centre.y + at - 6.5, 18, 13});
+      }
+    for (const Offset &shift : {Offset{}, Offset{{offset}, {offset / 3}}, Offset{{offset}, {0}}})
+      for (const bool left : {false, true})
+        for (const bool above : {false, true}) {
+          const PixelRectangle label =
+              layout.labelPlace(layout.mark(shift), {0, 0, 40, 13}, left, above, numbers);
+          EXPECT_TRUE(layout.grid.contains({label.x, label.y}));
+          EXPECT_LE(label.right(), layout.grid.right());
+          EXPECT_LE(label.bottom(), layout.grid.bottom());
+          for (const PixelRectangle &number : numbers)
+            EXPECT_FALSE(overlap(label, number)) << offset << " " << shift.right.count;
+        }
+  }
+}
+
 TEST(PreviewLayout, ATinyPictureHasNoAreaOfNegativeSize) {
   for (const double side : {0.0, 1.0, 20.0, 60.0, 120.0}) {
     const PreviewLayout layout = layOutPreview(previewOf({{5}, {5}}, {}), {side, side, 13});

@@ -161,6 +161,23 @@ TEST_F(PreviewViewOnScreen, TheWarningColourMarksTheLostAreaAndNothingElse) {
   EXPECT_EQ(count(layout_.pages[PreviewLayout::Back].page, colours_.lost), 0);
 }
 
+TEST_F(PreviewViewOnScreen, ALossIsToScale) {
+  for (const int offset : {20, 50, 100}) {
+    const Preview preview = previewOf({{offset}, {0}}, {});
+    show(preview);
+    const PixelRectangle lost = layout_.onPage(PreviewLayout::Front, preview.front.lost.at(0));
+    const int y = static_cast<int>(lost.y + lost.height / 2);
+    int first = 0, last = 0;
+    for (int row = y - 4; row <= y + 4; row++)
+      for (int x = static_cast<int>(lost.x) - 8; x < lost.right() + 8; x++)
+        if (isNear(x, row, colours_.lost)) {
+          first = first == 0 ? x : std::min(first, x);
+          last = std::max(last, x);
+        }
+    EXPECT_NEAR(last - first + 1, lost.width, 2) << offset;
+  }
+}
+
 TEST_F(PreviewViewOnScreen, ALossOfATenthOfAMillimetreIsVisible) {
   for (const Offset &offset :
        {Offset{{1}, {0}}, Offset{{-1}, {0}}, Offset{{0}, {1}}, Offset{{0}, {-1}}}) {
@@ -171,7 +188,7 @@ TEST_F(PreviewViewOnScreen, ALossOfATenthOfAMillimetreIsVisible) {
   }
 }
 
-TEST_F(PreviewViewOnScreen, AgainstTheLightTheBackIsMirrored) {
+TEST_F(PreviewViewOnScreen, AgainstTheLightTheFrontIsMirrored) {
   // The page's picture is at the lower left.
   const struct {
     Turning turning;
@@ -187,7 +204,7 @@ TEST_F(PreviewViewOnScreen, AgainstTheLightTheBackIsMirrored) {
       return ink({area.x, area.y, area.width * 0.3, area.height * 0.2});
     };
     const double most = inkAt(PreviewLayout::AgainstLight, row.isRight, row.isLow);
-    EXPECT_NEAR(most, inkAt(PreviewLayout::Back, false, true), most / 10);
+    EXPECT_NEAR(most, inkAt(PreviewLayout::Front, false, true), most / 10);
     for (const bool right : {false, true})
       for (const bool low : {false, true})
         if (right != row.isRight || low != row.isLow) {
@@ -209,10 +226,10 @@ TEST_F(PreviewViewOnScreen, TheMarksAreAtTheirOffsets) {
   for (const auto &row : rows) {
     const Preview preview = previewOf(row.front, row.back, row.turning);
     show(preview);
-    const Pixel front = layout_.mark(preview.front.offset);
+    const Pixel front = layout_.mark(preview.frontSeenThrough->offset);
     EXPECT_TRUE(isAround(front, colours_.front)) << front.x << " " << front.y;
     EXPECT_TRUE(isAround({front.x + 11, front.y}, colours_.front)) << front.x << " " << front.y;
-    const Pixel back = layout_.mark(preview.backSeenThrough->offset);
+    const Pixel back = layout_.mark(preview.back->offset);
     for (const int side : {-1, 1}) {
       EXPECT_TRUE(isAround({back.x + side * 4, back.y - 4}, colours_.back)) << back.x;
       EXPECT_TRUE(isAround({back.x + side * 4, back.y + 4}, colours_.back)) << back.x;
@@ -224,7 +241,7 @@ TEST_F(PreviewViewOnScreen, EachTenthOfAMillimetreMovesAMarkUpToOneMillimetre) {
   std::set<int> places;
   for (int offset = 0; offset <= 10; offset++) {
     show(previewOf({{offset}, {0}}, {{0}, {10}}));
-    const Pixel mark = layout_.mark({{offset}, {0}});
+    const Pixel mark = layout_.mark({{-offset}, {0}});
     EXPECT_TRUE(isAround({mark.x, mark.y - 11}, colours_.front));
     places.insert(static_cast<int>(mark.x));
   }
@@ -256,8 +273,10 @@ TEST_F(PreviewViewOnScreen, IsEmptyUntilThereIsSomethingToShow) {
 TEST_F(PreviewViewOnScreen, DescribesWhatItShows) {
   show(previewOf({{1}, {0}}, {{1}, {0}}, Turning::ShortEdge));
   const std::string text = toText([view_ accessibilityLabel]);
-  EXPECT_EQ(text.rfind("Each side moves 0.1 mm to the right, as you look at that side. Held", 0),
-            0u)
+  EXPECT_EQ(
+      text.rfind("Each side moves 0.1 mm to the right, as you look at that side. Against the light",
+                 0),
+      0u)
       << text;
   EXPECT_EQ(toText([view_ view:view_ stringForToolTip:0 point:NSZeroPoint userData:nullptr]), text);
 }

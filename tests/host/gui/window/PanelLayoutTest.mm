@@ -20,6 +20,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 
 using namespace imageposition;
@@ -126,6 +127,23 @@ TEST_F(PanelLayout, TheHelpHasRoomForItsText) {
       expectLaidOut([(KeyScrollView *)view documentView]);
   }
   [help hide];
+}
+
+TEST_F(PanelLayout, TheHelpCoversNothingWhereTheScreenHasRoomForBothWindows) {
+  const NSRect screen = [[parent_ screen] visibleFrame];
+  HelpWindow *const help = [[[HelpWindow alloc] init] autorelease];
+  const CGFloat free = NSWidth(screen) - NSWidth([parent_ frame]);
+  const CGFloat needed = NSWidth([[help window] frame]);
+  for (const CGFloat left : {0.0, 0.4, 0.5, 0.6, 1.0}) {
+    [parent_ setFrameOrigin:NSMakePoint(NSMinX(screen) + std::floor(left * free), 100)];
+    [help showBeside:parent_];
+    const NSRect covered = NSIntersectionRect([[help window] frame], [parent_ frame]);
+    if (free >= needed) {
+      EXPECT_LE(NSWidth(covered), 0) << left;
+    }
+    EXPECT_TRUE(NSContainsRect(screen, [[help window] frame])) << left;
+    [help hide];
+  }
 }
 
 TEST_F(PanelLayout, TheRequestForANameHasRoomForItsText) {

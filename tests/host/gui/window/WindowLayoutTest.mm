@@ -25,9 +25,10 @@ const NSSize kLargeTextOnSmallScreen = {848, 656}; // points, of 1280 by 1024 pi
 const NSSize kSmallScreen = {1016, 728};
 const NSSize kLargeTextOnOldScreen = {528, 373}; // points, of 800 by 600 pixels at 1.5
 
-Arguments argumentsForPlainPrinter() {
+Arguments argumentsForPrinter() {
   Arguments arguments;
-  arguments.ppd = IMAGEPOSITION_SAMPLES "/duplex-plain.ppd"; // without a panel
+  arguments.ppd = IMAGEPOSITION_SAMPLES "/duplex-plain.ppd";
+  arguments.plugins = {FIXTURE_PLUGIN};
   arguments.documents = {"report.pdf"};
   return arguments;
 }
@@ -77,7 +78,7 @@ protected:
     [dialog_ windowDidResize:nil];
   }
 
-  const Arguments arguments_ = argumentsForPlainPrinter();
+  const Arguments arguments_ = argumentsForPrinter();
   PrintJob job_{arguments_, openPrinter(arguments_)};
   PrintSession session_{job_};
   std::ostringstream errors_;
@@ -153,8 +154,8 @@ TEST_P(WindowLayout, HasRoomForTheTextOfThePicture) {
   EXPECT_LE(together({widthOf(messages::kPreviewEnlarged, previewBoldFont()),
                       widthOf(messages::previewSquare("0.2 mm"), previewFont())}),
             layout.enlargedTitle.width);
-  for (const std::string &words : {messages::kPreviewMarksCoincide.str(),
-                                   messages::previewMarksApart(arrowText({{-99}, {-99}}))})
+  for (const std::string &words :
+       {messages::kPreviewMovesTogether.str(), messages::previewMoves(arrowText({{-99}, {-99}}))})
     EXPECT_LE(widthOf(words, previewFont()), layout.relation.width) << words;
 }
 

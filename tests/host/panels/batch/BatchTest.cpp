@@ -36,12 +36,22 @@ TEST_F(Batch, TheSummaryListsThePanelsValuesInItsOrder) {
   const auto result =
       batch(shift, {"--set", "FrontLRM=-3", "--set", "BackTBM=7", "--back", "on", "--summary"});
   EXPECT_THAT(result.output, HasSubstr("Image Position\n"
-                                       "  Use separate offsets for the back side: 1\n"
+                                       "  Use separate offsets for the back side: On\n"
                                        "  Front left-right offset (\xC3\x97 0.1 mm): -3\n"
                                        "  Front top-bottom offset (\xC3\x97 0.1 mm): 0\n"
                                        "  Back left-right offset (\xC3\x97 0.1 mm): 0\n"
                                        "  Back top-bottom offset (\xC3\x97 0.1 mm): 7\n"))
       << testing::PrintToString(result);
+}
+
+TEST_F(Batch, TheSummaryLeavesOutWhatIsOff) {
+  const auto result = batch(shift, {"--set", "FrontLRM=-3", "--summary"});
+  EXPECT_THAT(result.output, HasSubstr("Image Position\n"
+                                       "  Left-right offset (\xC3\x97 0.1 mm): -3\n"
+                                       "  Top-bottom offset (\xC3\x97 0.1 mm): 0\n"))
+      << testing::PrintToString(result);
+  EXPECT_THAT(result.output, testing::Not(HasSubstr("back")));
+  EXPECT_THAT(result.output, testing::Not(HasSubstr("Back left-right")));
 }
 
 TEST_F(Batch, EveryCombinationOfSideSignAndRangeEndReachesTheJob) {

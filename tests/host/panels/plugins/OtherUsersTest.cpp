@@ -81,7 +81,7 @@ TEST_F(OtherUsers, CannotReplaceAPluginsCodeThroughTheUsersOwnGroup) {
   }
   const auto result = runProcess(words, {"FIXTURE_JOURNAL=" + journal});
   expectUnheard(result, "other users can modify \"" + bundle + "/Fixture\"");
-  EXPECT_THAT(result.errors, HasSubstr("chmod go-w \"" + bundle + "/Fixture\""));
+  EXPECT_THAT(result.errors, HasSubstr("chmod go-w " + bundle + "/Fixture)"));
 }
 
 TEST_F(OtherUsers, CannotPutLibrariesWhereAPluginsCodeLooksForThem) {

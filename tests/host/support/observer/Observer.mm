@@ -51,6 +51,10 @@ const char *kindOf(NSView *view) {
     return [(NSTextField *)view isEditable] ? "field" : "label";
   if ([view isKindOfClass:NSClassFromString(@"PreviewView")])
     return "picture";
+  if ([view isKindOfClass:[NSScroller class]])
+    return "scroller";
+  if ([view isKindOfClass:[NSClipView class]])
+    return "viewport";
   return nullptr;
 }
 
@@ -59,6 +63,8 @@ std::string textOf(NSView *view) {
     return oneLine([[[(NSPopUpButton *)view cell] menuItem] title]);
   if ([view isKindOfClass:[NSButton class]])
     return oneLine([(NSButton *)view title]);
+  if ([view isKindOfClass:[NSScroller class]])
+    return NSWidth([view frame]) > NSHeight([view frame]) ? "sideways" : "upright";
   if ([view isKindOfClass:[NSProgressIndicator class]])
     return std::to_string([(NSProgressIndicator *)view doubleValue]);
   if (![view isKindOfClass:[NSTextField class]])
