@@ -11,13 +11,19 @@
 @interface ModalPanelController : NSObject <KeyWindowDelegate> {
 @public
   KeyWindow *window;                       ///< Not owned.
+  BOOL isFirst;                            ///< The program has no other window.
   const std::function<bool()> *mayConfirm; ///< Borrowed while the panel runs.
 }
 @end
 
 @implementation ModalPanelController
 
+/// A program that had no window for a moment has lost the focus.
 - (void)takeFocus {
+  if (isFirst && ![NSApp isActive]) {
+    [NSApp activateIgnoringOtherApps:YES];
+    [window makeKeyAndOrderFront:nil];
+  }
   imageposition::askForFocus(window);
 }
 
@@ -114,6 +120,7 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
   if (first == nil)
     first = order.empty() ? confirm_ : order.front();
   [window_ setInitialFirstResponder:first];
+  static_cast<ModalPanelController *>(controller_)->isFirst = parent == nil;
   if (parent == nil) {
     [window_ center];
     activateApplication();
