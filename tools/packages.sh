@@ -6,11 +6,13 @@ build_packages=(
   libgnustep-gui-dev                                # AppKit and Foundation
   libcups2-dev libfontconfig-dev libx11-dev         # printers; the list of fonts; the display
   libcli11-dev nlohmann-json3-dev                   # command line, tickets
+  libqpdf-dev                                       # pages of documents
   gettext                                           # the dialog's translations
 )
 
 run_packages=(
   gnustep-back0.29-cairo                            # draws the windows
+  libqpdf29                                         # reads the documents' pages
   cups-common                                       # words for what printers offer, in many languages
   fontconfig fonts-dejavu-core fonts-wqy-microhei   # text; Japanese and Chinese with Latin in one font
   xvfb openbox                                      # a virtual display

@@ -7,7 +7,6 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <string>
-#include <sys/stat.h>
 
 namespace imageposition {
 
@@ -18,17 +17,6 @@ constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEP
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Fault, message); }
 
-/// Whether another user could have put the file there, for example next to a program in /tmp. Group
-/// permissions are ignored: a group that can replace the module can replace the program, too.
-bool isUntrusted(const std::string &path) {
-  struct stat module {
-  }, program{};
-  if (lstat(path.c_str(), &module) != 0 || stat("/proc/self/exe", &program) != 0)
-    return true;
-  const bool isOwned = module.st_uid == program.st_uid || module.st_uid == 0;
-  return !isOwned || (!S_ISLNK(module.st_mode) && (module.st_mode & S_IWOTH) != 0);
-}
-
 std::string moduleFile() {
   std::string refused;
   std::error_code ignored;
@@ -36,7 +24,7 @@ std::string moduleFile() {
   for (const std::string &path : {besideProgram(kBesideProgram), installed}) {
     if (path.empty() || !std::filesystem::exists(path, ignored))
       continue;
-    if (!isUntrusted(path))
+    if (isTrustedPart(path))
       return path;
     refused = messages::moduleUntrusted(path);
   }

@@ -67,6 +67,7 @@ ExitCode listOptions(const Arguments &arguments) {
 /// Cleans the environment before GNUstep is loaded and reads it.
 ExitCode runOnGnustep(const Arguments &arguments) {
   removeVariablesThatAreNotUtf8();
+  removeForgottenDefaultsLock();
   if (const auto part = removeGnustepVariables())
     std::cerr << messages::kProgram << messages::configurationUntrusted(part->path) << '\n';
   return loadGnustepModule()(arguments);

@@ -1,5 +1,6 @@
 #include "Person.hpp"
 
+#include "FileDrag.hpp"
 #include "FocusedWindow.hpp"
 #include "Waiting.hpp"
 
@@ -7,6 +8,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <sstream>
 #include <thread>
 
@@ -164,6 +166,17 @@ void Person::paste(const std::string &text) {
   press("ctrl+v", 1);
 }
 
+/// From a file manager, on the middle of the window.
+void Person::drop(const std::string &files) {
+  std::vector<std::string> paths;
+  for (const std::string &file : wordsOf(files))
+    paths.push_back(startsWith(file, "~/") ? std::getenv("HOME") + file.substr(1)
+                                           : std::filesystem::absolute(file).string());
+  const Screen shown = screen();
+  if (!dropFiles(paths, shown.x + 200, shown.y + 200))
+    throw StepFailure("the window does not take the files");
+}
+
 void Person::resize(int width, int height) {
   xdotool(
       {"getwindowfocus", "windowsize", "--sync", std::to_string(width), std::to_string(height)});
@@ -273,6 +286,7 @@ std::vector<Sentence> Person::sentences() {
        }},
       {"type \"*\"", [=](const StepValues &v) { type(v[0]); }},
       {"paste \"*\"", [=](const StepValues &v) { paste(v[0]); }},
+      {"drop ...", [=](const StepValues &v) { drop(v[0]); }},
       {"press \"*\"", [=](const StepValues &v) { press(v[0], 1); }},
       {"press \"*\" # times", [=](const StepValues &v) { press(v[0], number(v[1])); }},
       {"resize the window to # by #",

@@ -32,6 +32,7 @@ private:
   void press(const std::string &key, int times);
   void paste(const std::string &text);
   void pointAt(const Control &control);
+  void drop(const std::string &files);
   void resize(int width, int height);
   void endWith(int status);
 

@@ -10,6 +10,11 @@ namespace imageposition {
 /// program are resolved. Returns an empty string if the program's path is unknown.
 std::string besideProgram(const std::string &name);
 
+/// Whether the file may be run as a part of this program: false if another user could have put it
+/// there, for example next to a program in /tmp. Group permissions are ignored: a group that can
+/// replace the part can replace the program, too.
+bool isTrustedPart(const std::string &path);
+
 } // namespace imageposition
 
 #endif

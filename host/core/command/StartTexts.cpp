@@ -5,8 +5,11 @@
 #include "Utf.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace imageposition {
@@ -65,6 +68,18 @@ std::optional<UntrustedPart> removeGnustepVariables() {
   if (untrusted || *configuration != '/') // GNUstep would resolve it in the current folder
     unsetenv(kConfiguration);
   return untrusted;
+}
+
+void removeForgottenDefaultsLock() {
+  const char *const home = std::getenv("HOME");
+  const std::string lock =
+      std::string(home != nullptr ? home : "") + "/GNUstep/Defaults/.lck/.GNUstepDefaults.lck";
+  struct stat status {};
+  if (stat(lock.c_str(), &status) != 0)
+    return;
+  constexpr std::time_t kLongest = 2; // seconds; a clock may have been set back meanwhile
+  if (std::abs(std::difftime(std::time(nullptr), status.st_mtime)) > kLongest)
+    rmdir(lock.c_str()); // a folder
 }
 
 } // namespace imageposition

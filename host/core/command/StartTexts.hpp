@@ -32,6 +32,10 @@ void removeVariablesThatAreNotUtf8();
 /// in the latter case, returns the part of the path that they could have modified.
 std::optional<UntrustedPart> removeGnustepVariables();
 
+/// Removes the lock of GNUstep's user defaults if a killed program has left it. GNUstep holds it
+/// for less than a millisecond, but waits for twenty seconds or more before it removes one.
+void removeForgottenDefaultsLock();
+
 } // namespace imageposition
 
 #endif

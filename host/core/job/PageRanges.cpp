@@ -152,6 +152,11 @@ PageRanges PageRanges::parse(std::string_view text) {
   return pages;
 }
 
+bool PageRanges::namesPagesBeyond(int pages) const noexcept {
+  const PageRange &last = ranges_.back();
+  return (last.last == PageRange::kToTheEnd ? last.first : last.last) > pages;
+}
+
 std::string PageRanges::text() const { return written(ranges_, ", "); }
 
 std::string PageRanges::optionValue() const { return written(ranges_, ","); }

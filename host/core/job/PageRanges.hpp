@@ -29,6 +29,11 @@ public:
   /// Throws a `Failure` with `ExitCode::Usage` that describes the error and gives an example.
   static PageRanges parse(std::string_view text);
 
+  /// Whether a document with that many pages, at least one, has one of these pages.
+  bool hasPagesUpTo(int pages) const noexcept { return ranges_.front().first <= pages; }
+  /// Whether such a document lacks a page that is explicitly named.
+  bool namesPagesBeyond(int pages) const noexcept;
+
   const std::vector<PageRange> &ranges() const noexcept { return ranges_; }
   /// For display: "1-3, 7, 9-".
   std::string text() const;

@@ -131,6 +131,7 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter first)
       preset_(presetOf(queue_, *printer_)), ticket_(openTicket(arguments, preset_.settings)),
       withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
                                                          : openTicket(arguments, {}).settings),
+      documents_(arguments.documents),
       isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
@@ -176,10 +177,16 @@ void PrintJob::leavePreset() {
   ticket_.printer = printer_->name();
 }
 
-bool PrintJob::hasDocument() const { return !arguments_.documents.empty() || isInputGiven(); }
+bool PrintJob::hasDocument() const { return !documents_.empty() || isInputGiven(); }
+
+void PrintJob::setDocuments(const std::vector<std::string> &paths) {
+  documents_ = ticket_.documents = paths;
+  if (!isTicketChosen_ && arguments_.ticket.empty())
+    isSubmitted_ = !queue_.empty();
+}
 
 std::vector<std::string> PrintJob::documentsToSend() const {
-  return arguments_.documents.empty() ? std::vector<std::string>{"-"} : arguments_.documents;
+  return documents_.empty() ? std::vector<std::string>{"-"} : documents_;
 }
 
 JobRequest PrintJob::request(const DestinationList &destinations) const {
@@ -226,9 +233,8 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
   sentName_ = printer + "-" + std::to_string(sent.id);
   if (arguments_.isSilent || arguments_.isMailWanted)
     return;
-  const auto &paths = arguments_.documents;
-  const auto inputs = std::count(paths.begin(), paths.end(), "-"); // lp counts only files
-  output << messages::jobSent(printer, sent.id, paths.size() - inputs) << std::endl;
+  const auto inputs = std::count(documents_.begin(), documents_.end(), "-"); // lp counts files
+  output << messages::jobSent(printer, sent.id, documents_.size() - inputs) << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;
 }

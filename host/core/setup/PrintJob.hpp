@@ -61,7 +61,10 @@ public:
   /// Whether `print` submits the job to CUPS; otherwise it writes the settings.
   bool isSubmitted() const noexcept { return isSubmitted_; }
   /// Stays false if there is no queue.
-  void setSubmitted(bool submitted) noexcept { isSubmitted_ = submitted && !queue_.empty(); }
+  void setSubmitted(bool submitted) noexcept {
+    isTicketChosen_ = !submitted;
+    isSubmitted_ = submitted && !queue_.empty();
+  }
 
   /// Switches to another printer, and keeps the settings that it accepts. Destroys the previous
   /// printer.
@@ -69,6 +72,9 @@ public:
 
   /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
+  /// Takes other documents, at least one. `print` then submits them, unless the job is to be saved
+  /// as a ticket.
+  void setDocuments(const std::vector<std::string> &paths);
   /// Whether there is something to print: a document, or redirected input.
   bool hasDocument() const;
 
@@ -103,7 +109,9 @@ private:
   LoadedPreset preset_; // of the first queue
   Ticket ticket_;
   PrintSettingsStore withoutPreset_;
+  std::vector<std::string> documents_; // to print; empty if standard input is implied
   bool isSubmitted_;
+  bool isTicketChosen_ = false;
   std::string sentName_;
   std::string done_;
 };

@@ -36,6 +36,13 @@ const Text kReplace = text("Replace");
 std::string alreadyExists(const std::string &name) {
   return text("\"{1}\" already exists. Replace it?").with(name);
 }
+const Text kOpenWindow = text("Open a document");
+const Text kOpenButton = text("Open");
+const Text kFileRow = text("&File:");
+std::string documentNotOpened(const std::string &path, const std::string &reason) {
+  return text("Cannot read the document \"{1}\": {2}. Check its name and permissions.")
+      .with(path, reason);
+}
 const Text kPasswordWindow = text("Password");
 const Text kWrongPasswordWindow = text("Wrong password");
 const Text kPleaseWait = text("Please wait");

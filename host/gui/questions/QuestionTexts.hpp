@@ -30,6 +30,12 @@ extern const Text kSave;
 extern const Text kReplace;
 std::string alreadyExists(const std::string &name);
 
+// Documents.
+extern const Text kOpenWindow;
+extern const Text kOpenButton;
+extern const Text kFileRow;
+std::string documentNotOpened(const std::string &path, const std::string &reason);
+
 // Opening a printer.
 extern const Text kPleaseWait; ///< A window's title.
 std::string waitingForCups(const std::string &server);

@@ -1,5 +1,6 @@
 #import "Daemons.h"
 
+#import "DragPasteboard.h"
 #import "Replaced.h"
 
 #import <AppKit/AppKit.h>
@@ -40,6 +41,8 @@ id generalPasteboardOnDemand(id owner, SEL) {
 }
 
 id namedPasteboardOnDemand(id owner, SEL operation, NSString *name) {
+  if ([name isEqualToString:NSDragPboard])
+    return [[[DragPasteboard alloc] init] autorelease];
   if (isSelection(name))
     return nil;
   allowDaemons();

@@ -4,8 +4,8 @@
 
 #import <AppKit/AppKit.h>
 
-/// Draws the items of a pop-up, one below another, and the one that is highlighted. Only draws: the
-/// list that shows it follows the mouse and the keys.
+/// Draws items, one below another, and the one that is highlighted. Only draws: whatever shows it
+/// follows the mouse and the keys.
 @interface ChoiceListView : NSView {
   NSArray *titles; ///< Owned; so below.
   NSIndexSet *disabled;
@@ -16,6 +16,8 @@
 
 /// Takes over the titles as they are now: the pop-up's items may change while the list is open.
 - (id)initWithPopUp:(NSPopUpButton *)popUp;
+/// Items without a mark, in that font or, where it lacks characters, in others of its size.
+- (id)initWithTitles:(NSArray *)theTitles font:(NSFont *)font;
 /// The size that shows every title in full.
 - (NSSize)wantedSize;
 
@@ -29,6 +31,10 @@
 /// -1 if none is.
 - (NSInteger)highlightedItemIndex;
 - (void)highlight:(NSInteger)index;
+/// Behind the highlighted item.
+- (NSColor *)highlightColor;
+/// Of the highlighted item's title.
+- (NSColor *)highlightedTextColor;
 
 @end
 

@@ -23,25 +23,35 @@ constexpr NSUInteger kMostCharacters = 200; // AppKit lays out all of a title, w
 
 @implementation ChoiceListView
 
-- (id)initWithPopUp:(NSPopUpButton *)popUp {
+- (id)initWithTitles:(NSArray *)theTitles font:(NSFont *)font {
   if ((self = [super initWithFrame:NSZeroRect]) == nil)
     return nil;
   NSMutableArray *const all = [NSMutableArray array];
-  for (NSInteger i = 0; i < [popUp numberOfItems]; i++)
-    [all addObject:imageposition::cutTo(kMostCharacters, [popUp itemTitleAtIndex:i])];
-  titles = [all copy];
   NSMutableArray *const each = [NSMutableArray array];
-  for (NSUInteger i = 0; i < [titles count]; i++)
-    [each addObject:imageposition::fontThatShows([titles objectAtIndex:i], [popUp font])];
+  for (NSUInteger i = 0; i < [theTitles count]; i++) {
+    NSString *const title = imageposition::cutTo(kMostCharacters, [theTitles objectAtIndex:i]);
+    [all addObject:title];
+    [each addObject:imageposition::fontThatShows(title, font)];
+  }
+  titles = [all copy];
   fonts = [each copy];
-  chosen = [popUp indexOfSelectedItem];
+  disabled = [[NSIndexSet indexSet] retain];
+  chosen = -1;
   highlighted = -1;
+  [self setFrameSize:[self wantedSize]];
+  return self;
+}
+
+- (id)initWithPopUp:(NSPopUpButton *)popUp {
+  if ((self = [self initWithTitles:[popUp itemTitles] font:[popUp font]]) == nil)
+    return nil;
   NSMutableIndexSet *const off = [NSMutableIndexSet indexSet];
   for (NSInteger i = 0; i < [popUp numberOfItems]; i++)
     if (![[popUp itemAtIndex:i] isEnabled])
       [off addIndex:static_cast<NSUInteger>(i)];
+  [disabled release];
   disabled = [off copy];
-  [self setFrameSize:[self wantedSize]];
+  chosen = [popUp indexOfSelectedItem];
   return self;
 }
 
@@ -104,6 +114,14 @@ constexpr NSUInteger kMostCharacters = 200; // AppKit lays out all of a title, w
   [self setNeedsDisplayInRect:[self rectOfItemAtIndex:highlighted]];
 }
 
+- (NSColor *)highlightColor {
+  return imageposition::accentColor();
+}
+
+- (NSColor *)highlightedTextColor {
+  return [NSColor selectedMenuItemTextColor];
+}
+
 - (void)drawRect:(NSRect)dirty {
   [[NSColor textBackgroundColor] set];
   NSRectFill(dirty);
@@ -118,11 +136,11 @@ constexpr NSUInteger kMostCharacters = 200; // AppKit lays out all of a title, w
   const NSRect frame = [self rectOfItemAtIndex:row];
   const bool isHighlighted = row == highlighted;
   if (isHighlighted) {
-    [imageposition::accentColor() set];
+    [[self highlightColor] set];
     NSRectFill(frame);
   }
   NSColor *const color = ![self isItemEnabledAtIndex:row] ? [NSColor disabledControlTextColor]
-                         : isHighlighted                  ? [NSColor selectedMenuItemTextColor]
+                         : isHighlighted                  ? [self highlightedTextColor]
                                                           : [NSColor controlTextColor];
   if (row == chosen)
     imageposition::drawTick(NSMakeRect(NSMinX(frame) + (kTextLeft - kTick) / 2,

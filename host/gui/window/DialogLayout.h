@@ -23,8 +23,8 @@ struct RowControl {
   std::string title = {};    ///< Its own, with a key marked that reaches it; may be empty.
 };
 
-/// A title and its controls, from left to right; takes no room while all of them are hidden. The
-/// first control is reached by the title's key.
+/// A title and its controls, from left to right; hidden controls take no room, nor does a row of
+/// which all controls are hidden. The first control is reached by the title's key.
 struct DialogRow {
   std::string title; ///< With its key marked; may be empty.
   std::vector<RowControl> controls;

@@ -1,5 +1,6 @@
 #import "DialogLayout.h"
 
+#import "DropView.h"
 #import "Labels.h"
 #import "MnemonicControls.h"
 #import "PreviewView.h"
@@ -116,6 +117,8 @@ void DialogLayout::makeWindow(NSSize size, NSSize room) {
                                              defer:YES];
   [window_ setReleasedWhenClosed:NO];
   [window_ setTitle:toString(messages::kPrintWindow)];
+  [window_
+      setContentView:[[[DropView alloc] initWithFrame:[[window_ contentView] frame]] autorelease]];
   const CGFloat buttons = NSWidth([content_.help frame]) + NSWidth([content_.cancel frame]) +
                           NSWidth([content_.print frame]) + 2 * kMargin;
   const NSSize smallest = {std::max(rowsWidth(), buttons) + 2 * kMargin,
@@ -273,13 +276,15 @@ void DialogLayout::placeRows(CGFloat top) {
     place(titles_[i], frame);
     CGFloat left = kMargin + titleWidth_ + kGap;
     for (const RowControl &control : content_.rows[i].controls) {
+      const CGFloat width = widths_[at++];
+      if ([control.view isHidden])
+        continue;
       frame = [control.view frame];
       const CGFloat rest = rowsRight_ - left;
-      frame.size.width = control.takesRest ? rest : std::min(widths_[at], rest);
+      frame.size.width = control.takesRest ? rest : std::min(width, rest);
       frame.origin = NSMakePoint(left, std::round(middle - NSHeight(frame) / 2));
       place(control.view, frame);
       left = NSMaxX(frame) + control.gap;
-      at++;
     }
   }
 }

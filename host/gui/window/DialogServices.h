@@ -12,6 +12,8 @@
 /// protocol and not each other.
 @protocol DialogServices <NSObject>
 - (imageposition::PrintSession &)session;
+/// The number of pages of the job's only document; 0 while it is not known.
+- (int)documentPages;
 /// Shows a message, which stays until the next one, and writes it to standard error. An empty one
 /// removes what is shown.
 - (void)say:(const std::string &)message;

@@ -1,5 +1,6 @@
 #import "PagesRow.h"
 
+#include "DocumentTexts.hpp"
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
 #include "PageRanges.hpp"
@@ -19,6 +20,7 @@ constexpr CGFloat kPagesWidth = 130;
 @interface PagesRow ()
 - (void)pagesChosen:(id)sender;
 - (void)rangesChanged:(id)sender;
+- (std::string)noteOn:(const std::optional<imageposition::PageRanges> &)chosen;
 - (BOOL)store;
 - (void)showError:(const std::string &)text;
 @end
@@ -79,6 +81,17 @@ constexpr CGFloat kPagesWidth = 130;
   return NO;
 }
 
+/// Mentions pages that the document lacks; may be empty. Throws a `Failure` if nothing would be
+/// printed.
+- (std::string)noteOn:(const std::optional<PageRanges> &)chosen {
+  const int count = [dialog documentPages];
+  if (!chosen || count == 0 || !chosen->namesPagesBeyond(count))
+    return {};
+  if (!chosen->hasPagesUpTo(count))
+    throw Failure(ExitCode::Usage, messages::documentHasPages(count));
+  return messages::documentHasPages(count);
+}
+
 /// Odd and even pages are those of the ranges, or without ranges of the whole document. NO, with a
 /// message, when the ranges are not understood.
 - (BOOL)store {
@@ -86,14 +99,16 @@ constexpr CGFloat kPagesWidth = 130;
   PageChoice choice;
   choice.set = item == kOddItem ? PageSet::Odd : item == kEvenItem ? PageSet::Even : PageSet::All;
   const std::string typed = toText([ranges stringValue]);
+  std::string note;
   try {
     if (item == kRangeItem || (item != kAllItem && !typed.empty()))
       choice.ranges = PageRanges::parse(typed);
+    note = [self noteOn:choice.ranges];
   } catch (const Failure &failure) {
     [self showError:failure.what()];
     return NO;
   }
-  [self showError:""];
+  [self showError:note];
   storePageChoice(choice, [dialog session].job().settings());
   return YES;
 }

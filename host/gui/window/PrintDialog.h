@@ -4,6 +4,8 @@
 
 #import "CopiesRow.h"
 #import "DialogServices.h"
+#import "DocumentRow.h"
+#import "DropView.h"
 #import "HelpWindow.h"
 #import "KeyWindow.h"
 #import "MessageView.h"
@@ -21,13 +23,14 @@ namespace imageposition {
 struct PrintDialogState;
 }
 
-@interface PrintDialog : NSObject <DialogServices, KeyWindowDelegate, NumberFieldOwner> {
+@interface PrintDialog
+    : NSObject <DialogServices, KeyWindowDelegate, NumberFieldOwner, FileReceiver> {
   imageposition::PrintDialogState *state; ///< Owned; so below.
   KeyWindow *window;
   MessageView *message;
   PreviewView *picture;
-  NSTextField *documentLabel; ///< In the window only if there is a document.
   PrinterRow *printers;
+  DocumentRow *documents;
   PresetRow *presets;
   CopiesRow *copies;
   PagesRow *pages;

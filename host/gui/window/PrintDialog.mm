@@ -1,10 +1,8 @@
 #import "PrintDialog.h"
 
-#include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "HelpTexts.hpp"
 #include "JobSubmission.hpp"
-#import "Labels.h"
 #import "MnemonicControls.h"
 #import "NotePanel.h"
 #include "NumberText.hpp"
@@ -53,7 +51,6 @@ struct imageposition::PrintDialogState {
   PictureRedrawing redrawing;
   std::unique_ptr<RunLoopWake> wake;
   std::unique_ptr<DialogLayout> layout;
-  std::string documents;
   std::string message;          // that is shown
   std::string numberNote;       // the last message about a number; may be empty
   bool isNumberChanged = false; // when the editing of a number ended last
@@ -80,7 +77,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, {}, false, {}};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, false, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -97,8 +94,8 @@ struct imageposition::PrintDialogState {
   [printers stopAsking];
   [window setDelegate:nil];
   [window close];
-  for (id part : {(id)printers, (id)presets, (id)copies, (id)pages, (id)options, (id)panes,
-                  (id)sending, (id)message, (id)documentLabel, (id)picture, (id)help, (id)window})
+  for (id part : {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options,
+                  (id)panes, (id)sending, (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -108,6 +105,7 @@ struct imageposition::PrintDialogState {
   message = [[MessageView alloc] initWithFrame:NSZeroRect];
   picture = [[PreviewView alloc] initWithFrame:NSZeroRect];
   printers = [[PrinterRow alloc] initWithDialog:self wake:*state->wake];
+  documents = [[DocumentRow alloc] initWithDialog:self wake:*state->wake];
   presets = [[PresetRow alloc] initWithDialog:self];
   copies = [[CopiesRow alloc] initWithDialog:self];
   pages = [[PagesRow alloc] initWithDialog:self];
@@ -123,13 +121,9 @@ struct imageposition::PrintDialogState {
                                cancelButton:cancel
                                        wake:*state->wake
                                      errors:state->errors];
-  state->documents = documentsInWords(state->session->job().documents());
-  documentLabel = [makeLabel("") retain];
   std::vector<DialogRow> rows = [printers rows];
-  if (!state->documents.empty())
-    rows.push_back({messages::kDocumentRow, {{documentLabel, true}}});
-  rows.push_back([presets row]);
-  for (const std::vector<DialogRow> &part : {[copies rows], [pages rows]})
+  for (const std::vector<DialogRow> &part :
+       {std::vector<DialogRow>{[documents row], [presets row]}, [copies rows], [pages rows]})
     rows.insert(rows.end(), part.begin(), part.end());
   for (DialogRow &row : [options rows])
     rows.push_back(std::move(row));
@@ -146,7 +140,7 @@ struct imageposition::PrintDialogState {
   [window reach:cancel by:messages::kCancel];
   [window reach:print by:messages::kPrint];
   [panes linkBefore:resolve];
-  showCut(documentLabel, state->documents, NSWidth([documentLabel frame]));
+  [documents refresh];
 }
 
 /// Adapts to the window's size, or to a message, a hint or a panel that has come or gone. Without
@@ -154,7 +148,7 @@ struct imageposition::PrintDialogState {
 - (void)layOut {
   [picture setHidden:state->session->panels().panels().empty()];
   state->layout->layOut();
-  showCut(documentLabel, state->documents, NSWidth([documentLabel frame]));
+  [documents refresh];
   [printers showState];
 }
 
@@ -190,6 +184,10 @@ struct imageposition::PrintDialogState {
 - (void)write:(const std::string &)text {
   if (!text.empty())
     *state->errors << text << std::endl;
+}
+
+- (int)documentPages {
+  return [documents pages];
 }
 
 - (BOOL)savePanels {
@@ -297,6 +295,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)wake {
+  [documents showQuestion];
   [options askForChosenValue];
   [sending askForPassword];
 }
@@ -304,9 +303,11 @@ struct imageposition::PrintDialogState {
 /// Another thread has found something.
 - (void)look {
   PrinterRow *const printerRow = printers;
+  DocumentRow *const documentRow = documents;
   Sending *const sender = sending;
   [window protect:[=] {
     [sender look];
+    [documentRow refresh];
     [printerRow takeAnswer];
   }];
 }
@@ -332,6 +333,14 @@ struct imageposition::PrintDialogState {
     [self say:note];
   else if (!note.empty() || (!last.empty() && state->message == last))
     [self show:note];
+}
+
+- (BOOL)takesFiles {
+  return ![sending isUnderWay] && [NSApp modalWindow] == window;
+}
+
+- (void)takeFiles:(const std::vector<std::string> &)paths {
+  [documents take:paths];
 }
 
 - (BOOL)windowShouldClose:(id)sender {

@@ -18,7 +18,6 @@ struct PrinterRowState;
   ListPopUp *popUp;          ///< Owned; so below.
   NSTextField *stateLabel;
   imageposition::PrinterRowState *state;
-  NSTimer *timer; ///< The run loop's; null while CUPS is not asked.
 }
 
 /// Signals `wake`, which it borrows, when `takeAnswer` is due.
@@ -29,10 +28,10 @@ struct PrinterRowState;
 - (void)refresh;
 /// Shows the state of the chosen printer, as far as its label has room.
 - (void)showState;
-/// Asks CUPS for its printers, now and every five seconds.
+/// Asks CUPS for its printers, now and whenever they change.
 - (void)startAsking;
 - (void)stopAsking;
-/// Shows what CUPS has answered, if it has.
+/// Shows what CUPS has answered, if it has, and asks again if the printers have changed.
 - (void)takeAnswer;
 
 @end

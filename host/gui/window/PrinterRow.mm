@@ -1,12 +1,15 @@
 #import "PrinterRow.h"
 
 #import "Labels.h"
+#include "PrinterChanges.hpp"
 #include "QuestionTexts.hpp"
 #import "RunLoopWake.h"
 #import "TextBridge.h"
 #include "WindowTexts.hpp"
 
 #include <algorithm>
+#include <atomic>
+#include <memory>
 #include <string>
 
 using namespace imageposition;
@@ -14,16 +17,13 @@ using namespace imageposition;
 struct imageposition::PrinterRowState {
   const RunLoopWake &wake;
   std::vector<std::string> names; // full names, in the order of the pop-up
+  std::unique_ptr<PrinterChanges> changes = nullptr;
+  const std::shared_ptr<std::atomic<bool>> isChanged = std::make_shared<std::atomic<bool>>(false);
 };
 
-namespace {
-
-constexpr NSTimeInterval kBetweenQuestions = 5;
-
-} // namespace
+namespace {} // namespace
 
 @interface PrinterRow ()
-- (void)ask:(NSTimer *)asking;
 - (void)printerChosen:(id)sender;
 @end
 
@@ -52,29 +52,25 @@ constexpr NSTimeInterval kBetweenQuestions = 5;
 }
 
 - (void)startAsking {
-  [self ask:nil];
-  timer = [NSTimer timerWithTimeInterval:kBetweenQuestions
-                                  target:self
-                                selector:@selector(ask:)
-                                userInfo:nil
-                                 repeats:YES];
-  for (NSString *mode : {NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode})
-    [[NSRunLoop currentRunLoop] addTimer:timer forMode:mode];
+  const auto signal = state->wake.signal();
+  const std::shared_ptr<std::atomic<bool>> isChanged = state->isChanged;
+  state->changes = std::make_unique<PrinterChanges>([=] {
+    *isChanged = true;
+    signal();
+  });
+  [dialog session].destinations().refresh(signal);
 }
 
 - (void)stopAsking {
-  [timer invalidate];
-  timer = nil;
-}
-
-- (void)ask:(NSTimer *)asking {
-  (void)asking;
-  [dialog session].destinations().refresh(state->wake.signal());
+  state->changes.reset();
 }
 
 - (void)takeAnswer {
-  if ([dialog session].destinations().takeAnswer())
+  Destinations &destinations = [dialog session].destinations();
+  if (destinations.takeAnswer())
     [self refresh];
+  if (!destinations.isRefreshing() && state->isChanged->exchange(false))
+    destinations.refresh(state->wake.signal());
 }
 
 - (void)refresh {

@@ -14,6 +14,12 @@ std::string presetsNotListed(std::size_t count) {
 const Text kPrintWindow = text("Print");
 const Text kPrinterRow = text("&Printer:");
 const Text kDocumentRow = text("Document:");
+const Text kNoDocument = text("No document");
+// Translators: a button that opens a window to choose a document.
+const Text kOpen = text("Op&en…");
+// Translators: a button that lists all documents of the job.
+const Text kListDocuments = text("&List…");
+const Text kDocumentsWindow = text("Documents");
 const Text kPresetsRow = text("P&reset:");
 const Text kCopiesRow = text("&Copies:");
 const Text kPagesRow = text("P&ages:");
@@ -73,7 +79,7 @@ std::string numbersNow(NumbersNow numbers, const std::string &printer) {
   }
 }
 const Text kNothingToPrint = text(
-    "There is no document to print. Start print-dialog with a file, or choose \"Save as ticket\".");
+    "There is no document to print. Choose one with Open…, or drop a file on this window.");
 const Text kPrintAnywayWindow = text("Print anyway?");
 const Text kPrintAnyway = text("Print anyway");
 const Text kGoBack = text("Go back");

@@ -4,6 +4,7 @@
 namespace {
 
 using namespace imageposition::test;
+namespace fs = std::filesystem;
 
 class Start : public Window {
 protected:
@@ -75,6 +76,20 @@ TEST_F(Start, NoOtherProgramIsStarted) {
   open("duplex-shift.ppd");
   const auto mine = runProcess({"pgrep", "-P", std::to_string(dialogProcess->id())});
   EXPECT_EQ(mine.output, "");
+}
+
+/// GNUstep would wait for more than a minute, or twenty seconds.
+TEST_F(Start, DoesNotWaitForTheDefaultsLockOfAKilledProgram) {
+  const fs::path lock =
+      fs::path(std::getenv("HOME")) / "GNUstep/Defaults/.lck/.GNUstepDefaults.lck";
+  for (const auto age : {std::chrono::hours(1), std::chrono::hours(-1)}) {
+    fs::create_directories(lock);
+    fs::last_write_time(lock, fs::file_time_type::clock::now() - age);
+    constexpr int kPatience = 15; // seconds
+    Process batch({PRINT_DIALOG, "--batch", "--ppd", sample("duplex-shift.ppd")}, {}, kPatience);
+    EXPECT_EQ(batch.wait().status, kDone);
+    EXPECT_FALSE(fs::exists(lock));
+  }
 }
 
 TEST_F(Start, ADocumentNamedFirstIsPrinted) {

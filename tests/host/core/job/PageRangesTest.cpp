@@ -127,4 +127,19 @@ TEST(PageChoice, AnInvalidOptionCountsAsAllPages) {
   EXPECT_EQ(readPageChoice(job).set, PageSet::All);
 }
 
+TEST(PageRanges, AreComparedWithThePagesOfADocument) {
+  const struct {
+    const char *ranges;
+    bool has, namesBeyond;
+  } rows[] = {{"1-3", true, false},   {"12", true, false},   {"5-", true, false},
+              {"-4", true, false},    {"1-13", true, true},  {"3, 40", true, true},
+              {"12-", true, false},   {"13-", false, true},  {"13", false, true},
+              {"20-30", false, true}, {"1, 13-", true, true}};
+  for (const auto &row : rows) {
+    const PageRanges pages = PageRanges::parse(row.ranges);
+    EXPECT_EQ(pages.hasPagesUpTo(12), row.has) << row.ranges;
+    EXPECT_EQ(pages.namesPagesBeyond(12), row.namesBeyond) << row.ranges;
+  }
+}
+
 } // namespace

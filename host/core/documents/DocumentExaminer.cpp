@@ -1,0 +1,149 @@
+#include "DocumentExaminer.hpp"
+
+#include "FileContent.hpp"
+#include "ProgramFolder.hpp"
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <filesystem>
+#include <mutex>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace imageposition {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::seconds kPatience{5};
+constexpr int kBetweenLooks = 50; // milliseconds
+constexpr std::size_t kLongestReport = 200;
+constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_EXAMINER;
+
+/// Empty if there is none that can be trusted.
+std::string examinerProgram() {
+  std::error_code ignored;
+  for (const std::string &path : {besideProgram(IMAGEPOSITION_EXAMINER), besideProgram(kInstalled)})
+    if (!path.empty() && std::filesystem::exists(path, ignored) && isTrustedPart(path))
+      return path;
+  return {};
+}
+
+/// A process with its standard output.
+class Examination {
+public:
+  explicit Examination(const std::string &document) {
+    const std::string program = examinerProgram();
+    std::array<int, 2> ends{};
+    if (program.empty() || pipe2(ends.data(), O_CLOEXEC) != 0)
+      return;
+    const Descriptor output(ends[1]);
+    report_ = Descriptor(ends[0]);
+    std::string path = document[0] == '/' ? document : "./" + document;
+    std::string name = program;
+    char *const words[] = {name.data(), path.data(), nullptr};
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, output.get(), STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    if (posix_spawn(&process_, program.c_str(), &actions, nullptr, words, environ) != 0)
+      process_ = -1;
+    posix_spawn_file_actions_destroy(&actions);
+  }
+  /// Ends the process. One that waits for a file system which does not respond cannot be waited
+  /// for.
+  ~Examination() {
+    if (process_ <= 0)
+      return;
+    kill(process_, SIGKILL);
+    for (int tries = 0; tries < 10 && waitpid(process_, nullptr, WNOHANG) == 0; tries++)
+      poll(nullptr, 0, kBetweenLooks / 10);
+  }
+  Examination(const Examination &) = delete;
+  Examination &operator=(const Examination &) = delete;
+
+  /// Returns the whole report, or an empty one if `isStopped`, or after `kPatience`.
+  std::string report(const std::atomic<bool> &isStopped) const {
+    const auto end = Clock::now() + kPatience;
+    std::string text;
+    while (process_ > 0 && !isStopped && Clock::now() < end) {
+      pollfd waiting{report_.get(), POLLIN, 0};
+      if (poll(&waiting, 1, kBetweenLooks) <= 0)
+        continue;
+      std::array<char, kLongestReport> part{};
+      const ssize_t count = read(report_.get(), part.data(), part.size());
+      if (count <= 0 || text.size() > kLongestReport)
+        return text;
+      text.append(part.data(), static_cast<std::size_t>(count));
+    }
+    return {};
+  }
+
+private:
+  Descriptor report_{-1};
+  pid_t process_ = -1;
+};
+
+} // namespace
+
+class DocumentExaminer::Work {
+public:
+  Work(std::string path, Changed changed)
+      : thread_([this, path = std::move(path), changed = std::move(changed)] {
+          const auto found = readFacts(Examination(path).report(isStopped_));
+          {
+            const std::lock_guard<std::mutex> lock(mutex_);
+            facts_ = found;
+          }
+          if (!isStopped_)
+            changed();
+        }) {}
+  ~Work() {
+    isStopped_ = true;
+    thread_.join();
+  }
+  Work(const Work &) = delete;
+  Work &operator=(const Work &) = delete;
+
+  std::optional<DocumentFacts> facts() const {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return facts_;
+  }
+
+private:
+  std::atomic<bool> isStopped_{false};
+  mutable std::mutex mutex_;
+  std::optional<DocumentFacts> facts_;
+  std::thread thread_; // last: uses the others
+};
+
+DocumentExaminer::DocumentExaminer(Changed changed) : changed_(std::move(changed)) {}
+
+DocumentExaminer::~DocumentExaminer() = default;
+
+void DocumentExaminer::examine(const std::string &path) {
+  work_.reset();
+  if (path.empty())
+    return;
+  try {
+    work_ = std::make_unique<Work>(path, changed_);
+  } catch (const std::system_error &) { // no thread is left: the document stays unknown
+  }
+}
+
+std::optional<DocumentFacts> DocumentExaminer::facts() const {
+  return work_ != nullptr ? work_->facts() : std::nullopt;
+}
+
+} // namespace imageposition

@@ -1,0 +1,44 @@
+/// Examines documents in the background.
+#ifndef IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTEXAMINER_HPP
+#define IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTEXAMINER_HPP
+
+#include "DocumentFacts.hpp"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace imageposition {
+
+/// Has another process, with limits to its time and memory, read the document: it may be large or
+/// damaged, be a pipe, or have been made to do harm. Knows only PDF files.
+///
+/// Call all methods on one thread; none waits for the document.
+class DocumentExaminer {
+public:
+  /// Called on another thread when a document has been examined, even if nothing is known of it.
+  using Changed = std::function<void()>;
+
+  explicit DocumentExaminer(Changed changed);
+  /// Stops what is under way.
+  ~DocumentExaminer();
+  DocumentExaminer(const DocumentExaminer &) = delete;
+  DocumentExaminer &operator=(const DocumentExaminer &) = delete;
+
+  /// Forgets the last document and begins with this one; with an empty path there is none.
+  void examine(const std::string &path);
+
+  /// Empty until they are known; stays so for a document that cannot be examined within seconds.
+  std::optional<DocumentFacts> facts() const;
+
+private:
+  class Work;
+
+  Changed changed_;
+  std::unique_ptr<Work> work_; // null without a document
+};
+
+} // namespace imageposition
+
+#endif

@@ -1,0 +1,34 @@
+/// Facts about a document.
+#ifndef IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTFACTS_HPP
+#define IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTFACTS_HPP
+
+#include "Units.hpp"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace imageposition {
+
+/// Upright or on its side.
+struct PaperSize {
+  Point width;
+  Point length;
+
+  /// Whether they differ by no more than paper may; either of them may lie on its side.
+  bool isSame(const PaperSize &other) const noexcept;
+};
+
+struct DocumentFacts {
+  int pages = 0;                  ///< At least 1.
+  std::optional<PaperSize> paper; ///< Of all pages; none if they differ.
+};
+
+/// The line with which the examiner reports to the dialog.
+std::string writeFacts(const DocumentFacts &facts);
+/// None if the line is not one that `writeFacts` returns.
+std::optional<DocumentFacts> readFacts(std::string_view line);
+
+} // namespace imageposition
+
+#endif

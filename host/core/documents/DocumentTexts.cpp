@@ -1,0 +1,18 @@
+#include "DocumentTexts.hpp"
+
+namespace imageposition::messages {
+
+std::string pageCount(int pages) { return counted(pages, "{1} page", "{1} pages"); }
+std::string paperOnMedia(const std::string &paper, const std::string &media) {
+  // Translators: the size of a document's pages, and the size of the paper on which they are
+  // printed: A5 document on A4.
+  return text("{1} document on {2}").with(paper, media);
+}
+std::string millimetres(const std::string &width, const std::string &length) {
+  return text("{1} × {2} mm").with(width, length);
+}
+std::string documentHasPages(int pages) {
+  return counted(pages, "The document has {1} page.", "The document has {1} pages.");
+}
+
+} // namespace imageposition::messages

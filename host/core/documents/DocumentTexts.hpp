@@ -1,0 +1,20 @@
+/// Texts about a document's pages and paper.
+#ifndef IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTTEXTS_HPP
+#define IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTTEXTS_HPP
+
+#include "Text.hpp"
+
+#include <string>
+
+namespace imageposition::messages {
+
+std::string pageCount(int pages);
+/// The document's paper, "A5", and the media in the printer, "A4".
+std::string paperOnMedia(const std::string &paper, const std::string &media);
+std::string millimetres(const std::string &width, const std::string &length);
+/// Why pages cannot be printed.
+std::string documentHasPages(int pages);
+
+} // namespace imageposition::messages
+
+#endif

@@ -1,0 +1,83 @@
+#include "PdfFacts.hpp"
+
+#include "FileContent.hpp"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <exception>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <vector>
+
+namespace imageposition {
+
+namespace {
+
+/// A PDF may begin with other bytes, which readers skip.
+constexpr std::size_t kHeadRoom = 1024;
+
+/// None if it is not a regular file that can be read. Never waits for a pipe.
+Descriptor opened(const std::string &path) {
+  Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  struct stat status {};
+  if (!file.isOpen() || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
+    return Descriptor(-1);
+  return file;
+}
+
+bool isPdf(const Descriptor &file) {
+  std::array<char, kHeadRoom> head{};
+  const ssize_t count = pread(file.get(), head.data(), head.size(), 0);
+  const std::string_view text(head.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+  return text.find("%PDF-") != std::string_view::npos;
+}
+
+/// None if the page has no usable size.
+std::optional<PaperSize> paperOf(QPDFPageObjectHelper &page) {
+  const QPDFObjectHandle::Rectangle box = page.getCropBox().getArrayAsRectangle();
+  QPDFObjectHandle unit = page.getAttribute("/UserUnit", false);
+  const double scale = unit.isNumber() ? unit.getNumericValue() : 1;
+  const PaperSize size{{std::abs(box.urx - box.llx) * scale},
+                       {std::abs(box.ury - box.lly) * scale}};
+  const bool isUsable = size.width.count > 0 && size.length.count > 0;
+  return isUsable ? std::optional(size) : std::nullopt;
+}
+
+std::optional<PaperSize> paperOfAll(std::vector<QPDFPageObjectHelper> &pages) {
+  const auto first = paperOf(pages.front());
+  for (QPDFPageObjectHelper &page : pages) {
+    const auto other = paperOf(page);
+    if (!first || !other || !first->isSame(*other))
+      return std::nullopt;
+  }
+  return first;
+}
+
+} // namespace
+
+std::optional<DocumentFacts> factsOfPdf(const std::string &path) try {
+  Descriptor file = opened(path);
+  if (!file.isOpen() || !isPdf(file))
+    return std::nullopt;
+  FILE *const stream = fdopen(file.get(), "rb");
+  if (stream == nullptr)
+    return std::nullopt;
+  (void)file.release(); // QPDF closes the stream
+  QPDF pdf;
+  pdf.setSuppressWarnings(true);
+  pdf.processFile("document", stream, true);
+  auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
+  if (pages.empty())
+    return std::nullopt;
+  return DocumentFacts{static_cast<int>(pages.size()), paperOfAll(pages)};
+} catch (const std::exception &) { // damaged, encrypted, or too large
+  return std::nullopt;
+}
+
+} // namespace imageposition

@@ -1,0 +1,163 @@
+#import "DocumentRow.h"
+
+#include "DocumentExaminer.hpp"
+#include "DocumentNames.hpp"
+#include "DocumentTexts.hpp"
+#include "JobTexts.hpp"
+#import "Labels.h"
+#import "MnemonicControls.h"
+#import "NotePanel.h"
+#import "OpenPanel.h"
+#include "PaperName.hpp"
+#import "RunLoopWake.h"
+#import "TextBridge.h"
+#include "WindowTexts.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <utility>
+
+using namespace imageposition;
+
+struct imageposition::DocumentRowState {
+  std::unique_ptr<DocumentExaminer> examiner; // GNU's Objective-C cannot encode its members
+};
+
+namespace {
+
+/// The folder of the document, or else the current one; for a program that a desktop has started in
+/// the root folder, the user's home.
+std::string folderToOpen(const std::vector<std::string> &documents) {
+  std::error_code ignored;
+  const auto current = std::filesystem::current_path(ignored);
+  if (!documents.empty() && documents.front() != "-")
+    return (current / documents.front()).lexically_normal().parent_path().string();
+  const char *const home = std::getenv("HOME");
+  return current == "/" && home != nullptr ? home : current.string();
+}
+
+constexpr std::size_t kMostListed = 20;
+
+/// A line each; the last tells how many are not listed.
+std::string documentList(const std::vector<std::string> &paths) {
+  const auto end = paths.begin() + static_cast<std::ptrdiff_t>(std::min(paths.size(), kMostListed));
+  std::string list;
+  for (auto path = paths.begin(); path != end; ++path)
+    list += (list.empty() ? "" : "\n") +
+            (path + 1 == end ? documentsInWords({path, paths.end()}) : documentsInWords({*path}));
+  return list;
+}
+
+} // namespace
+
+@interface DocumentRow ()
+- (const std::vector<std::string> &)paths;
+- (std::string)text;
+- (void)examine;
+- (void)press:(id)sender;
+- (void)open;
+@end
+
+@implementation DocumentRow
+
+- (id)initWithDialog:(id<DialogServices>)theDialog wake:(const RunLoopWake &)wake {
+  if ((self = [super init]) == nil)
+    return nil;
+  dialog = theDialog;
+  label = [makeLabel("") retain];
+  openButton = [makeButton(messages::kOpen, self, @selector(press:)) retain];
+  listButton = [makeButton(messages::kListDocuments, self, @selector(press:)) retain];
+  state = new DocumentRowState{std::make_unique<DocumentExaminer>(wake.signal())};
+  [self examine];
+  return self;
+}
+
+- (void)dealloc {
+  delete state;
+  for (NSButton *button : {openButton, listButton}) {
+    [button setTarget:nil];
+    [button release];
+  }
+  [label release];
+  [super dealloc];
+}
+
+- (DialogRow)row {
+  return {messages::kDocumentRow,
+          {{openButton, false, kControlGap, messages::kOpen},
+           {listButton, false, kControlGap, messages::kListDocuments},
+           {label, true}}};
+}
+
+- (const std::vector<std::string> &)paths {
+  return [dialog session].job().documents();
+}
+
+- (void)examine {
+  const auto &paths = [self paths];
+  const bool isFile = paths.size() == 1 && paths.front() != "-";
+  state->examiner->examine(isFile ? paths.front() : "");
+  [listButton setHidden:paths.size() < 2];
+}
+
+- (int)pages {
+  const auto facts = state->examiner->facts();
+  return facts ? facts->pages : 0;
+}
+
+- (void)refresh {
+  showCut(label, [self text], NSWidth([label frame]));
+  if ([self paths].size() > 1)
+    [label setToolTip:toString(documentList([self paths]))];
+}
+
+- (std::string)text {
+  PrintJob &job = [dialog session].job();
+  if (job.documents().empty())
+    return job.hasDocument() ? messages::kStandardInput : messages::kNoDocument;
+  std::string text = documentsInWords(job.documents());
+  if (const auto facts = state->examiner->facts()) {
+    const std::string paper = paperMismatch(*facts, job.printer().ppd());
+    text += " · " + messages::pageCount(facts->pages) + (paper.empty() ? "" : " · " + paper);
+  }
+  return text;
+}
+
+- (void)take:(const std::vector<std::string> &)paths {
+  for (const std::string &path : paths)
+    if (const std::string trouble = documentTrouble(path); !trouble.empty()) {
+      [dialog say:trouble];
+      return;
+    }
+  [dialog session].job().setDocuments(paths);
+  [self examine];
+  [dialog say:""];
+  [dialog refresh];
+}
+
+/// The button is drawn as pressed until this returns.
+- (void)press:(id)sender {
+  pressed = sender;
+  wakeModalLoop([sender window]);
+}
+
+- (void)showQuestion {
+  NSButton *const button = std::exchange(pressed, nil);
+  if (button == nil)
+    return;
+  if (button == openButton)
+    [self open];
+  else
+    showNote([label window], messages::kDocumentsWindow, documentList([self paths]));
+  [[label window] makeFirstResponder:button];
+}
+
+- (void)open {
+  const auto path = askForDocument([label window], folderToOpen([self paths]));
+  if (path)
+    [self take:std::vector<std::string>{*path}];
+}
+
+@end
