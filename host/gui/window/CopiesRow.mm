@@ -76,6 +76,7 @@ using namespace imageposition;
     return YES;
   }
   [self showError:messages::copiesNotUnderstood()];
+  [dialog write:messages::copiesNotUnderstood()];
   [[field window] makeFirstResponder:field];
   return NO;
 }

@@ -19,6 +19,8 @@
 - (void)say:(const std::string &)message;
 /// Shows a message without writing it.
 - (void)show:(const std::string &)message;
+/// Writes a message to standard error that is shown at the control it is about.
+- (void)write:(const std::string &)message;
 /// Has the panels write their values to the job's settings, before these are used or changed. NO
 /// when a panel failed; it is left out, and the user should look before anything else happens. What
 /// a panel did not save is shown, and does not stop the dialog.

@@ -76,6 +76,7 @@ constexpr CGFloat kPagesWidth = 130;
 - (BOOL)takeEntry {
   if ([self store])
     return YES;
+  [dialog write:toText([error stringValue])];
   [[ranges window] makeFirstResponder:ranges];
   return NO;
 }

@@ -178,6 +178,10 @@ struct imageposition::PrintDialogState {
 
 - (void)say:(const std::string &)text {
   [self show:text];
+  [self write:text];
+}
+
+- (void)write:(const std::string &)text {
   if (!text.empty())
     *state->errors << text << std::endl;
 }

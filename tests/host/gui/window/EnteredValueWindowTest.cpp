@@ -77,7 +77,6 @@ TEST_F(EnteredValue, OfSeveralChoicesAllTickedOnesArePrinted) {
   EXPECT_FALSE(isTicked(again, "Punch"));
   again.choose("Settings:", "Summary");
   EXPECT_TRUE(again.says("Staple, Fold  (usually Punch)"));
-  EXPECT_TRUE(again.says("Staple,Fold")) << "as CUPS gets it";
   again.click("Print");
   EXPECT_THAT(printed(jobOf(again.ended())).options, Contains(Pair("Finishing", "Staple,Fold")));
 }
@@ -122,11 +121,6 @@ TEST_F(EnteredValue, OfThePageSizeIsCheckedDuringTypingShownAndPrinted) {
   window.press("Return");
   ASSERT_TRUE(shows(window, "Media:", "Custom: 100 × 200 mm"));
   ASSERT_TRUE(asks(window, "Print"));
-  ASSERT_TRUE(window.becomes([](const Screen &shown) {
-    const Outline paper = Picture(shown).paper();
-    const double width = paper.right - paper.left, height = paper.bottom - paper.top;
-    return width > 0 && std::abs(height / width - 2) < 0.1;
-  }));
   window.choose("Settings:", "Summary");
   EXPECT_TRUE(window.says("Custom: 100 × 200 mm  (usually A4)"));
   savePreset(window, "card");

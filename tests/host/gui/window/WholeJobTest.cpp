@@ -17,7 +17,7 @@ using testing::Pair;
 TEST_F(WholeJob, APrinterIsChosenByMouseAndItsPanelAppears) {
   addQueue("attic", "duplex-plain.ppd");
   PrintWindow window(onQueue("attic"));
-  EXPECT_FALSE(window.says("plug-in"));
+  EXPECT_FALSE(window.screen().says("plug-in"));
   window.choose("Printer:", "office");
   ASSERT_TRUE(window.says(kLeftRight));
   EXPECT_FALSE(window.screen().says("No plug-in has a panel"));
