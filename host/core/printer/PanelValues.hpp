@@ -3,6 +3,7 @@
 #define IMAGEPOSITION_CORE_PRINTER_PANELVALUES_HPP
 
 #include "PrintSettingsStore.hpp"
+#include "PrinterDescription.hpp"
 
 #include <cups/ppd.h>
 
@@ -13,9 +14,22 @@
 
 namespace imageposition {
 
+/// The panels' numbers after a change of the printer.
+enum class NumbersNow {
+  AsBefore, ///< Or there are none.
+  Defaults, ///< The new printer's, which differ.
+  Kept,     ///< They differ from the new printer's defaults.
+  Fitted,   ///< Kept as far as the new printer allows.
+};
+
 /// Reads a boolean option, in any case: "true", "yes", "on" or "1"; "false", "no", "off" or "0".
 /// None for anything else.
 std::optional<bool> readBoolean(std::string_view value);
+
+/// The whole numbers that the panels' options have in a job without settings: the queue's defaults,
+/// or else those of the printer's description. Without zeros, with which panels begin anyway.
+PrintSettingsStore panelDefaults(const PrinterDescription &printer,
+                                 const std::vector<std::string> &keywords);
 
 /// Converts settings that come from elsewhere to the forms that panels read. `keywords` are the
 /// panels' options: a custom value, "Custom.7", becomes the plain number. Without the panels, users

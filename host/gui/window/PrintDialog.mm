@@ -201,8 +201,11 @@ struct imageposition::PrintDialogState {
     auto opened = PrinterOpening(queue).await(window);
     if (!opened)
       return;
-    state->session->takePrinter(std::move(*opened));
-    [self say:state->session->panels().troubleText()];
+    const NumbersNow numbers = state->session->takePrinter(std::move(*opened));
+    const std::string troubles = state->session->panels().troubleText();
+    [self say:troubles];
+    if (const std::string note = messages::numbersNow(numbers, queue); !note.empty())
+      [self show:messages::sentences({troubles, note})];
   } catch (const Failure &failure) {
     [self say:failure.what()];
   }

@@ -72,6 +72,18 @@ std::string numberChange(const std::string &typed, const std::string &shown, boo
                 : text("\"{1}\" was changed to {2}."))
       .with(typed, shown);
 }
+std::string numbersNow(NumbersNow numbers, const std::string &printer) {
+  switch (numbers) {
+  case NumbersNow::Defaults:
+    return text("The offsets are now the defaults of \"{1}\".").with(printer);
+  case NumbersNow::Kept:
+    return text("Your offsets are kept, instead of the defaults of \"{1}\".").with(printer);
+  case NumbersNow::Fitted:
+    return text("Your offsets are kept as far as \"{1}\" allows.").with(printer);
+  default:
+    return {};
+  }
+}
 const Text kNothingToPrint = text(
     "There is no document to print. Choose one with Open…, or drop a file on this window.");
 const Text kPrintAnywayWindow = text("Print anyway?");

@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_GUI_WINDOW_WINDOWTEXTS_HPP
 #define IMAGEPOSITION_GUI_WINDOW_WINDOWTEXTS_HPP
 
+#include "PanelValues.hpp"
 #include "Text.hpp"
 
 #include <string>
@@ -53,6 +54,8 @@ std::string printerState(const std::string &state, const std::string &location);
 /// What the panel made of a number that was typed; empty if it is the same, or if the user has only
 /// begun.
 std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd);
+/// What became of the offsets after a change of the printer; empty if nothing did.
+std::string numbersNow(NumbersNow numbers, const std::string &printer);
 extern const Text kNothingToPrint;
 extern const Text kPrintAnywayWindow;
 extern const Text kPrintAnyway;

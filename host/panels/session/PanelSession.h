@@ -36,8 +36,9 @@ public:
   /// among the troubles. `loaded` outlives the session.
   void load(const std::vector<std::string> &paths, LoadedPlugins &loaded);
 
-  /// Converts the settings to the forms that panels read (`makePanelValues`). Call it for settings
-  /// that come from elsewhere, before the panels read them; `load` and `revert` do so.
+  /// Adds the printer's defaults (`panelDefaults`) to the settings, and converts them to the forms
+  /// that panels read (`makePanelValues`). Call it for settings that come from elsewhere, before
+  /// the panels read them; `load` and `revert` do so.
   void takePanelValues();
 
   /// The PPD options that the panels handle.
@@ -66,7 +67,7 @@ private:
   /// `question` returns why the panel said no, or none.
   PanelReplies ask(const std::function<std::optional<std::string>(PanelDriver &)> &question);
 
-  ppd_file_t *ppd_;
+  const PrinterDescription &printer_;
   PrintSettingsStore &settings_;
   const PrintSettingsStore before_;
   PrintSettingsHandle handle_;

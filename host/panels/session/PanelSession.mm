@@ -10,7 +10,7 @@
 namespace imageposition {
 
 PanelSession::PanelSession(PrinterDescription &printer, PrintSettingsStore &settings)
-    : ppd_(printer.ppd()), settings_(settings), before_(settings), handle_(settings),
+    : printer_(printer), settings_(settings), before_(settings), handle_(settings),
       callback_([[HostCallback alloc] initWithPpd:printer.ppd() settings:handle_.get()]) {}
 
 PanelSession::~PanelSession() {
@@ -31,7 +31,15 @@ void PanelSession::load(const std::vector<std::string> &paths, LoadedPlugins &lo
   takePanelValues();
 }
 
-void PanelSession::takePanelValues() { makePanelValues(ppd_, optionKeys(), settings_); }
+void PanelSession::takePanelValues() {
+  const PrintSettingsStore defaults = panelDefaults(printer_, optionKeys());
+  for (int i = 0; i < defaults.optionCount(); i++) {
+    const cups_option_t &number = defaults.options()[i];
+    if (settings_.get(number.name) == nullptr)
+      settings_.set(number.name, number.value);
+  }
+  makePanelValues(printer_.ppd(), optionKeys(), settings_);
+}
 
 std::string PanelSession::troubleText() const {
   std::string text;

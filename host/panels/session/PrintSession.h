@@ -5,6 +5,7 @@
 
 #include "Destinations.hpp"
 #import "PanelSession.h"
+#include "PanelValues.hpp"
 #include "PrintJob.hpp"
 
 #include <memory>
@@ -27,8 +28,10 @@ public:
   /// The paths of the plug-ins that the printer and the command line name.
   const std::vector<std::string> &plugins() const noexcept { return plugins_; }
 
-  /// Takes another printer, with its panels and those of the job's settings that it accepts.
-  void takePrinter(OpenedPrinter opened);
+  /// Takes another printer, with its panels and those of the job's settings that it accepts. The
+  /// panels' numbers are kept unless they are the defaults of the printer before. Let the panels
+  /// save first.
+  NumbersNow takePrinter(OpenedPrinter opened);
 
   /// The printers that CUPS has, as it answered last.
   Destinations &destinations() noexcept { return destinations_; }

@@ -67,7 +67,12 @@ TEST_F(SaveTicket, AnExistingFileIsReplacedOnlyIfTheUserConfirms) {
   ASSERT_TRUE(isAsked());
   save(ticket);
   ASSERT_TRUE(becomesTrue([] { return isFocused("Replace"); }));
+  press({"Return"}); // cancels, too
+  ASSERT_TRUE(isAsked());
+  EXPECT_EQ(contentOf(ticket), "mine");
   press({"Return"});
+  ASSERT_TRUE(becomesTrue([] { return isFocused("Replace"); }));
+  press({"Tab", "Return"});
   EXPECT_EQ(ended().status, kDone);
   EXPECT_NE(contentOf(ticket), "mine");
 }

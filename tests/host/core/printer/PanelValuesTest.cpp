@@ -2,12 +2,16 @@
 
 #include "PrinterDescription.hpp"
 #include "SharedKeys.h"
+#include "TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
+
+#include <regex>
 
 namespace {
 
 using namespace imageposition;
+using namespace imageposition::test;
 
 TEST(PanelValues, ABooleanIsReadAsLpReadsIt) {
   const struct {
@@ -57,6 +61,19 @@ TEST_F(PanelSettings, HavePlainNumbersForThePanelsOptionsAlone) {
   makePanelValues(printer.ppd(), {IPA_KEY_FRONT_LEFT_RIGHT}, settings);
   EXPECT_STREQ(settings.get(IPA_KEY_FRONT_LEFT_RIGHT), "7");
   EXPECT_STREQ(settings.get(IPA_KEY_FRONT_TOP_BOTTOM), "Custom.8");
+}
+
+TEST_F(PanelSettings, BeginWithTheNumbersOfThePrintersDescription) {
+  const std::vector<std::string> keywords = {IPA_KEY_FRONT_LEFT_RIGHT, "MVAdjustDuplexPosition"};
+  EXPECT_EQ(panelDefaults(printer, keywords).optionCount(), 0);
+  const TemporaryFolder folder;
+  const std::string shifted = std::regex_replace(
+      contentOf(std::string(IMAGEPOSITION_SAMPLES) + "/duplex-shift.ppd"),
+      std::regex(R"(\*DefaultLeftRightMargin: 0)"), "*DefaultLeftRightMargin: Custom.5");
+  const auto other = PrinterDescription::fromFile(folder.write("shifted.ppd", shifted));
+  const PrintSettingsStore defaults = panelDefaults(other, keywords);
+  ASSERT_EQ(defaults.optionCount(), 1);
+  EXPECT_STREQ(defaults.get(IPA_KEY_FRONT_LEFT_RIGHT), "5");
 }
 
 } // namespace
