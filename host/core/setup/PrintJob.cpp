@@ -128,6 +128,14 @@ std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
   return fitSetting(ppd, setting.name, setting.value, true).value;
 }
 
+/// Whether the setting is as it was at the start. Panels add settings that are off or zero.
+bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now, const char *name) {
+  const char *const value = now.get(name);
+  const bool isAdded = start.get(name) == nullptr && value != nullptr;
+  return isSameIn(start, now, name) ||
+         (isAdded && (std::strcmp(value, "0") == 0 || std::strcmp(value, "False") == 0));
+}
+
 } // namespace
 
 OpenedPrinter openPrinter(const Arguments &arguments) {
@@ -213,16 +221,18 @@ void PrintJob::keepWhatFits(const PrinterDescription &before) {
   }
 }
 
-void PrintJob::takePrinter(OpenedPrinter opened) {
+bool PrintJob::takePrinter(OpenedPrinter opened) {
   const auto before = std::exchange(printer_, std::move(opened.printer));
   queue_ = std::move(opened.queue);
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
-  takeHistory();
+  const bool isTaken = takeHistory();
   printer_->mark(ticket_.settings);
+  return isTaken;
 }
 
-void PrintJob::takeHistory() {
+bool PrintJob::takeHistory() {
+  bool isTaken = false;
   PrintSettingsStore remembered;
   try {
     remembered = startOf(*printer_).settings;
@@ -231,11 +241,13 @@ void PrintJob::takeHistory() {
   }
   for (int i = 0; i < remembered.optionCount(); i++) {
     const cups_option_t &option = remembered.options()[i];
-    if (!isSameIn(settings(), atStart_, option.name))
+    if (!isUntouched(atStart_, settings(), option.name))
       continue;
+    isTaken = isTaken || !isSameIn(settings(), remembered, option.name);
     settings().set(option.name, option.value);
     atStart_.set(option.name, option.value);
   }
+  return isTaken;
 }
 
 bool PrintJob::makeDefault(const std::string &preset) {

@@ -82,8 +82,9 @@ public:
   }
 
   /// Switches to another printer, and keeps the settings that it accepts. What the history has for
-  /// it replaces settings that are as they were at the start. Destroys the previous printer.
-  void takePrinter(OpenedPrinter opened);
+  /// it replaces settings that are as they were at the start; returns whether there are any.
+  /// Destroys the previous printer.
+  bool takePrinter(OpenedPrinter opened);
 
   /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
@@ -116,7 +117,7 @@ public:
 private:
   LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
-  void takeHistory();
+  bool takeHistory();
   PrintSettingsStore settingsToRemember() const;
   void writeTicketTo(const std::string &path);
   std::vector<std::string> documentsToSend() const;

@@ -80,6 +80,8 @@ std::string numbersNow(NumbersNow numbers, const std::string &printer) {
     return text("Your offsets are kept, instead of the defaults of \"{1}\".").with(printer);
   case NumbersNow::Fitted:
     return text("Your offsets are kept as far as \"{1}\" allows.").with(printer);
+  case NumbersNow::Remembered:
+    return text("The settings of the last job on \"{1}\" are back.").with(printer);
   default:
     return {};
   }
