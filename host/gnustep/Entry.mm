@@ -19,8 +19,10 @@
 #include "Ticket.hpp"
 
 #include <csignal>
+#include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -62,34 +64,47 @@ ExitCode runInBatch(const Arguments &arguments) {
   return ExitCode::Done;
 }
 
-ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer) {
-  PrintJob job(arguments, std::move(printer));
+ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer, const History &history) {
+  PrintJob job(arguments, std::move(printer), history);
   PrintSession session(job);
   session.loadPanels();
-  if (!runDialog(session, std::cerr)) {
+  std::optional<WindowSize> window = history.window();
+  if (!runDialog(session, std::cerr, window)) {
     session.panels().revert();
     std::cerr << messages::kCancelled.view() << '\n';
     return ExitCode::Cancelled;
   }
+  if (!job.sentName().empty())
+    job.remember(window);
   requireOutputUnlessSent(job);
   return ExitCode::Done;
+}
+
+/// The last job's printer, unless the user names one.
+std::string rememberedQueue(const Arguments &arguments, const History &history) {
+  const bool isNamed = !arguments.queue.empty() || !arguments.ppd.empty() ||
+                       std::getenv("LPDEST") != nullptr || std::getenv("PRINTER") != nullptr;
+  return isNamed ? "" : history.printer();
 }
 
 /// The printer is being opened while the application starts.
 ExitCode runInWindow(const Arguments &arguments) {
   if (!arguments.ticket.empty())
     checkTicketPlace(arguments.ticket); // before the user enters settings that would be lost
+  const History history = History::read(std::cerr);
+  const std::string remembered = rememberedQueue(arguments, history);
+  const std::string queue = remembered.empty() ? arguments.queue : remembered;
   std::unique_ptr<PrinterOpening> opening;
   if (arguments.ppd.empty())
-    opening = std::make_unique<PrinterOpening>(arguments.queue);
+    opening = std::make_unique<PrinterOpening>(queue, !remembered.empty());
   startPasteboardOnDemand();
   startApplication();
   if (!opening)
-    return showDialog(arguments, openPrinter(arguments));
-  auto first = awaitFirstPrinter(std::move(opening), arguments.queue, std::cerr);
+    return showDialog(arguments, openPrinter(arguments), history);
+  auto first = awaitFirstPrinter(std::move(opening), queue, std::cerr);
   if (const auto *code = std::get_if<ExitCode>(&first))
     return *code;
-  return showDialog(arguments, std::get<OpenedPrinter>(std::move(first)));
+  return showDialog(arguments, std::get<OpenedPrinter>(std::move(first)), history);
 }
 
 ExitCode run(const Arguments &arguments) {

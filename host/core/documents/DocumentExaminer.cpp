@@ -2,6 +2,7 @@
 
 #include "FileContent.hpp"
 #include "ProgramFolder.hpp"
+#include "SignalBlock.hpp"
 
 #include <array>
 #include <atomic>
@@ -57,8 +58,15 @@ public:
     posix_spawn_file_actions_adddup2(&actions, output.get(), STDOUT_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
-    if (posix_spawn(&process_, program.c_str(), &actions, nullptr, words, environ) != 0)
+    posix_spawnattr_t attributes; // signals are delivered although this thread blocks some
+    posix_spawnattr_init(&attributes);
+    sigset_t none;
+    sigemptyset(&none);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    if (posix_spawn(&process_, program.c_str(), &actions, &attributes, words, environ) != 0)
       process_ = -1;
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
   }
   /// Ends the process. One that waits for a file system which does not respond cannot be waited
@@ -136,6 +144,7 @@ void DocumentExaminer::examine(const std::string &path) {
   work_.reset();
   if (path.empty())
     return;
+  const SignalBlock noSignals; // they are the main thread's
   try {
     work_ = std::make_unique<Work>(path, changed_);
   } catch (const std::system_error &) { // no thread is left: the document stays unknown

@@ -12,6 +12,7 @@
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
+#include "Strings.hpp"
 #include "ValueCheck.hpp"
 
 #include <cups/cups.h>
@@ -19,6 +20,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <functional>
 #include <iostream>
 #include <optional>
@@ -60,15 +62,28 @@ void applyLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
     readOptionArgument("notify-recipient-uri=mailto:" + mailAddress(), settings);
 }
 
-/// A preset is an instance of the queue. Its settings join the job's, where panels see them.
-LoadedPreset presetOf(const std::string &queue, const PrinterDescription &printer) {
-  const QueueName name = QueueName::parse(queue);
-  if (name.instance.empty())
-    return {};
-  LoadedPreset preset = Presets(name.printer).load(name.instance, printer);
-  for (const std::string &misfit : preset.misfits)
-    std::cerr << misfit << '\n';
-  return preset;
+/// Settings that apply to one job only, in addition to those of one document, which no preset has.
+bool isOfOneJob(const std::string &name) {
+  static const std::vector<std::string> kNames{"copies", "job-hold-until", "job-priority",
+                                               "notify-recipient-uri"};
+  return contains(kNames, name);
+}
+
+/// The settings that the printer accepts, without complaint: the user did not enter them here.
+PrintSettingsStore fitted(const PrintSettingsStore &settings, ppd_file_t *ppd) {
+  PrintSettingsStore fitting;
+  for (int i = 0; i < settings.optionCount(); i++) {
+    const cups_option_t &option = settings.options()[i];
+    if (const auto value = fitSetting(ppd, option.name, option.value, true).value)
+      fitting.set(option.name, *value);
+  }
+  return fitting;
+}
+
+bool isSameIn(const PrintSettingsStore &left, const PrintSettingsStore &right, const char *name) {
+  const char *const one = left.get(name);
+  const char *const other = right.get(name);
+  return one == nullptr || other == nullptr ? one == other : std::strcmp(one, other) == 0;
 }
 
 /// The existing ticket, or else the queue's preset, overridden by the command line's options.
@@ -113,6 +128,14 @@ std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
   return fitSetting(ppd, setting.name, setting.value, true).value;
 }
 
+/// Whether the setting is as it was at the start. Panels add settings that are off or zero.
+bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now, const char *name) {
+  const char *const value = now.get(name);
+  const bool isAdded = start.get(name) == nullptr && value != nullptr;
+  return isSameIn(start, now, name) ||
+         (isAdded && (std::strcmp(value, "0") == 0 || std::strcmp(value, "False") == 0));
+}
+
 } // namespace
 
 OpenedPrinter openPrinter(const Arguments &arguments) {
@@ -126,15 +149,52 @@ OpenedPrinter openQueue(const std::string &wanted) {
   return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue))};
 }
 
-PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter first)
+PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter first, History history)
     : arguments_(arguments), queue_(std::move(first.queue)), printer_(std::move(first.printer)),
-      preset_(presetOf(queue_, *printer_)), ticket_(openTicket(arguments, preset_.settings)),
+      history_(std::move(history)), preset_(startOf(*printer_)),
+      ticket_(openTicket(arguments, preset_.settings)),
       withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
                                                          : openTicket(arguments, {}).settings),
       documents_(arguments.documents),
       isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
+  atStart_ = ticket_.settings;
+}
+
+/// Of the preset that the queue or the history names, or of the last job. A preset is an instance
+/// of the queue. Its settings join the job's, where panels see them.
+LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
+  const QueueName name = QueueName::parse(queue_);
+  const Presets presets(name.printer);
+  presetName_ = name.instance;
+  if (queue_.empty())
+    return {};
+  if (presetName_.empty()) {
+    const std::string usual = history_.preset(name.printer);
+    if (usual.empty() || !contains(presets.names(), usual))
+      return {fitted(history_.settings(name.printer), printer.ppd()), {}};
+    presetName_ = usual;
+  }
+  LoadedPreset preset = presets.load(presetName_, printer);
+  for (const std::string &misfit : preset.misfits)
+    std::cerr << misfit << '\n';
+  return preset;
+}
+
+PrintSettingsStore PrintJob::settingsToRemember() const {
+  PrintSettingsStore given, kept;
+  applyLpOptions(arguments_, given);
+  const PrintSettingsStore settings = Presets::withDocumentOf({}, ticket_.settings);
+  for (int i = 0; i < settings.optionCount(); i++) {
+    const cups_option_t &option = settings.options()[i];
+    const bool isGiven =
+        given.get(option.name) != nullptr && isSameIn(given, settings, option.name);
+    if (!isGiven && !isOfOneJob(option.name) &&
+        !isHiddenValue(printer_->ppd(), option.name, option.value))
+      kept.set(option.name, option.value);
+  }
+  return kept;
 }
 
 void PrintJob::requireNumbers(const std::vector<std::string> &keywords) const {
@@ -161,12 +221,57 @@ void PrintJob::keepWhatFits(const PrinterDescription &before) {
   }
 }
 
-void PrintJob::takePrinter(OpenedPrinter opened) {
+bool PrintJob::takePrinter(OpenedPrinter opened) {
   const auto before = std::exchange(printer_, std::move(opened.printer));
   queue_ = std::move(opened.queue);
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
+  const bool isTaken = takeHistory();
   printer_->mark(ticket_.settings);
+  return isTaken;
+}
+
+bool PrintJob::takeHistory() {
+  bool isTaken = false;
+  PrintSettingsStore remembered;
+  try {
+    remembered = startOf(*printer_).settings;
+  } catch (const Failure &failure) { // the presets cannot be read, as their pop-up says, too
+    std::cerr << failure.what() << '\n';
+  }
+  for (int i = 0; i < remembered.optionCount(); i++) {
+    const cups_option_t &option = remembered.options()[i];
+    if (!isUntouched(atStart_, settings(), option.name))
+      continue;
+    isTaken = isTaken || !isSameIn(settings(), remembered, option.name);
+    settings().set(option.name, option.value);
+    atStart_.set(option.name, option.value);
+  }
+  return isTaken;
+}
+
+bool PrintJob::makeDefault(const std::string &preset) {
+  const std::string printer = QueueName::parse(queue_).printer;
+  const auto change = [&](History &history) { history.setPreset(printer, preset); };
+  if (!changeHistory(change, std::cerr))
+    return false;
+  change(history_);
+  return true;
+}
+
+std::string PrintJob::defaultPreset() const {
+  return history_.preset(QueueName::parse(queue_).printer);
+}
+
+void PrintJob::remember(const std::optional<WindowSize> &window) const {
+  const std::string printer = QueueName::parse(queue_).printer;
+  const auto change = [&](History &history) {
+    history.setPrinter(printer);
+    history.setSettings(printer, settingsToRemember());
+    if (window)
+      history.setWindow(*window);
+  };
+  changeHistory(change, std::cerr);
 }
 
 void PrintJob::leavePreset() {

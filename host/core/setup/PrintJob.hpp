@@ -4,6 +4,7 @@
 
 #include "CommandLine.hpp"
 #include "Destinations.hpp"
+#include "History.hpp"
 #include "JobSubmission.hpp"
 #include "Presets.hpp"
 #include "PrinterDescription.hpp"
@@ -11,6 +12,7 @@
 
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,8 +34,9 @@ OpenedPrinter openQueue(const std::string &queue);
 class PrintJob {
 public:
   /// Opens the ticket that the command line names. Throws a `Failure`. `arguments` is borrowed and
-  /// must outlive this object.
-  PrintJob(const Arguments &arguments, OpenedPrinter first);
+  /// must outlive this object. A printer whose queue names no preset begins with the settings that
+  /// the history has for it; the ticket and the command line override them.
+  PrintJob(const Arguments &arguments, OpenedPrinter first, History history = {});
   PrintJob(const PrintJob &) = delete;
   PrintJob &operator=(const PrintJob &) = delete;
 
@@ -43,6 +46,18 @@ public:
   PrinterDescription &printer() noexcept { return *printer_; }
   const PrinterDescription &printer() const noexcept { return *printer_; }
   PrintSettingsStore &settings() noexcept { return ticket_.settings; }
+
+  /// The preset of the job's printer with which the job begins: the queue's, or the one that the
+  /// history names; empty for none.
+  const std::string &presetName() const noexcept { return presetName_; }
+  /// Makes new jobs on this printer begin with the preset; with an empty name, with the last job's
+  /// settings. Returns false, with a message to standard error, if that cannot be stored.
+  bool makeDefault(const std::string &preset);
+  /// The preset with which new jobs on this printer begin; may be empty.
+  std::string defaultPreset() const;
+  /// Stores the printer, its settings and the window's size for the next job. Leaves out settings
+  /// that apply to one document or job, secrets, and what the command line gave.
+  void remember(const std::optional<WindowSize> &window) const;
 
   /// One sentence for each setting of the first queue's preset that was changed or dropped because
   /// the printer does not accept it. The constructor writes them to standard error.
@@ -66,9 +81,10 @@ public:
     isSubmitted_ = submitted && !queue_.empty();
   }
 
-  /// Switches to another printer, and keeps the settings that it accepts. Destroys the previous
-  /// printer.
-  void takePrinter(OpenedPrinter opened);
+  /// Switches to another printer, and keeps the settings that it accepts. What the history has for
+  /// it replaces settings that are as they were at the start; returns whether there are any.
+  /// Destroys the previous printer.
+  bool takePrinter(OpenedPrinter opened);
 
   /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
@@ -99,15 +115,21 @@ public:
   const std::string &done() const noexcept { return done_; }
 
 private:
+  LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
+  bool takeHistory();
+  PrintSettingsStore settingsToRemember() const;
   void writeTicketTo(const std::string &path);
   std::vector<std::string> documentsToSend() const;
 
   const Arguments &arguments_;
   std::string queue_;
   std::unique_ptr<PrinterDescription> printer_;
+  History history_;
+  std::string presetName_;
   LoadedPreset preset_; // of the first queue
   Ticket ticket_;
+  PrintSettingsStore atStart_;
   PrintSettingsStore withoutPreset_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
   bool isSubmitted_;

@@ -22,7 +22,8 @@ namespace imageposition {
 class PrinterOpening {
 public:
   /// Starts to open the printer of a queue; if the name is empty, of the default queue.
-  explicit PrinterOpening(const std::string &queue);
+  /// If `mayBeGone`, a queue that CUPS does not have is replaced by the default queue.
+  explicit PrinterOpening(const std::string &queue, bool mayBeGone = false);
 
   /// Waits, and after a moment shows a window in the middle of `parent`, which may be null. Returns
   /// none if the user cancelled. Throws a `Failure`. Call it once.
@@ -33,7 +34,7 @@ public:
 private:
   struct Outcome;
 
-  static Outcome open(const std::string &queue);
+  static Outcome open(const std::string &queue, bool mayBeGone);
 
   WaitPanel panel_;
   BackgroundCall<Outcome> call_;

@@ -37,7 +37,7 @@ struct PrinterOpening::Outcome {
   DestinationList printers;   ///< Read after a failure.
 };
 
-PrinterOpening::Outcome PrinterOpening::open(const std::string &queue) {
+PrinterOpening::Outcome PrinterOpening::open(const std::string &queue, bool mayBeGone) {
   const PasswordQuestion noPassword;
   Outcome outcome;
   try {
@@ -46,11 +46,14 @@ PrinterOpening::Outcome PrinterOpening::open(const std::string &queue) {
     outcome.failure = std::current_exception();
     outcome.printers = readDestinations(kListTimeout);
   }
+  const bool isGone = !outcome.printers.destinations.empty() && !outcome.printers.find(queue);
+  if (outcome.failure && mayBeGone && isGone)
+    return open("", false);
   return outcome;
 }
 
-PrinterOpening::PrinterOpening(const std::string &queue)
-    : call_([queue] { return open(queue); }, kTimeout, panel_.signal()) {}
+PrinterOpening::PrinterOpening(const std::string &queue, bool mayBeGone)
+    : call_([=] { return open(queue, mayBeGone); }, kTimeout, panel_.signal()) {}
 
 std::optional<OpenedPrinter> PrinterOpening::await(NSWindow *parent) {
   if (!panel_.await(call_, parent, messages::waitingForCups(cupsServerName()))) {

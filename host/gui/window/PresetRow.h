@@ -14,19 +14,20 @@ namespace imageposition {
 struct PresetRowState;
 }
 
-/// The pop-up lists: none; this printer's presets; those of other printers; save, rename, delete.
+/// The pop-up lists: none; this printer's presets; those of other printers; save, rename, delete,
+/// make the default.
 @interface PresetRow : NSObject {
   id<DialogServices> dialog;            ///< Not owned.
   ListPopUp *popUp;                     ///< Owned.
   imageposition::PresetRowState *state; ///< Owned.
 }
 
-/// The preset that the job's queue names is the chosen one.
+/// The preset with which the job begins is the chosen one.
 - (id)initWithDialog:(id<DialogServices>)theDialog;
 - (imageposition::DialogRow)row;
 /// Lists the presets anew.
 - (void)list;
-/// The same for another printer, of which no preset is chosen.
+/// The same for another printer.
 - (void)printerChanged;
 
 @end

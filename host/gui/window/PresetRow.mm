@@ -53,6 +53,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 - (void)save;
 - (void)rename;
 - (void)remove;
+- (void)makeDefault;
 @end
 
 @implementation PresetRow
@@ -62,7 +63,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
     return nil;
   dialog = theDialog;
   state = new PresetRowState;
-  state->chosen = QueueName::parse([dialog session].job().queue()).instance;
+  state->chosen = [dialog session].job().presetName();
   popUp = [makePopUp(self, @selector(presetChosen:)) retain];
   return self;
 }
@@ -79,7 +80,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 }
 
 - (void)printerChanged {
-  state->chosen.clear();
+  state->chosen = [dialog session].job().presetName();
   [self list];
 }
 
@@ -110,6 +111,8 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   addCommand(popUp, messages::kSavePreset);
   addCommand(popUp, messages::kRenamePreset, isChosen);
   addCommand(popUp, messages::kDeletePreset, isChosen);
+  const bool isDefault = isChosen && isSame([dialog session].job().defaultPreset(), state->chosen);
+  addCommand(popUp, isDefault ? messages::kNotDefaultPreset : messages::kDefaultPreset, isChosen);
   if (unlisted > 0)
     addItem(popUp, messages::presetsNotListed(unlisted), false);
 }
@@ -151,8 +154,10 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
     [self save];
   else if (item == count + 2)
     [self rename];
-  else
+  else if (item == count + 3)
     [self remove];
+  else
+    [self makeDefault];
 }
 
 - (void)load:(const PresetName &)preset {
@@ -247,8 +252,22 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   if (!name)
     return;
   presets.rename(state->chosen, *name, contains(names, *name));
+  PrintJob &job = [dialog session].job();
+  if (isSame(job.defaultPreset(), state->chosen))
+    job.makeDefault(*name);
   state->chosen = *name;
   [dialog show:""];
+}
+
+- (void)makeDefault {
+  if (state->chosen.empty())
+    return;
+  PrintJob &job = [dialog session].job();
+  const bool isDefault = isSame(job.defaultPreset(), state->chosen);
+  if (!job.makeDefault(isDefault ? "" : state->chosen))
+    [dialog show:messages::kDefaultNotStored];
+  else
+    [dialog show:isDefault ? "" : messages::presetIsDefault(state->chosen, [self printer])];
 }
 
 - (void)remove {

@@ -36,6 +36,12 @@ const Text kNoPresetChosen = text("None");
 const Text kSavePreset = text("Save as preset…");
 const Text kRenamePreset = text("Rename this preset…");
 const Text kDeletePreset = text("Delete this preset…");
+const Text kDefaultPreset = text("Make this the default for this printer");
+const Text kNotDefaultPreset = text("Do not start with this preset");
+const Text kDefaultNotStored = text("The default could not be stored.");
+std::string presetIsDefault(const std::string &preset, const std::string &printer) {
+  return text("New jobs on \"{2}\" start with the preset \"{1}\".").with(preset, printer);
+}
 const Text kPresetNameWindow = text("Name of the preset");
 const Text kPresetNameQuestion = text("Name of the preset:");
 std::string presetSuggestion(std::size_t number) {
@@ -74,6 +80,8 @@ std::string numbersNow(NumbersNow numbers, const std::string &printer) {
     return text("Your offsets are kept, instead of the defaults of \"{1}\".").with(printer);
   case NumbersNow::Fitted:
     return text("Your offsets are kept as far as \"{1}\" allows.").with(printer);
+  case NumbersNow::Remembered:
+    return text("The settings of the last job on \"{1}\" are back.").with(printer);
   default:
     return {};
   }

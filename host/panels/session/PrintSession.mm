@@ -48,8 +48,10 @@ NumbersNow PrintSession::takePrinter(OpenedPrinter opened) {
   if (isUsual)
     removeNumbers(before, job_.settings());
   panels_.reset();
-  job_.takePrinter(std::move(opened));
+  const bool isRemembered = job_.takePrinter(std::move(opened));
   loadPanels();
+  if (isRemembered)
+    return NumbersNow::Remembered;
   const std::vector<std::string> keywords = panels_->optionKeys();
   const Numbers now = numbersIn(job_.settings(), keywords);
   if (before.empty() || keywords.empty() || (isUsual && now == set))

@@ -36,9 +36,11 @@ public:
   std::string root() const { return folder_.path(); }
   /// The home folder of a user without CUPS settings.
   std::string home() const { return folder_.path("home"); }
-  /// Variables with which a program uses this server.
+  /// Variables with which a program uses this server. It remembers nothing of programs that were
+  /// started with another call's.
   std::vector<std::string> environment() const {
-    return {"CUPS_SERVER=" + socket(), "CUPS_SERVERROOT=" + folder_.path(), "HOME=" + home()};
+    return {"CUPS_SERVER=" + socket(), "CUPS_SERVERROOT=" + folder_.path(), "HOME=" + home(),
+            "XDG_STATE_HOME=" + folder_.path("state-" + std::to_string(++states_))};
   }
   /// Runs a CUPS command against it.
   ProcessResult run(const std::vector<std::string> &words) const;
@@ -54,6 +56,7 @@ private:
   const std::vector<std::string> environment_;
   std::unique_ptr<Process> server_; // destroyed before the folder
   bool isRunning_ = false;
+  mutable int states_ = 0;
 };
 
 } // namespace imageposition::test
