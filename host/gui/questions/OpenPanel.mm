@@ -175,12 +175,12 @@ NSArray *titlesOf(const std::vector<FolderEntry> &entries) {
     *chosen = path;
     const std::string trouble = documentTrouble(path);
     if (!trouble.empty())
-      showNote(window, messages::kOpenWindow, trouble);
+      showNote(window, messages::kOpenButton, trouble);
     return trouble.empty();
   }
+  [window makeFirstResponder:list]; // ends editing, before the field shows another path
   if (![self enter:path highlight:""])
-    showNote(window, messages::kOpenWindow, documentTrouble(path));
-  [window makeFirstResponder:list];
+    showNote(window, messages::kOpenButton, documentTrouble(path));
   return NO;
 }
 

@@ -86,8 +86,8 @@ std::string numbersNow(NumbersNow numbers, const std::string &printer) {
     return {};
   }
 }
-const Text kNothingToPrint = text(
-    "There is no document to print. Choose one with Open…, or drop a file on this window.");
+const Text kNothingToPrint =
+    text("There is no document to print. Choose one with Open…, or drop a file on this window.");
 const Text kPrintAnywayWindow = text("Print anyway?");
 const Text kPrintAnyway = text("Print anyway");
 const Text kGoBack = text("Go back");
