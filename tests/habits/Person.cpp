@@ -1,5 +1,6 @@
 #include "Person.hpp"
 
+#include "Contrast.hpp"
 #include "FileDrag.hpp"
 #include "FocusedWindow.hpp"
 #include "Waiting.hpp"
@@ -221,6 +222,19 @@ void Person::seeInSight(const Control &control) {
   });
 }
 
+void Person::seeTexts() {
+  constexpr double kEnough = 4.5;
+  std::string faint;
+  see("every text with enough contrast", [&](const Screen &shown) {
+    faint.clear();
+    for (const Control &control : shown.controls)
+      if (control.isEnabled && !control.text.empty() && control.kind != "item" &&
+          contrastOf(control) < kEnough)
+        faint += control.text + ": " + std::to_string(contrastOf(control)) + "\n";
+    return faint.empty() && !shown.controls.empty();
+  });
+}
+
 void Person::seeOnTop(const std::string &title) {
   const auto top = [] {
     std::string words = run({"xprop", "-root", "_NET_CLIENT_LIST_STACKING"});
@@ -383,6 +397,7 @@ std::vector<Sentence> Person::sentences() {
                                 }) == number(v[0]);
          });
        }},
+      {"see every text with enough contrast", [=](const StepValues &) { seeTexts(); }},
       {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
       {"it writes \"*\"",

@@ -47,6 +47,7 @@ private:
   void seeValue(const std::string &value, const std::string &label);
   void seeOnDisplay(const std::string &title);
   void seeInSight(const Control &control);
+  void seeTexts();
   void seeOnTop(const std::string &title);
   void seeJobs(int count);
   std::string described() const;
