@@ -225,14 +225,17 @@ void Person::seeInSight(const Control &control) {
 void Person::seeTexts() {
   constexpr double kEnough = 4.5;
   std::string faint;
-  see("every text with enough contrast", [&](const Screen &shown) {
+  const auto isClear = [&] {
+    const Screen shown = screen();
     faint.clear();
     for (const Control &control : shown.controls)
       if (control.isEnabled && !control.text.empty() && control.kind != "item" &&
           contrastOf(control) < kEnough)
         faint += control.text + ": " + std::to_string(contrastOf(control)) + "\n";
     return faint.empty() && !shown.controls.empty();
-  });
+  };
+  if (!becomesTrue(isClear))
+    throw StepFailure("the user cannot read:\n" + faint);
 }
 
 void Person::seeOnTop(const std::string &title) {
