@@ -13,6 +13,18 @@ const Text kPrinterRefuses = text("Not accepting jobs");
 std::string stateBecause(const std::string &state, const std::string &reasons) {
   return state + because(reasons);
 }
+std::string jobsWaiting(int count) { return counted(count, "{1} job waiting", "{1} jobs waiting"); }
+std::string supplyLevel(const std::string &supply, int level) {
+  // Translators: a supply and its level: "Black toner: 3%".
+  return text("{1}: {2}%").with(supply, std::to_string(level));
+}
+std::string besides(const std::vector<std::string> &remarks) {
+  std::string line;
+  for (const std::string &remark : remarks)
+    if (!remark.empty())
+      line += (line.empty() ? "" : " · ") + remark;
+  return line;
+}
 const Text kNoPrinters =
     text("CUPS has no printers. Add one in the system settings or with lpadmin.");
 std::string noCups(const std::string &server, const std::string &reason) {

@@ -5,6 +5,7 @@
 #include "Text.hpp"
 
 #include <string>
+#include <vector>
 
 namespace imageposition::messages {
 
@@ -17,6 +18,11 @@ extern const Text kPrinterFaulty; ///< Idle, but it may print nothing.
 extern const Text kPrinterRefuses;
 /// The reasons may be empty.
 std::string stateBecause(const std::string &state, const std::string &reasons);
+std::string jobsWaiting(int count);
+/// `level` is in percent.
+std::string supplyLevel(const std::string &supply, int level);
+/// Joins remarks beside each other, skipping empty ones: "Paused · 2 jobs waiting".
+std::string besides(const std::vector<std::string> &remarks);
 extern const Text kNoPrinters;
 std::string noCups(const std::string &server, const std::string &reason);
 extern const Text kNoAnswer;

@@ -5,6 +5,7 @@
 #include "CupsTexts.hpp"
 #include "PasswordQuestion.hpp"
 #include "Phrases.hpp"
+#include "PrinterRemarks.hpp"
 #include "QueueName.hpp"
 #include "Strings.hpp"
 #include "VisibleText.hpp"
@@ -213,6 +214,12 @@ DestinationList readDestinations(std::chrono::milliseconds timeout) {
   if (list.destinations.empty())
     list.reason = reasonForNone(!isInTime());
   cupsFreeDests(count, dests);
+  if (list.destinations.empty())
+    return list;
+  const auto remarks = printerRemarks(connection->http());
+  for (Destination &destination : list.destinations)
+    if (const auto found = remarks.find(destination.name); found != remarks.end())
+      destination.remarks = found->second;
   return list;
 }
 
@@ -243,8 +250,8 @@ bool operator==(const Destination &left, const Destination &right) {
   return left.name == right.name && left.instance == right.instance &&
          left.description == right.description && left.location == right.location &&
          left.uri == right.uri && left.state == right.state && left.stateText == right.stateText &&
-         left.acceptsJobs == right.acceptsJobs && left.isDefault == right.isDefault &&
-         hasSameOptions(left.defaults, right.defaults);
+         left.remarks == right.remarks && left.acceptsJobs == right.acceptsJobs &&
+         left.isDefault == right.isDefault && hasSameOptions(left.defaults, right.defaults);
 }
 
 bool operator==(const DestinationList &left, const DestinationList &right) {

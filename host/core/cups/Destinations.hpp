@@ -24,6 +24,7 @@ struct Destination {
   std::string uri;         ///< For its jobs; may be empty.
   DestinationState state = DestinationState::Idle;
   std::string stateText; ///< For display: "Ready", "Paused (out of paper)".
+  std::string remarks;   ///< See `printerRemarks`.
   bool acceptsJobs = true;
   bool isDefault = false;
   /// Default job options, without attributes of the printer.

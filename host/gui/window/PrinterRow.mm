@@ -1,5 +1,6 @@
 #import "PrinterRow.h"
 
+#include "CupsTexts.hpp"
 #import "Labels.h"
 #include "PrinterChanges.hpp"
 #include "QuestionTexts.hpp"
@@ -105,9 +106,9 @@ namespace {} // namespace
   else if (!list.reason.empty())
     text = list.reason;
   else
-    text = destination != nullptr
-               ? messages::printerState(destination->stateText, destination->location)
-               : messages::kStateUnknown.str();
+    text = destination != nullptr ? messages::besides({destination->stateText, destination->remarks,
+                                                       destination->location})
+                                  : messages::kStateUnknown.str();
   showCut(stateLabel, text, NSWidth([stateLabel frame]));
 }
 

@@ -57,9 +57,6 @@ std::string presetSaved(const std::string &lpName) {
 }
 const Text kJobWaits = text("The job is waiting");
 const Text kStateUnknown = text("Looking for printers…");
-std::string printerState(const std::string &state, const std::string &location) {
-  return location.empty() ? state : state + " · " + location;
-}
 std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd) {
   const bool isNumber = isWholeNumber(typed);
   const bool isBeginning = typed.empty() || (!isEnd && (typed == "-" || typed == "+"));

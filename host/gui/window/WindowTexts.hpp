@@ -50,7 +50,6 @@ std::string deleteQuestion(const std::string &preset);
 std::string presetSaved(const std::string &lpName);
 extern const Text kJobWaits;
 extern const Text kStateUnknown;
-std::string printerState(const std::string &state, const std::string &location);
 /// What the panel made of a number that was typed; empty if it is the same, or if the user has only
 /// begun.
 std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd);

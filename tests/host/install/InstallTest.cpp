@@ -213,7 +213,9 @@ TEST_P(InstallUnder, AnyMaskOnlyTheOwnerCanWriteToInstalledFiles) {
   const std::string prefix = folder.path("prefix");
   install(prefix, {"sh", "-c", "umask \"$0\" && exec \"$@\"", GetParam()});
   for (const auto &entry : std::filesystem::recursive_directory_iterator(prefix)) {
-    const bool runs = entry.is_directory() || entry.path().filename() == "print-dialog";
+    const std::string name = entry.path().filename();
+    const bool runs =
+        entry.is_directory() || name == "print-dialog" || name == "print-dialog-examiner";
     const auto mode = static_cast<unsigned>(entry.status().permissions());
     const bool isCompletion = entry.path().parent_path().filename() == "completions";
     EXPECT_EQ(mode, runs && !isCompletion ? 0755U : 0644U) << entry.path();

@@ -105,6 +105,19 @@ TEST_F(PrinterList, IsEmptyAndSaysWhatToDoWithoutCups) {
   EXPECT_THAT(list.reason, AllOf(HasSubstr(cups().socket()), HasSubstr("systemctl start cups")));
 }
 
+TEST_F(PrinterList, HasTheAdministratorsWordsAndTheNumberOfJobs) {
+  EXPECT_EQ(office().remarks, "");
+  command({"cupsdisable", "-r", "Out for lunch", "office"});
+  const std::string document = folder.write("a.txt", "text");
+  command({"lp", "-d", "office", document});
+  command({"lp", "-d", "office", document});
+  EXPECT_EQ(office().stateText, "Paused");
+  EXPECT_EQ(office().remarks, "Out for lunch · 2 jobs waiting");
+  command({"cancel", "-a", "office"});
+  command({"cupsenable", "office"});
+  EXPECT_EQ(office().remarks, "");
+}
+
 TEST_F(PrinterList, GivesUpIfCupsHangs) {
   cups().send(SIGSTOP);
   const auto start = std::chrono::steady_clock::now();
