@@ -16,10 +16,8 @@ namespace imageposition {
 
 /// The panels' numbers after a change of the printer.
 enum class NumbersNow {
-  AsBefore,   ///< Or there are none.
+  AsBefore,   ///< Or as they were when the printer was left; or there are none.
   Defaults,   ///< The new printer's, which differ.
-  Kept,       ///< They differ from the new printer's defaults.
-  Fitted,     ///< Kept as far as the new printer allows.
   Remembered, ///< Those of the last job on the new printer.
 };
 

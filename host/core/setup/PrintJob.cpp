@@ -156,7 +156,8 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter first, History hist
       withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
                                                          : openTicket(arguments, {}).settings),
       documents_(arguments.documents),
-      isSubmitted_(!queue_.empty() && arguments.ticket.empty() && hasDocument()) {
+      isSubmitted_(!queue_.empty() && arguments.ticket.empty() &&
+                   (hasDocument() || !arguments.isBatch)) { // the window has Open
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
   atStart_ = ticket_.settings;
@@ -229,6 +230,20 @@ bool PrintJob::takePrinter(OpenedPrinter opened) {
   const bool isTaken = takeHistory();
   printer_->mark(ticket_.settings);
   return isTaken;
+}
+
+PrintSettingsStore PrintJob::removePanelSettings(const std::vector<std::string> &optionKeys) {
+  PrintSettingsStore removed;
+  const PrintSettingsStore all = settings();
+  for (int i = 0; i < all.optionCount(); i++) {
+    const cups_option_t &option = all.options()[i];
+    if (!contains(optionKeys, option.name) && std::strchr(option.name, '.') == nullptr)
+      continue;
+    removed.set(option.name, option.value);
+    settings().remove(option.name);
+    atStart_.remove(option.name);
+  }
+  return removed;
 }
 
 bool PrintJob::takeHistory() {

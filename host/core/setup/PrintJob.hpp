@@ -86,6 +86,10 @@ public:
   /// Destroys the previous printer.
   bool takePrinter(OpenedPrinter opened);
 
+  /// Removes the panels' settings, which belong to the printer, and returns them: those of the
+  /// options that the panels handle, and those with a dot in their names, which only panels have.
+  PrintSettingsStore removePanelSettings(const std::vector<std::string> &optionKeys);
+
   /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
   /// Takes other documents, at least one. `print` then submits them, unless the job is to be saved

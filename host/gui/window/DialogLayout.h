@@ -69,6 +69,9 @@ public:
 
   /// The caller owns it.
   KeyWindow *window() const noexcept { return window_; }
+  /// Takes another size of the largest pane, and makes the window larger if it is too narrow for
+  /// it.
+  void takePane(NSSize pane);
   /// Adapts to the window's size, and to whether there is a message or a hint.
   void layOut();
 
@@ -89,7 +92,8 @@ private:
   void linkKeys();
 
   const DialogContent content_;
-  const NSSize pane_;
+  NSSize pane_;
+  const NSSize room_;
   KeyWindow *window_ = nil;
   KeyScrollView *scroll_ = nil; // owned
   NSView *upper_ = nil;

@@ -69,7 +69,7 @@ NSSize wantedSize(NSSize pane, CGFloat rows, CGFloat rowsWidth, CGFloat foot, NS
 } // namespace
 
 DialogLayout::DialogLayout(const DialogContent &content, NSSize pane, NSSize room)
-    : content_(content), pane_(pane) {
+    : content_(content), pane_(pane), room_(room) {
   CGFloat titleWidth = 0;
   for (const DialogRow &row : content_.rows) {
     titles_.push_back(makeTitle(row.title));
@@ -83,6 +83,19 @@ DialogLayout::DialogLayout(const DialogContent &content, NSSize pane, NSSize roo
 }
 
 DialogLayout::~DialogLayout() { [scroll_ release]; }
+
+void DialogLayout::takePane(NSSize pane) {
+  pane_ = pane;
+  const NSSize wanted = wantedSize(pane, rowsHeight(), rowsWidth(), footHeight(true), room_);
+  const NSSize now = [[window_ contentView] frame].size;
+  if (now.width >= wanted.width)
+    return;
+  NSRect frame = [window_ frame];
+  frame.size.width += wanted.width - now.width;
+  frame.origin.x -= std::floor((wanted.width - now.width) / 2);
+  frame.origin.x = std::max<CGFloat>(frame.origin.x, 0);
+  [window_ setFrame:frame display:YES];
+}
 
 CGFloat DialogLayout::rowsHeight() const {
   CGFloat height = 0;

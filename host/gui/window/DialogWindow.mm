@@ -1,5 +1,6 @@
 #import "DialogWindow.h"
 
+#import "Panes.h"
 #import "Pool.h"
 #import "PrintDialog.h"
 #import "WindowPlacement.h"
@@ -9,20 +10,6 @@
 namespace imageposition {
 
 namespace {
-
-constexpr NSSize kSmallestPane = {470, 220};
-
-NSSize largestPane(PanelSession &session) {
-  NSSize size = kSmallestPane;
-  for (const auto &panel : session.panels()) {
-    if (!panel->hasView())
-      continue;
-    const NSSize wanted = [panel->view() frame].size;
-    size.width = std::max(size.width, wanted.width);
-    size.height = std::max(size.height, wanted.height);
-  }
-  return size;
-}
 
 void resize(NSWindow *window, const WindowSize &size) {
   const NSSize least = [window contentMinSize], room = roomOnScreen();

@@ -11,6 +11,13 @@
 #include <string>
 #include <vector>
 
+namespace imageposition {
+
+/// The size of the largest panel, or of the other panes if there is none.
+NSSize largestPane(PanelSession &session);
+
+} // namespace imageposition
+
 /// Drives the panels, too: has them save and restore, and leaves out those that fail, with a
 /// message.
 @interface Panes : NSObject {

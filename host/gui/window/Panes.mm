@@ -19,6 +19,7 @@ using namespace imageposition;
 namespace {
 
 constexpr CGFloat kPlaceholderWidth = 400; // as wide as a panel
+constexpr NSSize kSmallestPane = {470, 220};
 
 /// Options with a control above the panes.
 const char *const kPlacedOptions[] = {"PageSize", "Collate"};
@@ -31,6 +32,18 @@ std::vector<PanelDriver *> panelsOf(PrintSession &session) {
 }
 
 } // namespace
+
+NSSize imageposition::largestPane(PanelSession &session) {
+  NSSize size = kSmallestPane;
+  for (const auto &panel : session.panels()) {
+    if (!panel->hasView())
+      continue;
+    const NSSize wanted = [panel->view() frame].size;
+    size.width = std::max(size.width, wanted.width);
+    size.height = std::max(size.height, wanted.height);
+  }
+  return size;
+}
 
 @interface Panes ()
 - (void)paneChosen:(id)sender;

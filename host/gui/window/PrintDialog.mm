@@ -207,6 +207,7 @@ struct imageposition::PrintDialogState {
       return;
     const NumbersNow numbers = state->session->takePrinter(std::move(*opened));
     const std::string troubles = state->session->panels().troubleText();
+    state->layout->takePane(largestPane(state->session->panels()));
     [self say:troubles];
     if (const std::string note = messages::numbersNow(numbers, queue); !note.empty())
       [self show:messages::sentences({troubles, note})];

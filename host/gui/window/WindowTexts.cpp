@@ -73,10 +73,6 @@ std::string numbersNow(NumbersNow numbers, const std::string &printer) {
   switch (numbers) {
   case NumbersNow::Defaults:
     return text("The offsets are now the defaults of \"{1}\".").with(printer);
-  case NumbersNow::Kept:
-    return text("Your offsets are kept, instead of the defaults of \"{1}\".").with(printer);
-  case NumbersNow::Fitted:
-    return text("Your offsets are kept as far as \"{1}\" allows.").with(printer);
   case NumbersNow::Remembered:
     return text("The settings of the last job on \"{1}\" are back.").with(printer);
   default:

@@ -8,6 +8,7 @@
 #include "PanelValues.hpp"
 #include "PrintJob.hpp"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -37,7 +38,13 @@ public:
   Destinations &destinations() noexcept { return destinations_; }
 
 private:
+  struct PanelSettings {
+    std::vector<std::string> optionKeys;
+    PrintSettingsStore values;
+  };
+
   PrintJob &job_;
+  std::map<std::string, PanelSettings> left_; // by queue, of printers that were chosen before
   Destinations destinations_;
   LoadedPlugins loaded_; // also those that only earlier printers named
   std::vector<std::string> plugins_;

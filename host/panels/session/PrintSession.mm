@@ -24,12 +24,6 @@ Numbers numbersIn(const PrintSettingsStore &settings, const std::vector<std::str
   return numbers;
 }
 
-void removeNumbers(const std::vector<std::string> &keywords, PrintSettingsStore &settings) {
-  for (const std::string &keyword : keywords)
-    if (const char *const value = settings.get(keyword); value != nullptr && isWholeNumber(value))
-      settings.remove(keyword);
-}
-
 } // namespace
 
 void PrintSession::loadPanels() {
@@ -41,27 +35,30 @@ void PrintSession::loadPanels() {
   panels_->load(plugins_, loaded_);
 }
 
+/// A printer's offsets correct its own error, so they never go to another one.
 NumbersNow PrintSession::takePrinter(OpenedPrinter opened) {
   const std::vector<std::string> before = panels_->optionKeys();
   const Numbers set = numbersIn(job_.settings(), before);
-  const bool isUsual = set == numbersIn(panelDefaults(job_.printer(), before), before);
-  if (isUsual)
-    removeNumbers(before, job_.settings());
+  if (!before.empty())
+    left_[job_.queue()] = {before, job_.removePanelSettings(before)};
   panels_.reset();
+  const auto left = left_.find(opened.queue);
   const bool isRemembered = job_.takePrinter(std::move(opened));
+  if (left != left_.end()) {
+    job_.removePanelSettings(left->second.optionKeys);
+    const PrintSettingsStore &values = left->second.values;
+    for (int i = 0; i < values.optionCount(); i++)
+      job_.settings().set(values.options()[i].name, values.options()[i].value);
+  }
   loadPanels();
+  if (left != left_.end())
+    return NumbersNow::AsBefore;
   if (isRemembered)
     return NumbersNow::Remembered;
   const std::vector<std::string> keywords = panels_->optionKeys();
-  const Numbers now = numbersIn(job_.settings(), keywords);
-  if (before.empty() || keywords.empty() || (isUsual && now == set))
-    return NumbersNow::AsBefore;
-  if (isUsual)
-    return NumbersNow::Defaults;
-  if (now != set)
-    return NumbersNow::Fitted;
-  const bool isDefault = now == numbersIn(panelDefaults(job_.printer(), keywords), keywords);
-  return isDefault ? NumbersNow::AsBefore : NumbersNow::Kept;
+  const bool isChanged =
+      !before.empty() && !keywords.empty() && numbersIn(job_.settings(), keywords) != set;
+  return isChanged ? NumbersNow::Defaults : NumbersNow::AsBefore;
 }
 
 } // namespace imageposition
