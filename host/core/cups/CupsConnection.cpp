@@ -33,6 +33,10 @@ CupsConnection::CupsConnection(http_t *http, KeepWaiting keepWaiting)
 
 CupsConnection::~CupsConnection() { httpClose(http_); }
 
+void CupsConnection::probe() const {
+  ippDelete(cupsDoRequest(http_, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
+}
+
 std::string cupsServerName() {
   const std::string name = cupsServer();
   return name.empty() || name[0] == '/' ? name : name + ":" + std::to_string(ippPort());

@@ -28,6 +28,9 @@ public:
   CupsConnection &operator=(const CupsConnection &) = delete;
 
   http_t *http() const noexcept { return http_; }
+  /// Waits for a response to a small request. Some calls of libcups use connections of their own,
+  /// on which a silent server would keep them for minutes: find out before.
+  void probe() const;
 
 private:
   CupsConnection(http_t *http, KeepWaiting keepWaiting);

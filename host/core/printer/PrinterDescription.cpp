@@ -62,6 +62,11 @@ PrintSettingsStore defaultsOf(http_t *http, const QueueName &queue) {
   return defaults;
 }
 
+[[noreturn]] void failForSilence() {
+  throw PrinterFailure(messages::noCups(cupsServerName(), messages::kNoAnswer),
+                       messages::kOtherServer);
+}
+
 using Choices = std::map<std::string, std::string>;
 
 void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Choices &marked) {
@@ -123,6 +128,9 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   if (!connection)
     throw PrinterFailure(messages::noCups(cupsServerName(), systemReason(errno)),
                          messages::kOtherServer);
+  connection->probe();
+  if (silence.isExceeded())
+    failForSilence();
   char file[1024] = "";
   time_t changed = 0;
   const int status = // an int, because CUPS can send any number
@@ -131,8 +139,7 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
     if (*file != '\0')
       unlink(file);
     if (silence.isExceeded())
-      throw PrinterFailure(messages::noCups(cupsServerName(), messages::kNoAnswer),
-                           messages::kOtherServer);
+      failForSilence();
     throw PrinterFailure(messages::queueWithoutPpd(queue, visible(cupsLastErrorString())),
                          messages::kNamePrinter);
   }

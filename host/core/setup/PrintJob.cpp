@@ -39,10 +39,11 @@ std::string defaultQueue() {
   if (!connection)
     throw PrinterFailure(messages::noCups(cupsServerName(), systemReason(errno)),
                          messages::kOtherServer);
-  const CupsDestination destination(cupsGetNamedDest(connection->http(), nullptr, nullptr));
+  connection->probe();
   if (silence.isExceeded())
     throw PrinterFailure(messages::noCups(cupsServerName(), messages::kNoAnswer),
                          messages::kOtherServer);
+  const CupsDestination destination(cupsGetNamedDest(connection->http(), nullptr, nullptr));
   if (!destination)
     throw PrinterFailure(messages::kNoDefaultPrinter, messages::kNamePrinter);
   return QueueName{destination->name, destination->instance != nullptr ? destination->instance : ""}

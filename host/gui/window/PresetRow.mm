@@ -45,7 +45,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 - (void)choose:(std::size_t)item;
 - (void)load:(const PresetName &)preset;
 - (void)takeNone;
-- (void)take:(const LoadedPreset &)loaded;
+- (void)take:(const LoadedPreset &)loaded saying:(const std::string &)sentence;
 - (std::string)suggestion;
 /// Asks for a name, and before it replaces another preset than `old`. Returns a usable name.
 - (std::optional<std::string>)askForNameInsteadOf:(const std::string &)old
@@ -165,19 +165,19 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   const LoadedPreset loaded =
       Presets::load(preset, session.job().printer(), session.panels().optionKeys());
   state->chosen = preset.printer == [self printer] ? preset.name : "";
-  [self take:loaded];
+  [self take:loaded saying:""];
 }
 
 - (void)takeNone {
   state->chosen.clear();
   LoadedPreset none;
   none.settings = [dialog session].job().settingsWithoutPreset();
-  [self take:none];
+  [self take:none saying:messages::kPrintersDefaults];
 }
 
 /// The panels' values are among the settings, so that the panels read them anew. What applies to
 /// this document alone stays.
-- (void)take:(const LoadedPreset &)loaded {
+- (void)take:(const LoadedPreset &)loaded saying:(const std::string &)sentence {
   PrintSession &session = [dialog session];
   PrintJob &job = session.job();
   if (QueueName::parse(job.queue()).instance != state->chosen)
@@ -192,7 +192,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
     return;
   const auto changes =
       adjustments(job.printer().ppd(), session.panels().optionKeys(), given, job.settings());
-  std::vector<std::string> notes;
+  std::vector<std::string> notes{sentence};
   for (const auto *sentences : {&replies.failures, &replies.refusals, &loaded.misfits, &changes})
     notes.insert(notes.end(), sentences->begin(), sentences->end());
   [dialog say:messages::sentences(notes)];

@@ -33,6 +33,7 @@ const Text kSummaryTitle = text("Summary");
 const Text kResolve = text("Resol&ve");
 const Text kPrint = text("Print");
 const Text kNoPresetChosen = text("None");
+const Text kPrintersDefaults = text("The settings are the printer's defaults.");
 const Text kSavePreset = text("Save as preset…");
 const Text kRenamePreset = text("Rename this preset…");
 const Text kDeletePreset = text("Delete this preset…");

@@ -35,6 +35,7 @@ extern const Text kResolve;
 extern const Text kPrint;
 
 extern const Text kNoPresetChosen;
+extern const Text kPrintersDefaults; ///< Says that no preset is chosen.
 extern const Text kSavePreset;
 extern const Text kRenamePreset;
 extern const Text kDeletePreset;

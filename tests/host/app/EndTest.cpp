@@ -70,6 +70,20 @@ TEST_F(HalfAJob, IsCancelledByTheEndOfTheDisplay) {
   EXPECT_EQ(jobs(), "");
 }
 
+TEST_F(QueueWindow, TheBatchEndsWithAMessageIfCupsHangs) {
+  for (const Words &queue : {Words{"-d", "office"}, Words{}}) {
+    Words words{PRINT_DIALOG, "--batch", sample("two-sided.pdf")};
+    words.insert(words.end(), queue.begin(), queue.end());
+    cups->send(SIGSTOP);
+    constexpr int kPatience = 30; // seconds
+    Process batch(words, cups->environment(), kPatience);
+    const ProcessResult &result = batch.wait();
+    cups->send(SIGCONT);
+    EXPECT_EQ(result.status, kPrinter) << testing::PrintToString(result);
+    EXPECT_THAT(result.errors, HasSubstr("CUPS is not responding at"));
+  }
+}
+
 class Dripping : public Window {
 protected:
   const DrippingServer server;
