@@ -20,15 +20,18 @@ namespace imageposition {
 /// destroying objects that the thread may use.
 class RunningCall {
 public:
-  RunningCall() noexcept { count_++; }
-  ~RunningCall() { count_--; }
+  RunningCall() noexcept { runningCalls()++; }
+  ~RunningCall() { runningCalls()--; }
   RunningCall(const RunningCall &) = delete;
   RunningCall &operator=(const RunningCall &) = delete;
 
-  static int count() noexcept { return count_; }
+  static int count() noexcept { return runningCalls(); }
 
 private:
-  static inline std::atomic<int> count_{0};
+  static std::atomic<int> &runningCalls() noexcept {
+    static std::atomic<int> calls{0};
+    return calls;
+  }
 };
 
 /// One call of a function on a background thread. Nothing waits for the thread: if its result is no

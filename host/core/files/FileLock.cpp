@@ -42,7 +42,7 @@ std::string holderOf(const Descriptor &file) {
       continue;
     std::ifstream name("/proc/" + process + "/comm");
     std::string program;
-    return std::getline(name, program) ? program + " (" + process + ")" : process;
+    return std::getline(name, program) ? program.append(" (").append(process).append(")") : process;
   }
   return {};
 }

@@ -214,7 +214,12 @@ void SubmissionWork::giveUpIfDue() {
   isCancelled_ = true;
 }
 
+/// The submission has no outcome then: the main thread must not end the process in another way.
 void SubmissionWork::endBy(int signal) {
+  {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    isSettled_ = true;
+  }
   endSubmissions();
   std::signal(signal, SIG_DFL);
   const sigset_t signals = SignalBlock::blocked();

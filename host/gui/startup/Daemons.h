@@ -14,8 +14,8 @@ void leaveOutPasteboardDaemon();
 /// For a run with a window: the first copy, cut or paste starts the pasteboard daemon and the one
 /// that announces it. GNUstep would start them for the text that a window selects when it opens,
 /// and wait five seconds for a notification that never arrives, because notifications are disabled.
-/// Other programs therefore cannot paste a mere selection. Dropping a file starts none. If the daemon cannot be started,
-/// requesting a pasteboard raises NSPasteboardCommunicationException.
+/// Other programs therefore cannot paste a mere selection. Dropping a file starts none. If the
+/// daemon cannot be started, requesting a pasteboard raises NSPasteboardCommunicationException.
 void startPasteboardOnDemand();
 
 } // namespace imageposition
