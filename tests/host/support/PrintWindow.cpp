@@ -35,6 +35,7 @@ std::vector<std::string> commandFor(const std::vector<std::string> &words) {
 
 std::vector<std::string> environmentFor(std::vector<std::string> environment,
                                         const std::string &file) {
+  environment.insert(environment.begin(), "XDG_STATE_HOME=" + file + "-state"); // no last job
   environment.push_back("OBSERVER_FILE=" + file);
   environment.push_back("PRINT_DIALOG_APPEARANCE=light");
   return environment;

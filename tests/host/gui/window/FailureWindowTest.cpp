@@ -39,7 +39,7 @@ protected:
   static std::vector<std::string> usable(const PrintWindow &window) {
     std::vector<std::string> found;
     for (const Control &control : window.screen().controls)
-      if (control.isEnabled && control.kind != "label")
+      if (control.isEnabled && control.kind != "label" && control.kind != "viewport")
         found.push_back(control.kind + " " + control.text);
     return found;
   }

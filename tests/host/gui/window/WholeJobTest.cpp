@@ -162,10 +162,10 @@ TEST_F(ThePicture, ShowsEachClickOnAStepperEnlarged) {
     })) << label
         << (up ? " up" : " down");
   };
-  moves(kFrontLeftRight, true, 1, 0);
+  moves(kFrontLeftRight, true, -1, 0); // seen through the sheet, from its back
   EXPECT_EQ(window.field(kFrontLeftRight), "1");
-  moves(kFrontLeftRight, true, 1, 0);
-  moves(kFrontLeftRight, false, -1, 0);
+  moves(kFrontLeftRight, true, -1, 0);
+  moves(kFrontLeftRight, false, 1, 0);
   moves(kFrontTopBottom, true, 0, 1);
   moves(kFrontTopBottom, false, 0, -1);
   moves(kFrontTopBottom, false, 0, -1);
