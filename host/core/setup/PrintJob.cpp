@@ -150,7 +150,7 @@ OpenedPrinter openQueue(const std::string &wanted) {
   return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue))};
 }
 
-PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter first, History history)
+PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history)
     : arguments_(arguments), queue_(std::move(first.queue)), printer_(std::move(first.printer)),
       history_(std::move(history)), preset_(startOf(*printer_)),
       ticket_(openTicket(arguments, preset_.settings)),

@@ -36,7 +36,7 @@ public:
   /// Opens the ticket that the command line names. Throws a `Failure`. `arguments` is borrowed and
   /// must outlive this object. A printer whose queue names no preset begins with the settings that
   /// the history has for it; the ticket and the command line override them.
-  PrintJob(const Arguments &arguments, OpenedPrinter first, History history = {});
+  PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history = {});
   PrintJob(const PrintJob &) = delete;
   PrintJob &operator=(const PrintJob &) = delete;
 
