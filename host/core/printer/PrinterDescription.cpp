@@ -1,11 +1,10 @@
 #include "PrinterDescription.hpp"
 
 #include "ChoiceList.hpp"
-#include "CupsConnection.hpp"
-#include "CupsTexts.hpp"
 #include "MissingTexts.hpp"
 #include "Phrases.hpp"
 #include "PpdSize.hpp"
+#include "PrinterConnection.hpp"
 #include "PrinterFailure.hpp"
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
@@ -15,7 +14,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
-#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -60,11 +58,6 @@ PrintSettingsStore defaultsOf(http_t *http, const QueueName &queue) {
   for (int i = 0; i < destination->num_options; i++)
     defaults.set(destination->options[i].name, destination->options[i].value);
   return defaults;
-}
-
-[[noreturn]] void failForSilence() {
-  throw PrinterFailure(messages::noCups(cupsServerName(), messages::kNoAnswer),
-                       messages::kOtherServer);
 }
 
 using Choices = std::map<std::string, std::string>;
@@ -124,13 +117,7 @@ PrinterDescription PrinterDescription::fromFile(const std::string &path) {
 PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   const QueueName name = QueueName::parse(queue);
   SilenceLimit silence;
-  const auto connection = CupsConnection::open(SilenceLimit::kLimit, std::ref(silence));
-  if (!connection)
-    throw PrinterFailure(messages::noCups(cupsServerName(), systemReason(errno)),
-                         messages::kOtherServer);
-  connection->probe();
-  if (silence.isExceeded())
-    failForSilence();
+  const auto connection = connectForPrinter(silence);
   char file[1024] = "";
   time_t changed = 0;
   const int status = // an int, because CUPS can send any number

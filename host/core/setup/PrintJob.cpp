@@ -1,13 +1,12 @@
 #include "PrintJob.hpp"
 
-#include "CupsConnection.hpp"
-#include "CupsTexts.hpp"
 #include "CustomValue.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
 #include "Phrases.hpp"
+#include "PrinterConnection.hpp"
 #include "PrinterFailure.hpp"
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
@@ -18,10 +17,8 @@
 #include <cups/cups.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <functional>
 #include <iostream>
 #include <optional>
 #include <sys/stat.h>
@@ -35,14 +32,7 @@ namespace {
 /// The user's default, or the server's if the user has none.
 std::string defaultQueue() {
   SilenceLimit silence;
-  const auto connection = CupsConnection::open(SilenceLimit::kLimit, std::ref(silence));
-  if (!connection)
-    throw PrinterFailure(messages::noCups(cupsServerName(), systemReason(errno)),
-                         messages::kOtherServer);
-  connection->probe();
-  if (silence.isExceeded())
-    throw PrinterFailure(messages::noCups(cupsServerName(), messages::kNoAnswer),
-                         messages::kOtherServer);
+  const auto connection = connectForPrinter(silence);
   const CupsDestination destination(cupsGetNamedDest(connection->http(), nullptr, nullptr));
   if (!destination)
     throw PrinterFailure(messages::kNoDefaultPrinter, messages::kNamePrinter);

@@ -53,24 +53,24 @@ TEST(TypedPath, IsReadAsTheUserMeansIt) {
   const struct {
     const char *typed, *home, *path;
   } rows[] = {
-      {"a.pdf", "/home/me", "/work/a.pdf"},
-      {" a b.pdf\n", "/home/me", "/work/a b.pdf"},
+      {"a.pdf", "/home/me", "/srv/a.pdf"},
+      {" a b.pdf\n", "/home/me", "/srv/a b.pdf"},
       {"../a.pdf", "/home/me", "/a.pdf"},
-      {"sub/", "/home/me", "/work/sub"},
-      {"./sub//a.pdf", "/home/me", "/work/sub/a.pdf"},
+      {"sub/", "/home/me", "/srv/sub"},
+      {"./sub//a.pdf", "/home/me", "/srv/sub/a.pdf"},
       {"/tmp/a.pdf", "/home/me", "/tmp/a.pdf"},
       {"/", "/home/me", "/"},
       {"..", "/home/me", "/"},
       {"../../..", "/home/me", "/"},
-      {".", "/home/me", "/work"},
+      {".", "/home/me", "/srv"},
       {"~", "/home/me", "/home/me"},
       {"~/a.pdf", "/home/me", "/home/me/a.pdf"},
-      {"~a.pdf", "/home/me", "/work/~a.pdf"},
-      {"~/a.pdf", "", "/work/~/a.pdf"},
+      {"~a.pdf", "/home/me", "/srv/~a.pdf"},
+      {"~/a.pdf", "", "/srv/~/a.pdf"},
       {" ", "/home/me", ""},
   };
   for (const auto &row : rows)
-    EXPECT_EQ(pathFrom("/work", row.typed, row.home), row.path) << row.typed;
+    EXPECT_EQ(pathFrom("/srv", row.typed, row.home), row.path) << row.typed;
 }
 
 } // namespace
