@@ -56,8 +56,8 @@ void addCommand(ListPopUp *popUp, const std::string &title, bool enabled = true)
 /// Gives the views their places and sizes; buttons and the controls of rows keep their sizes where
 /// there is room. In a wide window the picture stands beside everything else, in a narrow one
 /// beside the rows; both grow with the window. A hidden picture leaves its room to the panes. In a
-/// low window, rows and pane scroll, and the texts
-/// take room only if they say something. The buttons stay visible.
+/// low window, rows and pane scroll, and the texts take room only if they say something. The
+/// buttons stay visible.
 class DialogLayout {
 public:
   /// Makes the window. `pane` is the size of the largest pane, `room` that of the largest content
