@@ -17,6 +17,7 @@
 #include "PrivateDisplay.hpp"
 #include "StandardOutput.hpp"
 #include "Ticket.hpp"
+#include "UnknownValues.hpp"
 
 #include <csignal>
 #include <cstdlib>
@@ -54,6 +55,9 @@ ExitCode runInBatch(const Arguments &arguments) {
   if (session.panels().panels().empty() && arguments.batch.needsPanel())
     throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), session.plugins()));
   job.requireNumbers(session.panels().optionKeys());
+  for (const std::string &sentence :
+       unknownValues(job.printer(), job.settings(), session.panels().optionKeys()))
+    std::cerr << messages::kProgram << sentence << '\n';
   const auto summary = runBatch(session.panels(), job.printer().ppd(), arguments.batch, std::cerr);
   if (const auto submission =
           job.print(job.isSubmitted() ? readDestinations() : DestinationList(), arguments.ticket))

@@ -138,6 +138,10 @@ std::string waitsForRelease(const std::string &queue, int job, const std::string
   return text("The job is on hold until {2}. To print it now: lp -i {1} -H resume")
       .with(name, until);
 }
+std::string localTime(const std::string &time) {
+  // Translators: {1} is a time such as 18:30.
+  return text("{1} (local time)").with(time);
+}
 std::string copiesNotUnderstood() {
   return text("Enter a number of copies from 1 to {1}.").with(kMostCopies);
 }

@@ -52,7 +52,9 @@ std::string jobTakenBack(const std::string &message, const std::string &queue, i
 std::string jobCancelled(const std::string &queue, int job);
 extern const Text kStandardInput;
 std::string waitsForPrinter(const std::string &queue, const std::string &state);
+/// `until` is "indefinite", one of CUPS's names, or a local time.
 std::string waitsForRelease(const std::string &queue, int job, const std::string &until);
+std::string localTime(const std::string &time);
 
 // Pages.
 std::string copiesNotUnderstood();

@@ -3,6 +3,7 @@
 #include "CustomValue.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
+#include "JobSettings.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
 #include "Phrases.hpp"
@@ -52,6 +53,8 @@ void applyLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
   if (arguments.isMailWanted)
     readOptionArgument("notify-recipient-uri=mailto:" + mailAddress(), settings);
 }
+
+constexpr const char *kTitleSetting = "job-name";
 
 /// Settings that apply to one job only, in addition to those of one document, which no preset has.
 bool isOfOneJob(const std::string &name) {
@@ -182,7 +185,7 @@ PrintSettingsStore PrintJob::settingsToRemember() const {
     const cups_option_t &option = settings.options()[i];
     const bool isGiven =
         given.get(option.name) != nullptr && isSameIn(given, settings, option.name);
-    if (!isGiven && !isOfOneJob(option.name) &&
+    if (!isGiven && !isOfOneJob(option.name) && !isLayoutSetting(*printer_, option.name) &&
         !isHiddenValue(printer_->ppd(), option.name, option.value))
       kept.set(option.name, option.value);
   }
@@ -300,13 +303,19 @@ std::vector<std::string> PrintJob::documentsToSend() const {
   return documents_.empty() ? std::vector<std::string>{"-"} : documents_;
 }
 
+std::string PrintJob::title() const {
+  return arguments_.title.empty() ? documentName(documentsToSend().front()) : arguments_.title;
+}
+
 JobRequest PrintJob::request(const DestinationList &destinations) const {
   JobRequest request;
   request.printer = QueueName::parse(queue_).printer;
-  request.title = arguments_.title;
-  if (request.title.empty())
-    request.title = documentName(documentsToSend().front());
   request.settings = ticket_.settings;
+  request.title = title();
+  if (const char *const title = ticket_.settings.get(kTitleSetting);
+      title != nullptr && *title != '\0')
+    request.title = title;
+  request.settings.remove(kTitleSetting);
   request.compounds = compoundOptions(printer_->ppd());
   for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &ticket_.settings})
     for (std::string &name : hiddenSettings(printer_->ppd(), *settings))

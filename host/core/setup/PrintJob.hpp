@@ -56,7 +56,8 @@ public:
   /// The preset with which new jobs on this printer begin; may be empty.
   std::string defaultPreset() const;
   /// Stores the printer, its settings and the window's size for the next job. Leaves out settings
-  /// that apply to one document or job, secrets, and what the command line gave.
+  /// that apply to one document or job, such as its layout, secrets, and what the command line
+  /// gave.
   void remember(const std::optional<WindowSize> &window) const;
 
   /// One sentence for each setting of the first queue's preset that was changed or dropped because
@@ -97,6 +98,10 @@ public:
   void setDocuments(const std::vector<std::string> &paths);
   /// Whether there is something to print: a document, or redirected input.
   bool hasDocument() const;
+
+  /// The job's title unless its setting "job-name" gives another: the command line's, or the first
+  /// document's name.
+  std::string title() const;
 
   /// The request to send to CUPS: the job's settings and, if `destinations` has the queue, its
   /// defaults.

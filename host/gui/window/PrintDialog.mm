@@ -13,6 +13,7 @@
 #include "QuestionTexts.hpp"
 #import "RunLoopWake.h"
 #import "TextBridge.h"
+#include "UnknownValues.hpp"
 #import "WindowFocus.h"
 #include "WindowTexts.hpp"
 
@@ -95,7 +96,7 @@ struct imageposition::PrintDialogState {
   [window setDelegate:nil];
   [window close];
   for (id part : {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options,
-                  (id)panes, (id)sending, (id)message, (id)picture, (id)help, (id)window})
+                  (id)more, (id)panes, (id)sending, (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -110,7 +111,8 @@ struct imageposition::PrintDialogState {
   copies = [[CopiesRow alloc] initWithDialog:self];
   pages = [[PagesRow alloc] initWithDialog:self];
   options = [[PrinterOptionRows alloc] initWithDialog:self];
-  panes = [[Panes alloc] initWithDialog:self optionsOwner:options];
+  more = [[JobSettingRows alloc] initWithDialog:self];
+  panes = [[Panes alloc] initWithDialog:self optionsOwner:options moreOwner:more];
 }
 
 - (void)buildWindowForPane:(NSSize)pane room:(NSSize)room {
@@ -298,6 +300,7 @@ struct imageposition::PrintDialogState {
 - (void)wake {
   [documents showQuestion];
   [options askForChosenValue];
+  [more askForChosenValueOver:window];
   [sending askForPassword];
 }
 
@@ -306,10 +309,12 @@ struct imageposition::PrintDialogState {
   PrinterRow *const printerRow = printers;
   DocumentRow *const documentRow = documents;
   Sending *const sender = sending;
+  Panes *const paneArea = panes;
   [window protect:[=] {
     [sender look];
     [documentRow refresh];
-    [printerRow takeAnswer];
+    if ([printerRow takeAnswer])
+      [paneArea printersListed];
   }];
 }
 
@@ -359,17 +364,21 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-/// What is the matter with the documents, what is missing in the window, and which of the preset's
-/// settings the printer does not accept, which standard error has already.
+/// What is the matter with the documents, what is missing in the window, which settings have
+/// unknown values, and which of the preset's settings the printer does not accept, which standard
+/// error has already.
 - (void)sayTroubles {
   PanelSession &panels = state->session->panels();
-  const auto &misfits = state->session->job().misfits();
+  PrintJob &job = state->session->job();
   std::string troubles = panels.troubleText();
-  if (const std::string problem = problemWith(state->session->job().documents()); !problem.empty())
+  if (const std::string problem = problemWith(job.documents()); !problem.empty())
     troubles = problem;
+  troubles = messages::sentences(
+      {troubles,
+       messages::sentences(unknownValues(job.printer(), job.settings(), panels.optionKeys()))});
   if (!troubles.empty())
     [self say:troubles];
-  if (!misfits.empty())
+  if (const auto &misfits = job.misfits(); !misfits.empty())
     [self show:messages::sentences({troubles, messages::sentences(misfits)})];
 }
 
