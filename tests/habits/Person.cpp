@@ -5,6 +5,8 @@
 #include "FocusedWindow.hpp"
 #include "Waiting.hpp"
 
+#include <cups/cups.h>
+
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -258,6 +260,26 @@ void Person::seeJobs(int count) {
     throw StepFailure("not " + std::to_string(count) + " jobs, but: " + jobs);
 }
 
+void Person::seeReceived(const std::string &name, const std::string &value) {
+  http_t *const http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
+                                    1, 30000, nullptr);
+  cups_job_t *jobs = nullptr;
+  const int count = cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
+  const std::string uri =
+      "ipp://localhost/jobs/" + std::to_string(count > 0 ? jobs[count - 1].id : 0);
+  cupsFreeJobs(count, jobs);
+  ipp_t *const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+  ipp_t *const response = cupsDoRequest(http, request, "/jobs");
+  char received[1024] = "";
+  if (ipp_attribute_t *const attribute = ippFindAttribute(response, name.c_str(), IPP_TAG_ZERO))
+    ippAttributeString(attribute, received, sizeof received);
+  ippDelete(response);
+  httpClose(http);
+  if (value != received)
+    throw StepFailure("CUPS received " + name + " as \"" + received + "\"");
+}
+
 void Person::endWith(int status) {
   if (!becomesTrue([&] { return dialog_->hasEnded(); }))
     throw StepFailure("the dialog does not end\n" + described());
@@ -403,6 +425,7 @@ std::vector<Sentence> Person::sentences() {
       {"see every text with enough contrast", [=](const StepValues &) { seeTexts(); }},
       {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
+      {"CUPS received \"*\" as \"*\"", [=](const StepValues &v) { seeReceived(v[0], v[1]); }},
       {"it writes \"*\"",
        [=](const StepValues &v) {
          if (dialog_->wait().output.find(v[0]) == std::string::npos)
