@@ -109,15 +109,17 @@ const Text kBookletOneSided = text(
 std::string unknownValue(const std::string &name, const std::string &value,
                          const std::vector<std::string> &known) {
   if (known.empty())
-    return text("\"{2}\" is not a value of \"{1}\", and may have no effect.").with(name, value);
+    return text("\"{2}\" is not a value of \"{1}\". The printer may refuse or ignore it.")
+        .with(name, value);
   // Translators: {3} is a list of values.
-  return text("\"{2}\" is not a value of \"{1}\", and may have no effect. There are, for example: "
+  return text("\"{2}\" is not a value of \"{1}\". The printer may refuse or ignore it. There are, "
+              "for example: "
               "{3}.")
       .with(name, value, inOrder(known));
 }
 std::string refusedValue(const std::string &name, const std::string &value,
                          const std::string &problem) {
-  return text("\"{2}\" is not a value of \"{1}\", and may have no effect. {3}")
+  return text("\"{2}\" is not a value of \"{1}\". The printer may refuse or ignore it. {3}")
       .with(name, value, problem);
 }
 

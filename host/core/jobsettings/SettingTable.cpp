@@ -91,7 +91,7 @@ std::vector<JobSetting> layoutSettings() {
        Group::Layout,
        "1",
        {{"1", {}}, {"2", {}}, {"4", {}}, {"6", {}}, {"9", {}}, {"16", {}}},
-       {"3", "8", "10", "12", "15"},
+       {}, // the filters know others, but CUPS refuses them
        {}},
       {"number-up-layout",
        messages::kPageOrder,

@@ -204,6 +204,9 @@ NSSize imageposition::largestPane(PanelSession &session) {
   PrintJob &job = session.job();
   std::vector<SummarySection> sections{
       jobSection(job.printer().name(), job.documents(), job.settings())};
+  const JobSettings settings = jobSettingsOf(session);
+  if (SummarySection section = settings.section(); !section.lines.empty())
+    sections.push_back(std::move(section));
   for (const auto &panel : session.panels().panels()) {
     try {
       sections.push_back(panel->summary());
@@ -213,15 +216,13 @@ NSSize imageposition::largestPane(PanelSession &session) {
     }
   }
   sections.push_back(optionSection(job.printer(), job.settings(), session.panels().optionKeys()));
-  const JobSettings settings = jobSettingsOf(session);
   std::vector<std::string> elsewhere = session.panels().optionKeys();
   for (std::string &name : settings.names())
     elsewhere.push_back(std::move(name));
-  for (const SummarySection &section :
-       {settings.section(),
-        otherSection(job.request(session.destinations().list()), job.printer(), elsewhere)})
-    if (!section.lines.empty())
-      sections.push_back(section);
+  const SummarySection others =
+      otherSection(job.request(session.destinations().list()), job.printer(), elsewhere);
+  if (!others.lines.empty())
+    sections.push_back(others);
   if (summary == nil)
     summary = [[SummaryView alloc] initWithFrame:[area bounds]];
   [summary setFrameSize:[area bounds].size];

@@ -38,7 +38,7 @@ TEST(UnknownValues, NameTheOptionTheValueAndSomeThatExist) {
 
 TEST(UnknownValues, AreNotThoseThatHaveAnEffect) {
   const std::pair<const char *, const char *> rows[] = {
-      {"Duplex", "duplextumble"},     {"number-up", "12"},       {"print-scaling", "auto-fit"},
+      {"Duplex", "duplextumble"},     {"number-up", "16"},       {"print-scaling", "auto-fit"},
       {"booklet", "shuffle-only"},    {"booklet", "on"},         {"outputorder", "Reverse"},
       {"job-hold-until", "16:30"},    {"job-priority", "77"},    {"PageSize", "Custom.100x200mm"},
       {"LeftRightMargin", "7"},       {"Watermark", "Custom.x"}, {"media", "anything"},
