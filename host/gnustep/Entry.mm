@@ -6,7 +6,7 @@
 #include "Destinations.hpp"
 #import "DialogWindow.h"
 #include "EntryTexts.hpp"
-#include "ExitStatus.hpp"
+#include "FailureReport.hpp"
 #include "JobSubmission.hpp"
 #import "OpenPrinter.h"
 #include "Phrases.hpp"
