@@ -389,10 +389,9 @@ struct imageposition::PrintDialogState {
   [self show];
   const NSInteger answer = [NSApp runModalForWindow:window];
   [help hide];
-  if (const std::string note = [sending note]; !note.empty()) // desktops hide standard error
-    showNote(window, messages::kJobWaits, note);
+  const BOOL isKept = [sending keepWaitingJob]; // desktops hide standard error
   [window orderOut:nil];
-  return answer == NSOKButton;
+  return answer == NSOKButton && isKept;
 }
 
 @end

@@ -57,6 +57,7 @@ std::string presetSaved(const std::string &lpName) {
   return text("The preset is saved. lp -d {1} prints with it too.").with(shellWord(lpName));
 }
 const Text kJobWaits = text("The job is waiting");
+const Text kCancelJob = text("Cancel the job");
 const Text kStateUnknown = text("Looking for printers…");
 std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd) {
   const bool isNumber = isWholeNumber(typed);

@@ -50,6 +50,7 @@ extern const Text kDelete;
 std::string deleteQuestion(const std::string &preset);
 std::string presetSaved(const std::string &lpName);
 extern const Text kJobWaits;
+extern const Text kCancelJob;
 extern const Text kStateUnknown;
 /// What the panel made of a number that was typed; empty if it is the same, or if the user has only
 /// begun.
