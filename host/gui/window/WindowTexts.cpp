@@ -71,6 +71,10 @@ std::string numberChange(const std::string &typed, const std::string &shown, boo
                 : text("\"{1}\" was changed to {2}."))
       .with(typed, shown);
 }
+std::string otherThanLastPrinter(const std::string &missing, const std::string &printer) {
+  return text("\"{1}\", the printer of the last job, is not available. This is \"{2}\".")
+      .with(missing, printer);
+}
 std::string numbersNow(NumbersNow numbers, const std::string &printer) {
   switch (numbers) {
   case NumbersNow::Defaults:

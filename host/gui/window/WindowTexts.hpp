@@ -56,6 +56,7 @@ extern const Text kStateUnknown;
 /// begun.
 std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd);
 /// What became of the offsets after a change of the printer; empty if nothing did.
+std::string otherThanLastPrinter(const std::string &missing, const std::string &printer);
 std::string numbersNow(NumbersNow numbers, const std::string &printer);
 extern const Text kNothingToPrint;
 extern const Text kPrintAnywayWindow;
