@@ -11,6 +11,7 @@
 #include "Phrases.hpp"
 #import "Pool.h"
 #include "QuestionTexts.hpp"
+#include "QueueName.hpp"
 #import "RunLoopWake.h"
 #import "TextBridge.h"
 #include "UnknownValues.hpp"
@@ -42,6 +43,15 @@ std::string problemWith(const JobDocuments &documents) {
   } catch (const SubmissionFailure &failure) {
     return failure.what();
   }
+}
+
+/// In what the job begins otherwise than a first one would; may be empty.
+std::string startNote(const PrintJob &job) {
+  const std::string printer = QueueName::parse(job.queue()).printer;
+  const std::string &missing = job.missingPrinter();
+  return messages::sentences(
+      {missing.empty() ? "" : messages::otherThanLastPrinter(missing, printer),
+       job.isFromLastJob() ? messages::numbersNow(NumbersNow::Remembered, printer) : ""});
 }
 
 } // namespace
@@ -364,9 +374,9 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-/// What is the matter with the documents, what is missing in the window, which settings have
-/// unknown values, and which of the preset's settings the printer does not accept, which standard
-/// error has already.
+/// What is the matter with the documents, what is missing in the window, which settings have unknown
+/// values, which of the preset's settings the printer does not accept, which standard error has
+/// already, and what came back from the last job.
 - (void)sayTroubles {
   PanelSession &panels = state->session->panels();
   PrintJob &job = state->session->job();
@@ -378,8 +388,10 @@ struct imageposition::PrintDialogState {
        messages::sentences(unknownValues(job.printer(), job.settings(), panels.optionKeys()))});
   if (!troubles.empty())
     [self say:troubles];
-  if (const auto &misfits = job.misfits(); !misfits.empty())
-    [self show:messages::sentences({troubles, messages::sentences(misfits)})];
+  const std::string start =
+      messages::sentences({troubles, messages::sentences(job.misfits()), startNote(job)});
+  if (start != troubles)
+    [self show:start];
 }
 
 - (void)show {
@@ -398,10 +410,9 @@ struct imageposition::PrintDialogState {
   [self show];
   const NSInteger answer = [NSApp runModalForWindow:window];
   [help hide];
-  if (const std::string note = [sending note]; !note.empty()) // desktops hide standard error
-    showNote(window, messages::kJobWaits, note);
+  const BOOL isKept = [sending keepWaitingJob]; // desktops hide standard error
   [window orderOut:nil];
-  return answer == NSOKButton;
+  return answer == NSOKButton && isKept;
 }
 
 @end
