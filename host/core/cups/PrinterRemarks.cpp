@@ -70,6 +70,7 @@ std::string remarksOn(const Attributes &printer) {
 
 std::vector<std::string> coverPages(const Attributes &printer) {
   std::vector<std::string> covers;
+  covers.reserve(ippGetCount(printer.covers));
   for (int i = 0; i < ippGetCount(printer.covers); i++)
     covers.push_back(stringIn(printer.covers, i));
   return covers;

@@ -374,9 +374,9 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-/// What is the matter with the documents, what is missing in the window, which settings have unknown
-/// values, which of the preset's settings the printer does not accept, which standard error has
-/// already, and what came back from the last job.
+/// What is the matter with the documents, what is missing in the window, which settings have
+/// unknown values, which of the preset's settings the printer does not accept, which standard error
+/// has already, and what came back from the last job.
 - (void)sayTroubles {
   PanelSession &panels = state->session->panels();
   PrintJob &job = state->session->job();
