@@ -1,0 +1,198 @@
+#include "ShiftedPdf.hpp"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFExc.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <ctime>
+#include <fcntl.h>
+#include <map>
+#include <memory>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace imageposition {
+
+namespace {
+
+constexpr const char *kMark = "/ImagePosition"; // in the catalogue's page-piece dictionary
+constexpr int kDecimals = 4;                    // of a point: less than a thousandth of 0.1 mm
+
+/// The caller keeps its descriptor. Starts at the beginning of the file.
+std::unique_ptr<FILE, int (*)(FILE *)> streamOf(const Descriptor &file, const char *mode) {
+  Descriptor copy(fcntl(file.get(), F_DUPFD_CLOEXEC, 0));
+  FILE *const stream = copy.isOpen() ? fdopen(copy.get(), mode) : nullptr;
+  if (stream == nullptr)
+    throw PdfTrouble(PdfTrouble::Kind::Unwritable, "no descriptor is left");
+  (void)copy.release();
+  std::rewind(stream);
+  return {stream, std::fclose};
+}
+
+[[noreturn]] void failFor(const QPDFExc &error) {
+  switch (error.getErrorCode()) {
+  case qpdf_e_password:
+    throw PdfTrouble(PdfTrouble::Kind::Encrypted, error.getMessageDetail());
+  case qpdf_e_system:
+    throw PdfTrouble(PdfTrouble::Kind::Unwritable, error.getMessageDetail());
+  default:
+    throw PdfTrouble(PdfTrouble::Kind::Damaged, error.getMessageDetail());
+  }
+}
+
+void open(QPDF &pdf, FILE *stream) {
+  pdf.setSuppressWarnings(true);
+  pdf.processFile("document", stream, false);
+}
+
+QPDFObjectHandle markIn(QPDF &pdf) {
+  QPDFObjectHandle pieces = pdf.getRoot().getKey("/PieceInfo");
+  return pieces.isDictionary() ? pieces.getKey(kMark) : QPDFObjectHandle::newNull();
+}
+
+std::string now() {
+  const std::time_t time = std::time(nullptr);
+  std::tm utc{};
+  gmtime_r(&time, &utc);
+  std::array<char, 32> text{};
+  std::strftime(text.data(), text.size(), "D:%Y%m%d%H%M%SZ", &utc);
+  return text.data();
+}
+
+QPDFObjectHandle arrayOf(const Offset &offset) {
+  return QPDFObjectHandle::newArray({QPDFObjectHandle::newInteger(offset.right.count),
+                                     QPDFObjectHandle::newInteger(offset.down.count)});
+}
+
+void mark(QPDF &pdf, const ShiftPlan &plan) {
+  auto applied = QPDFObjectHandle::newDictionary();
+  applied.replaceKey("/Front", arrayOf(plan.front));
+  applied.replaceKey("/Back", arrayOf(plan.back));
+  auto piece = QPDFObjectHandle::newDictionary();
+  piece.replaceKey("/LastModified", QPDFObjectHandle::newString(now()));
+  piece.replaceKey("/Private", applied);
+  QPDFObjectHandle root = pdf.getRoot();
+  if (!root.getKey("/PieceInfo").isDictionary())
+    root.replaceKey("/PieceInfo", QPDFObjectHandle::newDictionary());
+  root.getKey("/PieceInfo").replaceKey(kMark, piece);
+}
+
+/// Moves pages; pages that move alike share the streams that do it.
+class PageMover {
+public:
+  explicit PageMover(QPDF &pdf) : pdf_(pdf) {}
+
+  void move(QPDFPageObjectHelper &page, const Offset &offset) {
+    if (offset == Offset{})
+      return;
+    QPDFObjectHandle rotation = page.getAttribute("/Rotate", false);
+    QPDFObjectHandle unit = page.getAttribute("/UserUnit", false);
+    const Translation by = translationOf(offset, rotation.isInteger() ? rotation.getIntValue() : 0,
+                                         unit.isNumber() ? unit.getNumericValue() : 1);
+    page.addPageContents(before(by), true);
+    page.addPageContents(after(), false);
+  }
+
+private:
+  QPDFObjectHandle before(const Translation &by) {
+    const std::string matrix = "q 1 0 0 1 " +
+                               QPDFObjectHandle::newReal(by.x.count, kDecimals).unparse() + " " +
+                               QPDFObjectHandle::newReal(by.y.count, kDecimals).unparse() + " cm\n";
+    const auto known = before_.find(matrix);
+    if (known != before_.end())
+      return known->second;
+    return before_.emplace(matrix, pdf_.newStream(matrix)).first->second;
+  }
+
+  QPDFObjectHandle after() {
+    if (!after_.isInitialized())
+      after_ = pdf_.newStream("\nQ\n");
+    return after_;
+  }
+
+  QPDF &pdf_;
+  std::map<std::string, QPDFObjectHandle> before_;
+  QPDFObjectHandle after_;
+};
+
+void requireSize(QPDFPageObjectHelper &page) {
+  const QPDFObjectHandle::Rectangle box = page.getMediaBox().getArrayAsRectangle();
+  if (!(std::abs(box.urx - box.llx) > 0 && std::abs(box.ury - box.lly) > 0)) // also for NaN
+    throw PdfTrouble(PdfTrouble::Kind::Damaged, "a page has no size");
+}
+
+/// Like the last page, but empty.
+void addBlankPage(QPDF &pdf, QPDFPageObjectHelper &last) {
+  auto page = QPDFObjectHandle::newDictionary();
+  page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+  page.replaceKey("/Resources", QPDFObjectHandle::newDictionary());
+  for (const char *const name : {"/MediaBox", "/Rotate", "/UserUnit"})
+    if (QPDFObjectHandle value = last.getAttribute(name, true); !value.isNull())
+      page.replaceKey(name, value.shallowCopy());
+  QPDFPageDocumentHelper(pdf).addPage(pdf.makeIndirectObject(page), false);
+}
+
+class Reporter : public QPDFWriter::ProgressReporter {
+public:
+  explicit Reporter(const ShiftProgress &progress) : progress_(progress) {}
+  void reportProgress(int percent) override { progress_(percent); }
+
+private:
+  ShiftProgress progress_;
+};
+
+void write(QPDF &pdf, const Descriptor &to, const ShiftProgress &progress) {
+  const auto stream = streamOf(to, "wb");
+  QPDFWriter writer(pdf);
+  writer.setOutputFile("result", stream.get(), false);
+  writer.setStreamDataMode(qpdf_s_preserve);
+  if (progress)
+    writer.registerProgressReporter(std::make_shared<Reporter>(progress));
+  writer.write();
+  if (std::fflush(stream.get()) != 0)
+    throw PdfTrouble(PdfTrouble::Kind::Unwritable, "the disk is full");
+}
+
+} // namespace
+
+std::size_t shiftPages(const Descriptor &from, const Descriptor &to, const ShiftPlan &plan,
+                       const ShiftProgress &progress) try {
+  const auto stream = streamOf(from, "rb"); // outlives `pdf`
+  QPDF pdf;
+  open(pdf, stream.get());
+  if (!plan.isMovedAgain && !markIn(pdf).isNull())
+    throw PdfTrouble(PdfTrouble::Kind::MovedBefore, "the image was moved before");
+  auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
+  if (pages.empty())
+    throw PdfTrouble(PdfTrouble::Kind::Damaged, "there are no pages");
+  PageMover mover(pdf);
+  for (std::size_t i = 0; i < pages.size(); i++) {
+    requireSize(pages[i]);
+    mover.move(pages[i], plan.offsetOf(sideOf(plan.order, i)));
+  }
+  const bool isPadded = plan.isPadded && pages.size() % 2 != 0;
+  if (isPadded)
+    addBlankPage(pdf, pages.back());
+  mark(pdf, plan);
+  write(pdf, to, progress);
+  return pages.size() + (isPadded ? 1 : 0);
+} catch (const QPDFExc &error) {
+  failFor(error);
+}
+
+bool isShifted(const Descriptor &file) try {
+  const auto stream = streamOf(file, "rb");
+  QPDF pdf;
+  open(pdf, stream.get());
+  return !markIn(pdf).isNull();
+} catch (const QPDFExc &error) {
+  failFor(error);
+}
+
+} // namespace imageposition
