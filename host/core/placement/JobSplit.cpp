@@ -123,11 +123,17 @@ JobSplit splitJob(const JobRequest &job, ppd_file_t *ppd, const std::string &not
   split.printing.settings = all;
   neutralize(split.printing.settings, job.defaults);
   turnBooklet(split.printing.settings, all.get("booklet"), ppd);
-  for (const std::string &offset : kOffsets)
-    split.printing.settings.remove(offset);
+  removeOffsets(split.printing);
   split.printing.settings.set(IPA_KEY_ENABLE, IPA_VALUE_FALSE);
   split.printing.settings.set(kShiftNote, note);
   return split;
+}
+
+void removeOffsets(JobRequest &job) {
+  for (const std::string &offset : kOffsets) {
+    job.settings.remove(offset);
+    job.defaults.remove(offset);
+  }
 }
 
 std::string shiftNote(const ShiftPlan &plan) {

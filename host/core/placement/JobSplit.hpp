@@ -29,6 +29,9 @@ struct JobSplit {
 /// Throws what `optionsToSend` throws.
 JobSplit splitJob(const JobRequest &job, ppd_file_t *ppd, const std::string &note);
 
+/// Removes the offsets from the job's settings and defaults, so that nothing moves its image.
+void removeOffsets(JobRequest &job);
+
 /// The value of `kShiftNote`: "front 2.5 -1 back 0 0", in millimetres to the right and downwards.
 std::string shiftNote(const ShiftPlan &plan);
 

@@ -163,8 +163,7 @@ ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd) {
 
 ShiftedJob::ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t *ppd,
                        std::string description)
-    : split_(splitJob(job, ppd, shiftNote(plan))), plan_(plan),
-      description_(std::move(description)) {
+    : split_(splitJob(job, ppd, shiftNote(plan))), plan_(plan), ppd_(std::move(description)) {
   const char *const format = split_.layout.get("document-format");
   if (isTrue(split_.layout.get("raw")) || (format != nullptr && isSame(format, kRawFormat)))
     throw ShiftFailure(MoveProblem::NoConversion,
@@ -182,6 +181,10 @@ ShiftedJob::ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t 
   task_.options = filterOptions(split_.layout);
   task_.title = job.title;
   task_.user = cupsUser();
+}
+
+std::string ShiftedJob::description() const {
+  return messages::movedHere(messages::sentences(describeOffsets(plan_.front, plan_.back)));
 }
 
 PreparedJob ShiftedJob::move(const JobDocuments &documents,
@@ -203,7 +206,7 @@ PreparedJob ShiftedJob::move(const JobDocuments &documents,
     task.path = pathForType(documents[i]);
     const std::string name = documentName(documents[i]);
     const Descriptor document = opened(documents[i], [&] { return report(0); });
-    auto moved = moveDocument(task, document, name, description_, report);
+    auto moved = moveDocument(task, document, name, ppd_, report);
     if (!moved)
       failCancelled();
     prepared.request.documentNames.push_back(name);

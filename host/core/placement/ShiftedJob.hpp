@@ -43,6 +43,8 @@ public:
   ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t *ppd,
              std::string description);
 
+  /// Says that the image is moved here, and by how much.
+  std::string description() const;
   /// What is sent with the moved documents.
   const JobRequest &request() const noexcept { return split_.printing; }
 
@@ -53,7 +55,7 @@ public:
 private:
   JobSplit split_;
   ShiftPlan plan_;
-  std::string description_;
+  std::string ppd_;
   MoverTask task_;
 };
 
