@@ -95,8 +95,16 @@ public:
     QPDFObjectHandle unit = page.getAttribute("/UserUnit", false);
     const Translation by = translationOf(offset, rotation.isInteger() ? rotation.getIntValue() : 0,
                                          unit.isNumber() ? unit.getNumericValue() : 1);
-    page.addPageContents(before(by), true);
-    page.addPageContents(after(), false);
+    // QPDF's addPageContents formats a description of each stream, twice a page.
+    QPDFObjectHandle contents = page.getObjectHandle().getKey("/Contents");
+    std::vector<QPDFObjectHandle> streams{before(by)};
+    if (contents.isArray())
+      for (QPDFObjectHandle &stream : contents.getArrayAsVector())
+        streams.push_back(stream);
+    else if (contents.isStream())
+      streams.push_back(contents);
+    streams.push_back(after());
+    page.getObjectHandle().replaceKey("/Contents", QPDFObjectHandle::newArray(streams));
   }
 
 private:

@@ -238,7 +238,7 @@ TEST_F(MovedJob, SaysInADryRunThatItIsMovedHere) {
       result.errors,
       HasSubstr("The image is moved here, before the job is sent. The front moves 2.5 mm to "
                 "the right and 0.7 mm up. The back moves 3 mm to the left and 1.4 mm down"));
-  EXPECT_THAT(result.output, HasSubstr("page-set (keyword) = all"));
+  EXPECT_THAT(result.output, HasSubstr("page-set (nameWithoutLanguage) = all"));
   EXPECT_THAT(result.output, Not(HasSubstr("LeftRightMargin")));
   const auto unmoved = print("office", {"--dry-run", "--no-shift"}, {numbered(1)});
   EXPECT_THAT(unmoved.errors, Not(HasSubstr("moved here")));
