@@ -2,6 +2,7 @@
 
 #include "DocumentNames.hpp"
 #include "DocumentStream.hpp"
+#include "ImageShiftText.hpp"
 #include "JobTexts.hpp"
 #include "PanelValues.hpp"
 #include "Phrases.hpp"
@@ -142,7 +143,7 @@ bool isReversed(const PrintSettingsStore &options, ppd_file_t *ppd) {
 ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd) {
   ShiftDecision decision;
   const char *const support = attribute(ppd, IPA_ATTRIBUTE_SUPPORT);
-  if (support != nullptr && std::strcmp(support, "true") == 0) {
+  if (support != nullptr && std::strcmp(support, "true") == 0 && !isImageShiftAdded(ppd)) {
     decision.by = ShiftedBy::Printer;
     return decision;
   }
