@@ -5,14 +5,12 @@
 #include "LayoutCheck.hpp"
 #include "MoverTask.hpp"
 #include "ShiftedPdf.hpp"
-#include "Strings.hpp"
 #include "TemporaryData.hpp"
 
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
-#include <filesystem>
 #include <functional>
 #include <string_view>
 #include <system_error>
@@ -141,15 +139,6 @@ MoverReport layOutAndShift(const MoverTask &task, Children &children) {
   return isUnusable ? diagnosis(children, document, report.detail) : report;
 }
 
-/// The folder that the dialog made for this process and the filters. The dialog deletes it, too,
-/// unless it was killed.
-void deleteTemporaryFolder() {
-  const char *const path = std::getenv("TMPDIR");
-  std::error_code ignored;
-  if (path != nullptr && startsWith(std::filesystem::path(path).filename().string(), kPlacePrefix))
-    std::filesystem::remove_all(path, ignored);
-}
-
 } // namespace
 
 int main(int argc, char **argv) {
@@ -157,13 +146,15 @@ int main(int argc, char **argv) {
   if (!task)
     return 2;
   std::signal(SIGPIPE, SIG_IGN); // the dialog may end at any moment
-  int status = 0;
   try {
-    Children children(STDIN_FILENO);
-    tell(STDOUT_FILENO, reportOn([&] { return layOutAndShift(*task, children); }));
+    tell(STDOUT_FILENO, reportOn([&] {
+           const char *const folder = std::getenv("TMPDIR");
+           const TemporaryPlace place(folder != nullptr ? folder : unusedPlace());
+           Children children(STDIN_FILENO);
+           return layOutAndShift(*task, children);
+         }));
   } catch (const Abandoned &) {
-    status = 1;
+    return 1;
   }
-  deleteTemporaryFolder();
-  return status;
+  return 0;
 }

@@ -86,7 +86,7 @@ public:
       : lifeline_(newPipe()), reports_(newPipe()) {
     std::vector<std::string> words = wordsOf(task);
     words.insert(words.begin(), program);
-    start(program, words, environmentIn(place_.path()), files);
+    start(program, words, environmentIn(place_), files);
     lifeline_[0] = Descriptor(-1);
     reports_[1] = Descriptor(-1);
   }
@@ -99,6 +99,7 @@ public:
         kill(process_, SIGKILL);
       poll(nullptr, 0, 1);
     }
+    deletePlace(place_); // in case it was killed
   }
   Run(const Run &) = delete;
   Run &operator=(const Run &) = delete;
@@ -156,7 +157,7 @@ private:
       throw std::system_error(error, std::generic_category());
   }
 
-  const TemporaryPlace place_; // of the filters
+  const std::string place_ = unusedPlace(); // which the mover makes for the filters
   std::array<Descriptor, 2> lifeline_, reports_;
   std::string text_;
   pid_t process_ = -1;
