@@ -266,6 +266,32 @@ void expectMovedBox(const std::array<double, 4> &from, const std::array<double, 
                 tolerance);
 }
 
+TEST_F(MovedJob, ConvertsDocumentsAsLpDoes) {
+  std::string picture = "P3\n40 20\n255\n";
+  for (int pixel = 0; pixel < 40 * 20; pixel++)
+    picture += "200 0 0\n";
+  const std::string documents[] = {
+      folder_.write("picture.ppm", picture),
+      folder_.write("text.txt", "Dear Sir or Madam\n\fYours faithfully\n"),
+      folder_.write("drawing.ps", "%!PS-Adobe-3.0\n%%Pages: 2\n%%EndComments\n%%Page: 1 1\n72 144 "
+                                  "100 50 rectfill showpage\n%%Page: 2 2\n82 144 100 50 rectfill "
+                                  "showpage\n%%EOF\n")};
+  for (const std::string &document : documents)
+    for (const Words &options :
+         {Words{}, Words{"-o", "number-up=2"}, Words{"-o", "scaling=50"}, Words{"-o", "landscape"},
+          Words{"-o", "fit-to-page"}, Words{"-o", "position=top-left", "-o", "ppi=100"}}) {
+      SCOPED_TRACE(document + testing::PrintToString(options));
+      const auto ours = print("office", options, {document});
+      ASSERT_EQ(ours.status, 0) << testing::PrintToString(ours);
+      const auto moved = boxesInPostScript(kept->contentOf(ours)); // Ghostscript reads PDF, too
+      const auto direct = boxesInPostScript(kept->contentOf(lp("office", options, {document})));
+      ASSERT_FALSE(direct.empty()) << kept->cups().log();
+      ASSERT_EQ(moved.size(), direct.size());
+      for (std::size_t i = 0; i < direct.size(); i++)
+        expectMovedBox(direct[i], moved[i], i % 2 == 0 ? kFront : kBack, 0.3); // hints move text
+    }
+}
+
 TEST_F(MovedJob, ArrivesThroughDriversOfOtherKinds) {
   const struct {
     const char *queue;
