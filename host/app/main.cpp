@@ -1,5 +1,5 @@
 #include "CommandLine.hpp"
-#include "ExitStatus.hpp"
+#include "FailureReport.hpp"
 #include "GnustepModule.hpp"
 #include "Language.hpp"
 #include "OptionConflicts.hpp"

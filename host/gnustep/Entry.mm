@@ -6,7 +6,7 @@
 #include "Destinations.hpp"
 #import "DialogWindow.h"
 #include "EntryTexts.hpp"
-#include "ExitStatus.hpp"
+#include "FailureReport.hpp"
 #include "JobSubmission.hpp"
 #import "OpenPrinter.h"
 #include "Phrases.hpp"
@@ -19,7 +19,6 @@
 #include "Ticket.hpp"
 
 #include <csignal>
-#include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -78,13 +77,6 @@ ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer, const His
     job.remember(window);
   requireOutputUnlessSent(job);
   return ExitCode::Done;
-}
-
-/// The last job's printer, unless the user names one.
-std::string rememberedQueue(const Arguments &arguments, const History &history) {
-  const bool isNamed = !arguments.queue.empty() || !arguments.ppd.empty() ||
-                       std::getenv("LPDEST") != nullptr || std::getenv("PRINTER") != nullptr;
-  return isNamed ? "" : history.printer();
 }
 
 /// The printer is being opened while the application starts.

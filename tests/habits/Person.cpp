@@ -2,6 +2,7 @@
 
 #include "Contrast.hpp"
 #include "FileDrag.hpp"
+#include "Focus.hpp"
 #include "FocusedWindow.hpp"
 #include "Waiting.hpp"
 
@@ -248,10 +249,10 @@ void Person::seeOnTop(const std::string &title) {
     throw StepFailure(title + " is not on top, but " + top());
 }
 
-void Person::seeJobs(int count) {
+void Person::seeJobs(int count, const std::string &which) {
   std::string jobs;
   const auto counted = [&] {
-    jobs = run({"lpstat", "-W", "all", "-o"});
+    jobs = run({"lpstat", "-W", which, "-o"});
     return std::count(jobs.begin(), jobs.end(), '\n') == count;
   };
   if (!becomesTrue(counted))
@@ -400,9 +401,18 @@ std::vector<Sentence> Person::sentences() {
                                 }) == number(v[0]);
          });
        }},
+      {"see the focus after each of # presses of Tab",
+       [=](const StepValues &v) {
+         const std::string missing = looksWithoutFocus(number(v[0]), [&] {
+           xdotool({"key", "Tab"});
+         });
+         if (!missing.empty())
+           throw StepFailure("the user cannot see the focus\n" + missing);
+       }},
       {"see every text with enough contrast", [=](const StepValues &) { seeTexts(); }},
       {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
-      {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
+      {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0]), "all"); }},
+      {"see # jobs waiting", [=](const StepValues &v) { seeJobs(number(v[0]), "not-completed"); }},
       {"it writes \"*\"",
        [=](const StepValues &v) {
          if (dialog_->wait().output.find(v[0]) == std::string::npos)

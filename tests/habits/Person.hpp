@@ -49,7 +49,7 @@ private:
   void seeInSight(const Control &control);
   void seeTexts();
   void seeOnTop(const std::string &title);
-  void seeJobs(int count);
+  void seeJobs(int count, const std::string &which);
   std::string described() const;
 
   TemporaryFolder folder_;

@@ -50,6 +50,9 @@ std::string jobLeftBehind(const std::string &message, const std::string &queue, 
 std::string jobTakenBack(const std::string &message, const std::string &queue, int job);
 /// For a job that CUPS received completely and may have started to print.
 std::string jobCancelled(const std::string &queue, int job);
+/// A waiting job that the user cancelled, or could not.
+std::string waitingJobCancelled(const std::string &queue, int job);
+std::string jobNotCancelled(const std::string &queue, int job, const std::string &reason);
 extern const Text kStandardInput;
 std::string waitsForPrinter(const std::string &queue, const std::string &state);
 std::string waitsForRelease(const std::string &queue, int job, const std::string &until);

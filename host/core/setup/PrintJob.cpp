@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <optional>
@@ -30,13 +31,24 @@ namespace imageposition {
 
 namespace {
 
+/// Null if the environment names no printer. libcups ignores the name "lp" in PRINTER.
+const char *printerOfEnvironment() {
+  const char *const first = std::getenv("LPDEST");
+  const char *const second = std::getenv("PRINTER");
+  return first != nullptr || second == nullptr || std::strcmp(second, "lp") == 0 ? first : second;
+}
+
 /// The user's default, or the server's if the user has none.
 std::string defaultQueue() {
   SilenceLimit silence;
   const auto connection = connectForPrinter(silence);
   const CupsDestination destination(cupsGetNamedDest(connection->http(), nullptr, nullptr));
-  if (!destination)
-    throw PrinterFailure(messages::kNoDefaultPrinter, messages::kNamePrinter);
+  if (!destination) {
+    const char *const named = printerOfEnvironment();
+    throw PrinterFailure(named != nullptr ? messages::noPrinterOfEnvironment(named)
+                                          : messages::kNoDefaultPrinter.str(),
+                         messages::kNamePrinter);
+  }
   return QueueName{destination->name, destination->instance != nullptr ? destination->instance : ""}
       .text();
 }
@@ -120,12 +132,27 @@ std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
   return fitSetting(ppd, setting.name, setting.value, true).value;
 }
 
+bool isOff(const char *value) {
+  return std::strcmp(value, "0") == 0 || std::strcmp(value, "False") == 0;
+}
+
+/// Whether a setting is not the printer's default. Panels add settings that are off or zero.
+bool hasUnusual(const PrintSettingsStore &settings, PrinterDescription &printer) {
+  const auto &defaults = printer.defaultChoices();
+  for (int i = 0; i < settings.optionCount(); i++) {
+    const cups_option_t &option = settings.options()[i];
+    const auto usual = defaults.find(option.name);
+    if (usual != defaults.end() ? usual->second != option.value : !isOff(option.value))
+      return true;
+  }
+  return false;
+}
+
 /// Whether the setting is as it was at the start. Panels add settings that are off or zero.
 bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now, const char *name) {
   const char *const value = now.get(name);
   const bool isAdded = start.get(name) == nullptr && value != nullptr;
-  return isSameIn(start, now, name) ||
-         (isAdded && (std::strcmp(value, "0") == 0 || std::strcmp(value, "False") == 0));
+  return isSameIn(start, now, name) || (isAdded && isOff(value));
 }
 
 } // namespace
@@ -141,6 +168,12 @@ OpenedPrinter openQueue(const std::string &wanted) {
   return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue))};
 }
 
+std::string rememberedQueue(const Arguments &arguments, const History &history) {
+  const bool isNamed =
+      !arguments.queue.empty() || !arguments.ppd.empty() || printerOfEnvironment() != nullptr;
+  return isNamed ? "" : history.printer();
+}
+
 PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history)
     : arguments_(arguments), queue_(std::move(first.queue)), printer_(std::move(first.printer)),
       history_(std::move(history)), preset_(startOf(*printer_)),
@@ -153,6 +186,9 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
   atStart_ = ticket_.settings;
+  const std::string remembered = rememberedQueue(arguments, history_);
+  if (remembered != QueueName::parse(queue_).printer)
+    missingPrinter_ = remembered;
 }
 
 /// Of the preset that the queue or the history names, or of the last job. A preset is an instance
@@ -165,8 +201,11 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
     return {};
   if (presetName_.empty()) {
     const std::string usual = history_.preset(name.printer);
-    if (usual.empty() || !contains(presets.names(), usual))
-      return {fitted(history_.settings(name.printer), printer.ppd()), {}};
+    if (usual.empty() || !contains(presets.names(), usual)) {
+      LoadedPreset last{fitted(history_.settings(name.printer), printer.ppd()), {}};
+      isFromLastJob_ = hasUnusual(last.settings, *printer_);
+      return last;
+    }
     presetName_ = usual;
   }
   LoadedPreset preset = presets.load(presetName_, printer);

@@ -32,6 +32,10 @@ OpenedPrinter openPrinter(const Arguments &arguments);
 /// The same for the printer of a queue; if the name is empty, of the default queue.
 OpenedPrinter openQueue(const std::string &queue);
 
+/// The queue of the last job, with which the window begins; empty if there is none, or if the
+/// command line or the environment names a printer.
+std::string rememberedQueue(const Arguments &arguments, const History &history);
+
 /// Main thread only.
 class PrintJob {
 public:
@@ -68,6 +72,11 @@ public:
   /// Throws a `Failure` with `ExitCode::Value` if the command line gives one of these options a
   /// value that is not a number, or one that is out of the printer's range.
   void requireNumbers(const std::vector<std::string> &keywords) const;
+
+  /// Whether the job began with settings of the last job that are not the printer's defaults.
+  bool isFromLastJob() const noexcept { return isFromLastJob_; }
+  /// The last job's printer, if the job should have begun with it and did not; otherwise empty.
+  const std::string &missingPrinter() const noexcept { return missingPrinter_; }
 
   /// The settings with which the job began, without those of the first queue's preset.
   const PrintSettingsStore &settingsWithoutPreset() const noexcept { return withoutPreset_; }
@@ -135,6 +144,7 @@ private:
   std::unique_ptr<PrinterDescription> printer_;
   History history_;
   std::string presetName_;
+  bool isFromLastJob_ = false;
   LoadedPreset preset_; // of the first queue
   Ticket ticket_;
   PrintSettingsStore atStart_;
@@ -142,6 +152,7 @@ private:
   std::vector<std::string> documents_; // to print; empty if standard input is implied
   bool isSubmitted_;
   bool isTicketChosen_ = false;
+  std::string missingPrinter_;
   std::string sentName_;
   std::string done_;
 };

@@ -11,6 +11,7 @@
 #include "Phrases.hpp"
 #import "Pool.h"
 #include "QuestionTexts.hpp"
+#include "QueueName.hpp"
 #import "RunLoopWake.h"
 #import "TextBridge.h"
 #import "WindowFocus.h"
@@ -41,6 +42,15 @@ std::string problemWith(const JobDocuments &documents) {
   } catch (const SubmissionFailure &failure) {
     return failure.what();
   }
+}
+
+/// In what the job begins otherwise than a first one would; may be empty.
+std::string startNote(const PrintJob &job) {
+  const std::string printer = QueueName::parse(job.queue()).printer;
+  const std::string &missing = job.missingPrinter();
+  return messages::sentences(
+      {missing.empty() ? "" : messages::otherThanLastPrinter(missing, printer),
+       job.isFromLastJob() ? messages::numbersNow(NumbersNow::Remembered, printer) : ""});
 }
 
 } // namespace
@@ -359,8 +369,9 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-/// What is the matter with the documents, what is missing in the window, and which of the preset's
-/// settings the printer does not accept, which standard error has already.
+/// What is the matter with the documents, what is missing in the window, which of the preset's
+/// settings the printer does not accept, which standard error has already, and what came back from
+/// the last job.
 - (void)sayTroubles {
   PanelSession &panels = state->session->panels();
   const auto &misfits = state->session->job().misfits();
@@ -369,8 +380,10 @@ struct imageposition::PrintDialogState {
     troubles = problem;
   if (!troubles.empty())
     [self say:troubles];
-  if (!misfits.empty())
-    [self show:messages::sentences({troubles, messages::sentences(misfits)})];
+  std::string start = messages::sentences(
+      {troubles, messages::sentences(misfits), startNote(state->session->job())});
+  if (start != troubles)
+    [self show:start];
 }
 
 - (void)show {
@@ -389,10 +402,9 @@ struct imageposition::PrintDialogState {
   [self show];
   const NSInteger answer = [NSApp runModalForWindow:window];
   [help hide];
-  if (const std::string note = [sending note]; !note.empty()) // desktops hide standard error
-    showNote(window, messages::kJobWaits, note);
+  const BOOL isKept = [sending keepWaitingJob]; // desktops hide standard error
   [window orderOut:nil];
-  return answer == NSOKButton;
+  return answer == NSOKButton && isKept;
 }
 
 @end
