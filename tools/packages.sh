@@ -35,6 +35,7 @@ test_packages=(
   python3-dbus python3-gi                           # a service discovery that announces nothing
   libpam-wrapper                                    # users and passwords for the private CUPS
   cups-filters hp-ppd foomatic-db-compressed-ppds   # PPDs of real printers
+  cups                                              # which filters lay a document out
 )
 
 comparison_packages=(

@@ -21,4 +21,12 @@ bool isTrustedPart(const std::string &path) {
   return isOwned && (S_ISLNK(part.st_mode) || (part.st_mode & S_IWOTH) == 0);
 }
 
+std::string trustedPart(const std::vector<std::string> &paths) {
+  std::error_code ignored;
+  for (const std::string &path : paths)
+    if (!path.empty() && std::filesystem::exists(path, ignored) && isTrustedPart(path))
+      return path;
+  return {};
+}
+
 } // namespace imageposition

@@ -3,6 +3,7 @@
 #define IMAGEPOSITION_CORE_BASE_PROGRAMFOLDER_HPP
 
 #include <string>
+#include <vector>
 
 namespace imageposition {
 
@@ -14,6 +15,9 @@ std::string besideProgram(const std::string &name);
 /// there, for example next to a program in /tmp. Group permissions are ignored: a group that can
 /// replace the part can replace the program, too.
 bool isTrustedPart(const std::string &path);
+
+/// The first of the paths that exists and is a trusted part; empty if there is none.
+std::string trustedPart(const std::vector<std::string> &paths);
 
 } // namespace imageposition
 

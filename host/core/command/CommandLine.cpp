@@ -114,6 +114,7 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
   app.add_flag("-c", messages::kHelpCopy);
   app.add_flag("--list-options", arguments.isListingOptions, messages::kHelpListOptions);
   app.add_flag("--dry-run", arguments.isDryRun, messages::kHelpDryRun);
+  app.add_flag("--no-shift", arguments.isUnshifted, messages::kHelpNoShift);
   addRepeated<std::string>(
       app, "--plugin", [&arguments](const std::string &path) { arguments.plugins.push_back(path); },
       messages::kHelpPlugin)

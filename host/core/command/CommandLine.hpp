@@ -30,6 +30,7 @@ struct Arguments {
   bool isSilent = false;         ///< Report only errors.
   bool isListingOptions = false; ///< List the printer's options instead of printing.
   bool isDryRun = false;
+  bool isUnshifted = false; ///< Print without moving the image.
   bool isBatch = false;
   BatchRequest batch;
 };

@@ -31,6 +31,7 @@ const char *const kHelpListOptions = "Print nothing: list the printer's options 
                                      "choices, a star before what the job has; what it\n"
                                      "cannot combine is told on standard error";
 const char *const kHelpDryRun = "Print nothing: write what CUPS would be sent";
+const char *const kHelpNoShift = "Print the job without moving its image, whatever the offsets";
 const char *const kHelpPlugin = "Use this plug-in and no other; may be repeated.\n"
                                 "Without it: those with the file names that the printer's\n"
                                 "description has (APDialogExtension), or else all; beside\n"

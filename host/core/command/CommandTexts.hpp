@@ -27,6 +27,7 @@ extern const char *const kHelpSilent;
 extern const char *const kHelpCopy;
 extern const char *const kHelpListOptions;
 extern const char *const kHelpDryRun;
+extern const char *const kHelpNoShift;
 extern const char *const kHelpPlugin;
 extern const char *const kHelpTicket;
 extern const char *const kHelpDocument;

@@ -9,7 +9,6 @@
 #include <chrono>
 #include <csignal>
 #include <fcntl.h>
-#include <filesystem>
 #include <mutex>
 #include <poll.h>
 #include <spawn.h>
@@ -30,13 +29,8 @@ constexpr int kBetweenLooks = 50; // milliseconds
 constexpr std::size_t kLongestReport = 200;
 constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_EXAMINER;
 
-/// Empty if there is none that can be trusted.
 std::string examinerProgram() {
-  std::error_code ignored;
-  for (const std::string &path : {besideProgram(IMAGEPOSITION_EXAMINER), besideProgram(kInstalled)})
-    if (!path.empty() && std::filesystem::exists(path, ignored) && isTrustedPart(path))
-      return path;
-  return {};
+  return trustedPart({besideProgram(IMAGEPOSITION_EXAMINER), besideProgram(kInstalled)});
 }
 
 /// A process with its standard output.

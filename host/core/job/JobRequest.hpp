@@ -19,6 +19,8 @@ struct JobRequest {
   std::vector<std::string> secrets;
   /// PPD options whose values can have several parts, "{Width=3 Colour=red}". See `newJobRequest`.
   std::vector<std::string> compounds;
+  /// What CUPS and messages call the documents, in their order; empty to name them by their paths.
+  std::vector<std::string> documentNames;
 };
 
 /// Returns all options of the job: the destination's defaults, overridden by the job's settings. A

@@ -45,9 +45,11 @@ constexpr auto kRemovalTime = std::chrono::seconds(5); // the same, at the end o
 /// Shared by the submission, the thread that submits and the thread that watches it.
 class SubmissionWork {
 public:
-  SubmissionWork(JobRequest request, JobDocuments documents, JobSubmission::Changed changed)
+  SubmissionWork(JobRequest request, JobDocuments documents, JobSubmission::Changed changed,
+                 JobPreparation prepare)
       : request_(std::move(request)), documents_(std::move(documents)),
-        changed_(std::move(changed)), ended_(eventfd(0, EFD_CLOEXEC)) {}
+        changed_(std::move(changed)), prepare_(std::move(prepare)),
+        ended_(eventfd(0, EFD_CLOEXEC)) {}
 
   /// The two threads.
   void submit();
@@ -74,6 +76,7 @@ private:
   const JobRequest request_;
   const JobDocuments documents_;
   const JobSubmission::Changed changed_; // may be null
+  const JobPreparation prepare_;         // may be null
   const Descriptor ended_;               // readable once `submit` has ended
   std::promise<SubmittedJob> promise_;
   const std::shared_future<SubmittedJob> outcome_ = promise_.get_future().share();
@@ -176,9 +179,10 @@ void SubmissionWork::submit() {
   if (changed_)
     password = [this](const PasswordRequest &asked) { return ask(asked); };
   try {
-    const SubmittedJob job = submitJob(
-        request_, documents_, [this](const JobProgress &reached) { return take(reached); },
-        password);
+    const auto progress = [this](const JobProgress &reached) { return take(reached); };
+    const PreparedJob prepared =
+        prepare_ ? prepare_(documents_, progress) : PreparedJob{request_, documents_, {}};
+    const SubmittedJob job = submitJob(prepared.request, prepared.documents, progress, password);
     settle([&] { promise_.set_value(job); });
   } catch (...) {
     settle(std::current_exception());
@@ -269,9 +273,10 @@ bool SubmissionWork::isSilentFor(Clock::duration time) const {
   return !question_ && Clock::now() - lastSign_ >= time;
 }
 
-JobSubmission::JobSubmission(JobRequest request, JobDocuments documents, Changed changed)
+JobSubmission::JobSubmission(JobRequest request, JobDocuments documents, Changed changed,
+                             JobPreparation prepare)
     : work_(std::make_shared<SubmissionWork>(std::move(request), std::move(documents),
-                                             std::move(changed))) {
+                                             std::move(changed), std::move(prepare))) {
   const auto work = work_;
   const auto running = std::make_shared<RunningCall>();
   endWithProcess(work);

@@ -27,9 +27,10 @@ public:
   /// destroyed.
   using Changed = std::function<void()>;
 
-  /// Starts at once. Without `changed`, a job that requires a password fails. Throws a
-  /// `SubmissionFailure` if no thread can be created.
-  JobSubmission(JobRequest request, JobDocuments documents, Changed changed = {});
+  /// Starts at once. Without `changed`, a job that requires a password fails. With `prepare`, sends
+  /// what that makes of the documents. Throws a `SubmissionFailure` if no thread can be created.
+  JobSubmission(JobRequest request, JobDocuments documents, Changed changed = {},
+                JobPreparation prepare = {});
   /// Cancels the submission.
   ~JobSubmission();
   JobSubmission(const JobSubmission &) = delete;
@@ -46,7 +47,7 @@ public:
   std::optional<PasswordRequest> question() const;
   /// Pass nullopt to give up.
   void answer(std::optional<Credentials> credentials);
-  /// Waits for the end; throws what `submitJob` threw.
+  /// Waits for the end; throws what `submitJob` or the preparation threw.
   SubmittedJob result();
 
 private:

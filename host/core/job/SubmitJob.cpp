@@ -113,6 +113,7 @@ private:
   void sendDocument(DocumentStream &document, std::string_view chunk, bool isLast);
   void startDocument(bool isLast);
   void finishDocument();
+  std::string nameOfDocument(std::size_t index, const std::string &path) const;
   const char *format() const;
   void sendChunk(std::string_view chunk);
   std::string_view nextChunk(DocumentStream &document);
@@ -125,6 +126,7 @@ private:
   const PrintSettingsStore options_;
   const ProgressCallback &progress_;
   std::string documentPath_; // of the current document
+  std::string documentName_; // for CUPS
   JobProgress state_;
   Clock::time_point lastResponse_ = Clock::now();
   bool isCancelled_ = false;
@@ -245,6 +247,10 @@ std::string_view Submission::firstChunk(DocumentStream &document) {
   return chunk;
 }
 
+std::string Submission::nameOfDocument(std::size_t index, const std::string &path) const {
+  return index < request_.documentNames.size() ? request_.documentNames[index] : documentName(path);
+}
+
 const char *Submission::format() const {
   if (options_.get("raw") != nullptr)
     return CUPS_FORMAT_RAW;
@@ -254,7 +260,7 @@ const char *Submission::format() const {
 
 void Submission::startDocument(bool isLast) {
   if (cupsStartDestDocument(connection_->http(), printer_.get(), info_.get(), job_,
-                            documentName(documentPath_).c_str(), format(), 0, nullptr,
+                            documentName_.c_str(), format(), 0, nullptr,
                             isLast ? 1 : 0) != HTTP_STATUS_CONTINUE)
     failWithCupsError();
 }
@@ -293,8 +299,10 @@ void Submission::sendDocument(DocumentStream &document, std::string_view chunk, 
 
 /// Creates the job only after the first document has produced data.
 void Submission::sendDocuments(const JobDocuments &documents) {
-  for (const std::string &path : documents) {
+  for (std::size_t i = 0; i < documents.size(); i++) {
+    const std::string &path = documents[i];
     documentPath_ = path;
+    documentName_ = nameOfDocument(i, path);
     DocumentStream document(path);
     const std::string_view chunk = firstChunk(document);
     if (job_ == 0) {
@@ -307,7 +315,7 @@ void Submission::sendDocuments(const JobDocuments &documents) {
       createJob();
       state_.job = job_;
     }
-    sendDocument(document, chunk, &path == &documents.back());
+    sendDocument(document, chunk, i + 1 == documents.size());
   }
 }
 

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -46,6 +47,8 @@ struct JobProgress {
   std::optional<std::uint64_t> total; ///< Bytes; unknown for a pipe.
   int job = 0;                        ///< CUPS's number; 0 before the job is created.
   bool isWaitingForCups = false;      ///< Rather than for the document.
+  /// While the documents are prepared, before anything is sent: how much of them is.
+  std::optional<int> preparedPercent;
 };
 
 /// The paths of the documents, at least one, in the order of printing; "-" for standard input.
@@ -63,6 +66,18 @@ std::optional<std::uint64_t> totalSize(const JobDocuments &documents);
 /// Called before each chunk, after the last one, and while waiting for CUPS or a pipe. Returns
 /// false to cancel. Must not throw.
 using ProgressCallback = std::function<bool(const JobProgress &)>;
+
+/// What is sent in place of a job's documents.
+struct PreparedJob {
+  JobRequest request;
+  JobDocuments documents;
+  std::shared_ptr<void> files; ///< Keeps the documents.
+};
+
+/// Makes the documents that are sent. Called on the thread that submits the job; calls the callback
+/// a few times each second. Throws a `Failure`; a `SubmissionFailure` if the callback has
+/// cancelled.
+using JobPreparation = std::function<PreparedJob(const JobDocuments &, const ProgressCallback &)>;
 
 /// Submits the job, and returns when CUPS has received all of it. Streams the documents in chunks.
 /// Calls both callbacks on the calling thread. Without a password callback, a job that requires a

@@ -12,8 +12,11 @@
 #include "VisibleText.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <ctime>
+#include <cups/file.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -58,6 +61,19 @@ PrintSettingsStore defaultsOf(http_t *http, const QueueName &queue) {
   for (int i = 0; i < destination->num_options; i++)
     defaults.set(destination->options[i].name, destination->options[i].value);
   return defaults;
+}
+
+/// Empty for a pipe, which can be read only once.
+std::string textOf(const std::string &path) {
+  std::string text;
+  if (kindOf(path) != S_IFREG)
+    return text;
+  const std::unique_ptr<cups_file_t, int (*)(cups_file_t *)> file(cupsFileOpen(path.c_str(), "r"),
+                                                                  cupsFileClose);
+  std::array<char, 65536> part{};
+  for (ssize_t count = 0; file && (count = cupsFileRead(file.get(), part.data(), part.size())) > 0;)
+    text.append(part.data(), static_cast<std::size_t>(count));
+  return text;
 }
 
 using Choices = std::map<std::string, std::string>;
@@ -110,6 +126,7 @@ PrinterDescription PrinterDescription::fromFile(const std::string &path) {
   auto ppd = open(path, path);
   const std::string name = nameFromPpd(*ppd, path);
   PrinterDescription printer(std::move(ppd), name);
+  printer.text_ = textOf(path);
   printer.localize(path, {});
   return printer;
 }
@@ -132,6 +149,7 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
   }
   const TemporaryFile owner(file);
   PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);
+  printer.text_ = textOf(file);
   printer.queueDefaults_ = defaultsOf(connection->http(), name);
   if (!name.instance.empty())
     printer.printerDefaults_ = defaultsOf(connection->http(), {name.printer, {}});

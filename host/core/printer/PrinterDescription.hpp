@@ -29,6 +29,9 @@ public:
   /// Never null; owned by this object.
   ppd_file_t *ppd() const noexcept { return ppd_.get(); }
 
+  /// The PPD itself, uncompressed. Empty if it was read from a pipe.
+  const std::string &text() const noexcept { return text_; }
+
   /// The queue's name, or the name that the PPD gives the printer.
   const std::string &name() const noexcept { return name_; }
 
@@ -64,6 +67,7 @@ private:
   static PpdFile open(const std::string &path, const std::string &shownPath);
 
   PpdFile ppd_;
+  std::string text_;
   std::string name_;
   PrintSettingsStore queueDefaults_;
   PrintSettingsStore printerDefaults_; ///< Those without the instance; empty if there is none.

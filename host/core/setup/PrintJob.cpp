@@ -12,6 +12,7 @@
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
+#include "ShiftedJob.hpp"
 #include "Strings.hpp"
 #include "ValueCheck.hpp"
 
@@ -365,7 +366,18 @@ JobRequest PrintJob::request(const DestinationList &destinations) const {
     request.defaults = destination->defaults;
     request.printerUri = destination->uri;
   }
+  if (arguments_.isUnshifted)
+    removeOffsets(request);
   return request;
+}
+
+/// Null unless the dialog moves the image.
+std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request) {
+  printer_->mark(ticket_.settings);
+  const ShiftDecision decision = decideShift(optionsToSend(request), printer_->ppd());
+  if (decision.by != ShiftedBy::Dialog)
+    return nullptr;
+  return std::make_unique<ShiftedJob>(request, decision.plan, printer_->ppd(), printer_->text());
 }
 
 std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinations,
@@ -379,12 +391,21 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     return nullptr;
   }
   JobRequest request = this->request(destinations);
+  const std::shared_ptr<const ShiftedJob> shifted = shiftedJob(request);
   if (arguments_.isDryRun) {
     totalSize(documentsToSend()); // fails where a submission would
-    std::cout << writeRequestText(request);
+    if (shifted)
+      std::cerr << shifted->description() << '\n';
+    std::cout << writeRequestText(shifted ? shifted->request() : request);
     return nullptr;
   }
-  return std::make_unique<JobSubmission>(std::move(request), documentsToSend(), std::move(changed));
+  JobPreparation prepare;
+  if (shifted)
+    prepare = [shifted](const JobDocuments &documents, const ProgressCallback &progress) {
+      return shifted->move(documents, progress);
+    };
+  return std::make_unique<JobSubmission>(std::move(request), documentsToSend(), std::move(changed),
+                                         std::move(prepare));
 }
 
 void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {

@@ -18,6 +18,8 @@
 
 namespace imageposition {
 
+class ShiftedJob;
+
 struct OpenedPrinter {
   std::string queue; ///< "queue" or "queue/instance"; empty for a description file.
   std::unique_ptr<PrinterDescription> printer; ///< Not null.
@@ -117,7 +119,8 @@ public:
   JobRequest request(const DestinationList &destinations) const;
 
   /// Prints: writes a ticket to `ticketPath` (or the settings to standard output, if the path is
-  /// empty), writes the request of a dry run to standard output, or starts to submit the job.
+  /// empty), writes the request of a dry run to standard output, or starts to submit the job. If
+  /// the printer's driver does not apply the offsets, the submission first moves the documents.
   /// Returns the submission, which the caller awaits and reports; null in the other cases. Throws a
   /// `Failure`.
   std::unique_ptr<JobSubmission> print(const DestinationList &destinations,
@@ -137,6 +140,7 @@ private:
   void keepWhatFits(const PrinterDescription &before);
   bool takeHistory();
   PrintSettingsStore settingsToRemember() const;
+  std::unique_ptr<ShiftedJob> shiftedJob(const JobRequest &request);
   void writeTicketTo(const std::string &path);
   std::vector<std::string> documentsToSend() const;
 

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 namespace imageposition {
 namespace {
@@ -154,22 +155,6 @@ std::string lostEdges(const SidePreview &side) {
 
 bool isZero(const Offset &offset) { return offset == Offset{}; }
 
-void describeShifts(const SidePreview &front, const SidePreview &back,
-                    std::vector<std::string> &sentences) {
-  if (isZero(front.offset) && isZero(back.offset)) {
-    sentences.emplace_back(messages::kPreviewNothingMoved);
-    return;
-  }
-  if (front.offset == back.offset) {
-    sentences.push_back(messages::previewBothMoved(directions(front.offset)));
-    return;
-  }
-  if (!isZero(front.offset))
-    sentences.push_back(messages::previewFrontMoved(directions(front.offset)));
-  if (!isZero(back.offset))
-    sentences.push_back(messages::previewBackMoved(directions(back.offset)));
-}
-
 } // namespace
 
 bool operator==(const Offset &a, const Offset &b) noexcept {
@@ -228,6 +213,19 @@ Preview makePreview(const PrintSettingsStore &job, ppd_file_t *ppd) {
   return makePreview(readPreviewRequest(job, ppd));
 }
 
+std::vector<std::string> describeOffsets(const Offset &front, const Offset &back) {
+  if (isZero(front) && isZero(back))
+    return {messages::kPreviewNothingMoved};
+  if (front == back)
+    return {messages::previewBothMoved(directions(front))};
+  std::vector<std::string> sentences;
+  if (!isZero(front))
+    sentences.push_back(messages::previewFrontMoved(directions(front)));
+  if (!isZero(back))
+    sentences.push_back(messages::previewBackMoved(directions(back)));
+  return sentences;
+}
+
 std::vector<std::string> describePreview(const Preview &preview) {
   std::vector<std::string> sentences;
   if (!preview.page.isSizeKnown)
@@ -238,7 +236,8 @@ std::vector<std::string> describePreview(const Preview &preview) {
     sentences.push_back(reasonText(preview.availability));
     return sentences;
   }
-  describeShifts(preview.front, *preview.back, sentences);
+  for (std::string &sentence : describeOffsets(preview.front.offset, preview.back->offset))
+    sentences.push_back(std::move(sentence));
   const Offset apart = backAgainstFront(preview);
   if (!isZero(apart))
     sentences.push_back(messages::previewBackAgainstFront(directions(apart)));

@@ -98,6 +98,9 @@ bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) noexcept;
 /// against the light. Zero for one-sided printing.
 Offset backAgainstFront(const Preview &preview);
 
+/// Says by how much each side moves, in sentences.
+std::vector<std::string> describeOffsets(const Offset &front, const Offset &back);
+
 /// Describes the picture, one sentence per element, for screen readers and the tool tip.
 std::vector<std::string> describePreview(const Preview &preview);
 

@@ -142,7 +142,7 @@ _print_dialog() {
   if _print_dialog_value "$previous" "$current"; then return; fi
   if [[ $current == -* ]]; then
     _print_dialog_offer "$current" --version --help --ppd -d --queue -h -E -U -o --option -n -P -q \
-      -H -t -m -s -c --list-options --dry-run --plugin --ticket --appearance --text-scale --batch --set --back \
+      -H -t -m -s -c --list-options --dry-run --no-shift --plugin --ticket --appearance --text-scale --batch --set --back \
       --summary
     return
   fi

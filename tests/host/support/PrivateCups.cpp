@@ -8,9 +8,10 @@
 
 namespace imageposition::test {
 
-PrivateCups::PrivateCups(const std::string &policies, std::vector<std::string> environment)
+PrivateCups::PrivateCups(const std::string &policies, std::vector<std::string> environment,
+                         const std::string &files)
     : environment_(std::move(environment)) {
-  writeConfiguration(policies);
+  writeConfiguration(policies, files);
   start();
 }
 
@@ -58,7 +59,7 @@ std::string PrivateCups::log() const {
   return contentOf(folder_.path("error_log")) + (server_ ? server_->errorsSoFar() : "");
 }
 
-void PrivateCups::writeConfiguration(const std::string &policies) const {
+void PrivateCups::writeConfiguration(const std::string &policies, const std::string &files) const {
   const std::string folder = folder_.path();
   folder_.write("cupsd.conf", "Listen " + socket() +
                                   "\n"
@@ -70,12 +71,12 @@ void PrivateCups::writeConfiguration(const std::string &policies) const {
                                   policies);
   // As root, cupsd requires another user for the programs that it runs.
   const std::string user = getuid() == 0 ? "User lp\nGroup lp\n" : "";
-  folder_.write("cups-files.conf", "ServerRoot " + folder + "\nRequestRoot " + folder +
-                                       "/spool\nCacheDir " + folder + "/cache\nStateDir " + folder +
-                                       "/state\nServerKeychain " + folder + "/ssl\nAccessLog " +
-                                       folder + "/access_log\nErrorLog " + folder +
-                                       "/error_log\nPageLog " + folder +
-                                       "/page_log\nFileDevice Yes\nSystemGroup root\n" + user);
+  folder_.write("cups-files.conf",
+                "ServerRoot " + folder + "\nRequestRoot " + folder + "/spool\nCacheDir " + folder +
+                    "/cache\nStateDir " + folder + "/state\nServerKeychain " + folder +
+                    "/ssl\nAccessLog " + folder + "/access_log\nErrorLog " + folder +
+                    "/error_log\nPageLog " + folder +
+                    "/page_log\nFileDevice Yes\nSystemGroup root\n" + user + files);
   for (const char *name : {"spool/tmp/x", "cache/x", "state/x", "ssl/x", "ppd/x", "home/x"})
     folder_.write(name, "");
 }

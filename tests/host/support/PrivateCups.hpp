@@ -15,9 +15,10 @@ namespace imageposition::test {
 /// destructor stops it.
 class PrivateCups {
 public:
-  /// `policies` are further lines of its cupsd.conf; `environment` modifies this process's
-  /// environment for it.
-  explicit PrivateCups(const std::string &policies = "", std::vector<std::string> environment = {});
+  /// `policies` are further lines of its cupsd.conf, `files` of its cups-files.conf; `environment`
+  /// modifies this process's environment for it.
+  explicit PrivateCups(const std::string &policies = "", std::vector<std::string> environment = {},
+                       const std::string &files = "");
 
   /// Whether it responded in time.
   bool isRunning() const noexcept { return isRunning_; }
@@ -50,7 +51,7 @@ public:
   std::string log() const;
 
 private:
-  void writeConfiguration(const std::string &policies) const;
+  void writeConfiguration(const std::string &policies, const std::string &files) const;
 
   TemporaryFolder folder_;
   const std::vector<std::string> environment_;

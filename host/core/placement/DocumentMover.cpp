@@ -1,0 +1,212 @@
+#include "DocumentMover.hpp"
+
+#include "PlacementTexts.hpp"
+#include "ProgramFolder.hpp"
+#include "TemporaryData.hpp"
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace imageposition {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kBetweenLooks = 50;                  // milliseconds
+constexpr std::chrono::milliseconds kEndTime{120}; // for the mover to clean up
+constexpr int kFirstHigh = 10;                     // above all descriptors with a meaning
+constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_MOVER;
+
+bool isProgram(const std::string &path) { return access(path.c_str(), X_OK) == 0; }
+
+std::string variable(const char *name) {
+  const char *const value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+/// The user's language; everything else in the environment is none of the filters' business.
+std::vector<std::string> environmentIn(const std::string &folder) {
+  std::vector<std::string> environment{"TMPDIR=" + folder, "PATH=/usr/bin:/usr/sbin:/bin:/sbin"};
+  for (const char *const name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+    if (const std::string language = variable(name); !language.empty()) {
+      environment.push_back("LANG=" + language);
+      break;
+    }
+  if (const std::string root = variable("CUPS_SERVERROOT"); !root.empty())
+    environment.push_back("CUPS_SERVERROOT=" + root);
+  return environment;
+}
+
+std::vector<char *> pointersTo(const std::vector<std::string> &strings) {
+  std::vector<char *> pointers;
+  for (const std::string &string : strings)
+    pointers.push_back(const_cast<char *>(string.c_str())); // posix_spawn does not modify them
+  pointers.push_back(nullptr);
+  return pointers;
+}
+
+/// Out of the way of the numbers that the mover's descriptors get.
+Descriptor highCopy(int descriptor) {
+  Descriptor copy(fcntl(descriptor, F_DUPFD_CLOEXEC, kFirstHigh));
+  if (!copy.isOpen())
+    throw std::system_error(errno, std::generic_category());
+  return copy;
+}
+
+std::array<Descriptor, 2> newPipe() {
+  std::array<int, 2> ends{};
+  if (pipe2(ends.data(), O_CLOEXEC) != 0)
+    throw std::system_error(errno, std::generic_category());
+  const Descriptor first(ends[0]), second(ends[1]);
+  return {highCopy(first.get()), highCopy(second.get())};
+}
+
+struct MoverFiles {
+  int document;
+  int description;
+  int result;
+};
+
+/// One run of the mover.
+class Run {
+public:
+  Run(const std::string &program, const MoverTask &task, const MoverFiles &files)
+      : lifeline_(newPipe()), reports_(newPipe()) {
+    std::vector<std::string> words = wordsOf(task);
+    words.insert(words.begin(), program);
+    start(program, words, environmentIn(place_), files);
+    lifeline_[0] = Descriptor(-1);
+    reports_[1] = Descriptor(-1);
+  }
+  /// The mover ends itself, and all that it has started, when the pipe is closed.
+  ~Run() {
+    lifeline_[1] = Descriptor(-1);
+    const auto end = Clock::now() + kEndTime;
+    while (waitpid(process_, nullptr, WNOHANG) == 0) {
+      if (Clock::now() >= end)
+        kill(process_, SIGKILL);
+      poll(nullptr, 0, 1);
+    }
+    deletePlace(place_); // in case it was killed
+  }
+  Run(const Run &) = delete;
+  Run &operator=(const Run &) = delete;
+
+  /// The last report; none if `progress` has cancelled.
+  std::optional<MoverReport> result(const MoveProgress &progress) {
+    int percent = 0;
+    while (progress(percent)) {
+      pollfd waiting{reports_[0].get(), POLLIN, 0};
+      if (poll(&waiting, 1, kBetweenLooks) <= 0)
+        continue;
+      std::array<char, 4096> part{};
+      const ssize_t count = read(reports_[0].get(), part.data(), part.size());
+      if (count <= 0)
+        return MoverReport{MoverReport::Kind::Failed, 0, MoveProblem::Fault, {}};
+      text_.append(part.data(), static_cast<std::size_t>(count));
+      for (std::size_t end = 0; (end = text_.find('\n')) != std::string::npos;) {
+        const auto report = readReport(std::string_view(text_).substr(0, end));
+        text_.erase(0, end + 1);
+        if (report && report->kind != MoverReport::Kind::Progress)
+          return report;
+        percent = report ? report->number : percent;
+      }
+    }
+    return std::nullopt;
+  }
+
+private:
+  void start(const std::string &program, const std::vector<std::string> &words,
+             const std::vector<std::string> &environment, const MoverFiles &files) {
+    const Descriptor document = highCopy(files.document);
+    const Descriptor description = highCopy(files.description);
+    const Descriptor result = highCopy(files.result);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, lifeline_[0].get(), STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, reports_[1].get(), STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, document.get(), kMoverDocument);
+    posix_spawn_file_actions_adddup2(&actions, description.get(), kMoverDescription);
+    posix_spawn_file_actions_adddup2(&actions, result.get(), kMoverResult);
+    posix_spawn_file_actions_addclosefrom_np(&actions, kMoverResult + 1);
+    posix_spawnattr_t attributes; // signals for this process's group are not the mover's
+    posix_spawnattr_init(&attributes);
+    sigset_t none;
+    sigemptyset(&none);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setpgroup(&attributes, 0);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP);
+    const int error = posix_spawn(&process_, program.c_str(), &actions, &attributes,
+                                  pointersTo(words).data(), pointersTo(environment).data());
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0)
+      throw std::system_error(error, std::generic_category());
+  }
+
+  const std::string place_ = unusedPlace(); // which the mover makes for the filters
+  std::array<Descriptor, 2> lifeline_, reports_;
+  std::string text_;
+  pid_t process_ = -1;
+};
+
+} // namespace
+
+std::optional<LayoutPrograms> layoutPrograms() {
+  LayoutPrograms programs;
+  for (const char *const folder : {"/usr/lib/cups/filter", "/usr/libexec/cups/filter",
+                                   "/usr/lib64/cups/filter", "/usr/local/lib/cups/filter"})
+    if (programs.filters.empty() && isProgram(std::string(folder) + "/pdftopdf"))
+      programs.filters = folder;
+  for (const char *const path :
+       {"/usr/sbin/cupsfilter", "/usr/bin/cupsfilter", "/usr/local/sbin/cupsfilter"})
+    if (programs.chooser.empty() && isProgram(path))
+      programs.chooser = path;
+  return programs.filters.empty() ? std::nullopt : std::optional(programs);
+}
+
+std::string verdictFile() {
+  std::string folder = variable("XDG_CACHE_HOME");
+  if (folder.empty() || folder[0] != '/') {
+    const std::string home = variable("HOME");
+    folder = home.empty() || home[0] != '/' ? "" : home + "/.cache";
+  }
+  return folder.empty() ? "" : folder + "/print-dialog/layout-check";
+}
+
+std::optional<MovedDocument> moveDocument(const MoverTask &task, const Descriptor &document,
+                                          const std::string &name, const std::string &description,
+                                          const MoveProgress &progress) try {
+  const std::string program =
+      trustedPart({besideProgram(IMAGEPOSITION_MOVER), besideProgram(kInstalled)});
+  if (program.empty())
+    throw ShiftFailure(MoveProblem::Fault, messages::moverMissing(IMAGEPOSITION_MOVER));
+  const Descriptor printer = temporaryFile(description);
+  Descriptor result = temporaryFile();
+  Run run(program, task, {document.get(), printer.get(), result.get()});
+  const auto report = run.result(progress);
+  if (!report)
+    return std::nullopt;
+  if (report->kind == MoverReport::Kind::Failed)
+    throw ShiftFailure(report->problem, messages::notMoved(name, report->problem, report->detail));
+  lseek(result.get(), 0, SEEK_SET);
+  return MovedDocument{std::move(result), report->number};
+} catch (const std::system_error &error) {
+  throw ShiftFailure(MoveProblem::NoRoom,
+                     messages::notMoved(name, MoveProblem::NoRoom, error.code().message()));
+}
+
+} // namespace imageposition

@@ -1,0 +1,64 @@
+/// Moves the image of a job before it is sent, where the printer's driver does not.
+#ifndef IMAGEPOSITION_CORE_PLACEMENT_SHIFTEDJOB_HPP
+#define IMAGEPOSITION_CORE_PLACEMENT_SHIFTEDJOB_HPP
+
+#include "DocumentMover.hpp"
+#include "JobRequest.hpp"
+#include "JobSplit.hpp"
+#include "PageShift.hpp"
+#include "SubmitJob.hpp"
+
+#include <cups/ppd.h>
+
+#include <string>
+
+namespace imageposition {
+
+enum class ShiftedBy {
+  Nobody,  ///< All offsets of the sides that are printed are 0, or the adjustment is not available.
+  Printer, ///< The printer's description says that its driver does: it gets the offsets.
+  Dialog,  ///< The dialog moves the documents, and the printer gets no offsets.
+};
+
+struct ShiftDecision {
+  ShiftedBy by = ShiftedBy::Nobody;
+  ShiftPlan plan; ///< For `Dialog`. The plan of the last document; the others are padded.
+};
+
+/// Decides who moves the image. `options` are those that the job would be sent with, `ppd` is the
+/// printer's, with the job's choices marked; not null.
+ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd);
+
+/// Whether the printer gets the last page of a document first. As cups-filters decides it: the
+/// job's option, or else the output bin, or else the printer's default.
+bool isReversed(const PrintSettingsStore &options, ppd_file_t *ppd);
+
+/// A job whose documents the dialog moves. Does not refer to what it was made from, so it can be
+/// used on another thread.
+class ShiftedJob {
+public:
+  /// `description` is the text of the printer's PPD; `ppd` is the same with the job's choices
+  /// marked. Throws a `ShiftFailure` if the job cannot be moved on this computer, and what
+  /// `optionsToSend` throws.
+  ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t *ppd,
+             std::string description);
+
+  /// Says that the image is moved here, and by how much.
+  std::string description() const;
+  /// What is sent with the moved documents.
+  const JobRequest &request() const noexcept { return split_.printing; }
+
+  /// Lays out and moves the documents. A `JobPreparation`; throws a `ShiftFailure` for a document
+  /// that cannot be moved.
+  PreparedJob move(const JobDocuments &documents, const ProgressCallback &progress) const;
+
+private:
+  JobSplit split_;
+  ShiftPlan plan_;
+  std::string ppd_;
+  MoverTask task_;
+};
+
+} // namespace imageposition
+
+#endif
