@@ -21,9 +21,9 @@ using Rectangle = QPDFObjectHandle::Rectangle;
 
 class Drawing : public QPDFObjectHandle::ParserCallbacks {
 public:
-  Drawing(QPDFObjectHandle resources, const QPDFMatrix &matrix, int depth,
+  Drawing(const QPDFObjectHandle &resources, const QPDFMatrix &matrix, int depth,
           std::vector<Rectangle> &found)
-      : resources_(std::move(resources)), matrix_(matrix), depth_(depth), found_(found) {}
+      : resources_(resources), matrix_(matrix), depth_(depth), found_(found) {}
 
   void handleObject(QPDFObjectHandle object) override {
     if (!object.isOperator()) {

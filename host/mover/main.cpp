@@ -17,9 +17,9 @@
 #include <unistd.h>
 #include <utility>
 
-namespace {
+namespace imageposition {
 
-using namespace imageposition;
+namespace {
 
 void tell(int output, const MoverReport &report) {
   const std::string line = lineOf(report);
@@ -139,22 +139,27 @@ MoverReport layOutAndShift(const MoverTask &task, Children &children) {
   return isUnusable ? diagnosis(children, document, report.detail) : report;
 }
 
+/// Returns whether the dialog still wants the result.
+bool run(const MoverTask &task) try {
+  tell(STDOUT_FILENO, reportOn([&] {
+         const char *const folder = std::getenv("TMPDIR");
+         const TemporaryPlace place(folder != nullptr ? folder : unusedPlace());
+         Children children(STDIN_FILENO);
+         return layOutAndShift(task, children);
+       }));
+  return true;
+} catch (const Abandoned &) {
+  return false;
+}
+
 } // namespace
 
+} // namespace imageposition
+
 int main(int argc, char **argv) {
-  const auto task = readTask({argv + 1, argv + argc});
+  const auto task = imageposition::readTask({argv + 1, argv + argc});
   if (!task)
     return 2;
   std::signal(SIGPIPE, SIG_IGN); // the dialog may end at any moment
-  try {
-    tell(STDOUT_FILENO, reportOn([&] {
-           const char *const folder = std::getenv("TMPDIR");
-           const TemporaryPlace place(folder != nullptr ? folder : unusedPlace());
-           Children children(STDIN_FILENO);
-           return layOutAndShift(*task, children);
-         }));
-  } catch (const Abandoned &) {
-    return 1;
-  }
-  return 0;
+  return imageposition::run(*task) ? 0 : 1;
 }

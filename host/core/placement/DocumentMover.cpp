@@ -51,6 +51,7 @@ std::vector<std::string> environmentIn(const std::string &folder) {
 
 std::vector<char *> pointersTo(const std::vector<std::string> &strings) {
   std::vector<char *> pointers;
+  pointers.reserve(strings.size() + 1);
   for (const std::string &string : strings)
     pointers.push_back(const_cast<char *>(string.c_str())); // posix_spawn does not modify them
   pointers.push_back(nullptr);
@@ -117,7 +118,7 @@ public:
         return MoverReport{MoverReport::Kind::Failed, 0, MoveProblem::Fault, {}};
       text_.append(part.data(), static_cast<std::size_t>(count));
       for (std::size_t end = 0; (end = text_.find('\n')) != std::string::npos;) {
-        const auto report = readReport(std::string_view(text_).substr(0, end));
+        auto report = readReport(std::string_view(text_).substr(0, end));
         text_.erase(0, end + 1);
         if (report && report->kind != MoverReport::Kind::Progress)
           return report;

@@ -374,6 +374,13 @@ TEST_F(MovedJob, SendsNothingIfADocumentCannotBeMoved) {
   EXPECT_EQ(kept->cups().run({"lpstat", "-o"}).output, "");
 }
 
+TEST_F(MovedJob, SendsNothingIfTheJobIsRaw) {
+  const auto result = print("office", {"-o", "raw"}, {numbered(1)});
+  EXPECT_EQ(result.status, 9);
+  EXPECT_THAT(result.errors, HasSubstr("raw job cannot be moved"));
+  EXPECT_EQ(print("office", {"-o", "raw", "--no-shift"}, {numbered(1)}).status, 0);
+}
+
 TEST_F(MovedJob, LeavesNothingBehindWhenItIsKilled) {
   const std::string document = numbered(3000);
   for (const int signal : {SIGTERM, SIGKILL}) {
