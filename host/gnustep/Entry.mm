@@ -92,12 +92,12 @@ ExitCode runInWindow(const Arguments &arguments) {
   const std::string queue = remembered.empty() ? arguments.queue : remembered;
   std::unique_ptr<PrinterOpening> opening;
   if (arguments.ppd.empty())
-    opening = std::make_unique<PrinterOpening>(queue, !remembered.empty());
+    opening = std::make_unique<PrinterOpening>(queue, missingShift(arguments), !remembered.empty());
   startPasteboardOnDemand();
   startApplication();
   if (!opening)
     return showDialog(arguments, openPrinter(arguments), history);
-  auto first = awaitFirstPrinter(std::move(opening), queue, std::cerr);
+  auto first = awaitFirstPrinter(std::move(opening), queue, missingShift(arguments), std::cerr);
   if (const auto *code = std::get_if<ExitCode>(&first))
     return *code;
   return showDialog(arguments, std::get<OpenedPrinter>(std::move(first)), history);

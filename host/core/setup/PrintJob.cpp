@@ -163,12 +163,16 @@ bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now,
 OpenedPrinter openPrinter(const Arguments &arguments) {
   if (!arguments.ppd.empty())
     return {{}, std::make_unique<PrinterDescription>(PrinterDescription::fromFile(arguments.ppd))};
-  return openQueue(arguments.queue);
+  return openQueue(arguments.queue, missingShift(arguments));
 }
 
-OpenedPrinter openQueue(const std::string &wanted) {
+MissingShift missingShift(const Arguments &arguments) {
+  return arguments.isUnshifted ? MissingShift::Leave : MissingShift::Add;
+}
+
+OpenedPrinter openQueue(const std::string &wanted, MissingShift shift) {
   const std::string queue = wanted.empty() ? defaultQueue() : wanted;
-  return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue))};
+  return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue, shift))};
 }
 
 std::string rememberedQueue(const Arguments &arguments, const History &history) {

@@ -29,8 +29,10 @@ struct OpenedPrinter {
 /// does not respond, and longer if its responses are slow. Throws a `Failure`. Can be called on any
 /// thread.
 OpenedPrinter openPrinter(const Arguments &arguments);
+/// Whether the dialog moves the image where the printer's driver does not.
+MissingShift missingShift(const Arguments &arguments);
 /// The same for the printer of a queue; if the name is empty, of the default queue.
-OpenedPrinter openQueue(const std::string &queue);
+OpenedPrinter openQueue(const std::string &queue, MissingShift shift);
 
 /// The queue of the last job, with which the window begins; empty if there is none, or if the
 /// command line or the environment names a printer.

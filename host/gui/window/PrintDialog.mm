@@ -214,7 +214,8 @@ struct imageposition::PrintDialogState {
   if (![self savePanels])
     return;
   try {
-    auto opened = PrinterOpening(queue).await(window);
+    auto opened =
+        PrinterOpening(queue, missingShift(state->session->job().arguments())).await(window);
     if (!opened)
       return;
     const NumbersNow numbers = state->session->takePrinter(std::move(*opened));
