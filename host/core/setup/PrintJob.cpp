@@ -124,6 +124,11 @@ void writeToOutput(const std::string &settings) {
     throw Failure(ExitCode::Ticket, messages::outputUnwritable({}));
 }
 
+void writeLine(std::ostream &stream, const std::string &text) {
+  if (!text.empty())
+    stream << text << '\n';
+}
+
 /// The value of a setting after switching from the printer `before`; none if the new printer lacks
 /// the option or rejects the value.
 std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
@@ -386,7 +391,7 @@ std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request) {
 
 std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinations,
                                                const std::string &ticketPath,
-                                               JobSubmission::Changed changed) {
+                                               JobSubmission::Changed changed, OwnShift ownShift) {
   if (!isSubmitted_) {
     if (ticketPath.empty())
       writeToOutput(writeOptionText(ticket_.settings));
@@ -395,12 +400,16 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     return nullptr;
   }
   JobRequest request = this->request(destinations);
+  if (ownShift == OwnShift::Skip)
+    removeOffsets(request);
   const std::shared_ptr<const ShiftedJob> shifted = shiftedJob(request);
+  if (shifted && arguments_.isBatch && !arguments_.isSilent) // the window has the picture
+    writeLine(std::cerr, shifted->losses());
   if (arguments_.isDryRun) {
     totalSize(documentsToSend()); // fails where a submission would
     if (shifted)
       std::cerr << shifted->description() << '\n';
-    std::cout << writeRequestText(shifted ? shifted->request() : request);
+    std::cout << writeRequestText(shifted ? shifted->request() : request, documentsToSend());
     return nullptr;
   }
   JobPreparation prepare;

@@ -38,6 +38,12 @@ OpenedPrinter openQueue(const std::string &queue, MissingShift shift);
 /// command line or the environment names a printer.
 std::string rememberedQueue(const Arguments &arguments, const History &history);
 
+/// What becomes of offsets that the dialog would apply itself.
+enum class OwnShift {
+  Apply,
+  Skip, ///< As with --no-shift.
+};
+
 /// Main thread only.
 class PrintJob {
 public:
@@ -122,12 +128,14 @@ public:
 
   /// Prints: writes a ticket to `ticketPath` (or the settings to standard output, if the path is
   /// empty), writes the request of a dry run to standard output, or starts to submit the job. If
-  /// the printer's driver does not apply the offsets, the submission first moves the documents.
-  /// Returns the submission, which the caller awaits and reports; null in the other cases. Throws a
-  /// `Failure`.
+  /// the printer's driver does not apply the offsets, the submission first moves the documents; in
+  /// batch mode, what that pushes out of the printable area is written to standard error. Returns
+  /// the submission, which the caller awaits and reports; null in the other cases. Throws a
+  /// `Failure`, which is a `ShiftFailure` if the dialog cannot move the image.
   std::unique_ptr<JobSubmission> print(const DestinationList &destinations,
                                        const std::string &ticketPath,
-                                       JobSubmission::Changed changed = {});
+                                       JobSubmission::Changed changed = {},
+                                       OwnShift ownShift = OwnShift::Apply);
 
   /// Reports the submitted job: lp's line to `output`, remarks to `notes`. Writes nothing if the
   /// command line has -s or -m.
