@@ -68,6 +68,7 @@ extern const Text kPrintUnmovedButton;
 /// The same for a document whose image was moved before.
 extern const Text kPrintAsItIsWindow;
 extern const Text kPrintAsItIs;
+/// cups-filters do not tell how far they are, so it stays at 0 % for a while.
 std::string layingOut(int percent);
 std::string sending(const std::string &sent, const std::string &total);
 /// In kilobytes or megabytes.
