@@ -123,8 +123,8 @@ TEST_F(HostileText, TextsInAPpdAreOnlyEverShown) {
       "*CloseUI: *Evil%n\n";
   start({"--ppd", folder.write("evil.ppd", ppd), "--ticket", ticket}, {});
   goTo(kPanes);
-  press({"space", "Down", "Return"});                      // the printer's options
-  press({"shift+Tab", "space", "Down", "Down", "Return"}); // the summary
+  press({"space", "Down", "Return"});             // the printer's options
+  press({"shift+Tab", "space", "End", "Return"}); // the summary
   press({"Return"});
   EXPECT_EQ(ended().status, kDone) << testing::PrintToString(ended());
 }

@@ -51,7 +51,7 @@ TEST_F(RaisingPanel, IsLeftOutWhenItRaisesWhilePrinting) {
 TEST_F(RaisingPanel, IsLeftOutWhenItRaisesInTheSummary) {
   openBoth("raise summaryInfo");
   goTo(kPanes);
-  press({"space", "Down", "Down", "Down", "Return"});
+  press({"space", "End", "Return"});
   expectLeftOut("summaryInfo");
 }
 

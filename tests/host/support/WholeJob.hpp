@@ -32,6 +32,10 @@ protected:
 
   static std::string document() { return IMAGEPOSITION_SAMPLES "/two-sided.pdf"; }
   static Words onQueue(const std::string &queue) { return {"-d", queue, document()}; }
+  /// The same for a printer whose driver does not shift: the window begins with its options.
+  static Words withoutPanelOn(const std::string &queue) {
+    return {"--no-shift", "-d", queue, document()};
+  }
 
   /// The number of the job that the program reports; fails the test if there is none.
   static int jobOf(const ProcessResult &result);

@@ -85,7 +85,8 @@ TEST_F(Driverless, ListsItsOptionsAsFarAsCupsTranslatesThem) {
 
 TEST_F(Driverless, ShowsItsOptionsInTheWindow) {
   const auto open = [](const char *language, const char *title) {
-    return PrintWindow({"-d", "photo", sample("two-sided.pdf")}, speaking(language), title);
+    return PrintWindow({"--no-shift", "-d", "photo", sample("two-sided.pdf")}, speaking(language),
+                       title);
   };
   {
     const PrintWindow window = open("en", "Print");

@@ -59,7 +59,7 @@ protected:
 };
 
 TEST_F(EnteredValue, OfSeveralChoicesAllTickedOnesArePrinted) {
-  PrintWindow window(onQueue("finisher"));
+  PrintWindow window(withoutPanelOn("finisher"));
   EXPECT_TRUE(isTicked(window, "Punch")) << "the PPD's default";
   window.tick("Staple", true);
   window.tick("Fold", true);
@@ -69,7 +69,7 @@ TEST_F(EnteredValue, OfSeveralChoicesAllTickedOnesArePrinted) {
   window.click("Print");
   EXPECT_THAT(printed(jobOf(window.ended())).options, Contains(Pair("Finishing", "Staple,Fold")));
 
-  PrintWindow again(onQueue("finisher"));
+  PrintWindow again(withoutPanelOn("finisher"));
   EXPECT_FALSE(isTicked(again, "Staple"));
   again.choose("Preset:", "folded");
   ASSERT_TRUE(again.becomes([&](const Screen &) { return isTicked(again, "Staple"); }));
@@ -82,7 +82,7 @@ TEST_F(EnteredValue, OfSeveralChoicesAllTickedOnesArePrinted) {
 }
 
 TEST_F(EnteredValue, OfSeveralChoicesNoneCanBeTickedAndOneInConflictIsNamed) {
-  PrintWindow window(onQueue("finisher"));
+  PrintWindow window(withoutPanelOn("finisher"));
   window.tick("Punch", false);
   EXPECT_TRUE(window.becomes([&](const Screen &) { return isTicked(window, "None"); }));
   window.tick("Staple", true);
@@ -101,7 +101,7 @@ TEST_F(EnteredValue, OfSeveralChoicesNoneCanBeTickedAndOneInConflictIsNamed) {
 }
 
 TEST_F(EnteredValue, OfThePageSizeIsCheckedDuringTypingShownAndPrinted) {
-  PrintWindow window(onQueue("finisher"));
+  PrintWindow window(withoutPanelOn("finisher"));
   window.choose("Media:", "Custom");
   ASSERT_TRUE(asks(window, "Media Size"));
   EXPECT_TRUE(window.says("70.56 to 246.94 mm"));
@@ -128,7 +128,7 @@ TEST_F(EnteredValue, OfThePageSizeIsCheckedDuringTypingShownAndPrinted) {
   EXPECT_THAT(printed(jobOf(window.ended())).options,
               Contains(Pair("PageSize", "Custom.100x200mm")));
 
-  PrintWindow again(onQueue("finisher/card"));
+  PrintWindow again(withoutPanelOn("finisher/card"));
   EXPECT_TRUE(shows(again, "Media:", "Custom: 100 × 200 mm"));
   again.choose("Media:", "A5");
   again.click("Print");
@@ -136,7 +136,7 @@ TEST_F(EnteredValue, OfThePageSizeIsCheckedDuringTypingShownAndPrinted) {
 }
 
 TEST_F(EnteredValue, ShowsTheFocusInOneFieldAndErrorsOfAnyField) {
-  PrintWindow window(onQueue("finisher"));
+  PrintWindow window(withoutPanelOn("finisher"));
   window.choose("Media:", "Custom");
   ASSERT_TRUE(asks(window, "Media Size"));
   EXPECT_TRUE(window.becomes([](const Screen &shown) { return hasRing(shown, "Width:"); }));
@@ -158,7 +158,7 @@ TEST_F(EnteredValue, ShowsTheFocusInOneFieldAndErrorsOfAnyField) {
 }
 
 TEST_F(EnteredValue, OnTheCommandLineIsShownAndCanBeReplaced) {
-  Words words = onQueue("finisher");
+  Words words = withoutPanelOn("finisher");
   words.insert(words.begin(), {"-o", "PageSize=Custom.4x6in", "-o", "Finishing=Staple,Fold"});
   PrintWindow window(words);
   EXPECT_TRUE(shows(window, "Media:", "Custom: 4 × 6 in"));
@@ -179,7 +179,7 @@ TEST_F(EnteredValue, OnTheCommandLineIsShownAndCanBeReplaced) {
 
 /// The keys that lead from the media to the last of the pane's pop-ups, and to its last item.
 TEST_F(EnteredValue, OfAPasswordIsHiddenEverywhereButInTheJob) {
-  PrintWindow window(onQueue("finisher"));
+  PrintWindow window(withoutPanelOn("finisher"));
   window.press("alt+m");
   press(window, "Tab", 12);
   window.press("space");
@@ -257,7 +257,7 @@ TEST_F(EnteredValue, OfAPanelsOptionIsEnteredOutsideThePanelAndReachesIt) {
 
 TEST_F(EnteredValue, OfAPasswordIsHiddenInADryRun) {
   const std::vector<std::string> secret{"-o", "Secret={User=me Password=abcd Code=0123}"};
-  Words words = onQueue("finisher");
+  Words words = withoutPanelOn("finisher");
   words.insert(words.begin(), secret.begin(), secret.end());
   words.insert(words.begin(), "--dry-run");
   PrintWindow window(words);

@@ -21,7 +21,7 @@ protected:
   }
 
   static Words onOffice(const Words &options) {
-    Words words{"-d", "office"};
+    Words words{"--no-shift", "-d", "office"};
     words.insert(words.end(), options.begin(), options.end());
     words.push_back(document());
     return words;
@@ -66,7 +66,7 @@ protected:
 };
 
 TEST_F(MoreSettings, AreReachedAndChosenWithTheKeyboard) {
-  PrintWindow window(onQueue("office"));
+  PrintWindow window(withoutPanelOn("office"));
   window.press("alt+s"); // the list of panes
   ASSERT_EQ(shown(window, "Settings:", "Printer options"), "Printer options");
   window.press("Down");
@@ -90,7 +90,7 @@ TEST_F(MoreSettings, AreReachedAndChosenWithTheKeyboard) {
 }
 
 TEST_F(MoreSettings, ABookletIsPrintedOnBothSidesAndSaysSo) {
-  PrintWindow window(onQueue("office"));
+  PrintWindow window(withoutPanelOn("office"));
   window.choose("Settings:", "More");
   ASSERT_EQ(shown(window, "Booklet:", "Off"), "Off");
   scrollTo(window, "Booklet:", 5);
@@ -105,7 +105,7 @@ TEST_F(MoreSettings, ABookletIsPrintedOnBothSidesAndSaysSo) {
 }
 
 TEST_F(MoreSettings, TimePriorityCoverPagesAndTitleReachCups) {
-  PrintWindow window(onQueue("office"), {"TZ=Asia/Tokyo"});
+  PrintWindow window(withoutPanelOn("office"), {"TZ=Asia/Tokyo"});
   window.choose("Settings:", "More");
   scrollTo(window, "When to print:", 7);
   window.choose("When to print:", "At a time");
@@ -144,7 +144,7 @@ TEST_F(MoreSettings, TimePriorityCoverPagesAndTitleReachCups) {
 }
 
 TEST_F(MoreSettings, CancelledQuestionsChangeNothing) {
-  PrintWindow window(onQueue("office"));
+  PrintWindow window(withoutPanelOn("office"));
   window.choose("Settings:", "More");
   scrollTo(window, "When to print:", 7);
   window.choose("When to print:", "At a time");
@@ -172,7 +172,7 @@ TEST_F(MoreSettings, OfTheCommandLineAreShownAndKept) {
 TEST_F(MoreSettings, ADefaultOfTheQueueIsTheDefault) {
   command({"lpadmin", "-p", "office", "-o", "number-up-default=2", "-o",
            "job-sheets-default=none,standard"});
-  PrintWindow window(onQueue("office"));
+  PrintWindow window(withoutPanelOn("office"));
   window.choose("Settings:", "More");
   ASSERT_EQ(shown(window, "Pages per sheet:", "2"), "2");
   EXPECT_EQ(shown(window, "Cover page after:", "Standard"), "Standard");
@@ -185,7 +185,7 @@ TEST_F(MoreSettings, ADefaultOfTheQueueIsTheDefault) {
 
 TEST_F(MoreSettings, AreKeptInPresetsButNotForTheNextJob) {
   const Words state{"XDG_STATE_HOME=" + folder.path("state")};
-  PrintWindow window(onQueue("office"), state);
+  PrintWindow window(withoutPanelOn("office"), state);
   window.choose("Settings:", "More");
   window.choose("Pages per sheet:", "4");
   scrollTo(window, "Cover page before:", 10); // the order of pages takes the focus, too
@@ -198,7 +198,7 @@ TEST_F(MoreSettings, AreKeptInPresetsButNotForTheNextJob) {
   ASSERT_EQ(shown(window, "Preset:", "four"), "four");
   window.click("Print");
   jobOf(window.ended());
-  PrintWindow again(onQueue("office"), state);
+  PrintWindow again(withoutPanelOn("office"), state);
   again.choose("Settings:", "More (1 changed)");
   EXPECT_EQ(shown(again, "Pages per sheet:", "1"), "1");
   EXPECT_EQ(shown(again, "Cover page before:", "Standard"), "Standard");

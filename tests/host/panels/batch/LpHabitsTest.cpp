@@ -131,7 +131,8 @@ TEST_F(LpHabits, APrinterWithoutAPanelPrints) {
 
 TEST_F(LpHabits, APrinterWithoutAPanelIsRefusedIfAnOptionRequiresOne) {
   for (const Words &words : {Words{"--set", "FrontLRM=1"}, {"--back", "off"}, {"--summary"}})
-    expectRefused(print("plain", {words.front(), words.back(), document}), kNoPanel, "panel");
+    expectRefused(print("plain", {"--no-shift", words.front(), words.back(), document}), kNoPanel,
+                  "panel");
 }
 
 TEST_F(LpHabits, StandardInputIsPrinted) {
