@@ -124,11 +124,6 @@ void writeToOutput(const std::string &settings) {
     throw Failure(ExitCode::Ticket, messages::outputUnwritable({}));
 }
 
-void writeLine(std::ostream &stream, const std::string &text) {
-  if (!text.empty())
-    stream << text << '\n';
-}
-
 /// The value of a setting after switching from the printer `before`; none if the new printer lacks
 /// the option or rejects the value.
 std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
@@ -403,12 +398,11 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
   if (ownShift == OwnShift::Skip)
     removeOffsets(request);
   const std::shared_ptr<const ShiftedJob> shifted = shiftedJob(request);
-  if (shifted && arguments_.isBatch && !arguments_.isSilent) // the window has the picture
-    writeLine(std::cerr, shifted->losses());
+  losses_ = shifted ? shifted->losses() : "";
   if (arguments_.isDryRun) {
     totalSize(documentsToSend()); // fails where a submission would
     if (shifted)
-      std::cerr << shifted->description() << '\n';
+      std::cerr << messages::sentences({shifted->description(), losses_}) << '\n';
     std::cout << writeRequestText(shifted ? shifted->request() : request, documentsToSend());
     return nullptr;
   }
@@ -428,6 +422,8 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
     return;
   const auto inputs = std::count(documents_.begin(), documents_.end(), "-"); // lp counts files
   output << messages::jobSent(printer, sent.id, documents_.size() - inputs) << std::endl;
+  if (arguments_.isBatch && !losses_.empty()) // the window has the picture
+    notes << losses_ << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;
 }

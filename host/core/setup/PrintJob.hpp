@@ -128,17 +128,17 @@ public:
 
   /// Prints: writes a ticket to `ticketPath` (or the settings to standard output, if the path is
   /// empty), writes the request of a dry run to standard output, or starts to submit the job. If
-  /// the printer's driver does not apply the offsets, the submission first moves the documents; in
-  /// batch mode, what that pushes out of the printable area is written to standard error. Returns
-  /// the submission, which the caller awaits and reports; null in the other cases. Throws a
+  /// the printer's driver does not apply the offsets, the submission first moves the documents.
+  /// Returns the submission, which the caller awaits and reports; null in the other cases. Throws a
   /// `Failure`, which is a `ShiftFailure` if the dialog cannot move the image.
   std::unique_ptr<JobSubmission> print(const DestinationList &destinations,
                                        const std::string &ticketPath,
                                        JobSubmission::Changed changed = {},
                                        OwnShift ownShift = OwnShift::Apply);
 
-  /// Reports the submitted job: lp's line to `output`, remarks to `notes`. Writes nothing if the
-  /// command line has -s or -m.
+  /// Reports the submitted job: lp's line to `output`, remarks to `notes`. In batch mode, one
+  /// of these is what the dialog's move of the image pushes out of the printable area. Writes
+  /// nothing if the command line has -s or -m.
   void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
   /// CUPS's name of the submitted job, "office-12"; empty before `report`.
   const std::string &sentName() const noexcept { return sentName_; }
@@ -168,6 +168,7 @@ private:
   bool isSubmitted_;
   bool isTicketChosen_ = false;
   std::string missingPrinter_;
+  std::string losses_; // of the job that `print` submits
   std::string sentName_;
   std::string done_;
 };

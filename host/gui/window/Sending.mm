@@ -134,10 +134,12 @@ struct imageposition::SendingState {
         job.print([dialog session].destinations().list(), ticket, state->wake.signal(), shift);
   } catch (const ShiftFailure &failure) {
     state->unmovable = failure;
-    [self askToPrintUnmoved];
-    return;
   } catch (const Failure &failure) {
     [dialog say:failure.what()];
+    return;
+  }
+  if (state->unmovable) {
+    [self askToPrintUnmoved];
     return;
   }
   if (![self isUnderWay]) {

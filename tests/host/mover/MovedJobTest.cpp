@@ -355,6 +355,7 @@ TEST_F(MovedJob, SaysOnceWhatIsPushedOutOfThePrintableArea) {
                     back = "A back that fills its printable area loses 3 mm at the left and 1.4 mm "
                            "at the bottom.";
   EXPECT_EQ(print("office", {}, {numbered(1)}).errors, front + " " + back + "\n");
+  EXPECT_THAT(print("office", {"--dry-run"}, {numbered(1)}).errors, HasSubstr(front + " " + back));
   EXPECT_EQ(print("office", {"-s"}, {numbered(1)}).errors, "");
   EXPECT_EQ(print("office", {"-o", "Duplex=None"}, {numbered(1)}).errors, "");
   EXPECT_EQ(print("office", {"--no-shift"}, {numbered(1)}).errors, "");
