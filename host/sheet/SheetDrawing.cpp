@@ -105,7 +105,7 @@ void drawRuler(SheetCanvas &canvas, const Vernier &ruler, const std::string &nam
 
 /// Beside the example, which shines through from the back.
 void drawRulers(SheetCanvas &canvas, const SheetArea &middle) {
-  constexpr double kAwayAcross = 28, kAwayDown = 21;
+  constexpr double kAwayAcross = 28, kAwayDown = 12.5;
   const SheetPoint centre{(middle.left + middle.right) / 2, (middle.top + middle.bottom) / 2};
   drawRuler(canvas, {Direction::Across, {centre.x, centre.y + kAwayDown}}, "\xe2\x86\x92");
   drawRuler(canvas, {Direction::Down, {centre.x + kAwayAcross, centre.y}}, "\xe2\x86\x93");
@@ -113,7 +113,7 @@ void drawRulers(SheetCanvas &canvas, const SheetArea &middle) {
 
 void drawExample(SheetCanvas &canvas, const SheetArea &middle, const std::string &caption) {
   constexpr double kDisplaced = 1.7, kShownThrough = 0.55;
-  constexpr double kAbove = 6, kHalfFrame = 21, kFrameTop = 14, kFrameBottom = 20;
+  constexpr double kAbove = 9.5, kHalfFrame = 21, kFrameTop = 14, kFrameBottom = 20;
   constexpr double kCaption = 16, kCaptionSize = 7;
   const SheetPoint zero{(middle.left + middle.right) / 2,
                         (middle.top + middle.bottom) / 2 - kAbove};

@@ -82,7 +82,7 @@ const std::array<Text, 4> kBackAdvice = {
          "the front's comb? Add that many tenths. The lines at both ends, 5 and \xe2\x88\x92"
          "5, "
          "mean half a millimetre between two whole ones."),
-    text("Note the four numbers in this order: A \xe2\x86\x92, A \xe2\x86\x93, B \xe2\x86\x92, "
-         "B \xe2\x86\x93.")};
+    text("Note the four numbers in this order: A\xc2\xa0\xe2\x86\x92, A\xc2\xa0\xe2\x86\x93, "
+         "B\xc2\xa0\xe2\x86\x92, B\xc2\xa0\xe2\x86\x93.")};
 
 } // namespace imageposition::messages

@@ -11,7 +11,7 @@ constexpr double kMillimetresPerPoint = 25.4 / 72;
 constexpr double kInset = 4; // for offsets that move the sheet itself
 constexpr double kGap = 4;
 constexpr double kMiddleWidth = 76;
-constexpr double kMiddleHeight = 60;
+constexpr double kMiddleHeight = 48;
 constexpr double kNarrowestText = 30;
 constexpr double kShallowestText = 30;
 

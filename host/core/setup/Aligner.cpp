@@ -112,6 +112,9 @@ SheetTask Aligner::task() const {
     words.facts.push_back(messages::sheetOffsets(offset));
     return words;
   };
+  std::vector<std::string> frontAdvice = translated(messages::kFrontAdvice);
+  if (!layout_.middle) // there are no rulers for the crease
+    frontAdvice.pop_back();
   SheetTask task;
   task.page = page_;
   task.turning = key_.turning;
