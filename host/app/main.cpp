@@ -1,6 +1,6 @@
 #include "AlignmentCommands.hpp"
 #include "CommandLine.hpp"
-#include "ExitStatus.hpp"
+#include "FailureReport.hpp"
 #include "GnustepModule.hpp"
 #include "JobSubmission.hpp"
 #include "Language.hpp"

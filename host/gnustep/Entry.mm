@@ -6,7 +6,7 @@
 #include "Destinations.hpp"
 #import "DialogWindow.h"
 #include "EntryTexts.hpp"
-#include "ExitStatus.hpp"
+#include "FailureReport.hpp"
 #include "JobSubmission.hpp"
 #import "OpenPrinter.h"
 #include "Phrases.hpp"
@@ -17,9 +17,9 @@
 #include "PrivateDisplay.hpp"
 #include "StandardOutput.hpp"
 #include "Ticket.hpp"
+#include "UnknownValues.hpp"
 
 #include <csignal>
-#include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -54,6 +54,9 @@ ExitCode runInBatch(const Arguments &arguments) {
   if (session.panels().panels().empty() && arguments.batch.needsPanel())
     throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), session.plugins()));
   job.requireNumbers(session.panels().optionKeys());
+  for (const std::string &sentence :
+       unknownValues(job.printer(), job.settings(), session.panels().optionKeys()))
+    std::cerr << messages::kProgram << sentence << '\n';
   const auto summary = runBatch(session.panels(), job.printer().ppd(), arguments.batch, std::cerr);
   if (const auto submission =
           job.print(job.isSubmitted() ? readDestinations() : DestinationList(), arguments.ticket))
@@ -80,13 +83,6 @@ ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer, const His
   return ExitCode::Done;
 }
 
-/// The last job's printer, unless the user names one.
-std::string rememberedQueue(const Arguments &arguments, const History &history) {
-  const bool isNamed = !arguments.queue.empty() || !arguments.ppd.empty() ||
-                       std::getenv("LPDEST") != nullptr || std::getenv("PRINTER") != nullptr;
-  return isNamed ? "" : history.printer();
-}
-
 /// The printer is being opened while the application starts.
 ExitCode runInWindow(const Arguments &arguments) {
   if (!arguments.ticket.empty())
@@ -96,12 +92,12 @@ ExitCode runInWindow(const Arguments &arguments) {
   const std::string queue = remembered.empty() ? arguments.queue : remembered;
   std::unique_ptr<PrinterOpening> opening;
   if (arguments.ppd.empty())
-    opening = std::make_unique<PrinterOpening>(queue, !remembered.empty());
+    opening = std::make_unique<PrinterOpening>(queue, missingShift(arguments), !remembered.empty());
   startPasteboardOnDemand();
   startApplication();
   if (!opening)
     return showDialog(arguments, openPrinter(arguments), history);
-  auto first = awaitFirstPrinter(std::move(opening), queue, std::cerr);
+  auto first = awaitFirstPrinter(std::move(opening), queue, missingShift(arguments), std::cerr);
   if (const auto *code = std::get_if<ExitCode>(&first))
     return *code;
   return showDialog(arguments, std::get<OpenedPrinter>(std::move(first)), history);

@@ -170,6 +170,7 @@ int execute(const std::string &program, const std::vector<std::string> &words,
             const std::vector<std::string> &environment) {
   const auto pointers = [](const std::vector<std::string> &strings) {
     std::vector<char *> result;
+    result.reserve(strings.size() + 1);
     for (const std::string &string : strings)
       result.push_back(const_cast<char *>(string.c_str())); // execve does not modify them
     result.push_back(nullptr);

@@ -1,6 +1,6 @@
 #include "DrawnRectangles.hpp"
 
-#include "ShiftedPdf.hpp"
+#include "PdfDocument.hpp"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFMatrix.hh>
@@ -8,8 +8,6 @@
 #include <qpdf/QPDFPageObjectHelper.hh>
 
 #include <algorithm>
-#include <cstdio>
-#include <fcntl.h>
 #include <utility>
 
 namespace imageposition {
@@ -23,9 +21,9 @@ using Rectangle = QPDFObjectHandle::Rectangle;
 
 class Drawing : public QPDFObjectHandle::ParserCallbacks {
 public:
-  Drawing(QPDFObjectHandle resources, const QPDFMatrix &matrix, int depth,
+  Drawing(const QPDFObjectHandle &resources, const QPDFMatrix &matrix, int depth,
           std::vector<Rectangle> &found)
-      : resources_(std::move(resources)), matrix_(matrix), depth_(depth), found_(found) {}
+      : resources_(resources), matrix_(matrix), depth_(depth), found_(found) {}
 
   void handleObject(QPDFObjectHandle object) override {
     if (!object.isOperator()) {
@@ -106,21 +104,13 @@ DrawnPage drawnOn(QPDFPageObjectHelper &page) {
 
 } // namespace
 
-std::vector<DrawnPage> drawnRectangles(const Descriptor &file) try {
-  Descriptor copy(fcntl(file.get(), F_DUPFD_CLOEXEC, 0));
-  FILE *const stream = fdopen(copy.get(), "rb");
-  if (stream == nullptr)
-    throw PdfTrouble(PdfTrouble::Kind::Unwritable, "no descriptor is left");
-  (void)copy.release(); // QPDF closes the stream
-  QPDF pdf;
-  pdf.setSuppressWarnings(true);
-  pdf.processFile("document", stream, true);
+std::vector<DrawnPage> drawnRectangles(const Descriptor &file) {
   std::vector<DrawnPage> pages;
-  for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(pdf).getAllPages())
-    pages.push_back(drawnOn(page));
+  withPdf(file, [&](QPDF &pdf) {
+    for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(pdf).getAllPages())
+      pages.push_back(drawnOn(page));
+  });
   return pages;
-} catch (const std::runtime_error &error) {
-  throw PdfTrouble(PdfTrouble::Kind::Damaged, error.what());
 }
 
 } // namespace imageposition

@@ -111,7 +111,7 @@ std::vector<std::string> filtersFor(const MoverTask &task, const Descriptor &doc
   std::vector<std::string> filters = linesOf(names);
   for (std::string &filter : filters)
     if (filter[0] != '/')
-      filter = task.filters + "/" + filter;
+      filter.insert(0, task.filters + "/");
   return filters;
 }
 

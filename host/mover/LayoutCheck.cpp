@@ -3,7 +3,7 @@
 #include "DrawnRectangles.hpp"
 #include "FileContent.hpp"
 #include "FilterChain.hpp"
-#include "ShiftedPdf.hpp"
+#include "PdfDocument.hpp"
 #include "TemporaryData.hpp"
 
 #include <algorithm>

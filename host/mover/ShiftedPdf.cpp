@@ -1,7 +1,6 @@
 #include "ShiftedPdf.hpp"
 
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -10,10 +9,8 @@
 #include <cmath>
 #include <cstdio>
 #include <ctime>
-#include <fcntl.h>
 #include <map>
 #include <memory>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -23,33 +20,6 @@ namespace {
 
 constexpr const char *kMark = "/ImagePosition"; // in the catalogue's page-piece dictionary
 constexpr int kDecimals = 4;                    // of a point: less than a thousandth of 0.1 mm
-
-/// The caller keeps its descriptor. Starts at the beginning of the file.
-std::unique_ptr<FILE, int (*)(FILE *)> streamOf(const Descriptor &file, const char *mode) {
-  Descriptor copy(fcntl(file.get(), F_DUPFD_CLOEXEC, 0));
-  FILE *const stream = copy.isOpen() ? fdopen(copy.get(), mode) : nullptr;
-  if (stream == nullptr)
-    throw PdfTrouble(PdfTrouble::Kind::Unwritable, "no descriptor is left");
-  (void)copy.release();
-  std::rewind(stream);
-  return {stream, std::fclose};
-}
-
-[[noreturn]] void failFor(const QPDFExc &error) {
-  switch (error.getErrorCode()) {
-  case qpdf_e_password:
-    throw PdfTrouble(PdfTrouble::Kind::Encrypted, error.getMessageDetail());
-  case qpdf_e_system:
-    throw PdfTrouble(PdfTrouble::Kind::Unwritable, error.getMessageDetail());
-  default:
-    throw PdfTrouble(PdfTrouble::Kind::Damaged, error.getMessageDetail());
-  }
-}
-
-void open(QPDF &pdf, FILE *stream) {
-  pdf.setSuppressWarnings(true);
-  pdf.processFile("document", stream, false);
-}
 
 QPDFObjectHandle markIn(QPDF &pdf) {
   QPDFObjectHandle pieces = pdf.getRoot().getKey("/PieceInfo");
@@ -170,37 +140,33 @@ void write(QPDF &pdf, const Descriptor &to, const ShiftProgress &progress) {
 } // namespace
 
 std::size_t shiftPages(const Descriptor &from, const Descriptor &to, const ShiftPlan &plan,
-                       const ShiftProgress &progress) try {
-  const auto stream = streamOf(from, "rb"); // outlives `pdf`
-  QPDF pdf;
-  open(pdf, stream.get());
-  if (!plan.isMovedAgain && !markIn(pdf).isNull())
-    throw PdfTrouble(PdfTrouble::Kind::MovedBefore, "the image was moved before");
-  auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
-  if (pages.empty())
-    throw PdfTrouble(PdfTrouble::Kind::Damaged, "there are no pages");
-  PageMover mover(pdf);
-  for (std::size_t i = 0; i < pages.size(); i++) {
-    requireSize(pages[i]);
-    mover.move(pages[i], plan.offsetOf(sideOf(plan.order, i)));
-  }
-  const bool isPadded = plan.isPadded && pages.size() % 2 != 0;
-  if (isPadded)
-    addBlankPage(pdf, pages.back());
-  mark(pdf, plan);
-  write(pdf, to, progress);
-  return pages.size() + (isPadded ? 1 : 0);
-} catch (const QPDFExc &error) {
-  failFor(error);
+                       const ShiftProgress &progress) {
+  std::size_t count = 0;
+  withPdf(from, [&](QPDF &pdf) {
+    if (!plan.isMovedAgain && !markIn(pdf).isNull())
+      throw PdfTrouble(PdfTrouble::Kind::MovedBefore, "the image was moved before");
+    auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
+    if (pages.empty())
+      throw PdfTrouble(PdfTrouble::Kind::Damaged, "there are no pages");
+    PageMover mover(pdf);
+    for (std::size_t i = 0; i < pages.size(); i++) {
+      requireSize(pages[i]);
+      mover.move(pages[i], plan.offsetOf(sideOf(plan.order, i)));
+    }
+    const bool isPadded = plan.isPadded && pages.size() % 2 != 0;
+    if (isPadded)
+      addBlankPage(pdf, pages.back());
+    mark(pdf, plan);
+    write(pdf, to, progress);
+    count = pages.size() + (isPadded ? 1 : 0);
+  });
+  return count;
 }
 
-bool isShifted(const Descriptor &file) try {
-  const auto stream = streamOf(file, "rb");
-  QPDF pdf;
-  open(pdf, stream.get());
-  return !markIn(pdf).isNull();
-} catch (const QPDFExc &error) {
-  failFor(error);
+bool isShifted(const Descriptor &file) {
+  bool isMarked = false;
+  withPdf(file, [&](QPDF &pdf) { isMarked = !markIn(pdf).isNull(); });
+  return isMarked;
 }
 
 } // namespace imageposition

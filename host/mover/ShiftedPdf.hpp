@@ -4,26 +4,11 @@
 
 #include "FileContent.hpp"
 #include "PageShift.hpp"
+#include "PdfDocument.hpp"
 
 #include <functional>
-#include <stdexcept>
 
 namespace imageposition {
-
-class PdfTrouble : public std::runtime_error {
-public:
-  enum class Kind {
-    Encrypted,   ///< With a password that is not empty.
-    Damaged,     ///< Not a PDF file, or without pages, or with pages of no size.
-    MovedBefore, ///< `shiftPages` has written it, or it was made from such a file.
-    Unwritable,  ///< The disk is full, or the result is too large.
-  };
-  PdfTrouble(Kind kind, const std::string &reason) : std::runtime_error(reason), kind_(kind) {}
-  Kind kind() const noexcept { return kind_; }
-
-private:
-  Kind kind_;
-};
 
 /// Called with the percentage that was written, in ascending order.
 using ShiftProgress = std::function<void(int)>;
@@ -34,7 +19,7 @@ using ShiftProgress = std::function<void(int)>;
 ///
 /// The document must have been laid out: an offset on a page of another origin would leave its
 /// tiling patterns and its annotations where they were. Both files must be regular ones. Throws a
-/// `PdfTrouble`, and whatever QPDF throws if memory runs out.
+/// `PdfTrouble`.
 std::size_t shiftPages(const Descriptor &from, const Descriptor &to, const ShiftPlan &plan,
                        const ShiftProgress &progress = {});
 

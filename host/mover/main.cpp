@@ -5,23 +5,21 @@
 #include "LayoutCheck.hpp"
 #include "MoverTask.hpp"
 #include "ShiftedPdf.hpp"
-#include "Strings.hpp"
 #include "TemporaryData.hpp"
 
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
-#include <filesystem>
 #include <functional>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
-namespace {
+namespace imageposition {
 
-using namespace imageposition;
+namespace {
 
 void tell(int output, const MoverReport &report) {
   const std::string line = lineOf(report);
@@ -141,29 +139,27 @@ MoverReport layOutAndShift(const MoverTask &task, Children &children) {
   return isUnusable ? diagnosis(children, document, report.detail) : report;
 }
 
-/// The folder that the dialog made for this process and the filters. The dialog deletes it, too,
-/// unless it was killed.
-void deleteTemporaryFolder() {
-  const char *const path = std::getenv("TMPDIR");
-  std::error_code ignored;
-  if (path != nullptr && startsWith(std::filesystem::path(path).filename().string(), kPlacePrefix))
-    std::filesystem::remove_all(path, ignored);
+/// Returns whether the dialog still wants the result.
+bool run(const MoverTask &task) try {
+  tell(STDOUT_FILENO, reportOn([&] {
+         const char *const folder = std::getenv("TMPDIR");
+         const TemporaryPlace place(folder != nullptr ? folder : unusedPlace());
+         Children children(STDIN_FILENO);
+         return layOutAndShift(task, children);
+       }));
+  return true;
+} catch (const Abandoned &) {
+  return false;
 }
 
 } // namespace
 
+} // namespace imageposition
+
 int main(int argc, char **argv) {
-  const auto task = readTask({argv + 1, argv + argc});
+  const auto task = imageposition::readTask({argv + 1, argv + argc});
   if (!task)
     return 2;
   std::signal(SIGPIPE, SIG_IGN); // the dialog may end at any moment
-  int status = 0;
-  try {
-    Children children(STDIN_FILENO);
-    tell(STDOUT_FILENO, reportOn([&] { return layOutAndShift(*task, children); }));
-  } catch (const Abandoned &) {
-    status = 1;
-  }
-  deleteTemporaryFolder();
-  return status;
+  return imageposition::run(*task) ? 0 : 1;
 }

@@ -21,10 +21,6 @@ double luminanceOf(unsigned long pixel) {
   return 0.2126 * linear(pixel >> 16) + 0.7152 * linear(pixel >> 8) + 0.0722 * linear(pixel);
 }
 
-double contrast(double one, double other) {
-  return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
-}
-
 std::map<unsigned long, int> coloursOf(const Control &control) {
   std::map<unsigned long, int> colours;
   Display *const display = XOpenDisplay(nullptr);
@@ -51,6 +47,11 @@ std::map<unsigned long, int> coloursOf(const Control &control) {
 
 } // namespace
 
+double contrastOf(unsigned long one, unsigned long other) {
+  const double first = luminanceOf(one), second = luminanceOf(other);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
 double contrastOf(const Control &control) {
   const auto colours = coloursOf(control);
   const auto background =
@@ -59,7 +60,7 @@ double contrastOf(const Control &control) {
       });
   double most = 0;
   for (const auto &[colour, count] : colours)
-    most = std::max(most, contrast(luminanceOf(colour), luminanceOf(background->first)));
+    most = std::max(most, contrastOf(colour, background->first));
   return most;
 }
 

@@ -2,8 +2,11 @@
 
 #include "Contrast.hpp"
 #include "FileDrag.hpp"
+#include "Focus.hpp"
 #include "FocusedWindow.hpp"
 #include "Waiting.hpp"
+
+#include <cups/cups.h>
 
 #include <algorithm>
 #include <chrono>
@@ -248,14 +251,34 @@ void Person::seeOnTop(const std::string &title) {
     throw StepFailure(title + " is not on top, but " + top());
 }
 
-void Person::seeJobs(int count) {
+void Person::seeJobs(int count, const std::string &which) {
   std::string jobs;
   const auto counted = [&] {
-    jobs = run({"lpstat", "-W", "all", "-o"});
+    jobs = run({"lpstat", "-W", which, "-o"});
     return std::count(jobs.begin(), jobs.end(), '\n') == count;
   };
   if (!becomesTrue(counted))
     throw StepFailure("not " + std::to_string(count) + " jobs, but: " + jobs);
+}
+
+void Person::seeReceived(const std::string &name, const std::string &value) {
+  http_t *const http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
+                                    1, 30000, nullptr);
+  cups_job_t *jobs = nullptr;
+  const int count = cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
+  const std::string uri =
+      "ipp://localhost/jobs/" + std::to_string(count > 0 ? jobs[count - 1].id : 0);
+  cupsFreeJobs(count, jobs);
+  ipp_t *const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+  ipp_t *const response = cupsDoRequest(http, request, "/jobs");
+  char received[1024] = "";
+  if (ipp_attribute_t *const attribute = ippFindAttribute(response, name.c_str(), IPP_TAG_ZERO))
+    ippAttributeString(attribute, received, sizeof received);
+  ippDelete(response);
+  httpClose(http);
+  if (value != received)
+    throw StepFailure("CUPS received " + name + " as \"" + received + "\"");
 }
 
 void Person::endWith(int status) {
@@ -400,9 +423,19 @@ std::vector<Sentence> Person::sentences() {
                                 }) == number(v[0]);
          });
        }},
+      {"see the focus after each of # presses of Tab",
+       [=](const StepValues &v) {
+         const std::string missing = looksWithoutFocus(number(v[0]), [&] {
+           xdotool({"key", "Tab"});
+         });
+         if (!missing.empty())
+           throw StepFailure("the user cannot see the focus\n" + missing);
+       }},
       {"see every text with enough contrast", [=](const StepValues &) { seeTexts(); }},
       {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
-      {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0])); }},
+      {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0]), "all"); }},
+      {"see # jobs waiting", [=](const StepValues &v) { seeJobs(number(v[0]), "not-completed"); }},
+      {"CUPS received \"*\" as \"*\"", [=](const StepValues &v) { seeReceived(v[0], v[1]); }},
       {"it writes \"*\"",
        [=](const StepValues &v) {
          if (dialog_->wait().output.find(v[0]) == std::string::npos)

@@ -34,6 +34,8 @@ private:
   void pointAt(const Control &control);
   void drop(const std::string &files);
   void resize(int width, int height);
+  /// Of the last job.
+  static void seeReceived(const std::string &name, const std::string &value);
   void endWith(int status);
 
   /// The control that the user looks for, once it can be used.
@@ -49,7 +51,7 @@ private:
   void seeInSight(const Control &control);
   void seeTexts();
   void seeOnTop(const std::string &title);
-  void seeJobs(int count);
+  void seeJobs(int count, const std::string &which);
   std::string described() const;
 
   TemporaryFolder folder_;

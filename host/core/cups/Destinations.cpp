@@ -218,8 +218,10 @@ DestinationList readDestinations(std::chrono::milliseconds timeout) {
     return list;
   const auto remarks = printerRemarks(connection->http());
   for (Destination &destination : list.destinations)
-    if (const auto found = remarks.find(destination.name); found != remarks.end())
-      destination.remarks = found->second;
+    if (const auto found = remarks.find(destination.name); found != remarks.end()) {
+      destination.remarks = found->second.text;
+      destination.coverPages = found->second.coverPages;
+    }
   return list;
 }
 
@@ -250,8 +252,9 @@ bool operator==(const Destination &left, const Destination &right) {
   return left.name == right.name && left.instance == right.instance &&
          left.description == right.description && left.location == right.location &&
          left.uri == right.uri && left.state == right.state && left.stateText == right.stateText &&
-         left.remarks == right.remarks && left.acceptsJobs == right.acceptsJobs &&
-         left.isDefault == right.isDefault && hasSameOptions(left.defaults, right.defaults);
+         left.remarks == right.remarks && left.coverPages == right.coverPages &&
+         left.acceptsJobs == right.acceptsJobs && left.isDefault == right.isDefault &&
+         hasSameOptions(left.defaults, right.defaults);
 }
 
 bool operator==(const DestinationList &left, const DestinationList &right) {

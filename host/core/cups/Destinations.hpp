@@ -23,8 +23,9 @@ struct Destination {
   std::string location;    ///< May be empty.
   std::string uri;         ///< For its jobs; may be empty.
   DestinationState state = DestinationState::Idle;
-  std::string stateText; ///< For display: "Ready", "Paused (out of paper)".
-  std::string remarks;   ///< See `printerRemarks`.
+  std::string stateText;               ///< For display: "Ready", "Paused (out of paper)".
+  std::string remarks;                 ///< The text of `printerRemarks`.
+  std::vector<std::string> coverPages; ///< The values for "job-sheets"; empty if not known.
   bool acceptsJobs = true;
   bool isDefault = false;
   /// Default job options, without attributes of the printer.

@@ -15,14 +15,14 @@ namespace {
 
 constexpr int kLowSupply = 10; // percent
 constexpr const char *kWanted[] = {
-    "printer-name",          "printer-state",    "printer-is-accepting-jobs",
-    "printer-state-message", "queued-job-count", "marker-names",
-    "marker-levels"};
+    "printer-name",          "printer-state",       "printer-is-accepting-jobs",
+    "printer-state-message", "queued-job-count",    "marker-names",
+    "marker-levels",         "job-sheets-supported"};
 
 /// The attributes of one printer.
 struct Attributes {
   ipp_attribute_t *name = nullptr, *state = nullptr, *isAccepting = nullptr, *message = nullptr,
-                  *jobs = nullptr, *markers = nullptr, *levels = nullptr;
+                  *jobs = nullptr, *markers = nullptr, *levels = nullptr, *covers = nullptr;
 
   void take(ipp_attribute_t *attribute) {
     const std::string key = ippGetName(attribute);
@@ -37,6 +37,7 @@ struct Attributes {
     keep("queued-job-count", IPP_TAG_INTEGER, jobs);
     keep("marker-names", IPP_TAG_NAME, markers);
     keep("marker-levels", IPP_TAG_INTEGER, levels);
+    keep("job-sheets-supported", IPP_TAG_ZERO, covers); // names or keywords
   }
 };
 
@@ -67,20 +68,27 @@ std::string remarksOn(const Attributes &printer) {
   return messages::besides(remarks);
 }
 
+std::vector<std::string> coverPages(const Attributes &printer) {
+  std::vector<std::string> covers;
+  covers.reserve(ippGetCount(printer.covers));
+  for (int i = 0; i < ippGetCount(printer.covers); i++)
+    covers.push_back(stringIn(printer.covers, i));
+  return covers;
+}
+
 } // namespace
 
-std::map<std::string, std::string> printerRemarks(http_t *http) {
+std::map<std::string, PrinterRemarks> printerRemarks(http_t *http) {
   ipp_t *const request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
   ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                 static_cast<int>(std::size(kWanted)), nullptr, kWanted);
   const IppMessage response(cupsDoRequest(http, request, "/"));
-  std::map<std::string, std::string> remarks;
+  std::map<std::string, PrinterRemarks> remarks;
   Attributes printer;
   const auto finish = [&] {
     const std::string name = stringIn(printer.name);
-    const std::string text = name.empty() ? "" : remarksOn(printer);
-    if (!text.empty())
-      remarks[name] = text;
+    if (!name.empty())
+      remarks[name] = {remarksOn(printer), coverPages(printer)};
     printer = {};
   };
   for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;

@@ -25,6 +25,9 @@ const std::vector<std::vector<const char *>> kSynonyms = {
     {"print-quality", "cupsPrintQuality"},
     {"multiple-document-handling", "Collate"},
     {"printer-resolution", "Resolution"},
+    {"orientation-requested", "landscape"},
+    {"print-scaling", "fit-to-page", "fitplot", "fill"},
+    {"outputorder", "page-delivery"},
 };
 
 bool isOverridden(const char *name, const PrintSettingsStore &settings) {

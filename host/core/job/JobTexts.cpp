@@ -125,6 +125,14 @@ std::string jobCancelled(const std::string &queue, int job) {
              "Job {1} was cancelled after CUPS had all of it. Check the printer for printed pages.")
       .with(name);
 }
+std::string waitingJobCancelled(const std::string &queue, int job) {
+  return text("Job {1} was cancelled.").with(queue + "-" + std::to_string(job));
+}
+std::string jobNotCancelled(const std::string &queue, int job, const std::string &reason) {
+  const std::string name = queue + "-" + std::to_string(job);
+  return text("Job {1} could not be cancelled{2}. To try again: cancel {3}")
+      .with(name, because(reason), shellWord(name));
+}
 const Text kStandardInput = text("standard input");
 std::string waitsForPrinter(const std::string &queue, const std::string &state) {
   return text("CUPS keeps the job, because the printer \"{1}\" is not printing. Its state: {2}. To "
@@ -137,6 +145,10 @@ std::string waitsForRelease(const std::string &queue, int job, const std::string
     return text("The job is on hold. To print it now: lp -i {1} -H resume").with(name);
   return text("The job is on hold until {2}. To print it now: lp -i {1} -H resume")
       .with(name, until);
+}
+std::string localTime(const std::string &time) {
+  // Translators: {1} is a time such as 18:30.
+  return text("{1} (local time)").with(time);
 }
 std::string copiesNotUnderstood() {
   return text("Enter a number of copies from 1 to {1}.").with(kMostCopies);

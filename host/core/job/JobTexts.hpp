@@ -50,9 +50,14 @@ std::string jobLeftBehind(const std::string &message, const std::string &queue, 
 std::string jobTakenBack(const std::string &message, const std::string &queue, int job);
 /// For a job that CUPS received completely and may have started to print.
 std::string jobCancelled(const std::string &queue, int job);
+/// A waiting job that the user cancelled, or could not.
+std::string waitingJobCancelled(const std::string &queue, int job);
+std::string jobNotCancelled(const std::string &queue, int job, const std::string &reason);
 extern const Text kStandardInput;
 std::string waitsForPrinter(const std::string &queue, const std::string &state);
+/// `until` is "indefinite", one of CUPS's names, or a local time.
 std::string waitsForRelease(const std::string &queue, int job, const std::string &until);
+std::string localTime(const std::string &time);
 
 // Pages.
 std::string copiesNotUnderstood();

@@ -8,10 +8,12 @@
 #include "DocumentStream.hpp"
 #include "JobTexts.hpp"
 #include "Phrases.hpp"
+#include "ReleaseTime.hpp"
 
 #include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <ctime>
 #include <memory>
 #include <string_view>
 #include <system_error>
@@ -329,10 +331,15 @@ bool Submission::removeJob() {
                                        IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
+std::string releaseTime(const std::string &until) {
+  const auto local = localReleaseTime(until, std::time(nullptr));
+  return local ? messages::localTime(local->text()) : until;
+}
+
 std::string Submission::note() const {
   const char *const hold = options_.get("job-hold-until");
   if (hold != nullptr && std::strcmp(hold, "no-hold") != 0)
-    return messages::waitsForRelease(request_.printer, job_, hold);
+    return messages::waitsForRelease(request_.printer, job_, releaseTime(hold));
   const Destination printer = toDestination(*printer_);
   return printer.state == DestinationState::Stopped
              ? messages::waitsForPrinter(request_.printer, printer.stateText)

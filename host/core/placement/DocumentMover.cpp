@@ -51,6 +51,7 @@ std::vector<std::string> environmentIn(const std::string &folder) {
 
 std::vector<char *> pointersTo(const std::vector<std::string> &strings) {
   std::vector<char *> pointers;
+  pointers.reserve(strings.size() + 1);
   for (const std::string &string : strings)
     pointers.push_back(const_cast<char *>(string.c_str())); // posix_spawn does not modify them
   pointers.push_back(nullptr);
@@ -86,7 +87,7 @@ public:
       : lifeline_(newPipe()), reports_(newPipe()) {
     std::vector<std::string> words = wordsOf(task);
     words.insert(words.begin(), program);
-    start(program, words, environmentIn(place_.path()), files);
+    start(program, words, environmentIn(place_), files);
     lifeline_[0] = Descriptor(-1);
     reports_[1] = Descriptor(-1);
   }
@@ -99,6 +100,7 @@ public:
         kill(process_, SIGKILL);
       poll(nullptr, 0, 1);
     }
+    deletePlace(place_); // in case it was killed
   }
   Run(const Run &) = delete;
   Run &operator=(const Run &) = delete;
@@ -116,7 +118,7 @@ public:
         return MoverReport{MoverReport::Kind::Failed, 0, MoveProblem::Fault, {}};
       text_.append(part.data(), static_cast<std::size_t>(count));
       for (std::size_t end = 0; (end = text_.find('\n')) != std::string::npos;) {
-        const auto report = readReport(std::string_view(text_).substr(0, end));
+        auto report = readReport(std::string_view(text_).substr(0, end));
         text_.erase(0, end + 1);
         if (report && report->kind != MoverReport::Kind::Progress)
           return report;
@@ -156,7 +158,7 @@ private:
       throw std::system_error(error, std::generic_category());
   }
 
-  const TemporaryPlace place_; // of the filters
+  const std::string place_ = unusedPlace(); // which the mover makes for the filters
   std::array<Descriptor, 2> lifeline_, reports_;
   std::string text_;
   pid_t process_ = -1;

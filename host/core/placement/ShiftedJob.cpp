@@ -32,8 +32,6 @@ namespace {
 constexpr const char *kTwoSidedOptions[] = {"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
 constexpr const char *kRawFormat = "application/vnd.cups-raw";
 
-bool isTrue(const char *value) { return value != nullptr && readBoolean(value).value_or(false); }
-
 const char *attribute(ppd_file_t *ppd, const char *name, const char *specifier = nullptr) {
   const ppd_attr_t *const found = ppdFindAttr(ppd, name, specifier);
   return found != nullptr ? found->value : nullptr;
@@ -166,7 +164,7 @@ ShiftedJob::ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t 
                        std::string description)
     : split_(splitJob(job, ppd, shiftNote(plan))), plan_(plan), ppd_(std::move(description)) {
   const char *const format = split_.layout.get("document-format");
-  if (isTrue(split_.layout.get("raw")) || (format != nullptr && isSame(format, kRawFormat)))
+  if (split_.layout.get("raw") != nullptr || (format != nullptr && isSame(format, kRawFormat)))
     throw ShiftFailure(MoveProblem::NoConversion,
                        messages::sentences({messages::kRawNotMoved, messages::kPrintUnmoved}));
   const auto programs = layoutPrograms();

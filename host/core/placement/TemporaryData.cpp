@@ -4,13 +4,18 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <random>
+#include <sstream>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace imageposition {
 
 namespace {
+
+constexpr const char *kPrefix = "print-dialog.";
 
 [[noreturn]] void failWith(int error) { throw std::system_error(error, std::generic_category()); }
 
@@ -22,7 +27,7 @@ std::string folder() {
 
 /// Not every file system can create a file without a name.
 Descriptor unlinkedFile() {
-  std::string name = folder() + "/" + kPlacePrefix + "XXXXXX";
+  std::string name = folder() + "/" + kPrefix + "XXXXXX";
   Descriptor file(mkostemp(&name[0], O_CLOEXEC));
   if (!file.isOpen())
     failWith(errno);
@@ -56,14 +61,25 @@ std::string pathOf(const Descriptor &file) {
   return "/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(file.get());
 }
 
-TemporaryPlace::TemporaryPlace() : path_(folder() + "/" + kPlacePrefix + "XXXXXX") {
-  if (mkdtemp(&path_[0]) == nullptr)
-    failWith(errno);
+std::string unusedPlace() {
+  std::random_device random; // the system's, which nobody can foresee
+  std::ostringstream path;
+  path << folder() << "/" << kPrefix << std::hex;
+  for (int i = 0; i < 4; i++)
+    path << random();
+  return path.str();
 }
 
-TemporaryPlace::~TemporaryPlace() {
+void deletePlace(const std::string &path) noexcept {
+  struct stat status {};
   std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
+  if (lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid())
+    std::filesystem::remove_all(path, ignored);
+}
+
+TemporaryPlace::TemporaryPlace(std::string path) : path_(std::move(path)) {
+  if (mkdir(path_.c_str(), S_IRWXU) != 0)
+    failWith(errno);
 }
 
 } // namespace imageposition

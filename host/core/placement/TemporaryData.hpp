@@ -1,4 +1,4 @@
-/// Temporary files without a name, and a private folder for programs that need names.
+/// Temporary files without a name, and private folders for programs that need names.
 #ifndef IMAGEPOSITION_CORE_PLACEMENT_TEMPORARYDATA_HPP
 #define IMAGEPOSITION_CORE_PLACEMENT_TEMPORARYDATA_HPP
 
@@ -19,22 +19,24 @@ void append(const Descriptor &file, std::string_view content);
 /// A path with which a program that this process starts, or this process, can open the file again.
 std::string pathOf(const Descriptor &file);
 
-/// How the names of temporary folders begin.
-constexpr const char *kPlacePrefix = "print-dialog.";
+/// A path in the folder for temporary files at which there is nothing, for a `TemporaryPlace`. Two
+/// processes that know it can both delete the folder, so it is gone even if one of them is killed.
+std::string unusedPlace();
+
+/// Deletes the folder with what is in it, if it exists and belongs to this user.
+void deletePlace(const std::string &path) noexcept;
 
 /// A folder that only this user can enter. The destructor deletes it with what is in it.
 class TemporaryPlace {
 public:
-  /// Throws a `std::system_error`.
-  TemporaryPlace();
-  ~TemporaryPlace();
+  /// Throws a `std::system_error` if there is something at the path.
+  explicit TemporaryPlace(std::string path);
+  ~TemporaryPlace() { deletePlace(path_); }
   TemporaryPlace(const TemporaryPlace &) = delete;
   TemporaryPlace &operator=(const TemporaryPlace &) = delete;
 
-  const std::string &path() const noexcept { return path_; }
-
 private:
-  std::string path_;
+  const std::string path_;
 };
 
 } // namespace imageposition

@@ -1,6 +1,7 @@
 #include "PrinterDescription.hpp"
 
 #include "ChoiceList.hpp"
+#include "ImageShiftText.hpp"
 #include "MissingTexts.hpp"
 #include "Phrases.hpp"
 #include "PpdSize.hpp"
@@ -17,6 +18,7 @@
 #include <ctime>
 #include <cups/file.h>
 #include <memory>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -76,6 +78,21 @@ std::string textOf(const std::string &path) {
   return text;
 }
 
+/// Opens it again with what the panel looks for, unless the driver moves the image itself.
+void addImageShift(PpdFile &ppd, const std::string &text) {
+  const auto added = withImageShift(text);
+  if (!added)
+    return;
+  const int file = memfd_create("ppd", MFD_CLOEXEC);
+  if (file < 0)
+    return;
+  const bool isWritten = write(file, added->data(), added->size()) == ssize_t(added->size());
+  lseek(file, 0, SEEK_SET);
+  PpdFile extended(ppdOpenFd(file)); // closes the file
+  if (isWritten && extended)
+    ppd = std::move(extended);
+}
+
 using Choices = std::map<std::string, std::string>;
 
 void collectMarked(ppd_file_t *ppd, const ppd_group_t &group, Choices &marked) {
@@ -131,7 +148,7 @@ PrinterDescription PrinterDescription::fromFile(const std::string &path) {
   return printer;
 }
 
-PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
+PrinterDescription PrinterDescription::ofQueue(const std::string &queue, MissingShift shift) {
   const QueueName name = QueueName::parse(queue);
   SilenceLimit silence;
   const auto connection = connectForPrinter(silence);
@@ -148,8 +165,12 @@ PrinterDescription PrinterDescription::ofQueue(const std::string &queue) {
                          messages::kNamePrinter);
   }
   const TemporaryFile owner(file);
-  PrinterDescription printer(open(file, messages::ppdOfQueue(queue)), queue);
-  printer.text_ = textOf(file);
+  PpdFile ppd = open(file, messages::ppdOfQueue(queue));
+  std::string text = textOf(file);
+  if (shift == MissingShift::Add)
+    addImageShift(ppd, text);
+  PrinterDescription printer(std::move(ppd), queue);
+  printer.text_ = std::move(text);
   printer.queueDefaults_ = defaultsOf(connection->http(), name);
   if (!name.instance.empty())
     printer.printerDefaults_ = defaultsOf(connection->http(), {name.printer, {}});

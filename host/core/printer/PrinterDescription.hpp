@@ -13,6 +13,12 @@
 
 namespace imageposition {
 
+/// For a printer whose driver does not move the image.
+enum class MissingShift {
+  Leave, ///< The description stays as it is: no panel, no offsets.
+  Add,   ///< The description gets what the panel looks for; see `withImageShift`.
+};
+
 /// Names of options and choices are in the locale's language if the PPD, or else CUPS, has it; see
 /// `MissingTexts.hpp`.
 class PrinterDescription {
@@ -24,12 +30,14 @@ public:
   /// Requests from CUPS the PPD of a queue, or of "queue/instance", and the defaults that its users
   /// have set. Gives up when CUPS is silent for ten seconds. Throws a `Failure`. Can be called on
   /// any thread.
-  static PrinterDescription ofQueue(const std::string &queue);
+  static PrinterDescription ofQueue(const std::string &queue,
+                                    MissingShift shift = MissingShift::Leave);
 
   /// Never null; owned by this object.
   ppd_file_t *ppd() const noexcept { return ppd_.get(); }
 
-  /// The PPD itself, uncompressed. Empty if it was read from a pipe.
+  /// The PPD as the printer has it, uncompressed, without what `MissingShift::Add` adds. Empty if
+  /// it was read from a pipe.
   const std::string &text() const noexcept { return text_; }
 
   /// The queue's name, or the name that the PPD gives the printer.

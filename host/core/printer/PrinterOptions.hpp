@@ -26,10 +26,11 @@ struct PrinterOption {
   /// In the PPD's order. Includes a custom value ("Custom.7") only while it is chosen.
   std::vector<OptionChoice> choices;
   std::string chosen; ///< A choice's keyword, or a list for `Several`; empty if nothing is marked.
-  std::string defaultChoice;          ///< The queue's, or else the PPD's; may be empty.
-  bool isLocked = false;              ///< The job's ticket prevents changes.
+  std::string defaultChoice; ///< The queue's, or else the PPD's; may be empty.
+  bool isLocked = false;     ///< The job's ticket prevents changes, or other settings make it idle.
   bool takesCustomValue = false;      ///< Whether it accepts values outside `choices`.
   std::optional<CustomOption> custom; ///< How to enter such a value; none if unknown.
+  std::string enterText; ///< The item that leads to entering it; empty for the usual one.
 
   bool differsFromDefault() const { return chosen != defaultChoice; }
   /// The chosen keyword, or several for `Several`.

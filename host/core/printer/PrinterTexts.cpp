@@ -47,6 +47,11 @@ std::string queueWithoutPpd(const std::string &queue, const std::string &reason)
       .with(queue, withoutStop(reason));
 }
 const Text kNoDefaultPrinter = text("There is no default printer.");
+std::string noPrinterOfEnvironment(const std::string &queue) {
+  return text(
+             "The environment (LPDEST or PRINTER) names the printer \"{1}\", which does not exist.")
+      .with(queue);
+}
 const Text kNamePrinter = text("Specify one with -d QUEUE (lpstat -e lists the queues) or --ppd "
                                "FILE.");
 std::string chosenOption(const std::string &option, const std::string &choice) {

@@ -21,6 +21,7 @@ std::string ppdMalformed(const std::string &path, int line, const std::string &r
 std::string ppdOfQueue(const std::string &queue);
 std::string queueWithoutPpd(const std::string &queue, const std::string &reason);
 extern const Text kNoDefaultPrinter;
+std::string noPrinterOfEnvironment(const std::string &queue);
 // Advice for the command line, also where CUPS cannot be reached.
 extern const Text kOtherServer;
 extern const Text kNamePrinter;

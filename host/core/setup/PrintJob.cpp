@@ -5,6 +5,7 @@
 #include "CustomValue.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
+#include "JobSettings.hpp"
 #include "JobSplit.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
@@ -22,6 +23,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <optional>
@@ -33,13 +35,24 @@ namespace imageposition {
 
 namespace {
 
+/// Null if the environment names no printer. libcups ignores the name "lp" in PRINTER.
+const char *printerOfEnvironment() {
+  const char *const first = std::getenv("LPDEST");
+  const char *const second = std::getenv("PRINTER");
+  return first != nullptr || second == nullptr || std::strcmp(second, "lp") == 0 ? first : second;
+}
+
 /// The user's default, or the server's if the user has none.
 std::string defaultQueue() {
   SilenceLimit silence;
   const auto connection = connectForPrinter(silence);
   const CupsDestination destination(cupsGetNamedDest(connection->http(), nullptr, nullptr));
-  if (!destination)
-    throw PrinterFailure(messages::kNoDefaultPrinter, messages::kNamePrinter);
+  if (!destination) {
+    const char *const named = printerOfEnvironment();
+    throw PrinterFailure(named != nullptr ? messages::noPrinterOfEnvironment(named)
+                                          : messages::kNoDefaultPrinter.str(),
+                         messages::kNamePrinter);
+  }
   return QueueName{destination->name, destination->instance != nullptr ? destination->instance : ""}
       .text();
 }
@@ -56,6 +69,8 @@ void applyLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
   if (arguments.isMailWanted)
     readOptionArgument("notify-recipient-uri=mailto:" + mailAddress(), settings);
 }
+
+constexpr const char *kTitleSetting = "job-name";
 
 /// Settings that apply to one job only, in addition to those of one document, which no preset has.
 bool isOfOneJob(const std::string &name) {
@@ -123,12 +138,27 @@ std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
   return fitSetting(ppd, setting.name, setting.value, true).value;
 }
 
+bool isOff(const char *value) {
+  return std::strcmp(value, "0") == 0 || std::strcmp(value, "False") == 0;
+}
+
+/// Whether a setting is not the printer's default. Panels add settings that are off or zero.
+bool hasUnusual(const PrintSettingsStore &settings, PrinterDescription &printer) {
+  const auto &defaults = printer.defaultChoices();
+  for (int i = 0; i < settings.optionCount(); i++) {
+    const cups_option_t &option = settings.options()[i];
+    const auto usual = defaults.find(option.name);
+    if (usual != defaults.end() ? usual->second != option.value : !isOff(option.value))
+      return true;
+  }
+  return false;
+}
+
 /// Whether the setting is as it was at the start. Panels add settings that are off or zero.
 bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now, const char *name) {
   const char *const value = now.get(name);
   const bool isAdded = start.get(name) == nullptr && value != nullptr;
-  return isSameIn(start, now, name) ||
-         (isAdded && (std::strcmp(value, "0") == 0 || std::strcmp(value, "False") == 0));
+  return isSameIn(start, now, name) || (isAdded && isOff(value));
 }
 
 } // namespace
@@ -136,12 +166,22 @@ bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now,
 OpenedPrinter openPrinter(const Arguments &arguments) {
   if (!arguments.ppd.empty())
     return {{}, std::make_unique<PrinterDescription>(PrinterDescription::fromFile(arguments.ppd))};
-  return openQueue(arguments.queue);
+  return openQueue(arguments.queue, missingShift(arguments));
 }
 
-OpenedPrinter openQueue(const std::string &wanted) {
+MissingShift missingShift(const Arguments &arguments) {
+  return arguments.isUnshifted ? MissingShift::Leave : MissingShift::Add;
+}
+
+OpenedPrinter openQueue(const std::string &wanted, MissingShift shift) {
   const std::string queue = wanted.empty() ? defaultQueue() : wanted;
-  return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue))};
+  return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue, shift))};
+}
+
+std::string rememberedQueue(const Arguments &arguments, const History &history) {
+  const bool isNamed =
+      !arguments.queue.empty() || !arguments.ppd.empty() || printerOfEnvironment() != nullptr;
+  return isNamed ? "" : history.printer();
 }
 
 PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history)
@@ -160,6 +200,9 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
   if (takeAlignment())
     setSideOffsets(withoutPreset_, alignment_->offsets);
   atStart_ = ticket_.settings;
+  const std::string remembered = rememberedQueue(arguments, history_);
+  if (remembered != QueueName::parse(queue_).printer)
+    missingPrinter_ = remembered;
 }
 
 /// Of the preset that the queue or the history names, or of the last job. A preset is an instance
@@ -172,8 +215,11 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
     return {};
   if (presetName_.empty()) {
     const std::string usual = history_.preset(name.printer);
-    if (usual.empty() || !contains(presets.names(), usual))
-      return {fitted(history_.settings(name.printer), printer.ppd()), {}};
+    if (usual.empty() || !contains(presets.names(), usual)) {
+      LoadedPreset last{fitted(history_.settings(name.printer), printer.ppd()), {}};
+      isFromLastJob_ = hasUnusual(last.settings, *printer_);
+      return last;
+    }
     presetName_ = usual;
   }
   LoadedPreset preset = presets.load(presetName_, printer);
@@ -244,6 +290,7 @@ PrintSettingsStore PrintJob::settingsToRemember() const {
         given.get(option.name) != nullptr && isSameIn(given, settings, option.name);
     const bool isMeasured = hasMeasuredOffsets() && contains(offsetOptions(), option.name);
     if (!isGiven && !isMeasured && !isOfOneJob(option.name) &&
+        !isLayoutSetting(*printer_, option.name) &&
         !isHiddenValue(printer_->ppd(), option.name, option.value))
       kept.set(option.name, option.value);
   }
@@ -362,13 +409,19 @@ std::vector<std::string> PrintJob::documentsToSend() const {
   return documents_.empty() ? std::vector<std::string>{"-"} : documents_;
 }
 
+std::string PrintJob::title() const {
+  return arguments_.title.empty() ? documentName(documentsToSend().front()) : arguments_.title;
+}
+
 JobRequest PrintJob::request(const DestinationList &destinations) const {
   JobRequest request;
   request.printer = QueueName::parse(queue_).printer;
-  request.title = arguments_.title;
-  if (request.title.empty())
-    request.title = documentName(documentsToSend().front());
   request.settings = ticket_.settings;
+  request.title = title();
+  if (const char *const title = ticket_.settings.get(kTitleSetting);
+      title != nullptr && *title != '\0')
+    request.title = title;
+  request.settings.remove(kTitleSetting);
   request.compounds = compoundOptions(printer_->ppd());
   for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &ticket_.settings})
     for (std::string &name : hiddenSettings(printer_->ppd(), *settings))

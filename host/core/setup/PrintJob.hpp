@@ -30,8 +30,14 @@ struct OpenedPrinter {
 /// does not respond, and longer if its responses are slow. Throws a `Failure`. Can be called on any
 /// thread.
 OpenedPrinter openPrinter(const Arguments &arguments);
+/// Whether the dialog moves the image where the printer's driver does not.
+MissingShift missingShift(const Arguments &arguments);
 /// The same for the printer of a queue; if the name is empty, of the default queue.
-OpenedPrinter openQueue(const std::string &queue);
+OpenedPrinter openQueue(const std::string &queue, MissingShift shift);
+
+/// The queue of the last job, with which the window begins; empty if there is none, or if the
+/// command line or the environment names a printer.
+std::string rememberedQueue(const Arguments &arguments, const History &history);
 
 /// Main thread only.
 class PrintJob {
@@ -61,7 +67,8 @@ public:
   /// The preset with which new jobs on this printer begin; may be empty.
   std::string defaultPreset() const;
   /// Stores the printer, its settings and the window's size for the next job. Leaves out settings
-  /// that apply to one document or job, secrets, and what the command line gave.
+  /// that apply to one document or job, such as its layout, secrets, and what the command line
+  /// gave.
   void remember(const std::optional<WindowSize> &window) const;
 
   /// Where the job's offsets come from: "The offsets were measured on ...". Empty unless they are
@@ -78,6 +85,11 @@ public:
   /// Throws a `Failure` with `ExitCode::Value` if the command line gives one of these options a
   /// value that is not a number, or one that is out of the printer's range.
   void requireNumbers(const std::vector<std::string> &keywords) const;
+
+  /// Whether the job began with settings of the last job that are not the printer's defaults.
+  bool isFromLastJob() const noexcept { return isFromLastJob_; }
+  /// The last job's printer, if the job should have begun with it and did not; otherwise empty.
+  const std::string &missingPrinter() const noexcept { return missingPrinter_; }
 
   /// The settings with which the job began, without those of the first queue's preset.
   const PrintSettingsStore &settingsWithoutPreset() const noexcept { return withoutPreset_; }
@@ -109,6 +121,10 @@ public:
   void setDocuments(const std::vector<std::string> &paths);
   /// Whether there is something to print: a document, or redirected input.
   bool hasDocument() const;
+
+  /// The job's title unless its setting "job-name" gives another: the command line's, or the first
+  /// document's name.
+  std::string title() const;
 
   /// The request to send to CUPS: the job's settings and, if `destinations` has the queue, its
   /// defaults.
@@ -149,6 +165,7 @@ private:
   std::unique_ptr<PrinterDescription> printer_;
   History history_;
   std::string presetName_;
+  bool isFromLastJob_ = false;
   LoadedPreset preset_; // of the first queue
   Ticket ticket_;
   PrintSettingsStore atStart_;
@@ -158,6 +175,7 @@ private:
   std::vector<std::string> documents_; // to print; empty if standard input is implied
   bool isSubmitted_;
   bool isTicketChosen_ = false;
+  std::string missingPrinter_;
   std::string sentName_;
   std::string done_;
 };

@@ -23,7 +23,7 @@ class PrinterOpening {
 public:
   /// Starts to open the printer of a queue; if the name is empty, of the default queue.
   /// If `mayBeGone`, a queue that CUPS does not have is replaced by the default queue.
-  explicit PrinterOpening(const std::string &queue, bool mayBeGone = false);
+  PrinterOpening(const std::string &queue, MissingShift shift, bool mayBeGone = false);
 
   /// Waits, and after a moment shows a window in the middle of `parent`, which may be null. Returns
   /// none if the user cancelled. Throws a `Failure`. Call it once.
@@ -34,7 +34,7 @@ public:
 private:
   struct Outcome;
 
-  static Outcome open(const std::string &queue, bool mayBeGone);
+  static Outcome open(const std::string &queue, MissingShift shift, bool mayBeGone);
 
   WaitPanel panel_;
   BackgroundCall<Outcome> call_;
@@ -45,7 +45,7 @@ private:
 /// user for another one until there is one. Returns the exit code if the user gives up.
 std::variant<OpenedPrinter, ExitCode> awaitFirstPrinter(std::unique_ptr<PrinterOpening> opening,
                                                         const std::string &queue,
-                                                        std::ostream &errors);
+                                                        MissingShift shift, std::ostream &errors);
 
 } // namespace imageposition
 

@@ -37,23 +37,24 @@ struct PrinterOpening::Outcome {
   DestinationList printers;   ///< Read after a failure.
 };
 
-PrinterOpening::Outcome PrinterOpening::open(const std::string &queue, bool mayBeGone) {
+PrinterOpening::Outcome PrinterOpening::open(const std::string &queue, MissingShift shift,
+                                             bool mayBeGone) {
   const PasswordQuestion noPassword;
   Outcome outcome;
   try {
-    outcome.opened = openQueue(queue);
+    outcome.opened = openQueue(queue, shift);
   } catch (const Failure &) {
     outcome.failure = std::current_exception();
     outcome.printers = readDestinations(kListTimeout);
   }
   const bool isGone = !outcome.printers.destinations.empty() && !outcome.printers.find(queue);
   if (outcome.failure && mayBeGone && isGone)
-    return open("", false);
+    return open("", shift, false);
   return outcome;
 }
 
-PrinterOpening::PrinterOpening(const std::string &queue, bool mayBeGone)
-    : call_([=] { return open(queue, mayBeGone); }, kTimeout, panel_.signal()) {}
+PrinterOpening::PrinterOpening(const std::string &queue, MissingShift shift, bool mayBeGone)
+    : call_([=] { return open(queue, shift, mayBeGone); }, kTimeout, panel_.signal()) {}
 
 std::optional<OpenedPrinter> PrinterOpening::await(NSWindow *parent) {
   if (!panel_.await(call_, parent, messages::waitingForCups(cupsServerName()))) {
@@ -70,7 +71,7 @@ std::optional<OpenedPrinter> PrinterOpening::await(NSWindow *parent) {
 
 std::variant<OpenedPrinter, ExitCode> awaitFirstPrinter(std::unique_ptr<PrinterOpening> opening,
                                                         const std::string &queue,
-                                                        std::ostream &errors) {
+                                                        MissingShift shift, std::ostream &errors) {
   const Pool pool;
   for (std::string tried = queue;;) {
     try {
@@ -86,7 +87,7 @@ std::variant<OpenedPrinter, ExitCode> awaitFirstPrinter(std::unique_ptr<PrinterO
         return failure.code();
       tried = *chosen;
     }
-    opening = std::make_unique<PrinterOpening>(tried);
+    opening = std::make_unique<PrinterOpening>(tried, shift);
   }
 }
 

@@ -1,4 +1,4 @@
-/// The panes: the panels of plug-ins, the printer's options and the summary.
+/// The panes: the panels of plug-ins, the printer's options, more settings, and the summary.
 #ifndef IMAGEPOSITION_GUI_WINDOW_PANES_H
 #define IMAGEPOSITION_GUI_WINDOW_PANES_H
 
@@ -21,11 +21,13 @@ NSSize largestPane(PanelSession &session);
 /// Drives the panels, too: has them save and restore, and leaves out those that fail, with a
 /// message.
 @interface Panes : NSObject {
-  id<DialogServices> dialog; ///< Not owned; so is the next.
+  id<DialogServices> dialog; ///< Not owned; so are the next two.
   id<OptionsViewOwner> optionsOwner;
+  id<OptionsViewOwner> moreOwner;
   ListPopUp *popUp; ///< Owned; so below.
   PaneArea *area;
-  OptionsView *options; ///< Null before it is first shown; so is the next.
+  OptionsView *options; ///< Null before it is first shown; so are the next two.
+  OptionsView *more;
   SummaryView *summary;
   NSView *after;                                     ///< The window's.
   std::vector<imageposition::PanelDriver *> *listed; ///< The session's, in the order of the pop-up.
@@ -33,8 +35,10 @@ NSSize largestPane(PanelSession &session);
   BOOL isRefusalShown;               ///< Whether the message is about what `shown` did not save.
 }
 
-/// `theOwner` carries out what the user does in the options pane.
-- (id)initWithDialog:(id<DialogServices>)theDialog optionsOwner:(id<OptionsViewOwner>)theOwner;
+/// The owners carry out what the user does in the panes of printer options and of more settings.
+- (id)initWithDialog:(id<DialogServices>)theDialog
+        optionsOwner:(id<OptionsViewOwner>)theOwner
+           moreOwner:(id<OptionsViewOwner>)theMoreOwner;
 - (imageposition::DialogRow)row;
 - (NSView *)area;
 /// Called after the size of the area has changed.
@@ -49,6 +53,8 @@ NSSize largestPane(PanelSession &session);
 /// Shows the chosen pane with what the job's settings say; lists the panes anew if a panel has
 /// gone.
 - (void)refresh;
+/// Called after CUPS has listed its printers again, with their cover pages.
+- (void)printersListed;
 
 /// Has every panel save. NO when one failed.
 - (BOOL)save;

@@ -1,6 +1,8 @@
 #import "Panes.h"
 
 #include "ExitCode.hpp"
+#import "JobSettingRows.h"
+#include "JobSettingsTexts.hpp"
 #include "JobSummary.hpp"
 #include "JobTexts.hpp"
 #import "KeyLoop.h"
@@ -50,6 +52,8 @@ NSSize imageposition::largestPane(PanelSession &session) {
 - (void)show:(NSView *)pane;
 - (void)showPanel:(PanelDriver *)panel;
 - (void)showOptions;
+- (void)showMore;
+- (void)nameMore;
 - (void)showSummary;
 - (void)leaveOut:(PanelDriver *)panel because:(const std::string &)trouble;
 - (void)tell:(const PanelReplies &)replies;
@@ -57,11 +61,14 @@ NSSize imageposition::largestPane(PanelSession &session) {
 
 @implementation Panes
 
-- (id)initWithDialog:(id<DialogServices>)theDialog optionsOwner:(id<OptionsViewOwner>)theOwner {
+- (id)initWithDialog:(id<DialogServices>)theDialog
+        optionsOwner:(id<OptionsViewOwner>)theOwner
+           moreOwner:(id<OptionsViewOwner>)theMoreOwner {
   if ((self = [super init]) == nil)
     return nil;
   dialog = theDialog;
   optionsOwner = theOwner;
+  moreOwner = theMoreOwner;
   popUp = [makePopUp(self, @selector(paneChosen:)) retain];
   area = [[PaneArea alloc] initWithFrame:NSZeroRect];
   listed = new std::vector<PanelDriver *>;
@@ -73,6 +80,7 @@ NSSize imageposition::largestPane(PanelSession &session) {
   [popUp release];
   [area release];
   [options release];
+  [more release];
   [summary release];
   delete listed;
   [super dealloc];
@@ -107,6 +115,7 @@ NSSize imageposition::largestPane(PanelSession &session) {
   for (const PanelDriver *panel : *listed)
     addItem(popUp, panel->name());
   addItem(popUp, messages::kOptionsPane);
+  addItem(popUp, messages::kMorePane);
   addItem(popUp, messages::kSummaryTitle);
   [popUp selectItemAtIndex:0];
 }
@@ -114,13 +123,31 @@ NSSize imageposition::largestPane(PanelSession &session) {
 - (void)refresh {
   if (*listed != panelsOf([dialog session]))
     [self list];
+  [self nameMore];
   const auto chosen = static_cast<std::size_t>(std::max<NSInteger>([popUp indexOfSelectedItem], 0));
   if (chosen < listed->size())
     [self showPanel:listed->at(chosen)];
   else if (chosen == listed->size())
     [self showOptions];
+  else if (chosen == listed->size() + 1)
+    [self showMore];
   else
     [self showSummary];
+}
+
+- (void)printersListed {
+  if (more != nil && [more superview] == area)
+    [self showMore];
+}
+
+/// The item's title says when a setting in the pane differs, so that none is forgotten.
+- (void)nameMore {
+  NSMenuItem *const item = [popUp itemAtIndex:static_cast<NSInteger>(listed->size()) + 1];
+  NSString *const title = toString(messages::morePane(jobSettingsOf([dialog session]).differing()));
+  if (![[item title] isEqualToString:title]) {
+    [item setTitle:title];
+    [popUp synchronizeTitleAndSelectedItem];
+  }
 }
 
 - (void)paneChosen:(id)sender {
@@ -162,12 +189,24 @@ NSSize imageposition::largestPane(PanelSession &session) {
   [self show:options];
 }
 
+- (void)showMore {
+  shown = nullptr;
+  if (more == nil)
+    more = [[OptionsView alloc] initWithFrame:[area bounds] owner:moreOwner];
+  [more setFrameSize:[area bounds].size];
+  [more showGroups:jobSettingsOf([dialog session]).listed()];
+  [self show:more];
+}
+
 - (void)showSummary {
   shown = nullptr;
   PrintSession &session = [dialog session];
   PrintJob &job = session.job();
   std::vector<SummarySection> sections{
       jobSection(job.printer().name(), job.documents(), job.settings())};
+  const JobSettings settings = jobSettingsOf(session);
+  if (SummarySection section = settings.section(); !section.lines.empty())
+    sections.push_back(std::move(section));
   for (const auto &panel : session.panels().panels()) {
     try {
       sections.push_back(panel->summary());
@@ -177,8 +216,11 @@ NSSize imageposition::largestPane(PanelSession &session) {
     }
   }
   sections.push_back(optionSection(job.printer(), job.settings(), session.panels().optionKeys()));
-  const SummarySection others = otherSection(job.request(session.destinations().list()),
-                                             job.printer(), session.panels().optionKeys());
+  std::vector<std::string> elsewhere = session.panels().optionKeys();
+  for (std::string &name : settings.names())
+    elsewhere.push_back(std::move(name));
+  const SummarySection others =
+      otherSection(job.request(session.destinations().list()), job.printer(), elsewhere);
   if (!others.lines.empty())
     sections.push_back(others);
   if (summary == nil)

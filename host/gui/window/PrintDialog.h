@@ -7,6 +7,7 @@
 #import "DocumentRow.h"
 #import "DropView.h"
 #import "HelpWindow.h"
+#import "JobSettingRows.h"
 #import "KeyWindow.h"
 #import "MessageView.h"
 #import "PagesRow.h"
@@ -35,6 +36,7 @@ struct PrintDialogState;
   CopiesRow *copies;
   PagesRow *pages;
   PrinterOptionRows *options;
+  JobSettingRows *more;
   Panes *panes;
   Sending *sending;
   HelpWindow *help; ///< Null before it is first shown.

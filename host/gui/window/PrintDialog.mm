@@ -11,8 +11,10 @@
 #include "Phrases.hpp"
 #import "Pool.h"
 #include "QuestionTexts.hpp"
+#include "QueueName.hpp"
 #import "RunLoopWake.h"
 #import "TextBridge.h"
+#include "UnknownValues.hpp"
 #import "WindowFocus.h"
 #include "WindowTexts.hpp"
 
@@ -41,6 +43,15 @@ std::string problemWith(const JobDocuments &documents) {
   } catch (const SubmissionFailure &failure) {
     return failure.what();
   }
+}
+
+/// In what the job begins otherwise than a first one would; may be empty.
+std::string startNote(const PrintJob &job) {
+  const std::string printer = QueueName::parse(job.queue()).printer;
+  const std::string &missing = job.missingPrinter();
+  return messages::sentences(
+      {missing.empty() ? "" : messages::otherThanLastPrinter(missing, printer),
+       job.isFromLastJob() ? messages::numbersNow(NumbersNow::Remembered, printer) : ""});
 }
 
 } // namespace
@@ -95,7 +106,7 @@ struct imageposition::PrintDialogState {
   [window setDelegate:nil];
   [window close];
   for (id part : {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options,
-                  (id)panes, (id)sending, (id)message, (id)picture, (id)help, (id)window})
+                  (id)more, (id)panes, (id)sending, (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -110,7 +121,8 @@ struct imageposition::PrintDialogState {
   copies = [[CopiesRow alloc] initWithDialog:self];
   pages = [[PagesRow alloc] initWithDialog:self];
   options = [[PrinterOptionRows alloc] initWithDialog:self];
-  panes = [[Panes alloc] initWithDialog:self optionsOwner:options];
+  more = [[JobSettingRows alloc] initWithDialog:self];
+  panes = [[Panes alloc] initWithDialog:self optionsOwner:options moreOwner:more];
 }
 
 - (void)buildWindowForPane:(NSSize)pane room:(NSSize)room {
@@ -202,7 +214,8 @@ struct imageposition::PrintDialogState {
   if (![self savePanels])
     return;
   try {
-    auto opened = PrinterOpening(queue).await(window);
+    auto opened =
+        PrinterOpening(queue, missingShift(state->session->job().arguments())).await(window);
     if (!opened)
       return;
     const NumbersNow numbers = state->session->takePrinter(std::move(*opened));
@@ -298,6 +311,7 @@ struct imageposition::PrintDialogState {
 - (void)wake {
   [documents showQuestion];
   [options askForChosenValue];
+  [more askForChosenValueOver:window];
   [sending askForPassword];
 }
 
@@ -306,10 +320,12 @@ struct imageposition::PrintDialogState {
   PrinterRow *const printerRow = printers;
   DocumentRow *const documentRow = documents;
   Sending *const sender = sending;
+  Panes *const paneArea = panes;
   [window protect:[=] {
     [sender look];
     [documentRow refresh];
-    [printerRow takeAnswer];
+    if ([printerRow takeAnswer])
+      [paneArea printersListed];
   }];
 }
 
@@ -359,18 +375,24 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-/// What is the matter with the documents, what is missing in the window, and which of the preset's
-/// settings the printer does not accept, which standard error has already.
+/// What is the matter with the documents, what is missing in the window, which settings have
+/// unknown values, which of the preset's settings the printer does not accept, which standard error
+/// has already, and what came back from the last job.
 - (void)sayTroubles {
   PanelSession &panels = state->session->panels();
-  const auto &misfits = state->session->job().misfits();
+  PrintJob &job = state->session->job();
   std::string troubles = panels.troubleText();
-  if (const std::string problem = problemWith(state->session->job().documents()); !problem.empty())
+  if (const std::string problem = problemWith(job.documents()); !problem.empty())
     troubles = problem;
+  troubles = messages::sentences(
+      {troubles,
+       messages::sentences(unknownValues(job.printer(), job.settings(), panels.optionKeys()))});
   if (!troubles.empty())
     [self say:troubles];
-  if (!misfits.empty())
-    [self show:messages::sentences({troubles, messages::sentences(misfits)})];
+  const std::string start =
+      messages::sentences({troubles, messages::sentences(job.misfits()), startNote(job)});
+  if (start != troubles)
+    [self show:start];
 }
 
 - (void)show {
@@ -389,10 +411,9 @@ struct imageposition::PrintDialogState {
   [self show];
   const NSInteger answer = [NSApp runModalForWindow:window];
   [help hide];
-  if (const std::string note = [sending note]; !note.empty()) // desktops hide standard error
-    showNote(window, messages::kJobWaits, note);
+  const BOOL isKept = [sending keepWaitingJob]; // desktops hide standard error
   [window orderOut:nil];
-  return answer == NSOKButton;
+  return answer == NSOKButton && isKept;
 }
 
 @end

@@ -31,8 +31,9 @@ struct PrinterRowState;
 /// Asks CUPS for its printers, now and whenever they change.
 - (void)startAsking;
 - (void)stopAsking;
-/// Shows what CUPS has answered, if it has, and asks again if the printers have changed.
-- (void)takeAnswer;
+/// Shows what CUPS has answered, if it has, and asks again if the printers have changed. Whether
+/// the list is another.
+- (BOOL)takeAnswer;
 
 @end
 

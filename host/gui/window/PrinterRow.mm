@@ -66,12 +66,14 @@ namespace {} // namespace
   state->changes.reset();
 }
 
-- (void)takeAnswer {
+- (BOOL)takeAnswer {
   Destinations &destinations = [dialog session].destinations();
-  if (destinations.takeAnswer())
+  const bool isChanged = destinations.takeAnswer();
+  if (isChanged)
     [self refresh];
   if (!destinations.isRefreshing() && state->isChanged->exchange(false))
     destinations.refresh(state->wake.signal());
+  return isChanged;
 }
 
 - (void)refresh {

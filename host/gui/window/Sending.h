@@ -39,8 +39,9 @@ struct SendingState;
 - (void)look;
 /// Asks for the password that CUPS waits for, if any: in an event, where a window can be shown.
 - (void)askForPassword;
-/// Why CUPS does not print at once what it took; empty if it does.
-- (std::string)note;
+/// If CUPS does not print at once what it took, shows why, and lets the user cancel the job. NO
+/// when the user has cancelled it.
+- (BOOL)keepWaitingJob;
 
 @end
 

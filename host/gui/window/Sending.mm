@@ -1,19 +1,35 @@
 #import "Sending.h"
 
+#include "CancelJob.hpp"
 #import "ControlLock.h"
 #include "CupsConnection.hpp"
+#include "CupsTexts.hpp"
+#include "HelpTexts.hpp"
 #include "JobSubmission.hpp"
+#include "JobTexts.hpp"
 #import "KeyWindow.h"
 #import "NamePanel.h"
+#import "NotePanel.h"
 #import "PasswordPanel.h"
+#include "QuestionTexts.hpp"
+#include "QueueName.hpp"
 #import "RunLoopWake.h"
 #include "TicketName.hpp"
+#import "WaitPanel.h"
 #include "WindowTexts.hpp"
 
+#include <chrono>
 #include <iostream>
 #include <memory>
+#include <optional>
 
 using namespace imageposition;
+
+namespace {
+
+constexpr std::chrono::seconds kCancelTimeout{15};
+
+} // namespace
 
 struct imageposition::SendingState {
   SendingState(const RunLoopWake &theWake, std::ostream &theErrors)
@@ -25,7 +41,7 @@ struct imageposition::SendingState {
   std::unique_ptr<ControlLock> lock; // while there is a submission
   NSView *focused = nil;             // the window's
   bool isAsking = false;             // for a password
-  std::string note;
+  std::optional<SubmittedJob> sent;
 };
 
 @interface Sending ()
@@ -67,8 +83,28 @@ struct imageposition::SendingState {
   return state->submission != nullptr;
 }
 
-- (std::string)note {
-  return state->note;
+- (BOOL)keepWaitingJob {
+  if (!state->sent || state->sent->note.empty())
+    return YES;
+  NSWindow *const window = [progress window];
+  if (!isConfirmed(window, {messages::kJobWaits, state->sent->note, messages::kCancelJob,
+                            messages::kClose, true}))
+    return YES;
+  const std::string printer = QueueName::parse([dialog session].job().queue()).printer;
+  const int job = state->sent->id;
+  WaitPanel panel;
+  BackgroundCall<std::string> call([=] { return cancelJob(printer, job); }, kCancelTimeout,
+                                   panel.signal());
+  const bool isDone = panel.await(call, window, messages::waitingForCups(cupsServerName()));
+  const std::string problem =
+      isDone ? call.take() : messages::jobNotCancelled(printer, job, messages::kNoAnswer);
+  if (problem.empty()) {
+    state->errors << messages::waitingJobCancelled(printer, job) << std::endl;
+    return NO;
+  }
+  state->errors << problem << std::endl;
+  showNote(window, messages::kJobWaits, problem);
+  return YES;
 }
 
 - (void)startWithFocus:(NSView *)focused {
@@ -145,7 +181,7 @@ struct imageposition::SendingState {
   try {
     const SubmittedJob sent = submission->result();
     [dialog session].job().report(sent, std::cout, state->errors);
-    state->note = sent.note;
+    state->sent = sent;
     [dialog show:""]; // "Sending" is over when the user reads the note
     [NSApp stopModalWithCode:NSOKButton];
     wakeModalLoop([progress window]);

@@ -57,6 +57,7 @@ std::string presetSaved(const std::string &lpName) {
   return text("The preset is saved. lp -d {1} prints with it too.").with(shellWord(lpName));
 }
 const Text kJobWaits = text("The job is waiting");
+const Text kCancelJob = text("Cancel the job");
 const Text kStateUnknown = text("Looking for printers…");
 std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd) {
   const bool isNumber = isWholeNumber(typed);
@@ -69,6 +70,10 @@ std::string numberChange(const std::string &typed, const std::string &shown, boo
   return (isEnd ? text("\"{1}\" was changed to {2}, the nearest number that is allowed.")
                 : text("\"{1}\" was changed to {2}."))
       .with(typed, shown);
+}
+std::string otherThanLastPrinter(const std::string &missing, const std::string &printer) {
+  return text("\"{1}\", the printer of the last job, is not available. This is \"{2}\".")
+      .with(missing, printer);
 }
 std::string numbersNow(NumbersNow numbers, const std::string &printer) {
   switch (numbers) {

@@ -143,6 +143,14 @@ TEST_F(Queue, SendsCupsTheSameJobAsLp) {
   }
 }
 
+TEST_F(Queue, TheSettingJobNameIsTheJobsTitle) {
+  const auto result = dialog({"--batch", "--dry-run", "-d", "office", "-t", "a", "-o", "job-name=b",
+                              sample("two-sided.pdf")},
+                             cups->environment());
+  EXPECT_THAT(result.output, HasSubstr("job-name (nameWithoutLanguage) = b\n"));
+  EXPECT_EQ(result.output.find("job-name"), result.output.rfind("job-name")) << result.output;
+}
+
 TEST_F(Queue, WritesNothingAboutTheJobWithSilenceOrMail) {
   const std::string document = sample("two-sided.pdf");
   for (const char *option : {"-s", "-m"}) {

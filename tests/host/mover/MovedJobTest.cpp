@@ -4,6 +4,12 @@
 #include "KeptJobs.hpp"
 #include "TemporaryData.hpp"
 
+#include <cups/raster.h>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <memory>
 #include <sstream>
@@ -30,11 +36,61 @@ const Words kOffsets{"-o", "LeftRightMargin=25",
                      "-o", "BackTopBottomMargin=14",
                      "-o", "com.morva.printsettings.19AImagePositionEnable=True"};
 
+constexpr const char *kTakesPdf = "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n";
+constexpr const char *kTakesRaster = "*cupsFilter: \"application/vnd.cups-raster 0 -\"\n";
+constexpr const char *kTakesPostScript = "";
+
 std::string ppdWith(const std::string &more) {
   std::string text = contentOf(IMAGEPOSITION_SAMPLES "/duplex-plain.ppd");
-  const std::string end = "*DefaultFont:";
-  text.insert(text.find(end), "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n" + more);
+  text.insert(text.find("*DefaultFont:"), more);
   return text;
+}
+
+/// The boxes around what is drawn on the pages of a PostScript file, in points, upwards.
+std::vector<std::array<double, 4>> boxesInPostScript(const std::string &content) {
+  const TemporaryFolder folder;
+  const auto result = runProcess({"gs", "-q", "-dBATCH", "-dNOPAUSE", "-dSAFER", "-sDEVICE=bbox",
+                                  folder.write("job.ps", content)});
+  std::vector<std::array<double, 4>> boxes;
+  std::istringstream lines(result.errors);
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream words(line);
+    std::string keyword;
+    std::array<double, 4> box{};
+    if (words >> keyword >> box[0] >> box[1] >> box[2] >> box[3] &&
+        keyword == "%%HiResBoundingBox:")
+      boxes.push_back(box);
+  }
+  return boxes;
+}
+
+/// The same for raster of one bit for each pixel, read from its pixels.
+std::vector<std::array<double, 4>> boxesInRaster(const std::string &content) {
+  const Descriptor file = temporaryFile(content);
+  cups_raster_t *const raster = cupsRasterOpen(file.get(), CUPS_RASTER_READ);
+  std::vector<std::array<double, 4>> boxes;
+  cups_page_header2_t page{};
+  while (cupsRasterReadHeader2(raster, &page) != 0 && page.cupsBitsPerPixel == 1) {
+    std::vector<unsigned char> line(page.cupsBytesPerLine);
+    const unsigned char blank = page.cupsColorSpace == CUPS_CSPACE_K ? 0 : 0xFF;
+    unsigned left = page.cupsWidth, right = 0, top = page.cupsHeight, bottom = 0;
+    for (unsigned y = 0; y < page.cupsHeight; y++) {
+      cupsRasterReadPixels(raster, line.data(), page.cupsBytesPerLine);
+      for (unsigned x = 0; x < page.cupsWidth; x++) {
+        if (((line[x / 8] ^ blank) & (0x80 >> x % 8)) == 0)
+          continue;
+        left = std::min(left, x);
+        right = std::max(right, x + 1);
+        top = std::min(top, y);
+        bottom = y + 1;
+      }
+    }
+    const double x = 72.0 / page.HWResolution[0], y = 72.0 / page.HWResolution[1];
+    boxes.push_back(
+        {left * x, (page.cupsHeight - bottom) * y, right * x, (page.cupsHeight - top) * y});
+  }
+  cupsRasterClose(raster);
+  return boxes;
 }
 
 /// The documents of a job, which a printer gets one after the other.
@@ -54,14 +110,19 @@ protected:
   static void SetUpTestSuite() {
     kept = std::make_unique<KeptJobs>();
     ASSERT_TRUE(kept->cups().isRunning()) << kept->cups().log();
-    addQueue("office", "");
-    addQueue("reversing", "*DefaultOutputOrder: Reverse\n");
-    addQueue("manual", "*cupsManualCopies: True\n");
-    addQueue("jcl", "*JCLBegin: \"<1B>%-12345X@PJL JOB<0A>\"\n*JCLToPSInterpreter: \"@PJL ENTER "
-                    "LANGUAGE = POSTSCRIPT <0A>\"\n*JCLEnd: \"<1B>%-12345X@PJL EOJ <0A>\"\n"
-                    "*JCLToPDFInterpreter: \"@PJL ENTER LANGUAGE = PDF <0A>\"\n");
-    addQueue("minus", "*LandscapeOrientation: Minus90\n");
-    addQueue("defaults", "", {"-o", "number-up-default=2", "-o", "fit-to-page-default=true"});
+    addQueue("office", kTakesPdf);
+    addQueue("postscript", kTakesPostScript);
+    addQueue("raster", kTakesRaster);
+    addQueue("reversing", std::string(kTakesPdf) + "*DefaultOutputOrder: Reverse\n");
+    addQueue("manual", std::string(kTakesPdf) + "*cupsManualCopies: True\n");
+    addQueue("jcl",
+             std::string(kTakesPdf) +
+                 "*JCLBegin: \"<1B>%-12345X@PJL JOB<0A>\"\n*JCLToPSInterpreter: \"@PJL ENTER "
+                 "LANGUAGE = POSTSCRIPT <0A>\"\n*JCLEnd: \"<1B>%-12345X@PJL EOJ <0A>\"\n"
+                 "*JCLToPDFInterpreter: \"@PJL ENTER LANGUAGE = PDF <0A>\"\n");
+    addQueue("minus", std::string(kTakesPdf) + "*LandscapeOrientation: Minus90\n");
+    addQueue("defaults", kTakesPdf,
+             {"-o", "number-up-default=2", "-o", "fit-to-page-default=true"});
   }
   static void TearDownTestSuite() { kept.reset(); }
 
@@ -194,6 +255,66 @@ TEST_F(MovedJob, FollowsTheQueue) {
       }
 }
 
+/// By how much a box has moved, in points, to the right and upwards.
+void expectMovedBox(const std::array<double, 4> &from, const std::array<double, 4> &to,
+                    const Offset &by, double tolerance) {
+  for (const std::size_t edge : {0u, 2u})
+    EXPECT_NEAR(to[edge] - from[edge], static_cast<double>(by.right.count) * kPointsPerTenth,
+                tolerance);
+  for (const std::size_t edge : {1u, 3u})
+    EXPECT_NEAR(to[edge] - from[edge], -static_cast<double>(by.down.count) * kPointsPerTenth,
+                tolerance);
+}
+
+TEST_F(MovedJob, ConvertsDocumentsAsLpDoes) {
+  std::string picture = "P3\n40 20\n255\n";
+  for (int pixel = 0; pixel < 40 * 20; pixel++)
+    picture += "200 0 0\n";
+  const std::string documents[] = {
+      folder_.write("picture.ppm", picture),
+      folder_.write("text.txt", "Dear Sir or Madam\n\fYours faithfully\n"),
+      folder_.write("drawing.ps", "%!PS-Adobe-3.0\n%%Pages: 2\n%%EndComments\n%%Page: 1 1\n72 144 "
+                                  "100 50 rectfill showpage\n%%Page: 2 2\n82 144 100 50 rectfill "
+                                  "showpage\n%%EOF\n")};
+  for (const std::string &document : documents)
+    for (const Words &options :
+         {Words{}, Words{"-o", "number-up=2"}, Words{"-o", "scaling=50"}, Words{"-o", "landscape"},
+          Words{"-o", "fit-to-page"}, Words{"-o", "position=top-left", "-o", "ppi=100"}}) {
+      SCOPED_TRACE(document + testing::PrintToString(options));
+      const auto ours = print("office", options, {document});
+      ASSERT_EQ(ours.status, 0) << testing::PrintToString(ours);
+      const auto moved = boxesInPostScript(kept->contentOf(ours)); // Ghostscript reads PDF, too
+      const auto direct = boxesInPostScript(kept->contentOf(lp("office", options, {document})));
+      ASSERT_FALSE(direct.empty()) << kept->cups().log();
+      ASSERT_EQ(moved.size(), direct.size());
+      for (std::size_t i = 0; i < direct.size(); i++)
+        expectMovedBox(direct[i], moved[i], i % 2 == 0 ? kFront : kBack, 0.3); // hints move text
+    }
+}
+
+TEST_F(MovedJob, ArrivesThroughDriversOfOtherKinds) {
+  const struct {
+    const char *queue;
+    std::vector<std::array<double, 4>> (*boxes)(const std::string &);
+    double tolerance; // points; a pixel of the raster is 0.24
+  } rows[] = {{"postscript", boxesInPostScript, kTolerance}, {"raster", boxesInRaster, 0.25}};
+  for (const auto &row : rows)
+    for (const std::string &document : {numbered(3), mixed()})
+      for (const Words &options : {Words{}, Words{"-o", "number-up=2"}}) {
+        SCOPED_TRACE(std::string(row.queue) + " " + testing::PrintToString(options) + document);
+        const auto ours = print(row.queue, options, {document});
+        ASSERT_EQ(ours.status, 0) << testing::PrintToString(ours);
+        const auto moved = row.boxes(kept->contentOf(ours));
+        const auto direct = row.boxes(kept->contentOf(lp(row.queue, options, {document})));
+        ASSERT_FALSE(direct.empty()) << kept->cups().log();
+        ASSERT_EQ(moved.size(), direct.size());
+        for (std::size_t i = 0; i < direct.size(); i++) {
+          SCOPED_TRACE("side " + std::to_string(i + 1));
+          expectMovedBox(direct[i], moved[i], i % 2 == 0 ? kFront : kBack, row.tolerance);
+        }
+      }
+}
+
 TEST_F(MovedJob, BeginsEachOfSeveralDocumentsWithAFront) {
   for (const Words &options :
        {Words{}, Words{"-n", "2", "-o", "Collate=True"}, Words{"-o", "outputorder=reverse"}}) {
@@ -251,6 +372,37 @@ TEST_F(MovedJob, SendsNothingIfADocumentCannotBeMoved) {
   EXPECT_THAT(result.errors, HasSubstr("\"bad.pdf\" cannot be moved"));
   EXPECT_THAT(result.errors, HasSubstr("--no-shift"));
   EXPECT_EQ(kept->cups().run({"lpstat", "-o"}).output, "");
+}
+
+TEST_F(MovedJob, SendsNothingIfTheJobIsRaw) {
+  const auto result = print("office", {"-o", "raw"}, {numbered(1)});
+  EXPECT_EQ(result.status, 9);
+  EXPECT_THAT(result.errors, HasSubstr("raw job cannot be moved"));
+  EXPECT_EQ(print("office", {"-o", "raw", "--no-shift"}, {numbered(1)}).status, 0);
+}
+
+TEST_F(MovedJob, LeavesNothingBehindWhenItIsKilled) {
+  const std::string document = numbered(3000);
+  for (const int signal : {SIGTERM, SIGKILL}) {
+    const TemporaryFolder temporary;
+    Words environment = kept->cups().environment();
+    environment.push_back("TMPDIR=" + temporary.path());
+    Words words{PRINT_DIALOG, "--batch", "-d", "office", "-o", "LeftRightMargin=25", document};
+    Process dialog(words, environment);
+    const auto isMoving = [&] {
+      for (const auto &entry : std::filesystem::directory_iterator(temporary.path()))
+        if (entry.is_directory()) // besides what libcups makes
+          return true;
+      return false;
+    };
+    EXPECT_TRUE(becomesTrue([&] { return isMoving() || dialog.hasEnded(); }));
+    dialog.send(signal);
+    EXPECT_EQ(dialog.wait().status, 128 + signal);
+    EXPECT_TRUE(becomesTrue([&] { return temporary.fileCount() == 0; }));
+    EXPECT_TRUE(becomesTrue([&] {
+      return runProcess({"pgrep", "-f", "print-dialog-mover.*" + document}).status == 1;
+    }));
+  }
 }
 
 TEST_F(MovedJob, ReadsStandardInput) {

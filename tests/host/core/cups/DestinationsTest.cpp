@@ -15,6 +15,7 @@ namespace {
 using namespace imageposition;
 using namespace imageposition::test;
 using testing::AllOf;
+using testing::Contains;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -116,6 +117,14 @@ TEST_F(PrinterList, HasTheAdministratorsWordsAndTheNumberOfJobs) {
   command({"cancel", "-a", "office"});
   command({"cupsenable", "office"});
   EXPECT_EQ(office().remarks, "");
+}
+
+TEST_F(PrinterList, HasTheCoverPagesOfEachPrinterAndInstance) {
+  EXPECT_THAT(office().coverPages, AllOf(Contains("none"), Contains("standard")));
+  command({"lpoptions", "-p", "office/single", "-o", "Duplex=None"});
+  const DestinationList list = readDestinations();
+  command({"lpoptions", "-x", "office/single"});
+  EXPECT_EQ(list.find("office/single")->coverPages, office().coverPages);
 }
 
 TEST_F(PrinterList, GivesUpIfCupsHangs) {

@@ -42,9 +42,16 @@ TEST(JobRequest, ASettingOverridesTheDefaultOfASynonymousOption) {
   const struct {
     const char *standard;
     const char *setting;
-  } kRows[] = {{"sides", "Duplex"},         {"Duplex", "sides"},
-               {"media", "PageSize"},       {"PageRegion", "media"},
-               {"OutputBin", "output-bin"}, {"print-color-mode", "ColorModel"}};
+  } kRows[] = {{"sides", "Duplex"},
+               {"Duplex", "sides"},
+               {"media", "PageSize"},
+               {"PageRegion", "media"},
+               {"OutputBin", "output-bin"},
+               {"print-color-mode", "ColorModel"},
+               {"landscape", "orientation-requested"},
+               {"print-scaling", "fit-to-page"},
+               {"fitplot", "print-scaling"},
+               {"page-delivery", "outputorder"}};
   for (const auto &row : kRows) {
     JobRequest request = requestWith({{row.setting, "chosen"}});
     request.defaults.set(row.standard, "before");

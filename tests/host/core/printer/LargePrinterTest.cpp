@@ -3,7 +3,7 @@
 #include "ExitCode.hpp"
 #include "LargePpd.hpp"
 #include "OptionConflicts.hpp"
-#include "OptionRows.hpp"
+#include "OptionLimit.hpp"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

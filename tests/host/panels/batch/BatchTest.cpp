@@ -151,6 +151,19 @@ TEST_F(Batch, OptionsReachTheJobAndThePanel) {
   EXPECT_THAT(settings, Contains(Pair("MediaType", "Heavy")));
 }
 
+TEST_F(Batch, UnknownValuesAreReportedAndKept) {
+  const auto result = batch(sample("duplex-shift.ppd"),
+                            {"-o", "Duplex=Bogus number-up=99", "-o", "print-scaling=bogus"});
+  EXPECT_EQ(result.status, kDone);
+  EXPECT_THAT(result.errors,
+              AllOf(HasSubstr("print-dialog: \"Bogus\" is not a value of \"Duplex\"."),
+                    HasSubstr("There are, for example: None, DuplexNoTumble, "),
+                    HasSubstr("1, 2, 4, 6, 9, 16."), HasSubstr("\"bogus\"")));
+  EXPECT_EQ(settingsIn(result.output).at("number-up"), "99");
+  EXPECT_EQ(settingsIn(result.output).at("Duplex"), "Bogus");
+  EXPECT_EQ(batch(sample("duplex-shift.ppd"), {"-o", "number-up=4 Duplex=None"}).errors, "");
+}
+
 TEST_F(Batch, ATicketIsWrittenInBothFormsAndReadAgain) {
   const std::string ticket = folder.path("job.json");
   auto result = batch(shift, {"--ticket", ticket, "--set", "FrontLRM=-3", "--back", "on"});

@@ -1,6 +1,6 @@
 /// Keys in a list of items to choose from.
-#ifndef IMAGEPOSITION_GUI_WIDGETS_LISTKEYS_HPP
-#define IMAGEPOSITION_GUI_WIDGETS_LISTKEYS_HPP
+#ifndef IMAGEPOSITION_GUI_LISTS_LISTKEYS_HPP
+#define IMAGEPOSITION_GUI_LISTS_LISTKEYS_HPP
 
 #include <chrono>
 #include <string>

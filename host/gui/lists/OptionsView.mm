@@ -5,7 +5,7 @@
 #import "ListPopUp.h"
 #include "Mnemonic.hpp"
 #import "MnemonicControls.h"
-#include "OptionRows.hpp"
+#include "OptionLimit.hpp"
 #include "Phrases.hpp"
 #import "TextBridge.h"
 #include "WidgetTexts.hpp"

@@ -1,6 +1,6 @@
 /// The pane of the options that the dialog does not show elsewhere.
-#ifndef IMAGEPOSITION_GUI_WIDGETS_OPTIONSVIEW_H
-#define IMAGEPOSITION_GUI_WIDGETS_OPTIONSVIEW_H
+#ifndef IMAGEPOSITION_GUI_LISTS_OPTIONSVIEW_H
+#define IMAGEPOSITION_GUI_LISTS_OPTIONSVIEW_H
 
 #import "KeyScrollView.h"
 

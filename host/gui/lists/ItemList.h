@@ -1,6 +1,6 @@
 /// A list in a window from which the user chooses.
-#ifndef IMAGEPOSITION_GUI_WIDGETS_ITEMLIST_H
-#define IMAGEPOSITION_GUI_WIDGETS_ITEMLIST_H
+#ifndef IMAGEPOSITION_GUI_LISTS_ITEMLIST_H
+#define IMAGEPOSITION_GUI_LISTS_ITEMLIST_H
 
 #import "ChoiceListView.h"
 

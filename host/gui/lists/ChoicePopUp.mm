@@ -31,7 +31,7 @@ std::vector<std::string> showChoices(ListPopUp *popUp, const PrinterOption &opti
     titles.push_back(choice.text);
   }
   if (option.custom)
-    titles.push_back(messages::kEnterValue);
+    titles.push_back(option.enterText.empty() ? messages::kEnterValue.str() : option.enterText);
   showTitles(popUp, titles);
   if (option.custom)
     [popUp markLastItemAsCommand];

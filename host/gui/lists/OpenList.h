@@ -1,6 +1,6 @@
 /// The open list of a pop-up.
-#ifndef IMAGEPOSITION_GUI_WIDGETS_OPENLIST_H
-#define IMAGEPOSITION_GUI_WIDGETS_OPENLIST_H
+#ifndef IMAGEPOSITION_GUI_LISTS_OPENLIST_H
+#define IMAGEPOSITION_GUI_LISTS_OPENLIST_H
 
 #import "ChoiceListView.h"
 #import "KeyScrollView.h"

@@ -1,4 +1,4 @@
-#include "OptionRows.hpp"
+#include "OptionLimit.hpp"
 
 #include <algorithm>
 

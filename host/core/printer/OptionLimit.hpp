@@ -1,6 +1,6 @@
 /// Limiting a printer's options to what fits into a window.
-#ifndef IMAGEPOSITION_CORE_PRINTER_OPTIONROWS_HPP
-#define IMAGEPOSITION_CORE_PRINTER_OPTIONROWS_HPP
+#ifndef IMAGEPOSITION_CORE_PRINTER_OPTIONLIMIT_HPP
+#define IMAGEPOSITION_CORE_PRINTER_OPTIONLIMIT_HPP
 
 #include "PrinterOptions.hpp"
 

@@ -1,4 +1,4 @@
-#include "ExitStatus.hpp"
+#include "FailureReport.hpp"
 
 #include <gtest/gtest.h>
 #include <new>
