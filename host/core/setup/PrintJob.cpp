@@ -15,6 +15,7 @@
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
+#include "SharedKeys.h"
 #include "ShiftedJob.hpp"
 #include "Strings.hpp"
 #include "ValueCheck.hpp"
@@ -267,8 +268,10 @@ bool PrintJob::followAlignment() {
   if (availabilityOf(printer_->ppd()).oneSided) // nothing moves
     return false;
   const bool isLeft = alignment_.has_value();
-  if (!takeAlignment() && isLeft)
+  if (!takeAlignment() && isLeft) {
     setSideOffsets(settings(), {});
+    settings().set(IPA_KEY_ENABLE, IPA_VALUE_FALSE);
+  }
   return !(sideOffsetsIn(settings()) == before);
 }
 
