@@ -27,7 +27,7 @@ std::string offsetInWords(const Offset &offset) {
   return text("right {1}, down {2}").with(lengthText(offset.right), lengthText(offset.down));
 }
 std::string offsetsInWords(const SideOffsets &offsets) {
-  return text("front {1}; back {2}")
+  return text("front: {1}; back: {2}")
       .with(offsetInWords(offsets.front), offsetInWords(offsets.back));
 }
 std::string alignment(const std::string &key, const std::string &offsets, const std::string &date) {

@@ -20,7 +20,7 @@ extern const Text kNoHomeForAlignments;
 std::string turningInWords(Turning turning);
 /// "right 0.5 mm, down -1 mm"
 std::string offsetInWords(const Offset &offset);
-/// "front right 0 mm, down 0 mm; back right 0.5 mm, down -1 mm"
+/// "front: right 0 mm, down 0 mm; back: right 0.5 mm, down -1 mm"
 std::string offsetsInWords(const SideOffsets &offsets);
 /// A line of the list of what was measured, after the queue's name.
 std::string alignment(const std::string &key, const std::string &offsets, const std::string &date);

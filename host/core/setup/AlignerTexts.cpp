@@ -19,7 +19,7 @@ std::string sheetsNotKept(const std::string &reason) {
 
 std::string displacement(const std::string &directions) {
   // Translators: {1} is as "1.7 mm to the right and 0.3 mm up".
-  return text("Against the light, with the back towards you, the back was {1} of the front.")
+  return text("Against the light, with the back towards you, the back is off by {1}.")
       .with(directions);
 }
 const Text kNotDisplaced = text("The back lies exactly on the front.");

@@ -14,6 +14,8 @@ using testing::Pair;
 
 const std::vector<std::string> kTwoSided{"-d", "office", "-o", "Duplex=DuplexNoTumble"};
 
+constexpr const char *kFlag = "com.morva.printsettings.19AImagePositionEnable=True";
+
 class Align : public WithOfficeQueue<DialogFixture> {
 protected:
   ProcessResult run(const Words &words, const Words &more = kTwoSided) {
@@ -42,7 +44,8 @@ TEST_F(Align, PrintsTheSheetsWithoutTheJobsLayout) {
   const auto result =
       run({"--align", "--dry-run", "-n", "7", "-o", "number-up=4", "-o", "fit-to-page", "-P", "2"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
-  EXPECT_THAT(result.output, AllOf(HasSubstr("number-up = 1"), HasSubstr("print-scaling = none"),
+  EXPECT_THAT(result.output, AllOf(HasSubstr("number-up (integer) = 1"),
+                                   HasSubstr("print-scaling (keyword) = none"),
                                    Not(HasSubstr("page-ranges")), Not(HasSubstr("fit-to-page"))))
       << result.output;
   EXPECT_EQ(alignments(), "");
@@ -103,7 +106,8 @@ TEST_F(Align, WarnsOfWhatOffsetsCannotCorrect) {
   const auto turned = run({"--align", "--reading", "1,1,-1,1"});
   EXPECT_EQ(turned.status, kDone);
   EXPECT_THAT(turned.output, HasSubstr("The corners disagree"));
-  const auto far = run({"--align", "-o", "BackLeftRightMargin=-60", "--reading", "9,0,9,0"});
+  const auto far =
+      run({"--align", "-o", "BackLeftRightMargin=-60", "-o", kFlag, "--reading", "9,0,9,0"});
   EXPECT_THAT(far.output, HasSubstr("limited to 10 mm"));
 }
 

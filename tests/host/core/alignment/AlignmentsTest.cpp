@@ -168,9 +168,10 @@ TEST(Today, IsADate) {
 }
 
 TEST(AlignmentLine, NamesEverything) {
-  EXPECT_EQ(alignmentLine(alignmentOf(keyOf("office", Turning::ShortEdge), 15)),
-            "office: A4, Tray1, turned about the short edge: front right 0.1 mm, down 0.2 mm; back "
-            "right 1.5 mm, down -0.4 mm (measured on 2026-11-22)");
+  EXPECT_EQ(
+      alignmentLine(alignmentOf(keyOf("office", Turning::ShortEdge), 15)),
+      "office: A4, Tray1, turned about the short edge: front: right 0.1 mm, down 0.2 mm; back: "
+      "right 1.5 mm, down -0.4 mm (measured on 2026-11-22)");
 }
 
 } // namespace
