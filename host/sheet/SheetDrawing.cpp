@@ -16,9 +16,9 @@ constexpr double kThick = 0.25;
 constexpr int kNumberedEvery = 5;
 constexpr double kNumberSize = 6.5; // points
 constexpr double kMinusWidth = 2;   // with its distance from the number
-constexpr double kNumberAway = 2; // from the end of its line, above or below
+constexpr double kNumberAway = 2;   // from the end of its line, above or below
 constexpr double kNumberBeside = 3.4;
-constexpr double kFurther = 2;      // how far a zero line reaches beyond the others
+constexpr double kFurther = 2; // how far a zero line reaches beyond the others
 
 /// Its digits are centred about the point, for the eye to find their line.
 void drawNumber(SheetCanvas &canvas, SheetPoint centre, int number) {
@@ -86,6 +86,7 @@ std::string nameOf(std::size_t vernier) {
 void drawRuler(SheetCanvas &canvas, const Vernier &ruler, const std::string &name) {
   constexpr double kNumbered = 5, kWhole = 3, kHalf = 1.5; // millimetres
   constexpr double kNameAway = 4;
+  const double away = ruler.direction == Direction::Across ? kNumberAway : kNumberBeside;
   const auto at = [&](double along, double depth) -> SheetPoint {
     if (ruler.direction == Direction::Across)
       return {ruler.zero.x + along, ruler.zero.y + depth};
@@ -97,18 +98,16 @@ void drawRuler(SheetCanvas &canvas, const Vernier &ruler, const std::string &nam
     const double length = isNumbered ? kNumbered : halves % 2 == 0 ? kWhole : kHalf;
     canvas.line(at(along, 0), at(along, length), kThin);
     if (isNumbered)
-      drawNumber(canvas, at(along, length + kNumberAway), halves / 2);
+      drawNumber(canvas, at(along, length + away), halves / 2);
   }
   canvas.line(at(-kLargestWhole, 0), at(kLargestWhole, 0), kThick);
   canvas.label(at(kLargestWhole + kNameAway, kWhole / 2), name, kNumberSize + 2);
 }
 
-/// Beside the example, which shines through from the back.
 void drawRulers(SheetCanvas &canvas, const SheetArea &middle) {
-  constexpr double kAwayAcross = 28, kAwayDown = 12.5;
-  const SheetPoint centre{(middle.left + middle.right) / 2, (middle.top + middle.bottom) / 2};
-  drawRuler(canvas, {Direction::Across, {centre.x, centre.y + kAwayDown}}, "\xe2\x86\x92");
-  drawRuler(canvas, {Direction::Down, {centre.x + kAwayAcross, centre.y}}, "\xe2\x86\x93");
+  const auto rulers = rulersIn(middle);
+  drawRuler(canvas, rulers[0], "\xe2\x86\x92");
+  drawRuler(canvas, rulers[1], "\xe2\x86\x93");
 }
 
 void drawExample(SheetCanvas &canvas, const SheetArea &middle, const std::string &caption) {

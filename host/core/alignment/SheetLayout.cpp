@@ -67,6 +67,13 @@ VernierReading vernierReadingOf(TenthMillimetre displacement) noexcept {
   return {whole, tenths - whole * 10};
 }
 
+std::array<Vernier, 2> rulersIn(const SheetArea &middle) noexcept {
+  constexpr double kAside = 28, kBelow = 12.5;
+  const SheetPoint centre{(middle.left + middle.right) / 2, (middle.top + middle.bottom) / 2};
+  return {Vernier{Direction::Across, {centre.x, centre.y + kBelow}},
+          Vernier{Direction::Down, {centre.x + kAside, centre.y}}};
+}
+
 SheetPoint throughTheSheet(const SheetLayout &layout, SheetPoint point) noexcept {
   if (layout.isMirroredLeftRight)
     return {layout.width - point.x, point.y};

@@ -82,6 +82,10 @@ struct SheetLayout {
   std::optional<SheetArea> middle;
 };
 
+/// The rulers of the front that the creases cross, across and down. Their zeros are in the middle
+/// of the page, in the ruler's direction; the example, which shines through, is between them.
+std::array<Vernier, 2> rulersIn(const SheetArea &middle) noexcept;
+
 /// The point of the front that is seen at `point` by the reader of the back, and the reverse.
 SheetPoint throughTheSheet(const SheetLayout &layout, SheetPoint point) noexcept;
 

@@ -10,8 +10,11 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <memory>
+#include <cstdio>
 #include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace imageposition {
 
@@ -286,6 +289,27 @@ TEST_P(Sheet, GivesTheMedianOfAPrinterThatScatters) {
     EXPECT_LE(std::abs(kRight * 10 + static_cast<double>(back.right.count)), kScatter * 10 + 1);
     EXPECT_LE(std::abs(kDown * 10 + static_cast<double>(back.down.count)), kScatter * 10 + 1);
     EXPECT_GE(measured.spreadRight, 13);
+  }
+}
+
+TEST(SheetDocument, HasRulersAboutTheMiddleOfTheFront) {
+  const TemporaryFolder folder;
+  const auto layout = layOutSheet(a4(), Turning::LongEdge);
+  const std::string path =
+      folder.write("sheet.pdf", drawSheets(taskFor(a4(), Turning::LongEdge)).value_or(""));
+  ASSERT_TRUE(layout && layout->middle);
+  for (const Vernier &ruler : rulersIn(*layout->middle)) {
+    const bool isAcross = ruler.direction == Direction::Across;
+    EXPECT_NEAR(isAcross ? ruler.zero.x : ruler.zero.y,
+                (isAcross ? layout->width : layout->height) / 2, 0.01);
+    constexpr double kHalf = 11, kBeyondTheShorter = 3.3, kEnd = 4.7;
+    const Dots dots = rendered(
+        path, 1,
+        {ruler.zero.x - kHalf, ruler.zero.y - kHalf, ruler.zero.x + kHalf, ruler.zero.y + kHalf});
+    const auto lines = linesIn(dots, ruler.direction, kBeyondTheShorter, kEnd);
+    ASSERT_EQ(lines.size(), 5U);
+    for (int i = 0; i < 5; i++)
+      EXPECT_NEAR(lines[static_cast<std::size_t>(i)], 5 * i - 10, 0.03);
   }
 }
 
