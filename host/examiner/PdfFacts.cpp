@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
+#include <utility>
 #include <vector>
 
 namespace imageposition {
@@ -43,8 +44,10 @@ std::optional<PaperSize> paperOf(QPDFPageObjectHelper &page) {
   const QPDFObjectHandle::Rectangle box = page.getCropBox().getArrayAsRectangle();
   QPDFObjectHandle unit = page.getAttribute("/UserUnit", false);
   const double scale = unit.isNumber() ? unit.getNumericValue() : 1;
-  const PaperSize size{{std::abs(box.urx - box.llx) * scale},
-                       {std::abs(box.ury - box.lly) * scale}};
+  PaperSize size{{std::abs(box.urx - box.llx) * scale}, {std::abs(box.ury - box.lly) * scale}};
+  QPDFObjectHandle rotation = page.getAttribute("/Rotate", false);
+  if (rotation.isInteger() && rotation.getIntValue() % 180 != 0)
+    std::swap(size.width, size.length);
   const bool isUsable = size.width.count > 0 && size.length.count > 0;
   return isUsable ? std::optional(size) : std::nullopt;
 }

@@ -1,6 +1,7 @@
 #include "Person.hpp"
 
 #include "Contrast.hpp"
+#include "DrawnBoxes.hpp"
 #include "FileDrag.hpp"
 #include "Focus.hpp"
 #include "FocusedWindow.hpp"
@@ -9,7 +10,9 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
+#include <cmath>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -281,6 +284,33 @@ void Person::seeReceived(const std::string &name, const std::string &value) {
     throw StepFailure("CUPS received " + name + " as \"" + received + "\"");
 }
 
+void Person::seeMoved(int side, const std::string &file, const std::string &distances,
+                      const std::string &other) {
+  constexpr double kPointsPerMillimetre = 72 / 25.4, kTolerance = 0.05;
+  double right = 0, down = 0;
+  std::istringstream(distances) >> right >> down;
+  const std::array<double, 4> expected{right, -down, right, -down}; // left, bottom, right, top
+  const std::string home = std::string(std::getenv("HOME")) + "/";
+  std::string seen;
+  const auto isMoved = [&] {
+    const auto here = boxesInPostScript(contentOf(home + file));
+    const auto there = boxesInPostScript(contentOf(home + other));
+    const auto index = static_cast<std::size_t>(side - 1);
+    if (here.size() <= index || here.size() != there.size())
+      return false;
+    seen.clear();
+    bool isNear = true;
+    for (std::size_t i = 0; i < expected.size(); i++) {
+      const double moved = (here[index][i] - there[index][i]) / kPointsPerMillimetre;
+      isNear = isNear && std::abs(moved - expected[i]) <= kTolerance;
+      seen += " " + std::to_string(moved);
+    }
+    return isNear;
+  };
+  if (!becomesTrue(isMoved))
+    throw StepFailure("the edges have moved by" + seen);
+}
+
 void Person::endWith(int status) {
   if (!becomesTrue([&] { return dialog_->hasEnded(); }))
     throw StepFailure("the dialog does not end\n" + described());
@@ -435,6 +465,8 @@ std::vector<Sentence> Person::sentences() {
       {"see the window \"*\" on top", [=](const StepValues &v) { seeOnTop(v[0]); }},
       {"see # jobs printed", [=](const StepValues &v) { seeJobs(number(v[0]), "all"); }},
       {"see # jobs waiting", [=](const StepValues &v) { seeJobs(number(v[0]), "not-completed"); }},
+      {"see side # of \"*\" moved by \"*\" mm from \"*\"",
+       [=](const StepValues &v) { seeMoved(number(v[0]), v[1], v[2], v[3]); }},
       {"CUPS received \"*\" as \"*\"", [=](const StepValues &v) { seeReceived(v[0], v[1]); }},
       {"it writes \"*\"",
        [=](const StepValues &v) {

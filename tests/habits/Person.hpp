@@ -36,6 +36,10 @@ private:
   void resize(int width, int height);
   /// Of the last job.
   static void seeReceived(const std::string &name, const std::string &value);
+  /// Compares what two jobs drew on a side, from files in the home folder. `distances` are
+  /// millimetres to the right and downwards.
+  static void seeMoved(int side, const std::string &file, const std::string &distances,
+                       const std::string &other);
   void endWith(int status);
 
   /// The control that the user looks for, once it can be used.

@@ -20,8 +20,9 @@ struct PaperSize {
 };
 
 struct DocumentFacts {
-  int pages = 0;                  ///< At least 1.
-  std::optional<PaperSize> paper; ///< Of all pages; none if they differ.
+  int pages = 0; ///< At least 1.
+  /// Of all pages, lying as the reader sees the first; none if they differ.
+  std::optional<PaperSize> paper;
 };
 
 /// The line with which the examiner reports to the dialog.

@@ -2,6 +2,7 @@
 
 #include "CupsHandles.hpp"
 #include "CustomValue.hpp"
+#include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobTexts.hpp"
 #include "PageRanges.hpp"
@@ -92,13 +93,17 @@ std::string valueText(ipp_attribute_t *attribute) {
   return text;
 }
 
+std::string lineOf(ipp_tag_t group, const std::string &name, ipp_tag_t type,
+                   const std::string &value) {
+  return groupName(group) + " " + name + " (" + ippTagString(type) + ") = " + value + "\n";
+}
+
 std::string attributeText(const JobRequest &request, ipp_attribute_t *attribute) {
   const std::string name = ippGetName(attribute);
   const ipp_tag_t type = ippGetValueTag(attribute);
   const std::string value =
       isSecret(request, name.c_str()) ? kHiddenValue : visible(valueText(attribute));
-  std::string text = groupName(ippGetGroupTag(attribute)) + " " + name + " (" + ippTagString(type) +
-                     ") = " + value + "\n";
+  std::string text = lineOf(ippGetGroupTag(attribute), name, type, value);
   if (type == IPP_TAG_BOOLEAN)
     text += "    " + messages::filtersRead((ippGetBoolean(attribute, 0) ? "" : "no") + name) + "\n";
   return text;
@@ -152,7 +157,11 @@ ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &option
   return ipp;
 }
 
-std::string writeRequestText(const JobRequest &request) {
+std::string nameToSend(const JobRequest &request, std::size_t index, const std::string &path) {
+  return index < request.documentNames.size() ? request.documentNames[index] : documentName(path);
+}
+
+std::string writeRequestText(const JobRequest &request, const std::vector<std::string> &documents) {
   const PrintSettingsStore options = optionsToSend(request);
   const IppMessage ipp(newJobRequest(request, options));
   std::string text;
@@ -160,6 +169,9 @@ std::string writeRequestText(const JobRequest &request) {
        attribute = ippNextAttribute(ipp.get()))
     if (ippGetName(attribute) != nullptr) // a separator between two groups has no name
       text += attributeText(request, attribute);
+  for (std::size_t i = 0; i < documents.size(); i++)
+    text += lineOf(IPP_TAG_OPERATION, "document-name", IPP_TAG_NAME,
+                   visible(nameToSend(request, i, documents[i])));
   return text;
 }
 

@@ -4,6 +4,7 @@
 
 #include "PrintSettingsStore.hpp"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -44,8 +45,13 @@ bool isSecret(const JobRequest &request, const char *name);
 /// Lists the attributes of the request in the order of sending, one line "group name (type) =
 /// value" for each. A boolean has a second line with the word that filters receive among their
 /// options: its name, or "no" followed by its name. Hides secret values even from the user who
-/// entered them, because such lists are saved and passed on. Throws like `optionsToSend`.
-std::string writeRequestText(const JobRequest &request);
+/// entered them, because such lists are saved and passed on. A line for each of the documents,
+/// given their paths, follows. Throws like `optionsToSend`.
+std::string writeRequestText(const JobRequest &request,
+                             const std::vector<std::string> &documents = {});
+
+/// What CUPS calls the document with this index and path.
+std::string nameToSend(const JobRequest &request, std::size_t index, const std::string &path);
 
 } // namespace imageposition
 

@@ -4,7 +4,6 @@
 #include "CupsHandles.hpp"
 #include "CupsTexts.hpp"
 #include "Destinations.hpp"
-#include "DocumentNames.hpp"
 #include "DocumentStream.hpp"
 #include "JobTexts.hpp"
 #include "Phrases.hpp"
@@ -113,7 +112,6 @@ private:
   void sendDocument(DocumentStream &document, std::string_view chunk, bool isLast);
   void startDocument(bool isLast);
   void finishDocument();
-  std::string nameOfDocument(std::size_t index, const std::string &path) const;
   const char *format() const;
   void sendChunk(std::string_view chunk);
   std::string_view nextChunk(DocumentStream &document);
@@ -247,10 +245,6 @@ std::string_view Submission::firstChunk(DocumentStream &document) {
   return chunk;
 }
 
-std::string Submission::nameOfDocument(std::size_t index, const std::string &path) const {
-  return index < request_.documentNames.size() ? request_.documentNames[index] : documentName(path);
-}
-
 const char *Submission::format() const {
   if (options_.get("raw") != nullptr)
     return CUPS_FORMAT_RAW;
@@ -302,7 +296,7 @@ void Submission::sendDocuments(const JobDocuments &documents) {
   for (std::size_t i = 0; i < documents.size(); i++) {
     const std::string &path = documents[i];
     documentPath_ = path;
-    documentName_ = nameOfDocument(i, path);
+    documentName_ = nameToSend(request_, i, path);
     DocumentStream document(path);
     const std::string_view chunk = firstChunk(document);
     if (job_ == 0) {

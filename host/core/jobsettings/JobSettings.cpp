@@ -304,6 +304,12 @@ std::vector<std::string> JobSettings::names() const {
   return names;
 }
 
+bool hasLandscapePages(const PrintSettingsStore &settings, bool isDocumentLandscape) {
+  static const std::vector<std::string> kTurned{"4", "5"};
+  const auto orientation = valueIn(settings, *findSetting("orientation-requested"));
+  return isDocumentLandscape || (orientation && contains(kTurned, *orientation));
+}
+
 bool isLayoutSetting(const PrinterDescription &printer, const std::string &name) {
   if (isPrinterOption(printer, name))
     return false;

@@ -65,6 +65,10 @@ private:
   JobSettingsContext context_;
 };
 
+/// Whether the pages lie on their side on an upright sheet: as the document's do, or because the
+/// settings turn them.
+bool hasLandscapePages(const PrintSettingsStore &settings, bool isDocumentLandscape);
+
 /// Whether the setting belongs to one document's layout, so that the next job does not begin with
 /// it.
 bool isLayoutSetting(const PrinterDescription &printer, const std::string &name);

@@ -1,5 +1,6 @@
 #include "DocumentMover.hpp"
 
+#include "Phrases.hpp"
 #include "PlacementTexts.hpp"
 #include "ProgramFolder.hpp"
 #include "TemporaryData.hpp"
@@ -165,6 +166,10 @@ private:
 };
 
 } // namespace
+
+ShiftFailure::ShiftFailure(MoveProblem problem, const std::string &reason)
+    : Failure(ExitCode::Job, messages::sentences({reason, messages::kPrintUnmoved})),
+      problem_(problem), reason_(reason) {}
 
 std::optional<LayoutPrograms> layoutPrograms() {
   LayoutPrograms programs;

@@ -12,16 +12,17 @@
 
 namespace imageposition {
 
-/// The image of a document cannot be moved here. The message is a sentence that says why, and what
-/// to do. Nothing was sent.
+/// The image of a document cannot be moved here. Nothing was sent. The message also says how to
+/// print without moving it on the command line; `reason` leaves that out, for a window that asks.
 class ShiftFailure : public Failure {
 public:
-  ShiftFailure(MoveProblem problem, const std::string &message)
-      : Failure(ExitCode::Job, message), problem_(problem) {}
+  ShiftFailure(MoveProblem problem, const std::string &reason);
   MoveProblem problem() const noexcept { return problem_; }
+  const std::string &reason() const noexcept { return reason_; }
 
 private:
   MoveProblem problem_;
+  std::string reason_;
 };
 
 /// The parts of CUPS that lay documents out.

@@ -1,7 +1,5 @@
 #include "PlacementTexts.hpp"
 
-#include "Phrases.hpp"
-
 namespace imageposition::messages {
 
 namespace {
@@ -11,8 +9,9 @@ std::string withReason(const Text &plain, const Text &reasoned, const std::strin
   return reason.empty() ? plain.with(document) : reasoned.with(document, reason);
 }
 
-std::string sentenceFor(const std::string &document, MoveProblem problem,
-                        const std::string &detail) {
+} // namespace
+
+std::string notMoved(const std::string &document, MoveProblem problem, const std::string &detail) {
   switch (problem) {
   case MoveProblem::NoConversion:
     return text("The image of \"{1}\" cannot be moved: CUPS on this computer does not read this "
@@ -53,21 +52,14 @@ std::string sentenceFor(const std::string &document, MoveProblem problem,
   }
 }
 
-} // namespace
-
 const Text kNoFilters = text("The image cannot be moved: the package cups-filters is not installed "
                              "on this computer. Install it.");
 const Text kRawNotMoved = text("The image of a raw job cannot be moved. Print without -o raw.");
 const Text kPrintUnmoved = text("To print without moving the image, use --no-shift.");
 
-std::string notMoved(const std::string &document, MoveProblem problem, const std::string &detail) {
-  return sentences({sentenceFor(document, problem, detail), kPrintUnmoved.str()});
-}
 std::string moverMissing(const std::string &program) {
-  return sentences({text("The image cannot be moved: the program {1} is missing. Install "
-                         "print-dialog again.")
-                        .with(program),
-                    kPrintUnmoved.str()});
+  return text("The image cannot be moved: the program {1} is missing. Install print-dialog again.")
+      .with(program);
 }
 std::string movedHere(const std::string &directions) {
   return text("The image is moved here, before the job is sent. {1}").with(directions);

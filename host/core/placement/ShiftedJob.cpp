@@ -79,6 +79,13 @@ PrintSettingsStore panelSettings(const PrintSettingsStore &options, ppd_file_t *
   return settings;
 }
 
+std::string lossesOf(const ShiftPlan &plan, ppd_file_t *ppd) {
+  PreviewRequest request = readPreviewRequest({}, ppd);
+  request.front = plan.front;
+  request.back = plan.back;
+  return messages::sentences(describeLosses(makePreview(request)));
+}
+
 [[noreturn]] void failCancelled() {
   throw SubmissionFailure(JobProblem::Cancelled, ExitCode::Cancelled, messages::kCancelled);
 }
@@ -162,15 +169,14 @@ ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd) {
 
 ShiftedJob::ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t *ppd,
                        std::string description)
-    : split_(splitJob(job, ppd, shiftNote(plan))), plan_(plan), ppd_(std::move(description)) {
+    : split_(splitJob(job, ppd, shiftNote(plan))), plan_(plan), losses_(lossesOf(plan, ppd)),
+      ppd_(std::move(description)) {
   const char *const format = split_.layout.get("document-format");
   if (split_.layout.get("raw") != nullptr || (format != nullptr && isSame(format, kRawFormat)))
-    throw ShiftFailure(MoveProblem::NoConversion,
-                       messages::sentences({messages::kRawNotMoved, messages::kPrintUnmoved}));
+    throw ShiftFailure(MoveProblem::NoConversion, messages::kRawNotMoved);
   const auto programs = layoutPrograms();
   if (!programs)
-    throw ShiftFailure(MoveProblem::NoConversion,
-                       messages::sentences({messages::kNoFilters, messages::kPrintUnmoved}));
+    throw ShiftFailure(MoveProblem::NoConversion, messages::kNoFilters);
   task_.format = format != nullptr ? format : "";
   split_.layout.remove("document-format");
   split_.printing.settings.remove("document-format"); // the result is PDF

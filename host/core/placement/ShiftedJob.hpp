@@ -45,6 +45,8 @@ public:
 
   /// Says that the image is moved here, and by how much.
   std::string description() const;
+  /// Says what the move pushes out of the printable area; empty if that is nothing.
+  const std::string &losses() const noexcept { return losses_; }
   /// What is sent with the moved documents.
   const JobRequest &request() const noexcept { return split_.printing; }
 
@@ -55,6 +57,7 @@ public:
 private:
   JobSplit split_;
   ShiftPlan plan_;
+  std::string losses_;
   std::string ppd_;
   MoverTask task_;
 };

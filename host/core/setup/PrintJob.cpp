@@ -451,7 +451,7 @@ std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request) {
 
 std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinations,
                                                const std::string &ticketPath,
-                                               JobSubmission::Changed changed) {
+                                               JobSubmission::Changed changed, OwnShift ownShift) {
   if (!isSubmitted_) {
     if (ticketPath.empty())
       writeToOutput(writeOptionText(ticket_.settings));
@@ -460,14 +460,17 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     return nullptr;
   }
   JobRequest request = this->request(destinations);
+  if (ownShift == OwnShift::Skip)
+    removeOffsets(request);
   const std::shared_ptr<const ShiftedJob> shifted = shiftedJob(request);
+  losses_ = shifted ? shifted->losses() : "";
   if (arguments_.isDryRun) {
     totalSize(documentsToSend()); // fails where a submission would
     if (const std::string note = alignmentNote(); !note.empty())
       std::cerr << note << '\n';
     if (shifted)
-      std::cerr << shifted->description() << '\n';
-    std::cout << writeRequestText(shifted ? shifted->request() : request);
+      std::cerr << messages::sentences({shifted->description(), losses_}) << '\n';
+    std::cout << writeRequestText(shifted ? shifted->request() : request, documentsToSend());
     return nullptr;
   }
   JobPreparation prepare;
@@ -486,6 +489,8 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
     return;
   const auto inputs = std::count(documents_.begin(), documents_.end(), "-"); // lp counts files
   output << messages::jobSent(printer, sent.id, documents_.size() - inputs) << std::endl;
+  if (arguments_.isBatch && !losses_.empty()) // the window has the picture
+    notes << losses_ << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;
 }

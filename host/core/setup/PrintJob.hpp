@@ -39,6 +39,12 @@ OpenedPrinter openQueue(const std::string &queue, MissingShift shift);
 /// command line or the environment names a printer.
 std::string rememberedQueue(const Arguments &arguments, const History &history);
 
+/// What becomes of offsets that the dialog would apply itself.
+enum class OwnShift {
+  Apply,
+  Skip, ///< As with --no-shift.
+};
+
 /// Main thread only.
 class PrintJob {
 public:
@@ -134,13 +140,15 @@ public:
   /// empty), writes the request of a dry run to standard output, or starts to submit the job. If
   /// the printer's driver does not apply the offsets, the submission first moves the documents.
   /// Returns the submission, which the caller awaits and reports; null in the other cases. Throws a
-  /// `Failure`.
+  /// `Failure`, which is a `ShiftFailure` if the dialog cannot move the image.
   std::unique_ptr<JobSubmission> print(const DestinationList &destinations,
                                        const std::string &ticketPath,
-                                       JobSubmission::Changed changed = {});
+                                       JobSubmission::Changed changed = {},
+                                       OwnShift ownShift = OwnShift::Apply);
 
-  /// Reports the submitted job: lp's line to `output`, remarks to `notes`. Writes nothing if the
-  /// command line has -s or -m.
+  /// Reports the submitted job: lp's line to `output`, remarks to `notes`. In batch mode, one
+  /// of these is what the dialog's move of the image pushes out of the printable area. Writes
+  /// nothing if the command line has -s or -m.
   void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
   /// CUPS's name of the submitted job, "office-12"; empty before `report`.
   const std::string &sentName() const noexcept { return sentName_; }
@@ -176,6 +184,7 @@ private:
   bool isSubmitted_;
   bool isTicketChosen_ = false;
   std::string missingPrinter_;
+  std::string losses_; // of the job that `print` submits
   std::string sentName_;
   std::string done_;
 };

@@ -174,8 +174,8 @@ bool operator==(const Preview &a, const Preview &b) noexcept {
   return a.page.width == b.page.width && a.page.height == b.page.height &&
          a.page.imageable == b.page.imageable && a.page.isSizeKnown == b.page.isSizeKnown &&
          a.page.isImageableKnown == b.page.isImageableKnown && a.turning == b.turning &&
-         a.availability == b.availability && a.front == b.front && a.back == b.back &&
-         a.frontSeenThrough == b.frontSeenThrough;
+         a.availability == b.availability && a.hasLandscapePages == b.hasLandscapePages &&
+         a.front == b.front && a.back == b.back && a.frontSeenThrough == b.frontSeenThrough;
 }
 
 bool turnsAboutVerticalAxis(const PageShape &page, Turning turning) noexcept {
@@ -200,6 +200,8 @@ Preview makePreview(const PreviewRequest &request) {
   preview.page = request.page;
   preview.turning = request.turning;
   preview.availability = request.availability;
+  preview.hasLandscapePages =
+      request.hasLandscapePages && !(request.page.height < request.page.width);
   preview.front = shiftedSide(request.page, shifts ? request.front : Offset{});
   if (request.turning == Turning::OneSided)
     return preview;
@@ -226,6 +228,15 @@ std::vector<std::string> describeOffsets(const Offset &front, const Offset &back
   return sentences;
 }
 
+std::vector<std::string> describeLosses(const Preview &preview) {
+  std::vector<std::string> sentences;
+  if (const std::string edges = lostEdges(preview.front); !edges.empty())
+    sentences.push_back(messages::previewFrontLoses(edges));
+  if (const std::string edges = preview.back ? lostEdges(*preview.back) : ""; !edges.empty())
+    sentences.push_back(messages::previewBackLoses(edges));
+  return sentences;
+}
+
 std::vector<std::string> describePreview(const Preview &preview) {
   std::vector<std::string> sentences;
   if (!preview.page.isSizeKnown)
@@ -243,10 +254,10 @@ std::vector<std::string> describePreview(const Preview &preview) {
     sentences.push_back(messages::previewBackAgainstFront(directions(apart)));
   else if (!isZero(preview.back->offset))
     sentences.emplace_back(messages::kPreviewSidesTogether);
-  if (const std::string edges = lostEdges(preview.front); !edges.empty())
-    sentences.push_back(messages::previewFrontLoses(edges));
-  if (const std::string edges = lostEdges(*preview.back); !edges.empty())
-    sentences.push_back(messages::previewBackLoses(edges));
+  for (std::string &sentence : describeLosses(preview))
+    sentences.push_back(std::move(sentence));
+  if (preview.hasLandscapePages)
+    sentences.emplace_back(messages::kPreviewUprightSheet);
   return sentences;
 }
 

@@ -48,6 +48,8 @@ struct PreviewRequest {
   Offset front;
   Offset back; ///< Equals `front` unless the job has separate back offsets.
   Availability availability;
+  /// Whether the pages lie on their side on the sheet, of which the offsets are nevertheless.
+  bool hasLandscapePages = false;
 };
 
 /// One side, as seen by its reader.
@@ -65,6 +67,7 @@ struct Preview {
   PageShape page;
   Turning turning = Turning::LongEdge;
   Availability availability;
+  bool hasLandscapePages = false; ///< On an upright sheet.
   SidePreview front;
   /// As the reader of the back sees it. None for one-sided printing.
   std::optional<SidePreview> back;
@@ -100,6 +103,9 @@ Offset backAgainstFront(const Preview &preview);
 
 /// Says by how much each side moves, in sentences.
 std::vector<std::string> describeOffsets(const Offset &front, const Offset &back);
+
+/// Says what content that fills the printable area loses: a sentence for each side that does.
+std::vector<std::string> describeLosses(const Preview &preview);
 
 /// Describes the picture, one sentence per element, for screen readers and the tool tip.
 std::vector<std::string> describePreview(const Preview &preview);

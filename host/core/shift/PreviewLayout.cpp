@@ -80,8 +80,9 @@ void layOutPages(PreviewLayout &layout, const Preview &preview, const PictureSiz
   const double gap = columnGap(size);
   const PixelRectangle titles = column.line();
   column.skip(margin(size) / 2);
-  // The pages and the grid share what remains after nine lines and the gaps.
-  const double pagesHeight = std::max(0.0, (size.height - 9.5 * size.lineHeight) / 2);
+  // The pages and the grid share what remains after nine lines, perhaps a note, and the gaps.
+  const double lines = preview.hasLandscapePages ? 10.5 : 9.5;
+  const double pagesHeight = std::max(0.0, (size.height - lines * size.lineHeight) / 2);
   const double width = third(titles, 0, gap).width;
   layout.pixelsPerPoint =
       std::min(width / preview.page.width.count, pagesHeight / preview.page.height.count);
@@ -174,6 +175,8 @@ PreviewLayout layOutPreview(const Preview &preview, const PictureSize &size) {
   layOutPages(layout, preview, size, column);
   column.skip(margin(size) / 2);
   layout.legend = column.line();
+  if (preview.hasLandscapePages)
+    layout.note = column.line();
   column.skip(margin(size));
   layOutGrid(layout, preview, size, column);
   return layout;

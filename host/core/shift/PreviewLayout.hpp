@@ -51,6 +51,7 @@ struct PreviewLayout {
   std::array<PagePlace, 3> pages;
   double pixelsPerPoint = 0;
   PixelRectangle legend;
+  PixelRectangle note; ///< About landscape pages; empty if there are none.
   PixelRectangle enlargedTitle;
   PixelRectangle grid; ///< Unshifted marks are at its centre.
   PixelRectangle relation;

@@ -31,6 +31,7 @@ std::string previewFrontLoses(const std::string &edges) {
 std::string previewBackLoses(const std::string &edges) {
   return text("A back that fills its printable area loses {1}.").with(edges);
 }
+const Text kPreviewUprightSheet = text("The offsets are those of the upright sheet.");
 std::string toTheRight(const std::string &length) { return text("{1} to the right").with(length); }
 std::string toTheLeft(const std::string &length) { return text("{1} to the left").with(length); }
 std::string downwards(const std::string &length) { return text("{1} down").with(length); }

@@ -27,6 +27,8 @@ std::string previewBackAgainstFront(const std::string &directions);
 extern const Text kPreviewSidesTogether;
 std::string previewFrontLoses(const std::string &edges);
 std::string previewBackLoses(const std::string &edges);
+/// For landscape pages on an upright sheet. Also a line in the picture.
+extern const Text kPreviewUprightSheet;
 
 /// For example "2.5 mm to the right"; `length` includes its unit.
 std::string toTheRight(const std::string &length);

@@ -1,6 +1,7 @@
 #import "PreviewDrawing.h"
 
 #include "PictureTexts.hpp"
+#include "ShiftTexts.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -188,6 +189,9 @@ void drawPreviewPages(const Preview &preview, const PreviewLayout &layout) {
     drawLegendEntry(next, layout.legend, messages::kPreviewLost, true);
   drawLine(messages::kPreviewToScale, layout.legend, previewFont(), colours.secondaryText,
            Alignment::Right);
+  if (preview.hasLandscapePages)
+    drawLine(messages::kPreviewUprightSheet, layout.note, previewFont(), colours.text,
+             Alignment::Left);
 }
 
 } // namespace imageposition

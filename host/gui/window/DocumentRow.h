@@ -31,6 +31,9 @@ struct DocumentRowState;
 - (void)refresh;
 /// The number of pages of the job's only document; 0 while it is not known.
 - (int)pages;
+/// Whether the first page of the job's only document is wider than high. NO while that is not
+/// known.
+- (BOOL)isLandscape;
 /// Opens the window of the button that was pressed, if any: in an event, where a window can be
 /// shown.
 - (void)showQuestion;

@@ -107,6 +107,11 @@ std::string documentList(const std::vector<std::string> &paths) {
   return facts ? facts->pages : 0;
 }
 
+- (BOOL)isLandscape {
+  const auto facts = state->examiner->facts();
+  return facts && facts->paper && facts->paper->length < facts->paper->width;
+}
+
 - (void)refresh {
   showCut(label, [self text], NSWidth([label frame]));
   if ([self paths].size() > 1)

@@ -2,6 +2,8 @@
 
 #include "ExitCode.hpp"
 #include "HelpTexts.hpp"
+#include "ImageShiftText.hpp"
+#include "JobSettings.hpp"
 #include "JobSubmission.hpp"
 #import "MnemonicControls.h"
 #import "NotePanel.h"
@@ -247,12 +249,16 @@ struct imageposition::PrintDialogState {
   [self keepFocus];
 }
 
-/// Called at every change of a setting.
+/// Called at every change of a setting, and of what is known of the document.
 - (void)refreshPicture {
   PrintJob &job = state->session->job();
   PreviewView *const view = picture;
+  DocumentRow *const documentRow = documents;
   [window protect:[&] { // it may be a panel that has changed the setting
-    [view showPreview:makePreview(job.settings(), job.printer().ppd())];
+    PreviewRequest request = readPreviewRequest(job.settings(), job.printer().ppd());
+    request.hasLandscapePages = isImageShiftAdded(job.printer().ppd()) &&
+                                hasLandscapePages(job.settings(), [documentRow isLandscape]);
+    [view showPreview:makePreview(request)];
   }];
 }
 
@@ -313,6 +319,7 @@ struct imageposition::PrintDialogState {
   [options askForChosenValue];
   [more askForChosenValueOver:window];
   [sending askForPassword];
+  [sending askToPrintUnmoved];
 }
 
 /// Another thread has found something.
@@ -327,6 +334,7 @@ struct imageposition::PrintDialogState {
     if ([printerRow takeAnswer])
       [paneArea printersListed];
   }];
+  [self refreshPicture]; // a document may have been examined
 }
 
 - (void)userActedOn:(NSView *)view {

@@ -30,7 +30,8 @@ struct SendingState;
 - (NSProgressIndicator *)progressView;
 
 /// Starts to send the job, or asks for a ticket's name and writes it. Ends the modal loop once that
-/// is done. `focused` gets the focus back if it fails.
+/// is done. If the image of a document cannot be moved, the user decides whether to print the job
+/// unmoved. `focused` gets the focus back if it fails.
 - (void)startWithFocus:(NSView *)focused;
 - (BOOL)isUnderWay;
 /// Has no effect once CUPS has everything.
@@ -39,6 +40,8 @@ struct SendingState;
 - (void)look;
 /// Asks for the password that CUPS waits for, if any: in an event, where a window can be shown.
 - (void)askForPassword;
+/// The same for whether to print the job unmoved.
+- (void)askToPrintUnmoved;
 /// If CUPS does not print at once what it took, shows why, and lets the user cancel the job. NO
 /// when the user has cancelled it.
 - (BOOL)keepWaitingJob;

@@ -4,6 +4,7 @@
 #import "ControlLock.h"
 #include "CupsConnection.hpp"
 #include "CupsTexts.hpp"
+#include "DocumentMover.hpp"
 #include "HelpTexts.hpp"
 #include "JobSubmission.hpp"
 #include "JobTexts.hpp"
@@ -38,13 +39,15 @@ struct imageposition::SendingState {
   const RunLoopWake &wake;
   std::ostream &errors;
   std::unique_ptr<JobSubmission> submission;
-  std::unique_ptr<ControlLock> lock; // while there is a submission
-  NSView *focused = nil;             // the window's
-  bool isAsking = false;             // for a password
+  std::unique_ptr<ControlLock> lock;     // while there is a submission
+  NSView *focused = nil;                 // the window's
+  bool isAsking = false;                 // for a password
+  std::optional<ShiftFailure> unmovable; // about which the user is to be asked
   std::optional<SubmittedJob> sent;
 };
 
 @interface Sending ()
+- (void)startWith:(OwnShift)shift;
 - (void)showSending:(BOOL)sending;
 - (void)showProgress;
 - (void)finish;
@@ -108,6 +111,12 @@ struct imageposition::SendingState {
 }
 
 - (void)startWithFocus:(NSView *)focused {
+  state->focused = focused;
+  [self startWith:OwnShift::Apply];
+}
+
+- (void)startWith:(OwnShift)shift {
+  state->unmovable.reset();
   PrintJob &job = [dialog session].job();
   if (job.isSubmitted() && !job.hasDocument()) {
     [dialog say:messages::kNothingToPrint];
@@ -122,16 +131,21 @@ struct imageposition::SendingState {
       ticket = *named;
     }
     state->submission =
-        job.print([dialog session].destinations().list(), ticket, state->wake.signal());
+        job.print([dialog session].destinations().list(), ticket, state->wake.signal(), shift);
+  } catch (const ShiftFailure &failure) {
+    state->unmovable = failure;
   } catch (const Failure &failure) {
     [dialog say:failure.what()];
+    return;
+  }
+  if (state->unmovable) {
+    [self askToPrintUnmoved];
     return;
   }
   if (![self isUnderWay]) {
     [NSApp stopModalWithCode:NSOKButton];
     return;
   }
-  state->focused = focused;
   [dialog show:""];
   [progress setDoubleValue:0];
   [self showSending:YES];
@@ -166,6 +180,11 @@ struct imageposition::SendingState {
 
 - (void)showProgress {
   const JobProgress now = state->submission->progress();
+  if (now.preparedPercent) {
+    [progress setDoubleValue:*now.preparedPercent / 100.0];
+    [dialog show:messages::layingOut(*now.preparedPercent)];
+    return;
+  }
   const auto total = now.total.value_or(0);
   [progress
       setDoubleValue:total == 0 ? 0 : static_cast<double>(now.sent) / static_cast<double>(total)];
@@ -185,9 +204,31 @@ struct imageposition::SendingState {
     [dialog show:""]; // "Sending" is over when the user reads the note
     [NSApp stopModalWithCode:NSOKButton];
     wakeModalLoop([progress window]);
+  } catch (const ShiftFailure &failure) {
+    [dialog show:""];
+    state->unmovable = failure;
+    wakeModalLoop([progress window]);
   } catch (const Failure &failure) {
     [dialog say:failure.what()];
   }
+}
+
+- (void)askToPrintUnmoved {
+  if (!state->unmovable || [self isUnderWay])
+    return;
+  const ShiftFailure failure = *state->unmovable;
+  state->unmovable.reset();
+  const bool isMovedBefore = failure.problem() == MoveProblem::MovedBefore;
+  const Proposal proposal{
+      isMovedBefore ? messages::kPrintAsItIsWindow : messages::kPrintUnmovedWindow,
+      failure.reason(), isMovedBefore ? messages::kPrintAsItIs : messages::kPrintUnmovedButton,
+      messages::kGoBack, true};
+  if (isConfirmed([progress window], proposal)) {
+    [self startWith:OwnShift::Skip];
+    return;
+  }
+  [dialog say:failure.reason()];
+  [[progress window] makeFirstResponder:state->focused];
 }
 
 - (void)askForPassword {

@@ -90,6 +90,14 @@ const Text kNothingToPrint =
 const Text kPrintAnywayWindow = text("Print anyway?");
 const Text kPrintAnyway = text("Print anyway");
 const Text kGoBack = text("Go back");
+const Text kPrintUnmovedWindow = text("Print unmoved?");
+const Text kPrintUnmovedButton = text("Print unmoved");
+const Text kPrintAsItIsWindow = text("Print as it is?");
+const Text kPrintAsItIs = text("Print as it is");
+std::string layingOut(int percent) {
+  return percent == 0 ? text("Laying out the pages…").str()
+                      : text("Laying out the pages: {1} %").with(std::to_string(percent));
+}
 std::string sending(const std::string &sent, const std::string &total) {
   return total.empty() ? text("Sending: {1}").with(sent)
                        : text("Sending: {1} of {2}").with(sent, total);

@@ -62,6 +62,14 @@ extern const Text kNothingToPrint;
 extern const Text kPrintAnywayWindow;
 extern const Text kPrintAnyway;
 extern const Text kGoBack;
+/// When the image of a document cannot be moved.
+extern const Text kPrintUnmovedWindow;
+extern const Text kPrintUnmovedButton;
+/// The same for a document whose image was moved before.
+extern const Text kPrintAsItIsWindow;
+extern const Text kPrintAsItIs;
+/// cups-filters do not tell how far they are, so it stays at 0 % for a while.
+std::string layingOut(int percent);
 std::string sending(const std::string &sent, const std::string &total);
 /// In kilobytes or megabytes.
 std::string stillWaiting(const std::string &server);

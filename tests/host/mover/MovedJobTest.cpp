@@ -1,4 +1,5 @@
 // Jobs of print-dialog compared with those of lp with the same options, as a printer gets them.
+#include "DrawnBoxes.hpp"
 #include "DrawnPdf.hpp"
 #include "DrawnRectangles.hpp"
 #include "KeptJobs.hpp"
@@ -12,7 +13,6 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <memory>
-#include <sstream>
 
 namespace imageposition {
 
@@ -46,25 +46,7 @@ std::string ppdWith(const std::string &more) {
   return text;
 }
 
-/// The boxes around what is drawn on the pages of a PostScript file, in points, upwards.
-std::vector<std::array<double, 4>> boxesInPostScript(const std::string &content) {
-  const TemporaryFolder folder;
-  const auto result = runProcess({"gs", "-q", "-dBATCH", "-dNOPAUSE", "-dSAFER", "-sDEVICE=bbox",
-                                  folder.write("job.ps", content)});
-  std::vector<std::array<double, 4>> boxes;
-  std::istringstream lines(result.errors);
-  for (std::string line; std::getline(lines, line);) {
-    std::istringstream words(line);
-    std::string keyword;
-    std::array<double, 4> box{};
-    if (words >> keyword >> box[0] >> box[1] >> box[2] >> box[3] &&
-        keyword == "%%HiResBoundingBox:")
-      boxes.push_back(box);
-  }
-  return boxes;
-}
-
-/// The same for raster of one bit for each pixel, read from its pixels.
+/// The same as `boxesInPostScript` for raster of one bit for each pixel, read from its pixels.
 std::vector<std::array<double, 4>> boxesInRaster(const std::string &content) {
   const Descriptor file = temporaryFile(content);
   cups_raster_t *const raster = cupsRasterOpen(file.get(), CUPS_RASTER_READ);
@@ -361,9 +343,22 @@ TEST_F(MovedJob, SaysInADryRunThatItIsMovedHere) {
                 "the right and 0.7 mm up. The back moves 3 mm to the left and 1.4 mm down"));
   EXPECT_THAT(result.output, HasSubstr("page-set (nameWithoutLanguage) = all"));
   EXPECT_THAT(result.output, Not(HasSubstr("LeftRightMargin")));
+  EXPECT_THAT(result.output, HasSubstr("document-name (nameWithoutLanguage) = pages-1.pdf\n"));
   const auto unmoved = print("office", {"--dry-run", "--no-shift"}, {numbered(1)});
   EXPECT_THAT(unmoved.errors, Not(HasSubstr("moved here")));
   EXPECT_THAT(unmoved.output, Not(HasSubstr("page-set")));
+}
+
+TEST_F(MovedJob, SaysOnceWhatIsPushedOutOfThePrintableArea) {
+  const std::string front = "A front that fills its printable area loses 2.5 mm at the right and "
+                            "0.7 mm at the top.",
+                    back = "A back that fills its printable area loses 3 mm at the left and 1.4 mm "
+                           "at the bottom.";
+  EXPECT_EQ(print("office", {}, {numbered(1)}).errors, front + " " + back + "\n");
+  EXPECT_THAT(print("office", {"--dry-run"}, {numbered(1)}).errors, HasSubstr(front + " " + back));
+  EXPECT_EQ(print("office", {"-s"}, {numbered(1)}).errors, "");
+  EXPECT_EQ(print("office", {"-o", "Duplex=None"}, {numbered(1)}).errors, "");
+  EXPECT_EQ(print("office", {"--no-shift"}, {numbered(1)}).errors, "");
 }
 
 TEST_F(MovedJob, SendsNothingIfADocumentCannotBeMoved) {

@@ -44,6 +44,18 @@ TEST_F(Examiner, CountsPagesAndMeasuresThem) {
   EXPECT_TRUE(facts->paper->isSame({{419.53}, {595.28}}));
 }
 
+TEST_F(Examiner, MeasuresPagesAsTheReaderSeesThem) {
+  for (const char *const rotation : {"/Rotate 90", "/Rotate -90", "/Rotate 450"}) {
+    const auto turned = examineContent(pdfWithPages({"0 0 100 200"}, rotation));
+    ASSERT_TRUE(turned && turned->paper) << rotation;
+    EXPECT_EQ(turned->paper->width.count, 200) << rotation;
+    EXPECT_EQ(turned->paper->length.count, 100) << rotation;
+  }
+  const auto upsideDown = examineContent(pdfWithPages({"0 0 100 200"}, "/Rotate 180"));
+  ASSERT_TRUE(upsideDown && upsideDown->paper);
+  EXPECT_EQ(upsideDown->paper->width.count, 100);
+}
+
 TEST_F(Examiner, HasNoPaperForPagesOfSeveralSizes) {
   const auto facts = examineContent(pdfWithPages({kA4, kA5}));
   ASSERT_TRUE(facts);

@@ -111,6 +111,23 @@ TEST(JobRequestText, ListsEachAttributeWithItsGroupTypeAndValue) {
   EXPECT_THAT(text, HasSubstr("job page-ranges (rangeOfInteger) = 1-3,7-7\n"));
 }
 
+TEST(JobRequestText, EndsWithTheNamesOfTheDocuments) {
+  JobRequest request = requestWith({});
+  const std::string without = writeRequestText(request);
+  const auto documents = [&](const std::vector<std::string> &paths) {
+    const std::string text = writeRequestText(request, paths);
+    EXPECT_EQ(text.substr(0, without.size()), without);
+    return text.substr(without.size());
+  };
+  EXPECT_EQ(documents({"letters/a.pdf", "-", "b\x1b.pdf"}),
+            "operation document-name (nameWithoutLanguage) = a.pdf\n"
+            "operation document-name (nameWithoutLanguage) = (stdin)\n"
+            "operation document-name (nameWithoutLanguage) = b\\x1b.pdf\n");
+  request.documentNames = {"report.pdf"};
+  EXPECT_EQ(documents({"/proc/self/fd/7"}),
+            "operation document-name (nameWithoutLanguage) = report.pdf\n");
+}
+
 TEST(JobRequestText, ShowsTheWordThatFiltersReadForABoolean) {
   const char *const kFlag = "com.morva.printsettings.19AImagePositionEnable";
   EXPECT_THAT(writeRequestText(requestWith({{kFlag, "True"}})),

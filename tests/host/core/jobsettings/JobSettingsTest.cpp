@@ -197,6 +197,22 @@ TEST_F(JobSettingsTest, TheSummaryHasThemInTheUsersWords) {
   EXPECT_EQ(section.lines[1].value, "house  (usually None)");
 }
 
+TEST_F(JobSettingsTest, LandscapePagesAreTheDocumentsOrTurned) {
+  EXPECT_FALSE(hasLandscapePages(job, false));
+  EXPECT_TRUE(hasLandscapePages(job, true));
+  const struct {
+    const char *name, *value;
+    bool expected;
+  } rows[] = {{"orientation-requested", "3", false}, {"orientation-requested", "4", true},
+              {"orientation-requested", "5", true},  {"orientation-requested", "6", false},
+              {"landscape", "true", true},           {"landscape", "false", false}};
+  for (const auto &row : rows) {
+    PrintSettingsStore settings;
+    settings.set(row.name, row.value);
+    EXPECT_EQ(hasLandscapePages(settings, false), row.expected) << row.name << row.value;
+  }
+}
+
 TEST_F(JobSettingsTest, TheTimeIsAskedForAsLocalTime) {
   ASSERT_EQ(settings().choose("job-hold-until", "{Hour=18 Minute=30}"), "");
   EXPECT_EQ(settings().firstValue("job-hold-until"), "{Hour=18 Minute=30}");

@@ -295,6 +295,7 @@ TEST(Preview, DiffersIfAnythingToDrawDiffers) {
   EXPECT_NE(preview, changed([](PreviewRequest &r) { r.turning = Turning::ShortEdge; }));
   EXPECT_NE(preview, changed([](PreviewRequest &r) { r.page.width.count++; }));
   EXPECT_NE(preview, changed([](PreviewRequest &r) { r.availability.bannerPages = true; }));
+  EXPECT_NE(preview, changed([](PreviewRequest &r) { r.hasLandscapePages = true; }));
 }
 
 TEST(PreviewSentences, DescribeTheShiftOfEachSide) {
@@ -333,6 +334,27 @@ TEST(PreviewSentences, DescribeTheShiftOfEachSide) {
     EXPECT_EQ(
         describePreview(makePreview(requestFor(portraitPage(), row.front, row.back, row.turning))),
         row.expected);
+}
+
+TEST(PreviewSentences, SayForLandscapePagesThatTheOffsetsAreTheSheets) {
+  constexpr const char *kSentence = "The offsets are those of the upright sheet.";
+  PreviewRequest request = requestFor(portraitPage(), {{25}, {0}}, {});
+  EXPECT_THAT(describePreview(makePreview(request)), Not(Contains(kSentence)));
+  request.hasLandscapePages = true;
+  EXPECT_THAT(describePreview(makePreview(request)), Contains(kSentence));
+  request.page = landscapePage(); // a sheet that lies on its side, too
+  EXPECT_THAT(describePreview(makePreview(request)), Not(Contains(kSentence)));
+}
+
+TEST(PreviewSentences, LossesCanBeSaidAlone) {
+  const auto losses = [](const Offset &front, const Offset &back, Turning turning) {
+    return describeLosses(makePreview(requestFor(portraitPage(), front, back, turning)));
+  };
+  EXPECT_THAT(losses({}, {}, Turning::LongEdge), IsEmpty());
+  EXPECT_THAT(losses({}, {{-15}, {0}}, Turning::LongEdge),
+              ElementsAre("A back that fills its printable area loses 1.5 mm at the left."));
+  EXPECT_THAT(losses({{0}, {3}}, {{-15}, {0}}, Turning::OneSided),
+              ElementsAre("A front that fills its printable area loses 0.3 mm at the bottom."));
 }
 
 TEST(PreviewSentences, LossesAreLimitedToTheContent) {

@@ -41,7 +41,12 @@ TEST(PreviewLayout, NothingOverlapsOrLeavesThePicture) {
     for (const auto &[width, height] : sizes) {
       SCOPED_TRACE(std::to_string(lineHeight) + ", " + std::to_string(width.count));
       const PictureSize size = preferredPictureSize(lineHeight);
-      const auto places = placesOf(layOutPreview(previewOf({}, {}, width, height), size));
+      Preview preview = previewOf({}, {}, width, height);
+      preview.hasLandscapePages = width < height;
+      const PreviewLayout layout = layOutPreview(preview, size);
+      auto places = placesOf(layout);
+      if (preview.hasLandscapePages)
+        places.push_back(layout.note);
       for (std::size_t i = 0; i < places.size(); i++) {
         EXPECT_GE(places[i].x, 0);
         EXPECT_GE(places[i].y, 0);

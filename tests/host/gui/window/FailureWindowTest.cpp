@@ -1,9 +1,12 @@
 // Failures between opening the window and printing: the window reports them and keeps the user's
 // input.
+#include "DrawnPdf.hpp"
 #include "WholeJob.hpp"
 
 #include <csignal>
+#include <filesystem>
 #include <fstream>
+#include <set>
 
 namespace {
 
@@ -174,6 +177,67 @@ TEST_F(Failing, ALargeDocumentIsStreamedWithProgressAndCancelLeavesNothing) {
   EXPECT_EQ(job.bytes, kLarge);
   expectValues(job, kEntered);
   EXPECT_EQ(printedCount(), 1); // the cancelled one left nothing
+}
+
+TEST_F(Failing, CancelWhileTheImageIsMovedLeavesNothing) {
+  addQueue("plain", "duplex-plain.ppd");
+  const TemporaryFolder temporary;
+  const std::string brief = folder.write("brief.pdf", pdfWithNumberedPages(1));
+  const std::string lengthy = folder.write("lengthy.pdf", pdfWithNumberedPages(6000));
+  PrintWindow window({"-d", "plain", brief, lengthy}, {"TMPDIR=" + temporary.path()});
+  fillIn(window);
+  const auto files = [&] {
+    std::set<std::string> names;
+    for (const auto &entry : std::filesystem::directory_iterator(temporary.path()))
+      names.insert(entry.path().filename());
+    return names;
+  };
+  const auto before = files();
+  window.click("Print");
+  EXPECT_TRUE(window.becomes([](const Screen &shown) {
+    for (const Control &control : shown.controls)
+      if (control.kind == "progress" && std::stod(control.text) == 0.5)
+        return shown.says("Laying out the pages: 50 %");
+    return false;
+  }));
+  EXPECT_NE(files(), before);
+  window.press("Escape");
+  ASSERT_TRUE(window.says("Nothing was printed"));
+  EXPECT_EQ(runProcess({"pgrep", "-f", "print-dialog-mover.*" + lengthy}).output, "");
+  EXPECT_EQ(files(), before);
+  EXPECT_THAT(waitingJobs(), IsEmpty());
+  expectAllIsStillThere(window);
+  command({"lpadmin", "-x", "plain"});
+}
+
+TEST_F(Failing, ADocumentThatWasMovedBeforeIsPrintedAsItIsOnceTheUserAgrees) {
+  addQueue("plain", "duplex-plain.ppd");
+  std::string content = pdfWithNumberedPages(2);
+  const std::string catalogue = "/Type /Catalog";
+  content.insert(content.find(catalogue) + catalogue.size(),
+                 " /PieceInfo << /ImagePosition << >> >>");
+  PrintWindow window({"-d", "plain", folder.write("moved.pdf", content)});
+  fillIn(window);
+  window.click("Print");
+  const auto asks = [&] {
+    return window.becomes([](const Screen &shown) {
+      return shown.keyWindow == "Print as it is?" && shown.says("\"moved.pdf\" was moved before") &&
+             !shown.says("--no-shift");
+    });
+  };
+  ASSERT_TRUE(asks());
+  window.press("Return");
+  ASSERT_TRUE(window.becomes([](const Screen &shown) { return shown.keyWindow == "Print"; }));
+  expectAllIsStillThere(window);
+  EXPECT_THAT(waitingJobs(), IsEmpty());
+  window.click("Print");
+  ASSERT_TRUE(asks());
+  window.click("Print as it is");
+  const PrintedJob job = printed(jobOf(window.ended()));
+  EXPECT_EQ(job.bytes, content.size());
+  EXPECT_THAT(job.optionText, testing::Not(HasSubstr("LeftRightMargin")));
+  EXPECT_EQ(printedCount(), 1);
+  command({"lpadmin", "-x", "plain"});
 }
 
 TEST_F(Failing, OnlyCancelIsEnabledWhileADocumentIsSent) {

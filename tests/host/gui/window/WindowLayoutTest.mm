@@ -155,7 +155,8 @@ TEST_P(WindowLayout, HasRoomForTheTextOfThePicture) {
                       widthOf(messages::previewSquare("0.2 mm"), previewFont())}),
             layout.enlargedTitle.width);
   for (const std::string &words :
-       {messages::kPreviewMovesTogether.str(), messages::previewMoves(arrowText({{-99}, {-99}}))})
+       {messages::kPreviewMovesTogether.str(), messages::previewMoves(arrowText({{-99}, {-99}})),
+        messages::kPreviewUprightSheet.str()})
     EXPECT_LE(widthOf(words, previewFont()), layout.relation.width) << words;
 }
 
