@@ -100,7 +100,7 @@ ExitCode printSheets(const Arguments &arguments, PrintJob &job, Aligner &aligner
 }
 
 void listAlignments(const Alignments &alignments) {
-  for (const Alignment &alignment : alignments.all())
+  for (const MeasuredAlignment &alignment : alignments.all())
     std::cout << alignmentLine(alignment) << '\n';
   if (alignments.all().empty())
     std::cerr << messages::kNothingMeasured.view() << '\n';
@@ -123,7 +123,7 @@ void importAlignments(const std::string &path) {
   std::ostringstream errors;
   require(changeAlignments(
               [&](Alignments &alignments) {
-                for (const Alignment &alignment : imported.all())
+                for (const MeasuredAlignment &alignment : imported.all())
                   alignments.store(alignment);
               },
               errors),

@@ -64,8 +64,8 @@ SideOffsets readOffsets(const Json &entry) {
   return {readOffset(entry.at("front")), readOffset(entry.at("back"))};
 }
 
-Alignment readAlignment(const Json &entry) {
-  Alignment alignment{readKey(entry), readOffsets(entry), {}, 0, entry.at("date")};
+MeasuredAlignment readAlignment(const Json &entry) {
+  MeasuredAlignment alignment{readKey(entry), readOffsets(entry), {}, 0, entry.at("date")};
   if (alignment.date.size() != kDateLength)
     refuse();
   if (entry.contains("spread"))
@@ -159,7 +159,7 @@ std::optional<FoundAlignment> Alignments::find(const AlignmentKey &key) const {
   return FoundAlignment{forOtherTurning(found->offsets), found->date, true};
 }
 
-void Alignments::store(const Alignment &alignment) {
+void Alignments::store(const MeasuredAlignment &alignment) {
   if (const auto former = entryOf(all_, alignment.key); former != all_.end())
     *former = alignment;
   else
@@ -185,7 +185,7 @@ void Alignments::setPrinted(const AlignmentKey &key, const SideOffsets &offsets)
 
 std::string Alignments::text() const {
   Json alignments = Json::array(), printed = Json::array();
-  for (const Alignment &alignment : all_) {
+  for (const MeasuredAlignment &alignment : all_) {
     Json entry = written(alignment.key, alignment.offsets);
     entry["spread"] = written(alignment.spread);
     entry["sheets"] = alignment.sheets;
@@ -261,7 +261,7 @@ std::string keyInWords(const AlignmentKey &key, ppd_file_t *ppd) {
   return messages::inOrder(parts);
 }
 
-std::string alignmentLine(const Alignment &alignment) {
+std::string alignmentLine(const MeasuredAlignment &alignment) {
   return messages::named(alignment.key.queue,
                          messages::alignment(keyInWords(alignment.key, nullptr),
                                              messages::offsetsInWords(alignment.offsets),

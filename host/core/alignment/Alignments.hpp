@@ -24,7 +24,7 @@ struct AlignmentKey {
 /// From the marked choices. `queue` may have an instance.
 AlignmentKey alignmentKeyOf(const std::string &queue, ppd_file_t *ppd);
 
-struct Alignment {
+struct MeasuredAlignment {
   AlignmentKey key;
   SideOffsets offsets;
   Offset spread;    ///< Between the sheets, as in `Measurement`.
@@ -53,12 +53,12 @@ public:
   static Alignments read(std::ostream &errors);
 
   /// In the order in which they were stored first.
-  const std::vector<Alignment> &all() const noexcept { return all_; }
+  const std::vector<MeasuredAlignment> &all() const noexcept { return all_; }
   /// What was measured with this turning, or else with the long edge; none otherwise.
   std::optional<FoundAlignment> find(const AlignmentKey &key) const;
 
   /// Replaces what was measured before with the same key.
-  void store(const Alignment &alignment);
+  void store(const MeasuredAlignment &alignment);
   /// Returns how many there were of this queue. Removes its printed sheets, too.
   std::size_t removeQueue(const std::string &queue);
 
@@ -76,7 +76,7 @@ private:
     SideOffsets offsets;
   };
 
-  std::vector<Alignment> all_;
+  std::vector<MeasuredAlignment> all_;
   std::vector<Printed> printed_;
 };
 
@@ -86,12 +86,12 @@ bool operator==(const AlignmentKey &a, const AlignmentKey &b) noexcept;
 /// time. Returns false, with a message to `errors`, if the file could not be replaced.
 bool changeAlignments(const std::function<void(Alignments &)> &change, std::ostream &errors);
 
-/// Today, as in `Alignment::date`.
+/// Today, as in `MeasuredAlignment::date`.
 std::string today();
 
 /// One line for the user: key, offsets, date and spread. `ppd` gives the names of the key's
 /// choices; without one, or for choices that it lacks, they are named by their keywords.
-std::string alignmentLine(const Alignment &alignment);
+std::string alignmentLine(const MeasuredAlignment &alignment);
 
 /// "office, A4, Tray 1, long edge", with the names of the printer's choices if `ppd` has them.
 std::string keyInWords(const AlignmentKey &key, ppd_file_t *ppd);

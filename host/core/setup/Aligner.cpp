@@ -174,11 +174,11 @@ AlignmentResult Aligner::result(const std::vector<SheetReading> &readings,
 bool Aligner::store(const AlignmentResult &result, std::ostream &errors) const {
   const auto tenths = [](double length) -> TenthMillimetre { return {std::llround(length)}; };
   const Measurement &measured = result.measurement;
-  const Alignment alignment{key_,
-                            result.corrected.offsets,
-                            {tenths(measured.spreadRight), tenths(measured.spreadDown)},
-                            measured.sheets,
-                            today()};
+  const MeasuredAlignment alignment{key_,
+                                    result.corrected.offsets,
+                                    {tenths(measured.spreadRight), tenths(measured.spreadDown)},
+                                    measured.sheets,
+                                    today()};
   return changeAlignments([&](Alignments &alignments) { alignments.store(alignment); }, errors);
 }
 

@@ -20,7 +20,7 @@ AlignmentKey keyOf(const std::string &queue, Turning turning = Turning::LongEdge
   return {queue, turning, tray, paper};
 }
 
-Alignment alignmentOf(const AlignmentKey &key, int right) {
+MeasuredAlignment alignmentOf(const AlignmentKey &key, int right) {
   return {key, {{{1}, {2}}, {{right}, {-4}}}, {{1}, {2}}, 3, "2026-11-22"};
 }
 
@@ -31,7 +31,7 @@ protected:
 
   std::string path() const { return folder_.path("config/print-dialog/alignments.json"); }
   Alignments read() { return Alignments::read(errors_); }
-  bool store(const Alignment &alignment) {
+  bool store(const MeasuredAlignment &alignment) {
     return changeAlignments([&](Alignments &alignments) { alignments.store(alignment); }, errors_);
   }
 
