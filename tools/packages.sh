@@ -7,12 +7,14 @@ build_packages=(
   libcups2-dev libfontconfig-dev libx11-dev         # printers; the list of fonts; the display
   libcli11-dev nlohmann-json3-dev                   # command line, tickets
   libqpdf-dev                                       # pages of documents
+  libpango1.0-dev                                   # the words of alignment sheets
   gettext                                           # the dialog's translations
 )
 
 run_packages=(
   gnustep-back0.29-cairo                            # draws the windows
   libqpdf29                                         # reads the documents' pages
+  libpangocairo-1.0-0                               # draws alignment sheets
   cups-common                                       # words for what printers offer, in many languages
   fontconfig fonts-dejavu-core fonts-wqy-microhei   # text; Japanese and Chinese with Latin in one font
   xvfb openbox                                      # a virtual display
@@ -35,6 +37,7 @@ test_packages=(
   python3-dbus python3-gi                           # a service discovery that announces nothing
   libpam-wrapper                                    # users and passwords for the private CUPS
   cups-filters hp-ppd foomatic-db-compressed-ppds   # PPDs of real printers
+  poppler-utils                                     # renders alignment sheets
   cups                                              # which filters lay a document out
 )
 

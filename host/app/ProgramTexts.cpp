@@ -28,4 +28,40 @@ std::string moduleNotLoadable(const std::string &path, const std::string &reason
 }
 const Text kCutShort = text("its end is missing");
 
+std::string badReading(const std::string &reading) {
+  return text("--reading requires four numbers from -10.5 to 10.5, for example "
+              "1.7,-0.3,1.6,-0.2, not \"{1}\".")
+      .with(reading);
+}
+std::string badCrease(const std::string &crease) {
+  return text("--crease requires two numbers from -10.5 to 10.5, for example -0.5,1, not \"{1}\".")
+      .with(crease);
+}
+const Text kCreaseNeedsReading = text("--crease requires --reading: the back follows the front.");
+const Text kAlignNeedsQueue =
+    text("Specify the printer to measure with -d QUEUE, or a file for the "
+         "sheets with --sheet FILE.");
+std::string readTheSheets(int sheets, const std::string &command) {
+  return counted(sheets, "Read the sheet as its back says. Then enter what you have read: {2}",
+                 "Read the {1} sheets as their backs say; the median of several is better than "
+                 "one. Then enter what you have read, with --reading for each sheet: {2}",
+                 {command});
+}
+std::string alignmentStored(const std::string &settings) {
+  return text("The next jobs with these settings start with the offsets: {1}. To check, print the "
+              "sheets again: the lines at 0 should meet.")
+      .with(settings);
+}
+const Text kNothingMeasured = text("Nothing was measured yet. Use --align.");
+std::string alignmentsImported(int count) {
+  return counted(count, "{1} measurement was imported.", "{1} measurements were imported.");
+}
+std::string alignmentsNotImported(const std::string &path, const std::string &reason) {
+  return text("Cannot import \"{1}\": {2}.").with(path, reason);
+}
+std::string alignmentsDeleted(int count, const std::string &queue) {
+  return counted(count, "{1} measurement of \"{2}\" was deleted.",
+                 "{1} measurements of \"{2}\" were deleted.", {queue});
+}
+
 } // namespace imageposition::messages

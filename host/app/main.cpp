@@ -1,6 +1,8 @@
+#include "AlignmentCommands.hpp"
 #include "CommandLine.hpp"
 #include "FailureReport.hpp"
 #include "GnustepModule.hpp"
+#include "JobSubmission.hpp"
 #include "Language.hpp"
 #include "OptionConflicts.hpp"
 #include "OptionList.hpp"
@@ -64,6 +66,15 @@ ExitCode listOptions(const Arguments &arguments) {
   return ExitCode::Done;
 }
 
+/// As the module does for its jobs.
+ExitCode runAlign(const Arguments &arguments) {
+  std::signal(SIGPIPE, SIG_IGN); // a closed pipe must not kill the program during a job
+  const ExitCode code = exitCodeOf([&] { return align(arguments); }, std::cerr);
+  endSubmissions();
+  endIfCallsAreRunning(code);
+  return code;
+}
+
 /// Cleans the environment before GNUstep is loaded and reads it.
 ExitCode runOnGnustep(const Arguments &arguments) {
   removeVariablesThatAreNotUtf8();
@@ -88,6 +99,10 @@ ExitCode run(const std::vector<std::string> &words) {
     for (const std::string &path : arguments.documents)
       if (path != "-")
         checkDocument(path);
+  if (arguments.alignments.isWanted())
+    return manageAlignments(arguments.alignments);
+  if (arguments.isAligning)
+    return runAlign(arguments);
   return arguments.isListingOptions ? listOptions(arguments) : runOnGnustep(arguments);
 }
 

@@ -132,6 +132,23 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
   app.add_flag("--summary", arguments.batch.summary, messages::kHelpSummary);
 }
 
+void addAlignmentOptions(CLI::App &app, Arguments &arguments) {
+  app.add_flag("--align", arguments.isAligning, messages::kHelpAlign);
+  addRepeated<std::string>(
+      app, "--reading",
+      [&arguments](const std::string &reading) { arguments.readings.push_back(reading); },
+      messages::kHelpReading)
+      ->type_name("X1,Y1,X2,Y2");
+  addText(app, "--crease", arguments.crease, messages::kHelpCrease, "X,Y");
+  addText(app, "--sheet", arguments.sheetFile, messages::kHelpSheet, "FILE");
+  app.add_flag("--no-alignment", arguments.isUnaligned, messages::kHelpNoAlignment);
+  AlignmentFile &file = arguments.alignments;
+  app.add_flag("--list-alignments", file.isListed, messages::kHelpListAlignments);
+  addText(app, "--export-alignments", file.exported, messages::kHelpExportAlignments, "FILE");
+  addText(app, "--import-alignments", file.imported, messages::kHelpImportAlignments, "FILE");
+  addText(app, "--delete-alignments", file.deleted, messages::kHelpDeleteAlignments, "QUEUE");
+}
+
 /// A shell expands * to file names, which another user may have chosen.
 void refuseFilesLikeOptions(const std::vector<std::string> &words) {
   for (const std::string &word : words) {
@@ -145,7 +162,9 @@ void refuseFilesLikeOptions(const std::vector<std::string> &words) {
 
 /// An empty value usually comes from an unset shell variable; ignoring it would skip the option.
 void refuseEmptyValues(const CLI::App &app) {
-  for (const char *name : {"--ticket", "--back", "--ppd", "-d", "-h", "-U", "DOCUMENT"}) {
+  for (const char *name :
+       {"--ticket", "--back", "--ppd", "-d", "-h", "-U", "--crease", "--sheet",
+        "--export-alignments", "--import-alignments", "--delete-alignments", "DOCUMENT"}) {
     const auto &texts = app.get_option(name)->results();
     if (std::find(texts.begin(), texts.end(), "") != texts.end())
       refuse(messages::emptyValue(name));
@@ -172,6 +191,11 @@ void fillBatchRequest(RawArguments &raw) {
 void checkCombination(const Arguments &arguments) {
   if (!arguments.ppd.empty() && !arguments.queue.empty())
     refuse(messages::kTwoPrintersNamed);
+  if (!arguments.isAligning &&
+      (!arguments.readings.empty() || !arguments.crease.empty() || !arguments.sheetFile.empty()))
+    refuse(messages::kOnlyWithAlign);
+  if (arguments.isAligning && (!arguments.documents.empty() || !arguments.ticket.empty()))
+    refuse(messages::kAlignPrintsSheets);
   if (endsWith(arguments.ticket, ".options"))
     refuse(messages::ticketNamesOptions(arguments.ticket));
   if (std::count(arguments.documents.begin(), arguments.documents.end(), "-") > 1)
@@ -195,6 +219,7 @@ std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) 
   addPrinterOptions(app, raw.arguments);
   addJobOptions(app, raw.arguments);
   addOtherOptions(app, raw);
+  addAlignmentOptions(app, raw.arguments);
   addRefused(app);
   try {
     std::reverse(words.begin(), words.end()); // CLI11 reads them from the end

@@ -10,6 +10,18 @@
 
 namespace imageposition {
 
+/// What to do with the file of what was measured; instead of printing.
+struct AlignmentFile {
+  bool isListed = false;
+  std::string exported; ///< The file to write.
+  std::string imported; ///< The file to read.
+  std::string deleted;  ///< The queue.
+
+  bool isWanted() const noexcept {
+    return isListed || !exported.empty() || !imported.empty() || !deleted.empty();
+  }
+};
+
 /// The parsed command line. An empty string means that the option was not given.
 struct Arguments {
   std::string ppd;    ///< A PPD file; excludes `queue`.
@@ -30,7 +42,13 @@ struct Arguments {
   bool isSilent = false;         ///< Report only errors.
   bool isListingOptions = false; ///< List the printer's options instead of printing.
   bool isDryRun = false;
-  bool isUnshifted = false; ///< Print without moving the image.
+  bool isUnshifted = false;          ///< Print without moving the image.
+  bool isUnaligned = false;          ///< Leave out what was measured.
+  bool isAligning = false;           ///< Print alignment sheets, or take what they read.
+  std::vector<std::string> readings; ///< Of alignment sheets, one each.
+  std::string crease;                ///< The reading of an alignment sheet's rulers.
+  std::string sheetFile;             ///< Write the alignment sheets to this file.
+  AlignmentFile alignments;
   bool isBatch = false;
   BatchRequest batch;
 };

@@ -32,6 +32,22 @@ const char *const kHelpListOptions = "Print nothing: list the printer's options 
                                      "cannot combine is told on standard error";
 const char *const kHelpDryRun = "Print nothing: write what CUPS would be sent";
 const char *const kHelpNoShift = "Print the job without moving its image, whatever the offsets";
+const char *const kHelpAlign = "Print three alignment sheets, with the paper, tray and\n"
+                               "turning that -o gives, and say how to go on; with\n"
+                               "--reading, keep what they show";
+const char *const kHelpReading = "What one alignment sheet reads, in mm: across and down at\n"
+                                 "corner A, then at corner B, such as 1.7,-0.3,1.6,-0.2;\n"
+                                 "once for each sheet";
+const char *const kHelpCrease = "Where the creases cross the rulers of an alignment\n"
+                                "sheet, in mm: across and down, such as -0.5,1";
+const char *const kHelpSheet = "Write the alignment sheets to FILE (PDF), and print nothing";
+const char *const kHelpNoAlignment = "Leave out what --align has measured";
+const char *const kHelpListAlignments = "Print nothing: list what was measured";
+const char *const kHelpExportAlignments = "Print nothing: write what was measured to FILE (JSON)";
+const char *const kHelpImportAlignments =
+    "Print nothing: add what such a file has, which replaces\n"
+    "what was measured here for the same";
+const char *const kHelpDeleteAlignments = "Print nothing: delete what was measured for QUEUE";
 const char *const kHelpPlugin = "Use this plug-in and no other; may be repeated.\n"
                                 "Without it: those with the file names that the printer's\n"
                                 "description has (APDialogExtension), or else all; beside\n"
@@ -67,6 +83,8 @@ const char *const kHelpFooter =
     "      The same for a CUPS queue, with two-sided printing chosen.\n"
     "  print-dialog --batch --ppd samples/duplex-shift.ppd --set FrontLRM=-3 --back on --summary\n"
     "      No window: sets the panel, prints the job's settings and the summary.\n"
+    "  print-dialog --align -d office -o Duplex=DuplexNoTumble\n"
+    "      Prints sheets that show how far the two sides of a sheet are apart.\n"
     "  lp -d office -o \"$(cat job.options)\" report.pdf\n"
     "      Prints with the settings.\n"
     "\n"
@@ -86,6 +104,9 @@ const char *const kHelpFooter =
 const Text kTwoPrintersNamed =
     text("Specify one printer, either with --ppd FILE or with -d QUEUE.");
 const Text kOnlyInBatch = text("--set, --back and --summary require --batch.");
+const Text kOnlyWithAlign = text("--reading, --crease and --sheet require --align.");
+const Text kAlignPrintsSheets =
+    text("--align prints alignment sheets. Leave out documents and --ticket.");
 const Text kStandardInputRepeated =
     text("Standard input can be printed only once. Use \"-\" once.");
 std::string jobsAreNotChanged(const std::string &job) {

@@ -1,16 +1,10 @@
 #include "History.hpp"
 
 #include "FileContent.hpp"
-#include "FileLock.hpp"
-#include "FileReplacement.hpp"
 #include "HistoryTexts.hpp"
+#include "UserFile.hpp"
 
 #include <nlohmann/json.hpp>
-
-#include <cerrno>
-#include <cstdlib>
-#include <filesystem>
-#include <sys/stat.h>
 
 namespace imageposition {
 
@@ -20,23 +14,10 @@ using Json = nlohmann::json;
 
 constexpr double kLargestWindow = 100000; // points
 
-/// Empty for a user without a home folder. XDG ignores relative paths.
-std::string folder() {
-  const char *const state = std::getenv("XDG_STATE_HOME");
-  const char *const home = std::getenv("HOME");
-  std::string base;
-  if (state != nullptr && *state == '/')
-    base = state;
-  else if (home != nullptr && *home != '\0')
-    base = std::string(home) + "/.local/state";
-  return base.empty() ? base : base + "/print-dialog";
-}
-
 std::string fileIn(const std::string &folder) { return folder + "/jobs.json"; }
 
 /// Throws a `FileTrouble`.
-History readFrom(const std::string &path) {
-  const auto content = contentOfFile(path);
+History historyIn(const std::optional<std::string> &content) {
   if (!content)
     return {};
   auto history = History::fromText(*content);
@@ -45,16 +26,8 @@ History readFrom(const std::string &path) {
   return *history;
 }
 
-/// With XDG's permissions for folders that are missing.
-void makeFolder(const std::string &path) {
-  const std::string parent = std::filesystem::path(path).parent_path().string();
-  if (mkdir(path.c_str(), 0700) == 0 || errno == EEXIST)
-    return;
-  if (errno != ENOENT || parent == path)
-    throw FileTrouble(errno);
-  makeFolder(parent);
-  if (mkdir(path.c_str(), 0700) != 0 && errno != EEXIST)
-    throw FileTrouble(errno);
+bool isHistory(std::string_view content) {
+  return History::fromText(std::string(content)).has_value();
 }
 
 std::optional<WindowSize> windowIn(const Json &file) {
@@ -116,11 +89,11 @@ std::string History::text() const {
 }
 
 History History::read(std::ostream &errors) {
-  const std::string in = folder();
+  const std::string in = stateFolder();
   if (in.empty())
     return {};
   try {
-    return readFrom(fileIn(in));
+    return historyIn(contentOfFile(fileIn(in)));
   } catch (const FileTrouble &trouble) {
     errors << messages::historyUnreadable(fileIn(in), trouble.what()) << std::endl;
     return {};
@@ -146,18 +119,19 @@ void History::setPreset(const std::string &printer, const std::string &preset) {
 }
 
 bool changeHistory(const std::function<void(History &)> &change, std::ostream &errors) {
-  const std::string in = folder();
+  const std::string in = stateFolder();
   if (in.empty())
     return false;
   const std::string path = fileIn(in);
   try {
-    makeFolder(in);
-    const FileLock lock(path + ".lock");
-    History history = readFrom(path);
-    change(history);
-    FileReplacement(path, history.text(), Readers::OwnerAlone, [](std::string_view content) {
-      return History::fromText(std::string(content)).has_value();
-    }).commit();
+    changeUserFile(
+        path,
+        [&](const std::optional<std::string> &content) {
+          History history = historyIn(content);
+          change(history);
+          return history.text();
+        },
+        isHistory);
     return true;
   } catch (const FileTrouble &trouble) {
     errors << messages::historyUnwritable(path, trouble.what()) << std::endl;

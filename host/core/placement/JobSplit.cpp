@@ -75,16 +75,6 @@ bool isTrue(const char *value) {
   return value != nullptr && (isSame(value, "true") || isSame(value, "yes") || isSame(value, "on"));
 }
 
-void neutralize(PrintSettingsStore &options, const PrintSettingsStore &defaults) {
-  for (const LayoutOption &option : kLayoutOptions) {
-    const bool isAdded = option.isAlwaysSent || defaults.get(option.name) != nullptr;
-    if (isAdded && option.neutral != nullptr)
-      options.set(option.name, option.neutral);
-    else
-      options.remove(option.name);
-  }
-}
-
 /// Printers that are told in their job language to print a booklet turn it about the short edge.
 void turnBooklet(PrintSettingsStore &options, const char *booklet, ppd_file_t *ppd) {
   const ppd_option_t *const duplex = ppdFindOption(ppd, "Duplex");
@@ -121,13 +111,25 @@ JobSplit splitJob(const JobRequest &job, ppd_file_t *ppd, const std::string &not
   split.printing = job;
   split.printing.defaults = {};
   split.printing.settings = all;
-  neutralize(split.printing.settings, job.defaults);
+  neutralizeLayout(split.printing.settings, job.defaults);
   turnBooklet(split.printing.settings, all.get("booklet"), ppd);
   removeOffsets(split.printing);
   split.printing.settings.set(IPA_KEY_ENABLE, IPA_VALUE_FALSE);
   split.printing.settings.set(kShiftNote, note);
   return split;
 }
+
+void neutralizeLayout(PrintSettingsStore &options, const PrintSettingsStore &defaults) {
+  for (const LayoutOption &option : kLayoutOptions) {
+    const bool isAdded = option.isAlwaysSent || defaults.get(option.name) != nullptr;
+    if (isAdded && option.neutral != nullptr)
+      options.set(option.name, option.neutral);
+    else
+      options.remove(option.name);
+  }
+}
+
+const std::vector<std::string> &offsetOptions() { return kOffsets; }
 
 void removeOffsets(JobRequest &job) {
   for (const std::string &offset : kOffsets) {

@@ -9,6 +9,7 @@
 #include <cups/ppd.h>
 
 #include <string>
+#include <vector>
 
 namespace imageposition {
 
@@ -28,6 +29,12 @@ struct JobSplit {
 /// `ppd` is the printer's, with the job's choices marked. `note` is the value of `kShiftNote`.
 /// Throws what `optionsToSend` throws.
 JobSplit splitJob(const JobRequest &job, ppd_file_t *ppd, const std::string &note);
+
+/// Replaces the options that lay pages out by neutral ones, also where the defaults have them.
+void neutralizeLayout(PrintSettingsStore &options, const PrintSettingsStore &defaults);
+
+/// The names of the four offsets and of their flag.
+const std::vector<std::string> &offsetOptions();
 
 /// Removes the offsets from the job's settings and defaults, so that nothing moves its image.
 void removeOffsets(JobRequest &job);

@@ -1,9 +1,12 @@
 #include "PrintJob.hpp"
 
+#include "AlignmentTexts.hpp"
+#include "Availability.hpp"
 #include "CustomValue.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSettings.hpp"
+#include "JobSplit.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
 #include "Phrases.hpp"
@@ -12,6 +15,7 @@
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
+#include "SharedKeys.h"
 #include "ShiftedJob.hpp"
 #include "Strings.hpp"
 #include "ValueCheck.hpp"
@@ -192,6 +196,10 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
                    (hasDocument() || !arguments.isBatch)) { // the window has Open
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
+  if (!arguments.isUnaligned && !queue_.empty())
+    alignments_ = Alignments::read(std::cerr);
+  if (takeAlignment())
+    setSideOffsets(withoutPreset_, alignment_->offsets);
   atStart_ = ticket_.settings;
   const std::string remembered = rememberedQueue(arguments, history_);
   if (remembered != QueueName::parse(queue_).printer)
@@ -221,6 +229,60 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
   return preset;
 }
 
+/// Whether the user has set offsets elsewhere that are stronger than what was measured. A preset
+/// has offsets of 0 when it was saved without any.
+bool PrintJob::areOffsetsGiven() const {
+  const PrintSettingsStore given = openTicket(arguments_, {}).settings;
+  const std::vector<std::string> &names = offsetOptions();
+  return std::any_of(names.begin(), names.end(),
+                     [&](const std::string &name) { return given.get(name) != nullptr; }) ||
+         (!presetName_.empty() && !(sideOffsetsIn(preset_.settings) == SideOffsets()));
+}
+
+/// What was measured for the marked choices, if this printer's image can be moved.
+std::optional<FoundAlignment> PrintJob::alignmentHere() {
+  if (ppdFindOption(printer_->ppd(), offsetOptions().front().c_str()) == nullptr)
+    return std::nullopt;
+  return alignments_.find(alignmentKeyOf(queue_, printer_->ppd()));
+}
+
+bool PrintJob::takeAlignment() {
+  if (alignments_.all().empty() || areOffsetsGiven())
+    return false;
+  alignment_ = alignmentHere();
+  if (alignment_)
+    setSideOffsets(settings(), alignment_->offsets);
+  return alignment_.has_value();
+}
+
+bool PrintJob::hasMeasuredOffsets() const {
+  return alignment_ && sideOffsetsIn(ticket_.settings) == alignment_->offsets;
+}
+
+bool PrintJob::followAlignment() {
+  const SideOffsets before = sideOffsetsIn(settings());
+  const bool isTheUsers = alignment_ ? !hasMeasuredOffsets() : !(before == SideOffsets());
+  if (alignments_.all().empty() || isTheUsers)
+    return false;
+  printer_->mark(settings());
+  if (availabilityOf(printer_->ppd()).oneSided) // nothing moves
+    return false;
+  const bool isLeft = alignment_.has_value();
+  if (!takeAlignment() && isLeft) {
+    setSideOffsets(settings(), {});
+    settings().set(IPA_KEY_ENABLE, IPA_VALUE_FALSE);
+  }
+  return !(sideOffsetsIn(settings()) == before);
+}
+
+std::string PrintJob::alignmentNote() {
+  if (!hasMeasuredOffsets())
+    return "";
+  return messages::measuredOn(alignment_->date,
+                              keyInWords(alignmentKeyOf(queue_, printer_->ppd()), printer_->ppd()),
+                              alignment_->isOfOtherTurning);
+}
+
 PrintSettingsStore PrintJob::settingsToRemember() const {
   PrintSettingsStore given, kept;
   applyLpOptions(arguments_, given);
@@ -229,7 +291,9 @@ PrintSettingsStore PrintJob::settingsToRemember() const {
     const cups_option_t &option = settings.options()[i];
     const bool isGiven =
         given.get(option.name) != nullptr && isSameIn(given, settings, option.name);
-    if (!isGiven && !isOfOneJob(option.name) && !isLayoutSetting(*printer_, option.name) &&
+    const bool isMeasured = hasMeasuredOffsets() && contains(offsetOptions(), option.name);
+    if (!isGiven && !isMeasured && !isOfOneJob(option.name) &&
+        !isLayoutSetting(*printer_, option.name) &&
         !isHiddenValue(printer_->ppd(), option.name, option.value))
       kept.set(option.name, option.value);
   }
@@ -265,9 +329,10 @@ bool PrintJob::takePrinter(OpenedPrinter opened) {
   queue_ = std::move(opened.queue);
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
-  const bool isTaken = takeHistory();
+  const bool isHistoryTaken = takeHistory();
   printer_->mark(ticket_.settings);
-  return isTaken;
+  alignment_.reset();
+  return takeAlignment() || isHistoryTaken;
 }
 
 PrintSettingsStore PrintJob::removePanelSettings(const std::vector<std::string> &optionKeys) {
@@ -401,6 +466,8 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
   losses_ = shifted ? shifted->losses() : "";
   if (arguments_.isDryRun) {
     totalSize(documentsToSend()); // fails where a submission would
+    if (const std::string note = alignmentNote(); !note.empty())
+      std::cerr << note << '\n';
     if (shifted)
       std::cerr << messages::sentences({shifted->description(), losses_}) << '\n';
     std::cout << writeRequestText(shifted ? shifted->request() : request, documentsToSend());

@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_CORE_SETUP_PRINTJOB_HPP
 #define IMAGEPOSITION_CORE_SETUP_PRINTJOB_HPP
 
+#include "Alignments.hpp"
 #include "CommandLine.hpp"
 #include "Destinations.hpp"
 #include "History.hpp"
@@ -49,7 +50,9 @@ class PrintJob {
 public:
   /// Opens the ticket that the command line names. Throws a `Failure`. `arguments` is borrowed and
   /// must outlive this object. A printer whose queue names no preset begins with the settings that
-  /// the history has for it; the ticket and the command line override them.
+  /// the history has for it; offsets that were measured for the paper, tray and turning replace
+  /// those of the history, and of a preset that has none; the ticket and the command line override
+  /// them.
   PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history = {});
   PrintJob(const PrintJob &) = delete;
   PrintJob &operator=(const PrintJob &) = delete;
@@ -73,6 +76,13 @@ public:
   /// that apply to one document or job, such as its layout, secrets, and what the command line
   /// gave.
   void remember(const std::optional<WindowSize> &window) const;
+
+  /// Where the job's offsets come from: "The offsets were measured on ...". Empty unless they are
+  /// those that were measured.
+  std::string alignmentNote();
+  /// Call after the paper, the tray or the turning may have changed: takes the offsets that were
+  /// measured for them, unless the user has set others. Returns whether the offsets have changed.
+  bool followAlignment();
 
   /// One sentence for each setting of the first queue's preset that was changed or dropped because
   /// the printer does not accept it. The constructor writes them to standard error.
@@ -149,6 +159,10 @@ private:
   LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
   bool takeHistory();
+  bool areOffsetsGiven() const;
+  bool hasMeasuredOffsets() const;
+  std::optional<FoundAlignment> alignmentHere();
+  bool takeAlignment();
   PrintSettingsStore settingsToRemember() const;
   std::unique_ptr<ShiftedJob> shiftedJob(const JobRequest &request);
   void writeTicketTo(const std::string &path);
@@ -163,6 +177,8 @@ private:
   LoadedPreset preset_; // of the first queue
   Ticket ticket_;
   PrintSettingsStore atStart_;
+  Alignments alignments_;
+  std::optional<FoundAlignment> alignment_; // whose offsets the job has taken
   PrintSettingsStore withoutPreset_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
   bool isSubmitted_;

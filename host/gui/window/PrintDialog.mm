@@ -397,8 +397,8 @@ struct imageposition::PrintDialogState {
        messages::sentences(unknownValues(job.printer(), job.settings(), panels.optionKeys()))});
   if (!troubles.empty())
     [self say:troubles];
-  const std::string start =
-      messages::sentences({troubles, messages::sentences(job.misfits()), startNote(job)});
+  const std::string start = messages::sentences(
+      {troubles, messages::sentences(job.misfits()), startNote(job), job.alignmentNote()});
   if (start != troubles)
     [self show:start];
 }

@@ -64,6 +64,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
             of:(const std::string &)keyword
           from:(const std::vector<std::string> &)choices
             by:(NSView *)sender;
+- (void)followAlignment;
 - (void)optionChanged:(const std::string &)keyword;
 - (BOOL)panelsAreSavedBefore:(NSView *)sender;
 - (void)refreshHint;
@@ -142,8 +143,21 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   return [dialog savePanels];
 }
 
+/// Offsets that were measured belong to the paper, the tray and the turning.
+- (void)followAlignment {
+  PrintSession &session = [dialog session];
+  if (!session.job().followAlignment())
+    return;
+  session.panels().takePanelValues();
+  const PanelReplies replies = session.panels().restore();
+  std::vector<std::string> notes = replies.failures;
+  notes.push_back(session.job().alignmentNote());
+  [dialog show:messages::sentences(notes)];
+}
+
 - (void)optionChanged:(const std::string &)keyword {
   state->chosenLast = keyword;
+  [self followAlignment];
   [dialog refreshOptions];
 }
 
@@ -223,6 +237,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
   const ConflictProposal proposal = *state->proposal;
   PrintJob &job = [dialog session].job();
   OptionConflicts(job.printer(), job.settings()).take(proposal);
+  [self followAlignment];
   [dialog refresh];
 }
 

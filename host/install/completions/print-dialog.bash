@@ -109,18 +109,19 @@ _print_dialog_offer_queues() {
 
 _print_dialog_value() {
   case $1 in
-  -d | --queue) _print_dialog_offer_queues "$2" ;;
+  -d | --queue | --delete-alignments) _print_dialog_offer_queues "$2" ;;
   -o | --option) _print_dialog_offer_settings "$2" ;;
   -H) _print_dialog_offer "$2" hold immediate resume indefinite day-time evening night weekend \
     second-shift third-shift no-hold ;;
   -U) mapfile -t COMPREPLY < <(compgen -u -- "$2") ;;
   --ppd) _print_dialog_offer_files "$2" '*.[pP][pP][dD]' ;;
   --plugin) _print_dialog_offer_files "$2" '*.plugin' ;;
-  --ticket) _print_dialog_offer_files "$2" '*.json' ;;
+  --ticket | --export-alignments | --import-alignments) _print_dialog_offer_files "$2" '*.json' ;;
+  --sheet) _print_dialog_offer_files "$2" '*.[pP][dD][fF]' ;;
   --back) _print_dialog_offer "$2" on off ;;
   --appearance) _print_dialog_offer "$2" light dark ;;
   --text-scale) _print_dialog_offer "$2" 1 1.25 1.5 2 ;;
-  -h | -n | -P | -q | -t | --set) ;;
+  -h | -n | -P | -q | -t | --set | --reading | --crease) ;;
   *) return 1 ;;
   esac
 }
@@ -143,7 +144,8 @@ _print_dialog() {
   if [[ $current == -* ]]; then
     _print_dialog_offer "$current" --version --help --ppd -d --queue -h -E -U -o --option -n -P -q \
       -H -t -m -s -c --list-options --dry-run --no-shift --plugin --ticket --appearance --text-scale --batch --set --back \
-      --summary
+      --summary --align --reading --crease --sheet --no-alignment --list-alignments \
+      --export-alignments --import-alignments --delete-alignments
     return
   fi
   _print_dialog_offer_files "$current"

@@ -215,7 +215,8 @@ TEST_P(InstallUnder, AnyMaskOnlyTheOwnerCanWriteToInstalledFiles) {
   for (const auto &entry : std::filesystem::recursive_directory_iterator(prefix)) {
     const std::string name = entry.path().filename();
     const bool runs = entry.is_directory() || name == "print-dialog" ||
-                      name == "print-dialog-examiner" || name == "print-dialog-mover";
+                      name == "print-dialog-examiner" || name == "print-dialog-mover" ||
+                      name == "print-dialog-sheet";
     const auto mode = static_cast<unsigned>(entry.status().permissions());
     const bool isCompletion = entry.path().parent_path().filename() == "completions";
     EXPECT_EQ(mode, runs && !isCompletion ? 0755U : 0644U) << entry.path();

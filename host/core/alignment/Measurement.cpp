@@ -1,0 +1,190 @@
+#include "Measurement.hpp"
+
+#include "LengthUnit.hpp"
+#include "SharedKeys.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace imageposition {
+
+namespace {
+
+constexpr double kTenthsPerMillimetre = 10;
+constexpr double kMostApart = 3; // tenths
+
+/// The numbers in tenths; empty unless all of them are numbers that the scales have.
+std::vector<TenthMillimetre> readTenths(std::string_view text) {
+  constexpr std::string_view kSeparators = ",; \t";
+  constexpr double kMost = vernier::kLargestWhole + vernier::kLargestTenth / kTenthsPerMillimetre;
+  std::vector<TenthMillimetre> tenths;
+  for (;;) {
+    const std::size_t start = std::min(text.find_first_not_of(kSeparators), text.size());
+    text.remove_prefix(start);
+    if (text.empty())
+      return tenths;
+    const std::size_t end = std::min(text.find_first_of(kSeparators), text.size());
+    const auto number = readNumber(std::string(text.substr(0, end)));
+    if (!number || std::abs(*number) > kMost)
+      return {};
+    tenths.push_back({std::llround(*number * kTenthsPerMillimetre)});
+    text.remove_prefix(end);
+  }
+}
+
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  const std::size_t middle = values.size() / 2;
+  return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+double spread(const std::vector<double> &values) {
+  const auto ends = std::minmax_element(values.begin(), values.end());
+  return *ends.second - *ends.first;
+}
+
+double half(TenthMillimetre first, TenthMillimetre second) {
+  return static_cast<double>(first.count + second.count) / 2;
+}
+
+double between(TenthMillimetre first, TenthMillimetre second) {
+  return static_cast<double>(second.count - first.count);
+}
+
+/// How a side is turned and stretched about its middle.
+struct Distortion {
+  double angle = 0;   // radians, clockwise
+  double stretch = 0; // as a part of 1
+};
+
+/// Solves right = stretch * x - angle * y and down = stretch * y + angle * x for the differences
+/// between the corners.
+Distortion distortionOf(const SheetLayout &layout, double right, double down) {
+  const auto from = [&](VernierIndex first, VernierIndex second) -> SheetPoint {
+    const SheetPoint a = layout.verniers[first].zero, b = layout.verniers[second].zero;
+    return {(b.x - a.x) * kTenthsPerMillimetre, (b.y - a.y) * kTenthsPerMillimetre};
+  };
+  const SheetPoint across = from(kFirstAcross, kSecondAcross);
+  const SheetPoint downwards = from(kFirstDown, kSecondDown);
+  const double determinant = across.x * downwards.x + across.y * downwards.y;
+  return {(across.x * down - downwards.y * right) / determinant,
+          (downwards.x * right + across.y * down) / determinant};
+}
+
+/// At the sheet's corner, where it is largest.
+double largestDisplacement(const SheetLayout &layout, const Distortion &distortion) {
+  const double corner = std::hypot(layout.width, layout.height) / 2 * kTenthsPerMillimetre;
+  return corner * std::hypot(distortion.angle, distortion.stretch);
+}
+
+TenthMillimetre rounded(double tenths) { return {std::llround(tenths)}; }
+
+CorrectedOffsets limited(const SideOffsets &offsets) {
+  CorrectedOffsets corrected{offsets, false};
+  for (Offset *const offset : {&corrected.offsets.front, &corrected.offsets.back})
+    for (TenthMillimetre *const length : {&offset->right, &offset->down})
+      length->count = std::clamp(length->count, -kLargestOffset.count, kLargestOffset.count);
+  corrected.isLimited = !(corrected.offsets == offsets);
+  return corrected;
+}
+
+} // namespace
+
+std::optional<SheetReading> readSheetReading(std::string_view text) {
+  const auto tenths = readTenths(text);
+  if (tenths.size() != kVernierCount)
+    return std::nullopt;
+  return SheetReading{{tenths[kFirstAcross], tenths[kFirstDown]},
+                      {tenths[kSecondAcross], tenths[kSecondDown]}};
+}
+
+std::optional<Offset> readCreaseReading(std::string_view text) {
+  const auto tenths = readTenths(text);
+  if (tenths.size() != 2)
+    return std::nullopt;
+  return Offset{tenths[0], tenths[1]};
+}
+
+bool Measurement::areCornersApart() const noexcept {
+  return std::abs(cornersRight) > kMostApart || std::abs(cornersDown) > kMostApart;
+}
+
+Measurement measure(const SheetLayout &layout, const std::vector<SheetReading> &readings) {
+  std::vector<double> right, down, cornersRight, cornersDown;
+  for (const SheetReading &reading : readings) {
+    right.push_back(half(reading.first.right, reading.second.right));
+    down.push_back(half(reading.first.down, reading.second.down));
+    cornersRight.push_back(between(reading.first.right, reading.second.right));
+    cornersDown.push_back(between(reading.first.down, reading.second.down));
+  }
+  Measurement result{median(right),
+                     median(down),
+                     spread(right),
+                     spread(down),
+                     median(cornersRight),
+                     median(cornersDown),
+                     0,
+                     0,
+                     0,
+                     0};
+  const Distortion distortion = distortionOf(layout, result.cornersRight, result.cornersDown);
+  constexpr double kDegreesPerRadian = 180 / M_PI;
+  constexpr double kPercent = 100;
+  result.angle = distortion.angle * kDegreesPerRadian;
+  result.stretch = distortion.stretch * kPercent;
+  result.left = largestDisplacement(layout, distortion);
+  result.sheets = static_cast<int>(readings.size());
+  return result;
+}
+
+SideOffsets sideOffsetsIn(const PrintSettingsStore &settings) {
+  constexpr std::string_view kCustom = "Custom."; // lpoptions and presets write it
+  PrintSettingsStore plain = settings;
+  for (int i = 0; i < settings.optionCount(); i++) {
+    const cups_option_t &option = settings.options()[i];
+    if (std::string_view(option.value).substr(0, kCustom.size()) == kCustom)
+      plain.set(option.name, option.value + kCustom.size());
+  }
+  const PreviewRequest job = readPreviewRequest(plain, nullptr);
+  return {job.front, job.back};
+}
+
+void setSideOffsets(PrintSettingsStore &settings, const SideOffsets &offsets) {
+  const auto set = [&settings](const char *key, TenthMillimetre length) {
+    settings.set(key, std::to_string(length.count));
+  };
+  settings.set(IPA_KEY_ENABLE, IPA_VALUE_TRUE);
+  set(IPA_KEY_FRONT_LEFT_RIGHT, offsets.front.right);
+  set(IPA_KEY_FRONT_TOP_BOTTOM, offsets.front.down);
+  set(IPA_KEY_BACK_LEFT_RIGHT, offsets.back.right);
+  set(IPA_KEY_BACK_TOP_BOTTOM, offsets.back.down);
+}
+
+bool operator==(const SideOffsets &a, const SideOffsets &b) noexcept {
+  return a.front == b.front && a.back == b.back;
+}
+
+CorrectedOffsets withBackMoved(const SideOffsets &present, const Measurement &measurement) {
+  SideOffsets moved = present;
+  moved.back.right = present.back.right - rounded(measurement.right);
+  moved.back.down = present.back.down - rounded(measurement.down);
+  return limited(moved);
+}
+
+CorrectedOffsets withBothMoved(const SideOffsets &present, const Offset &crease,
+                               const SheetLayout &layout) {
+  SideOffsets moved = present;
+  moved.front.right = present.front.right + crease.right;
+  moved.front.down = present.front.down + crease.down;
+  const bool isMirrored = layout.isMirroredLeftRight;
+  moved.back.right = present.back.right + (isMirrored ? -crease.right : crease.right);
+  moved.back.down = present.back.down + (isMirrored ? crease.down : -crease.down);
+  return limited(moved);
+}
+
+SideOffsets forOtherTurning(const SideOffsets &offsets) noexcept {
+  return {offsets.front, {-offsets.back.right, -offsets.back.down}};
+}
+
+} // namespace imageposition

@@ -1,0 +1,204 @@
+#include "Aligner.hpp"
+
+#include "AlignerTexts.hpp"
+#include "AlignmentTexts.hpp"
+#include "Availability.hpp"
+#include "ExitCode.hpp"
+#include "JobSplit.hpp"
+#include "LengthUnit.hpp"
+#include "MeasureTexts.hpp"
+#include "Phrases.hpp"
+#include "ProgramFolder.hpp"
+#include "ShiftTexts.hpp"
+#include "TemporaryData.hpp"
+
+#include <array>
+#include <cerrno>
+#include <cmath>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace imageposition {
+
+namespace {
+
+constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_SHEET;
+
+/// Runs the program that draws; returns whether it has succeeded.
+bool run(const std::string &program, const Descriptor &input, const Descriptor &output) {
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_adddup2(&actions, input.get(), STDIN_FILENO);
+  posix_spawn_file_actions_adddup2(&actions, output.get(), STDOUT_FILENO);
+  std::string name = program;
+  std::array<char *, 2> words{name.data(), nullptr};
+  pid_t process = -1;
+  const int failed =
+      posix_spawn(&process, program.c_str(), &actions, nullptr, words.data(), environ);
+  posix_spawn_file_actions_destroy(&actions);
+  if (failed != 0)
+    return false;
+  int status = -1;
+  while (waitpid(process, &status, 0) < 0 && errno == EINTR)
+    continue;
+  return status == 0;
+}
+
+std::string choiceText(ppd_file_t *ppd, const char *option) {
+  const ppd_choice_t *const choice = ppdFindMarkedChoice(ppd, option);
+  return choice == nullptr ? "" : choice->text[0] != '\0' ? choice->text : choice->choice;
+}
+
+template <typename Texts> std::vector<std::string> translated(const Texts &texts) {
+  return {texts.begin(), texts.end()};
+}
+
+/// Tenths of a millimetre, to the hundredth.
+std::string lengthInWords(double tenths) {
+  constexpr int kDecimals = 2;
+  return messages::inMillimetres(numberInWords(plainNumber(tenths / 10, kDecimals)));
+}
+
+/// Empty for none.
+std::string directionsOf(double right, double down) {
+  std::vector<std::string> parts;
+  if (right != 0)
+    parts.push_back(
+        (right > 0 ? messages::toTheRight : messages::toTheLeft)(lengthInWords(std::abs(right))));
+  if (down != 0)
+    parts.push_back(
+        (down > 0 ? messages::downwards : messages::upwards)(lengthInWords(std::abs(down))));
+  return messages::inWords(parts);
+}
+
+std::string numberOf(double number, int decimals) {
+  return numberInWords(plainNumber(number, decimals));
+}
+
+} // namespace
+
+Aligner::Aligner(PrintJob &job) : job_(job) {
+  ppd_file_t *const ppd = job_.printer().ppd();
+  job_.printer().mark(job_.settings());
+  const PreviewRequest request = readPreviewRequest(job_.settings(), ppd);
+  if (!request.availability.isAvailable())
+    throw Failure(ExitCode::Value, adviceText(request.availability));
+  key_ = alignmentKeyOf(job_.queue(), ppd);
+  page_ = request.page;
+  if (!job_.arguments().isUnshifted)
+    present_ = sideOffsetsIn(job_.settings());
+  const auto layout = layOutSheet(page_, key_.turning);
+  if (!layout)
+    throw Failure(ExitCode::Value, messages::paperTooSmall(choiceText(ppd, "PageSize")));
+  layout_ = *layout;
+}
+
+std::string Aligner::settingsInWords() const { return keyInWords(key_, job_.printer().ppd()); }
+
+SheetTask Aligner::task() const {
+  ppd_file_t *const ppd = job_.printer().ppd();
+  std::vector<std::string> facts{messages::sheetPrinter(job_.printer().name()),
+                                 messages::sheetPaper(choiceText(ppd, "PageSize"))};
+  if (const std::string tray = choiceText(ppd, "InputSlot"); !tray.empty())
+    facts.push_back(messages::sheetTray(tray));
+  facts.push_back(messages::sheetTurning(key_.turning));
+  facts.push_back(messages::sheetDate(today()));
+  const auto side = [&](const std::string &name, int sheet, const Offset &offset,
+                        std::vector<std::string> advice) {
+    SideWords words{name, messages::sheetNumber(sheet, kSheets), facts, std::move(advice)};
+    words.facts.push_back(messages::sheetOffsets(offset));
+    return words;
+  };
+  std::vector<std::string> frontAdvice = translated(messages::kFrontAdvice);
+  if (!layout_.middle) // there are no rulers for the crease
+    frontAdvice.pop_back();
+  SheetTask task;
+  task.page = page_;
+  task.turning = key_.turning;
+  task.title = messages::kSheetTitle;
+  task.example = messages::sheetExample();
+  for (int sheet = 1; sheet <= kSheets; sheet++)
+    task.sheets.push_back(
+        {side(messages::kFrontOfSheet, sheet, present_.front, translated(messages::kFrontAdvice)),
+         side(messages::kBackOfSheet, sheet, present_.back, translated(messages::kBackAdvice))});
+  return task;
+}
+
+Descriptor Aligner::drawSheets() const try {
+  const std::string program =
+      trustedPart({besideProgram(IMAGEPOSITION_SHEET), besideProgram(kInstalled)});
+  if (program.empty())
+    throw Failure(ExitCode::Fault, messages::sheetProgramMissing(IMAGEPOSITION_SHEET));
+  const Descriptor input = temporaryFile(textOf(task()));
+  Descriptor output = temporaryFile();
+  if (!run(program, input, output))
+    throw Failure(ExitCode::Fault, messages::kSheetsNotDrawn);
+  lseek(output.get(), 0, SEEK_SET);
+  return output;
+} catch (const std::system_error &error) {
+  throw Failure(ExitCode::Fault, messages::sheetsNotKept(error.code().message()));
+}
+
+void Aligner::setUpJob(const Descriptor &sheets) {
+  PrintSettingsStore &settings = job_.settings();
+  neutralizeLayout(settings, job_.printer().queueDefaults());
+  settings.set("copies", "1");
+  settings.set("job-sheets", "none");
+  if (!job_.arguments().isUnshifted)
+    setSideOffsets(settings, present_);
+  job_.setDocuments({pathOf(sheets)});
+}
+
+bool Aligner::rememberPrinted(std::ostream &errors) const {
+  return changeAlignments([this](Alignments &alignments) { alignments.setPrinted(key_, present_); },
+                          errors);
+}
+
+AlignmentResult Aligner::result(const std::vector<SheetReading> &readings,
+                                const std::optional<Offset> &crease, std::ostream &errors) const {
+  AlignmentResult result;
+  result.measurement = measure(layout_, readings);
+  result.printed = Alignments::read(errors).printed(key_).value_or(present_);
+  result.corrected = withBackMoved(result.printed, result.measurement);
+  if (crease) {
+    const bool isLimited = result.corrected.isLimited;
+    result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_);
+    result.corrected.isLimited = result.corrected.isLimited || isLimited;
+  }
+  return result;
+}
+
+bool Aligner::store(const AlignmentResult &result, std::ostream &errors) const {
+  const auto tenths = [](double length) -> TenthMillimetre { return {std::llround(length)}; };
+  const Measurement &measured = result.measurement;
+  const MeasuredAlignment alignment{key_,
+                                    result.corrected.offsets,
+                                    {tenths(measured.spreadRight), tenths(measured.spreadDown)},
+                                    measured.sheets,
+                                    today()};
+  return changeAlignments([&](Alignments &alignments) { alignments.store(alignment); }, errors);
+}
+
+std::vector<std::string> AlignmentResult::sentences() const {
+  const Measurement &m = measurement;
+  const std::string directions = directionsOf(m.right, m.down);
+  std::vector<std::string> all{directions.empty() ? messages::kNotDisplaced.str()
+                                                  : messages::displacement(directions)};
+  if (m.sheets > 1)
+    all.push_back(
+        messages::spread(m.sheets, lengthInWords(m.spreadRight), lengthInWords(m.spreadDown)));
+  else
+    all.push_back(messages::kOneSheetOnly);
+  all.push_back(messages::newOffsets(messages::offsetsInWords(corrected.offsets)));
+  if (m.areCornersApart())
+    all.push_back(messages::cornersApart(numberOf(m.angle, 2), numberOf(m.stretch, 2),
+                                         lengthInWords(m.left)));
+  if (corrected.isLimited)
+    all.push_back(messages::outOfRange(lengthText(kLargestOffset)));
+  return all;
+}
+
+} // namespace imageposition

@@ -1,0 +1,50 @@
+#include "AlignerTexts.hpp"
+
+namespace imageposition::messages {
+
+std::string paperTooSmall(const std::string &paper) {
+  return text("The paper \"{1}\" is too small for an alignment sheet. Choose A6 or larger, for "
+              "example with -o PageSize=A4.")
+      .with(paper);
+}
+std::string sheetProgramMissing(const std::string &program) {
+  return text("print-dialog's file \"{1}\" is missing. Reinstall print-dialog.").with(program);
+}
+const Text kSheetsNotDrawn = text("The alignment sheets could not be drawn. Install a font, for "
+                                  "example the package fonts-dejavu-core, and try again.");
+std::string sheetsNotKept(const std::string &reason) {
+  return text("No temporary file for the alignment sheets: {1}. Set TMPDIR to a folder with space.")
+      .with(reason);
+}
+
+std::string displacement(const std::string &directions) {
+  // Translators: {1} is as "1.7 mm to the right and 0.3 mm up".
+  return text("Against the light, with the back towards you, the back is off by {1}.")
+      .with(directions);
+}
+const Text kNotDisplaced = text("The back lies exactly on the front.");
+std::string spread(int sheets, const std::string &right, const std::string &down) {
+  return counted(sheets,
+                 "The sheet differs by {2} across and {3} down: no offset can do better than "
+                 "that.",
+                 "The {1} sheets differ by up to {2} across and {3} down: no offset can do better "
+                 "than that.",
+                 {right, down});
+}
+const Text kOneSheetOnly =
+    text("One sheet does not show how much the printer varies. Read all three.");
+std::string newOffsets(const std::string &offsets) { return text("Offsets: {1}.").with(offsets); }
+std::string cornersApart(const std::string &angle, const std::string &stretch,
+                         const std::string &left) {
+  return text("The corners disagree: the back is turned clockwise by {1} degrees, and larger by "
+              "{2} percent. Offsets correct neither, and leave up to {3} at the sheet's corners. "
+              "Paper from a fresh pack, and guides that touch it, may help.")
+      .with(angle, stretch, left);
+}
+std::string outOfRange(const std::string &most) {
+  return text("The offsets are limited to {1}. An error this large usually comes from a wrong "
+              "paper size, tray, or edge to turn about: check these settings first.")
+      .with(most);
+}
+
+} // namespace imageposition::messages

@@ -1,0 +1,31 @@
+/// Messages about measuring with alignment sheets.
+#ifndef IMAGEPOSITION_CORE_SETUP_ALIGNERTEXTS_HPP
+#define IMAGEPOSITION_CORE_SETUP_ALIGNERTEXTS_HPP
+
+#include "Text.hpp"
+
+#include <string>
+
+namespace imageposition::messages {
+
+// Why no sheets are printed.
+std::string paperTooSmall(const std::string &paper);
+std::string sheetProgramMissing(const std::string &program);
+extern const Text kSheetsNotDrawn;
+std::string sheetsNotKept(const std::string &reason);
+
+// What the sheets show. Lengths include their unit.
+/// `directions` is as "1.7 mm to the right and 0.3 mm up".
+std::string displacement(const std::string &directions);
+extern const Text kNotDisplaced;
+std::string spread(int sheets, const std::string &right, const std::string &down);
+extern const Text kOneSheetOnly;
+std::string newOffsets(const std::string &offsets);
+/// `angle` is in degrees, `stretch` in percent.
+std::string cornersApart(const std::string &angle, const std::string &stretch,
+                         const std::string &left);
+std::string outOfRange(const std::string &most);
+
+} // namespace imageposition::messages
+
+#endif
