@@ -5,6 +5,7 @@
 #include "PictureTexts.hpp"
 #import "PreviewDrawing.h"
 #import "TextBridge.h"
+#include "ShiftTexts.hpp"
 #include "WindowTexts.hpp"
 
 #include <gtest/gtest.h>
