@@ -4,6 +4,7 @@
 #include "Language.hpp"
 #include "PictureTexts.hpp"
 #import "PreviewDrawing.h"
+#include "ShiftTexts.hpp"
 #import "TextBridge.h"
 #include "ShiftTexts.hpp"
 #include "WindowTexts.hpp"
