@@ -6,6 +6,7 @@
 #import "PreviewDrawing.h"
 #include "ShiftTexts.hpp"
 #import "TextBridge.h"
+#include "ShiftTexts.hpp"
 #include "WindowTexts.hpp"
 
 #include <gtest/gtest.h>
