@@ -60,6 +60,8 @@ std::string alignmentsNotImported(const std::string &path, const std::string &re
   return text("Cannot import \"{1}\": {2}.").with(path, reason);
 }
 std::string alignmentsDeleted(int count, const std::string &queue) {
+  if (count == 0)
+    return text("Nothing was measured for \"{1}\".").with(queue);
   return counted(count, "{1} measurement of \"{2}\" was deleted.",
                  "{1} measurements of \"{2}\" were deleted.", {queue});
 }

@@ -187,14 +187,15 @@ std::vector<std::string> AlignmentResult::sentences() const {
   const std::string directions = directionsOf(m.right, m.down);
   std::vector<std::string> all{directions.empty() ? messages::kNotDisplaced.str()
                                                   : messages::displacement(directions)};
-  if (m.sheets > 1)
+  if (m.sheets > 1 && !(m.spreadRight == 0 && m.spreadDown == 0))
     all.push_back(
         messages::spread(m.sheets, lengthInWords(m.spreadRight), lengthInWords(m.spreadDown)));
-  else
+  else if (m.sheets == 1)
     all.push_back(messages::kOneSheetOnly);
   all.push_back(messages::newOffsets(messages::offsetsInWords(corrected.offsets)));
   if (m.areCornersApart())
-    all.push_back(messages::cornersApart(numberOf(m.angle, 2), numberOf(m.stretch, 2),
+    all.push_back(messages::cornersApart(numberOf(std::abs(m.angle), 2),
+                                         numberOf(std::abs(m.stretch), 2), m.stretch < 0,
                                          lengthInWords(m.left)));
   if (corrected.isLimited)
     all.push_back(messages::outOfRange(lengthText(kLargestOffset)));

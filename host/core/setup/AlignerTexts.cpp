@@ -34,11 +34,15 @@ std::string spread(int sheets, const std::string &right, const std::string &down
 const Text kOneSheetOnly =
     text("One sheet does not show how much the printer varies. Read all three.");
 std::string newOffsets(const std::string &offsets) { return text("Offsets: {1}.").with(offsets); }
-std::string cornersApart(const std::string &angle, const std::string &stretch,
+std::string cornersApart(const std::string &angle, const std::string &stretch, bool isSmaller,
                          const std::string &left) {
-  return text("The corners disagree: the back is turned clockwise by {1} degrees, and larger by "
-              "{2} percent. Offsets correct neither, and leave up to {3} at the sheet's corners. "
-              "Paper from a fresh pack, and guides that touch it, may help.")
+  return (isSmaller
+              ? text("The corners disagree: the back is turned by {1} degrees, and {2} percent "
+                     "smaller. Offsets correct neither, and leave up to {3} at the sheet's "
+                     "corners. Paper from a fresh pack, and guides that touch it, may help.")
+              : text("The corners disagree: the back is turned by {1} degrees, and {2} percent "
+                     "larger. Offsets correct neither, and leave up to {3} at the sheet's "
+                     "corners. Paper from a fresh pack, and guides that touch it, may help."))
       .with(angle, stretch, left);
 }
 std::string outOfRange(const std::string &most) {

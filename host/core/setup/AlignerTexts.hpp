@@ -21,8 +21,8 @@ extern const Text kNotDisplaced;
 std::string spread(int sheets, const std::string &right, const std::string &down);
 extern const Text kOneSheetOnly;
 std::string newOffsets(const std::string &offsets);
-/// `angle` is in degrees, `stretch` in percent.
-std::string cornersApart(const std::string &angle, const std::string &stretch,
+/// `angle` is in degrees, `stretch` in percent; neither has a sign.
+std::string cornersApart(const std::string &angle, const std::string &stretch, bool isSmaller,
                          const std::string &left);
 std::string outOfRange(const std::string &most);
 

@@ -139,6 +139,11 @@ std::optional<std::string> valueHere(ppd_file_t *ppd, ppd_file_t *before,
   return fitSetting(ppd, setting.name, setting.value, true).value;
 }
 
+bool isSame(const std::optional<FoundAlignment> &one, const std::optional<FoundAlignment> &other) {
+  return one && other && one->offsets == other->offsets && one->date == other->date &&
+         one->isOfOtherTurning == other->isOfOtherTurning;
+}
+
 bool isOff(const char *value) {
   return std::strcmp(value, "0") == 0 || std::strcmp(value, "False") == 0;
 }
@@ -260,12 +265,15 @@ bool PrintJob::hasMeasuredOffsets() const {
 }
 
 bool PrintJob::followAlignment() {
-  const SideOffsets before = sideOffsetsIn(settings());
-  const bool isTheUsers = alignment_ ? !hasMeasuredOffsets() : !(before == SideOffsets());
-  if (alignments_.all().empty() || isTheUsers)
+  if (alignments_.all().empty())
     return false;
+  const SideOffsets before = sideOffsetsIn(settings());
   printer_->mark(settings());
   if (availabilityOf(printer_->ppd()).oneSided) // nothing moves
+    return false;
+  const auto here = alignmentHere();
+  const bool isTheUsers = alignment_ ? !hasMeasuredOffsets() : !(before == SideOffsets());
+  if (isTheUsers && (!here || isSame(here, alignment_)))
     return false;
   const bool isLeft = alignment_.has_value();
   if (!takeAlignment() && isLeft) {
@@ -464,10 +472,11 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     removeOffsets(request);
   const std::shared_ptr<const ShiftedJob> shifted = shiftedJob(request);
   losses_ = shifted ? shifted->losses() : "";
+  origin_ = alignmentNote();
   if (arguments_.isDryRun) {
     totalSize(documentsToSend()); // fails where a submission would
-    if (const std::string note = alignmentNote(); !note.empty())
-      std::cerr << note << '\n';
+    if (!origin_.empty())
+      std::cerr << origin_ << '\n';
     if (shifted)
       std::cerr << messages::sentences({shifted->description(), losses_}) << '\n';
     std::cout << writeRequestText(shifted ? shifted->request() : request, documentsToSend());
@@ -489,8 +498,9 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
     return;
   const auto inputs = std::count(documents_.begin(), documents_.end(), "-"); // lp counts files
   output << messages::jobSent(printer, sent.id, documents_.size() - inputs) << std::endl;
-  if (arguments_.isBatch && !losses_.empty()) // the window has the picture
-    notes << losses_ << std::endl;
+  for (const std::string &note : {origin_, losses_}) // the window shows both
+    if (arguments_.isBatch && !note.empty())
+      notes << note << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;
 }

@@ -81,7 +81,8 @@ public:
   /// those that were measured.
   std::string alignmentNote();
   /// Call after the paper, the tray or the turning may have changed: takes the offsets that were
-  /// measured for them, unless the user has set others. Returns whether the offsets have changed.
+  /// measured for them. Offsets that the user has entered stay unless others were measured for the
+  /// new settings. Returns whether the offsets have changed.
   bool followAlignment();
 
   /// One sentence for each setting of the first queue's preset that was changed or dropped because
@@ -184,6 +185,7 @@ private:
   bool isSubmitted_;
   bool isTicketChosen_ = false;
   std::string missingPrinter_;
+  std::string origin_; // of measured offsets, in words
   std::string losses_; // of the job that `print` submits
   std::string sentName_;
   std::string done_;

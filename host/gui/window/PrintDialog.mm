@@ -68,12 +68,14 @@ struct imageposition::PrintDialogState {
   std::string numberNote;       // the last message about a number; may be empty
   bool isNumberChanged = false; // when the editing of a number ended last
   std::string acceptedConflict; // that the user has accepted; may be empty
+  std::string origin;           // of the offsets, if the message says it
 };
 
 @interface PrintDialog ()
 - (void)buildParts;
 - (void)buildWindowForPane:(NSSize)pane room:(NSSize)room;
 - (NSView *)firstControl;
+- (void)dropOutdatedOrigin;
 - (void)keepFocus;
 - (BOOL)acceptConflict;
 - (void)look;
@@ -90,7 +92,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, false, {}};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, false, {}, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -184,6 +186,8 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)show:(const std::string &)text {
+  const std::string origin = state->session->job().alignmentNote();
+  state->origin = text.find(origin) != std::string::npos ? origin : "";
   state->message = text;
   [message setStringValue:toString(text)];
   [self layOut];
@@ -246,6 +250,7 @@ struct imageposition::PrintDialogState {
   [self layOut];
   [panes refresh];
   [self refreshPicture];
+  [self dropOutdatedOrigin];
   [self keepFocus];
 }
 
@@ -338,8 +343,17 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)userActedOn:(NSView *)view {
-  if (![sending isUnderWay])
-    [panes userActedOn:view];
+  if ([sending isUnderWay])
+    return;
+  [panes userActedOn:view];
+  [self dropOutdatedOrigin];
+}
+
+/// The offsets may no longer be those of which the message says where they come from.
+- (void)dropOutdatedOrigin {
+  const std::string origin = state->origin;
+  if (!origin.empty() && state->session->job().alignmentNote() != origin)
+    [self show:state->message.substr(0, state->message.find(origin))];
 }
 
 - (BOOL)takesNumbers:(NSTextField *)field {
@@ -358,6 +372,7 @@ struct imageposition::PrintDialogState {
     [self say:note];
   else if (!note.empty() || (!last.empty() && state->message == last))
     [self show:note];
+  [self dropOutdatedOrigin];
 }
 
 - (BOOL)takesFiles {
