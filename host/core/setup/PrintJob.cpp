@@ -9,6 +9,7 @@
 #include "JobSplit.hpp"
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
+#include "PanelValues.hpp"
 #include "Phrases.hpp"
 #include "PrinterConnection.hpp"
 #include "PrinterFailure.hpp"
@@ -448,6 +449,18 @@ JobRequest PrintJob::request(const DestinationList &destinations) const {
   return request;
 }
 
+/// Whether the command line has offsets for the back, which follows the front.
+bool PrintJob::isBackIgnored() const {
+  PrintSettingsStore given;
+  applyLpOptions(arguments_, given);
+  const char *const flag = ticket_.settings.get(IPA_KEY_ENABLE);
+  if (flag != nullptr && readBoolean(flag).value_or(false))
+    return false;
+  const char *const right = given.get(IPA_KEY_BACK_LEFT_RIGHT);
+  const char *const down = given.get(IPA_KEY_BACK_TOP_BOTTOM);
+  return (right != nullptr && !isOff(right)) || (down != nullptr && !isOff(down));
+}
+
 /// Null unless the dialog moves the image.
 std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request) {
   printer_->mark(ticket_.settings);
@@ -473,8 +486,12 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
   const std::shared_ptr<const ShiftedJob> shifted = shiftedJob(request);
   losses_ = shifted ? shifted->losses() : "";
   origin_ = alignmentNote();
+  if (arguments_.isBatch && isBackIgnored())
+    std::cerr << messages::kBackIgnored.view() << '\n';
   if (arguments_.isDryRun) {
-    totalSize(documentsToSend()); // fails where a submission would
+    totalSize(documentsToSend()); // fails where a submission would; so does the next
+    if (shifted && arguments_.isBatch && !contains(documentsToSend(), "-"))
+      shifted->move(documentsToSend(), [](const JobProgress &) { return true; });
     if (!origin_.empty())
       std::cerr << origin_ << '\n';
     if (shifted)

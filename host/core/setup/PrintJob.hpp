@@ -168,6 +168,7 @@ private:
   std::unique_ptr<ShiftedJob> shiftedJob(const JobRequest &request);
   void writeTicketTo(const std::string &path);
   std::vector<std::string> documentsToSend() const;
+  bool isBackIgnored() const;
 
   const Arguments &arguments_;
   std::string queue_;

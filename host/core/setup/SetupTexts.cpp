@@ -14,6 +14,9 @@ std::string outputUnwritable(const std::string &done) {
         "Cannot write to standard output. Redirect it elsewhere, or specify a file with --ticket.");
   return text("Cannot write to standard output. {1}").with(done);
 }
+const Text kBackIgnored =
+    text("The back's offsets have no effect, because the back follows the front. To "
+         "separate them, add --back on.");
 // lp's English output, which scripts parse.
 std::string jobSent(const std::string &printer, int id, std::size_t files) {
   return "request id is " + printer + "-" + std::to_string(id) + " (" + std::to_string(files) +

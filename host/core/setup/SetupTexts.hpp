@@ -13,6 +13,9 @@ std::string ticketWritten(const std::string &path, const std::string &optionPath
 /// `done`: sentences about what cannot be undone; may be empty.
 std::string outputUnwritable(const std::string &done);
 
+/// The command line has offsets for the back without the flag that they need.
+extern const Text kBackIgnored;
+
 /// lp's output, which scripts parse; not translated.
 std::string jobSent(const std::string &printer, int id, std::size_t files);
 

@@ -223,7 +223,8 @@ struct imageposition::SendingState {
       isMovedBefore ? messages::kPrintAsItIsWindow : messages::kPrintUnmovedWindow,
       failure.reason(), isMovedBefore ? messages::kPrintAsItIs : messages::kPrintUnmovedButton,
       messages::kGoBack, true};
-  if (isConfirmed([progress window], proposal)) {
+  const bool isPrintable = failure.problem() != MoveProblem::Encrypted; // nor can CUPS read it
+  if (isPrintable && isConfirmed([progress window], proposal)) {
     [self startWith:OwnShift::Skip];
     return;
   }

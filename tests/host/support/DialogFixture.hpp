@@ -24,7 +24,8 @@ enum Status {
   kNoPanel = 5,
   kTicket = 6,
   kDisplay = 7,
-  kValue = 8
+  kValue = 8,
+  kJob = 9
 };
 
 class DialogFixture : public testing::Test {

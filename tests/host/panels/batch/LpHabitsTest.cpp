@@ -135,6 +135,22 @@ TEST_F(LpHabits, APrinterWithoutAPanelIsRefusedIfAnOptionRequiresOne) {
                   "panel");
 }
 
+TEST_F(LpHabits, OffsetsOfABackThatFollowsTheFrontAreMentioned) {
+  const Words back{"--dry-run", "-o", "BackLeftRightMargin=-20", document};
+  const auto ignored = print("plain", back);
+  EXPECT_EQ(ignored.status, kDone);
+  EXPECT_THAT(ignored.errors, HasSubstr("add --back on"));
+  Words separate{"--back", "on"};
+  separate.insert(separate.end(), back.begin(), back.end());
+  EXPECT_THAT(print("plain", separate).errors, Not(HasSubstr("add --back on")));
+}
+
+TEST_F(LpHabits, ADryRunFailsForADocumentThatCannotBeMoved) {
+  const std::string damaged = folder.write("damaged.pdf", "%PDF-1.4\n");
+  expectRefused(print("plain", {"--dry-run", "-o", "LeftRightMargin=-20", damaged}), kJob,
+                "damaged.pdf");
+}
+
 TEST_F(LpHabits, StandardInputIsPrinted) {
   for (const char *command :
        {"cat \"$1\" | \"$0\" --batch -d office", "cat \"$1\" | \"$0\" --batch -d office -",
