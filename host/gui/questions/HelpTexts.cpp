@@ -22,9 +22,7 @@ std::vector<HelpSection> helpSections() {
              "negative number moves it left or up."),
         text("While the box is not checked, the front's offsets move both sides.")}},
       {text("Keep the offsets"),
-       {text("The window starts with the printer and the settings of your last job. The preset "
-             "\"None\" goes back to the printer's defaults."),
-        text("A preset saves all settings for this printer under a name. lp -d printer/preset "
+       {text("A preset saves all settings for this printer under a name. lp -d printer/preset "
              "prints with them too."),
         text("\"Save as ticket\", last in the list of printers, writes the settings to a file "
              "instead of printing.")}},

@@ -20,6 +20,7 @@ const char *const kLanguages[] = {"de", "es", "fr", "it", "ja", "zh_CN"};
 /// A string with its translations; several if it has plural forms.
 struct Entry {
   std::string english;
+  std::string plural; // in English; empty without plural forms
   std::vector<std::string> translations;
 };
 
@@ -39,6 +40,8 @@ std::vector<Entry> readCatalogue(const std::string &language) {
       entries.emplace_back();
     else if (line.rfind("msgid ", 0) == 0)
       *(last = &entries.back().english) = betweenQuotes(line);
+    else if (line.rfind("msgid_plural ", 0) == 0)
+      *(last = &entries.back().plural) = betweenQuotes(line);
     else if (line.rfind("msgstr", 0) == 0)
       *(last = &entries.back().translations.emplace_back()) = betweenQuotes(line);
     else if (line[0] == '"' && last != nullptr)
@@ -63,7 +66,9 @@ TEST(Catalogue, KeepsThePlaceholdersOfEachStringInItsTranslations) {
     EXPECT_GT(entries.size(), 200U) << language;
     for (const Entry &entry : entries)
       for (const std::string &translation : entry.translations)
-        EXPECT_EQ(placeholdersIn(translation), placeholdersIn(entry.english))
+        EXPECT_TRUE(
+            placeholdersIn(translation) == placeholdersIn(entry.english) ||
+            (!entry.plural.empty() && placeholdersIn(translation) == placeholdersIn(entry.plural)))
             << language << ": " << entry.english;
   }
 }
