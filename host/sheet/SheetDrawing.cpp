@@ -9,7 +9,13 @@ namespace imageposition {
 
 namespace {
 
-using namespace vernier;
+using vernier::kBackPitch;
+using vernier::kFrontLines;
+using vernier::kFrontPitch;
+using vernier::kLargestTenth;
+using vernier::kLargestWhole;
+using vernier::kOverlap;
+using vernier::kReach;
 
 constexpr double kThin = 0.12;
 constexpr double kThick = 0.25;

@@ -8,7 +8,8 @@
 #include <iterator>
 
 int main() try {
-  using namespace imageposition;
+  using imageposition::drawSheets;
+  using imageposition::readSheetTask;
   const std::string text(std::istreambuf_iterator<char>(std::cin), {});
   const auto task = readSheetTask(text);
   const auto document = task ? drawSheets(*task) : std::nullopt;

@@ -33,7 +33,8 @@ SheetArea commonArea(const PageShape &page, const SheetLayout &layout) {
 
 /// The first corner is the upper left of the back.
 void placeVerniers(SheetLayout &layout, const SheetArea &area) {
-  using namespace vernier;
+  using vernier::kHalfDepth;
+  using vernier::kHalfWidth;
   const SheetPoint across{area.left + kHalfWidth, area.top + kHalfDepth};
   const SheetPoint down{area.left + kHalfDepth, area.top + 2 * kHalfDepth + kGap + kHalfWidth};
   layout.verniers[kFirstAcross] = {Direction::Across, across};

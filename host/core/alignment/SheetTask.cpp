@@ -20,8 +20,27 @@ PageShape readPage(const Json &page) {
 
 } // namespace
 
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(SideWords, name, sheet, facts, advice)
-NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(SheetWords, front, back)
+// NOLINTBEGIN(readability-identifier-naming): the library looks for these names.
+static void to_json(Json &json, const SideWords &side) {
+  json = {
+      {"name", side.name}, {"sheet", side.sheet}, {"facts", side.facts}, {"advice", side.advice}};
+}
+
+static void from_json(const Json &json, SideWords &side) {
+  json.at("name").get_to(side.name);
+  json.at("sheet").get_to(side.sheet);
+  json.at("facts").get_to(side.facts);
+  json.at("advice").get_to(side.advice);
+}
+
+static void to_json(Json &json, const SheetWords &sheet) {
+  json = {{"front", sheet.front}, {"back", sheet.back}};
+}
+
+static void from_json(const Json &json, SheetWords &sheet) {
+  json.at("front").get_to(sheet.front);
+  json.at("back").get_to(sheet.back);
+}
 
 static void to_json(Json &json, const SheetTask &task) {
   json = {{"page", written(task.page)},
@@ -38,6 +57,7 @@ static void from_json(const Json &json, SheetTask &task) {
   json.at("title").get_to(task.title);
   json.at("example").get_to(task.example);
 }
+// NOLINTEND(readability-identifier-naming)
 
 std::string textOf(const SheetTask &task) {
   return Json(task).dump(-1, ' ', false, Json::error_handler_t::replace);

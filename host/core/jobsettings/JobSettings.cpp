@@ -193,7 +193,7 @@ std::optional<PrinterOption> JobSettings::find(const std::string &keyword) const
   for (OptionGroup &group : listed())
     for (PrinterOption &option : group.options)
       if (isSame(option.keyword, keyword))
-        return std::move(option);
+        return std::optional<PrinterOption>(std::move(option));
   return std::nullopt;
 }
 

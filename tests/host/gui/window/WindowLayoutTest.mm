@@ -6,7 +6,6 @@
 #import "PreviewDrawing.h"
 #include "ShiftTexts.hpp"
 #import "TextBridge.h"
-#include "ShiftTexts.hpp"
 #include "WindowTexts.hpp"
 
 #include <gtest/gtest.h>
