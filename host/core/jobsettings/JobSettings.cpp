@@ -17,7 +17,6 @@ namespace imageposition {
 namespace {
 
 constexpr const char *kCovers = "job-sheets";
-constexpr const char *kTitle = "job-name";
 // Keywords of options that are two parts of one setting.
 constexpr const char *kFirstCover = "job-sheets-first";
 constexpr const char *kLastCover = "job-sheets-last";
@@ -47,7 +46,7 @@ std::optional<CustomOption> customValueOf(const std::string &name) {
   if (name == "job-priority")
     return CustomOption{
         name, false, {parameter("Priority", messages::kPriority, Kind::Integer, 1, 100)}};
-  if (name == kTitle)
+  if (name == kTitleSetting)
     return CustomOption{
         name, false, {parameter("Title", messages::kJobTitle, Kind::Text, 1, kLongestTitle)}};
   return std::nullopt;
@@ -58,7 +57,7 @@ std::string commandOf(const std::string &name) {
     return messages::kAtATime;
   if (name == "job-priority")
     return messages::kAnotherNumber;
-  return name == kTitle ? messages::kAnotherTitle.str() : "";
+  return name == kTitleSetting ? messages::kAnotherTitle.str() : "";
 }
 
 /// A value that is not among the choices, in words.
@@ -162,16 +161,16 @@ PrinterOption JobSettings::coverPage(bool isLast) const {
 
 PrinterOption JobSettings::title() const {
   PrinterOption option;
-  option.keyword = kTitle;
+  option.keyword = kTitleSetting;
   option.text = messages::kJobTitle;
   option.choices.push_back({"", visible(context_.title)});
-  const char *const stored = job_.get(kTitle);
+  const char *const stored = job_.get(kTitleSetting);
   option.chosen = stored != nullptr ? stored : "";
-  option.custom = customValueOf(kTitle);
+  option.custom = customValueOf(kTitleSetting);
   option.takesCustomValue = true;
-  option.enterText = commandOf(kTitle);
+  option.enterText = commandOf(kTitleSetting);
   listChosen(option, visible(option.chosen));
-  option.isLocked = job_.isLocked(kTitle);
+  option.isLocked = job_.isLocked(kTitleSetting);
   return option;
 }
 
@@ -278,9 +277,9 @@ SummarySection JobSettings::section() const {
   for (const OptionGroup &group : listed())
     for (const PrinterOption &option : group.options) {
       const JobSetting *const setting = findSetting(option.keyword);
-      const std::string usual = setting != nullptr         ? setting->usual
-                                : option.keyword == kTitle ? ""
-                                                           : kNone;
+      const std::string usual = setting != nullptr                ? setting->usual
+                                : option.keyword == kTitleSetting ? ""
+                                                                  : kNone;
       const bool differs = option.differsFromDefault();
       if (!differs && option.chosen == usual)
         continue;
@@ -294,7 +293,7 @@ SummarySection JobSettings::section() const {
 }
 
 std::vector<std::string> JobSettings::names() const {
-  std::vector<std::string> names{kCovers, kTitle};
+  std::vector<std::string> names{kCovers, kTitleSetting};
   for (const JobSetting &setting : jobSettings()) {
     if (isPrinters(setting))
       continue;

@@ -14,6 +14,9 @@
 
 namespace imageposition {
 
+/// The setting with the job's title, which is sent as the job's name instead of an option.
+constexpr const char *kTitleSetting = "job-name";
+
 /// What the settings depend on besides the printer's description and the job.
 struct JobSettingsContext {
   std::vector<std::string> coverPages; ///< That CUPS has for the printer; empty if not known.

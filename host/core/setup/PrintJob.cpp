@@ -72,8 +72,6 @@ void applyLpOptions(const Arguments &arguments, PrintSettingsStore &settings) {
     readOptionArgument("notify-recipient-uri=mailto:" + mailAddress(), settings);
 }
 
-constexpr const char *kTitleSetting = "job-name";
-
 /// Settings that apply to one job only, in addition to those of one document, which no preset has.
 bool isOfOneJob(const std::string &name) {
   static const std::vector<std::string> kNames{"copies", "job-hold-until", "job-priority",
