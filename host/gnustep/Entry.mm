@@ -58,8 +58,11 @@ ExitCode runInBatch(const Arguments &arguments) {
        unknownValues(job.printer(), job.settings(), session.panels().optionKeys()))
     std::cerr << messages::kProgram << sentence << '\n';
   const auto summary = runBatch(session.panels(), job.printer().ppd(), arguments.batch, std::cerr);
-  if (const auto submission =
-          job.print(job.isSubmitted() ? readDestinations() : DestinationList(), arguments.ticket))
+  const DestinationList destinations = job.target() == JobTarget::Ticket || job.queue().empty()
+                                           ? DestinationList()
+                                           : readDestinations();
+  const bool isPdf = job.target() == JobTarget::PdfFile;
+  if (const auto submission = job.print(destinations, isPdf ? arguments.pdf : arguments.ticket))
     job.report(submission->result(), std::cout, std::cerr);
   if (arguments.batch.summary)
     std::cout << writeSummary(summary);

@@ -143,7 +143,7 @@ std::size_t shiftPages(const Descriptor &from, const Descriptor &to, const Shift
                        const ShiftProgress &progress) {
   std::size_t count = 0;
   withPdf(from, [&](QPDF &pdf) {
-    if (!plan.isMovedAgain && !markIn(pdf).isNull())
+    if (plan.isMoving() && !plan.isMovedAgain && !markIn(pdf).isNull())
       throw PdfTrouble(PdfTrouble::Kind::MovedBefore, "the image was moved before");
     auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
     if (pages.empty())
@@ -156,7 +156,8 @@ std::size_t shiftPages(const Descriptor &from, const Descriptor &to, const Shift
     const bool isPadded = plan.isPadded && pages.size() % 2 != 0;
     if (isPadded)
       addBlankPage(pdf, pages.back());
-    mark(pdf, plan);
+    if (plan.isMoving())
+      mark(pdf, plan);
     write(pdf, to, progress);
     count = pages.size() + (isPadded ? 1 : 0);
   });

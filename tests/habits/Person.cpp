@@ -470,8 +470,9 @@ std::vector<Sentence> Person::sentences() {
       {"CUPS received \"*\" as \"*\"", [=](const StepValues &v) { seeReceived(v[0], v[1]); }},
       {"it writes \"*\"",
        [=](const StepValues &v) {
-         if (dialog_->wait().output.find(v[0]) == std::string::npos)
-           throw StepFailure("the output is: " + dialog_->wait().output);
+         const std::string written = dialog_->wait().output + dialog_->wait().errors;
+         if (written.find(v[0]) == std::string::npos)
+           throw StepFailure("the output is: " + written);
        }},
       {"it does not write \"*\"",
        [=](const StepValues &v) {

@@ -120,6 +120,7 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
       messages::kHelpPlugin)
       ->type_name("BUNDLE");
   addText(app, "--ticket", arguments.ticket, messages::kHelpTicket, "FILE");
+  addText(app, "--pdf", arguments.pdf, messages::kHelpPdf, "FILE");
   app.add_option("DOCUMENT", arguments.documents, messages::kHelpDocument)->type_name("");
   addText(app, "--appearance", arguments.appearance, messages::kHelpAppearance, "light|dark");
   addText(app, "--text-scale", arguments.textScale, messages::kHelpTextScale, "NUMBER");
@@ -163,7 +164,7 @@ void refuseFilesLikeOptions(const std::vector<std::string> &words) {
 /// An empty value usually comes from an unset shell variable; ignoring it would skip the option.
 void refuseEmptyValues(const CLI::App &app) {
   for (const char *name :
-       {"--ticket", "--back", "--ppd", "-d", "-h", "-U", "--crease", "--sheet",
+       {"--ticket", "--pdf", "--back", "--ppd", "-d", "-h", "-U", "--crease", "--sheet",
         "--export-alignments", "--import-alignments", "--delete-alignments", "DOCUMENT"}) {
     const auto &texts = app.get_option(name)->results();
     if (std::find(texts.begin(), texts.end(), "") != texts.end())
@@ -194,7 +195,10 @@ void checkCombination(const Arguments &arguments) {
   if (!arguments.isAligning &&
       (!arguments.readings.empty() || !arguments.crease.empty() || !arguments.sheetFile.empty()))
     refuse(messages::kOnlyWithAlign);
-  if (arguments.isAligning && (!arguments.documents.empty() || !arguments.ticket.empty()))
+  if (!arguments.pdf.empty() && (!arguments.ticket.empty() || arguments.isDryRun))
+    refuse(messages::kPdfAlone);
+  if (arguments.isAligning &&
+      (!arguments.documents.empty() || !arguments.ticket.empty() || !arguments.pdf.empty()))
     refuse(messages::kAlignPrintsSheets);
   if (endsWith(arguments.ticket, ".options"))
     refuse(messages::ticketNamesOptions(arguments.ticket));

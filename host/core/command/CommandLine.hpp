@@ -34,6 +34,7 @@ struct Arguments {
   std::vector<std::string> options;
   std::vector<std::string> plugins;
   std::string ticket;
+  std::string pdf; ///< Write the pages to this file; excludes `ticket` and a dry run.
   std::vector<std::string> documents; ///< "-" is standard input, at most once.
   std::string title;
   std::string appearance;        ///< "light" or "dark".

@@ -56,6 +56,8 @@ const char *const kHelpPlugin = "Use this plug-in and no other; may be repeated.
 const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exists,\n"
                                 "written by Print. The same as NAME=VALUE lines goes\n"
                                 "beside it (job.options for job.json)";
+const char *const kHelpPdf = "Print nothing: write the pages to FILE (PDF), laid out\n"
+                             "and moved as they would be printed";
 const char *const kHelpDocument = "What to print, several as one job; \"-\" is standard input,\n"
                                   "which is also read when no document is named and the\n"
                                   "window prints, or batch has a file or a pipe there.\n"
@@ -107,6 +109,7 @@ const Text kOnlyInBatch = text("--set, --back and --summary require --batch.");
 const Text kOnlyWithAlign = text("--reading, --crease and --sheet require --align.");
 const Text kAlignPrintsSheets =
     text("--align prints alignment sheets. Leave out documents and --ticket.");
+const Text kPdfAlone = text("--pdf writes the pages. Leave out --ticket and --dry-run.");
 const Text kStandardInputRepeated =
     text("Standard input can be printed only once. Use \"-\" once.");
 std::string jobsAreNotChanged(const std::string &job) {

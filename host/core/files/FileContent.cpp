@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 
 namespace imageposition {
@@ -25,6 +26,25 @@ void checkRegular(const Descriptor &file) {
 } // namespace
 
 FileTrouble::FileTrouble(int error) : std::runtime_error(systemReason(error)), error_(error) {}
+
+MappedFile::MappedFile(const Descriptor &file) {
+  checkRegular(file);
+  struct stat status {};
+  if (fstat(file.get(), &status) != 0)
+    throw FileTrouble(errno);
+  const auto size = static_cast<std::size_t>(status.st_size);
+  if (size == 0) // which cannot be mapped
+    return;
+  void *const start = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file.get(), 0);
+  if (start == MAP_FAILED)
+    throw FileTrouble(errno);
+  content_ = {static_cast<const char *>(start), size};
+}
+
+MappedFile::~MappedFile() {
+  if (!content_.empty())
+    munmap(const_cast<char *>(content_.data()), content_.size());
+}
 
 std::string contentOfFile(const Descriptor &file) {
   checkRegular(file);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 #include <utility>
 
@@ -52,6 +53,21 @@ private:
 std::optional<std::string> contentOfFile(const std::string &path);
 /// The same for a file that is already open for reading.
 std::string contentOfFile(const Descriptor &file);
+
+/// The content of an open file of any size, mapped for reading. The file must not become shorter.
+class MappedFile {
+public:
+  /// Borrows the descriptor during the call. Throws a `FileTrouble`.
+  explicit MappedFile(const Descriptor &file);
+  ~MappedFile();
+  MappedFile(const MappedFile &) = delete;
+  MappedFile &operator=(const MappedFile &) = delete;
+
+  std::string_view content() const noexcept { return content_; }
+
+private:
+  std::string_view content_;
+};
 
 /// In bytes; far larger than any file that this program writes.
 constexpr std::size_t kLargestContent = std::size_t(64) << 20;

@@ -45,10 +45,8 @@ constexpr auto kRemovalTime = std::chrono::seconds(5); // the same, at the end o
 /// Shared by the submission, the thread that submits and the thread that watches it.
 class SubmissionWork {
 public:
-  SubmissionWork(JobRequest request, JobDocuments documents, JobSubmission::Changed changed,
-                 JobPreparation prepare)
-      : request_(std::move(request)), documents_(std::move(documents)),
-        changed_(std::move(changed)), prepare_(std::move(prepare)),
+  SubmissionWork(std::string printer, JobSubmission::Work work, JobSubmission::Changed changed)
+      : printer_(std::move(printer)), work_(std::move(work)), changed_(std::move(changed)),
         ended_(eventfd(0, EFD_CLOEXEC)) {}
 
   /// The two threads.
@@ -73,10 +71,9 @@ private:
   SubmissionFailure failure(const JobProgress &reached) const;
   [[noreturn]] void endBy(int signal);
 
-  const JobRequest request_;
-  const JobDocuments documents_;
+  const std::string printer_;
+  const JobSubmission::Work work_;
   const JobSubmission::Changed changed_; // may be null
-  const JobPreparation prepare_;         // may be null
   const Descriptor ended_;               // readable once `submit` has ended
   std::promise<SubmittedJob> promise_;
   const std::shared_future<SubmittedJob> outcome_ = promise_.get_future().share();
@@ -180,9 +177,7 @@ void SubmissionWork::submit() {
     password = [this](const PasswordRequest &asked) { return ask(asked); };
   try {
     const auto progress = [this](const JobProgress &reached) { return take(reached); };
-    const PreparedJob prepared =
-        prepare_ ? prepare_(documents_, progress) : PreparedJob{request_, documents_, {}};
-    const SubmittedJob job = submitJob(prepared.request, prepared.documents, progress, password);
+    const SubmittedJob job = work_(progress, password);
     settle([&] { promise_.set_value(job); });
   } catch (...) {
     settle(std::current_exception());
@@ -202,7 +197,7 @@ SubmissionFailure SubmissionWork::failure(const JobProgress &reached) const {
                                    messages::noCups(server, messages::kNoAnswer));
   return {isCancelled_ ? JobProblem::Cancelled : JobProblem::NoAnswer,
           isCancelled_ ? ExitCode::Cancelled : ExitCode::Job,
-          messages::jobLeftBehind(messages::noAnswerToJob(server), request_.printer, reached.job)};
+          messages::jobLeftBehind(messages::noAnswerToJob(server), printer_, reached.job)};
 }
 
 void SubmissionWork::giveUpIfDue() {
@@ -275,8 +270,19 @@ bool SubmissionWork::isSilentFor(Clock::duration time) const {
 
 JobSubmission::JobSubmission(JobRequest request, JobDocuments documents, Changed changed,
                              JobPreparation prepare)
-    : work_(std::make_shared<SubmissionWork>(std::move(request), std::move(documents),
-                                             std::move(changed), std::move(prepare))) {
+    : JobSubmission(
+          request.printer,
+          [request, documents = std::move(documents), prepare = std::move(prepare)](
+              const ProgressCallback &progress, const PasswordCallback &password) {
+            const PreparedJob prepared =
+                prepare ? prepare(documents, progress) : PreparedJob{request, documents, {}};
+            return submitJob(prepared.request, prepared.documents, progress, password);
+          },
+          std::move(changed)) {}
+
+JobSubmission::JobSubmission(std::string printer, Work job, Changed changed)
+    : work_(std::make_shared<SubmissionWork>(std::move(printer), std::move(job),
+                                             std::move(changed))) {
   const auto work = work_;
   const auto running = std::make_shared<RunningCall>();
   endWithProcess(work);

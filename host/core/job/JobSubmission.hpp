@@ -13,7 +13,8 @@ namespace imageposition {
 
 class SubmissionWork;
 
-/// Submits a job on a background thread. Call all methods on one thread. Only `result` waits.
+/// Submits a job, or does other work with its documents, on a background thread. Call all methods
+/// on one thread. Only `result` waits.
 ///
 /// Neither `cancel` nor the timeouts depend on what CUPS does: if it does not respond, the
 /// background thread is left to itself, and removes the job as soon as it can.
@@ -27,10 +28,16 @@ public:
   /// destroyed.
   using Changed = std::function<void()>;
 
+  /// What a submission does: calls the callbacks on its thread, and throws a `Failure`; a
+  /// `SubmissionFailure` if the first has cancelled. The second is null if there is nobody to ask.
+  using Work = std::function<SubmittedJob(const ProgressCallback &, const PasswordCallback &)>;
+
   /// Starts at once. Without `changed`, a job that requires a password fails. With `prepare`, sends
   /// what that makes of the documents. Throws a `SubmissionFailure` if no thread can be created.
   JobSubmission(JobRequest request, JobDocuments documents, Changed changed = {},
                 JobPreparation prepare = {});
+  /// The same for other work. `printer` is for messages.
+  JobSubmission(std::string printer, Work job, Changed changed = {});
   /// Cancels the submission.
   ~JobSubmission();
   JobSubmission(const JobSubmission &) = delete;

@@ -55,6 +55,7 @@ std::string notMoved(const std::string &document, MoveProblem problem, const std
 const Text kNoFilters = text("The image cannot be moved: the package cups-filters is not installed "
                              "on this computer. Install it.");
 const Text kRawNotMoved = text("The image of a raw job cannot be moved. Print without -o raw.");
+const Text kNoFileWritten = text("No file was written.");
 const Text kPrintUnmoved = text("To print without moving the image, use --no-shift.");
 
 std::string moverMissing(const std::string &program) {

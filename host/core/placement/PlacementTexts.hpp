@@ -15,6 +15,7 @@ std::string notMoved(const std::string &document, MoveProblem problem, const std
 std::string moverMissing(const std::string &program);
 extern const Text kNoFilters;
 extern const Text kRawNotMoved;
+extern const Text kNoFileWritten;
 /// The last resort on the command line.
 extern const Text kPrintUnmoved;
 

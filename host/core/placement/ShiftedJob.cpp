@@ -148,10 +148,10 @@ bool isReversed(const PrintSettingsStore &options, ppd_file_t *ppd) {
 ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd) {
   ShiftDecision decision;
   const char *const support = attribute(ppd, IPA_ATTRIBUTE_SUPPORT);
-  if (support != nullptr && std::strcmp(support, "true") == 0 && !isImageShiftAdded(ppd)) {
+  const bool isDriverMoving =
+      support != nullptr && std::strcmp(support, "true") == 0 && !isImageShiftAdded(ppd);
+  if (isDriverMoving)
     decision.by = ShiftedBy::Printer;
-    return decision;
-  }
   const PreviewRequest request = readPreviewRequest(panelSettings(options, ppd), ppd);
   const ppd_option_t *const twoSided = twoSidedOption(ppd);
   if (!request.availability.isAvailable() || (twoSided != nullptr && isOneSided(ppd, *twoSided)))
@@ -162,7 +162,7 @@ ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd) {
     plan.front = request.front;
   if (plan.order.sides != PrintedSides::FrontsOnly)
     plan.back = request.back;
-  if (!(plan.front == Offset{}) || !(plan.back == Offset{}))
+  if (!isDriverMoving && plan.isMoving())
     decision.by = ShiftedBy::Dialog;
   return decision;
 }

@@ -1,4 +1,4 @@
-/// Moves the image of a job before it is sent, where the printer's driver does not.
+/// Lays a job out and moves its image here, where the printer's driver does not move it.
 #ifndef IMAGEPOSITION_CORE_PLACEMENT_SHIFTEDJOB_HPP
 #define IMAGEPOSITION_CORE_PLACEMENT_SHIFTEDJOB_HPP
 
@@ -22,7 +22,8 @@ enum class ShiftedBy {
 
 struct ShiftDecision {
   ShiftedBy by = ShiftedBy::Nobody;
-  ShiftPlan plan; ///< For `Dialog`. The plan of the last document; the others are padded.
+  /// How each side moves, whoever moves it. The plan of the last document; the others are padded.
+  ShiftPlan plan;
 };
 
 /// Decides who moves the image. `options` are those that the job would be sent with, `ppd` is the
@@ -33,8 +34,8 @@ ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd);
 /// job's option, or else the output bin, or else the printer's default.
 bool isReversed(const PrintSettingsStore &options, ppd_file_t *ppd);
 
-/// A job whose documents the dialog moves. Does not refer to what it was made from, so it can be
-/// used on another thread.
+/// A job whose documents the dialog lays out and, unless all offsets are 0, moves. Does not refer
+/// to what it was made from, so it can be used on another thread.
 class ShiftedJob {
 public:
   /// `description` is the text of the printer's PPD; `ppd` is the same with the job's choices

@@ -10,6 +10,7 @@
 #include "JobSubmission.hpp"
 #include "OptionText.hpp"
 #include "PanelValues.hpp"
+#include "PdfFile.hpp"
 #include "Phrases.hpp"
 #include "PrinterConnection.hpp"
 #include "PrinterFailure.hpp"
@@ -195,9 +196,7 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
       ticket_(openTicket(arguments, preset_.settings)),
       withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
                                                          : openTicket(arguments, {}).settings),
-      documents_(arguments.documents),
-      isSubmitted_(!queue_.empty() && arguments.ticket.empty() &&
-                   (hasDocument() || !arguments.isBatch)) { // the window has Open
+      documents_(arguments.documents), target_(firstTarget()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
   if (!arguments.isUnaligned && !queue_.empty())
@@ -208,6 +207,19 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
   const std::string remembered = rememberedQueue(arguments, history_);
   if (remembered != QueueName::parse(queue_).printer)
     missingPrinter_ = remembered;
+}
+
+JobTarget PrintJob::firstTarget() const {
+  if (!arguments_.pdf.empty())
+    return JobTarget::PdfFile;
+  const bool isPrintable = hasDocument() || !arguments_.isBatch; // the window has Open
+  return !queue_.empty() && arguments_.ticket.empty() && isPrintable ? JobTarget::Printer
+                                                                     : JobTarget::Ticket;
+}
+
+void PrintJob::setTarget(JobTarget target) noexcept {
+  isTargetChosen_ = target != JobTarget::Printer;
+  target_ = target == JobTarget::Printer && queue_.empty() ? JobTarget::Ticket : target;
 }
 
 /// Of the preset that the queue or the history names, or of the last job. A preset is an instance
@@ -411,8 +423,8 @@ bool PrintJob::hasDocument() const { return !documents_.empty() || isInputGiven(
 
 void PrintJob::setDocuments(const std::vector<std::string> &paths) {
   documents_ = ticket_.documents = paths;
-  if (!isTicketChosen_ && arguments_.ticket.empty())
-    isSubmitted_ = !queue_.empty();
+  if (!isTargetChosen_ && arguments_.ticket.empty() && arguments_.pdf.empty())
+    setTarget(JobTarget::Printer);
 }
 
 std::vector<std::string> PrintJob::documentsToSend() const {
@@ -438,7 +450,7 @@ JobRequest PrintJob::request(const DestinationList &destinations) const {
       request.secrets.push_back(std::move(name));
   const Destination *const destination = destinations.find(queue_);
   if (destination != nullptr &&
-      isSubmitted_) { // a ticket does not include the destination's defaults
+      target_ != JobTarget::Ticket) { // which does not include the destination's defaults
     request.defaults = destination->defaults;
     request.printerUri = destination->uri;
   }
@@ -459,29 +471,53 @@ bool PrintJob::isBackIgnored() const {
   return (right != nullptr && !isOff(right)) || (down != nullptr && !isOff(down));
 }
 
-/// Null unless the dialog moves the image.
-std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request) {
+ShiftDecision PrintJob::shiftDecision(const JobRequest &request) {
   printer_->mark(ticket_.settings);
-  const ShiftDecision decision = decideShift(optionsToSend(request), printer_->ppd());
-  if (decision.by != ShiftedBy::Dialog)
-    return nullptr;
-  return std::make_unique<ShiftedJob>(request, decision.plan, printer_->ppd(), printer_->text());
+  return decideShift(optionsToSend(request), printer_->ppd());
+}
+
+std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request, const ShiftPlan &plan) {
+  return std::make_unique<ShiftedJob>(request, plan, printer_->ppd(), printer_->text());
+}
+
+std::unique_ptr<JobSubmission> PrintJob::startPdf(const JobRequest &request,
+                                                  const std::string &path,
+                                                  JobSubmission::Changed changed) {
+  if (!hasDocument())
+    throw Failure(ExitCode::Usage, messages::kNoDocumentForPdf);
+  const JobDocuments documents = documentsToSend();
+  if (documents.size() > 1)
+    throw Failure(ExitCode::Usage, messages::kOneDocumentForPdf);
+  const ShiftPlan plan = shiftDecision(request).plan;
+  const std::shared_ptr<const ShiftedJob> laidOut = shiftedJob(request, plan);
+  pdfNote_ = messages::pdfWritten(path);
+  if (plan.isMoving())
+    pdfNote_ = messages::sentences({pdfNote_, messages::kPdfIsMoved});
+  const auto work = [=](const ProgressCallback &progress, const PasswordCallback &) {
+    writePdf(*laidOut, documents.front(), path, progress);
+    return SubmittedJob();
+  };
+  return std::make_unique<JobSubmission>(request.printer, work, std::move(changed));
 }
 
 std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinations,
-                                               const std::string &ticketPath,
+                                               const std::string &path,
                                                JobSubmission::Changed changed, OwnShift ownShift) {
-  if (!isSubmitted_) {
-    if (ticketPath.empty())
+  if (target_ == JobTarget::Ticket) {
+    if (path.empty())
       writeToOutput(writeOptionText(ticket_.settings));
     else
-      writeTicketTo(ticketPath);
+      writeTicketTo(path);
     return nullptr;
   }
   JobRequest request = this->request(destinations);
+  if (target_ == JobTarget::PdfFile)
+    return startPdf(request, path, std::move(changed));
   if (ownShift == OwnShift::Skip)
     removeOffsets(request);
-  const std::shared_ptr<const ShiftedJob> shifted = shiftedJob(request);
+  std::shared_ptr<const ShiftedJob> shifted;
+  if (const ShiftDecision decision = shiftDecision(request); decision.by == ShiftedBy::Dialog)
+    shifted = shiftedJob(request, decision.plan);
   losses_ = shifted ? shifted->losses() : "";
   origin_ = alignmentNote();
   if (arguments_.isBatch && isBackIgnored())
@@ -507,6 +543,12 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
 }
 
 void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
+  if (target_ == JobTarget::PdfFile) {
+    done_ = pdfNote_;
+    if (!arguments_.isSilent)
+      notes << done_ << std::endl;
+    return;
+  }
   const std::string printer = QueueName::parse(queue_).printer;
   sentName_ = printer + "-" + std::to_string(sent.id);
   if (arguments_.isSilent || arguments_.isMailWanted)

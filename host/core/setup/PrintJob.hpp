@@ -20,6 +20,8 @@
 namespace imageposition {
 
 class ShiftedJob;
+struct ShiftDecision;
+struct ShiftPlan;
 
 struct OpenedPrinter {
   std::string queue; ///< "queue" or "queue/instance"; empty for a description file.
@@ -43,6 +45,13 @@ std::string rememberedQueue(const Arguments &arguments, const History &history);
 enum class OwnShift {
   Apply,
   Skip, ///< As with --no-shift.
+};
+
+/// What `PrintJob::print` does.
+enum class JobTarget {
+  Printer, ///< Submits the job to CUPS.
+  Ticket,  ///< Writes its settings.
+  PdfFile, ///< Writes its document, laid out and moved.
 };
 
 /// Main thread only.
@@ -104,13 +113,9 @@ public:
   /// then the printer. Keeps the job's settings.
   void leavePreset();
 
-  /// Whether `print` submits the job to CUPS; otherwise it writes the settings.
-  bool isSubmitted() const noexcept { return isSubmitted_; }
-  /// Stays false if there is no queue.
-  void setSubmitted(bool submitted) noexcept {
-    isTicketChosen_ = !submitted;
-    isSubmitted_ = submitted && !queue_.empty();
-  }
+  JobTarget target() const noexcept { return target_; }
+  /// Without a queue, a ticket takes the place of the printer.
+  void setTarget(JobTarget target) noexcept;
 
   /// Switches to another printer, and keeps the settings that it accepts. What the history has for
   /// it replaces settings that are as they were at the start; returns whether there are any.
@@ -123,8 +128,8 @@ public:
 
   /// As named on the command line or in the ticket; empty if standard input is implied.
   const std::vector<std::string> &documents() const noexcept { return ticket_.documents; }
-  /// Takes other documents, at least one. `print` then submits them, unless the job is to be saved
-  /// as a ticket.
+  /// Takes other documents, at least one. `print` then submits them, unless another target was
+  /// chosen.
   void setDocuments(const std::vector<std::string> &paths);
   /// Whether there is something to print: a document, or redirected input.
   bool hasDocument() const;
@@ -137,19 +142,19 @@ public:
   /// defaults.
   JobRequest request(const DestinationList &destinations) const;
 
-  /// Prints: writes a ticket to `ticketPath` (or the settings to standard output, if the path is
-  /// empty), writes the request of a dry run to standard output, or starts to submit the job. If
-  /// the printer's driver does not apply the offsets, the submission first moves the documents.
-  /// Returns the submission, which the caller awaits and reports; null in the other cases. Throws a
-  /// `Failure`, which is a `ShiftFailure` if the dialog cannot move the image.
-  std::unique_ptr<JobSubmission> print(const DestinationList &destinations,
-                                       const std::string &ticketPath,
+  /// Does what the target says: writes a ticket to `path` (or the settings to standard output, if
+  /// the path is empty), starts to write a PDF file to `path`, writes the request of a dry run to
+  /// standard output, or starts to submit the job. If the printer's driver does not apply the
+  /// offsets, the submission first moves the documents. Returns the submission, or the writing of
+  /// a PDF file, which the caller awaits and reports; null in the other cases. Throws a `Failure`,
+  /// which is a `ShiftFailure` if the dialog cannot move the image.
+  std::unique_ptr<JobSubmission> print(const DestinationList &destinations, const std::string &path,
                                        JobSubmission::Changed changed = {},
                                        OwnShift ownShift = OwnShift::Apply);
 
-  /// Reports the submitted job: lp's line to `output`, remarks to `notes`. In batch mode, one
-  /// of these is what the dialog's move of the image pushes out of the printable area. Writes
-  /// nothing if the command line has -s or -m.
+  /// Reports a PDF file to `notes`, or the submitted job: lp's line to `output`, remarks to
+  /// `notes`. In batch mode, one of these is what the dialog's move of the image pushes out of the
+  /// printable area. Writes nothing if the command line has -s or -m.
   void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
   /// CUPS's name of the submitted job, "office-12"; empty before `report`.
   const std::string &sentName() const noexcept { return sentName_; }
@@ -157,6 +162,7 @@ public:
   const std::string &done() const noexcept { return done_; }
 
 private:
+  JobTarget firstTarget() const;
   LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
   bool takeHistory();
@@ -165,7 +171,10 @@ private:
   std::optional<FoundAlignment> alignmentHere();
   bool takeAlignment();
   PrintSettingsStore settingsToRemember() const;
-  std::unique_ptr<ShiftedJob> shiftedJob(const JobRequest &request);
+  ShiftDecision shiftDecision(const JobRequest &request);
+  std::unique_ptr<ShiftedJob> shiftedJob(const JobRequest &request, const ShiftPlan &plan);
+  std::unique_ptr<JobSubmission> startPdf(const JobRequest &request, const std::string &path,
+                                          JobSubmission::Changed changed);
   void writeTicketTo(const std::string &path);
   std::vector<std::string> documentsToSend() const;
   bool isBackIgnored() const;
@@ -183,12 +192,13 @@ private:
   std::optional<FoundAlignment> alignment_; // whose offsets the job has taken
   PrintSettingsStore withoutPreset_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
-  bool isSubmitted_;
-  bool isTicketChosen_ = false;
+  JobTarget target_;
+  bool isTargetChosen_ = false;
   std::string missingPrinter_;
   std::string origin_; // of measured offsets, in words
   std::string losses_; // of the job that `print` submits
   std::string sentName_;
+  std::string pdfNote_;
   std::string done_;
 };
 

@@ -8,6 +8,13 @@ std::string ticketWritten(const std::string &path, const std::string &optionPath
   return text("The job's settings are in {1} and {2}.")
       .with(shellWord(path), shellWord(optionPath));
 }
+std::string pdfWritten(const std::string &path) {
+  return text("The pages are in {1}.").with(shellWord(path));
+}
+const Text kPdfIsMoved = text("The offsets have been applied: print that file without any.");
+const Text kNoDocumentForPdf = text("Name a document to save as PDF.");
+const Text kOneDocumentForPdf =
+    text("A PDF file has one document. Save the documents one after the other.");
 std::string outputUnwritable(const std::string &done) {
   if (done.empty())
     return text(

@@ -9,6 +9,10 @@
 namespace imageposition::messages {
 
 // Output.
+std::string pdfWritten(const std::string &path);
+extern const Text kPdfIsMoved;
+extern const Text kNoDocumentForPdf;
+extern const Text kOneDocumentForPdf;
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
 /// `done`: sentences about what cannot be undone; may be empty.
 std::string outputUnwritable(const std::string &done);

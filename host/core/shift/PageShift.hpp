@@ -52,6 +52,8 @@ struct ShiftPlan {
   /// Also moves a document that was moved before.
   bool isMovedAgain = false;
 
+  /// Whether any side moves. Otherwise documents are laid out only.
+  bool isMoving() const noexcept { return !(front == Offset{}) || !(back == Offset{}); }
   const Offset &offsetOf(Side side) const noexcept { return side == Side::Front ? front : back; }
 };
 

@@ -27,9 +27,10 @@ std::optional<std::string> askForName(NSWindow *parent, const NameQuestion &ques
 /// Asks over `parent` before something with that name is replaced. Main thread.
 bool mayReplace(NSWindow *parent, const std::string &name);
 
-/// The same for the file of a ticket; returns its path. Also asks before an existing file is
-/// replaced.
-std::optional<std::string> askForTicket(NSWindow *parent, const std::string &suggestion);
+/// Asks for the file to write, and before an existing file is replaced. Returns its path. The
+/// suggestion ends in `ending`, whose extension completes a name. Main thread.
+std::optional<std::string> askForFile(NSWindow *parent, const NameQuestion &question,
+                                      const std::string &ending);
 
 } // namespace imageposition
 

@@ -3,9 +3,9 @@
 #import "Labels.h"
 #import "ModalPanel.h"
 #import "NotePanel.h"
+#include "OutputName.hpp"
 #include "QuestionTexts.hpp"
 #import "TextBridge.h"
-#include "TicketName.hpp"
 
 #include <cstdlib>
 #include <filesystem>
@@ -64,15 +64,15 @@ std::optional<std::string> askForName(NSWindow *parent, const NameQuestion &ques
   return ask(parent, question, {messages::kOk, kNameWidth}, mayTake);
 }
 
-std::optional<std::string> askForTicket(NSWindow *parent, const std::string &suggestion) {
+std::optional<std::string> askForFile(NSWindow *parent, const NameQuestion &question,
+                                      const std::string &ending) {
   const char *const home = std::getenv("HOME");
   std::string path;
-  const auto typed =
-      ask(parent, {messages::kSaveAsTicket, messages::kTicketQuestion, suggestion},
-          {messages::kSave, kPathWidth}, [&](NSWindow *window, const std::string &name) {
-            path = ticketPath(name, home != nullptr ? home : "");
-            return path.empty() || mayWrite(window, path);
-          });
+  const auto typed = ask(parent, question, {messages::kSave, kPathWidth},
+                         [&](NSWindow *window, const std::string &name) {
+                           path = outputPath(name, home != nullptr ? home : "", ending);
+                           return path.empty() || mayWrite(window, path);
+                         });
   if (!typed || path.empty())
     return std::nullopt;
   return path;

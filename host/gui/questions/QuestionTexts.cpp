@@ -30,6 +30,8 @@ std::string pasteboardUnreachable(const std::string &reason) {
       .with(because(reason));
 }
 const Text kSaveAsTicket = text("Save as ticket");
+const Text kSaveAsPdf = text("Save as PDF");
+const Text kPdfQuestion = text("File for the pages as they will be printed:");
 const Text kTicketQuestion = text("File for the job's settings:");
 const Text kSave = text("Save");
 const Text kReplace = text("Replace");

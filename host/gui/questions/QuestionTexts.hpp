@@ -25,6 +25,8 @@ std::string pasteboardUnreachable(const std::string &reason);
 
 // Tickets.
 extern const Text kSaveAsTicket;
+extern const Text kSaveAsPdf;
+extern const Text kPdfQuestion;
 extern const Text kTicketQuestion;
 extern const Text kSave;
 extern const Text kReplace;

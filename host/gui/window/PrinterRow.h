@@ -12,7 +12,7 @@ class RunLoopWake;
 struct PrinterRowState;
 }
 
-/// Below the printers the pop-up offers to save a ticket instead of printing.
+/// Below the printers the pop-up offers to save a ticket or a PDF file instead of printing.
 @interface PrinterRow : NSObject {
   id<DialogServices> dialog; ///< Not owned.
   ListPopUp *popUp;          ///< Owned; so below.

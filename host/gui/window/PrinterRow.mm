@@ -92,9 +92,13 @@ namespace {} // namespace
     current = names.insert(names.end(), job.queue());
     addItem(popUp, job.queue());
   }
-  addCommand(popUp, messages::kSaveAsTicket);
-  const auto item = job.isSubmitted() ? current : names.end(); // the ticket's is the last
-  [popUp selectItemAtIndex:item - names.begin()];
+  for (const Text *const command : {&messages::kSaveAsTicket, &messages::kSaveAsPdf})
+    addCommand(popUp, *command);
+  const NSInteger afterNames = static_cast<NSInteger>(names.size());
+  const NSInteger item = job.target() == JobTarget::Printer  ? current - names.begin()
+                         : job.target() == JobTarget::Ticket ? afterNames
+                                                             : afterNames + 1;
+  [popUp selectItemAtIndex:item];
   [self showState];
 }
 
@@ -103,7 +107,7 @@ namespace {} // namespace
   const DestinationList &list = [dialog session].destinations().list();
   const Destination *const destination = list.find(job.queue());
   std::string text;
-  if (!job.isSubmitted())
+  if (job.target() != JobTarget::Printer)
     text = job.printer().name();
   else if (!list.reason.empty())
     text = list.reason;
@@ -118,12 +122,15 @@ namespace {} // namespace
   [(KeyWindow *)[sender window] focus:popUp];
   PrintJob &job = [dialog session].job();
   const auto chosen = static_cast<std::size_t>([popUp indexOfSelectedItem]);
-  const bool isTicket = chosen >= state->names.size();
-  const std::string queue = isTicket ? job.queue() : state->names.at(chosen);
+  const std::size_t printers = state->names.size();
+  const JobTarget target = chosen < printers    ? JobTarget::Printer
+                           : chosen == printers ? JobTarget::Ticket
+                                                : JobTarget::PdfFile;
+  const std::string queue = target == JobTarget::Printer ? state->names.at(chosen) : job.queue();
   if (queue != job.queue())
     [dialog chooseQueue:queue];
-  if (isTicket || queue == job.queue()) // a printer that cannot be used changes nothing
-    job.setSubmitted(!isTicket);
+  if (queue == job.queue()) // a printer that cannot be used changes nothing
+    job.setTarget(target);
   [self refresh];
 }
 

@@ -11,11 +11,11 @@
 #import "KeyWindow.h"
 #import "NamePanel.h"
 #import "NotePanel.h"
+#include "OutputName.hpp"
 #import "PasswordPanel.h"
 #include "QuestionTexts.hpp"
 #include "QueueName.hpp"
 #import "RunLoopWake.h"
-#include "TicketName.hpp"
 #import "WaitPanel.h"
 #include "WindowTexts.hpp"
 
@@ -29,6 +29,23 @@ using namespace imageposition;
 namespace {
 
 constexpr std::chrono::seconds kCancelTimeout{15};
+
+/// The file that the job is written to: the command line's, or the one that the user names; empty
+/// for a printer. None if the user has cancelled.
+std::optional<std::string> fileToWrite(NSWindow *window, const PrintJob &job) {
+  if (job.target() == JobTarget::Printer)
+    return "";
+  const bool isPdf = job.target() == JobTarget::PdfFile;
+  const std::string &given = isPdf ? job.arguments().pdf : job.arguments().ticket;
+  if (!given.empty())
+    return given;
+  const char *const ending = isPdf ? kPdfEnding : kTicketEnding;
+  return askForFile(window,
+                    {isPdf ? messages::kSaveAsPdf : messages::kSaveAsTicket,
+                     isPdf ? messages::kPdfQuestion : messages::kTicketQuestion,
+                     suggestedOutput(job.documents(), ending)},
+                    ending);
+}
 
 } // namespace
 
@@ -118,20 +135,16 @@ struct imageposition::SendingState {
 - (void)startWith:(OwnShift)shift {
   state->unmovable.reset();
   PrintJob &job = [dialog session].job();
-  if (job.isSubmitted() && !job.hasDocument()) {
+  if (job.target() != JobTarget::Ticket && !job.hasDocument()) {
     [dialog say:messages::kNothingToPrint];
     return;
   }
   try {
-    std::string ticket = job.arguments().ticket;
-    if (!job.isSubmitted() && ticket.empty()) {
-      const auto named = askForTicket([progress window], suggestedTicket(job.documents()));
-      if (!named)
-        return;
-      ticket = *named;
-    }
+    const auto path = fileToWrite([progress window], job);
+    if (!path)
+      return;
     state->submission =
-        job.print([dialog session].destinations().list(), ticket, state->wake.signal(), shift);
+        job.print([dialog session].destinations().list(), *path, state->wake.signal(), shift);
   } catch (const ShiftFailure &failure) {
     state->unmovable = failure;
   } catch (const Failure &failure) {

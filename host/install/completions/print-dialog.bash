@@ -117,7 +117,7 @@ _print_dialog_value() {
   --ppd) _print_dialog_offer_files "$2" '*.[pP][pP][dD]' ;;
   --plugin) _print_dialog_offer_files "$2" '*.plugin' ;;
   --ticket | --export-alignments | --import-alignments) _print_dialog_offer_files "$2" '*.json' ;;
-  --sheet) _print_dialog_offer_files "$2" '*.[pP][dD][fF]' ;;
+  --sheet | --pdf) _print_dialog_offer_files "$2" '*.[pP][dD][fF]' ;;
   --back) _print_dialog_offer "$2" on off ;;
   --appearance) _print_dialog_offer "$2" light dark ;;
   --text-scale) _print_dialog_offer "$2" 1 1.25 1.5 2 ;;
@@ -143,7 +143,7 @@ _print_dialog() {
   if _print_dialog_value "$previous" "$current"; then return; fi
   if [[ $current == -* ]]; then
     _print_dialog_offer "$current" --version --help --ppd -d --queue -h -E -U -o --option -n -P -q \
-      -H -t -m -s -c --list-options --dry-run --no-shift --plugin --ticket --appearance --text-scale --batch --set --back \
+      -H -t -m -s -c --list-options --dry-run --no-shift --plugin --ticket --pdf --appearance --text-scale --batch --set --back \
       --summary --align --reading --crease --sheet --no-alignment --list-alignments \
       --export-alignments --import-alignments --delete-alignments
     return

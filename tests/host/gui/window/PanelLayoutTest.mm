@@ -6,6 +6,7 @@
 #import "Labels.h"
 #import "NamePanel.h"
 #import "NotePanel.h"
+#include "OutputName.hpp"
 #import "PasswordPanel.h"
 #import "Theme.h"
 #import "ValuePanel.h"
@@ -172,12 +173,15 @@ TEST_F(PanelLayout, TheRequestForAValueHasRoomForItsText) {
   EXPECT_EQ(visited(), 3);
 }
 
-TEST_F(PanelLayout, TheRequestsForATicketsFileHaveRoomForTheirText) {
+TEST_F(PanelLayout, TheRequestsForFilesHaveRoomForTheirText) {
   test::TemporaryFolder folder;
   folder.write("report.json", "mine");
   confirmFirst();
-  askForTicket(parent_, folder.path("report.json"));
+  askForFile(parent_,
+             {messages::kSaveAsTicket, messages::kTicketQuestion, folder.path("report.json")},
+             kTicketEnding);
   EXPECT_EQ(visited(), 3); // the second asks whether to replace it, and leads back to the first
+  askForFile(parent_, {messages::kSaveAsPdf, messages::kPdfQuestion, "a.pdf"}, kPdfEnding);
 }
 
 TEST_F(PanelLayout, TheQuestionWhetherToPrintAnywayHasRoomForItsText) {

@@ -1,4 +1,4 @@
-#include "TicketName.hpp"
+#include "OutputName.hpp"
 
 #include "Strings.hpp"
 
@@ -6,26 +6,21 @@
 
 namespace imageposition {
 
-namespace {
-
-constexpr const char *kExtension = ".json";
-
-} // namespace
-
-std::string suggestedTicket(const std::vector<std::string> &documents) {
+std::string suggestedOutput(const std::vector<std::string> &documents, const std::string &ending) {
   std::string name;
   if (!documents.empty() && documents.front() != "-")
     name = std::filesystem::path(documents.front()).stem().string();
-  return (name.empty() ? "job" : name) + kExtension;
+  return (name.empty() ? "job" : name) + ending;
 }
 
-std::string ticketPath(const std::string &typed, const std::string &home) {
+std::string outputPath(const std::string &typed, const std::string &home,
+                       const std::string &ending) {
   std::string path = trimmed(typed, " \t\r\n");
   if (startsWith(path, "~/") && !home.empty())
     path = home + path.substr(1);
   if (path.empty() || path.back() == '/' || std::filesystem::path(path).has_extension())
     return path;
-  return path + kExtension;
+  return path + ending.substr(ending.rfind('.'));
 }
 
 } // namespace imageposition
