@@ -21,7 +21,7 @@ void draw(SheetCanvas &canvas, const Figure &figure) {
 }
 
 void drawExample(SheetCanvas &canvas, const SheetArea &middle, const std::string &caption) {
-  constexpr double kDisplaced = 1.7;
+  constexpr double kDisplaced = static_cast<double>(kExampleDisplacement.count) / 10;
   constexpr double kAbove = 9.5, kHalfFrame = 21, kFrameTop = 14, kFrameBottom = 20;
   constexpr double kCaption = 16, kCaptionSize = 7;
   const SheetPoint zero{(middle.left + middle.right) / 2,

@@ -66,6 +66,9 @@ ScalePicture vernierPicture(VernierIndex index, TenthMillimetre displacement);
 /// A ruler that a crease crosses at `place`.
 ScalePicture creasePicture(Direction direction, TenthMillimetre place);
 
+/// Of the example on the sheets, which `sheetExample` explains.
+constexpr TenthMillimetre kExampleDisplacement = {17};
+
 /// Half the side of a square about the origin that has room for every picture.
 constexpr double kPictureReach = 17.5;
 

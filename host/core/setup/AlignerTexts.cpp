@@ -52,9 +52,9 @@ std::string outOfRange(const std::string &most) {
 }
 
 std::string printsSheets(int sheets, const std::string &printer) {
-  return counted(sheets, "One sheet is printed on both sides, on \"{2}\".",
-                 "{1} sheets are printed on both sides, on \"{2}\": no printer takes two sheets "
-                 "alike.",
+  return counted(sheets, "This prints {1} sheet on both sides, on \"{2}\".",
+                 "This prints {1} sheets on both sides, on \"{2}\". No printer takes two sheets "
+                 "alike: several show by how much they differ.",
                  {printer});
 }
 std::string sheetSettings(const std::string &settings) {
@@ -69,8 +69,12 @@ std::string printedBefore(const std::string &offsets) {
       .with(offsets);
 }
 const Text kHowToRead =
-    text("Hold each sheet against the light, with the back towards you. Change each number until "
-         "the drawing looks like the sheet there. Up and Down count in tenths of a millimetre.");
+    text("Hold each sheet against the light, with the back towards you. Enter what you read, in "
+         "millimetres, or press Up and Down until the drawing looks like the sheet.");
+const Text kHowToReadCreases =
+    text("To place the front on the paper as well, fold a sheet left edge on right edge, and then "
+         "top on bottom. Enter where each crease crosses the ruler on the front. Without these "
+         "numbers, the front stays where it is.");
 std::string alignmentStored(const std::string &settings) {
   return text("The next jobs with these settings start with the offsets: {1}. To check, print the "
               "sheets again: the lines at 0 should meet.")

@@ -33,6 +33,7 @@ std::string sheetSettings(const std::string &settings);
 std::string presentOffsets(const std::string &offsets);
 std::string printedBefore(const std::string &offsets);
 extern const Text kHowToRead;
+extern const Text kHowToReadCreases;
 std::string alignmentStored(const std::string &settings);
 
 } // namespace imageposition::messages

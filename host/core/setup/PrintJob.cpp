@@ -515,7 +515,9 @@ std::unique_ptr<JobSubmission> PrintJob::printOther(const PrintedContent &conten
                                                     const DestinationList &destinations,
                                                     JobSubmission::Changed changed) {
   const MarkedAgain job(*printer_, ticket_.settings);
-  return submit(content, requestFor(content, destinations, true), std::move(changed));
+  JobRequest request = requestFor(content, destinations, true);
+  request.documentNames.assign(content.documents.size(), request.title);
+  return submit(content, std::move(request), std::move(changed));
 }
 
 std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content, JobRequest request,

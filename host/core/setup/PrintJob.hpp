@@ -157,8 +157,8 @@ public:
                                        const std::string &ticketPath,
                                        JobSubmission::Changed changed = {},
                                        OwnShift ownShift = OwnShift::Apply);
-  /// Starts to submit other documents with other settings, which leaves the job as it is; returns
-  /// null after a dry run. Throws as `print`.
+  /// Starts to submit other documents, which are named like their job, with other settings. Leaves
+  /// the job as it is. Returns null after a dry run. Throws as `print`.
   std::unique_ptr<JobSubmission> printOther(const PrintedContent &content,
                                             const DestinationList &destinations,
                                             JobSubmission::Changed changed = {});

@@ -125,6 +125,7 @@ namespace {} // namespace
   if (isTicket || queue == job.queue()) // a printer that cannot be used changes nothing
     job.setSubmitted(!isTicket);
   [self refresh];
+  [dialog refreshOptions];
 }
 
 @end
