@@ -180,7 +180,7 @@ ScalePicture vernierPicture(VernierIndex index, TenthMillimetre displacement) {
 }
 
 ScalePicture creasePicture(Direction direction, TenthMillimetre place) {
-  constexpr double kBeyond = 14, kFold = 0.5;
+  constexpr double kBeyond = 14, kFold = 0.3;
   const Vernier ruler{direction, {}};
   ScalePicture picture{{}, creaseRuler(ruler), {}};
   const double along = millimetres(place);

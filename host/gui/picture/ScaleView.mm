@@ -13,10 +13,6 @@ namespace {
 
 constexpr double kMillimetresPerPoint = 25.4 / 72;
 
-const PaperColours &paperColours() {
-  return &previewColours() == &kDarkPreview ? kDarkPaper : kLightPaper;
-}
-
 double pixels(double millimetres) { return millimetres * kScalePointsPerMillimetre; }
 
 /// Draws in millimetres about a point in the middle of a pixel, so that whole lines are crisp.

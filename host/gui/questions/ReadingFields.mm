@@ -76,6 +76,7 @@ struct imageposition::ReadingFieldsState {
 - (void)addRow:(std::size_t)row;
 - (void)layOut;
 - (void)show:(const std::string &)text below:(std::size_t)row;
+- (std::string)mistakeInRow:(std::size_t)row;
 - (void)focused:(Place)place;
 - (void)stepped:(id)sender;
 - (ReadingField *)fieldAt:(Place)place;
@@ -233,6 +234,14 @@ struct imageposition::ReadingFieldsState {
     [self layOut];
 }
 
+/// The first; may be empty.
+- (std::string)mistakeInRow:(std::size_t)row {
+  std::string mistake;
+  for (std::size_t column = 0; column < state->form.columns(row) && mistake.empty(); column++)
+    mistake = state->form.mistake({row, column});
+  return mistake;
+}
+
 - (void)showProblem:(const ReadingForm::Problem &)problem {
   [[self window] makeFirstResponder:[self fieldAt:problem.place]];
   [self show:problem.text below:problem.place.row];
@@ -247,7 +256,7 @@ struct imageposition::ReadingFieldsState {
 - (void)controlTextDidChange:(NSNotification *)notification {
   ReadingField *const field = [notification object];
   state->form.enter([field place], toText([[field currentEditor] string]));
-  if (field->row == state->errorRow && state->form.mistake([field place]).empty())
+  if (field->row == state->errorRow && [self mistakeInRow:field->row].empty())
     [self show:"" below:state->errorRow];
   (*state->changed)();
 }
@@ -256,7 +265,7 @@ struct imageposition::ReadingFieldsState {
   ReadingField *const field = [notification object];
   state->form.enter([field place], toText([field stringValue]));
   [field setStringValue:toString(state->form.text([field place]))];
-  const std::string mistake = state->form.mistake([field place]);
+  const std::string mistake = [self mistakeInRow:field->row];
   if (!mistake.empty() || field->row == state->errorRow)
     [self show:mistake below:field->row];
   (*state->changed)();
@@ -275,7 +284,7 @@ struct imageposition::ReadingFieldsState {
   state->form.step(place, step);
   [editor setString:toString(state->form.text(place))];
   [editor selectAll:self];
-  [self show:"" below:state->errorRow];
+  [self show:[self mistakeInRow:place.row] below:place.row];
   (*state->changed)();
   return YES;
 }
@@ -292,7 +301,7 @@ struct imageposition::ReadingFieldsState {
       state->form.step(place, [sender intValue] > 0 ? 1 : -1);
       [sender setIntValue:0];
       [field setStringValue:toString(state->form.text(place))];
-      [self show:"" below:state->errorRow];
+      [self show:[self mistakeInRow:place.row] below:place.row];
       (*state->changed)();
     }
 }
