@@ -1,6 +1,7 @@
 #include "AlignmentCommands.hpp"
 
 #include "Aligner.hpp"
+#include "AlignerTexts.hpp"
 #include "AlignmentTexts.hpp"
 #include "Destinations.hpp"
 #include "FileContent.hpp"
@@ -53,12 +54,13 @@ std::optional<Offset> creaseIn(const Arguments &arguments) {
 
 ExitCode takeReadings(const Aligner &aligner, const std::vector<SheetReading> &readings,
                       const std::optional<Offset> &crease) {
-  const AlignmentResult result = aligner.result(readings, crease, std::cerr);
+  const auto printed = Alignments::read(std::cerr).printed(aligner.key());
+  const AlignmentResult result = aligner.result(readings, crease, printed);
   for (const std::string &sentence : result.sentences())
     std::cout << sentence << '\n';
   if (!aligner.key().queue.empty()) {
     std::ostringstream errors;
-    require(aligner.store(result, errors), errors);
+    require(storeAlignment(aligner.measured(result), errors), errors);
     std::cout << messages::alignmentStored(aligner.settingsInWords()) << '\n';
   }
   requireOutput();
@@ -80,14 +82,13 @@ std::string nextCommand(const Arguments &arguments, const PrintJob &job) {
 }
 
 ExitCode printSheets(const Arguments &arguments, PrintJob &job, Aligner &aligner) {
-  const Descriptor sheets = aligner.drawSheets();
+  const Descriptor sheets = drawSheets(aligner.task());
   if (!arguments.sheetFile.empty()) {
     writeSheets(sheets, arguments.sheetFile);
   } else {
     if (job.queue().empty())
       throw Failure(ExitCode::Usage, messages::kAlignNeedsQueue);
-    aligner.setUpJob(sheets);
-    if (const auto submission = job.print(readDestinations(), ""))
+    if (const auto submission = aligner.print(sheets, readDestinations()))
       job.report(submission->result(), std::cout, std::cerr);
   }
   if (!arguments.isDryRun && !job.queue().empty()) {
@@ -153,8 +154,6 @@ ExitCode align(const Arguments &arguments) {
   const auto crease = creaseIn(arguments);
   Arguments ofSheets = arguments;
   ofSheets.isBatch = true;
-  if (ofSheets.title.empty())
-    ofSheets.title = messages::kSheetTitle;
   PrintJob job(ofSheets, openPrinter(ofSheets));
   Aligner aligner(job);
   return readings.empty() ? printSheets(ofSheets, job, aligner)

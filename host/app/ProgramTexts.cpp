@@ -47,11 +47,6 @@ std::string readTheSheets(int sheets, const std::string &command) {
                  "one. Then enter what you have read, with --reading for each sheet: {2}",
                  {command});
 }
-std::string alignmentStored(const std::string &settings) {
-  return text("The next jobs with these settings start with the offsets: {1}. To check, print the "
-              "sheets again: the lines at 0 should meet.")
-      .with(settings);
-}
 const Text kNothingMeasured = text("Nothing was measured yet. Use --align.");
 std::string alignmentsImported(int count) {
   return counted(count, "{1} measurement was imported.", "{1} measurements were imported.");

@@ -20,7 +20,6 @@ extern const Text kCreaseNeedsReading;
 extern const Text kAlignNeedsQueue;
 /// `command` is how to go on.
 std::string readTheSheets(int sheets, const std::string &command);
-std::string alignmentStored(const std::string &settings);
 extern const Text kNothingMeasured;
 std::string alignmentsImported(int count);
 std::string alignmentsNotImported(const std::string &path, const std::string &reason);

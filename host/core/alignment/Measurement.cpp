@@ -1,6 +1,7 @@
 #include "Measurement.hpp"
 
 #include "LengthUnit.hpp"
+#include "NumberText.hpp"
 #include "SharedKeys.h"
 
 #include <algorithm>
@@ -17,7 +18,6 @@ constexpr double kMostApart = 3; // tenths
 /// The numbers in tenths; empty unless all of them are numbers that the scales have.
 std::vector<TenthMillimetre> readTenths(std::string_view text) {
   constexpr std::string_view kSeparators = ",; \t";
-  constexpr double kMost = vernier::kLargestWhole + vernier::kLargestTenth / kTenthsPerMillimetre;
   std::vector<TenthMillimetre> tenths;
   for (;;) {
     const std::size_t start = std::min(text.find_first_not_of(kSeparators), text.size());
@@ -25,10 +25,10 @@ std::vector<TenthMillimetre> readTenths(std::string_view text) {
     if (text.empty())
       return tenths;
     const std::size_t end = std::min(text.find_first_of(kSeparators), text.size());
-    const auto number = readNumber(std::string(text.substr(0, end)));
-    if (!number || std::abs(*number) > kMost)
+    const auto number = readScaleNumber(text.substr(0, end));
+    if (!number)
       return {};
-    tenths.push_back({std::llround(*number * kTenthsPerMillimetre)});
+    tenths.push_back(*number);
     text.remove_prefix(end);
   }
 }
@@ -90,6 +90,14 @@ CorrectedOffsets limited(const SideOffsets &offsets) {
 }
 
 } // namespace
+
+std::optional<TenthMillimetre> readScaleNumber(std::string_view text) {
+  const auto number = readNumber(asciiNumber(text));
+  if (!number ||
+      std::abs(*number) * kTenthsPerMillimetre > static_cast<double>(kLargestReading.count))
+    return std::nullopt;
+  return TenthMillimetre{std::llround(*number * kTenthsPerMillimetre)};
+}
 
 std::optional<SheetReading> readSheetReading(std::string_view text) {
   const auto tenths = readTenths(text);

@@ -17,6 +17,13 @@ struct SheetReading {
   Offset second; ///< At the opposite one.
 };
 
+/// The largest number that a scale can show, in either direction.
+constexpr TenthMillimetre kLargestReading = {10 * vernier::kLargestWhole + vernier::kLargestTenth};
+
+/// Parses one number, in millimetres with a decimal point or comma, and rounds it to a tenth. None
+/// for anything else, and for a number that the scales do not have.
+std::optional<TenthMillimetre> readScaleNumber(std::string_view text);
+
 /// Parses "X1,Y1,X2,Y2": the readings across and down at the first corner, then at the second, in
 /// millimetres with a decimal point. Blanks and semicolons separate the numbers, too. None for
 /// anything else, and for a reading that the scales do not have.

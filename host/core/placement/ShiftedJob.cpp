@@ -196,6 +196,7 @@ PreparedJob ShiftedJob::move(const JobDocuments &documents,
                              const ProgressCallback &progress) const {
   totalSize(documents); // refuses unusable documents before the first is moved
   PreparedJob prepared{split_.printing, {}, {}};
+  prepared.request.documentNames.clear();
   const auto files = std::make_shared<std::vector<Descriptor>>();
   prepared.files = files;
   JobProgress state;
@@ -209,7 +210,7 @@ PreparedJob ShiftedJob::move(const JobDocuments &documents,
     task.plan = plan_;
     task.plan.isPadded = plan_.order.sides == PrintedSides::Both && i + 1 < documents.size();
     task.path = pathForType(documents[i]);
-    const std::string name = documentName(documents[i]);
+    const std::string name = nameToSend(split_.printing, i, documents[i]);
     const Descriptor document = opened(documents[i], [&] { return report(0); });
     auto moved = moveDocument(task, document, name, ppd_, report);
     if (!moved)

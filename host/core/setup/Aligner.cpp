@@ -4,6 +4,7 @@
 #include "AlignmentTexts.hpp"
 #include "Availability.hpp"
 #include "ExitCode.hpp"
+#include "JobSettings.hpp"
 #include "JobSplit.hpp"
 #include "LengthUnit.hpp"
 #include "MeasureTexts.hpp"
@@ -80,20 +81,27 @@ std::string numberOf(double number, int decimals) {
 
 } // namespace
 
-Aligner::Aligner(PrintJob &job) : job_(job) {
-  ppd_file_t *const ppd = job_.printer().ppd();
-  job_.printer().mark(job_.settings());
-  const PreviewRequest request = readPreviewRequest(job_.settings(), ppd);
+std::optional<AlignmentObstacle> obstacleToAlignment(PrintJob &job) {
+  ppd_file_t *const ppd = job.printer().ppd();
+  job.printer().mark(job.settings());
+  const PreviewRequest request = readPreviewRequest(job.settings(), ppd);
   if (!request.availability.isAvailable())
-    throw Failure(ExitCode::Value, adviceText(request.availability));
+    return AlignmentObstacle{reasonText(request.availability), adviceText(request.availability)};
+  if (!layOutSheet(request.page, request.turning))
+    return AlignmentObstacle{messages::paperTooSmall(choiceText(ppd, "PageSize")),
+                             messages::kChooseLargerPaper};
+  return std::nullopt;
+}
+
+Aligner::Aligner(PrintJob &job) : job_(job) {
+  if (const auto obstacle = obstacleToAlignment(job))
+    throw Failure(ExitCode::Value, messages::sentences({obstacle->reason, obstacle->advice}));
+  ppd_file_t *const ppd = job_.printer().ppd();
   key_ = alignmentKeyOf(job_.queue(), ppd);
-  page_ = request.page;
+  page_ = readPreviewRequest(job_.settings(), ppd).page;
+  layout_ = *layOutSheet(page_, key_.turning);
   if (!job_.arguments().isUnshifted)
     present_ = sideOffsetsIn(job_.settings());
-  const auto layout = layOutSheet(page_, key_.turning);
-  if (!layout)
-    throw Failure(ExitCode::Value, messages::paperTooSmall(choiceText(ppd, "PageSize")));
-  layout_ = *layout;
 }
 
 std::string Aligner::settingsInWords() const { return keyInWords(key_, job_.printer().ppd()); }
@@ -122,17 +130,17 @@ SheetTask Aligner::task() const {
   task.example = messages::sheetExample();
   for (int sheet = 1; sheet <= kSheets; sheet++)
     task.sheets.push_back(
-        {side(messages::kFrontOfSheet, sheet, present_.front, translated(messages::kFrontAdvice)),
+        {side(messages::kFrontOfSheet, sheet, present_.front, frontAdvice),
          side(messages::kBackOfSheet, sheet, present_.back, translated(messages::kBackAdvice))});
   return task;
 }
 
-Descriptor Aligner::drawSheets() const try {
+Descriptor drawSheets(const SheetTask &task) try {
   const std::string program =
       trustedPart({besideProgram(IMAGEPOSITION_SHEET), besideProgram(kInstalled)});
   if (program.empty())
     throw Failure(ExitCode::Fault, messages::sheetProgramMissing(IMAGEPOSITION_SHEET));
-  const Descriptor input = temporaryFile(textOf(task()));
+  const Descriptor input = temporaryFile(textOf(task));
   Descriptor output = temporaryFile();
   if (!run(program, input, output))
     throw Failure(ExitCode::Fault, messages::kSheetsNotDrawn);
@@ -142,14 +150,21 @@ Descriptor Aligner::drawSheets() const try {
   throw Failure(ExitCode::Fault, messages::sheetsNotKept(error.code().message()));
 }
 
-void Aligner::setUpJob(const Descriptor &sheets) {
-  PrintSettingsStore &settings = job_.settings();
-  neutralizeLayout(settings, job_.printer().queueDefaults());
-  settings.set("copies", "1");
-  settings.set("job-sheets", "none");
-  if (!job_.arguments().isUnshifted)
-    setSideOffsets(settings, present_);
-  job_.setDocuments({pathOf(sheets)});
+std::unique_ptr<JobSubmission> Aligner::print(const Descriptor &sheets,
+                                              const DestinationList &destinations,
+                                              JobSubmission::Changed changed) const {
+  PrintedContent content{job_.settings(), {pathOf(sheets)}, messages::kSheetTitle};
+  const Arguments &arguments = job_.arguments();
+  if (!arguments.isAligning) // the title is the document's
+    content.settings.remove(kTitleSetting);
+  else if (!arguments.title.empty())
+    content.title = arguments.title;
+  neutralizeLayout(content.settings, job_.printer().queueDefaults());
+  content.settings.set("copies", "1");
+  content.settings.set("job-sheets", "none");
+  if (!arguments.isUnshifted)
+    setSideOffsets(content.settings, present_);
+  return job_.printOther(content, destinations, std::move(changed));
 }
 
 bool Aligner::rememberPrinted(std::ostream &errors) const {
@@ -158,11 +173,11 @@ bool Aligner::rememberPrinted(std::ostream &errors) const {
 }
 
 AlignmentResult Aligner::result(const std::vector<SheetReading> &readings,
-                                const std::optional<Offset> &crease, std::ostream &errors) const {
+                                const std::optional<Offset> &crease,
+                                const std::optional<SideOffsets> &printed) const {
   AlignmentResult result;
   result.measurement = measure(layout_, readings);
-  result.printed = Alignments::read(errors).printed(key_).value_or(present_);
-  result.corrected = withBackMoved(result.printed, result.measurement);
+  result.corrected = withBackMoved(printed.value_or(present_), result.measurement);
   if (crease) {
     const bool isLimited = result.corrected.isLimited;
     result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_);
@@ -171,14 +186,17 @@ AlignmentResult Aligner::result(const std::vector<SheetReading> &readings,
   return result;
 }
 
-bool Aligner::store(const AlignmentResult &result, std::ostream &errors) const {
+MeasuredAlignment Aligner::measured(const AlignmentResult &result) const {
   const auto tenths = [](double length) -> TenthMillimetre { return {std::llround(length)}; };
-  const Measurement &measured = result.measurement;
-  const MeasuredAlignment alignment{key_,
-                                    result.corrected.offsets,
-                                    {tenths(measured.spreadRight), tenths(measured.spreadDown)},
-                                    measured.sheets,
-                                    today()};
+  const Measurement &measurement = result.measurement;
+  return {key_,
+          result.corrected.offsets,
+          {tenths(measurement.spreadRight), tenths(measurement.spreadDown)},
+          measurement.sheets,
+          today()};
+}
+
+bool storeAlignment(const MeasuredAlignment &alignment, std::ostream &errors) {
   return changeAlignments([&](Alignments &alignments) { alignments.store(alignment); }, errors);
 }
 

@@ -167,6 +167,20 @@ bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now,
   return isSameIn(start, now, name) || (isAdded && isOff(value));
 }
 
+/// Marks the settings' choices when it is destroyed.
+class MarkedAgain {
+public:
+  MarkedAgain(PrinterDescription &printer, const PrintSettingsStore &settings)
+      : printer_(printer), settings_(settings) {}
+  ~MarkedAgain() { printer_.mark(settings_); }
+  MarkedAgain(const MarkedAgain &) = delete;
+  MarkedAgain &operator=(const MarkedAgain &) = delete;
+
+private:
+  PrinterDescription &printer_;
+  const PrintSettingsStore &settings_;
+};
+
 } // namespace
 
 OpenedPrinter openPrinter(const Arguments &arguments) {
@@ -292,6 +306,12 @@ bool PrintJob::followAlignment() {
     settings().set(IPA_KEY_ENABLE, IPA_VALUE_FALSE);
   }
   return !(sideOffsetsIn(settings()) == before);
+}
+
+void PrintJob::takeAlignment(const MeasuredAlignment &alignment) {
+  alignments_.store(alignment);
+  alignment_ = alignments_.find(alignment.key);
+  setSideOffsets(settings(), alignment.offsets);
 }
 
 std::string PrintJob::alignmentNote() {
@@ -436,21 +456,27 @@ std::string PrintJob::title() const {
 }
 
 JobRequest PrintJob::request(const DestinationList &destinations) const {
+  // A ticket does not include the destination's defaults.
+  return requestFor({ticket_.settings, documentsToSend(), title()}, destinations,
+                    target_ != JobTarget::Ticket);
+}
+
+JobRequest PrintJob::requestFor(const PrintedContent &content, const DestinationList &destinations,
+                                bool withDefaults) const {
   JobRequest request;
   request.printer = QueueName::parse(queue_).printer;
-  request.settings = ticket_.settings;
-  request.title = title();
-  if (const char *const title = ticket_.settings.get(kTitleSetting);
+  request.settings = content.settings;
+  request.title = content.title;
+  if (const char *const title = content.settings.get(kTitleSetting);
       title != nullptr && *title != '\0')
     request.title = title;
   request.settings.remove(kTitleSetting);
   request.compounds = compoundOptions(printer_->ppd());
-  for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &ticket_.settings})
+  for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &content.settings})
     for (std::string &name : hiddenSettings(printer_->ppd(), *settings))
       request.secrets.push_back(std::move(name));
   const Destination *const destination = destinations.find(queue_);
-  if (destination != nullptr &&
-      target_ != JobTarget::Ticket) { // which does not include the destination's defaults
+  if (destination != nullptr && withDefaults) {
     request.defaults = destination->defaults;
     request.printerUri = destination->uri;
   }
@@ -460,10 +486,10 @@ JobRequest PrintJob::request(const DestinationList &destinations) const {
 }
 
 /// Whether the command line has offsets for the back, which follows the front.
-bool PrintJob::isBackIgnored() const {
+bool PrintJob::isBackIgnored(const PrintSettingsStore &settings) const {
   PrintSettingsStore given;
   applyLpOptions(arguments_, given);
-  const char *const flag = ticket_.settings.get(IPA_KEY_ENABLE);
+  const char *const flag = settings.get(IPA_KEY_ENABLE);
   if (flag != nullptr && readBoolean(flag).value_or(false))
     return false;
   const char *const right = given.get(IPA_KEY_BACK_LEFT_RIGHT);
@@ -471,8 +497,9 @@ bool PrintJob::isBackIgnored() const {
   return (right != nullptr && !isOff(right)) || (down != nullptr && !isOff(down));
 }
 
-ShiftDecision PrintJob::shiftDecision(const JobRequest &request) {
-  printer_->mark(ticket_.settings);
+ShiftDecision PrintJob::shiftDecision(const JobRequest &request,
+                                      const PrintSettingsStore &settings) {
+  printer_->mark(settings);
   return decideShift(optionsToSend(request), printer_->ppd());
 }
 
@@ -488,7 +515,7 @@ std::unique_ptr<JobSubmission> PrintJob::startPdf(const JobRequest &request,
   const JobDocuments documents = documentsToSend();
   if (documents.size() > 1)
     throw Failure(ExitCode::Usage, messages::kOneDocumentForPdf);
-  const ShiftPlan plan = shiftDecision(request).plan;
+  const ShiftPlan plan = shiftDecision(request, ticket_.settings).plan;
   const std::shared_ptr<const ShiftedJob> laidOut = shiftedJob(request, plan);
   pdfNote_ = messages::pdfWritten(path);
   if (plan.isMoving())
@@ -515,30 +542,49 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     return startPdf(request, path, std::move(changed));
   if (ownShift == OwnShift::Skip)
     removeOffsets(request);
+  return submit({ticket_.settings, documentsToSend(), title()}, std::move(request),
+                std::move(changed));
+}
+
+std::unique_ptr<JobSubmission> PrintJob::printOther(const PrintedContent &content,
+                                                    const DestinationList &destinations,
+                                                    JobSubmission::Changed changed) {
+  const MarkedAgain job(*printer_, ticket_.settings);
+  JobRequest request = requestFor(content, destinations, true);
+  request.documentNames.assign(content.documents.size(), request.title);
+  return submit(content, std::move(request), std::move(changed));
+}
+
+std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content, JobRequest request,
+                                                JobSubmission::Changed changed) {
+  const JobDocuments &documents = content.documents;
+  const ShiftDecision decision = shiftDecision(request, content.settings);
   std::shared_ptr<const ShiftedJob> shifted;
-  if (const ShiftDecision decision = shiftDecision(request); decision.by == ShiftedBy::Dialog)
+  if (decision.by == ShiftedBy::Dialog)
     shifted = shiftedJob(request, decision.plan);
   losses_ = shifted ? shifted->losses() : "";
   origin_ = alignmentNote();
-  if (arguments_.isBatch && isBackIgnored())
+  sentFiles_ = documents.size() -
+               static_cast<std::size_t>(std::count(documents.begin(), documents.end(), "-"));
+  if (arguments_.isBatch && isBackIgnored(content.settings))
     std::cerr << messages::kBackIgnored.view() << '\n';
   if (arguments_.isDryRun) {
-    totalSize(documentsToSend()); // fails where a submission would; so does the next
-    if (shifted && arguments_.isBatch && !contains(documentsToSend(), "-"))
-      shifted->move(documentsToSend(), [](const JobProgress &) { return true; });
+    totalSize(documents); // fails where a submission would; so does the next
+    if (shifted && arguments_.isBatch && !contains(documents, "-"))
+      shifted->move(documents, [](const JobProgress &) { return true; });
     if (!origin_.empty())
       std::cerr << origin_ << '\n';
     if (shifted)
       std::cerr << messages::sentences({shifted->description(), losses_}) << '\n';
-    std::cout << writeRequestText(shifted ? shifted->request() : request, documentsToSend());
+    std::cout << writeRequestText(shifted ? shifted->request() : request, documents);
     return nullptr;
   }
   JobPreparation prepare;
   if (shifted)
-    prepare = [shifted](const JobDocuments &documents, const ProgressCallback &progress) {
-      return shifted->move(documents, progress);
+    prepare = [shifted](const JobDocuments &sent, const ProgressCallback &progress) {
+      return shifted->move(sent, progress);
     };
-  return std::make_unique<JobSubmission>(std::move(request), documentsToSend(), std::move(changed),
+  return std::make_unique<JobSubmission>(std::move(request), documents, std::move(changed),
                                          std::move(prepare));
 }
 
@@ -553,9 +599,8 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
   sentName_ = printer + "-" + std::to_string(sent.id);
   if (arguments_.isSilent || arguments_.isMailWanted)
     return;
-  const auto inputs = std::count(documents_.begin(), documents_.end(), "-"); // lp counts files
-  output << messages::jobSent(printer, sent.id, documents_.size() - inputs) << std::endl;
-  for (const std::string &note : {origin_, losses_}) // the window shows both
+  output << messages::jobSent(printer, sent.id, sentFiles_) << std::endl; // as lp counts them
+  for (const std::string &note : {origin_, losses_})                      // the window shows both
     if (arguments_.isBatch && !note.empty())
       notes << note << std::endl;
   if (!sent.note.empty())

@@ -15,7 +15,8 @@ std::vector<HelpSection> helpSections() {
              "too far right? Type −15. Too far left? Type 15. Too low? Type a negative number. Too "
              "high? Type a positive one."),
         text("Print again. Is there a small error left? Measure it, and add its opposite to the "
-             "number in the field.")},
+             "number in the field."),
+        text("Or have it measured to a tenth of a millimetre: click Align… below the picture.")},
        true},
       {text("Positive is right and down"),
        {text("A positive number moves the image right or down, as you look at that side. A "

@@ -132,6 +132,7 @@ namespace {} // namespace
   if (queue == job.queue()) // a printer that cannot be used changes nothing
     job.setTarget(target);
   [self refresh];
+  [dialog refreshOptions];
 }
 
 @end

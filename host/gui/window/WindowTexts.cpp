@@ -32,6 +32,13 @@ const Text kNotOffered = text("Not available");
 const Text kSummaryTitle = text("Summary");
 const Text kResolve = text("Resol&ve");
 const Text kPrint = text("Print");
+const Text kAlign = text("Ali&gn…");
+const Text kNoPrinterToAlign = text("Choose a printer to align it.");
+const Text kDryRunPrintsNothing = text("Nothing was printed: this is a dry run.");
+std::string sheetsSent(const std::string &job) {
+  // Translators: {1} is CUPS's name of a job, as "office-12".
+  return text("The sheets are printed as the job {1}.").with(job);
+}
 const Text kNoPresetChosen = text("None");
 const Text kPrintersDefaults = text("The settings are the printer's defaults.");
 const Text kSavePreset = text("Save as preset…");
@@ -94,24 +101,5 @@ const Text kPrintUnmovedWindow = text("Print unmoved?");
 const Text kPrintUnmovedButton = text("Print unmoved");
 const Text kPrintAsItIsWindow = text("Print as it is?");
 const Text kPrintAsItIs = text("Print as it is");
-std::string layingOut(int percent) {
-  return percent == 0 ? text("Laying out the pages…").str()
-                      : text("Laying out the pages: {1} %").with(std::to_string(percent));
-}
-std::string sending(const std::string &sent, const std::string &total) {
-  return total.empty() ? text("Sending: {1}").with(sent)
-                       : text("Sending: {1} of {2}").with(sent, total);
-}
-std::string stillWaiting(const std::string &server) {
-  return text("CUPS at {1} is not responding. Still waiting; you can cancel.").with(server);
-}
-std::string byteCount(unsigned long long bytes) {
-  constexpr unsigned long long kTenthOfMegabyte = 100000;
-  if (bytes < 10 * kTenthOfMegabyte)
-    return text("{1} kB").with(std::to_string((bytes + 999) / 1000));
-  const unsigned long long tenths = (bytes + kTenthOfMegabyte / 2) / kTenthOfMegabyte;
-  return text("{1} MB").with(
-      decimalNumber(std::to_string(tenths / 10), std::to_string(tenths % 10)));
-}
 
 } // namespace imageposition::messages

@@ -2,6 +2,7 @@
 
 #include "NumberText.hpp"
 #include "PanelValues.hpp"
+#include "Phrases.hpp"
 #include "PluginFolders.hpp"
 #import "Pool.h"
 
@@ -33,6 +34,13 @@ void PrintSession::loadPanels() {
                   pluginFolders());
   panels_ = std::make_unique<PanelSession>(job_.printer(), job_.settings());
   panels_->load(plugins_, loaded_);
+}
+
+std::string PrintSession::readMeasuredOffsets() {
+  panels_->takePanelValues();
+  std::vector<std::string> notes = panels_->restore().failures;
+  notes.push_back(job_.alignmentNote());
+  return messages::sentences(notes);
 }
 
 /// A printer's offsets correct its own error, so they never go to another one.

@@ -325,6 +325,14 @@ TEST(SheetDocument, HasAFrontAndABackForEachSheet) {
   EXPECT_THAT(facts.output, testing::HasSubstr("595.276 x 841.89 pts (A4)"));
 }
 
+// Ghostscript, in the filters of PostScript printers, renders a page with a transparency group at
+// the printer's resolution, which puts the lines up to half a dot beside their places.
+TEST(SheetDocument, IsPrintedAsLines) {
+  const auto document = drawSheets(taskFor(a4(), Turning::LongEdge));
+  ASSERT_TRUE(document);
+  EXPECT_EQ(document->find("/Group"), std::string::npos);
+}
+
 TEST(SheetDocument, HasWordsInAnyLanguage) {
   SheetTask task = taskFor(a4(), Turning::LongEdge);
   task.sheets[0].front.name = "\xe8\xa1\xa8\xe9\x9d\xa2";
