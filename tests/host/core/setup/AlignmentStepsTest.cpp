@@ -158,6 +158,25 @@ TEST_F(AlignmentStepsTest, FollowTheSettingsAfterwards) {
   EXPECT_EQ(offsets(), (SideOffsets{{}, {{17}, {-3}}}));
 }
 
+TEST_F(AlignmentStepsTest, OutdoOffsetsOfTheCommandLine) {
+  arguments_.options = {"BackLeftRightMargin=4"};
+  steps().read();
+  enter(0, {"1.7", "-0.3", "1.7", "-0.3"});
+  steps().takeOffsets();
+  const SideOffsets taken = offsets();
+  job().settings().set("MediaType", "Transparency");
+  EXPECT_FALSE(job().followAlignment());
+  EXPECT_EQ(offsets(), taken);
+}
+
+TEST_F(AlignmentStepsTest, ForgetTheNumbersOfOtherSheets) {
+  steps().read();
+  enter(0, {"1.7"});
+  steps().goBack();
+  steps().sheetsPrinted();
+  EXPECT_EQ(steps().form().text({0, 0}), "");
+}
+
 } // namespace
 
 } // namespace imageposition
