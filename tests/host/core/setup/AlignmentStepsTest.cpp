@@ -72,6 +72,16 @@ TEST_F(AlignmentStepsTest, AddToTheOffsetsOfThePrintedSheets) {
   EXPECT_EQ(offsets(), (SideOffsets{{{5}, {0}}, {{-12}, {0}}}));
 }
 
+TEST_F(AlignmentStepsTest, AddToTheOffsetsOfTheLastSheets) {
+  setSideOffsets(job().settings(), {{}, {{-10}, {0}}});
+  AlignmentSteps(job(), errors_).sheetsPrinted();
+  setSideOffsets(job().settings(), {{}, {{-20}, {0}}});
+  steps().sheetsPrinted();
+  enter(0, {"0.5", "0", "0.5", "0"});
+  steps().takeOffsets();
+  EXPECT_EQ(offsets(), (SideOffsets{{}, {{-25}, {0}}}));
+}
+
 TEST_F(AlignmentStepsTest, ReadSheetsThatWerePrintedEarlier) {
   {
     setSideOffsets(job().settings(), {{}, {{-10}, {0}}});
