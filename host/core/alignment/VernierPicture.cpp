@@ -73,11 +73,12 @@ Figure comb(const Vernier &vernier, double pitch, int lines, int numbered, int t
 std::vector<SheetArea> marksOf(Direction direction, TenthMillimetre displacement) {
   constexpr double kHalfBand = 0.35;
   std::vector<SheetArea> marks;
-  for (int tenth = -kLargestTenth; tenth <= kLargestTenth; tenth++) {
+  for (std::int64_t tenth = -kLargestTenth; tenth <= kLargestTenth; tenth++) {
     const std::int64_t along = displacement.count + 9 * tenth; // in tenths of a millimetre
-    if (along % kTenths != 0 || std::abs(along / kTenths) > kFrontLines)
+    const std::int64_t line = along / kTenths;
+    if (along % kTenths != 0 || std::abs(line) > kFrontLines)
       continue;
-    const auto middle = static_cast<double>(along / kTenths);
+    const auto middle = static_cast<double>(line);
     const Vernier origin{direction, {}};
     const SheetPoint first = at(origin, middle - kHalfBand, -kReach);
     const SheetPoint last = at(origin, middle + kHalfBand, kReach);

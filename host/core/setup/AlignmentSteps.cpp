@@ -13,8 +13,12 @@ AlignmentSteps::AlignmentSteps(PrintJob &job, std::ostream &errors)
 void AlignmentSteps::begin() {
   aligner_.emplace(job_);
   printed_ = Alignments::read(errors_).printed(aligner_->key());
-  form_ = ReadingForm(Aligner::kSheets, aligner_->layout().middle.has_value());
+  form_ = emptyForm();
   step_ = Step::Print;
+}
+
+ReadingForm AlignmentSteps::emptyForm() const {
+  return {Aligner::kSheets, aligner_->layout().middle.has_value()};
 }
 
 std::vector<std::string> AlignmentSteps::explanation() const {
@@ -40,6 +44,7 @@ std::vector<std::string> AlignmentSteps::explanation() const {
 void AlignmentSteps::sheetsPrinted() {
   aligner_->rememberPrinted(errors_);
   printed_ = aligner_->present();
+  form_ = emptyForm();
   step_ = Step::Read;
 }
 

@@ -27,7 +27,7 @@ public:
 
   /// Of the job's offsets as they were when the step began.
   Aligner &aligner() noexcept { return *aligner_; }
-  /// The sheets were printed, with the aligner: they can be read.
+  /// New sheets were printed, with the aligner: they can be read.
   void sheetsPrinted();
   /// Reads sheets that were printed earlier.
   void read();
@@ -44,6 +44,7 @@ public:
   bool takeOffsets();
 
 private:
+  ReadingForm emptyForm() const;
   AlignmentResult result() const;
   void begin();
 

@@ -262,6 +262,8 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
 /// Whether the user has set offsets elsewhere that are stronger than what was measured. A preset
 /// has offsets of 0 when it was saved without any.
 bool PrintJob::areOffsetsGiven() const {
+  if (isMeasuredNow_)
+    return false;
   const PrintSettingsStore given = openTicket(arguments_, {}).settings;
   const std::vector<std::string> &names = offsetOptions();
   return std::any_of(names.begin(), names.end(),
@@ -311,6 +313,7 @@ bool PrintJob::followAlignment() {
 void PrintJob::takeAlignment(const MeasuredAlignment &alignment) {
   alignments_.store(alignment);
   alignment_ = alignments_.find(alignment.key);
+  isMeasuredNow_ = true;
   setSideOffsets(settings(), alignment.offsets);
 }
 
@@ -371,6 +374,7 @@ bool PrintJob::takePrinter(OpenedPrinter opened) {
   const bool isHistoryTaken = takeHistory();
   printer_->mark(ticket_.settings);
   alignment_.reset();
+  isMeasuredNow_ = false;
   return takeAlignment() || isHistoryTaken;
 }
 

@@ -102,7 +102,7 @@ public:
   bool followAlignment();
 
   /// Takes offsets that were measured just now with the job's paper, tray and turning, whatever the
-  /// user has entered. `followAlignment` knows them from then on.
+  /// user or the command line has given. `followAlignment` knows them from then on.
   void takeAlignment(const MeasuredAlignment &alignment);
 
   /// One sentence for each setting of the first queue's preset that was changed or dropped because
@@ -210,6 +210,7 @@ private:
   PrintSettingsStore atStart_;
   Alignments alignments_;
   std::optional<FoundAlignment> alignment_; // whose offsets the job has taken
+  bool isMeasuredNow_ = false;              // with this printer, for this job
   PrintSettingsStore withoutPreset_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
   JobTarget target_;

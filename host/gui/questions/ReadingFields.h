@@ -31,7 +31,7 @@ struct ReadingFieldsState;
 - (void)showProblem:(const imageposition::ReadingForm::Problem &)problem;
 /// In the order of Tab.
 - (std::vector<NSView *>)fields;
-/// Of the fields themselves, for whoever outlives their form.
+/// Call before the form is destroyed; the view may live longer.
 - (void)detach;
 
 /// "Sheet 2, B →"

@@ -42,6 +42,20 @@ Descriptor drawnSheets(const SheetTask &task, NSWindow *window) {
   return std::move(*call.take());
 }
 
+/// Prints the sheets, as any job is printed; returns its name, and why it waits if it does.
+std::string printSheets(const Aligner &aligner, PrintSession &session, NSWindow *window) {
+  PrintJob &job = session.job();
+  const Descriptor sheets = drawnSheets(aligner.task(), window);
+  WaitPanel panel;
+  const auto submission = aligner.print(sheets, session.destinations().list(), panel.signal());
+  if (submission == nullptr)
+    throw Failure(ExitCode::Done, messages::kDryRunPrintsNothing);
+  const SubmittedJob sent = awaitSubmission(*submission, panel, window, job.printer().name());
+  const std::string queue = QueueName::parse(job.queue()).printer;
+  return messages::sentences(
+      {messages::sheetsSent(queue + "-" + std::to_string(sent.id)), sent.note});
+}
+
 } // namespace
 
 @interface Aligning ()
@@ -85,24 +99,10 @@ Descriptor drawnSheets(const SheetTask &task, NSWindow *window) {
   [area showNote:reason];
 }
 
-/// Prints the sheets, as any job is printed; returns its name, and why it waits if it does.
-static std::string printSheets(const Aligner &aligner, PrintSession &session, NSWindow *window) {
-  PrintJob &job = session.job();
-  const Descriptor sheets = drawnSheets(aligner.task(), window);
-  WaitPanel panel;
-  const auto submission = aligner.print(sheets, session.destinations().list(), panel.signal());
-  if (submission == nullptr)
-    throw Failure(ExitCode::Done, messages::kDryRunPrintsNothing);
-  const SubmittedJob sent = awaitSubmission(*submission, panel, window, job.printer().name());
-  const std::string queue = QueueName::parse(job.queue()).printer;
-  return messages::sentences(
-      {messages::sheetsSent(queue + "-" + std::to_string(sent.id)), sent.note});
-}
-
 - (void)align:(id)sender {
   NSWindow *const window = [sender window];
   [window makeFirstResponder:button]; // a click leaves it in the field
-  if (![dialog takeEntries])
+  if (![dialog savePanels])
     return;
   PrintSession &session = [dialog session];
   id<DialogServices> const services = dialog;

@@ -72,6 +72,16 @@ TEST_F(AlignmentStepsTest, AddToTheOffsetsOfThePrintedSheets) {
   EXPECT_EQ(offsets(), (SideOffsets{{{5}, {0}}, {{-12}, {0}}}));
 }
 
+TEST_F(AlignmentStepsTest, AddToTheOffsetsOfTheLastSheets) {
+  setSideOffsets(job().settings(), {{}, {{-10}, {0}}});
+  AlignmentSteps(job(), errors_).sheetsPrinted();
+  setSideOffsets(job().settings(), {{}, {{-20}, {0}}});
+  steps().sheetsPrinted();
+  enter(0, {"0.5", "0", "0.5", "0"});
+  steps().takeOffsets();
+  EXPECT_EQ(offsets(), (SideOffsets{{}, {{-25}, {0}}}));
+}
+
 TEST_F(AlignmentStepsTest, ReadSheetsThatWerePrintedEarlier) {
   {
     setSideOffsets(job().settings(), {{}, {{-10}, {0}}});
@@ -156,6 +166,25 @@ TEST_F(AlignmentStepsTest, FollowTheSettingsAfterwards) {
   job().settings().set("Duplex", "DuplexTumble");
   EXPECT_TRUE(job().followAlignment());
   EXPECT_EQ(offsets(), (SideOffsets{{}, {{17}, {-3}}}));
+}
+
+TEST_F(AlignmentStepsTest, OutdoOffsetsOfTheCommandLine) {
+  arguments_.options = {"BackLeftRightMargin=4"};
+  steps().read();
+  enter(0, {"1.7", "-0.3", "1.7", "-0.3"});
+  steps().takeOffsets();
+  const SideOffsets taken = offsets();
+  job().settings().set("MediaType", "Transparency");
+  EXPECT_FALSE(job().followAlignment());
+  EXPECT_EQ(offsets(), taken);
+}
+
+TEST_F(AlignmentStepsTest, ForgetTheNumbersOfOtherSheets) {
+  steps().read();
+  enter(0, {"1.7"});
+  steps().goBack();
+  steps().sheetsPrinted();
+  EXPECT_EQ(steps().form().text({0, 0}), "");
 }
 
 } // namespace

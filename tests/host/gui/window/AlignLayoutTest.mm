@@ -3,7 +3,7 @@
 
 #import "Labels.h"
 #include "Language.hpp"
-#import "PreviewDrawing.h"
+#include "TemporaryFolder.hpp"
 #import "TextBridge.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +12,8 @@
 #include <functional>
 #include <sstream>
 #include <stdlib.h>
+#include <string>
+#include <vector>
 
 using namespace imageposition;
 
@@ -39,7 +41,7 @@ constexpr NSSize kLargeTextOnSmallScreen = {905, 485}; // points, of 1366 by 768
 class AlignLayout : public testing::TestWithParam<AlignmentSteps::Step> {
 protected:
   void SetUp() override {
-    setenv("XDG_CONFIG_HOME", "/nonexistent", 1);
+    setenv("XDG_CONFIG_HOME", folder_.path().c_str(), 1);
     const auto wanted = wantedLanguages(std::getenv);
     speak(chosenLanguage(wanted, IMAGEPOSITION_CATALOGUES), IMAGEPOSITION_CATALOGUES);
     arguments_.ppd = IMAGEPOSITION_SAMPLES "/duplex-shift.ppd";
@@ -82,6 +84,7 @@ protected:
     }
   }
 
+  const test::TemporaryFolder folder_;
   Arguments arguments_;
   std::ostringstream errors_;
 };
