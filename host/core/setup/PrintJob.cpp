@@ -199,6 +199,7 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
       isSubmitted_(!queue_.empty() && arguments.ticket.empty() &&
                    (hasDocument() || !arguments.isBatch)) { // the window has Open
   ticket_.printer = printer_->name();
+  takeFlagOfQueue();
   printer_->mark(ticket_.settings);
   if (!arguments.isUnaligned && !queue_.empty())
     alignments_ = Alignments::read(std::cerr);
@@ -337,9 +338,17 @@ bool PrintJob::takePrinter(OpenedPrinter opened) {
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
   const bool isHistoryTaken = takeHistory();
+  takeFlagOfQueue();
   printer_->mark(ticket_.settings);
   alignment_.reset();
   return takeAlignment() || isHistoryTaken;
+}
+
+/// The flag is not an option of the PPD: marking the queue's defaults does not set it.
+void PrintJob::takeFlagOfQueue() {
+  const char *const flag = printer_->queueDefaults().get(IPA_KEY_ENABLE);
+  if (flag != nullptr && settings().get(IPA_KEY_ENABLE) == nullptr)
+    settings().set(IPA_KEY_ENABLE, flag);
 }
 
 PrintSettingsStore PrintJob::removePanelSettings(const std::vector<std::string> &optionKeys) {
@@ -465,7 +474,9 @@ std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request) {
   const ShiftDecision decision = decideShift(optionsToSend(request), printer_->ppd());
   if (decision.by != ShiftedBy::Dialog)
     return nullptr;
-  return std::make_unique<ShiftedJob>(request, decision.plan, printer_->ppd(), printer_->text());
+  const char *const device = printer_->queueDefaults().get("device-uri");
+  return std::make_unique<ShiftedJob>(request, decision.plan, printer_->ppd(), printer_->text(),
+                                      device != nullptr ? device : "");
 }
 
 std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinations,

@@ -160,6 +160,7 @@ private:
   LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
   bool takeHistory();
+  void takeFlagOfQueue();
   bool areOffsetsGiven() const;
   bool hasMeasuredOffsets() const;
   std::optional<FoundAlignment> alignmentHere();
