@@ -147,6 +147,7 @@ void Aligner::setUpJob(const Descriptor &sheets) {
   neutralizeLayout(settings, job_.printer().queueDefaults());
   settings.set("copies", "1");
   settings.set("job-sheets", "none");
+  settings.set("OutputOrder", "Normal"); // reversed, a sheet's front would be printed as its back
   if (!job_.arguments().isUnshifted)
     setSideOffsets(settings, present_);
   job_.setDocuments({pathOf(sheets)});

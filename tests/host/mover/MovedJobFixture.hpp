@@ -133,8 +133,8 @@ protected:
     return kept->cups().run(words);
   }
 
-  /// Compares what the printer gets, document by document and side by side. `offsets` are the
-  /// options of the moved job alone.
+  /// Compares what the printer gets, by `front_` and `back_`, document by document and side by
+  /// side. `offsets` are the options of the moved job alone.
   void expectMoved(const std::string &queue, const Words &options, const Words &documents,
                    const Words &offsets = kOffsets) {
     const auto ours = print(queue, options, documents, offsets);
@@ -159,7 +159,7 @@ protected:
     ASSERT_EQ(moved.size(), direct.size() + padding);
     for (std::size_t i = 0; i < direct.size(); i++) {
       SCOPED_TRACE("side " + std::to_string(i + 1));
-      const Offset &by = i % 2 == 0 ? kFront : kBack; // as the printer's mechanics count
+      const Offset &by = i % 2 == 0 ? front_ : back_; // as the printer's mechanics count
       ASSERT_EQ(moved[i].rectangles.size(), direct[i].rectangles.size());
       if (direct[i].rectangles.empty())
         continue; // blank sides are alike, whichever way up
@@ -197,6 +197,7 @@ protected:
   }
 
   TemporaryFolder folder_;
+  Offset front_ = kFront, back_ = kBack;
   static inline std::unique_ptr<KeptJobs> kept;
 };
 
