@@ -20,6 +20,8 @@ extern const Text kCreaseNeedsReading;
 extern const Text kAlignNeedsQueue;
 /// `command` is how to go on.
 std::string readTheSheets(int sheets, const std::string &command);
+/// `words` is how the creases are given.
+std::string addCrease(const std::string &words);
 std::string alignmentStored(const std::string &settings);
 extern const Text kNothingMeasured;
 std::string alignmentsImported(int count);

@@ -78,13 +78,18 @@ double largestDisplacement(const SheetLayout &layout, const Distortion &distorti
   return corner * std::hypot(distortion.angle, distortion.stretch);
 }
 
-TenthMillimetre rounded(double tenths) { return {std::llround(tenths)}; }
+/// Halves toward zero.
+TenthMillimetre rounded(double tenths) {
+  constexpr double kHalf = 0.5;
+  const std::int64_t whole = std::llround(std::ceil(std::abs(tenths) - kHalf));
+  return {tenths < 0 ? -whole : whole};
+}
 
-CorrectedOffsets limited(const SideOffsets &offsets) {
+CorrectedOffsets limited(const SideOffsets &offsets, TenthMillimetre most) {
   CorrectedOffsets corrected{offsets, false};
   for (Offset *const offset : {&corrected.offsets.front, &corrected.offsets.back})
     for (TenthMillimetre *const length : {&offset->right, &offset->down})
-      length->count = std::clamp(length->count, -kLargestOffset.count, kLargestOffset.count);
+      length->count = std::clamp(length->count, -most.count, most.count);
   corrected.isLimited = !(corrected.offsets == offsets);
   return corrected;
 }
@@ -165,22 +170,23 @@ bool operator==(const SideOffsets &a, const SideOffsets &b) noexcept {
   return a.front == b.front && a.back == b.back;
 }
 
-CorrectedOffsets withBackMoved(const SideOffsets &present, const Measurement &measurement) {
+CorrectedOffsets withBackMoved(const SideOffsets &present, const Measurement &measurement,
+                               TenthMillimetre most) {
   SideOffsets moved = present;
   moved.back.right = present.back.right - rounded(measurement.right);
   moved.back.down = present.back.down - rounded(measurement.down);
-  return limited(moved);
+  return limited(moved, most);
 }
 
 CorrectedOffsets withBothMoved(const SideOffsets &present, const Offset &crease,
-                               const SheetLayout &layout) {
+                               const SheetLayout &layout, TenthMillimetre most) {
   SideOffsets moved = present;
   moved.front.right = present.front.right + crease.right;
   moved.front.down = present.front.down + crease.down;
   const bool isMirrored = layout.isMirroredLeftRight;
   moved.back.right = present.back.right + (isMirrored ? -crease.right : crease.right);
   moved.back.down = present.back.down + (isMirrored ? crease.down : -crease.down);
-  return limited(moved);
+  return limited(moved, most);
 }
 
 SideOffsets forOtherTurning(const SideOffsets &offsets) noexcept {

@@ -12,6 +12,7 @@
 #include "ShiftTexts.hpp"
 #include "TemporaryData.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cmath>
@@ -72,6 +73,20 @@ std::string directionsOf(double right, double down) {
     parts.push_back(
         (down > 0 ? messages::downwards : messages::upwards)(lengthInWords(std::abs(down))));
   return messages::inWords(parts);
+}
+
+/// Not more than the file of measured offsets can have. `ppd` has the options.
+TenthMillimetre largestOffsetOf(ppd_file_t *ppd) {
+  TenthMillimetre most = kLargestOffset;
+  for (const std::string &name : offsetOptions()) {
+    ppd_coption_t *const option = ppdFindCustomOption(ppd, name.c_str());
+    const ppd_cparam_t *const number = option != nullptr ? ppdFirstCustomParam(option) : nullptr;
+    if (number == nullptr || number->type != PPD_CUSTOM_INT)
+      continue;
+    const std::int64_t least = number->minimum.custom_int, largest = number->maximum.custom_int;
+    most.count = std::clamp<std::int64_t>(std::min(-least, largest), 0, most.count);
+  }
+  return most;
 }
 
 std::string numberOf(double number, int decimals) {
@@ -163,10 +178,11 @@ AlignmentResult Aligner::result(const std::vector<SheetReading> &readings,
   AlignmentResult result;
   result.measurement = measure(layout_, readings);
   result.printed = Alignments::read(errors).printed(key_).value_or(present_);
-  result.corrected = withBackMoved(result.printed, result.measurement);
+  result.most = largestOffsetOf(job_.printer().ppd());
+  result.corrected = withBackMoved(result.printed, result.measurement, result.most);
   if (crease) {
     const bool isLimited = result.corrected.isLimited;
-    result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_);
+    result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_, result.most);
     result.corrected.isLimited = result.corrected.isLimited || isLimited;
   }
   return result;
@@ -199,7 +215,7 @@ std::vector<std::string> AlignmentResult::sentences() const {
                                          numberOf(std::abs(m.stretch), 2), m.stretch < 0,
                                          lengthInWords(m.left)));
   if (corrected.isLimited)
-    all.push_back(messages::outOfRange(lengthText(kLargestOffset)));
+    all.push_back(messages::outOfRange(lengthText(most)));
   return all;
 }
 

@@ -284,7 +284,8 @@ bool PrintJob::followAlignment() {
 }
 
 std::string PrintJob::alignmentNote() {
-  if (!hasMeasuredOffsets())
+  printer_->mark(settings());
+  if (!hasMeasuredOffsets() || availabilityOf(printer_->ppd()).oneSided)
     return "";
   return messages::measuredOn(alignment_->date,
                               keyInWords(alignmentKeyOf(queue_, printer_->ppd()), printer_->ppd()),

@@ -78,7 +78,7 @@ public:
   void remember(const std::optional<WindowSize> &window) const;
 
   /// Where the job's offsets come from: "The offsets were measured on ...". Empty unless they are
-  /// those that were measured.
+  /// those that were measured, and move the image.
   std::string alignmentNote();
   /// Call after the paper, the tray or the turning may have changed: takes the offsets that were
   /// measured for them. Offsets that the user has entered stay unless others were measured for the

@@ -87,6 +87,24 @@ TEST(Measurement, AcceptsCornersThatDisagreeByThreeTenths) {
   EXPECT_TRUE(measure(a4(), {reading(0, 0, 0, -4)}).areCornersApart());
 }
 
+TEST(Measurement, LeavesHalfATenth) {
+  for (const int sign : {1, -1}) {
+    const auto measured = measure(a4(), {reading(sign * 17, 0, sign * 16, sign)});
+    const auto moved = withBackMoved({}, measured);
+    EXPECT_EQ(moved.offsets.back, (Offset{{-sign * 16}, {0}}));
+    const auto again = measure(a4(), {reading(sign, 0, 0, sign)});
+    EXPECT_EQ(withBackMoved(moved.offsets, again).offsets, moved.offsets);
+  }
+}
+
+TEST(Measurement, LimitsOffsetsToThePrinters) {
+  const auto measured = measure(a4(), {reading(80, -60, 80, -60)});
+  const auto moved = withBackMoved({}, measured, {50});
+  EXPECT_EQ(moved.offsets.back, (Offset{{-50}, {50}}));
+  EXPECT_TRUE(moved.isLimited);
+  EXPECT_EQ(withBothMoved({}, {{60}, {0}}, a4(), {50}).offsets.front, (Offset{{50}, {0}}));
+}
+
 TEST(Measurement, LimitsOffsets) {
   const auto moved = withBackMoved({{}, {{-60}, {0}}}, measure(a4(), {reading(80, 0, 80, 0)}));
   EXPECT_EQ(moved.offsets.back, (Offset{{-100}, {0}}));
