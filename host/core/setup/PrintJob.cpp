@@ -3,6 +3,7 @@
 #include "AlignmentTexts.hpp"
 #include "Availability.hpp"
 #include "CustomValue.hpp"
+#include "DocumentExaminer.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSettings.hpp"
@@ -498,6 +499,8 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
   origin_ = alignmentNote();
   if (arguments_.isBatch && isBackIgnored())
     std::cerr << messages::kBackIgnored.view() << '\n';
+  if (arguments_.isBatch && !arguments_.isSilent && !shifted)
+    warnOfPasswords();
   if (arguments_.isDryRun) {
     totalSize(documentsToSend()); // fails where a submission would; so does the next
     if (shifted && arguments_.isBatch && !contains(documentsToSend(), "-"))
@@ -516,6 +519,13 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     };
   return std::make_unique<JobSubmission>(std::move(request), documentsToSend(), std::move(changed),
                                          std::move(prepare));
+}
+
+/// CUPS accepts documents that only a password opens, and prints nothing.
+void PrintJob::warnOfPasswords() const {
+  for (const std::string &document : documentsToSend())
+    if (document != "-" && needsPassword(document))
+      std::cerr << messages::passwordNeeded(documentName(document)) << '\n';
 }
 
 void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {

@@ -170,6 +170,7 @@ private:
   void writeTicketTo(const std::string &path);
   std::vector<std::string> documentsToSend() const;
   bool isBackIgnored() const;
+  void warnOfPasswords() const;
 
   const Arguments &arguments_;
   std::string queue_;

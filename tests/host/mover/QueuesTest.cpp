@@ -165,6 +165,19 @@ TEST_F(Queues, MoveTheImageAsTheUsersOptionsSay) {
   expectMoved("lpoptions", {}, {numbered(3)}, {});
 }
 
+TEST_F(Queues, WarnOfAPasswordIfTheirDriverMovesTheImage) {
+  ASSERT_EQ(kept->addQueue("moving", ppdWith(kTakesPdf, "duplex-shift")).status, 0);
+  const std::string document = folder_.write("secret.pdf", pdfWithPassword());
+  const auto sent = print("moving", {"-H", "hold"}, {document, numbered(1)});
+  EXPECT_EQ(sent.status, 0) << testing::PrintToString(sent);
+  EXPECT_THAT(sent.errors,
+              HasSubstr("\"secret.pdf\" is protected by a password: CUPS accepts it, but prints "
+                        "nothing. Save a copy without it, and print that.\n"));
+  EXPECT_EQ(print("moving", {"-H", "hold", "-s"}, {document}).errors, "");
+  EXPECT_THAT(print("moving", {"-H", "hold"}, {numbered(1)}).errors, Not(HasSubstr("password")));
+  kept->cups().run({"cancel", "-a", "-x"});
+}
+
 TEST_F(Queues, AreRefusedWithoutADescription) {
   ASSERT_EQ(kept->cups().run({"lpadmin", "-p", "raw", "-E", "-v", kept->uri(), "-m", "raw"}).status,
             0);
