@@ -16,11 +16,10 @@ bool isLaidOutByServer(std::string_view description);
 /// PPDs. Returns `description` as it is if either has none to give or to take.
 std::string withLandscapeOf(std::string_view server, const std::string &description);
 
-/// Returns `description`, the text of a queue's PPD, with which pages laid out here are the other
-/// way up nowhere: if another CUPS lays the queue's documents out, asks it which way it turns wide
-/// pages, which the queue's own description does not say. `device` is the queue's device URI.
-/// Returns `description` as it is if the server does not say so within a few seconds, or if
-/// `keepWaiting` returns false.
+/// If another CUPS lays out what the queue gets, asks it which way it turns wide pages, and returns
+/// `description` with it: CUPS leaves that out of the descriptions that it generates.
+/// `description` is the text of the queue's PPD, `device` its device URI. Returns `description` as
+/// it is if the server does not say so within a few seconds, or if `keepWaiting` returns false.
 std::string withServerLayout(const std::string &description, const std::string &device,
                              const std::function<bool()> &keepWaiting);
 
