@@ -15,6 +15,7 @@
 
 #include <cerrno>
 #include <iostream>
+#include <list>
 #include <optional>
 #include <sstream>
 #include <vector>
@@ -56,6 +57,8 @@ ExitCode takeReadings(const Aligner &aligner, const std::vector<SheetReading> &r
                       const std::optional<Offset> &crease) {
   const auto printed = Alignments::read(std::cerr).printed(aligner.key());
   const AlignmentResult result = aligner.result(readings, crease, printed);
+  if (result.measurement.doubtful != 0) // what was measured before stays
+    throw Failure(ExitCode::Value, messages::readAgain(result.measurement.doubtful));
   for (const std::string &sentence : result.sentences())
     std::cout << sentence << '\n';
   if (!aligner.key().queue.empty()) {
@@ -78,7 +81,15 @@ std::string nextCommand(const Arguments &arguments, const PrintJob &job) {
   std::string command = "print-dialog --align -d " + shellWord(job.queue());
   for (const std::string &option : arguments.options)
     command += " -o " + shellWord(option);
-  return command + " --reading AX,AY,BX,BY";
+  for (int sheet = 1; sheet <= Aligner::kSheets; sheet++)
+    command += " --reading AX,AY,BX,BY";
+  return command;
+}
+
+void sayHowToGoOn(const Arguments &arguments, const PrintJob &job, const Aligner &aligner) {
+  std::cerr << messages::readTheSheets(Aligner::kSheets, nextCommand(arguments, job)) << '\n';
+  if (aligner.layout().middle) // there are rulers for the crease
+    std::cerr << messages::addCrease("--crease X,Y") << '\n';
 }
 
 ExitCode printSheets(const Arguments &arguments, PrintJob &job, Aligner &aligner) {
@@ -94,15 +105,24 @@ ExitCode printSheets(const Arguments &arguments, PrintJob &job, Aligner &aligner
   if (!arguments.isDryRun && !job.queue().empty()) {
     aligner.rememberPrinted(std::cerr);
     if (!arguments.isSilent)
-      std::cerr << messages::readTheSheets(Aligner::kSheets, nextCommand(arguments, job)) << '\n';
+      sayHowToGoOn(arguments, job, aligner);
   }
   requireOutput();
   return ExitCode::Done;
 }
 
+/// Those of a queue together.
 void listAlignments(const Alignments &alignments) {
-  for (const MeasuredAlignment &alignment : alignments.all())
-    std::cout << alignmentLine(alignment) << '\n';
+  std::list<MeasuredAlignment> left(alignments.all().begin(), alignments.all().end());
+  while (!left.empty()) {
+    const std::string queue = left.front().key.queue;
+    left.remove_if([&](const MeasuredAlignment &alignment) {
+      const bool isListed = isSame(alignment.key.queue, queue);
+      if (isListed)
+        std::cout << alignmentLine(alignment) << '\n';
+      return isListed;
+    });
+  }
   if (alignments.all().empty())
     std::cerr << messages::kNothingMeasured.view() << '\n';
 }

@@ -9,6 +9,7 @@
 #include "FailureReport.hpp"
 #include "JobSubmission.hpp"
 #import "OpenPrinter.h"
+#include "OptionConflicts.hpp"
 #include "Phrases.hpp"
 #import "PlatformLanguage.h"
 #import "PlatformProcess.h"
@@ -29,6 +30,8 @@
 using namespace imageposition;
 
 namespace {
+
+constexpr std::size_t kMostConflicts = 5;
 
 /// A job that CUPS has accepted is a success even if standard output cannot be written: a script
 /// that saw a failure would print the job again.
@@ -57,6 +60,9 @@ ExitCode runInBatch(const Arguments &arguments) {
   for (const std::string &sentence :
        unknownValues(job.printer(), job.settings(), session.panels().optionKeys()))
     std::cerr << messages::kProgram << sentence << '\n';
+  for (const std::string &conflict :
+       OptionConflicts(job.printer(), job.settings()).sentences(kMostConflicts))
+    std::cerr << messages::kProgram << conflict << '\n';
   const auto summary = runBatch(session.panels(), job.printer().ppd(), arguments.batch, std::cerr);
   const DestinationList destinations = job.target() == JobTarget::Ticket || job.queue().empty()
                                            ? DestinationList()

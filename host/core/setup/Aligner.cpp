@@ -13,6 +13,7 @@
 #include "ShiftTexts.hpp"
 #include "TemporaryData.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cmath>
@@ -73,6 +74,20 @@ std::string directionsOf(double right, double down) {
     parts.push_back(
         (down > 0 ? messages::downwards : messages::upwards)(lengthInWords(std::abs(down))));
   return messages::inWords(parts);
+}
+
+/// Not more than the file of measured offsets can have. `ppd` has the options.
+TenthMillimetre largestOffsetOf(ppd_file_t *ppd) {
+  TenthMillimetre most = kLargestOffset;
+  for (const std::string &name : offsetOptions()) {
+    ppd_coption_t *const option = ppdFindCustomOption(ppd, name.c_str());
+    const ppd_cparam_t *const number = option != nullptr ? ppdFirstCustomParam(option) : nullptr;
+    if (number == nullptr || number->type != PPD_CUSTOM_INT)
+      continue;
+    const std::int64_t least = number->minimum.custom_int, largest = number->maximum.custom_int;
+    most.count = std::clamp<std::int64_t>(std::min(-least, largest), 0, most.count);
+  }
+  return most;
 }
 
 std::string numberOf(double number, int decimals) {
@@ -162,6 +177,7 @@ std::unique_ptr<JobSubmission> Aligner::print(const Descriptor &sheets,
   neutralizeLayout(content.settings, job_.printer().queueDefaults());
   content.settings.set("copies", "1");
   content.settings.set("job-sheets", "none");
+  content.settings.set("OutputOrder", "Normal"); // reversed, a front would be printed as its back
   if (!arguments.isUnshifted)
     setSideOffsets(content.settings, present_);
   return job_.printOther(content, destinations, std::move(changed));
@@ -177,10 +193,11 @@ AlignmentResult Aligner::result(const std::vector<SheetReading> &readings,
                                 const std::optional<SideOffsets> &printed) const {
   AlignmentResult result;
   result.measurement = measure(layout_, readings);
-  result.corrected = withBackMoved(printed.value_or(present_), result.measurement);
+  result.most = largestOffsetOf(job_.printer().ppd());
+  result.corrected = withBackMoved(printed.value_or(present_), result.measurement, result.most);
   if (crease) {
     const bool isLimited = result.corrected.isLimited;
-    result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_);
+    result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_, result.most);
     result.corrected.isLimited = result.corrected.isLimited || isLimited;
   }
   return result;
@@ -205,6 +222,8 @@ std::vector<std::string> AlignmentResult::sentences() const {
   const std::string directions = directionsOf(m.right, m.down);
   std::vector<std::string> all{directions.empty() ? messages::kNotDisplaced.str()
                                                   : messages::displacement(directions)};
+  if (m.doubtful != 0)
+    all.insert(all.begin(), messages::readAgain(m.doubtful));
   if (m.sheets > 1 && !(m.spreadRight == 0 && m.spreadDown == 0))
     all.push_back(
         messages::spread(m.sheets, lengthInWords(m.spreadRight), lengthInWords(m.spreadDown)));
@@ -216,7 +235,7 @@ std::vector<std::string> AlignmentResult::sentences() const {
                                          numberOf(std::abs(m.stretch), 2), m.stretch < 0,
                                          lengthInWords(m.left)));
   if (corrected.isLimited)
-    all.push_back(messages::outOfRange(lengthText(kLargestOffset)));
+    all.push_back(messages::outOfRange(lengthText(most)));
   return all;
 }
 

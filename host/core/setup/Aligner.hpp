@@ -19,6 +19,7 @@ namespace imageposition {
 struct AlignmentResult {
   Measurement measurement;
   CorrectedOffsets corrected;
+  TenthMillimetre most = kLargestOffset; ///< The printer's largest offset.
 
   /// What the user should know: the displacement, how good it can get, the new offsets, and
   /// warnings. A sentence each.

@@ -45,6 +45,12 @@ std::string cornersApart(const std::string &angle, const std::string &stretch, b
                      "corners. Paper from a fresh pack, and guides that touch it, may help."))
       .with(angle, stretch, left);
 }
+std::string readAgain(int sheet) {
+  return text("Sheet {1} is more than 2 mm off what the others read. Check its numbers and signs, "
+              "or "
+              "leave it out.")
+      .with(std::to_string(sheet));
+}
 std::string outOfRange(const std::string &most) {
   return text("The offsets are limited to {1}. An error this large usually comes from a wrong "
               "paper size, tray, or edge to turn about: check these settings first.")

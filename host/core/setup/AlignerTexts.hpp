@@ -25,6 +25,8 @@ std::string newOffsets(const std::string &offsets);
 /// `angle` is in degrees, `stretch` in percent; neither has a sign.
 std::string cornersApart(const std::string &angle, const std::string &stretch, bool isSmaller,
                          const std::string &left);
+/// `sheet` counts from 1.
+std::string readAgain(int sheet);
 std::string outOfRange(const std::string &most);
 
 // The steps. Settings are paper, tray and turning, offsets those of both sides.

@@ -3,6 +3,7 @@
 #include "AlignmentTexts.hpp"
 #include "Availability.hpp"
 #include "CustomValue.hpp"
+#include "DocumentExaminer.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSettings.hpp"
@@ -212,6 +213,7 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
                                                          : openTicket(arguments, {}).settings),
       documents_(arguments.documents), target_(firstTarget()) {
   ticket_.printer = printer_->name();
+  takeFlagOfQueue();
   printer_->mark(ticket_.settings);
   if (!arguments.isUnaligned && !queue_.empty())
     alignments_ = Alignments::read(std::cerr);
@@ -318,7 +320,8 @@ void PrintJob::takeAlignment(const MeasuredAlignment &alignment) {
 }
 
 std::string PrintJob::alignmentNote() {
-  if (!hasMeasuredOffsets())
+  printer_->mark(settings());
+  if (!hasMeasuredOffsets() || availabilityOf(printer_->ppd()).oneSided)
     return "";
   return messages::measuredOn(alignment_->date,
                               keyInWords(alignmentKeyOf(queue_, printer_->ppd()), printer_->ppd()),
@@ -372,10 +375,18 @@ bool PrintJob::takePrinter(OpenedPrinter opened) {
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
   const bool isHistoryTaken = takeHistory();
+  takeFlagOfQueue();
   printer_->mark(ticket_.settings);
   alignment_.reset();
   isMeasuredNow_ = false;
   return takeAlignment() || isHistoryTaken;
+}
+
+/// The flag is not an option of the PPD: marking the queue's defaults does not set it.
+void PrintJob::takeFlagOfQueue() {
+  const char *const flag = printer_->queueDefaults().get(IPA_KEY_ENABLE);
+  if (flag != nullptr && settings().get(IPA_KEY_ENABLE) == nullptr)
+    settings().set(IPA_KEY_ENABLE, flag);
 }
 
 PrintSettingsStore PrintJob::removePanelSettings(const std::vector<std::string> &optionKeys) {
@@ -508,7 +519,9 @@ ShiftDecision PrintJob::shiftDecision(const JobRequest &request,
 }
 
 std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request, const ShiftPlan &plan) {
-  return std::make_unique<ShiftedJob>(request, plan, printer_->ppd(), printer_->text());
+  const char *const device = printer_->queueDefaults().get("device-uri");
+  return std::make_unique<ShiftedJob>(request, plan, printer_->ppd(), printer_->text(),
+                                      device != nullptr ? device : "");
 }
 
 std::unique_ptr<JobSubmission> PrintJob::startPdf(const JobRequest &request,
@@ -572,6 +585,8 @@ std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content, J
                static_cast<std::size_t>(std::count(documents.begin(), documents.end(), "-"));
   if (arguments_.isBatch && isBackIgnored(content.settings))
     std::cerr << messages::kBackIgnored.view() << '\n';
+  if (arguments_.isBatch && !arguments_.isSilent && !shifted)
+    warnOfPasswords(documents);
   if (arguments_.isDryRun) {
     totalSize(documents); // fails where a submission would; so does the next
     if (shifted && arguments_.isBatch && !contains(documents, "-"))
@@ -590,6 +605,13 @@ std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content, J
     };
   return std::make_unique<JobSubmission>(std::move(request), documents, std::move(changed),
                                          std::move(prepare));
+}
+
+/// CUPS accepts documents that only a password opens, and prints nothing.
+void PrintJob::warnOfPasswords(const JobDocuments &documents) {
+  for (const std::string &document : documents)
+    if (document != "-" && needsPassword(document))
+      std::cerr << messages::passwordNeeded(documentName(document)) << '\n';
 }
 
 void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {

@@ -94,7 +94,7 @@ public:
   void remember(const std::optional<WindowSize> &window) const;
 
   /// Where the job's offsets come from: "The offsets were measured on ...". Empty unless they are
-  /// those that were measured.
+  /// those that were measured, and move the image.
   std::string alignmentNote();
   /// Call after the paper, the tray or the turning may have changed: takes the offsets that were
   /// measured for them. Offsets that the user has entered stay unless others were measured for the
@@ -182,6 +182,7 @@ private:
   LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
   bool takeHistory();
+  void takeFlagOfQueue();
   bool areOffsetsGiven() const;
   bool hasMeasuredOffsets() const;
   std::optional<FoundAlignment> alignmentHere();
@@ -198,6 +199,7 @@ private:
   void writeTicketTo(const std::string &path);
   std::vector<std::string> documentsToSend() const;
   bool isBackIgnored(const PrintSettingsStore &settings) const;
+  static void warnOfPasswords(const JobDocuments &documents);
 
   const Arguments &arguments_;
   std::string queue_;

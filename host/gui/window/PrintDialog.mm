@@ -109,8 +109,9 @@ struct imageposition::PrintDialogState {
   [printers stopAsking];
   [window setDelegate:nil];
   [window close];
-  for (id part : {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options,
-                  (id)more, (id)panes, (id)aligning, (id)sending, (id)message, (id)picture, (id)help, (id)window})
+  for (id part :
+       {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options, (id)more,
+        (id)panes, (id)aligning, (id)sending, (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -147,8 +148,8 @@ struct imageposition::PrintDialogState {
   rows.push_back([panes row]);
   NSButton *const resolve = [options resolveButton];
   state->layout = std::make_unique<DialogLayout>(
-      DialogContent{rows, [aligning area], [aligning button], [panes area], [options hint], resolve, message,
-                    [sending progressView], helpButton, cancel, print},
+      DialogContent{rows, [aligning area], [aligning button], [panes area], [options hint], resolve,
+                    message, [sending progressView], helpButton, cancel, print},
       pane, room);
   window = state->layout->window();
   [window setDelegate:(id)self];
@@ -230,7 +231,9 @@ struct imageposition::PrintDialogState {
     const std::string troubles = state->session->panels().troubleText();
     state->layout->takePane(largestPane(state->session->panels()));
     [self say:troubles];
-    if (const std::string note = messages::numbersNow(numbers, queue); !note.empty())
+    const std::string note = numbers == NumbersNow::Measured ? state->session->job().alignmentNote()
+                                                             : messages::numbersNow(numbers, queue);
+    if (!note.empty())
       [self show:messages::sentences({troubles, note})];
   } catch (const Failure &failure) {
     [self say:failure.what()];

@@ -227,7 +227,7 @@ struct imageposition::SendingState {
       isMovedBefore ? messages::kPrintAsItIsWindow : messages::kPrintUnmovedWindow,
       failure.reason(), isMovedBefore ? messages::kPrintAsItIs : messages::kPrintUnmovedButton,
       messages::kGoBack, true};
-  const bool isPrintable = failure.problem() != MoveProblem::Encrypted; // nor can CUPS read it
+  const bool isPrintable = failure.isPrintable();
   if (isPrintable && isConfirmed([progress window], proposal)) {
     [self startWith:OwnShift::Skip];
     return;

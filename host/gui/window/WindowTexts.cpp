@@ -48,7 +48,7 @@ const Text kDefaultPreset = text("Make this the default for this printer");
 const Text kNotDefaultPreset = text("Do not start with this preset");
 const Text kDefaultNotStored = text("The default could not be stored.");
 std::string presetIsDefault(const std::string &preset, const std::string &printer) {
-  return text("New jobs on \"{2}\" start with the preset \"{1}\".").with(preset, printer);
+  return text("This window now starts with the preset \"{1}\" for \"{2}\".").with(preset, printer);
 }
 const Text kPresetNameWindow = text("Name of the preset");
 const Text kPresetNameQuestion = text("Name of the preset:");
@@ -60,8 +60,10 @@ const Text kDelete = text("Delete");
 std::string deleteQuestion(const std::string &preset) {
   return text("Delete the preset \"{1}\"?").with(preset);
 }
-std::string presetSaved(const std::string &lpName) {
-  return text("The preset is saved. lp -d {1} prints with it too.").with(shellWord(lpName));
+std::string presetSaved(const std::string &lpName, bool isMovedHere) {
+  return (isMovedHere ? text("The preset is saved. print-dialog --batch -d {1} prints with it too.")
+                      : text("The preset is saved. lp -d {1} prints with it too."))
+      .with(shellWord(lpName));
 }
 const Text kJobWaits = text("The job is waiting");
 const Text kCancelJob = text("Cancel the job");

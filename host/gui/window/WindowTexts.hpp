@@ -52,7 +52,8 @@ extern const Text kPresetNameQuestion;
 std::string presetSuggestion(std::size_t number);
 extern const Text kDelete;
 std::string deleteQuestion(const std::string &preset);
-std::string presetSaved(const std::string &lpName);
+/// `isMovedHere`: lp would print without the preset's offsets.
+std::string presetSaved(const std::string &lpName, bool isMovedHere);
 extern const Text kJobWaits;
 extern const Text kCancelJob;
 extern const Text kStateUnknown;

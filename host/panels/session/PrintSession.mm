@@ -62,7 +62,7 @@ NumbersNow PrintSession::takePrinter(OpenedPrinter opened) {
   if (left != left_.end())
     return NumbersNow::AsBefore;
   if (isRemembered)
-    return NumbersNow::Remembered;
+    return job_.alignmentNote().empty() ? NumbersNow::Remembered : NumbersNow::Measured;
   const std::vector<std::string> keywords = panels_->optionKeys();
   const bool isChanged =
       !before.empty() && !keywords.empty() && numbersIn(job_.settings(), keywords) != set;
