@@ -25,8 +25,9 @@ std::vector<HelpSection> helpSections() {
       {text("Keep the offsets"),
        {text("A preset saves all settings for this printer under a name. lp -d printer/preset "
              "prints with them too."),
-        text("\"Save as ticket\", last in the list of printers, writes the settings to a file "
-             "instead of printing.")}},
+        text(
+            "Instead of printing, \"Save as ticket\", after the printers in their list, writes the "
+            "settings to a file, and \"Save as PDF\" the pages.")}},
       {text("Keys"),
        {text("Alt and an underlined letter go to that control, Tab goes to the next. Return "
              "prints, Escape cancels.")}},
