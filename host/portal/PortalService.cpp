@@ -118,7 +118,7 @@ void PortalService::preparePrint(GVariant *parameters, GDBusMethodInvocation *in
   const VariantHandle ownSettings(settings), ownPage(page);
   open(handle, std::make_unique<PreparationRequest>(Caller{application, parent, title},
                                                     readJob(settings, page), newFile(), tokens_,
-                                                    responseTo(invocation, handle)));
+                                                    ownerOf(invocation, handle)));
 }
 
 void PortalService::print(GVariant *parameters, GDBusMethodInvocation *invocation) {
@@ -135,21 +135,24 @@ void PortalService::print(GVariant *parameters, GDBusMethodInvocation *invocatio
   g_variant_lookup(options, "token", "u", &token);
   open(handle, std::make_unique<DocumentRequest>(
                    Caller{application, parent, title}, std::move(document),
-                   tokens_.take(application, token), responseTo(invocation, handle)));
+                   tokens_.take(application, token), ownerOf(invocation, handle)));
 }
 
-Responded PortalService::responseTo(GDBusMethodInvocation *invocation, const std::string &handle) {
-  return [this, invocation, handle](Response response, GVariant *results) {
+RequestOwner PortalService::ownerOf(GDBusMethodInvocation *invocation, const std::string &handle) {
+  const auto respond = [invocation](Response response, GVariant *results) {
     if (results == nullptr)
       results = g_variant_new_array(G_VARIANT_TYPE("{sv}"), nullptr, 0);
     g_dbus_method_invocation_return_value(
         invocation, g_variant_new("(u@a{sv})", static_cast<guint32>(response), results));
+  };
+  const auto end = [this, handle] {
     const auto found = requests_.find(handle);
     g_dbus_connection_unregister_object(connection_.get(), found->second.object);
-    const auto ended = std::move(found->second.request);
+    const auto ended = std::move(found->second.request); // also the caller of this function
     requests_.erase(found);
     changed_();
   };
+  return {respond, end};
 }
 
 void PortalService::open(const std::string &handle, std::unique_ptr<PrintRequest> request) {

@@ -39,7 +39,7 @@ private:
                      GDBusMethodInvocation *invocation, gpointer self);
   void preparePrint(GVariant *parameters, GDBusMethodInvocation *invocation);
   void print(GVariant *parameters, GDBusMethodInvocation *invocation);
-  Responded responseTo(GDBusMethodInvocation *invocation, const std::string &handle);
+  RequestOwner ownerOf(GDBusMethodInvocation *invocation, const std::string &handle);
   void open(const std::string &handle, std::unique_ptr<PrintRequest> request);
   std::unique_ptr<PreparedFile> newFile() const;
 

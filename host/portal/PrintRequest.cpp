@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <iostream>
 #include <sys/stat.h>
+#include <utility>
 
 namespace imageposition {
 
@@ -34,9 +35,8 @@ GVariant *resultsOf(const PortalJob &reply, std::uint32_t token) {
 } // namespace
 
 void PrintRequest::close() {
-  if (dialog_)
-    dialog_->close();
-  respond(Response::Failed);
+  dialog_->close();
+  end(Response::Failed);
 }
 
 std::vector<std::string> PrintRequest::callersWords(bool isWindowed) const {
@@ -54,8 +54,14 @@ void PrintRequest::run(std::vector<std::string> words, int document, Dialog::Ser
 }
 
 void PrintRequest::respond(Response response, GVariant *results) {
-  const Responded responded = std::move(responded_);
-  responded(response, results);
+  if (const auto respond = std::exchange(owner_.respond, nullptr))
+    respond(response, results);
+}
+
+void PrintRequest::end(Response response, GVariant *results) {
+  respond(response, results);
+  const auto end = std::move(owner_.end);
+  end();
 }
 
 void PreparationRequest::start() {
@@ -69,7 +75,7 @@ void PreparationRequest::start() {
 
 void PreparationRequest::ended(std::optional<int> status) {
   if (responseFor(status) != Response::Done) {
-    respond(responseFor(status));
+    end(responseFor(status));
     return;
   }
   GVariant *results = nullptr;
@@ -83,7 +89,7 @@ void PreparationRequest::ended(std::optional<int> status) {
   } catch (const std::runtime_error &failure) {
     std::cerr << "print-dialog-portal: " << failure.what() << std::endl;
   }
-  respond(results != nullptr ? Response::Done : Response::Failed, results);
+  end(results != nullptr ? Response::Done : Response::Failed, results);
 }
 
 void DocumentRequest::start() {
@@ -93,24 +99,36 @@ void DocumentRequest::start() {
     showDialog();
 }
 
-/// If that fails, the dialog says why and lets the user print otherwise: nothing else would tell
-/// the user.
+void DocumentRequest::close() {
+  if (isPrinting_)
+    respond(Response::Failed);
+  else
+    PrintRequest::close();
+}
+
 void DocumentRequest::printPrepared() {
   std::vector<std::string> words = callersWords(false);
   words.insert(words.end(), {"--batch", "--prepared=" + job_->path(), "-"});
   rewind(document_);
   run(std::move(words), document_.get(), Dialog::Service::NotNeeded,
-      [this](std::optional<int> status) {
-        if (!status || responseFor(*status) != Response::Failed || !rewind(document_)) {
-          respond(responseFor(status));
-          return;
-        }
-        try {
-          showDialog();
-        } catch (const std::runtime_error &) {
-          respond(Response::Failed);
-        }
-      });
+      [this](std::optional<int> status) { printingEnded(status); });
+  isPrinting_ = true;
+}
+
+/// If the job could not be printed, the dialog says why and lets the user print otherwise: nothing
+/// else would tell the user.
+void DocumentRequest::printingEnded(std::optional<int> status) {
+  isPrinting_ = false;
+  const bool canBeRepeated = status && responseFor(status) == Response::Failed && rewind(document_);
+  if (!canBeRepeated) {
+    end(responseFor(status));
+    return;
+  }
+  try {
+    showDialog();
+  } catch (const std::runtime_error &) {
+    end(Response::Failed);
+  }
 }
 
 void DocumentRequest::showDialog() {
@@ -120,7 +138,7 @@ void DocumentRequest::showDialog() {
   words.emplace_back("-");
   rewind(document_);
   run(std::move(words), document_.get(), Dialog::Service::NotNeeded,
-      [this](std::optional<int> status) { respond(responseFor(status)); });
+      [this](std::optional<int> status) { end(responseFor(status)); });
 }
 
 std::string documentProblem(const Descriptor &document) {

@@ -17,8 +17,13 @@ namespace imageposition {
 /// The portal's response codes.
 enum class Response : std::uint32_t { Done = 0, Cancelled = 1, Failed = 2 };
 
-/// Called once; may destroy the request. `results` is floating, of type a{sv}, or null for none.
-using Responded = std::function<void(Response response, GVariant *results)>;
+/// Whom a request tells what came of it.
+struct RequestOwner {
+  /// Called at most once. `results` is floating, of type a{sv}, or null for none.
+  std::function<void(Response response, GVariant *results)> respond;
+  /// Called once, after `respond`. Destroys the request.
+  std::function<void()> end;
+};
 
 /// Who asks.
 struct Caller {
@@ -30,16 +35,16 @@ struct Caller {
 /// Main thread.
 class PrintRequest {
 public:
-  PrintRequest(Caller caller, Responded responded)
-      : caller_(std::move(caller)), responded_(std::move(responded)) {}
+  PrintRequest(Caller caller, RequestOwner owner)
+      : caller_(std::move(caller)), owner_(std::move(owner)) {}
   virtual ~PrintRequest() = default;
   PrintRequest(const PrintRequest &) = delete;
   PrintRequest &operator=(const PrintRequest &) = delete;
 
   /// Starts the dialog. Throws a `std::runtime_error`.
   virtual void start() = 0;
-  /// Closes the dialog. Responds with `Failed`: nobody waits for more.
-  void close();
+  /// The application waits no longer: closes the dialog, and ends the request.
+  virtual void close();
 
 protected:
   const Caller &caller() const noexcept { return caller_; }
@@ -47,12 +52,14 @@ protected:
   std::vector<std::string> callersWords(bool isWindowed) const;
   void run(std::vector<std::string> words, int document, Dialog::Service service,
            Dialog::Ended ended);
-  /// The object may be gone afterwards.
+  /// Does nothing after the first call.
   void respond(Response response, GVariant *results = nullptr);
+  /// Responds, and ends the request: the object is gone afterwards.
+  void end(Response response, GVariant *results = nullptr);
 
 private:
   Caller caller_;
-  Responded responded_;
+  RequestOwner owner_;
   std::unique_ptr<Dialog> dialog_;
 };
 
@@ -61,8 +68,8 @@ class PreparationRequest final : public PrintRequest {
 public:
   /// Writes the job to `file`. Adds it to `tokens`, which is borrowed, if the user prints.
   PreparationRequest(Caller caller, PortalJob job, std::unique_ptr<PreparedFile> file,
-                     Tokens &tokens, Responded responded)
-      : PrintRequest(std::move(caller), std::move(responded)), job_(std::move(job)),
+                     Tokens &tokens, RequestOwner owner)
+      : PrintRequest(std::move(caller), std::move(owner)), job_(std::move(job)),
         file_(std::move(file)), tokens_(tokens) {}
 
   void start() override;
@@ -80,17 +87,22 @@ class DocumentRequest final : public PrintRequest {
 public:
   /// `job` is null if the user has set up none.
   DocumentRequest(Caller caller, Descriptor document, std::unique_ptr<PreparedFile> job,
-                  Responded responded)
-      : PrintRequest(std::move(caller), std::move(responded)), document_(std::move(document)),
+                  RequestOwner owner)
+      : PrintRequest(std::move(caller), std::move(owner)), document_(std::move(document)),
         job_(std::move(job)) {}
 
   void start() override;
+  /// An application that has sent its document may quit at once: a job that the user has set up is
+  /// printed nevertheless.
+  void close() override;
 
 private:
   void printPrepared();
+  void printingEnded(std::optional<int> status);
   void showDialog();
 
   Descriptor document_;
+  bool isPrinting_ = false; // without a window
   std::unique_ptr<PreparedFile> job_;
 };
 

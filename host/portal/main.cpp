@@ -60,7 +60,7 @@ public:
 
   int run() {
     const guint name = g_bus_own_name(G_BUS_TYPE_SESSION, PortalService::kName,
-                                      G_BUS_NAME_OWNER_FLAGS_DO_NOT_QUEUE, connected, nullptr,
+                                      G_BUS_NAME_OWNER_FLAGS_DO_NOT_QUEUE, connected, nameAcquired,
                                       nameLost, this, nullptr);
     g_main_loop_run(loop_);
     g_bus_unown_name(name);
@@ -80,9 +80,17 @@ private:
     }
   }
 
-  /// Also if there is no bus.
+  static void nameAcquired(GDBusConnection *, const gchar *, gpointer self) {
+    static_cast<Program *>(self)->isServing_ = true;
+  }
+
+  /// The session is over, there is none, or another service has the name.
   static void nameLost(GDBusConnection *, const gchar *, gpointer self) {
-    static_cast<Program *>(self)->fail("cannot own the name " + std::string(PortalService::kName));
+    auto *const program = static_cast<Program *>(self);
+    if (program->isServing_)
+      g_main_loop_quit(program->loop_);
+    else
+      program->fail("cannot own the name " + std::string(PortalService::kName));
   }
 
   void fail(const std::string &reason) {
@@ -108,6 +116,7 @@ private:
   GMainLoop *const loop_;
   std::unique_ptr<PortalService> service_;
   guint timer_ = 0;
+  bool isServing_ = false;
   int status_ = 0;
 };
 

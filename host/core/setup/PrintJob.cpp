@@ -240,7 +240,8 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
       ticket_(firstTicket(preset_.settings)),
       withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
                                                          : firstTicket({}).settings),
-      documents_(arguments.documents), target_(firstTarget()) {
+      documents_(arguments.documents), inputStart_(lseek(STDIN_FILENO, 0, SEEK_CUR)),
+      target_(firstTarget()) {
   ticket_.printer = printer_->name();
   printer_->mark(ticket_.settings);
   if (!arguments.isUnaligned && !queue_.empty() && arguments.prepared.empty())
@@ -584,6 +585,8 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
       writeTicketTo(path);
     return nullptr;
   }
+  if (inputStart_ >= 0) // an earlier attempt may have read from it
+    lseek(STDIN_FILENO, inputStart_, SEEK_SET);
   JobRequest request = this->request(destinations);
   if (target_ == JobTarget::Prepared) {
     writePrepared(request, ownShift);

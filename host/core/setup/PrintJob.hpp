@@ -15,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace imageposition {
@@ -202,6 +203,7 @@ private:
   std::optional<FoundAlignment> alignment_; // whose offsets the job has taken
   PrintSettingsStore withoutPreset_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
+  const off_t inputStart_;             // of standard input; -1 if it is a pipe
   JobTarget target_;
   bool isTargetChosen_ = false;
   std::string missingPrinter_;

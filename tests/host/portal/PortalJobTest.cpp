@@ -209,19 +209,30 @@ TEST(PortalJob, WhatOnlyTheUserKnowsIsNotReturned) {
 
 TEST(PortalJob, ThePageReturnedIsThatOfTheChosenPaper) {
   Ticket prepared = ticketWith({});
-  prepared.paper = TicketPaper{"A5", "A5 (148 × 210 mm)", 419.53, 595.28, 14.4, 18, 21.6, 28.35};
+  prepared.paper = TicketPaper{"A5", "A5 (148 × 210 mm)", 420, 595, 14.4, 18, 21.6, 28.35};
   const PortalJob reply = replyTo({{}, a4("landscape")}, prepared);
   EXPECT_EQ(reply.page.name, "iso_a5");
   EXPECT_EQ(reply.page.ppdName, "A5");
   EXPECT_EQ(reply.page.displayName, "A5 (148 × 210 mm)");
-  EXPECT_NEAR(reply.page.width, 148, 0.01);
-  EXPECT_NEAR(reply.page.height, 210, 0.01);
+  EXPECT_NEAR(reply.page.width, 148.17, 0.01);
+  EXPECT_NEAR(reply.page.height, 209.9, 0.01);
   EXPECT_NEAR(reply.page.left, 5.08, 0.01);
   EXPECT_NEAR(reply.page.bottom, 6.35, 0.01);
   EXPECT_NEAR(reply.page.right, 7.62, 0.01);
   EXPECT_NEAR(reply.page.top, 10, 0.01);
   EXPECT_THAT(reply.settings,
-              IsSupersetOf(PortalSettings{{"paper-format", "iso_a5"}, {"paper-width", "148"}}));
+              IsSupersetOf(PortalSettings{{"paper-format", "iso_a5"}, {"paper-width", "148.17"}}));
+}
+
+TEST(PortalJob, APaperWithoutAStandardNameIsReturnedByItsOwn) {
+  for (const char *keyword : {"Custom.400x500", "Panorama"}) {
+    Ticket prepared = ticketWith({});
+    prepared.paper = TicketPaper{keyword, keyword, 400, 500, 0, 0, 0, 0};
+    const PortalPage page = replyTo({{}, a4()}, prepared).page;
+    EXPECT_EQ(page.name, keyword);
+    EXPECT_EQ(page.ppdName, keyword);
+    EXPECT_NEAR(page.width, 141.11, 0.01);
+  }
 }
 
 TEST(PortalJob, TheApplicationTurnsThePageAndTheJobDoesNot) {

@@ -34,7 +34,12 @@ public:
   /// What the printer got of the job that lp or print-dialog has reported; waits for it. Several
   /// documents follow each other. Empty if the job has failed.
   std::string contentOf(const ProcessResult &reported) const {
-    const std::string path = kept_.path("job-" + std::to_string(numberIn(reported.output)));
+    return contentOfJob(numberIn(reported.output));
+  }
+
+  /// The same for the job with that number.
+  std::string contentOfJob(int number) const {
+    const std::string path = kept_.path("job-" + std::to_string(number));
     const bool isThere = becomesTrue([&] { return std::filesystem::exists(path); });
     return isThere ? test::contentOf(path) : "";
   }
