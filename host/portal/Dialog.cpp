@@ -2,10 +2,12 @@
 
 #include "ProgramFolder.hpp"
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <stdexcept>
 #include <sys/prctl.h>
+#include <system_error>
 #include <utility>
 
 namespace imageposition {
@@ -37,8 +39,12 @@ Dialog::Dialog(const std::vector<std::string> &words, int document, Service serv
   const ObjectHandle<GSubprocessLauncher> launcher(
       g_subprocess_launcher_new(G_SUBPROCESS_FLAGS_STDOUT_SILENCE));
   g_subprocess_launcher_set_cwd(launcher.get(), "/"); // has no file that is named like an option
-  if (document >= 0)
-    g_subprocess_launcher_take_stdin_fd(launcher.get(), fcntl(document, F_DUPFD_CLOEXEC, 3));
+  if (document >= 0) {
+    const int copy = fcntl(document, F_DUPFD_CLOEXEC, 3);
+    if (copy < 0)
+      throw std::system_error(errno, std::generic_category());
+    g_subprocess_launcher_take_stdin_fd(launcher.get(), copy); // closes it
+  }
   if (service == Service::Needed)
     g_subprocess_launcher_set_child_setup(launcher.get(), endWithService, nullptr, nullptr);
   GError *error = nullptr;

@@ -305,7 +305,7 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
   const QueueName name = QueueName::parse(queue_);
   const Presets presets(name.printer);
   presetName_ = name.instance;
-  if (queue_.empty())
+  if (queue_.empty() || !arguments_.prepared.empty())
     return {};
   if (presetName_.empty()) {
     const std::string usual = history_.preset(name.printer);

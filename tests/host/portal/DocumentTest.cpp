@@ -37,7 +37,9 @@ TEST_P(UnusableDocument, IsRefusedWithoutAQuestion) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, UnusableDocument, testing::Values("empty", "device", "writeonly"));
 
-TEST_F(PortalFixture, ATruncatedDocumentIsNotLostOnTheUser) {
+class TruncatedDocument : public PortalFixture {};
+
+TEST_F(TruncatedDocument, ComesBackToTheUser) {
   TemporaryFolder folder;
   const std::string whole = contentOf(kDocument);
   const std::string cut = folder.write("cut.pdf", whole.substr(0, whole.size() / 2));

@@ -65,13 +65,8 @@ protected:
     return becomesTrue([&] { return session->dialogs().empty(); });
   }
 
-  /// The numbers of the jobs that CUPS has had since the last call.
-  static std::vector<int> newJobs() {
-    std::vector<int> jobs;
-    for (int job = lastJob + 1; !kept->cups().jobAttribute(job, "job-state").empty(); job++)
-      jobs.push_back(lastJob = job);
-    return jobs;
-  }
+  /// The numbers of the jobs that CUPS has received since the last call.
+  static std::vector<int> newJobs();
 
   static std::unique_ptr<KeptJobs> kept;
   static int lastJob;

@@ -38,6 +38,8 @@ TEST_F(PortalUse, SettingsGoToTheDialogAndBack) {
     };
     EXPECT_TRUE(shows("Media:", "A5"));
     EXPECT_TRUE(shows("Two-sided:", "Short Edge"));
+    EXPECT_TRUE(dialog.says("From the application"));
+    EXPECT_EQ(dialog.screen().find("button", "Open…"), nullptr);
     dialog.choose("Media:", "US Letter");
     dialog.press("Return");
   }
