@@ -8,6 +8,7 @@ build_packages=(
   libcli11-dev nlohmann-json3-dev                   # command line, tickets
   libqpdf-dev                                       # pages of documents
   libpango1.0-dev                                   # the words of alignment sheets
+  libglib2.0-dev                                    # the session's bus, for the print portal
   gettext                                           # the dialog's translations
 )
 
@@ -15,6 +16,7 @@ run_packages=(
   gnustep-back0.29-cairo                            # draws the windows
   libqpdf29                                         # reads the documents' pages
   libpangocairo-1.0-0                               # draws alignment sheets
+  libglib2.0-0                                      # serves the print portal
   cups-common                                       # words for what printers offer, in many languages
   fontconfig fonts-dejavu-core fonts-wqy-microhei   # text; Japanese and Chinese with Latin in one font
   xvfb openbox                                      # a virtual display
@@ -40,6 +42,8 @@ test_packages=(
   cups-filters hp-ppd foomatic-db-compressed-ppds   # PPDs of real printers
   poppler-utils                                     # renders alignment sheets
   cups                                              # which filters lay a document out
+  xdg-desktop-portal libgtk-3-dev libgtk-4-dev      # applications that print through the portal
+  libglib2.0-bin                                    # calls on a bus
 )
 
 comparison_packages=(

@@ -1,5 +1,6 @@
 #include "AlignmentCommands.hpp"
 #include "CommandLine.hpp"
+#include "Destinations.hpp"
 #include "FailureReport.hpp"
 #include "GnustepModule.hpp"
 #include "JobSubmission.hpp"
@@ -67,12 +68,25 @@ ExitCode listOptions(const Arguments &arguments) {
 }
 
 /// As the module does for its jobs.
-ExitCode runAlign(const Arguments &arguments) {
+template <typename Print> ExitCode runPlainly(const Arguments &arguments, Print &&print) {
   std::signal(SIGPIPE, SIG_IGN); // a closed pipe must not kill the program during a job
-  const ExitCode code = exitCodeOf([&] { return align(arguments); }, std::cerr);
+  const ExitCode code = exitCodeOf([&] { return print(arguments); }, std::cerr);
   endSubmissions();
   endIfCallsAreRunning(code);
   return code;
+}
+
+/// The panels saved their values when the job was prepared.
+ExitCode printPrepared(const Arguments &arguments) {
+  PrintJob job(arguments, openPrinter(arguments));
+  if (const auto submission = job.print(readDestinations(), ""))
+    job.report(submission->result(), std::cout, std::cerr);
+  requireOutputUnlessSent(job);
+  return ExitCode::Done;
+}
+
+bool isPreparedAlready(const Arguments &arguments) {
+  return arguments.isBatch && !arguments.prepared.empty() && !arguments.batch.needsPanel();
 }
 
 /// Cleans the environment before GNUstep is loaded and reads it.
@@ -102,7 +116,9 @@ ExitCode run(const std::vector<std::string> &words) {
   if (arguments.alignments.isWanted())
     return manageAlignments(arguments.alignments);
   if (arguments.isAligning)
-    return runAlign(arguments);
+    return runPlainly(arguments, align);
+  if (isPreparedAlready(arguments))
+    return runPlainly(arguments, printPrepared);
   return arguments.isListingOptions ? listOptions(arguments) : runOnGnustep(arguments);
 }
 

@@ -33,15 +33,6 @@ namespace {
 
 constexpr std::size_t kMostConflicts = 5;
 
-/// A job that CUPS has accepted is a success even if standard output cannot be written: a script
-/// that saw a failure would print the job again.
-void requireOutputUnlessSent(const PrintJob &job) {
-  if (job.sentName().empty())
-    requireOutput(job.done());
-  else if (!std::cout.flush())
-    std::cerr << messages::kProgram << messages::jobSentWithoutOutput(job.sentName()) << '\n';
-}
-
 ExitCode runInBatch(const Arguments &arguments) {
   PrintJob job(arguments, openPrinter(arguments));
   PrintSession session(job);
@@ -86,7 +77,7 @@ ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer, const His
     std::cerr << messages::kCancelled.view() << '\n';
     return ExitCode::Cancelled;
   }
-  if (!job.sentName().empty())
+  if (!job.sentName().empty() || job.isPreparing())
     job.remember(window);
   requireOutputUnlessSent(job);
   return ExitCode::Done;
@@ -98,10 +89,11 @@ ExitCode runInWindow(const Arguments &arguments) {
     checkTicketPlace(arguments.ticket); // before the user enters settings that would be lost
   const History history = History::read(std::cerr);
   const std::string remembered = rememberedQueue(arguments, history);
-  const std::string queue = remembered.empty() ? arguments.queue : remembered;
+  const std::string queue = remembered.empty() ? namedQueue(arguments) : remembered;
+  const bool mayBeGone = !remembered.empty() || !arguments.prepare.empty();
   std::unique_ptr<PrinterOpening> opening;
   if (arguments.ppd.empty())
-    opening = std::make_unique<PrinterOpening>(queue, missingShift(arguments), !remembered.empty());
+    opening = std::make_unique<PrinterOpening>(queue, missingShift(arguments), mayBeGone);
   startPasteboardOnDemand();
   startApplication();
   if (!opening)

@@ -11,10 +11,5 @@ std::string noPanel(const std::string &printer, const std::vector<std::string> &
               "one, or specify another plug-in with --plugin BUNDLE.")
       .with(printer, inOrder(plugins));
 }
-std::string jobSentWithoutOutput(const std::string &job) {
-  return text("CUPS has accepted job {1}, but writing to standard output failed. Do not print it "
-              "again.")
-      .with(job);
-}
 
 } // namespace imageposition::messages

@@ -11,7 +11,6 @@ namespace imageposition::messages {
 
 /// `plugins`: the paths of the plug-ins that were tried.
 std::string noPanel(const std::string &printer, const std::vector<std::string> &plugins);
-std::string jobSentWithoutOutput(const std::string &job);
 
 } // namespace imageposition::messages
 

@@ -8,6 +8,7 @@
 #include "JobTexts.hpp"
 #include "OptionText.hpp"
 #include "PageRanges.hpp"
+#include "ParentWindow.hpp"
 #include "PrinterTexts.hpp"
 #include "Strings.hpp"
 
@@ -121,6 +122,9 @@ void addOtherOptions(CLI::App &app, RawArguments &raw) {
       ->type_name("BUNDLE");
   addText(app, "--ticket", arguments.ticket, messages::kHelpTicket, "FILE");
   addText(app, "--pdf", arguments.pdf, messages::kHelpPdf, "FILE");
+  addText(app, "--prepare", arguments.prepare, messages::kHelpPrepare, "FILE");
+  addText(app, "--prepared", arguments.prepared, messages::kHelpPrepared, "FILE");
+  addText(app, "--parent", arguments.parent, messages::kHelpParent, "WINDOW");
   app.add_option("DOCUMENT", arguments.documents, messages::kHelpDocument)->type_name("");
   addText(app, "--appearance", arguments.appearance, messages::kHelpAppearance, "light|dark");
   addText(app, "--text-scale", arguments.textScale, messages::kHelpTextScale, "NUMBER");
@@ -163,9 +167,9 @@ void refuseFilesLikeOptions(const std::vector<std::string> &words) {
 
 /// An empty value usually comes from an unset shell variable; ignoring it would skip the option.
 void refuseEmptyValues(const CLI::App &app) {
-  for (const char *name :
-       {"--ticket", "--pdf", "--back", "--ppd", "-d", "-h", "-U", "--crease", "--sheet",
-        "--export-alignments", "--import-alignments", "--delete-alignments", "DOCUMENT"}) {
+  for (const char *name : {"--ticket", "--pdf", "--prepare", "--prepared", "--parent", "--back",
+                           "--ppd", "-d", "-h", "-U", "--crease", "--sheet", "--export-alignments",
+                           "--import-alignments", "--delete-alignments", "DOCUMENT"}) {
     const auto &texts = app.get_option(name)->results();
     if (std::find(texts.begin(), texts.end(), "") != texts.end())
       refuse(messages::emptyValue(name));
@@ -187,6 +191,20 @@ void fillBatchRequest(RawArguments &raw) {
   }
   if (batch.needsPanel() && !raw.arguments.isBatch)
     refuse(messages::kOnlyInBatch);
+}
+
+void checkPreparation(const Arguments &arguments) {
+  const bool writesElsewhere =
+      !arguments.ticket.empty() || !arguments.pdf.empty() || arguments.isAligning;
+  if (!arguments.prepare.empty() &&
+      (writesElsewhere || arguments.isDryRun || !arguments.prepared.empty() ||
+       !arguments.documents.empty() || !arguments.ppd.empty()))
+    refuse(messages::kPrepareAlone);
+  if (!arguments.prepared.empty() &&
+      (writesElsewhere || !arguments.ppd.empty() || !arguments.queue.empty()))
+    refuse(messages::kPreparedHasPrinter);
+  if (!arguments.parent.empty() && !readParent(arguments.parent))
+    refuse(messages::badParent(arguments.parent));
 }
 
 void checkCombination(const Arguments &arguments) {
@@ -238,6 +256,7 @@ std::variant<Arguments, Answer> readCommandLine(std::vector<std::string> words) 
   refuseEmptyValues(app);
   fillBatchRequest(raw);
   checkCombination(raw.arguments);
+  checkPreparation(raw.arguments);
   return raw.arguments;
 }
 

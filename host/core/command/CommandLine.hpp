@@ -35,6 +35,12 @@ struct Arguments {
   std::vector<std::string> plugins;
   std::string ticket;
   std::string pdf; ///< Write the pages to this file; excludes `ticket` and a dry run.
+  /// Write the job to this file in place of printing it; for `prepared`. Its documents do not exist
+  /// yet.
+  std::string prepare;
+  std::string prepared; ///< A file that `prepare` wrote: the printer and the settings.
+  /// The window that the dialog belongs to, for `readParent`.
+  std::string parent;
   std::vector<std::string> documents; ///< "-" is standard input, at most once.
   std::string title;
   std::string appearance;        ///< "light" or "dark".

@@ -59,6 +59,14 @@ const char *const kHelpTicket = "The job's settings, as JSON: read when FILE exi
                                 "beside it (job.options for job.json)";
 const char *const kHelpPdf = "Print nothing: write the pages to FILE (PDF), laid out\n"
                              "and moved as they would be printed";
+const char *const kHelpPrepare = "Print nothing: write the printer and the settings of a\n"
+                                 "document that does not exist yet to FILE, for --prepared.\n"
+                                 "Another printer is offered if that of -d is missing, and\n"
+                                 "settings that it does not accept are left out";
+const char *const kHelpPrepared = "Print with the printer and the settings in FILE";
+const char *const kHelpParent = "The application's window, above which the dialog opens:\n"
+                                "x11:HEX, or wayland:HANDLE, which adds the job's title to\n"
+                                "the dialog's";
 const char *const kHelpDocument = "What to print, several as one job; \"-\" is standard input,\n"
                                   "which is also read when no document is named and the\n"
                                   "window prints, or batch has a file or a pipe there.\n"
@@ -111,6 +119,10 @@ const Text kOnlyWithAlign = text("--reading, --crease and --sheet require --alig
 const Text kAlignPrintsSheets =
     text("--align prints alignment sheets. Leave out documents and --ticket.");
 const Text kPdfAlone = text("--pdf writes the pages. Leave out --ticket and --dry-run.");
+const Text kPrepareAlone = text("--prepare writes settings for a document that does not exist yet. "
+                                "Leave out documents, --ppd, --ticket, --pdf and the like.");
+const Text kPreparedHasPrinter = text("--prepared prints on the printer that its file names. Leave "
+                                      "out -d, --ppd, --ticket, --pdf and the like.");
 const Text kStandardInputRepeated =
     text("Standard input can be printed only once. Use \"-\" once.");
 std::string jobsAreNotChanged(const std::string &job) {
@@ -127,6 +139,11 @@ std::string badHoldTime(const std::string &when) {
 }
 std::string badAppearance(const std::string &appearance) {
   return text("--appearance must be \"light\" or \"dark\", not \"{1}\".").with(appearance);
+}
+std::string badParent(const std::string &parent) {
+  return text("--parent must be x11: and a window's hexadecimal number, or wayland: and a handle, "
+              "not \"{1}\".")
+      .with(parent);
 }
 std::string badTextScale(const std::string &scale) {
   return text("--text-scale must be a number greater than 0, such as 1.25, not \"{1}\".")

@@ -97,6 +97,44 @@ void readSettings(const Json &object, const std::string &source, PrintSettingsSt
   }
 }
 
+/// The unit of the numbers is in the name, because JSON has none.
+constexpr const char *kPaperMember = "paper", *kPointsMember = "points";
+
+std::vector<double> pointsIn(const Json &paper) {
+  std::vector<double> points;
+  const auto member = paper.find(kPointsMember);
+  if (member != paper.end() && member->is_array())
+    for (const Json &number : *member)
+      if (number.is_number())
+        points.push_back(number.get<double>());
+  return points;
+}
+
+/// None if the member is missing or not as this program writes it.
+std::optional<TicketPaper> readPaper(const Json &object, const std::string &source) {
+  const auto paper = object.find(kPaperMember);
+  if (paper == object.end() || !paper->is_object())
+    return std::nullopt;
+  const std::vector<double> points = pointsIn(*paper);
+  if (points.size() != 6)
+    return std::nullopt;
+  return TicketPaper{textMember(*paper, "keyword", source),
+                     textMember(*paper, "text", source),
+                     points[0],
+                     points[1],
+                     points[2],
+                     points[3],
+                     points[4],
+                     points[5]};
+}
+
+OrderedJson jsonOf(const TicketPaper &paper) {
+  return {{"keyword", paper.keyword},
+          {"text", paper.text},
+          {kPointsMember,
+           {paper.width, paper.length, paper.left, paper.bottom, paper.right, paper.top}}};
+}
+
 /// Refuses objects with a duplicate name, of which the library would silently use the last.
 class NameCheck {
 public:
@@ -160,6 +198,7 @@ Ticket readTicketText(const std::string &json, const std::string &source) {
   if (!document.empty())
     ticket.documents.insert(ticket.documents.begin(), document);
   readSettings(object, source, ticket.settings);
+  ticket.paper = readPaper(object, source);
   return ticket;
 }
 
@@ -180,6 +219,8 @@ std::string writeTicketText(const Ticket &ticket) {
   }
   if (!locked.empty())
     object["locked"] = locked;
+  if (ticket.paper)
+    object[kPaperMember] = jsonOf(*ticket.paper);
   object["settings"] = std::move(settings);
   // Names of printers and files may have any encoding; the settings are always UTF-8.
   return object.dump(2, ' ', false, OrderedJson::error_handler_t::replace) + '\n';
@@ -210,6 +251,11 @@ void writeTicket(const Ticket &ticket, const std::string &path, Readers readers)
       message += " " + messages::fileWrittenAlready(optionTextPath(path));
     throw Failure(ExitCode::Ticket, message);
   }
+}
+
+void writePreparedTicket(const Ticket &ticket, const std::string &path) {
+  writing(path,
+          [&] { FileReplacement(path, writeTicketText(ticket), Readers::OwnerAlone).commit(); });
 }
 
 void checkTicketPlace(const std::string &path) {

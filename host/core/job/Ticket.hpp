@@ -11,17 +11,34 @@
 
 namespace imageposition {
 
+/// The paper that a job's settings choose, as the printer's description has it; in points, with the
+/// sheet upright.
+struct TicketPaper {
+  std::string keyword; ///< "A4".
+  std::string text;    ///< The name to show.
+  double width = 0;
+  double length = 0;
+  double left = 0; ///< The margins, on which the printer does not print.
+  double bottom = 0;
+  double right = 0;
+  double top = 0;
+};
+
 /// What Print writes and the next dialog reads, as JSON:
 ///
 ///     { "printer": "...", "document": "...", "locked": ["name"], "settings": { "name": "value" } }
 ///
 /// Only "settings" is required, and no name may appear twice. Several documents are a list,
 /// "documents". Values are strings; whole numbers are converted to strings. "locked" names settings
-/// that panels must not change.
+/// that panels must not change. A prepared job also has
+///
+///     "paper": { "keyword": "A4", "text": "A4", "points": [width, length, left, bottom, right,
+///     top] }
 struct Ticket {
-  std::string printer;                ///< For information only.
+  std::string printer; ///< The queue of a prepared job; otherwise for information only.
   std::vector<std::string> documents; ///< For information only; may be empty.
   PrintSettingsStore settings;
+  std::optional<TicketPaper> paper = {}; ///< Only a prepared job has one.
 };
 
 /// Throws a `Failure` with `ExitCode::Ticket` that describes the error and names `source`.
@@ -36,6 +53,10 @@ std::optional<Ticket> readTicket(const std::string &path);
 /// only replaces one that this program wrote. Throws a `Failure`, which names a file that was
 /// written and could not be restored.
 void writeTicket(const Ticket &ticket, const std::string &path, Readers readers = Readers::Same);
+
+/// Writes the JSON alone, readable only by its owner. Throws a `Failure`; the file is then
+/// unchanged.
+void writePreparedTicket(const Ticket &ticket, const std::string &path);
 
 /// Throws the same `Failure` as `writeTicket` if the ticket cannot be written there. Changes
 /// nothing.

@@ -9,12 +9,14 @@
 #include "JobSettings.hpp"
 #include "JobSplit.hpp"
 #include "JobSubmission.hpp"
+#include "JobTexts.hpp"
 #include "OptionText.hpp"
 #include "PanelValues.hpp"
 #include "PdfFile.hpp"
 #include "Phrases.hpp"
 #include "PrinterConnection.hpp"
 #include "PrinterFailure.hpp"
+#include "PrinterOptions.hpp"
 #include "PrinterTexts.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
@@ -24,8 +26,11 @@
 #include "ValueCheck.hpp"
 
 #include <cups/cups.h>
+#include <cups/pwg.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -98,17 +103,52 @@ bool isSameIn(const PrintSettingsStore &left, const PrintSettingsStore &right, c
   return one == nullptr || other == nullptr ? one == other : std::strcmp(one, other) == 0;
 }
 
-/// The existing ticket, or else the queue's preset, overridden by the command line's options.
-Ticket openTicket(const Arguments &arguments, const PrintSettingsStore &preset) {
-  Ticket ticket;
-  ticket.settings = preset;
-  if (!arguments.ticket.empty())
-    if (auto stored = readTicket(arguments.ticket))
-      ticket = *stored;
-  if (!arguments.documents.empty())
-    ticket.documents = arguments.documents;
-  applyLpOptions(arguments, ticket.settings);
-  return ticket;
+Ticket readPrepared(const std::string &path) {
+  auto ticket = readTicket(path);
+  if (!ticket)
+    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, systemReason(ENOENT)));
+  return std::move(*ticket);
+}
+
+/// The paper of the marked choices; none if the printer has no paper sizes.
+std::optional<TicketPaper> paperOf(PrinterDescription &printer, PrintSettingsStore &settings) {
+  const auto option = PrinterOptions(printer, settings).find("PageSize"); // marks the choices
+  const ppd_size_t *const size = ppdPageSize(printer.ppd(), nullptr);
+  if (!option || size == nullptr)
+    return std::nullopt;
+  return TicketPaper{option->chosen,
+                     option->textOf(option->chosen),
+                     size->width,
+                     size->length,
+                     size->left,
+                     size->bottom,
+                     size->width - size->right,
+                     size->length - size->top};
+}
+
+/// Whether the printer has the paper, which is a name of the PPD or of a standard.
+bool hasPaper(ppd_file_t *ppd, const char *name) {
+  constexpr double kTolerance = 5; // points; as CUPS has it
+  const pwg_media_t *const paper = pwgMediaForPWG(name);
+  const auto isIt = [&](const ppd_size_t &size) {
+    return imageposition::isSame(size.name, name) ||
+           (paper != nullptr && std::abs(size.width - paper->width * 72 / 2540.0) <= kTolerance &&
+            std::abs(size.length - paper->length * 72 / 2540.0) <= kTolerance);
+  };
+  return std::any_of(ppd->sizes, ppd->sizes + ppd->num_sizes, isIt);
+}
+
+/// What of an application's proposals the printer accepts, without complaint: the user did not
+/// enter them.
+PrintSettingsStore acceptable(const PrintSettingsStore &proposed, ppd_file_t *ppd) {
+  PrintSettingsStore accepted;
+  for (int i = 0; i < proposed.optionCount(); i++) {
+    const cups_option_t &option = proposed.options()[i];
+    const auto value = fitSetting(ppd, option.name, option.value, false).value;
+    if (value && (std::strcmp(option.name, "media") != 0 || hasPaper(ppd, option.value)))
+      accepted.set(option.name, *value);
+  }
+  return accepted;
 }
 
 /// True for a pipe or a file; false for a terminal and for /dev/null, which desktops pass.
@@ -187,7 +227,11 @@ private:
 OpenedPrinter openPrinter(const Arguments &arguments) {
   if (!arguments.ppd.empty())
     return {{}, std::make_unique<PrinterDescription>(PrinterDescription::fromFile(arguments.ppd))};
-  return openQueue(arguments.queue, missingShift(arguments));
+  return openQueue(namedQueue(arguments), missingShift(arguments));
+}
+
+std::string namedQueue(const Arguments &arguments) {
+  return arguments.prepared.empty() ? arguments.queue : readPrepared(arguments.prepared).printer;
 }
 
 MissingShift missingShift(const Arguments &arguments) {
@@ -200,22 +244,23 @@ OpenedPrinter openQueue(const std::string &wanted, MissingShift shift) {
 }
 
 std::string rememberedQueue(const Arguments &arguments, const History &history) {
-  const bool isNamed =
-      !arguments.queue.empty() || !arguments.ppd.empty() || printerOfEnvironment() != nullptr;
+  const bool isNamed = !arguments.queue.empty() || !arguments.ppd.empty() ||
+                       !arguments.prepared.empty() || printerOfEnvironment() != nullptr;
   return isNamed ? "" : history.printer();
 }
 
 PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history)
     : arguments_(arguments), queue_(std::move(first.queue)), printer_(std::move(first.printer)),
       history_(std::move(history)), preset_(startOf(*printer_)),
-      ticket_(openTicket(arguments, preset_.settings)),
+      ticket_(firstTicket(preset_.settings)),
       withoutPreset_(preset_.settings.optionCount() == 0 ? ticket_.settings
-                                                         : openTicket(arguments, {}).settings),
-      documents_(arguments.documents), target_(firstTarget()) {
+                                                         : firstTicket({}).settings),
+      documents_(arguments.documents), inputStart_(lseek(STDIN_FILENO, 0, SEEK_CUR)),
+      target_(firstTarget()) {
   ticket_.printer = printer_->name();
   takeFlagOfQueue();
   printer_->mark(ticket_.settings);
-  if (!arguments.isUnaligned && !queue_.empty())
+  if (!arguments.isUnaligned && !queue_.empty() && arguments.prepared.empty())
     alignments_ = Alignments::read(std::cerr);
   if (takeAlignment())
     setSideOffsets(withoutPreset_, alignment_->offsets);
@@ -225,7 +270,37 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
     missingPrinter_ = remembered;
 }
 
+/// What the command line gives.
+PrintSettingsStore PrintJob::given() const {
+  PrintSettingsStore settings;
+  applyLpOptions(arguments_, settings);
+  return isPreparing() ? acceptable(settings, printer_->ppd()) : settings;
+}
+
+/// The existing ticket, or else the queue's preset, overridden by the command line's options.
+Ticket PrintJob::firstTicket(const PrintSettingsStore &preset) const {
+  Ticket ticket;
+  ticket.settings = preset;
+  if (!arguments_.prepared.empty())
+    ticket.settings = readPrepared(arguments_.prepared).settings;
+  else if (!arguments_.ticket.empty())
+    if (auto stored = readTicket(arguments_.ticket))
+      ticket = *stored;
+  if (!arguments_.documents.empty())
+    ticket.documents = arguments_.documents;
+  if (!isPreparing()) {
+    applyLpOptions(arguments_, ticket.settings);
+    return ticket;
+  }
+  const PrintSettingsStore proposals = given();
+  for (int i = 0; i < proposals.optionCount(); i++)
+    ticket.settings.set(proposals.options()[i].name, proposals.options()[i].value);
+  return ticket;
+}
+
 JobTarget PrintJob::firstTarget() const {
+  if (isPreparing())
+    return JobTarget::Prepared;
   if (!arguments_.pdf.empty())
     return JobTarget::PdfFile;
   const bool isPrintable = hasDocument() || !arguments_.isBatch; // the window has Open
@@ -234,6 +309,8 @@ JobTarget PrintJob::firstTarget() const {
 }
 
 void PrintJob::setTarget(JobTarget target) noexcept {
+  if (isPreparing())
+    return;
   isTargetChosen_ = target != JobTarget::Printer;
   target_ = target == JobTarget::Printer && queue_.empty() ? JobTarget::Ticket : target;
 }
@@ -244,7 +321,7 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
   const QueueName name = QueueName::parse(queue_);
   const Presets presets(name.printer);
   presetName_ = name.instance;
-  if (queue_.empty())
+  if (queue_.empty() || !arguments_.prepared.empty())
     return {};
   if (presetName_.empty()) {
     const std::string usual = history_.preset(name.printer);
@@ -266,7 +343,7 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
 bool PrintJob::areOffsetsGiven() const {
   if (isMeasuredNow_)
     return false;
-  const PrintSettingsStore given = openTicket(arguments_, {}).settings;
+  const PrintSettingsStore given = firstTicket({}).settings;
   const std::vector<std::string> &names = offsetOptions();
   return std::any_of(names.begin(), names.end(),
                      [&](const std::string &name) { return given.get(name) != nullptr; }) ||
@@ -329,8 +406,8 @@ std::string PrintJob::alignmentNote() {
 }
 
 PrintSettingsStore PrintJob::settingsToRemember() const {
-  PrintSettingsStore given, kept;
-  applyLpOptions(arguments_, given);
+  const PrintSettingsStore given = this->given();
+  PrintSettingsStore kept;
   const PrintSettingsStore settings = Presets::withDocumentOf({}, ticket_.settings);
   for (int i = 0; i < settings.optionCount(); i++) {
     const cups_option_t &option = settings.options()[i];
@@ -346,8 +423,7 @@ PrintSettingsStore PrintJob::settingsToRemember() const {
 }
 
 void PrintJob::requireNumbers(const std::vector<std::string> &keywords) const {
-  PrintSettingsStore given;
-  applyLpOptions(arguments_, given);
+  const PrintSettingsStore given = this->given();
   for (const std::string &keyword : keywords) {
     const char *const value = given.get(keyword);
     const std::string problem =
@@ -502,8 +578,7 @@ JobRequest PrintJob::requestFor(const PrintedContent &content, const Destination
 
 /// Whether the command line has offsets for the back, which follows the front.
 bool PrintJob::isBackIgnored(const PrintSettingsStore &settings) const {
-  PrintSettingsStore given;
-  applyLpOptions(arguments_, given);
+  const PrintSettingsStore given = this->given();
   const char *const flag = settings.get(IPA_KEY_ENABLE);
   if (flag != nullptr && readBoolean(flag).value_or(false))
     return false;
@@ -554,7 +629,13 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
       writeTicketTo(path);
     return nullptr;
   }
+  if (inputStart_ >= 0) // an earlier attempt may have read from it
+    lseek(STDIN_FILENO, inputStart_, SEEK_SET);
   JobRequest request = this->request(destinations);
+  if (target_ == JobTarget::Prepared) {
+    writePrepared(request, ownShift);
+    return nullptr;
+  }
   if (target_ == JobTarget::PdfFile)
     return startPdf(request, path, std::move(changed));
   if (ownShift == OwnShift::Skip)
@@ -631,6 +712,19 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
       notes << note << std::endl;
   if (!sent.note.empty())
     notes << sent.note << std::endl;
+}
+
+void PrintJob::writePrepared(const JobRequest &request, OwnShift ownShift) {
+  Ticket ticket = ticket_;
+  if (ownShift == OwnShift::Skip || arguments_.isUnshifted)
+    setSideOffsets(ticket.settings, {});
+  else if (const ShiftDecision decision = shiftDecision(request, ticket_.settings);
+           decision.by == ShiftedBy::Dialog)
+    shiftedJob(request, decision.plan); // throws if the image of no document can be moved
+  ticket.printer = queue_;
+  ticket.documents.clear();
+  ticket.paper = paperOf(*printer_, ticket.settings);
+  writePreparedTicket(ticket, arguments_.prepare);
 }
 
 void PrintJob::writeTicketTo(const std::string &path) {

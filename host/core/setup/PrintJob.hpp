@@ -15,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace imageposition {
@@ -32,6 +33,9 @@ struct OpenedPrinter {
 /// does not respond, and longer if its responses are slow. Throws a `Failure`. Can be called on any
 /// thread.
 OpenedPrinter openPrinter(const Arguments &arguments);
+/// The queue that the command line or its prepared job names; empty for the default. Throws a
+/// `Failure` if the prepared job cannot be read.
+std::string namedQueue(const Arguments &arguments);
 /// Whether the dialog moves the image where the printer's driver does not.
 MissingShift missingShift(const Arguments &arguments);
 /// The same for the printer of a queue; if the name is empty, of the default queue.
@@ -56,19 +60,20 @@ enum class OwnShift {
 
 /// What `PrintJob::print` does.
 enum class JobTarget {
-  Printer, ///< Submits the job to CUPS.
-  Ticket,  ///< Writes its settings.
-  PdfFile, ///< Writes its document, laid out and moved.
+  Printer,  ///< Submits the job to CUPS.
+  Ticket,   ///< Writes its settings.
+  PdfFile,  ///< Writes its document, laid out and moved.
+  Prepared, ///< Writes its printer and its settings for --prepared.
 };
 
 /// Main thread only.
 class PrintJob {
 public:
-  /// Opens the ticket that the command line names. Throws a `Failure`. `arguments` is borrowed and
-  /// must outlive this object. A printer whose queue names no preset begins with the settings that
-  /// the history has for it; offsets that were measured for the paper, tray and turning replace
-  /// those of the history, and of a preset that has none; the ticket and the command line override
-  /// them.
+  /// Opens the ticket or the prepared job that the command line names. Throws a `Failure`.
+  /// `arguments` is borrowed and must outlive this object. A printer whose queue names no preset
+  /// begins with the settings that the history has for it; offsets that were measured for the
+  /// paper, tray and turning replace those of the history, and of a preset that has none; the
+  /// ticket and the command line override them.
   PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history = {});
   PrintJob(const PrintJob &) = delete;
   PrintJob &operator=(const PrintJob &) = delete;
@@ -125,6 +130,9 @@ public:
   void leavePreset();
 
   JobTarget target() const noexcept { return target_; }
+  /// Whether the job is set up for a document that does not exist yet. It has a printer, and no
+  /// other target.
+  bool isPreparing() const noexcept { return !arguments_.prepare.empty(); }
   /// Without a queue, a ticket takes the place of the printer.
   void setTarget(JobTarget target) noexcept;
 
@@ -154,11 +162,11 @@ public:
   JobRequest request(const DestinationList &destinations) const;
 
   /// Does what the target says: writes a ticket to `path` (or the settings to standard output, if
-  /// the path is empty), starts to write a PDF file to `path`, writes the request of a dry run to
-  /// standard output, or starts to submit the job. If the printer's driver does not apply the
-  /// offsets, the submission first moves the documents. Returns the submission, or the writing of
-  /// a PDF file, which the caller awaits and reports; null in the other cases. Throws a `Failure`,
-  /// which is a `ShiftFailure` if the dialog cannot move the image.
+  /// the path is empty), writes a prepared job, starts to write a PDF file to `path`, writes the
+  /// request of a dry run to standard output, or starts to submit the job. If the printer's driver
+  /// does not apply the offsets, the submission first moves the documents. Returns the submission,
+  /// or the writing of a PDF file, which the caller awaits and reports; null in the other cases.
+  /// Throws a `Failure`, which is a `ShiftFailure` if the dialog cannot move the image.
   std::unique_ptr<JobSubmission> print(const DestinationList &destinations, const std::string &path,
                                        JobSubmission::Changed changed = {},
                                        OwnShift ownShift = OwnShift::Apply);
@@ -179,6 +187,8 @@ public:
 
 private:
   JobTarget firstTarget() const;
+  PrintSettingsStore given() const;
+  Ticket firstTicket(const PrintSettingsStore &preset) const;
   LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
   bool takeHistory();
@@ -197,6 +207,7 @@ private:
   std::unique_ptr<JobSubmission> submit(const PrintedContent &content, JobRequest request,
                                         JobSubmission::Changed changed);
   void writeTicketTo(const std::string &path);
+  void writePrepared(const JobRequest &request, OwnShift ownShift);
   std::vector<std::string> documentsToSend() const;
   bool isBackIgnored(const PrintSettingsStore &settings) const;
   static void warnOfPasswords(const JobDocuments &documents);
@@ -215,6 +226,7 @@ private:
   bool isMeasuredNow_ = false;              // with this printer, for this job
   PrintSettingsStore withoutPreset_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
+  const off_t inputStart_;             // of standard input; -1 if it is a pipe
   JobTarget target_;
   bool isTargetChosen_ = false;
   std::string missingPrinter_;

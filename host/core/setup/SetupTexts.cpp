@@ -21,6 +21,11 @@ std::string outputUnwritable(const std::string &done) {
         "Cannot write to standard output. Redirect it elsewhere, or specify a file with --ticket.");
   return text("Cannot write to standard output. {1}").with(done);
 }
+std::string jobSentWithoutOutput(const std::string &job) {
+  return text("CUPS has accepted job {1}, but writing to standard output failed. Do not print it "
+              "again.")
+      .with(job);
+}
 const Text kBackIgnored =
     text("The back's offsets have no effect, because the back follows the front. To "
          "separate them, add --back on.");

@@ -15,6 +15,7 @@ extern const Text kNoDocumentForPdf;
 extern const Text kOneDocumentForPdf;
 std::string ticketWritten(const std::string &path, const std::string &optionPath);
 /// `done`: sentences about what cannot be undone; may be empty.
+std::string jobSentWithoutOutput(const std::string &job);
 std::string outputUnwritable(const std::string &done);
 
 /// The command line has offsets for the back without the flag that they need.

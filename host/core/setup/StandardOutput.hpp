@@ -10,6 +10,12 @@ namespace imageposition {
 /// failed. `done`: a sentence that names files already written; may be empty.
 void requireOutput(const std::string &done = {});
 
+class PrintJob;
+
+/// The same, except that a job that CUPS has accepted is a success: a script that saw a failure
+/// would print the job again. Standard error then says what happened.
+void requireOutputUnlessSent(const PrintJob &job);
+
 } // namespace imageposition
 
 #endif

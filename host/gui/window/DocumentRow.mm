@@ -100,6 +100,7 @@ std::string documentList(const std::vector<std::string> &paths) {
   const bool isFile = paths.size() == 1 && paths.front() != "-";
   state->examiner->examine(isFile ? paths.front() : "");
   [listButton setHidden:paths.size() < 2];
+  [openButton setHidden:[dialog session].job().isPreparing()];
 }
 
 - (int)pages {
@@ -120,6 +121,8 @@ std::string documentList(const std::vector<std::string> &paths) {
 
 - (std::string)text {
   PrintJob &job = [dialog session].job();
+  if (job.isPreparing())
+    return messages::kDocumentOfApplication;
   if (job.documents().empty())
     return job.hasDocument() ? messages::kStandardInput : messages::kNoDocument;
   std::string text = documentsInWords(job.documents());

@@ -9,6 +9,7 @@
 #import "NotePanel.h"
 #include "NumberText.hpp"
 #import "OpenPrinter.h"
+#include "ParentWindow.hpp"
 #include "PasteboardTrouble.hpp"
 #include "Phrases.hpp"
 #import "Pool.h"
@@ -19,6 +20,7 @@
 #include "UnknownValues.hpp"
 #import "WindowFocus.h"
 #include "WindowTexts.hpp"
+#import "XWindow.h"
 
 #include <ostream>
 #include <utility>
@@ -81,6 +83,7 @@ struct imageposition::PrintDialogState {
 - (void)look;
 - (void)sayTroubles;
 - (void)show;
+- (void)joinParent;
 @end
 
 @implementation PrintDialog
@@ -382,7 +385,8 @@ struct imageposition::PrintDialogState {
 }
 
 - (BOOL)takesFiles {
-  return ![sending isUnderWay] && [NSApp modalWindow] == window;
+  return ![sending isUnderWay] && [NSApp modalWindow] == window &&
+         !state->session->job().isPreparing();
 }
 
 - (void)takeFiles:(const std::vector<std::string> &)paths {
@@ -434,6 +438,17 @@ struct imageposition::PrintDialogState {
   [window makeFirstResponder:[self firstControl]];
   activateApplication();
   [window makeKeyAndOrderFront:nil];
+  [self joinParent];
+}
+
+/// A window of Wayland cannot be the parent of one of X11's.
+- (void)joinParent {
+  const Arguments &arguments = state->session->job().arguments();
+  const auto parent = readParent(arguments.parent);
+  if (parent && parent->x11 != 0)
+    makeModalDialogOf(window, parent->x11);
+  else if (parent && !arguments.title.empty())
+    [window setTitle:toString(messages::printWindowOf(arguments.title))];
 }
 
 - (BOOL)run {

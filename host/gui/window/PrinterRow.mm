@@ -22,7 +22,13 @@ struct imageposition::PrinterRowState {
   const std::shared_ptr<std::atomic<bool>> isChanged = std::make_shared<std::atomic<bool>>(false);
 };
 
-namespace {} // namespace
+namespace {
+
+bool isForPrinter(JobTarget target) {
+  return target == JobTarget::Printer || target == JobTarget::Prepared;
+}
+
+} // namespace
 
 @interface PrinterRow ()
 - (void)printerChosen:(id)sender;
@@ -92,10 +98,11 @@ namespace {} // namespace
     current = names.insert(names.end(), job.queue());
     addItem(popUp, job.queue());
   }
-  for (const Text *const command : {&messages::kSaveAsTicket, &messages::kSaveAsPdf})
-    addCommand(popUp, *command);
+  if (!job.isPreparing()) // there is no document to save yet
+    for (const Text *const command : {&messages::kSaveAsTicket, &messages::kSaveAsPdf})
+      addCommand(popUp, *command);
   const NSInteger afterNames = static_cast<NSInteger>(names.size());
-  const NSInteger item = job.target() == JobTarget::Printer  ? current - names.begin()
+  const NSInteger item = isForPrinter(job.target())          ? current - names.begin()
                          : job.target() == JobTarget::Ticket ? afterNames
                                                              : afterNames + 1;
   [popUp selectItemAtIndex:item];
@@ -107,7 +114,7 @@ namespace {} // namespace
   const DestinationList &list = [dialog session].destinations().list();
   const Destination *const destination = list.find(job.queue());
   std::string text;
-  if (job.target() != JobTarget::Printer)
+  if (!isForPrinter(job.target()))
     text = job.printer().name();
   else if (!list.reason.empty())
     text = list.reason;

@@ -34,7 +34,7 @@ constexpr std::chrono::seconds kCancelTimeout{15};
 /// The file that the job is written to: the command line's, or the one that the user names; empty
 /// for a printer. None if the user has cancelled.
 std::optional<std::string> fileToWrite(NSWindow *window, const PrintJob &job) {
-  if (job.target() == JobTarget::Printer)
+  if (job.target() == JobTarget::Printer || job.target() == JobTarget::Prepared)
     return "";
   const bool isPdf = job.target() == JobTarget::PdfFile;
   const std::string &given = isPdf ? job.arguments().pdf : job.arguments().ticket;
@@ -136,7 +136,7 @@ struct imageposition::SendingState {
 - (void)startWith:(OwnShift)shift {
   state->unmovable.reset();
   PrintJob &job = [dialog session].job();
-  if (job.target() != JobTarget::Ticket && !job.hasDocument()) {
+  if (!job.isPreparing() && job.target() != JobTarget::Ticket && !job.hasDocument()) {
     [dialog say:messages::kNothingToPrint];
     return;
   }

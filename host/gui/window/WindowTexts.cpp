@@ -12,9 +12,11 @@ std::string presetsNotListed(std::size_t count) {
   return counted(static_cast<long>(count), "{1} more preset", "{1} more presets");
 }
 const Text kPrintWindow = text("Print");
+std::string printWindowOf(const std::string &title) { return text("Print – {1}").with(title); }
 const Text kPrinterRow = text("&Printer:");
 const Text kDocumentRow = text("Document:");
 const Text kNoDocument = text("No document");
+const Text kDocumentOfApplication = text("From the application");
 // Translators: a button that opens a window to choose a document.
 const Text kOpen = text("Op&en…");
 // Translators: a button that lists all documents of the job.

@@ -14,9 +14,12 @@ namespace imageposition::messages {
 std::string presetsNotListed(std::size_t count);
 
 extern const Text kPrintWindow;
+/// The same for a dialog that belongs to an application's window.
+std::string printWindowOf(const std::string &title);
 extern const Text kPrinterRow;
 extern const Text kDocumentRow;
 extern const Text kNoDocument;
+extern const Text kDocumentOfApplication; ///< For a document that does not exist yet.
 extern const Text kOpen;
 extern const Text kListDocuments;
 extern const Text kDocumentsWindow;

@@ -118,10 +118,11 @@ _print_dialog_value() {
   --plugin) _print_dialog_offer_files "$2" '*.plugin' ;;
   --ticket | --export-alignments | --import-alignments) _print_dialog_offer_files "$2" '*.json' ;;
   --sheet | --pdf) _print_dialog_offer_files "$2" '*.[pP][dD][fF]' ;;
+  --prepare | --prepared) _print_dialog_offer_files "$2" ;;
   --back) _print_dialog_offer "$2" on off ;;
   --appearance) _print_dialog_offer "$2" light dark ;;
   --text-scale) _print_dialog_offer "$2" 1 1.25 1.5 2 ;;
-  -h | -n | -P | -q | -t | --set | --reading | --crease) ;;
+  -h | -n | -P | -q | -t | --set | --reading | --crease | --parent) ;;
   *) return 1 ;;
   esac
 }
@@ -143,8 +144,8 @@ _print_dialog() {
   if _print_dialog_value "$previous" "$current"; then return; fi
   if [[ $current == -* ]]; then
     _print_dialog_offer "$current" --version --help --ppd -d --queue -h -E -U -o --option -n -P -q \
-      -H -t -m -s -c --list-options --dry-run --no-shift --plugin --ticket --pdf --appearance --text-scale --batch --set --back \
-      --summary --align --reading --crease --sheet --no-alignment --list-alignments \
+      -H -t -m -s -c --list-options --dry-run --no-shift --plugin --ticket --pdf --prepare \
+      --prepared --parent --appearance --text-scale --batch --set --back --summary --align --reading --crease --sheet --no-alignment --list-alignments \
       --export-alignments --import-alignments --delete-alignments
     return
   fi

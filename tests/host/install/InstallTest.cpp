@@ -63,7 +63,9 @@ TEST_F(Install, PutsEveryFileIntoItsStandardFolder) {
         "share/metainfo/com.morva.PrintDialog.metainfo.xml",
         "share/icons/hicolor/scalable/apps/print-dialog.svg",
         "share/bash-completion/completions/print-dialog", "share/zsh/site-functions/_print-dialog",
-        "share/locale/de/LC_MESSAGES/print-dialog.mo"})
+        "share/locale/de/LC_MESSAGES/print-dialog.mo", "share/man/man8/print-dialog-portal.8",
+        "share/xdg-desktop-portal/portals/print-dialog.portal",
+        "share/doc/print-dialog/portals.conf.example"})
     EXPECT_TRUE(std::filesystem::is_regular_file(prefix() + "/" + name)) << name;
   EXPECT_THAT(find("MorvaADPImagePosition.plugin"), HasSubstr("/print-dialog/plugins/"));
   EXPECT_THAT(find(kModule), HasSubstr("/print-dialog/"));
@@ -109,6 +111,31 @@ TEST_F(Install, ALinkToTheProgramWorks) {
   std::filesystem::create_symlink(program(), link);
   const auto result = runProcess(panelRun(link));
   EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
+}
+
+TEST_F(Install, TheBusFindsThePortalsService) {
+  const std::string name = "org.freedesktop.impl.portal.desktop.print_dialog";
+  const std::string service = contentOf(prefix() + "/share/dbus-1/services/" + name + ".service");
+  EXPECT_THAT(service, HasSubstr("\nName=" + name + "\n"));
+  // Not moved with the prefix.
+  const std::string program = find("print-dialog-portal").substr(prefix().size());
+  EXPECT_THAT(service, HasSubstr("\nExec=" + folder->path("first") + program + "\n"));
+  EXPECT_THAT(contentOf(prefix() + "/share/xdg-desktop-portal/portals/print-dialog.portal"),
+              HasSubstr("\nDBusName=" + name + "\n"));
+}
+
+TEST_F(Install, ThePortalsServiceFindsTheProgram) {
+  const std::string run = folder->path("run");
+  std::filesystem::create_directory(run);
+  const auto response = runProcess(
+      {"dbus-run-session", "--", "sh", "-c",
+       "\"$0\" & gdbus wait --session --timeout 30 \"$1\" && gdbus call --session --dest \"$1\" "
+       "--object-path /org/freedesktop/portal/desktop "
+       "--method org.freedesktop.impl.portal.Print.PreparePrint /request '' '' '' '{}' '{}' '{}'",
+       find("print-dialog-portal"), "org.freedesktop.impl.portal.desktop.print_dialog"},
+      {"XDG_RUNTIME_DIR=" + run, "DISPLAY"});
+  EXPECT_THAT(response.output, HasSubstr("(uint32 2, "))
+      << "there is no display" << response.errors;
 }
 
 /// A damaged installed module.
@@ -219,7 +246,7 @@ TEST_P(InstallUnder, AnyMaskOnlyTheOwnerCanWriteToInstalledFiles) {
     const std::string name = entry.path().filename();
     const bool runs = entry.is_directory() || name == "print-dialog" ||
                       name == "print-dialog-examiner" || name == "print-dialog-mover" ||
-                      name == "print-dialog-sheet";
+                      name == "print-dialog-sheet" || name == "print-dialog-portal";
     const auto mode = static_cast<unsigned>(entry.status().permissions());
     const bool isCompletion = entry.path().parent_path().filename() == "completions";
     EXPECT_EQ(mode, runs && !isCompletion ? 0755U : 0644U) << entry.path();

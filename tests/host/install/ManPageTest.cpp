@@ -53,12 +53,15 @@ TEST(ManPage, HasTheUsualSections) {
     EXPECT_THAT(page, HasSubstr("\n.Sh " + std::string(section) + "\n"));
 }
 
-TEST(ManPage, IsFormattedWithoutWarnings) {
-  const auto man = runProcess({"man", "--warnings", "-E", "UTF-8", "-l", kPage}, {"MANWIDTH=80"});
+class FormattedPage : public testing::TestWithParam<std::string> {};
+
+TEST_P(FormattedPage, HasNoWarnings) {
+  const auto man =
+      runProcess({"man", "--warnings", "-E", "UTF-8", "-l", GetParam()}, {"MANWIDTH=80"});
   EXPECT_EQ(man.status, 0);
   EXPECT_EQ(man.errors, "");
   EXPECT_THAT(man.output, HasSubstr("print-dialog"));
-  const auto lint = runProcess({"mandoc", "-T", "lint", "-W", "style,stop", kPage});
+  const auto lint = runProcess({"mandoc", "-T", "lint", "-W", "style,stop", GetParam()});
   // References to pages that are not installed are fine.
   EXPECT_TRUE(
       std::regex_replace(
@@ -67,5 +70,8 @@ TEST(ManPage, IsFormattedWithoutWarnings) {
           .empty())
       << testing::PrintToString(lint);
 }
+
+INSTANTIATE_TEST_SUITE_P(Pages, FormattedPage,
+                         testing::Values(kPage, IMAGEPOSITION_INSTALL "/print-dialog-portal.8"));
 
 } // namespace

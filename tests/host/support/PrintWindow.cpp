@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <stdexcept>
 
 namespace imageposition::test {
@@ -49,12 +50,30 @@ bool startsWith(const std::string &text, const std::string &start) {
 
 PrintWindow::PrintWindow(const std::vector<std::string> &words,
                          const std::vector<std::string> &environment, const std::string &title)
-    : defaults_("GSAppKitUserBundles = (\"" OBSERVER_BUNDLE "\");"),
-      process_(commandFor(words), environmentFor(environment, file())) {
-  if (!becomesTrue([&] { return process_.hasEnded() || hasKeyboard(title); }))
+    : file_(folder_.path("screen")), defaults_(loadObserver()),
+      process_(std::make_unique<Process>(commandFor(words), environmentFor(environment, file_))) {
+  awaitKeyboard(title);
+}
+
+PrintWindow::PrintWindow(pid_t program, const std::string &file, const std::string &title)
+    : file_(file), program_(program) {
+  awaitKeyboard(title);
+}
+
+std::unique_ptr<PlatformDefaults> PrintWindow::loadObserver() {
+  return std::make_unique<PlatformDefaults>("GSAppKitUserBundles = (\"" OBSERVER_BUNDLE "\");");
+}
+
+bool PrintWindow::hasEnded() const {
+  return process_ ? process_->hasEnded() : kill(program_, 0) != 0;
+}
+
+void PrintWindow::awaitKeyboard(const std::string &title) {
+  if (!becomesTrue([&] { return hasEnded() || hasKeyboard(title); }))
     giveUp("no keyboard", screen());
-  if (process_.hasEnded())
-    throw std::runtime_error(testing::PrintToString(process_.wait()));
+  if (hasEnded())
+    throw std::runtime_error(process_ ? testing::PrintToString(process_->wait())
+                                      : "the program has ended");
 }
 
 bool PrintWindow::becomes(const std::function<bool(const Screen &)> &condition) const {
@@ -121,7 +140,7 @@ void PrintWindow::clickAt(int x, int y, const std::function<void()> &before) {
   xdotool({"mouseup", "1"});
   if (!becomesTrue([&] {
         const Screen shown = screen();
-        return process_.hasEnded() || !shown.isTracking || shown.isListOpen();
+        return hasEnded() || !shown.isTracking || shown.isListOpen();
       }))
     giveUp("the button is not let go", screen());
 }
@@ -148,7 +167,7 @@ void PrintWindow::chooseInList(const std::string &item) {
   };
   const Control chosen = awaited(item, find);
   clickAt(chosen.middleX(), chosen.middleY());
-  if (!becomesTrue([&] { return process_.hasEnded() || !screen().isListOpen(); }))
+  if (!becomesTrue([&] { return hasEnded() || !screen().isListOpen(); }))
     giveUp("the list stays open", screen());
 }
 
@@ -183,9 +202,9 @@ void PrintWindow::tick(const std::string &title, bool on) {
 }
 
 const ProcessResult &PrintWindow::ended() {
-  if (!becomesTrue([&] { return process_.hasEnded(); }))
+  if (!becomesTrue([&] { return hasEnded(); }))
     giveUp("it does not end", screen());
-  return process_.wait();
+  return process_->wait();
 }
 
 } // namespace imageposition::test

@@ -8,7 +8,9 @@
 #include "TemporaryFolder.hpp"
 
 #include <functional>
+#include <memory>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace imageposition::test {
@@ -21,6 +23,12 @@ public:
   explicit PrintWindow(const std::vector<std::string> &words,
                        const std::vector<std::string> &environment = {},
                        const std::string &title = "Print");
+
+  /// Has every print-dialog that starts describe its window, until the object is destroyed.
+  static std::unique_ptr<PlatformDefaults> loadObserver();
+  /// Takes over a window of a program that another one has started with OBSERVER_FILE set to
+  /// `file`. Call neither `process` nor `ended`.
+  PrintWindow(pid_t program, const std::string &file, const std::string &title = "Print");
 
   Screen screen() const { return Screen::read(file()); }
   /// Waits until the condition holds.
@@ -50,20 +58,24 @@ public:
   /// Ticks or clears a checkbox.
   void tick(const std::string &title, bool on);
 
-  Process &process() { return process_; }
+  Process &process() { return *process_; }
   /// Waits for the program to exit and returns its result.
   const ProcessResult &ended();
 
 private:
-  std::string file() const { return folder_.path("screen"); }
+  const std::string &file() const { return file_; }
+  bool hasEnded() const;
+  void awaitKeyboard(const std::string &title);
   Control awaited(const std::string &what,
                   const std::function<const Control *(const Screen &)> &find) const;
   /// Holds the mouse button until the program has noticed it and `before` has run.
   void clickAt(int x, int y, const std::function<void()> &before = {});
 
   TemporaryFolder folder_;
-  PlatformDefaults defaults_; // load the observer
-  Process process_;           // destroyed before the folder
+  const std::string file_;
+  const std::unique_ptr<PlatformDefaults> defaults_; // null if taken over
+  const pid_t program_ = 0;
+  const std::unique_ptr<Process> process_; // destroyed before the folder; null if taken over
 };
 
 } // namespace imageposition::test

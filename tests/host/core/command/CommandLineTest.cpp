@@ -149,8 +149,31 @@ TEST(CommandLine, CopiesAndPriorityMustBeInTheRangesOfCups) {
 
 TEST(CommandLine, ADryRunIsRead) { EXPECT_TRUE(read({"--dry-run", "a.pdf"}).isDryRun); }
 
+TEST(CommandLine, APreparedJobIsSetUpWithoutADocument) {
+  const Arguments arguments = read({"--prepare", "job", "-d", "office", "-o", "copies=2"});
+  EXPECT_EQ(arguments.prepare, "job");
+  EXPECT_THAT(mistake({"--prepare", "job", "report.pdf"}), HasSubstr("does not exist yet"));
+  for (const char *option : {"--ticket", "--pdf", "--ppd", "--prepared"})
+    EXPECT_THAT(mistake({"--prepare", "job", option, "file"}), HasSubstr("--prepare")) << option;
+  mistake({"--prepare", "job", "--dry-run"});
+}
+
+TEST(CommandLine, APreparedJobHasItsOwnPrinter) {
+  EXPECT_EQ(read({"--batch", "--prepared", "job", "-n", "2", "-"}).prepared, "job");
+  for (const char *option : {"-d", "--ppd", "--ticket", "--pdf"})
+    EXPECT_THAT(mistake({"--prepared", "job", option, "file"}), HasSubstr("--prepared")) << option;
+}
+
+TEST(CommandLine, AParentIsAWindowOfX11OrWayland) {
+  for (const char *window : {"x11:1", "x11:4A00007", "x11:ffffffff", "wayland:token"})
+    EXPECT_EQ(read({"--parent", window}).parent, window);
+  for (const char *window :
+       {"4a00007", "x11:", "x11:0", "x11:0x4a", "x11:-1", "x11:100000000", "x11:4a ", "wayland:"})
+    EXPECT_THAT(mistake({"--parent", window}), HasSubstr("x11:")) << window;
+}
+
 TEST(CommandLine, AnEmptyValueIsRefused) {
-  for (const char *option : {"--ticket", "--back", "-d", "-h", "-U"})
+  for (const char *option : {"--ticket", "--prepared", "--parent", "--back", "-d", "-h", "-U"})
     EXPECT_THAT(mistake({"--ppd", "a.ppd", "--batch", option, ""}), HasSubstr("empty value"));
   EXPECT_THAT(mistake({"--ppd", "a.ppd", ""}), HasSubstr("empty value"));
 }

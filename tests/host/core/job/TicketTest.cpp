@@ -47,6 +47,26 @@ TEST(Ticket, CanBeReadBackAsWritten) {
   EXPECT_FALSE(read.settings.isLocked("LeftRightMargin"));
 }
 
+TEST(Ticket, APreparedJobsPaperCanBeReadBackAsWritten) {
+  Ticket ticket = sample();
+  EXPECT_FALSE(readTicketText(writeTicketText(ticket), "t").paper);
+  ticket.paper = TicketPaper{"A4", "A4 (210 × 297 mm)", 595.25, 842, 12, 13, 14, 15.5};
+  const auto paper = readTicketText(writeTicketText(ticket), "t").paper;
+  ASSERT_TRUE(paper);
+  EXPECT_EQ(paper->keyword, "A4");
+  EXPECT_EQ(paper->text, "A4 (210 × 297 mm)");
+  EXPECT_THAT((std::vector{paper->width, paper->length, paper->left, paper->bottom, paper->right,
+                           paper->top}),
+              testing::ElementsAre(595.25, 842, 12, 13, 14, 15.5));
+}
+
+TEST(Ticket, AnIncompletePaperIsIgnored) {
+  for (const char *paper : {"7", "{}", R"({"points": [1, 2]})", R"({"points": [1,2,3,4,5,"6"]})"})
+    EXPECT_FALSE(
+        readTicketText(std::string(R"({"settings": {}, "paper": )") + paper + "}", "t").paper)
+        << paper;
+}
+
 TEST(Ticket, KeepsAnyCharacterInAValue) {
   Ticket ticket;
   ticket.settings.set("job-name", "\"\\\n\t\x01 \xE5\xB7\xA6");
@@ -132,6 +152,20 @@ TEST(Ticket, ManySettingsAreReadInAnyOrder) {
   EXPECT_EQ(read.settings.optionCount(), kCount);
   EXPECT_THAT(read.settings.get("Setting7919"), StrEq("1"));
   EXPECT_EQ(writeTicketText(readTicketText(writeTicketText(read), "t")), writeTicketText(read));
+}
+
+TEST(TicketFile, APreparedJobIsOneFileThatOnlyItsOwnerReads) {
+  const TemporaryFolder folder;
+  const std::string path = folder.write("job", "");
+  chmod(path.c_str(), 0644);
+  writePreparedTicket(sample(), path);
+  EXPECT_EQ(folder.fileCount(), 1U);
+  struct stat status {};
+  stat(path.c_str(), &status);
+  EXPECT_EQ(status.st_mode & 0777, 0600U);
+  EXPECT_THAT(readTicket(path)->settings.get("LeftRightMargin"), StrEq("-3"));
+  EXPECT_THAT(failureOf([&] { writePreparedTicket(sample(), folder.path("none/job")); }),
+              HasSubstr("none/job"));
 }
 
 TEST(TicketFile, AMissingFileIsNoError) {
