@@ -16,7 +16,7 @@ namespace {
 
 /// Beside this program, or where it is installed with it.
 std::string dialogProgram() {
-  const std::string program =
+  std::string program =
       trustedPart({besideProgram("print-dialog"),
                    besideProgram(IMAGEPOSITION_PROGRAM_FROM_MODULES "/print-dialog")});
   if (program.empty())

@@ -48,7 +48,7 @@ std::vector<std::string> PrintRequest::callersWords(bool isWindowed) const {
   return words;
 }
 
-void PrintRequest::run(std::vector<std::string> words, int document, Dialog::Service service,
+void PrintRequest::run(const std::vector<std::string> &words, int document, Dialog::Service service,
                        Dialog::Ended ended) {
   dialog_ = std::make_unique<Dialog>(words, document, service, std::move(ended));
 }
@@ -69,8 +69,7 @@ void PreparationRequest::start() {
   words.push_back("--prepare=" + file_->path());
   for (std::string &word : wordsFor(job_))
     words.push_back(std::move(word));
-  run(std::move(words), -1, Dialog::Service::Needed,
-      [this](std::optional<int> status) { ended(status); });
+  run(words, -1, Dialog::Service::Needed, [this](std::optional<int> status) { ended(status); });
 }
 
 void PreparationRequest::ended(std::optional<int> status) {
@@ -110,7 +109,7 @@ void DocumentRequest::printPrepared() {
   std::vector<std::string> words = callersWords(false);
   words.insert(words.end(), {"--batch", "--prepared=" + job_->path(), "-"});
   rewind(document_);
-  run(std::move(words), document_.get(), Dialog::Service::NotNeeded,
+  run(words, document_.get(), Dialog::Service::NotNeeded,
       [this](std::optional<int> status) { printingEnded(status); });
   isPrinting_ = true;
 }
@@ -137,7 +136,7 @@ void DocumentRequest::showDialog() {
     words.push_back("--prepared=" + job_->path());
   words.emplace_back("-");
   rewind(document_);
-  run(std::move(words), document_.get(), Dialog::Service::NotNeeded,
+  run(words, document_.get(), Dialog::Service::NotNeeded,
       [this](std::optional<int> status) { end(responseFor(status)); });
 }
 

@@ -50,7 +50,7 @@ protected:
   const Caller &caller() const noexcept { return caller_; }
   /// The caller's title and, if `isWindowed`, its window, as words for the dialog.
   std::vector<std::string> callersWords(bool isWindowed) const;
-  void run(std::vector<std::string> words, int document, Dialog::Service service,
+  void run(const std::vector<std::string> &words, int document, Dialog::Service service,
            Dialog::Ended ended);
   /// Does nothing after the first call.
   void respond(Response response, GVariant *results = nullptr);

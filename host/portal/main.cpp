@@ -35,7 +35,7 @@ std::string makeFolder() {
   const char *const runtime = std::getenv("XDG_RUNTIME_DIR");
   if (runtime == nullptr || *runtime != '/')
     throw std::runtime_error("XDG_RUNTIME_DIR does not name a folder");
-  const std::string folder = std::string(runtime) + "/print-dialog";
+  std::string folder = std::string(runtime) + "/print-dialog";
   if (mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST)
     throw std::system_error(errno, std::generic_category(), folder);
   struct stat status {};

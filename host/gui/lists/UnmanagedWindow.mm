@@ -12,7 +12,8 @@ void hideFromWindowManager(NSWindow *window) {
     return;
   XSetWindowAttributes attributes{};
   attributes.override_redirect = True;
-  XChangeWindowAttributes(own.display, own.number, CWOverrideRedirect, &attributes);
+  XChangeWindowAttributes(static_cast<Display *>(own.display), own.number, CWOverrideRedirect,
+                          &attributes);
 }
 
 } // namespace imageposition

@@ -6,12 +6,10 @@
 
 #include <cstdint>
 
-struct _XDisplay; // X11's headers define macros such as None and Bool
-
 namespace imageposition {
 
 struct XWindow {
-  _XDisplay *display = nullptr;
+  void *display = nullptr;  ///< X11's Display, whose header defines macros such as None and Bool.
   unsigned long number = 0; ///< 0 if there is none, as for a deferred window that was never shown.
 };
 

@@ -9,7 +9,7 @@ namespace imageposition {
 
 XWindow xWindowOf(NSWindow *window) {
   GSDisplayServer *const server = GSServerForWindow(window);
-  auto *const display = static_cast<Display *>([server serverDevice]);
+  void *const display = [server serverDevice];
   void *const device = [server windowDevice:static_cast<int>([window windowNumber])];
   if (display == nullptr || device == nullptr)
     return {};
@@ -20,20 +20,20 @@ void makeModalDialogOf(NSWindow *window, std::uint32_t parent) {
   const XWindow own = xWindowOf(window);
   if (own.number == 0)
     return;
-  XSetTransientForHint(own.display, own.number, parent);
+  auto *const display = static_cast<Display *>(own.display);
+  XSetTransientForHint(display, own.number, parent);
   constexpr long kAdd = 1, kFromApplication = 1; // of the window manager's specification
   XEvent request{};
   request.xclient.type = ClientMessage;
   request.xclient.window = own.number;
-  request.xclient.message_type = XInternAtom(own.display, "_NET_WM_STATE", False);
+  request.xclient.message_type = XInternAtom(display, "_NET_WM_STATE", False);
   request.xclient.format = 32;
   request.xclient.data.l[0] = kAdd;
-  request.xclient.data.l[1] =
-      static_cast<long>(XInternAtom(own.display, "_NET_WM_STATE_MODAL", False));
+  request.xclient.data.l[1] = static_cast<long>(XInternAtom(display, "_NET_WM_STATE_MODAL", False));
   request.xclient.data.l[3] = kFromApplication;
-  XSendEvent(own.display, DefaultRootWindow(own.display), False,
+  XSendEvent(display, DefaultRootWindow(display), False,
              SubstructureNotifyMask | SubstructureRedirectMask, &request);
-  XFlush(own.display);
+  XFlush(display);
 }
 
 } // namespace imageposition
