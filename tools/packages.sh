@@ -32,6 +32,7 @@ test_packages=(
   xdotool xclip imagemagick x11-utils libxtst-dev   # a simulated user at the window
   x11-xkb-utils procps                              # keyboard layouts; which programs run
   man-db mandoc desktop-file-utils libxml2-utils    # check the man page, the desktop file, and XML
+  appstream                                         # checks the description for software centres
   zsh python3                                       # completion, in the real shells
   strace util-linux                                 # kill at each system call; run as another user
   cups-client cups-daemon                           # a PPD checker; a private CUPS
@@ -49,6 +50,10 @@ comparison_packages=(
   qt6-base-dev libgtk-3-dev                         # other print dialogs
   libxdamage-dev libxext-dev                        # watch what the dialogs draw
   cups-client cups-daemon dbus-daemon at-spi2-core  # the services that the dialogs use
+)
+
+package_packages=(
+  build-essential debhelper lintian appstream       # Debian packages, and checks of them
 )
 
 coverage_packages=(

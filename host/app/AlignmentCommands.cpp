@@ -1,6 +1,7 @@
 #include "AlignmentCommands.hpp"
 
 #include "Aligner.hpp"
+#include "AlignerTexts.hpp"
 #include "AlignmentTexts.hpp"
 #include "Destinations.hpp"
 #include "FileContent.hpp"
@@ -14,6 +15,7 @@
 
 #include <cerrno>
 #include <iostream>
+#include <list>
 #include <optional>
 #include <sstream>
 #include <vector>
@@ -53,12 +55,15 @@ std::optional<Offset> creaseIn(const Arguments &arguments) {
 
 ExitCode takeReadings(const Aligner &aligner, const std::vector<SheetReading> &readings,
                       const std::optional<Offset> &crease) {
-  const AlignmentResult result = aligner.result(readings, crease, std::cerr);
+  const auto printed = Alignments::read(std::cerr).printed(aligner.key());
+  const AlignmentResult result = aligner.result(readings, crease, printed);
+  if (result.measurement.doubtful != 0) // what was measured before stays
+    throw Failure(ExitCode::Value, messages::readAgain(result.measurement.doubtful));
   for (const std::string &sentence : result.sentences())
     std::cout << sentence << '\n';
   if (!aligner.key().queue.empty()) {
     std::ostringstream errors;
-    require(aligner.store(result, errors), errors);
+    require(storeAlignment(aligner.measured(result), errors), errors);
     std::cout << messages::alignmentStored(aligner.settingsInWords()) << '\n';
   }
   requireOutput();
@@ -76,32 +81,48 @@ std::string nextCommand(const Arguments &arguments, const PrintJob &job) {
   std::string command = "print-dialog --align -d " + shellWord(job.queue());
   for (const std::string &option : arguments.options)
     command += " -o " + shellWord(option);
-  return command + " --reading AX,AY,BX,BY";
+  for (int sheet = 1; sheet <= Aligner::kSheets; sheet++)
+    command += " --reading AX,AY,BX,BY";
+  return command;
+}
+
+void sayHowToGoOn(const Arguments &arguments, const PrintJob &job, const Aligner &aligner) {
+  std::cerr << messages::readTheSheets(Aligner::kSheets, nextCommand(arguments, job)) << '\n';
+  if (aligner.layout().middle) // there are rulers for the crease
+    std::cerr << messages::addCrease("--crease X,Y") << '\n';
 }
 
 ExitCode printSheets(const Arguments &arguments, PrintJob &job, Aligner &aligner) {
-  const Descriptor sheets = aligner.drawSheets();
+  const Descriptor sheets = drawSheets(aligner.task());
   if (!arguments.sheetFile.empty()) {
     writeSheets(sheets, arguments.sheetFile);
   } else {
     if (job.queue().empty())
       throw Failure(ExitCode::Usage, messages::kAlignNeedsQueue);
-    aligner.setUpJob(sheets);
-    if (const auto submission = job.print(readDestinations(), ""))
+    if (const auto submission = aligner.print(sheets, readDestinations()))
       job.report(submission->result(), std::cout, std::cerr);
   }
   if (!arguments.isDryRun && !job.queue().empty()) {
     aligner.rememberPrinted(std::cerr);
     if (!arguments.isSilent)
-      std::cerr << messages::readTheSheets(Aligner::kSheets, nextCommand(arguments, job)) << '\n';
+      sayHowToGoOn(arguments, job, aligner);
   }
   requireOutput();
   return ExitCode::Done;
 }
 
+/// Those of a queue together.
 void listAlignments(const Alignments &alignments) {
-  for (const MeasuredAlignment &alignment : alignments.all())
-    std::cout << alignmentLine(alignment) << '\n';
+  std::list<MeasuredAlignment> left(alignments.all().begin(), alignments.all().end());
+  while (!left.empty()) {
+    const std::string queue = left.front().key.queue;
+    left.remove_if([&](const MeasuredAlignment &alignment) {
+      const bool isListed = isSame(alignment.key.queue, queue);
+      if (isListed)
+        std::cout << alignmentLine(alignment) << '\n';
+      return isListed;
+    });
+  }
   if (alignments.all().empty())
     std::cerr << messages::kNothingMeasured.view() << '\n';
 }
@@ -153,8 +174,6 @@ ExitCode align(const Arguments &arguments) {
   const auto crease = creaseIn(arguments);
   Arguments ofSheets = arguments;
   ofSheets.isBatch = true;
-  if (ofSheets.title.empty())
-    ofSheets.title = messages::kSheetTitle;
   PrintJob job(ofSheets, openPrinter(ofSheets));
   Aligner aligner(job);
   return readings.empty() ? printSheets(ofSheets, job, aligner)

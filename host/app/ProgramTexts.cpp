@@ -30,11 +30,12 @@ const Text kCutShort = text("its end is missing");
 
 std::string badReading(const std::string &reading) {
   return text("--reading requires four numbers from -10.5 to 10.5, for example "
-              "1.7,-0.3,1.6,-0.2, not \"{1}\".")
+              "1.7,-0.3,1.6,-0.2, not \"{1}\". Use a decimal point.")
       .with(reading);
 }
 std::string badCrease(const std::string &crease) {
-  return text("--crease requires two numbers from -10.5 to 10.5, for example -0.5,1, not \"{1}\".")
+  return text("--crease requires two numbers from -10.5 to 10.5, for example -0.5,1, not "
+              "\"{1}\". Use a decimal point.")
       .with(crease);
 }
 const Text kCreaseNeedsReading = text("--crease requires --reading: the back follows the front.");
@@ -47,10 +48,8 @@ std::string readTheSheets(int sheets, const std::string &command) {
                  "one. Then enter what you have read, with --reading for each sheet: {2}",
                  {command});
 }
-std::string alignmentStored(const std::string &settings) {
-  return text("The next jobs with these settings start with the offsets: {1}. To check, print the "
-              "sheets again: the lines at 0 should meet.")
-      .with(settings);
+std::string addCrease(const std::string &words) {
+  return text("To place the front on the paper as well, add {1}.").with(words);
 }
 const Text kNothingMeasured = text("Nothing was measured yet. Use --align.");
 std::string alignmentsImported(int count) {

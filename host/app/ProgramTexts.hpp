@@ -20,7 +20,8 @@ extern const Text kCreaseNeedsReading;
 extern const Text kAlignNeedsQueue;
 /// `command` is how to go on.
 std::string readTheSheets(int sheets, const std::string &command);
-std::string alignmentStored(const std::string &settings);
+/// `words` is how the creases are given.
+std::string addCrease(const std::string &words);
 extern const Text kNothingMeasured;
 std::string alignmentsImported(int count);
 std::string alignmentsNotImported(const std::string &path, const std::string &reason);

@@ -3,6 +3,7 @@
 #include "FileContent.hpp"
 
 #include <qpdf/QPDF.hh>
+#include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 
@@ -64,23 +65,25 @@ std::optional<PaperSize> paperOfAll(std::vector<QPDFPageObjectHelper> &pages) {
 
 } // namespace
 
-std::optional<DocumentFacts> factsOfPdf(const std::string &path) try {
+std::string reportOnPdf(const std::string &path) try {
   Descriptor file = opened(path);
   if (!file.isOpen() || !isPdf(file))
-    return std::nullopt;
+    return {};
   FILE *const stream = fdopen(file.get(), "rb");
   if (stream == nullptr)
-    return std::nullopt;
+    return {};
   (void)file.release(); // QPDF closes the stream
   QPDF pdf;
   pdf.setSuppressWarnings(true);
   pdf.processFile("document", stream, true);
   auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
   if (pages.empty())
-    return std::nullopt;
-  return DocumentFacts{static_cast<int>(pages.size()), paperOfAll(pages)};
-} catch (const std::exception &) { // damaged, encrypted, or too large
-  return std::nullopt;
+    return {};
+  return writeFacts({static_cast<int>(pages.size()), paperOfAll(pages)});
+} catch (const QPDFExc &error) {
+  return error.getErrorCode() == qpdf_e_password ? kPasswordNeeded : "";
+} catch (const std::exception &) { // damaged, or too large
+  return {};
 }
 
 } // namespace imageposition

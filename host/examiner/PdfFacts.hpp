@@ -4,14 +4,13 @@
 
 #include "DocumentFacts.hpp"
 
-#include <optional>
 #include <string>
 
 namespace imageposition {
 
-/// None for a file that cannot be read, is not a regular file or no PDF, has no pages, or needs a
-/// password. May take long, and much memory.
-std::optional<DocumentFacts> factsOfPdf(const std::string &path);
+/// The line of `writeFacts`, or `kPasswordNeeded`. Empty for a file that cannot be read, is not a
+/// regular file or no PDF, or has no pages. May take long, and much memory.
+std::string reportOnPdf(const std::string &path);
 
 } // namespace imageposition
 

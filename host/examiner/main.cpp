@@ -29,10 +29,7 @@ int main(int argc, char **argv) {
   limit(RLIMIT_FSIZE, 0);
   limit(RLIMIT_CORE, 0);
   alarm(kLifetime);
-  const auto facts = imageposition::factsOfPdf(argv[1]);
-  if (!facts)
-    return 1;
-  const std::string line = imageposition::writeFacts(*facts);
-  return write(STDOUT_FILENO, line.data(), line.size()) == static_cast<ssize_t>(line.size()) ? 0
-                                                                                             : 1;
+  const std::string line = imageposition::reportOnPdf(argv[1]);
+  const ssize_t count = write(STDOUT_FILENO, line.data(), line.size());
+  return !line.empty() && count == static_cast<ssize_t>(line.size()) ? 0 : 1;
 }

@@ -9,6 +9,7 @@
 #include "FailureReport.hpp"
 #include "JobSubmission.hpp"
 #import "OpenPrinter.h"
+#include "OptionConflicts.hpp"
 #include "Phrases.hpp"
 #import "PlatformLanguage.h"
 #import "PlatformProcess.h"
@@ -30,6 +31,8 @@ using namespace imageposition;
 
 namespace {
 
+constexpr std::size_t kMostConflicts = 5;
+
 ExitCode runInBatch(const Arguments &arguments) {
   PrintJob job(arguments, openPrinter(arguments));
   PrintSession session(job);
@@ -48,6 +51,9 @@ ExitCode runInBatch(const Arguments &arguments) {
   for (const std::string &sentence :
        unknownValues(job.printer(), job.settings(), session.panels().optionKeys()))
     std::cerr << messages::kProgram << sentence << '\n';
+  for (const std::string &conflict :
+       OptionConflicts(job.printer(), job.settings()).sentences(kMostConflicts))
+    std::cerr << messages::kProgram << conflict << '\n';
   const auto summary = runBatch(session.panels(), job.printer().ppd(), arguments.batch, std::cerr);
   const DestinationList destinations = job.target() == JobTarget::Ticket || job.queue().empty()
                                            ? DestinationList()

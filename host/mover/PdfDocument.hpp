@@ -17,6 +17,7 @@ class PdfTrouble : public std::runtime_error {
 public:
   enum class Kind {
     Encrypted,   ///< With a password that is not empty.
+    Forbidden,   ///< Its owner does not allow printing.
     Damaged,     ///< Not a PDF file, or without pages, or with pages of no size.
     MovedBefore, ///< `shiftPages` has written it, or it was made from such a file.
     Unwritable,  ///< The disk is full, or the result is too large.

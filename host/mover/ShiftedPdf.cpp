@@ -170,4 +170,11 @@ bool isShifted(const Descriptor &file) {
   return isMarked;
 }
 
+void requirePermission(const Descriptor &file) {
+  withPdf(file, [](QPDF &pdf) {
+    if (!pdf.allowPrintLowRes())
+      throw PdfTrouble(PdfTrouble::Kind::Forbidden, "its owner does not allow printing");
+  });
+}
+
 } // namespace imageposition

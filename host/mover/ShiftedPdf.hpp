@@ -26,6 +26,9 @@ std::size_t shiftPages(const Descriptor &from, const Descriptor &to, const Shift
 /// Whether the image of the document was moved by `shiftPages`. Throws a `PdfTrouble`.
 bool isShifted(const Descriptor &file);
 
+/// Throws a `PdfTrouble` if the file cannot be read, or if its owner does not allow printing.
+void requirePermission(const Descriptor &file);
+
 } // namespace imageposition
 
 #endif

@@ -34,6 +34,8 @@ MoveProblem problemOf(PdfTrouble::Kind kind) {
   switch (kind) {
   case PdfTrouble::Kind::Encrypted:
     return MoveProblem::Encrypted;
+  case PdfTrouble::Kind::Forbidden:
+    return MoveProblem::Forbidden;
   case PdfTrouble::Kind::MovedBefore:
     return MoveProblem::MovedBefore;
   case PdfTrouble::Kind::Unwritable:
@@ -110,7 +112,7 @@ MoverReport shift(const Descriptor &from, const Descriptor &to, const ShiftPlan 
 
 /// Why a document cannot be laid out, as far as it shows itself.
 MoverReport diagnose(const Descriptor &document, const Descriptor &, const ShiftPlan &) {
-  isShifted(document);
+  requirePermission(document);
   return failed(MoveProblem::Layout);
 }
 

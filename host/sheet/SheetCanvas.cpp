@@ -2,6 +2,9 @@
 
 #include <cairo-pdf.h>
 #include <pango/pangocairo.h>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
 
 #include <algorithm>
 #include <stdexcept>
@@ -34,6 +37,22 @@ Layout layoutOf(cairo_t *cairo, const std::string &text, double size, bool isBol
   pango_font_description_free(font);
   pango_layout_set_text(layout.get(), text.data(), static_cast<int>(text.size()));
   return layout;
+}
+
+/// Cairo gives every page a transparency group, although nothing is transparent. Ghostscript, in
+/// the filters of PostScript printers, renders such pages at the printer's resolution, which puts
+/// the lines up to half a dot beside their places.
+std::string withoutGroups(const std::string &document) {
+  QPDF pdf;
+  pdf.processMemoryFile("sheets", document.data(), document.size());
+  for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(pdf).getAllPages())
+    page.getObjectHandle().removeKey("/Group");
+  QPDFWriter writer(pdf);
+  writer.setOutputMemory();
+  writer.setObjectStreamMode(qpdf_o_disable);
+  writer.write();
+  const std::shared_ptr<Buffer> written = writer.getBufferSharedPointer();
+  return {reinterpret_cast<const char *>(written->getBuffer()), written->getSize()};
 }
 
 } // namespace
@@ -132,7 +151,7 @@ std::string SheetCanvas::finish() {
   for (const cairo_status_t status : {drawn, written})
     if (status != CAIRO_STATUS_SUCCESS)
       throw std::runtime_error(cairo_status_to_string(status));
-  return std::move(document_);
+  return withoutGroups(document_);
 }
 
 } // namespace imageposition

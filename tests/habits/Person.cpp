@@ -388,6 +388,24 @@ std::vector<Sentence> Person::sentences() {
        }},
       {"see \"*\" beside \"*\"", [=](const StepValues &v) { seeValue(v[0], v[1]); }},
       {"see the button \"*\"", [=](const StepValues &v) { button(v[0]); }},
+      {"see that \"*\" is disabled",
+       [=](const StepValues &v) {
+         see(v[0] + " disabled", [&](const Screen &shown) {
+           const Control *const found = shown.find("button", v[0]);
+           return found != nullptr && !found->isEnabled;
+         });
+       }},
+      {"see no button \"*\"",
+       [=](const StepValues &v) {
+         see("that there is no button " + v[0],
+             [&](const Screen &shown) { return shown.find("button", v[0]) == nullptr; });
+       }},
+      {"click on the upper arrow beside \"*\"",
+       [=](const StepValues &v) {
+         Control arrow = beside(v[0], "stepper");
+         arrow.height /= 2;
+         click(arrow, kClick);
+       }},
       {"see the field \"*\"",
        [=](const StepValues &v) {
          see("the field " + v[0],
@@ -431,6 +449,12 @@ std::vector<Sentence> Person::sentences() {
       {"see the picture change",
        [=](const StepValues &) {
          see("another picture", [&](const Screen &shown) { return Picture(shown) != picture_; });
+       }},
+      {"look at the drawing", [=](const StepValues &) { picture_ = Picture(screen(), "drawing"); }},
+      {"see the drawing change",
+       [=](const StepValues &) {
+         see("another drawing",
+             [&](const Screen &shown) { return Picture(shown, "drawing") != picture_; });
        }},
       {"see all of \"*\"", [=](const StepValues &v) { seeOnDisplay(v[0]); }},
       {"see all of the field beside \"*\"",

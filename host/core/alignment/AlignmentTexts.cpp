@@ -42,6 +42,13 @@ std::string measuredOn(const std::string &date, const std::string &key, bool isO
   return text("The offsets were measured on {1} with these settings ({2}).").with(date, key);
 }
 
+std::string numberNotOnScale(TenthMillimetre lowest, TenthMillimetre highest) {
+  return text("Enter a number from {1} to {2}.").with(numberText(lowest), numberText(highest));
+}
+const Text kSheetIncomplete = text("Enter all four numbers of the sheet, or none.");
+const Text kCreaseIncomplete = text("Enter both numbers, or none.");
+const Text kNothingRead = text("Enter the four numbers of at least one sheet.");
+
 const Text kSheetTitle = text("Alignment sheet");
 const Text kFrontOfSheet = textIn("alignment sheet", "Front");
 const Text kBackOfSheet = textIn("alignment sheet", "Back");

@@ -27,6 +27,12 @@ std::string alignment(const std::string &key, const std::string &offsets, const 
 /// Where a job's offsets come from. `key` is as `keyInWords` returns it.
 std::string measuredOn(const std::string &date, const std::string &key, bool isOfOtherTurning);
 
+// What is wrong with a reader's entries.
+std::string numberNotOnScale(TenthMillimetre lowest, TenthMillimetre highest);
+extern const Text kSheetIncomplete;
+extern const Text kCreaseIncomplete;
+extern const Text kNothingRead;
+
 // On a sheet.
 extern const Text kSheetTitle;
 extern const Text kFrontOfSheet;

@@ -22,6 +22,7 @@ using Json = nlohmann::json;
 constexpr const char *kLongEdge = "long-edge";
 constexpr const char *kShortEdge = "short-edge";
 constexpr std::size_t kDateLength = 10;
+constexpr int kMostSheets = 1000;
 
 /// Empty for a user without a home folder.
 std::string file() {
@@ -44,12 +45,17 @@ Json written(const AlignmentKey &key, const SideOffsets &offsets) {
 
 [[noreturn]] void refuse() { throw FileTrouble(messages::kNotAlignments); }
 
-Offset readOffset(const Json &lengths) {
-  const Offset offset{{lengths.at(0).get<int>()}, {lengths.at(1).get<int>()}};
-  if (std::abs(offset.right.count) > kLargestOffset.count ||
-      std::abs(offset.down.count) > kLargestOffset.count)
+/// From -most to most.
+int readInteger(const Json &number, int most) {
+  const auto value = number.get<double>(); // the library wraps integers that do not fit
+  if (!number.is_number_integer() || std::abs(value) > most)
     refuse();
-  return offset;
+  return static_cast<int>(value);
+}
+
+Offset readOffset(const Json &lengths) {
+  constexpr auto kMost = static_cast<int>(kLargestOffset.count);
+  return {{readInteger(lengths.at(0), kMost)}, {readInteger(lengths.at(1), kMost)}};
 }
 
 AlignmentKey readKey(const Json &entry) {
@@ -70,7 +76,8 @@ MeasuredAlignment readAlignment(const Json &entry) {
     refuse();
   if (entry.contains("spread"))
     alignment.spread = readOffset(entry["spread"]);
-  alignment.sheets = std::max(entry.value("sheets", 1), 1);
+  alignment.sheets = entry.contains("sheets") ? readInteger(entry["sheets"], kMostSheets) : 1;
+  alignment.sheets = std::max(alignment.sheets, 1);
   return alignment;
 }
 

@@ -1,9 +1,11 @@
 #include "Measurement.hpp"
 
 #include "LengthUnit.hpp"
+#include "NumberText.hpp"
 #include "SharedKeys.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 
@@ -12,12 +14,12 @@ namespace imageposition {
 namespace {
 
 constexpr double kTenthsPerMillimetre = 10;
-constexpr double kMostApart = 3; // tenths
+constexpr double kMostApart = 3;      // tenths
+constexpr double kMostDeviation = 20; // tenths
 
 /// The numbers in tenths; empty unless all of them are numbers that the scales have.
 std::vector<TenthMillimetre> readTenths(std::string_view text) {
   constexpr std::string_view kSeparators = ",; \t";
-  constexpr double kMost = vernier::kLargestWhole + vernier::kLargestTenth / kTenthsPerMillimetre;
   std::vector<TenthMillimetre> tenths;
   for (;;) {
     const std::size_t start = std::min(text.find_first_not_of(kSeparators), text.size());
@@ -25,10 +27,10 @@ std::vector<TenthMillimetre> readTenths(std::string_view text) {
     if (text.empty())
       return tenths;
     const std::size_t end = std::min(text.find_first_of(kSeparators), text.size());
-    const auto number = readNumber(std::string(text.substr(0, end)));
-    if (!number || std::abs(*number) > kMost)
+    const auto number = readScaleNumber(text.substr(0, end));
+    if (!number)
       return {};
-    tenths.push_back({std::llround(*number * kTenthsPerMillimetre)});
+    tenths.push_back(*number);
     text.remove_prefix(end);
   }
 }
@@ -50,6 +52,10 @@ double half(TenthMillimetre first, TenthMillimetre second) {
 
 double between(TenthMillimetre first, TenthMillimetre second) {
   return static_cast<double>(second.count - first.count);
+}
+
+std::array<TenthMillimetre, kVernierCount> lengthsOf(const SheetReading &reading) {
+  return {reading.first.right, reading.first.down, reading.second.right, reading.second.down};
 }
 
 /// How a side is turned and stretched about its middle.
@@ -78,18 +84,59 @@ double largestDisplacement(const SheetLayout &layout, const Distortion &distorti
   return corner * std::hypot(distortion.angle, distortion.stretch);
 }
 
-TenthMillimetre rounded(double tenths) { return {std::llround(tenths)}; }
+/// Halves toward zero.
+TenthMillimetre rounded(double tenths) {
+  constexpr double kHalf = 0.5;
+  const std::int64_t whole = std::llround(std::ceil(std::abs(tenths) - kHalf));
+  return {tenths < 0 ? -whole : whole};
+}
 
-CorrectedOffsets limited(const SideOffsets &offsets) {
+CorrectedOffsets limited(const SideOffsets &offsets, TenthMillimetre most) {
   CorrectedOffsets corrected{offsets, false};
   for (Offset *const offset : {&corrected.offsets.front, &corrected.offsets.back})
     for (TenthMillimetre *const length : {&offset->right, &offset->down})
-      length->count = std::clamp(length->count, -kLargestOffset.count, kLargestOffset.count);
+      length->count = std::clamp(length->count, -most.count, most.count);
   corrected.isLimited = !(corrected.offsets == offsets);
   return corrected;
 }
 
+/// By how much a sheet's readings differ from the medians, at most.
+double deviationOf(const SheetReading &reading, const std::array<double, kVernierCount> &medians) {
+  const std::array<TenthMillimetre, kVernierCount> lengths = lengthsOf(reading);
+  double most = 0;
+  for (std::size_t i = 0; i < lengths.size(); i++)
+    most = std::max(most, std::abs(static_cast<double>(lengths[i].count) - medians[i]));
+  return most;
+}
+
+int doubtfulIn(const std::vector<SheetReading> &readings) {
+  if (readings.size() < 3)
+    return 0;
+  std::array<double, kVernierCount> medians{};
+  for (std::size_t i = 0; i < medians.size(); i++) {
+    std::vector<double> values;
+    for (const SheetReading &reading : readings)
+      values.push_back(static_cast<double>(lengthsOf(reading)[i].count));
+    medians[i] = median(values);
+  }
+  const auto worst = std::max_element(
+      readings.begin(), readings.end(), [&](const SheetReading &one, const SheetReading &other) {
+        return deviationOf(one, medians) < deviationOf(other, medians);
+      });
+  return deviationOf(*worst, medians) > kMostDeviation
+             ? static_cast<int>(worst - readings.begin()) + 1
+             : 0;
+}
+
 } // namespace
+
+std::optional<TenthMillimetre> readScaleNumber(std::string_view text) {
+  const auto number = readNumber(asciiNumber(text));
+  if (!number ||
+      std::abs(*number) * kTenthsPerMillimetre > static_cast<double>(kLargestReading.count))
+    return std::nullopt;
+  return TenthMillimetre{std::llround(*number * kTenthsPerMillimetre)};
+}
 
 std::optional<SheetReading> readSheetReading(std::string_view text) {
   const auto tenths = readTenths(text);
@@ -127,6 +174,7 @@ Measurement measure(const SheetLayout &layout, const std::vector<SheetReading> &
                      0,
                      0,
                      0,
+                     0,
                      0};
   const Distortion distortion = distortionOf(layout, result.cornersRight, result.cornersDown);
   constexpr double kDegreesPerRadian = 180 / M_PI;
@@ -135,6 +183,7 @@ Measurement measure(const SheetLayout &layout, const std::vector<SheetReading> &
   result.stretch = distortion.stretch * kPercent;
   result.left = largestDisplacement(layout, distortion);
   result.sheets = static_cast<int>(readings.size());
+  result.doubtful = doubtfulIn(readings);
   return result;
 }
 
@@ -165,22 +214,23 @@ bool operator==(const SideOffsets &a, const SideOffsets &b) noexcept {
   return a.front == b.front && a.back == b.back;
 }
 
-CorrectedOffsets withBackMoved(const SideOffsets &present, const Measurement &measurement) {
+CorrectedOffsets withBackMoved(const SideOffsets &present, const Measurement &measurement,
+                               TenthMillimetre most) {
   SideOffsets moved = present;
   moved.back.right = present.back.right - rounded(measurement.right);
   moved.back.down = present.back.down - rounded(measurement.down);
-  return limited(moved);
+  return limited(moved, most);
 }
 
 CorrectedOffsets withBothMoved(const SideOffsets &present, const Offset &crease,
-                               const SheetLayout &layout) {
+                               const SheetLayout &layout, TenthMillimetre most) {
   SideOffsets moved = present;
   moved.front.right = present.front.right + crease.right;
   moved.front.down = present.front.down + crease.down;
   const bool isMirrored = layout.isMirroredLeftRight;
   moved.back.right = present.back.right + (isMirrored ? -crease.right : crease.right);
   moved.back.down = present.back.down + (isMirrored ? crease.down : -crease.down);
-  return limited(moved);
+  return limited(moved, most);
 }
 
 SideOffsets forOtherTurning(const SideOffsets &offsets) noexcept {

@@ -17,6 +17,13 @@ struct SheetReading {
   Offset second; ///< At the opposite one.
 };
 
+/// The largest number that a scale can show, in either direction.
+constexpr TenthMillimetre kLargestReading = {10 * vernier::kLargestWhole + vernier::kLargestTenth};
+
+/// Parses one number, in millimetres with a decimal point or comma, and rounds it to a tenth. None
+/// for anything else, and for a number that the scales do not have.
+std::optional<TenthMillimetre> readScaleNumber(std::string_view text);
+
 /// Parses "X1,Y1,X2,Y2": the readings across and down at the first corner, then at the second, in
 /// millimetres with a decimal point. Blanks and semicolons separate the numbers, too. None for
 /// anything else, and for a reading that the scales do not have.
@@ -37,6 +44,9 @@ struct Measurement {
   double stretch = 0; ///< By which the back is larger, in percent.
   double left = 0;    ///< What offsets leave at the worst corner of the sheet.
   int sheets = 0;
+  /// The number of a sheet that was probably misread, counted from 1: it is more than 2 mm off what
+  /// the others read. 0 for none, and for fewer than three sheets.
+  int doubtful = 0;
 
   /// Whether the corners disagree by more than what a reader can misread.
   bool areCornersApart() const noexcept;
@@ -58,22 +68,25 @@ void setSideOffsets(PrintSettingsStore &settings, const SideOffsets &offsets);
 
 bool operator==(const SideOffsets &a, const SideOffsets &b) noexcept;
 
-/// The largest offset, in either direction.
+/// The largest offset of most printers, in either direction.
 constexpr TenthMillimetre kLargestOffset = {100};
 
-/// Offsets that may have been limited to `kLargestOffset`.
+/// Offsets that may have been limited to the largest one.
 struct CorrectedOffsets {
   SideOffsets offsets;
   bool isLimited = false;
 };
 
-/// Moves the back onto the front. `present` are the offsets with which the sheets were printed.
-CorrectedOffsets withBackMoved(const SideOffsets &present, const Measurement &measurement);
+/// Moves the back onto the front. `present` are the offsets with which the sheets were printed. Of
+/// a displacement in half tenths, the half is left: moving by more, and then measuring again, would
+/// move the back to and fro. `most` is the printer's largest offset.
+CorrectedOffsets withBackMoved(const SideOffsets &present, const Measurement &measurement,
+                               TenthMillimetre most = kLargestOffset);
 
 /// Moves both sides on the paper, so that the front's rulers have their zeros at the creases. The
 /// back follows the front.
 CorrectedOffsets withBothMoved(const SideOffsets &present, const Offset &crease,
-                               const SheetLayout &layout);
+                               const SheetLayout &layout, TenthMillimetre most = kLargestOffset);
 
 /// The offsets that do the same with the other turning: the printer displaces the same edge of the
 /// sheet, which is the opposite one of the back's image.

@@ -4,7 +4,8 @@
 
 namespace imageposition::messages {
 
-const char *const kVersion = "print-dialog " IMAGEPOSITION_VERSION;
+const char *const kVersion = "print-dialog " IMAGEPOSITION_VERSION "\n"
+                             "Built with " IMAGEPOSITION_LIBRARIES ".";
 const char *const kHelpIntroduction =
     "Prints a document, set up with the panels of printer plug-ins.\n"
     "Opens a window; with --batch, sets and prints the same without one.";

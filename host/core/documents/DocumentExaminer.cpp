@@ -149,4 +149,9 @@ std::optional<DocumentFacts> DocumentExaminer::facts() const {
   return work_ != nullptr ? work_->facts() : std::nullopt;
 }
 
+bool needsPassword(const std::string &path) {
+  const std::atomic<bool> isStopped{false};
+  return Examination(path).report(isStopped) == kPasswordNeeded;
+}
+
 } // namespace imageposition

@@ -39,6 +39,10 @@ private:
   std::unique_ptr<Work> work_; // null without a document
 };
 
+/// Whether the document is a PDF file that only a password opens, so CUPS cannot print it. Waits
+/// for the process that reads it, for a few seconds at most. False if that is not known.
+bool needsPassword(const std::string &path);
+
 } // namespace imageposition
 
 #endif

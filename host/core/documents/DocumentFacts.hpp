@@ -30,6 +30,9 @@ std::string writeFacts(const DocumentFacts &facts);
 /// None if the line is not one that `writeFacts` returns.
 std::optional<DocumentFacts> readFacts(std::string_view line);
 
+/// The line with which the examiner reports a document that only a password opens.
+constexpr const char *kPasswordNeeded = "password\n";
+
 } // namespace imageposition
 
 #endif

@@ -65,7 +65,9 @@ std::string paperMismatch(const DocumentFacts &facts, ppd_file_t *ppd) {
   const auto media = sizeOf(marked);
   if (!facts.paper || !media || facts.paper->isSame(*media))
     return {};
-  return messages::paperOnMedia(paperName(*facts.paper, ppd), paperName(*media, ppd));
+  const bool isCustom = std::strcmp(marked->name, "Custom") == 0;
+  return messages::paperOnMedia(paperName(*facts.paper, ppd),
+                                isCustom ? paperName(*media, ppd) : nameIn(ppd, marked->name));
 }
 
 } // namespace imageposition

@@ -50,6 +50,11 @@ std::vector<std::string> environmentIn(const std::string &folder) {
   return environment;
 }
 
+/// By CUPS.
+bool isReadable(MoveProblem problem) {
+  return problem != MoveProblem::Encrypted && problem != MoveProblem::Forbidden;
+}
+
 std::vector<char *> pointersTo(const std::vector<std::string> &strings) {
   std::vector<char *> pointers;
   pointers.reserve(strings.size() + 1);
@@ -168,8 +173,12 @@ private:
 } // namespace
 
 ShiftFailure::ShiftFailure(MoveProblem problem, const std::string &reason)
-    : Failure(ExitCode::Job, messages::sentences({reason, messages::kPrintUnmoved})),
+    : Failure(ExitCode::Job, isReadable(problem)
+                                 ? messages::sentences({reason, messages::kPrintUnmoved})
+                                 : reason),
       problem_(problem), reason_(reason) {}
+
+bool ShiftFailure::isPrintable() const noexcept { return isReadable(problem_); }
 
 std::optional<LayoutPrograms> layoutPrograms() {
   LayoutPrograms programs;

@@ -12,13 +12,16 @@
 
 namespace imageposition {
 
-/// The image of a document cannot be moved here. Nothing was sent. The message also says how to
-/// print without moving it on the command line; `reason` leaves that out, for a window that asks.
+/// The image of a document cannot be moved here. Nothing was sent. If CUPS can print the document,
+/// the message also says how to print without moving it on the command line; `reason` leaves that
+/// out, for a window that asks.
 class ShiftFailure : public Failure {
 public:
   ShiftFailure(MoveProblem problem, const std::string &reason);
   MoveProblem problem() const noexcept { return problem_; }
   const std::string &reason() const noexcept { return reason_; }
+  /// Whether CUPS can print the document as it is.
+  bool isPrintable() const noexcept;
 
 private:
   MoveProblem problem_;

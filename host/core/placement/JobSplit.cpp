@@ -109,11 +109,11 @@ JobSplit splitJob(const JobRequest &job, ppd_file_t *ppd, const std::string &not
   split.layout.set("emit-jcl", "false");
 
   split.printing = job;
-  split.printing.defaults = {};
   split.printing.settings = all;
   neutralizeLayout(split.printing.settings, job.defaults);
   turnBooklet(split.printing.settings, all.get("booklet"), ppd);
   removeOffsets(split.printing);
+  split.printing.defaults = {};
   split.printing.settings.set(IPA_KEY_ENABLE, IPA_VALUE_FALSE);
   split.printing.settings.set(kShiftNote, note);
   return split;
@@ -133,8 +133,11 @@ const std::vector<std::string> &offsetOptions() { return kOffsets; }
 
 void removeOffsets(JobRequest &job) {
   for (const std::string &offset : kOffsets) {
+    const bool isAdded = job.defaults.get(offset) != nullptr;
     job.settings.remove(offset);
     job.defaults.remove(offset);
+    if (isAdded)
+      job.settings.set(offset, offset == IPA_KEY_ENABLE ? IPA_VALUE_FALSE : "0");
   }
 }
 

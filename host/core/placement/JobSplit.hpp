@@ -22,7 +22,7 @@ struct JobSplit {
   /// offsets and secrets.
   PrintSettingsStore layout;
   /// For CUPS: everything but the layout, which is neutral, and without offsets, which nothing must
-  /// apply again. It has no defaults: they are among the settings.
+  /// apply again; those that are defaults are 0. It has no defaults: they are among the settings.
   JobRequest printing;
 };
 
@@ -36,7 +36,8 @@ void neutralizeLayout(PrintSettingsStore &options, const PrintSettingsStore &def
 /// The names of the four offsets and of their flag.
 const std::vector<std::string> &offsetOptions();
 
-/// Removes the offsets from the job's settings and defaults, so that nothing moves its image.
+/// Removes the offsets from the job's settings and defaults, so that nothing moves its image. Where
+/// CUPS would add a default to the job, the job gets an offset of 0.
 void removeOffsets(JobRequest &job);
 
 /// The value of `kShiftNote`: "front 2.5 -1 back 0 0", in millimetres to the right and downwards.

@@ -71,9 +71,9 @@ std::optional<ShiftPlan> readPlan(std::string_view text) {
 }
 
 /// In the order of `MoveProblem`.
-constexpr std::array<std::string_view, 8> kProblems{"no-conversion", "layout",       "encrypted",
-                                                    "damaged",       "other-layout", "moved-before",
-                                                    "no-room",       "fault"};
+constexpr std::array<std::string_view, 9> kProblems{"no-conversion", "layout",  "encrypted",
+                                                    "forbidden",     "damaged", "other-layout",
+                                                    "moved-before",  "no-room", "fault"};
 
 std::string onOneLine(std::string text) {
   for (char &c : text)

@@ -37,6 +37,7 @@ enum class MoveProblem {
   NoConversion, ///< No filter of this computer reads such a document.
   Layout,       ///< The filters have failed.
   Encrypted,    ///< The document requires a password.
+  Forbidden,    ///< Its owner does not allow printing.
   Damaged,      ///< It is not what its beginning says, or has no pages.
   OtherLayout,  ///< The filters of this computer do not lay pages out as expected.
   MovedBefore,

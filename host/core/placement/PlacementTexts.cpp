@@ -21,6 +21,10 @@ std::string notMoved(const std::string &document, MoveProblem problem, const std
     return text("The image of \"{1}\" cannot be moved: the document is protected by a password. "
                 "Save a copy without it, and print that.")
         .with(document);
+  case MoveProblem::Forbidden:
+    return text("The image of \"{1}\" cannot be moved: the document's owner does not allow "
+                "printing, and CUPS would print nothing. Ask for a copy that can be printed.")
+        .with(document);
   case MoveProblem::Damaged:
     return withReason(text("The image of \"{1}\" cannot be moved: the document is damaged. Create "
                            "it again, and print that."),

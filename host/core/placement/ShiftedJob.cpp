@@ -8,6 +8,7 @@
 #include "Phrases.hpp"
 #include "PlacementTexts.hpp"
 #include "PreviewGeometry.hpp"
+#include "ServerLayout.hpp"
 #include "SharedKeys.h"
 #include "Strings.hpp"
 #include "TemporaryData.hpp"
@@ -168,9 +169,9 @@ ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd) {
 }
 
 ShiftedJob::ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t *ppd,
-                       std::string description)
+                       std::string description, std::string device)
     : split_(splitJob(job, ppd, shiftNote(plan))), plan_(plan), losses_(lossesOf(plan, ppd)),
-      ppd_(std::move(description)) {
+      ppd_(std::move(description)), device_(std::move(device)) {
   const char *const format = split_.layout.get("document-format");
   if (split_.layout.get("raw") != nullptr || (format != nullptr && isSame(format, kRawFormat)))
     throw ShiftFailure(MoveProblem::NoConversion, messages::kRawNotMoved);
@@ -196,9 +197,12 @@ PreparedJob ShiftedJob::move(const JobDocuments &documents,
                              const ProgressCallback &progress) const {
   totalSize(documents); // refuses unusable documents before the first is moved
   PreparedJob prepared{split_.printing, {}, {}};
+  prepared.request.documentNames.clear();
   const auto files = std::make_shared<std::vector<Descriptor>>();
   prepared.files = files;
   JobProgress state;
+  const std::string ppd =
+      withServerLayout(ppd_, device_, [&] { return !progress || progress(state); });
   for (std::size_t i = 0; i < documents.size(); i++) {
     const auto report = [&](int percent) {
       const auto done = (i * 100 + static_cast<std::size_t>(percent)) / documents.size();
@@ -209,9 +213,9 @@ PreparedJob ShiftedJob::move(const JobDocuments &documents,
     task.plan = plan_;
     task.plan.isPadded = plan_.order.sides == PrintedSides::Both && i + 1 < documents.size();
     task.path = pathForType(documents[i]);
-    const std::string name = documentName(documents[i]);
+    const std::string name = nameToSend(split_.printing, i, documents[i]);
     const Descriptor document = opened(documents[i], [&] { return report(0); });
-    auto moved = moveDocument(task, document, name, ppd_, report);
+    auto moved = moveDocument(task, document, name, ppd, report);
     if (!moved)
       failCancelled();
     prepared.request.documentNames.push_back(name);

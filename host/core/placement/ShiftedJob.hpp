@@ -39,10 +39,10 @@ bool isReversed(const PrintSettingsStore &options, ppd_file_t *ppd);
 class ShiftedJob {
 public:
   /// `description` is the text of the printer's PPD; `ppd` is the same with the job's choices
-  /// marked. Throws a `ShiftFailure` if the job cannot be moved on this computer, and what
-  /// `optionsToSend` throws.
-  ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t *ppd,
-             std::string description);
+  /// marked. `device` is the queue's device URI; may be empty. Throws a `ShiftFailure` if the job
+  /// cannot be moved on this computer, and what `optionsToSend` throws.
+  ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t *ppd, std::string description,
+             std::string device);
 
   /// Says that the image is moved here, and by how much.
   std::string description() const;
@@ -60,6 +60,7 @@ private:
   ShiftPlan plan_;
   std::string losses_;
   std::string ppd_;
+  std::string device_;
   MoverTask task_;
 };
 

@@ -19,6 +19,7 @@ enum class NumbersNow {
   AsBefore,   ///< Or as they were when the printer was left; or there are none.
   Defaults,   ///< The new printer's, which differ.
   Remembered, ///< Those of the last job on the new printer.
+  Measured,   ///< Those that were measured for the new printer.
 };
 
 /// Reads a boolean option, in any case: "true", "yes", "on" or "1"; "false", "no", "off" or "0".

@@ -4,20 +4,9 @@
 
 namespace imageposition::messages {
 
-namespace {
-
-/// Libraries end some error messages with a full stop and others without.
-std::string withoutStop(std::string reason) {
-  while (!reason.empty() && reason.back() == '.')
-    reason.pop_back();
-  return reason;
-}
-
-} // namespace
-
 std::string usage(const std::string &mistake) {
   const std::string sentence =
-      mistake.empty() || mistake.back() == '.' ? mistake : text("{1}.").with(mistake);
+      mistake.empty() || withoutStop(mistake) != mistake ? mistake : text("{1}.").with(mistake);
   return text("{1} See print-dialog --help.").with(sentence);
 }
 std::string badOption(const std::string &argument) {

@@ -4,6 +4,7 @@
 #include "AlignmentTexts.hpp"
 #include "Availability.hpp"
 #include "ExitCode.hpp"
+#include "JobSettings.hpp"
 #include "JobSplit.hpp"
 #include "LengthUnit.hpp"
 #include "MeasureTexts.hpp"
@@ -12,6 +13,7 @@
 #include "ShiftTexts.hpp"
 #include "TemporaryData.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cmath>
@@ -74,26 +76,47 @@ std::string directionsOf(double right, double down) {
   return messages::inWords(parts);
 }
 
+/// Not more than the file of measured offsets can have. `ppd` has the options.
+TenthMillimetre largestOffsetOf(ppd_file_t *ppd) {
+  TenthMillimetre most = kLargestOffset;
+  for (const std::string &name : offsetOptions()) {
+    ppd_coption_t *const option = ppdFindCustomOption(ppd, name.c_str());
+    const ppd_cparam_t *const number = option != nullptr ? ppdFirstCustomParam(option) : nullptr;
+    if (number == nullptr || number->type != PPD_CUSTOM_INT)
+      continue;
+    const std::int64_t least = number->minimum.custom_int, largest = number->maximum.custom_int;
+    most.count = std::clamp<std::int64_t>(std::min(-least, largest), 0, most.count);
+  }
+  return most;
+}
+
 std::string numberOf(double number, int decimals) {
   return numberInWords(plainNumber(number, decimals));
 }
 
 } // namespace
 
-Aligner::Aligner(PrintJob &job) : job_(job) {
-  ppd_file_t *const ppd = job_.printer().ppd();
-  job_.printer().mark(job_.settings());
-  const PreviewRequest request = readPreviewRequest(job_.settings(), ppd);
+std::optional<AlignmentObstacle> obstacleToAlignment(PrintJob &job) {
+  ppd_file_t *const ppd = job.printer().ppd();
+  job.printer().mark(job.settings());
+  const PreviewRequest request = readPreviewRequest(job.settings(), ppd);
   if (!request.availability.isAvailable())
-    throw Failure(ExitCode::Value, adviceText(request.availability));
+    return AlignmentObstacle{reasonText(request.availability), adviceText(request.availability)};
+  if (!layOutSheet(request.page, request.turning))
+    return AlignmentObstacle{messages::paperTooSmall(choiceText(ppd, "PageSize")),
+                             messages::kChooseLargerPaper};
+  return std::nullopt;
+}
+
+Aligner::Aligner(PrintJob &job) : job_(job) {
+  if (const auto obstacle = obstacleToAlignment(job))
+    throw Failure(ExitCode::Value, messages::sentences({obstacle->reason, obstacle->advice}));
+  ppd_file_t *const ppd = job_.printer().ppd();
   key_ = alignmentKeyOf(job_.queue(), ppd);
-  page_ = request.page;
+  page_ = readPreviewRequest(job_.settings(), ppd).page;
+  layout_ = *layOutSheet(page_, key_.turning);
   if (!job_.arguments().isUnshifted)
     present_ = sideOffsetsIn(job_.settings());
-  const auto layout = layOutSheet(page_, key_.turning);
-  if (!layout)
-    throw Failure(ExitCode::Value, messages::paperTooSmall(choiceText(ppd, "PageSize")));
-  layout_ = *layout;
 }
 
 std::string Aligner::settingsInWords() const { return keyInWords(key_, job_.printer().ppd()); }
@@ -122,17 +145,17 @@ SheetTask Aligner::task() const {
   task.example = messages::sheetExample();
   for (int sheet = 1; sheet <= kSheets; sheet++)
     task.sheets.push_back(
-        {side(messages::kFrontOfSheet, sheet, present_.front, translated(messages::kFrontAdvice)),
+        {side(messages::kFrontOfSheet, sheet, present_.front, frontAdvice),
          side(messages::kBackOfSheet, sheet, present_.back, translated(messages::kBackAdvice))});
   return task;
 }
 
-Descriptor Aligner::drawSheets() const try {
+Descriptor drawSheets(const SheetTask &task) try {
   const std::string program =
       trustedPart({besideProgram(IMAGEPOSITION_SHEET), besideProgram(kInstalled)});
   if (program.empty())
     throw Failure(ExitCode::Fault, messages::sheetProgramMissing(IMAGEPOSITION_SHEET));
-  const Descriptor input = temporaryFile(textOf(task()));
+  const Descriptor input = temporaryFile(textOf(task));
   Descriptor output = temporaryFile();
   if (!run(program, input, output))
     throw Failure(ExitCode::Fault, messages::kSheetsNotDrawn);
@@ -142,14 +165,22 @@ Descriptor Aligner::drawSheets() const try {
   throw Failure(ExitCode::Fault, messages::sheetsNotKept(error.code().message()));
 }
 
-void Aligner::setUpJob(const Descriptor &sheets) {
-  PrintSettingsStore &settings = job_.settings();
-  neutralizeLayout(settings, job_.printer().queueDefaults());
-  settings.set("copies", "1");
-  settings.set("job-sheets", "none");
-  if (!job_.arguments().isUnshifted)
-    setSideOffsets(settings, present_);
-  job_.setDocuments({pathOf(sheets)});
+std::unique_ptr<JobSubmission> Aligner::print(const Descriptor &sheets,
+                                              const DestinationList &destinations,
+                                              JobSubmission::Changed changed) const {
+  PrintedContent content{job_.settings(), {pathOf(sheets)}, messages::kSheetTitle};
+  const Arguments &arguments = job_.arguments();
+  if (!arguments.isAligning) // the title is the document's
+    content.settings.remove(kTitleSetting);
+  else if (!arguments.title.empty())
+    content.title = arguments.title;
+  neutralizeLayout(content.settings, job_.printer().queueDefaults());
+  content.settings.set("copies", "1");
+  content.settings.set("job-sheets", "none");
+  content.settings.set("OutputOrder", "Normal"); // reversed, a front would be printed as its back
+  if (!arguments.isUnshifted)
+    setSideOffsets(content.settings, present_);
+  return job_.printOther(content, destinations, std::move(changed));
 }
 
 bool Aligner::rememberPrinted(std::ostream &errors) const {
@@ -158,27 +189,31 @@ bool Aligner::rememberPrinted(std::ostream &errors) const {
 }
 
 AlignmentResult Aligner::result(const std::vector<SheetReading> &readings,
-                                const std::optional<Offset> &crease, std::ostream &errors) const {
+                                const std::optional<Offset> &crease,
+                                const std::optional<SideOffsets> &printed) const {
   AlignmentResult result;
   result.measurement = measure(layout_, readings);
-  result.printed = Alignments::read(errors).printed(key_).value_or(present_);
-  result.corrected = withBackMoved(result.printed, result.measurement);
+  result.most = largestOffsetOf(job_.printer().ppd());
+  result.corrected = withBackMoved(printed.value_or(present_), result.measurement, result.most);
   if (crease) {
     const bool isLimited = result.corrected.isLimited;
-    result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_);
+    result.corrected = withBothMoved(result.corrected.offsets, *crease, layout_, result.most);
     result.corrected.isLimited = result.corrected.isLimited || isLimited;
   }
   return result;
 }
 
-bool Aligner::store(const AlignmentResult &result, std::ostream &errors) const {
+MeasuredAlignment Aligner::measured(const AlignmentResult &result) const {
   const auto tenths = [](double length) -> TenthMillimetre { return {std::llround(length)}; };
-  const Measurement &measured = result.measurement;
-  const MeasuredAlignment alignment{key_,
-                                    result.corrected.offsets,
-                                    {tenths(measured.spreadRight), tenths(measured.spreadDown)},
-                                    measured.sheets,
-                                    today()};
+  const Measurement &measurement = result.measurement;
+  return {key_,
+          result.corrected.offsets,
+          {tenths(measurement.spreadRight), tenths(measurement.spreadDown)},
+          measurement.sheets,
+          today()};
+}
+
+bool storeAlignment(const MeasuredAlignment &alignment, std::ostream &errors) {
   return changeAlignments([&](Alignments &alignments) { alignments.store(alignment); }, errors);
 }
 
@@ -187,6 +222,8 @@ std::vector<std::string> AlignmentResult::sentences() const {
   const std::string directions = directionsOf(m.right, m.down);
   std::vector<std::string> all{directions.empty() ? messages::kNotDisplaced.str()
                                                   : messages::displacement(directions)};
+  if (m.doubtful != 0)
+    all.insert(all.begin(), messages::readAgain(m.doubtful));
   if (m.sheets > 1 && !(m.spreadRight == 0 && m.spreadDown == 0))
     all.push_back(
         messages::spread(m.sheets, lengthInWords(m.spreadRight), lengthInWords(m.spreadDown)));
@@ -198,7 +235,7 @@ std::vector<std::string> AlignmentResult::sentences() const {
                                          numberOf(std::abs(m.stretch), 2), m.stretch < 0,
                                          lengthInWords(m.left)));
   if (corrected.isLimited)
-    all.push_back(messages::outOfRange(lengthText(kLargestOffset)));
+    all.push_back(messages::outOfRange(lengthText(most)));
   return all;
 }
 

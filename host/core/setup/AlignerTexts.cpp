@@ -3,10 +3,10 @@
 namespace imageposition::messages {
 
 std::string paperTooSmall(const std::string &paper) {
-  return text("The paper \"{1}\" is too small for an alignment sheet. Choose A6 or larger, for "
-              "example with -o PageSize=A4.")
+  return text("The paper \"{1}\" is too small for an alignment sheet. Choose A6 or larger.")
       .with(paper);
 }
+const Text kChooseLargerPaper = text("For example, use -o PageSize=A4.");
 std::string sheetProgramMissing(const std::string &program) {
   return text("print-dialog's file \"{1}\" is missing. Reinstall print-dialog.").with(program);
 }
@@ -45,10 +45,46 @@ std::string cornersApart(const std::string &angle, const std::string &stretch, b
                      "corners. Paper from a fresh pack, and guides that touch it, may help."))
       .with(angle, stretch, left);
 }
+std::string readAgain(int sheet) {
+  return text("Sheet {1} is more than 2 mm off what the others read. Check its numbers and signs, "
+              "or "
+              "leave it out.")
+      .with(std::to_string(sheet));
+}
 std::string outOfRange(const std::string &most) {
   return text("The offsets are limited to {1}. An error this large usually comes from a wrong "
               "paper size, tray, or edge to turn about: check these settings first.")
       .with(most);
+}
+
+std::string printsSheets(int sheets, const std::string &printer) {
+  return counted(sheets, "This prints {1} sheet on both sides, on \"{2}\".",
+                 "This prints {1} sheets on both sides, on \"{2}\". No printer takes two sheets "
+                 "alike: several show by how much they differ.",
+                 {printer});
+}
+std::string sheetSettings(const std::string &settings) {
+  // Translators: {1} is as "A4, Tray 1, turned about the long edge".
+  return text("What you measure holds for these settings: {1}.").with(settings);
+}
+std::string presentOffsets(const std::string &offsets) {
+  return text("The sheets are moved by the present offsets: {1}.").with(offsets);
+}
+std::string printedBefore(const std::string &offsets) {
+  return text("Sheets were printed before, with these offsets: {1}. If you have them, read them.")
+      .with(offsets);
+}
+const Text kHowToRead =
+    text("Hold each sheet against the light, with the back towards you. Enter what you read, in "
+         "millimetres, or press Up and Down until the drawing looks like the sheet.");
+const Text kHowToReadCreases =
+    text("To place the front on the paper as well, fold a sheet left edge on right edge, and then "
+         "top on bottom. Enter where each crease crosses the ruler on the front. Without these "
+         "numbers, the front stays where it is.");
+std::string alignmentStored(const std::string &settings) {
+  return text("The next jobs with these settings start with the offsets: {1}. To check, print the "
+              "sheets again: the lines at 0 should meet.")
+      .with(settings);
 }
 
 } // namespace imageposition::messages

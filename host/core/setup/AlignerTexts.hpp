@@ -10,6 +10,7 @@ namespace imageposition::messages {
 
 // Why no sheets are printed.
 std::string paperTooSmall(const std::string &paper);
+extern const Text kChooseLargerPaper; ///< On the command line.
 std::string sheetProgramMissing(const std::string &program);
 extern const Text kSheetsNotDrawn;
 std::string sheetsNotKept(const std::string &reason);
@@ -24,7 +25,18 @@ std::string newOffsets(const std::string &offsets);
 /// `angle` is in degrees, `stretch` in percent; neither has a sign.
 std::string cornersApart(const std::string &angle, const std::string &stretch, bool isSmaller,
                          const std::string &left);
+/// `sheet` counts from 1.
+std::string readAgain(int sheet);
 std::string outOfRange(const std::string &most);
+
+// The steps. Settings are paper, tray and turning, offsets those of both sides.
+std::string printsSheets(int sheets, const std::string &printer);
+std::string sheetSettings(const std::string &settings);
+std::string presentOffsets(const std::string &offsets);
+std::string printedBefore(const std::string &offsets);
+extern const Text kHowToRead;
+extern const Text kHowToReadCreases;
+std::string alignmentStored(const std::string &settings);
 
 } // namespace imageposition::messages
 

@@ -3,6 +3,7 @@
 #include "AlignmentTexts.hpp"
 #include "Availability.hpp"
 #include "CustomValue.hpp"
+#include "DocumentExaminer.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSettings.hpp"
@@ -207,6 +208,20 @@ bool isUntouched(const PrintSettingsStore &start, const PrintSettingsStore &now,
   return isSameIn(start, now, name) || (isAdded && isOff(value));
 }
 
+/// Marks the settings' choices when it is destroyed.
+class MarkedAgain {
+public:
+  MarkedAgain(PrinterDescription &printer, const PrintSettingsStore &settings)
+      : printer_(printer), settings_(settings) {}
+  ~MarkedAgain() { printer_.mark(settings_); }
+  MarkedAgain(const MarkedAgain &) = delete;
+  MarkedAgain &operator=(const MarkedAgain &) = delete;
+
+private:
+  PrinterDescription &printer_;
+  const PrintSettingsStore &settings_;
+};
+
 } // namespace
 
 OpenedPrinter openPrinter(const Arguments &arguments) {
@@ -243,6 +258,7 @@ PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History hi
       documents_(arguments.documents), inputStart_(lseek(STDIN_FILENO, 0, SEEK_CUR)),
       target_(firstTarget()) {
   ticket_.printer = printer_->name();
+  takeFlagOfQueue();
   printer_->mark(ticket_.settings);
   if (!arguments.isUnaligned && !queue_.empty() && arguments.prepared.empty())
     alignments_ = Alignments::read(std::cerr);
@@ -325,6 +341,8 @@ LoadedPreset PrintJob::startOf(const PrinterDescription &printer) {
 /// Whether the user has set offsets elsewhere that are stronger than what was measured. A preset
 /// has offsets of 0 when it was saved without any.
 bool PrintJob::areOffsetsGiven() const {
+  if (isMeasuredNow_)
+    return false;
   const PrintSettingsStore given = firstTicket({}).settings;
   const std::vector<std::string> &names = offsetOptions();
   return std::any_of(names.begin(), names.end(),
@@ -371,8 +389,16 @@ bool PrintJob::followAlignment() {
   return !(sideOffsetsIn(settings()) == before);
 }
 
+void PrintJob::takeAlignment(const MeasuredAlignment &alignment) {
+  alignments_.store(alignment);
+  alignment_ = alignments_.find(alignment.key);
+  isMeasuredNow_ = true;
+  setSideOffsets(settings(), alignment.offsets);
+}
+
 std::string PrintJob::alignmentNote() {
-  if (!hasMeasuredOffsets())
+  printer_->mark(settings());
+  if (!hasMeasuredOffsets() || availabilityOf(printer_->ppd()).oneSided)
     return "";
   return messages::measuredOn(alignment_->date,
                               keyInWords(alignmentKeyOf(queue_, printer_->ppd()), printer_->ppd()),
@@ -425,9 +451,18 @@ bool PrintJob::takePrinter(OpenedPrinter opened) {
   ticket_.printer = printer_->name();
   keepWhatFits(*before);
   const bool isHistoryTaken = takeHistory();
+  takeFlagOfQueue();
   printer_->mark(ticket_.settings);
   alignment_.reset();
+  isMeasuredNow_ = false;
   return takeAlignment() || isHistoryTaken;
+}
+
+/// The flag is not an option of the PPD: marking the queue's defaults does not set it.
+void PrintJob::takeFlagOfQueue() {
+  const char *const flag = printer_->queueDefaults().get(IPA_KEY_ENABLE);
+  if (flag != nullptr && settings().get(IPA_KEY_ENABLE) == nullptr)
+    settings().set(IPA_KEY_ENABLE, flag);
 }
 
 PrintSettingsStore PrintJob::removePanelSettings(const std::vector<std::string> &optionKeys) {
@@ -512,21 +547,27 @@ std::string PrintJob::title() const {
 }
 
 JobRequest PrintJob::request(const DestinationList &destinations) const {
+  // A ticket does not include the destination's defaults.
+  return requestFor({ticket_.settings, documentsToSend(), title()}, destinations,
+                    target_ != JobTarget::Ticket);
+}
+
+JobRequest PrintJob::requestFor(const PrintedContent &content, const DestinationList &destinations,
+                                bool withDefaults) const {
   JobRequest request;
   request.printer = QueueName::parse(queue_).printer;
-  request.settings = ticket_.settings;
-  request.title = title();
-  if (const char *const title = ticket_.settings.get(kTitleSetting);
+  request.settings = content.settings;
+  request.title = content.title;
+  if (const char *const title = content.settings.get(kTitleSetting);
       title != nullptr && *title != '\0')
     request.title = title;
   request.settings.remove(kTitleSetting);
   request.compounds = compoundOptions(printer_->ppd());
-  for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &ticket_.settings})
+  for (const PrintSettingsStore *settings : {&printer_->queueDefaults(), &content.settings})
     for (std::string &name : hiddenSettings(printer_->ppd(), *settings))
       request.secrets.push_back(std::move(name));
   const Destination *const destination = destinations.find(queue_);
-  if (destination != nullptr &&
-      target_ != JobTarget::Ticket) { // which does not include the destination's defaults
+  if (destination != nullptr && withDefaults) {
     request.defaults = destination->defaults;
     request.printerUri = destination->uri;
   }
@@ -536,9 +577,9 @@ JobRequest PrintJob::request(const DestinationList &destinations) const {
 }
 
 /// Whether the command line has offsets for the back, which follows the front.
-bool PrintJob::isBackIgnored() const {
+bool PrintJob::isBackIgnored(const PrintSettingsStore &settings) const {
   const PrintSettingsStore given = this->given();
-  const char *const flag = ticket_.settings.get(IPA_KEY_ENABLE);
+  const char *const flag = settings.get(IPA_KEY_ENABLE);
   if (flag != nullptr && readBoolean(flag).value_or(false))
     return false;
   const char *const right = given.get(IPA_KEY_BACK_LEFT_RIGHT);
@@ -546,13 +587,16 @@ bool PrintJob::isBackIgnored() const {
   return (right != nullptr && !isOff(right)) || (down != nullptr && !isOff(down));
 }
 
-ShiftDecision PrintJob::shiftDecision(const JobRequest &request) {
-  printer_->mark(ticket_.settings);
+ShiftDecision PrintJob::shiftDecision(const JobRequest &request,
+                                      const PrintSettingsStore &settings) {
+  printer_->mark(settings);
   return decideShift(optionsToSend(request), printer_->ppd());
 }
 
 std::unique_ptr<ShiftedJob> PrintJob::shiftedJob(const JobRequest &request, const ShiftPlan &plan) {
-  return std::make_unique<ShiftedJob>(request, plan, printer_->ppd(), printer_->text());
+  const char *const device = printer_->queueDefaults().get("device-uri");
+  return std::make_unique<ShiftedJob>(request, plan, printer_->ppd(), printer_->text(),
+                                      device != nullptr ? device : "");
 }
 
 std::unique_ptr<JobSubmission> PrintJob::startPdf(const JobRequest &request,
@@ -563,7 +607,7 @@ std::unique_ptr<JobSubmission> PrintJob::startPdf(const JobRequest &request,
   const JobDocuments documents = documentsToSend();
   if (documents.size() > 1)
     throw Failure(ExitCode::Usage, messages::kOneDocumentForPdf);
-  const ShiftPlan plan = shiftDecision(request).plan;
+  const ShiftPlan plan = shiftDecision(request, ticket_.settings).plan;
   const std::shared_ptr<const ShiftedJob> laidOut = shiftedJob(request, plan);
   pdfNote_ = messages::pdfWritten(path);
   if (plan.isMoving())
@@ -596,31 +640,59 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     return startPdf(request, path, std::move(changed));
   if (ownShift == OwnShift::Skip)
     removeOffsets(request);
+  return submit({ticket_.settings, documentsToSend(), title()}, std::move(request),
+                std::move(changed));
+}
+
+std::unique_ptr<JobSubmission> PrintJob::printOther(const PrintedContent &content,
+                                                    const DestinationList &destinations,
+                                                    JobSubmission::Changed changed) {
+  const MarkedAgain job(*printer_, ticket_.settings);
+  JobRequest request = requestFor(content, destinations, true);
+  request.documentNames.assign(content.documents.size(), request.title);
+  return submit(content, std::move(request), std::move(changed));
+}
+
+std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content, JobRequest request,
+                                                JobSubmission::Changed changed) {
+  const JobDocuments &documents = content.documents;
+  const ShiftDecision decision = shiftDecision(request, content.settings);
   std::shared_ptr<const ShiftedJob> shifted;
-  if (const ShiftDecision decision = shiftDecision(request); decision.by == ShiftedBy::Dialog)
+  if (decision.by == ShiftedBy::Dialog)
     shifted = shiftedJob(request, decision.plan);
   losses_ = shifted ? shifted->losses() : "";
   origin_ = alignmentNote();
-  if (arguments_.isBatch && isBackIgnored())
+  sentFiles_ = documents.size() -
+               static_cast<std::size_t>(std::count(documents.begin(), documents.end(), "-"));
+  if (arguments_.isBatch && isBackIgnored(content.settings))
     std::cerr << messages::kBackIgnored.view() << '\n';
+  if (arguments_.isBatch && !arguments_.isSilent && !shifted)
+    warnOfPasswords(documents);
   if (arguments_.isDryRun) {
-    totalSize(documentsToSend()); // fails where a submission would; so does the next
-    if (shifted && arguments_.isBatch && !contains(documentsToSend(), "-"))
-      shifted->move(documentsToSend(), [](const JobProgress &) { return true; });
+    totalSize(documents); // fails where a submission would; so does the next
+    if (shifted && arguments_.isBatch && !contains(documents, "-"))
+      shifted->move(documents, [](const JobProgress &) { return true; });
     if (!origin_.empty())
       std::cerr << origin_ << '\n';
     if (shifted)
       std::cerr << messages::sentences({shifted->description(), losses_}) << '\n';
-    std::cout << writeRequestText(shifted ? shifted->request() : request, documentsToSend());
+    std::cout << writeRequestText(shifted ? shifted->request() : request, documents);
     return nullptr;
   }
   JobPreparation prepare;
   if (shifted)
-    prepare = [shifted](const JobDocuments &documents, const ProgressCallback &progress) {
-      return shifted->move(documents, progress);
+    prepare = [shifted](const JobDocuments &sent, const ProgressCallback &progress) {
+      return shifted->move(sent, progress);
     };
-  return std::make_unique<JobSubmission>(std::move(request), documentsToSend(), std::move(changed),
+  return std::make_unique<JobSubmission>(std::move(request), documents, std::move(changed),
                                          std::move(prepare));
+}
+
+/// CUPS accepts documents that only a password opens, and prints nothing.
+void PrintJob::warnOfPasswords(const JobDocuments &documents) {
+  for (const std::string &document : documents)
+    if (document != "-" && needsPassword(document))
+      std::cerr << messages::passwordNeeded(documentName(document)) << '\n';
 }
 
 void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes) {
@@ -634,9 +706,8 @@ void PrintJob::report(const SubmittedJob &sent, std::ostream &output, std::ostre
   sentName_ = printer + "-" + std::to_string(sent.id);
   if (arguments_.isSilent || arguments_.isMailWanted)
     return;
-  const auto inputs = std::count(documents_.begin(), documents_.end(), "-"); // lp counts files
-  output << messages::jobSent(printer, sent.id, documents_.size() - inputs) << std::endl;
-  for (const std::string &note : {origin_, losses_}) // the window shows both
+  output << messages::jobSent(printer, sent.id, sentFiles_) << std::endl; // as lp counts them
+  for (const std::string &note : {origin_, losses_})                      // the window shows both
     if (arguments_.isBatch && !note.empty())
       notes << note << std::endl;
   if (!sent.note.empty())

@@ -45,6 +45,13 @@ OpenedPrinter openQueue(const std::string &queue, MissingShift shift);
 /// command line or the environment names a printer.
 std::string rememberedQueue(const Arguments &arguments, const History &history);
 
+/// What is printed with a job's printer and queue.
+struct PrintedContent {
+  PrintSettingsStore settings;
+  JobDocuments documents;
+  std::string title;
+};
+
 /// What becomes of offsets that the dialog would apply itself.
 enum class OwnShift {
   Apply,
@@ -92,12 +99,16 @@ public:
   void remember(const std::optional<WindowSize> &window) const;
 
   /// Where the job's offsets come from: "The offsets were measured on ...". Empty unless they are
-  /// those that were measured.
+  /// those that were measured, and move the image.
   std::string alignmentNote();
   /// Call after the paper, the tray or the turning may have changed: takes the offsets that were
   /// measured for them. Offsets that the user has entered stay unless others were measured for the
   /// new settings. Returns whether the offsets have changed.
   bool followAlignment();
+
+  /// Takes offsets that were measured just now with the job's paper, tray and turning, whatever the
+  /// user or the command line has given. `followAlignment` knows them from then on.
+  void takeAlignment(const MeasuredAlignment &alignment);
 
   /// One sentence for each setting of the first queue's preset that was changed or dropped because
   /// the printer does not accept it. The constructor writes them to standard error.
@@ -159,10 +170,15 @@ public:
   std::unique_ptr<JobSubmission> print(const DestinationList &destinations, const std::string &path,
                                        JobSubmission::Changed changed = {},
                                        OwnShift ownShift = OwnShift::Apply);
+  /// Starts to submit other documents, which are named like their job, with other settings. Leaves
+  /// the job as it is. Returns null after a dry run. Throws as `print`.
+  std::unique_ptr<JobSubmission> printOther(const PrintedContent &content,
+                                            const DestinationList &destinations,
+                                            JobSubmission::Changed changed = {});
 
-  /// Reports a PDF file to `notes`, or the submitted job: lp's line to `output`, remarks to
-  /// `notes`. In batch mode, one of these is what the dialog's move of the image pushes out of the
-  /// printable area. Writes nothing if the command line has -s or -m.
+  /// Reports a PDF file to `notes`, or the job that was submitted last: lp's line to `output`,
+  /// remarks to `notes`. In batch mode, one of these is what the dialog's move of the image pushes
+  /// out of the printable area. Writes nothing if the command line has -s or -m.
   void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
   /// CUPS's name of the submitted job, "office-12"; empty before `report`.
   const std::string &sentName() const noexcept { return sentName_; }
@@ -176,19 +192,25 @@ private:
   LoadedPreset startOf(const PrinterDescription &printer);
   void keepWhatFits(const PrinterDescription &before);
   bool takeHistory();
+  void takeFlagOfQueue();
   bool areOffsetsGiven() const;
   bool hasMeasuredOffsets() const;
   std::optional<FoundAlignment> alignmentHere();
   bool takeAlignment();
   PrintSettingsStore settingsToRemember() const;
-  ShiftDecision shiftDecision(const JobRequest &request);
+  JobRequest requestFor(const PrintedContent &content, const DestinationList &destinations,
+                        bool withDefaults) const;
+  ShiftDecision shiftDecision(const JobRequest &request, const PrintSettingsStore &settings);
   std::unique_ptr<ShiftedJob> shiftedJob(const JobRequest &request, const ShiftPlan &plan);
   std::unique_ptr<JobSubmission> startPdf(const JobRequest &request, const std::string &path,
                                           JobSubmission::Changed changed);
+  std::unique_ptr<JobSubmission> submit(const PrintedContent &content, JobRequest request,
+                                        JobSubmission::Changed changed);
   void writeTicketTo(const std::string &path);
   void writePrepared(const JobRequest &request, OwnShift ownShift);
   std::vector<std::string> documentsToSend() const;
-  bool isBackIgnored() const;
+  bool isBackIgnored(const PrintSettingsStore &settings) const;
+  static void warnOfPasswords(const JobDocuments &documents);
 
   const Arguments &arguments_;
   std::string queue_;
@@ -201,6 +223,7 @@ private:
   PrintSettingsStore atStart_;
   Alignments alignments_;
   std::optional<FoundAlignment> alignment_; // whose offsets the job has taken
+  bool isMeasuredNow_ = false;              // with this printer, for this job
   PrintSettingsStore withoutPreset_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
   const off_t inputStart_;             // of standard input; -1 if it is a pipe
@@ -208,7 +231,8 @@ private:
   bool isTargetChosen_ = false;
   std::string missingPrinter_;
   std::string origin_; // of measured offsets, in words
-  std::string losses_; // of the job that `print` submits
+  std::string losses_; // of the job that is submitted
+  std::size_t sentFiles_ = 0;
   std::string sentName_;
   std::string pdfNote_;
   std::string done_;

@@ -29,6 +29,12 @@ std::string jobSentWithoutOutput(const std::string &job) {
 const Text kBackIgnored =
     text("The back's offsets have no effect, because the back follows the front. To "
          "separate them, add --back on.");
+std::string passwordNeeded(const std::string &document) {
+  return text(
+             "\"{1}\" is protected by a password: CUPS accepts it, but prints nothing. Save a copy "
+             "without it, and print that.")
+      .with(document);
+}
 // lp's English output, which scripts parse.
 std::string jobSent(const std::string &printer, int id, std::size_t files) {
   return "request id is " + printer + "-" + std::to_string(id) + " (" + std::to_string(files) +

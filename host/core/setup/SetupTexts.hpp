@@ -21,6 +21,8 @@ std::string outputUnwritable(const std::string &done);
 /// The command line has offsets for the back without the flag that they need.
 extern const Text kBackIgnored;
 
+std::string passwordNeeded(const std::string &document);
+
 /// lp's output, which scripts parse; not translated.
 std::string jobSent(const std::string &printer, int id, std::size_t files);
 

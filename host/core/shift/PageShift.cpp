@@ -8,8 +8,13 @@ Side sideOf(const SideOrder &order, std::size_t index) noexcept {
   return (index % 2 == 0) != order.isReversed ? Side::Front : Side::Back;
 }
 
+bool isUsableUnit(double userUnit) noexcept {
+  constexpr double kShortest = 0.001, kLongest = 1e6;
+  return userUnit >= kShortest && userUnit <= kLongest; // false for NaN
+}
+
 Translation translationOf(const Offset &offset, long long rotation, double userUnit) noexcept {
-  const double unit = userUnit > 0 ? userUnit : 1; // also for NaN
+  const double unit = isUsableUnit(userUnit) ? userUnit : 1;
   const double right = toPoints(offset.right).count / unit;
   const double down = toPoints(offset.down).count / unit;
   switch ((rotation % 360 + 360) % 360) {

@@ -37,9 +37,13 @@ struct Translation {
   Point y;
 };
 
+/// Whether a page can have a user space with units of this length, in points. Others are noise: a
+/// sheet is never as large or as small.
+bool isUsableUnit(double userUnit) noexcept;
+
 /// Converts an offset, which is seen on the rotated page. `rotation` is the page's /Rotate,
 /// clockwise in degrees; any multiple of 90, other values count as 0. `userUnit` is the length of a
-/// unit of the user space in points; values that are not positive count as 1.
+/// unit of the user space in points; values that are not usable count as 1.
 Translation translationOf(const Offset &offset, long long rotation, double userUnit = 1) noexcept;
 
 /// What moves the pages of one document.

@@ -1,11 +1,22 @@
 #include "Phrases.hpp"
 
+#include "Strings.hpp"
+
 namespace imageposition::messages {
 
-std::string because(std::string reason) {
-  while (!reason.empty() && (reason.back() == '.' || reason.back() == ' '))
-    reason.pop_back();
-  return reason.empty() ? reason : text(" ({1})").with(reason);
+std::string withoutStop(std::string reason) {
+  for (;;) {
+    const std::size_t size = reason.size();
+    for (const std::string_view ending : {".", " ", "。"})
+      if (endsWith(reason, ending))
+        reason.resize(reason.size() - ending.size());
+    if (reason.size() == size)
+      return reason;
+  }
+}
+std::string because(const std::string &reason) {
+  const std::string clause = withoutStop(reason);
+  return clause.empty() ? clause : text(" ({1})").with(clause);
 }
 std::string summaryLine(const std::string &title, const std::string &value) {
   return text("{1}: {2}").with(title, value);

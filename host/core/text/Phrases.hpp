@@ -9,9 +9,10 @@
 
 namespace imageposition::messages {
 
-/// " (reason)", to follow a clause. Removes the full stop of a library's message. Empty for an
-/// empty reason.
-std::string because(std::string reason);
+/// A library's message as a clause: some end with a full stop, in whatever language.
+std::string withoutStop(std::string reason);
+/// " (reason)", to follow a clause, without the reason's full stop. Empty for an empty reason.
+std::string because(const std::string &reason);
 
 /// A line of the job's summary, "title: value".
 std::string summaryLine(const std::string &title, const std::string &value);

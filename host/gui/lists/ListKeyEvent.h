@@ -15,6 +15,7 @@ namespace imageposition {
 struct ListKey {
   enum class Kind {
     Other,
+    Leave,  ///< Takes the item, and is then for the window: Tab, or a letter with Alt.
     Toggle, ///< Opens or closes the list.
     Blank,  ///< Opens the list, or chooses, unless the user is typing a title.
     Choose,

@@ -28,8 +28,12 @@ ListKey listKeyOf(NSEvent *event) {
   const unichar character = [characters characterAtIndex:0];
   if (isAlt)
     return {character == NSUpArrowFunctionKey || character == NSDownArrowFunctionKey ? Kind::Toggle
-                                                                                     : Kind::Other};
+            : isControlCharacter(character)                                          ? Kind::Other
+                                                                                     : Kind::Leave};
   switch (character) {
+  case NSTabCharacter:
+  case NSBackTabCharacter:
+    return {Kind::Leave};
   case NSF4FunctionKey:
     return {Kind::Toggle};
   case NSCarriageReturnCharacter:

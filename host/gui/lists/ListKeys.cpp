@@ -14,13 +14,17 @@ int enabledFrom(const std::vector<ListItem> &items, int at, int step) {
   return at >= 0 && at < count ? at : -1;
 }
 
-/// The first item after `from`, or from it on, that starts with the letters; -1 without one.
-int itemStartingWith(const std::vector<ListItem> &items, const std::string &letters, int from) {
+enum class Place { Start, Anywhere };
+
+/// The first item from `from` on, in a circle, that has the letters there; -1 without one.
+int itemWith(const std::vector<ListItem> &items, const std::string &letters, Place place,
+             int from) {
   const int count = static_cast<int>(items.size());
   for (int i = 0; i < count; i++) {
     const int at = (std::max(from, 0) + i) % count;
     const ListItem &item = items[static_cast<std::size_t>(at)];
-    if (item.isEnabled && item.folded.compare(0, letters.size(), letters) == 0)
+    const std::size_t found = item.folded.find(letters);
+    if (item.isEnabled && found != std::string::npos && (found == 0 || place == Place::Anywhere))
       return at;
   }
   return -1;
@@ -76,10 +80,12 @@ int TypeAhead::type(const std::vector<ListItem> &items, int from, const std::str
   typed_ += folded;
   last_ = now;
   const bool isFirst = typed_ == folded;
-  const int found = itemStartingWith(items, typed_, isFirst ? from + 1 : from);
-  if (found >= 0 || !repeats(typed_, folded))
+  const int found = itemWith(items, typed_, Place::Start, isFirst ? from + 1 : from);
+  if (found >= 0)
     return found;
-  return itemStartingWith(items, folded, from + 1);
+  if (repeats(typed_, folded))
+    return itemWith(items, folded, Place::Start, from + 1);
+  return itemWith(items, typed_, Place::Anywhere, from);
 }
 
 } // namespace imageposition

@@ -19,12 +19,13 @@ enum class ListMove { Up, Down, PageUp, PageDown, Home, End };
 /// not enabled. `from` is -1 if no item is chosen; returns `from` if the key leads nowhere.
 int movedInList(const std::vector<ListItem> &items, int from, ListMove move, int page);
 
-/// Finds an item by the first letters of its title.
+/// Finds an item by letters of its title.
 class TypeAhead {
 public:
   using Time = std::chrono::steady_clock::time_point;
 
-  /// Returns the item that starts with the letters typed so far, or -1. A letter that is typed
+  /// Returns the item that starts with the letters typed so far, or else one that has them
+  /// anywhere, such as a queue's name after its description; -1 without one. A letter that is typed
   /// repeatedly leads through the items that start with it. Letters typed more than a second ago do
   /// not count.
   int type(const std::vector<ListItem> &items, int from, const std::string &folded, Time now);

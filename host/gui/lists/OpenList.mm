@@ -308,6 +308,13 @@ constexpr NSTimeInterval kScrollInterval = 0.05;
   isOpen = NO;
 }
 
+/// Typing goes on in the next control, not in the list.
+- (void)leave:(NSEvent *)event {
+  [self choose:[list highlightedItemIndex]];
+  [self close:nil];
+  [NSApp postEvent:event atStart:YES];
+}
+
 - (void)show:(NSInteger)index {
   [list highlight:index];
   if (index >= 0)
@@ -322,6 +329,8 @@ constexpr NSTimeInterval kScrollInterval = 0.05;
   const int page = static_cast<int>([scroll contentSize].height / kListRowHeight);
   if (key.kind == Kind::Toggle || key.kind == Kind::Dismiss)
     [self close:nil];
+  else if (key.kind == Kind::Leave)
+    [self leave:event];
   else if (key.kind == Kind::Move)
     [self show:imageposition::movedInList(*items, current, key.move, page)];
   else if (key.kind == Kind::Letters || (key.kind == Kind::Blank && typeAhead->isTyping(now))) {

@@ -26,6 +26,18 @@ constexpr PreviewColours kLightPreview = {0x1C1C1E, 0x5A5A60, 0xFFFFFF, 0x787880
 constexpr PreviewColours kDarkPreview = {0xF0F0F2, 0xB0B0B8, 0x2C2D32, 0x82838C, 0x9697A0,
                                          0x42444C, 0x6EA0FF, 0x78F096, 0xFF8A42};
 
+/// The colours of a scale on an alignment sheet, which looks like paper in a dark window, too.
+struct PaperColours {
+  Rgb paper;
+  Rgb outline;
+  Rgb ink;
+  Rgb through; ///< What shines through.
+  Rgb mark;    ///< Behind lines that continue each other; hardly stands out from the paper.
+};
+
+constexpr PaperColours kLightPaper = {0xFFFFFF, 0x787880, 0x000000, 0x8C8C8C, 0xDCE6FF};
+constexpr PaperColours kDarkPaper = {0xDCDCE0, 0x9697A0, 0x000000, 0x78787C, 0xBACAF0};
+
 } // namespace imageposition
 
 #endif

@@ -13,6 +13,7 @@ namespace imageposition {
 
 /// The colours that suit the window's background.
 const PreviewColours &previewColours();
+const PaperColours &paperColours();
 
 void setColour(Rgb colour, double opacity = 1);
 NSRect toRect(const PixelRectangle &rectangle);

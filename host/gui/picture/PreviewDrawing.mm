@@ -16,14 +16,17 @@ NSDictionary *attributesOf(NSFont *font, Rgb colour) {
                                                     NSForegroundColorAttributeName, nil];
 }
 
-} // namespace
-
-const PreviewColours &previewColours() {
+bool isDark() {
   NSColor *const background =
       [[NSColor windowBackgroundColor] colorUsingColorSpaceName:NSCalibratedWhiteColorSpace];
-  const bool isDark = background != nil && [background whiteComponent] < 0.5;
-  return isDark ? kDarkPreview : kLightPreview;
+  return background != nil && [background whiteComponent] < 0.5;
 }
+
+} // namespace
+
+const PreviewColours &previewColours() { return isDark() ? kDarkPreview : kLightPreview; }
+
+const PaperColours &paperColours() { return isDark() ? kDarkPaper : kLightPaper; }
 
 void setColour(Rgb colour, double opacity) { [toColor(colour, opacity) set]; }
 

@@ -15,7 +15,8 @@ std::vector<HelpSection> helpSections() {
              "too far right? Type −15. Too far left? Type 15. Too low? Type a negative number. Too "
              "high? Type a positive one."),
         text("Print again. Is there a small error left? Measure it, and add its opposite to the "
-             "number in the field.")},
+             "number in the field."),
+        text("Or have it measured to a tenth of a millimetre: click Align… below the picture.")},
        true},
       {text("Positive is right and down"),
        {text("A positive number moves the image right or down, as you look at that side. A "
@@ -24,8 +25,9 @@ std::vector<HelpSection> helpSections() {
       {text("Keep the offsets"),
        {text("A preset saves all settings for this printer under a name. lp -d printer/preset "
              "prints with them too."),
-        text("\"Save as ticket\", last in the list of printers, writes the settings to a file "
-             "instead of printing.")}},
+        text(
+            "Instead of printing, \"Save as ticket\", after the printers in their list, writes the "
+            "settings to a file, and \"Save as PDF\" the pages.")}},
       {text("Keys"),
        {text("Alt and an underlined letter go to that control, Tab goes to the next. Return "
              "prints, Escape cancels.")}},

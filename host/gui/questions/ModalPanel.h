@@ -28,9 +28,15 @@ public:
   ModalPanel &operator=(const ModalPanel &) = delete;
 
   KeyWindow *window() const noexcept { return window_; }
+  NSButton *confirmButton() const noexcept { return confirm_; }
   /// The lower edge of the content.
   CGFloat bottom() const noexcept;
   void add(NSView *view);
+  /// Gives the buttons other titles, without keys, for another step of the same window. Without
+  /// `cancelTitle`, only Escape cancels.
+  void retitleButtons(const std::string &confirmTitle, const std::string &cancelTitle);
+  /// Tab goes through `order`, as in `run`.
+  void link(const std::vector<NSView *> &order);
   /// Makes Return cancel. Returns the button that should have the focus.
   NSButton *preferCancel();
 
@@ -43,6 +49,8 @@ public:
            const std::function<bool()> &mayConfirm = {});
 
 private:
+  void placeButtons();
+
   KeyWindow *window_; // owned
   id controller_;     // owned
   NSButton *confirm_;

@@ -78,17 +78,14 @@ ModalPanel::ModalPanel(const std::string &title, CGFloat width, CGFloat height,
   static_cast<ModalPanelController *>(controller_)->window = window_;
   [window_ setDelegate:controller_];
   confirm_ = makeButton(confirmTitle, controller_, @selector(confirm));
-  CGFloat left = width - kPanelMargin - NSWidth([confirm_ frame]);
-  [confirm_ setFrameOrigin:NSMakePoint(left, kPanelMargin)];
   [window_ reach:confirm_ by:confirmTitle];
   if (!cancelTitle.empty()) {
     cancel_ = makeButton(cancelTitle, controller_, @selector(dismiss));
-    left -= kPanelMargin / 2 + NSWidth([cancel_ frame]);
-    [cancel_ setFrameOrigin:NSMakePoint(left, kPanelMargin)];
     [window_ reach:cancel_ by:cancelTitle];
     add(cancel_);
   }
   add(confirm_);
+  placeButtons();
   [window_ setDefaultButtonCell:[confirm_ cell]];
 }
 
@@ -97,6 +94,34 @@ ModalPanel::~ModalPanel() {
   [window_ close];
   [window_ release];
   [controller_ release];
+}
+
+void ModalPanel::placeButtons() {
+  const CGFloat width = NSWidth([[window_ contentView] frame]);
+  CGFloat left = width - kPanelMargin - NSWidth([confirm_ frame]);
+  [confirm_ setFrameOrigin:NSMakePoint(left, kPanelMargin)];
+  if (cancel_ == nil)
+    return;
+  left -= kPanelMargin / 2 + NSWidth([cancel_ frame]);
+  [cancel_ setFrameOrigin:NSMakePoint(left, kPanelMargin)];
+}
+
+void ModalPanel::retitleButtons(const std::string &confirmTitle, const std::string &cancelTitle) {
+  retitle(confirm_, confirmTitle);
+  [cancel_ setHidden:cancelTitle.empty()];
+  if (!cancelTitle.empty())
+    retitle(cancel_, cancelTitle);
+  placeButtons();
+  [[window_ contentView] setNeedsDisplay:YES];
+}
+
+void ModalPanel::link(const std::vector<NSView *> &order) {
+  std::vector<NSView *> loop = order;
+  if (cancel_ != nil)
+    loop.push_back(cancel_);
+  loop.push_back(confirm_);
+  for (std::size_t i = 0; i < loop.size(); i++)
+    [loop[i] setNextKeyView:loop[(i + 1) % loop.size()]];
 }
 
 CGFloat ModalPanel::bottom() const noexcept { return 2 * kPanelMargin + kButtonHeight; }
@@ -111,12 +136,7 @@ void ModalPanel::add(NSView *view) { [[window_ contentView] addSubview:view]; }
 bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first,
                      const std::function<bool()> &mayConfirm) {
   static_cast<ModalPanelController *>(controller_)->mayConfirm = &mayConfirm;
-  std::vector<NSView *> loop = order;
-  if (cancel_ != nil)
-    loop.push_back(cancel_);
-  loop.push_back(confirm_);
-  for (std::size_t i = 0; i < loop.size(); i++)
-    [loop[i] setNextKeyView:loop[(i + 1) % loop.size()]];
+  link(order);
   if (first == nil)
     first = order.empty() ? confirm_ : order.front();
   [window_ setInitialFirstResponder:first];

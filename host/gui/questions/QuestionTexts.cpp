@@ -65,6 +65,36 @@ std::string wrongPassword(const std::string &printer) {
               "the settings.")
       .with(printer);
 }
+std::string layingOut(int percent) {
+  return percent == 0 ? text("Laying out the pages…").str()
+                      : text("Laying out the pages: {1} %").with(std::to_string(percent));
+}
+std::string sending(const std::string &sent, const std::string &total) {
+  return total.empty() ? text("Sending: {1}").with(sent)
+                       : text("Sending: {1} of {2}").with(sent, total);
+}
+std::string stillWaiting(const std::string &server) {
+  return text("CUPS at {1} is not responding. Still waiting; you can cancel.").with(server);
+}
+std::string byteCount(unsigned long long bytes) {
+  constexpr unsigned long long kTenthOfMegabyte = 100000;
+  if (bytes < 10 * kTenthOfMegabyte)
+    return text("{1} kB").with(std::to_string((bytes + 999) / 1000));
+  const unsigned long long tenths = (bytes + kTenthOfMegabyte / 2) / kTenthOfMegabyte;
+  return text("{1} MB").with(
+      decimalNumber(std::to_string(tenths / 10), std::to_string(tenths % 10)));
+}
+const Text kAlignWindow = text("Align front and back");
+const Text kPrintSheets = text("Print 3 sheets");
+const Text kReadSheets = text("Read printed sheets");
+const Text kTakeOffsets = text("Use these offsets");
+// Translators: a button: to the step before.
+const Text kBack = textIn("button", "Back");
+std::string sheetRow(int sheet) { return text("Sheet {1}").with(sheet); }
+// Translators: where a sheet was folded, in the place of "Sheet 1".
+const Text kCreaseRow = text("Creases");
+const Text kAsItShouldBe = text("As it should look");
+const Text kDrawingSheets = text("Drawing the sheets…");
 const Text kUnitRow = text("&Unit:");
 const Text kMillimetres = text("Millimetres");
 const Text kInches = text("Inches");

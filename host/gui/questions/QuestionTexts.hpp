@@ -54,6 +54,25 @@ extern const Text kPasswordRow;
 std::string passwordWanted(const std::string &printer);
 std::string wrongPassword(const std::string &printer);
 
+// How far a job is.
+/// cups-filters do not tell how far they are, so it stays at 0 % for a while.
+std::string layingOut(int percent);
+std::string sending(const std::string &sent, const std::string &total);
+/// In kilobytes or megabytes.
+std::string stillWaiting(const std::string &server);
+std::string byteCount(unsigned long long bytes);
+
+// Aligning.
+extern const Text kAlignWindow;
+extern const Text kPrintSheets;
+extern const Text kReadSheets;
+extern const Text kTakeOffsets;
+extern const Text kBack;
+std::string sheetRow(int sheet);
+extern const Text kCreaseRow;
+extern const Text kAsItShouldBe; ///< Above a drawing.
+extern const Text kDrawingSheets;
+
 // Values.
 extern const Text kUnitRow;
 extern const Text kMillimetres;

@@ -14,7 +14,7 @@
 namespace imageposition {
 
 /// A window that says what the program waits for, with a button that cancels. It opens only if the
-/// wait is long enough to be noticed. Main thread.
+/// wait for a call is long enough to be noticed. Main thread.
 class WaitPanel {
 public:
   WaitPanel();
@@ -27,17 +27,24 @@ public:
   template <typename Result>
   bool await(const BackgroundCall<Result> &call, NSWindow *parent, const std::string &text) {
     if (!call.waitFor(kUnnoticed))
-      show(parent, text, [&] { return call.isDone() || call.isTooLate(); });
+      await([&] { return call.isDone() || call.isTooLate(); }, parent, [&] { return text; });
     return call.isDone();
   }
+
+  /// The same for anything else: opens at once, until `isOver`, which it asks at each signal. Then
+  /// shows `text` anew, too. Returns false if the user cancelled.
+  bool await(const std::function<bool()> &isOver, NSWindow *parent,
+             const std::function<std::string()> &text);
 
 private:
   static constexpr std::chrono::milliseconds kUnnoticed{250};
 
-  void show(NSWindow *parent, const std::string &text, const std::function<bool()> &isOver);
+  void look();
 
-  std::function<bool()> isOver_; ///< Set while the window is open.
-  NSWindow *window_ = nil;       ///< Not owned; set while it is open.
+  std::function<bool()> isOver_; ///< Set while the window is open; so is the next.
+  std::function<std::string()> text_;
+  NSWindow *window_ = nil;   ///< Not owned; set while it is open.
+  NSTextField *label_ = nil; ///< The window's.
   RunLoopWake wake_;
 };
 

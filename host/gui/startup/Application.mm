@@ -5,6 +5,7 @@
 #import "Fonts.h"
 #import "Guard.h"
 #import "Pool.h"
+#import "QueuedEvents.h"
 #import "QuickStart.h"
 #import "Replaced.h"
 #include "StartupTexts.hpp"
@@ -65,6 +66,7 @@ void startApplication() {
     const char *const name = std::getenv("DISPLAY");
     throw Failure(ExitCode::Display, messages::displayUnreachable(name != nullptr ? name : ""));
   }
+  deliverQueuedEvents();
   letSignalsEndTheProgram();
   installTheme(chosenAppearance(surroundings));
 }

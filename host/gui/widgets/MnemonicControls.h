@@ -17,6 +17,9 @@ NSTextField *makeTitle(const std::string &marked);
 /// A push button, at least `kButtonWidth` wide, and `kButtonHeight` high.
 NSButton *makeButton(const std::string &marked, id target, SEL action);
 
+/// Gives such a button another title, and the width that it needs.
+void retitle(NSButton *button, const std::string &marked);
+
 /// A checkbox.
 NSButton *makeSwitch(const std::string &marked, id target, SEL action);
 

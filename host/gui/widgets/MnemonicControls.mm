@@ -104,13 +104,17 @@ namespace imageposition {
 
 namespace {
 
-NSButton *newButton(const std::string &marked, id target, SEL action) {
+void setMarkedTitle(NSButton *button, const std::string &marked) {
   const MnemonicText mnemonic = readMnemonic(marked);
-  NSButton *const button = [[[MnemonicButton alloc] initWithFrame:NSZeroRect] autorelease];
   [button setTitle:toString(mnemonic.text)];
+  [(MnemonicButtonCell *)[button cell] setUnderline:underlineOf(mnemonic, [button font])];
+}
+
+NSButton *newButton(const std::string &marked, id target, SEL action) {
+  NSButton *const button = [[[MnemonicButton alloc] initWithFrame:NSZeroRect] autorelease];
+  setMarkedTitle(button, marked);
   [button setTarget:target];
   [button setAction:action];
-  [(MnemonicButtonCell *)[button cell] setUnderline:underlineOf(mnemonic, [button font])];
   return button;
 }
 
@@ -127,10 +131,15 @@ NSTextField *makeTitle(const std::string &marked) {
 NSButton *makeButton(const std::string &marked, id target, SEL action) {
   NSButton *const button = newButton(marked, target, action);
   [button setBezelStyle:NSRoundedBezelStyle];
+  retitle(button, marked);
+  return button;
+}
+
+void retitle(NSButton *button, const std::string &marked) {
+  setMarkedTitle(button, marked);
   [button sizeToFit];
   const CGFloat width = std::max(kButtonWidth, NSWidth([button frame]) + 16);
   [button setFrameSize:NSMakeSize(width, kButtonHeight)];
-  return button;
 }
 
 NSButton *makeSwitch(const std::string &marked, id target, SEL action) {

@@ -12,7 +12,7 @@ NSSize roomOnScreen();
 /// Moves the window to the middle of `parent`, but keeps it on the screen.
 void placeOver(NSWindow *window, NSWindow *parent);
 /// Moves the window to the side of `parent` that has more room, even if it then covers a part of
-/// `parent`; keeps it on the screen.
+/// `parent`; keeps it on the screen, and off the buttons of `parent` if there is room.
 void placeBeside(NSWindow *window, NSWindow *parent);
 
 } // namespace imageposition

@@ -8,6 +8,7 @@ namespace imageposition {
 namespace {
 
 constexpr NSSize kWindowFrame = {8, 40}; // pixels, of most window managers
+constexpr CGFloat kButtonRow = 64;       // points, at the lower edge of a window
 
 /// The corner with which a window of that size is on the screen, nearest to the wanted one. The
 /// window's upper edge comes first: it has the title.
@@ -48,8 +49,11 @@ void placeBeside(NSWindow *window, NSWindow *parent) {
     frame.origin.x = std::floor(NSMaxX(screen) - size.width - NSWidth(frame));
     [parent setFrameOrigin:frame.origin];
   }
-  const NSPoint corner = NSMakePoint(isRight ? NSMaxX(frame) : NSMinX(frame) - size.width,
-                                     NSMaxY(frame) - size.height);
+  const bool isCovering = size.width > (isRight ? NSMaxX(screen) - NSMaxX(frame) : roomAtLeft);
+  const CGFloat aligned = NSMaxY(frame) - size.height;
+  const NSPoint corner =
+      NSMakePoint(isRight ? NSMaxX(frame) : NSMinX(frame) - size.width,
+                  isCovering ? std::max(aligned, NSMinY(frame) + kButtonRow) : aligned);
   [window setFrameOrigin:onScreen(corner, size, screen)];
 }
 

@@ -15,6 +15,7 @@ using namespace imageposition;
 - (void)copiesChanged:(id)sender;
 - (void)copiesStepped:(id)sender;
 - (void)collateChanged:(id)sender;
+- (void)take:(int)copies;
 - (void)store:(int)copies;
 - (void)showError:(const std::string &)text;
 @end
@@ -71,14 +72,21 @@ using namespace imageposition;
   const std::string typed = toText([field stringValue]);
   const auto copies = readCopies(typed);
   if (copies) {
-    [self showError:""];
-    [self store:*copies];
+    [self take:*copies];
     return YES;
   }
   [self showError:messages::copiesNotUnderstood()];
   [dialog write:messages::copiesNotUnderstood()];
   [[field window] makeFirstResponder:field];
   return NO;
+}
+
+/// Shows the number as it counts: "7" for "007".
+- (void)take:(int)copies {
+  [self showError:""];
+  [field setIntValue:copies];
+  [stepper setIntValue:copies];
+  [self store:copies];
 }
 
 /// One copy is what CUPS prints without the setting.
@@ -125,9 +133,7 @@ using namespace imageposition;
     [self showError:messages::copiesNotUnderstood()];
     return;
   }
-  [self showError:""];
-  [stepper setIntValue:*copies];
-  [self store:*copies];
+  [self take:*copies];
 }
 
 - (void)copiesStepped:(id)sender {

@@ -6,6 +6,7 @@
 #import "KeyWindow.h"
 #import "ListPopUp.h"
 #import "MessageView.h"
+#import "PictureArea.h"
 
 #include <string>
 #include <vector>
@@ -33,7 +34,8 @@ struct DialogRow {
 /// Everything in the window, which owns the views.
 struct DialogContent {
   std::vector<DialogRow> rows;
-  NSView *picture;
+  PictureArea *picture;
+  NSButton *align; ///< The area's.
   NSView *paneArea;
   NSTextField *hint;
   NSButton *resolve;

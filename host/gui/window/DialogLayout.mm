@@ -3,7 +3,6 @@
 #import "DropView.h"
 #import "Labels.h"
 #import "MnemonicControls.h"
-#import "PreviewView.h"
 #import "TextBridge.h"
 #include "WindowTexts.hpp"
 
@@ -56,7 +55,7 @@ CGFloat heightOf(const DialogRow &row) {
 
 /// The size of the window that shows everything, as far as the screen has room.
 NSSize wantedSize(NSSize pane, CGFloat rows, CGFloat rowsWidth, CGFloat foot, NSSize room) {
-  const NSSize picture = [PreviewView preferredSize];
+  const NSSize picture = [PictureArea preferredSize];
   const NSSize wide = {pane.width + picture.width + 3 * kMargin,
                        std::max(rows + kGap + pane.height, picture.height) + foot + kMargin};
   const CGFloat narrow = std::max(pane.width, rowsWidth + kMargin + picture.width) + 2 * kMargin;
@@ -204,7 +203,7 @@ void DialogLayout::placeFoot(NSSize size, bool hasRoom) {
 void DialogLayout::placeUpper(NSSize size, CGFloat foot) {
   const CGFloat scroller = [NSScroller scrollerWidth];
   const bool hasPicture = ![content_.picture isHidden];
-  const NSSize picture = [PreviewView preferredSize];
+  const NSSize picture = [PictureArea preferredSize];
   const bool isBeside = hasPicture && size.width - scroller - rowsWidth() - 3 * kMargin >=
                                           kSmallestPicture * picture.width;
   const CGFloat below = hasPicture && !isBeside ? picture.height + kGap : 0;
@@ -246,7 +245,7 @@ NSRect DialogLayout::placeAlone(CGFloat width, CGFloat paneTop) {
 
 /// Places the picture beside the rows; returns the place of the panes.
 NSRect DialogLayout::placeBeside(CGFloat width, CGFloat height, CGFloat paneTop) {
-  const NSSize picture = [PreviewView preferredSize];
+  const NSSize picture = [PictureArea preferredSize];
   const bool isWide = width >= pane_.width + picture.width + 3 * kMargin;
   NSSize shown = picture;
   if (isWide) {
@@ -265,7 +264,7 @@ NSRect DialogLayout::placeBeside(CGFloat width, CGFloat height, CGFloat paneTop)
 
 /// Places the picture below the panes; returns the place of the panes.
 NSRect DialogLayout::placeBelow(CGFloat width, CGFloat paneTop) {
-  const NSSize picture = [PreviewView preferredSize];
+  const NSSize picture = [PictureArea preferredSize];
   const CGFloat whole = width - 2 * kMargin;
   place(content_.picture, NSMakeRect(kMargin, 0, std::min(whole, picture.width), picture.height));
   rowsRight_ = std::max(width - kMargin, kMargin + rowsWidth());
@@ -308,7 +307,7 @@ void DialogLayout::linkKeys() {
     for (const RowControl &control : row.controls)
       if (isInTabOrder(control.view))
         order.push_back(control.view);
-  order.insert(order.end(), {content_.resolve, content_.help, content_.cancel, content_.print});
+  order.insert(order.end(), {content_.align, content_.resolve, content_.help, content_.cancel, content_.print});
   for (std::size_t i = 0; i < order.size(); i++)
     [order[i] setNextKeyView:order[(i + 1) % order.size()]];
 }

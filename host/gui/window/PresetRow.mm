@@ -1,6 +1,8 @@
 #import "PresetRow.h"
 
 #include "ExitCode.hpp"
+#include "ImageShiftText.hpp"
+#include "Measurement.hpp"
 #import "NamePanel.h"
 #import "NotePanel.h"
 #include "Phrases.hpp"
@@ -236,7 +238,10 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   PrintJob &job = [dialog session].job();
   const auto missing = Presets([self printer]).save(*name, job.settings(), job.printer().ppd());
   state->chosen = *name;
-  const std::string saved = messages::presetSaved(QueueName{[self printer], *name}.text());
+  const bool isMovedHere =
+      isImageShiftAdded(job.printer().ppd()) && !(sideOffsetsIn(job.settings()) == SideOffsets());
+  const std::string saved =
+      messages::presetSaved(QueueName{[self printer], *name}.text(), isMovedHere);
   if (missing.empty())
     [dialog show:saved];
   else

@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_GUI_WINDOW_PRINTDIALOG_H
 #define IMAGEPOSITION_GUI_WINDOW_PRINTDIALOG_H
 
+#import "Aligning.h"
 #import "CopiesRow.h"
 #import "DialogServices.h"
 #import "DocumentRow.h"
@@ -30,6 +31,7 @@ struct PrintDialogState;
   KeyWindow *window;
   MessageView *message;
   PreviewView *picture;
+  Aligning *aligning;
   PrinterRow *printers;
   DocumentRow *documents;
   PresetRow *presets;

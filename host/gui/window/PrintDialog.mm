@@ -112,8 +112,9 @@ struct imageposition::PrintDialogState {
   [printers stopAsking];
   [window setDelegate:nil];
   [window close];
-  for (id part : {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options,
-                  (id)more, (id)panes, (id)sending, (id)message, (id)picture, (id)help, (id)window})
+  for (id part :
+       {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options, (id)more,
+        (id)panes, (id)aligning, (id)sending, (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -122,6 +123,7 @@ struct imageposition::PrintDialogState {
 - (void)buildParts {
   message = [[MessageView alloc] initWithFrame:NSZeroRect];
   picture = [[PreviewView alloc] initWithFrame:NSZeroRect];
+  aligning = [[Aligning alloc] initWithDialog:self picture:picture];
   printers = [[PrinterRow alloc] initWithDialog:self wake:*state->wake];
   documents = [[DocumentRow alloc] initWithDialog:self wake:*state->wake];
   presets = [[PresetRow alloc] initWithDialog:self];
@@ -149,23 +151,24 @@ struct imageposition::PrintDialogState {
   rows.push_back([panes row]);
   NSButton *const resolve = [options resolveButton];
   state->layout = std::make_unique<DialogLayout>(
-      DialogContent{rows, picture, [panes area], [options hint], resolve, message,
-                    [sending progressView], helpButton, cancel, print},
+      DialogContent{rows, [aligning area], [aligning button], [panes area], [options hint], resolve,
+                    message, [sending progressView], helpButton, cancel, print},
       pane, room);
   window = state->layout->window();
   [window setDelegate:(id)self];
+  [window reach:[aligning button] by:messages::kAlign];
   [window reach:resolve by:messages::kResolve];
   [window reach:helpButton by:messages::kHelpButton];
   [window reach:cancel by:messages::kCancel];
   [window reach:print by:messages::kPrint];
-  [panes linkBefore:resolve];
+  [panes linkBefore:[aligning button]];
   [documents refresh];
 }
 
 /// Adapts to the window's size, or to a message, a hint or a panel that has come or gone. Without
 /// a panel, nothing can be shifted, so there is no picture.
 - (void)layOut {
-  [picture setHidden:state->session->panels().panels().empty()];
+  [[aligning area] setHidden:state->session->panels().panels().empty()];
   state->layout->layOut();
   [documents refresh];
   [printers showState];
@@ -231,7 +234,9 @@ struct imageposition::PrintDialogState {
     const std::string troubles = state->session->panels().troubleText();
     state->layout->takePane(largestPane(state->session->panels()));
     [self say:troubles];
-    if (const std::string note = messages::numbersNow(numbers, queue); !note.empty())
+    const std::string note = numbers == NumbersNow::Measured ? state->session->job().alignmentNote()
+                                                             : messages::numbersNow(numbers, queue);
+    if (!note.empty())
       [self show:messages::sentences({troubles, note})];
   } catch (const Failure &failure) {
     [self say:failure.what()];
@@ -250,6 +255,7 @@ struct imageposition::PrintDialogState {
 
 - (void)refreshOptions {
   [options refresh];
+  [aligning refresh];
   [self layOut];
   [panes refresh];
   [self refreshPicture];

@@ -146,13 +146,8 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
 /// Offsets that were measured belong to the paper, the tray and the turning.
 - (void)followAlignment {
   PrintSession &session = [dialog session];
-  if (!session.job().followAlignment())
-    return;
-  session.panels().takePanelValues();
-  const PanelReplies replies = session.panels().restore();
-  std::vector<std::string> notes = replies.failures;
-  notes.push_back(session.job().alignmentNote());
-  [dialog show:messages::sentences(notes)];
+  if (session.job().followAlignment())
+    [dialog show:session.readMeasuredOffsets()];
 }
 
 - (void)optionChanged:(const std::string &)keyword {

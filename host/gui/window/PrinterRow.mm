@@ -139,6 +139,7 @@ bool isForPrinter(JobTarget target) {
   if (queue == job.queue()) // a printer that cannot be used changes nothing
     job.setTarget(target);
   [self refresh];
+  [dialog refreshOptions];
 }
 
 @end

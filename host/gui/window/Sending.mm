@@ -16,6 +16,7 @@
 #include "QuestionTexts.hpp"
 #include "QueueName.hpp"
 #import "RunLoopWake.h"
+#import "SubmissionWait.h"
 #import "WaitPanel.h"
 #include "WindowTexts.hpp"
 
@@ -192,19 +193,9 @@ struct imageposition::SendingState {
 }
 
 - (void)showProgress {
-  const JobProgress now = state->submission->progress();
-  if (now.preparedPercent) {
-    [progress setDoubleValue:*now.preparedPercent / 100.0];
-    [dialog show:messages::layingOut(*now.preparedPercent)];
-    return;
-  }
-  const auto total = now.total.value_or(0);
-  [progress
-      setDoubleValue:total == 0 ? 0 : static_cast<double>(now.sent) / static_cast<double>(total)];
-  [dialog show:state->submission->isCupsSilent()
-                   ? messages::stillWaiting(cupsServerName())
-                   : messages::sending(messages::byteCount(now.sent),
-                                       total == 0 ? "" : messages::byteCount(total))];
+  const ShownProgress now = shownProgress(*state->submission);
+  [progress setDoubleValue:now.part];
+  [dialog show:now.text];
 }
 
 - (void)finish {
@@ -236,7 +227,7 @@ struct imageposition::SendingState {
       isMovedBefore ? messages::kPrintAsItIsWindow : messages::kPrintUnmovedWindow,
       failure.reason(), isMovedBefore ? messages::kPrintAsItIs : messages::kPrintUnmovedButton,
       messages::kGoBack, true};
-  const bool isPrintable = failure.problem() != MoveProblem::Encrypted; // nor can CUPS read it
+  const bool isPrintable = failure.isPrintable();
   if (isPrintable && isConfirmed([progress window], proposal)) {
     [self startWith:OwnShift::Skip];
     return;

@@ -34,6 +34,13 @@ const Text kNotOffered = text("Not available");
 const Text kSummaryTitle = text("Summary");
 const Text kResolve = text("Resol&ve");
 const Text kPrint = text("Print");
+const Text kAlign = text("Ali&gn…");
+const Text kNoPrinterToAlign = text("Choose a printer to align it.");
+const Text kDryRunPrintsNothing = text("Nothing was printed: this is a dry run.");
+std::string sheetsSent(const std::string &job) {
+  // Translators: {1} is CUPS's name of a job, as "office-12".
+  return text("The sheets are printed as the job {1}.").with(job);
+}
 const Text kNoPresetChosen = text("None");
 const Text kPrintersDefaults = text("The settings are the printer's defaults.");
 const Text kSavePreset = text("Save as preset…");
@@ -43,7 +50,7 @@ const Text kDefaultPreset = text("Make this the default for this printer");
 const Text kNotDefaultPreset = text("Do not start with this preset");
 const Text kDefaultNotStored = text("The default could not be stored.");
 std::string presetIsDefault(const std::string &preset, const std::string &printer) {
-  return text("New jobs on \"{2}\" start with the preset \"{1}\".").with(preset, printer);
+  return text("This window now starts with the preset \"{1}\" for \"{2}\".").with(preset, printer);
 }
 const Text kPresetNameWindow = text("Name of the preset");
 const Text kPresetNameQuestion = text("Name of the preset:");
@@ -55,8 +62,10 @@ const Text kDelete = text("Delete");
 std::string deleteQuestion(const std::string &preset) {
   return text("Delete the preset \"{1}\"?").with(preset);
 }
-std::string presetSaved(const std::string &lpName) {
-  return text("The preset is saved. lp -d {1} prints with it too.").with(shellWord(lpName));
+std::string presetSaved(const std::string &lpName, bool isMovedHere) {
+  return (isMovedHere ? text("The preset is saved. print-dialog --batch -d {1} prints with it too.")
+                      : text("The preset is saved. lp -d {1} prints with it too."))
+      .with(shellWord(lpName));
 }
 const Text kJobWaits = text("The job is waiting");
 const Text kCancelJob = text("Cancel the job");
@@ -96,24 +105,5 @@ const Text kPrintUnmovedWindow = text("Print unmoved?");
 const Text kPrintUnmovedButton = text("Print unmoved");
 const Text kPrintAsItIsWindow = text("Print as it is?");
 const Text kPrintAsItIs = text("Print as it is");
-std::string layingOut(int percent) {
-  return percent == 0 ? text("Laying out the pages…").str()
-                      : text("Laying out the pages: {1} %").with(std::to_string(percent));
-}
-std::string sending(const std::string &sent, const std::string &total) {
-  return total.empty() ? text("Sending: {1}").with(sent)
-                       : text("Sending: {1} of {2}").with(sent, total);
-}
-std::string stillWaiting(const std::string &server) {
-  return text("CUPS at {1} is not responding. Still waiting; you can cancel.").with(server);
-}
-std::string byteCount(unsigned long long bytes) {
-  constexpr unsigned long long kTenthOfMegabyte = 100000;
-  if (bytes < 10 * kTenthOfMegabyte)
-    return text("{1} kB").with(std::to_string((bytes + 999) / 1000));
-  const unsigned long long tenths = (bytes + kTenthOfMegabyte / 2) / kTenthOfMegabyte;
-  return text("{1} MB").with(
-      decimalNumber(std::to_string(tenths / 10), std::to_string(tenths % 10)));
-}
 
 } // namespace imageposition::messages

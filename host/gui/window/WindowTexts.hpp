@@ -36,6 +36,10 @@ extern const Text kNotOffered; ///< In the pop-up of an option that the printer 
 extern const Text kSummaryTitle;
 extern const Text kResolve;
 extern const Text kPrint;
+extern const Text kAlign;
+extern const Text kNoPrinterToAlign;    ///< Beside that button.
+extern const Text kDryRunPrintsNothing; ///< In the window of that button.
+std::string sheetsSent(const std::string &job);
 
 extern const Text kNoPresetChosen;
 extern const Text kPrintersDefaults; ///< Says that no preset is chosen.
@@ -51,7 +55,8 @@ extern const Text kPresetNameQuestion;
 std::string presetSuggestion(std::size_t number);
 extern const Text kDelete;
 std::string deleteQuestion(const std::string &preset);
-std::string presetSaved(const std::string &lpName);
+/// `isMovedHere`: lp would print without the preset's offsets.
+std::string presetSaved(const std::string &lpName, bool isMovedHere);
 extern const Text kJobWaits;
 extern const Text kCancelJob;
 extern const Text kStateUnknown;
@@ -71,12 +76,6 @@ extern const Text kPrintUnmovedButton;
 /// The same for a document whose image was moved before.
 extern const Text kPrintAsItIsWindow;
 extern const Text kPrintAsItIs;
-/// cups-filters do not tell how far they are, so it stays at 0 % for a while.
-std::string layingOut(int percent);
-std::string sending(const std::string &sent, const std::string &total);
-/// In kilobytes or megabytes.
-std::string stillWaiting(const std::string &server);
-std::string byteCount(unsigned long long bytes);
 
 } // namespace imageposition::messages
 

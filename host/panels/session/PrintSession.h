@@ -34,6 +34,10 @@ public:
   /// save first.
   NumbersNow takePrinter(OpenedPrinter opened);
 
+  /// Has the panels read offsets that the job has taken from a measurement. Returns what to say:
+  /// where they come from, and which panels failed.
+  std::string readMeasuredOffsets();
+
   /// The printers that CUPS has, as it answered last.
   Destinations &destinations() noexcept { return destinations_; }
 

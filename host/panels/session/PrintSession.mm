@@ -2,6 +2,7 @@
 
 #include "NumberText.hpp"
 #include "PanelValues.hpp"
+#include "Phrases.hpp"
 #include "PluginFolders.hpp"
 #import "Pool.h"
 
@@ -35,6 +36,13 @@ void PrintSession::loadPanels() {
   panels_->load(plugins_, loaded_);
 }
 
+std::string PrintSession::readMeasuredOffsets() {
+  panels_->takePanelValues();
+  std::vector<std::string> notes = panels_->restore().failures;
+  notes.push_back(job_.alignmentNote());
+  return messages::sentences(notes);
+}
+
 /// A printer's offsets correct its own error, so they never go to another one.
 NumbersNow PrintSession::takePrinter(OpenedPrinter opened) {
   const std::vector<std::string> before = panels_->optionKeys();
@@ -54,7 +62,7 @@ NumbersNow PrintSession::takePrinter(OpenedPrinter opened) {
   if (left != left_.end())
     return NumbersNow::AsBefore;
   if (isRemembered)
-    return NumbersNow::Remembered;
+    return job_.alignmentNote().empty() ? NumbersNow::Remembered : NumbersNow::Measured;
   const std::vector<std::string> keywords = panels_->optionKeys();
   const bool isChanged =
       !before.empty() && !keywords.empty() && numbersIn(job_.settings(), keywords) != set;

@@ -35,9 +35,11 @@ TEST_F(Align, PrintsThreeSheetsAsOneJob) {
   const auto result = run({"--align"});
   ASSERT_EQ(result.status, kDone) << testing::PrintToString(result);
   EXPECT_THAT(result.output, HasSubstr("request id is office-"));
-  EXPECT_THAT(result.errors,
-              AllOf(HasSubstr("3 sheets"), HasSubstr("--align -d office -o Duplex=DuplexNoTumble "
-                                                     "--reading")));
+  EXPECT_THAT(result.errors, AllOf(HasSubstr("3 sheets"),
+                                   HasSubstr("--align -d office -o Duplex=DuplexNoTumble "
+                                             "--reading AX,AY,BX,BY --reading AX,AY,BX,BY "
+                                             "--reading AX,AY,BX,BY\n"),
+                                   HasSubstr("add --crease X,Y")));
 }
 
 TEST_F(Align, PrintsTheSheetsWithoutTheJobsLayout) {
@@ -109,6 +111,46 @@ TEST_F(Align, WarnsOfWhatOffsetsCannotCorrect) {
   const auto far =
       run({"--align", "-o", "BackLeftRightMargin=-60", "-o", kFlag, "--reading", "9,0,9,0"});
   EXPECT_THAT(far.output, HasSubstr("limited to 10 mm"));
+}
+
+TEST_F(Align, KeepsWhatWasMeasuredIfASheetIsFarOff) {
+  ASSERT_EQ(run({"--align", "--reading", "1,2,1,2"}).status, kDone);
+  const auto slip = run({"--align", "--reading", "1.7,-0.3,1.6,-0.2", "--reading",
+                         "-1.6,0.3,1.6,-0.2", "--reading", "1.7,-0.2,1.6,-0.3"});
+  EXPECT_EQ(slip.status, kValue);
+  EXPECT_THAT(slip.errors, HasSubstr("Sheet 2"));
+  EXPECT_THAT(settingsOfNextJob(), IsSupersetOf(offsets("0", "0", "-10", "-20", "True")));
+}
+
+TEST_F(Align, LimitsOffsetsToThePrinters) {
+  ASSERT_EQ(
+      cups->run({"lpadmin", "-p", "office", "-P", IMAGEPOSITION_SAMPLES "/duplex-shift-narrow.ppd"})
+          .status,
+      0);
+  EXPECT_THAT(run({"--align", "--reading", "9,0,9,0"}).output, HasSubstr("limited to 5 mm"));
+  EXPECT_THAT(settingsOfNextJob(), IsSupersetOf(offsets("0", "0", "-50", "0", "True")));
+}
+
+TEST_F(Align, AsksForADecimalPoint) {
+  for (const Words &words : {Words{"--align", "--reading", "1,7,-0,3,1,6,-0,2"},
+                             Words{"--align", "--reading", "0,0,0,0", "--crease", "1,7;0,2"}}) {
+    const auto refused = run(words);
+    EXPECT_EQ(refused.status, kUsage);
+    EXPECT_THAT(refused.errors, HasSubstr("Use a decimal point."));
+  }
+}
+
+TEST_F(Align, ListsWhatWasMeasuredQueueByQueue) {
+  std::string entries;
+  for (const char *const key :
+       {R"("queue": "office", "paper": "A4")", R"("queue": "home", "paper": "A4")",
+        R"("queue": "Office", "paper": "A5")"})
+    entries += (entries.empty() ? "{" : ", {") + std::string(key) +
+               R"(, "turning": "long-edge", "tray": "", "front": [0, 0], "back": [1, 0], )"
+               R"("date": "2026-11-22"})";
+  folder.write("config/print-dialog/alignments.json", R"({"alignments": [)" + entries + "]}");
+  const std::string list = run({"--list-alignments"}, {}).output;
+  EXPECT_THAT(list, testing::MatchesRegex("office: A4[^\n]*\nOffice: A5[^\n]*\nhome: A4[^\n]*\n"));
 }
 
 TEST_F(Align, RefusesWhatItCannotMeasure) {

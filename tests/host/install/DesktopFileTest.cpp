@@ -1,4 +1,4 @@
-// The desktop entry.
+// The desktop entry, and what software centres show.
 #include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
 
@@ -15,6 +15,12 @@ TEST(DesktopFile, IsValid) {
   const auto result = runProcess({"desktop-file-validate", kFile});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.output + result.errors, "");
+}
+
+TEST(DesktopFile, HasAValidDescriptionForSoftwareCentres) {
+  const auto result = runProcess({"appstreamcli", "validate", "--no-net", "--explain",
+                                  IMAGEPOSITION_INSTALL "/com.morva.PrintDialog.metainfo.xml"});
+  EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
 }
 
 TEST(DesktopFile, IsInTheLanguagesOfThePanel) {

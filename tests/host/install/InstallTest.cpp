@@ -60,6 +60,7 @@ TEST_F(Install, PutsEveryFileIntoItsStandardFolder) {
   for (const char *name :
        {"bin/print-dialog", "share/man/man1/print-dialog.1",
         "share/applications/print-dialog.desktop",
+        "share/metainfo/com.morva.PrintDialog.metainfo.xml",
         "share/icons/hicolor/scalable/apps/print-dialog.svg",
         "share/bash-completion/completions/print-dialog", "share/zsh/site-functions/_print-dialog",
         "share/locale/de/LC_MESSAGES/print-dialog.mo", "share/man/man8/print-dialog-portal.8",
@@ -73,7 +74,9 @@ TEST_F(Install, PutsEveryFileIntoItsStandardFolder) {
 TEST_F(Install, TheProgramRuns) {
   const auto result = runProcess({program(), "--version"});
   EXPECT_EQ(result.status, 0) << testing::PrintToString(result);
-  EXPECT_THAT(result.output, HasSubstr("print-dialog "));
+  EXPECT_THAT(result.output, testing::MatchesRegex("print-dialog [0-9.]+\nBuilt with CUPS [0-9.]+, "
+                                                   "GNUstep GUI [0-9.]+, Pango [0-9.]+, qpdf "
+                                                   "[0-9.]+\\.\n"));
 }
 
 TEST_F(Install, TheProgramFindsThePlugIn) {

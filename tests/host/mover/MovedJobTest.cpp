@@ -1,18 +1,9 @@
 // Jobs of print-dialog compared with those of lp with the same options, as a printer gets them.
-#include "DrawnBoxes.hpp"
-#include "DrawnPdf.hpp"
-#include "DrawnRectangles.hpp"
-#include "KeptJobs.hpp"
-#include "TemporaryData.hpp"
+#include "MovedJobFixture.hpp"
 
-#include <cups/raster.h>
-
-#include <algorithm>
-#include <array>
 #include <csignal>
 #include <filesystem>
 #include <gmock/gmock.h>
-#include <memory>
 
 namespace imageposition {
 
@@ -22,76 +13,10 @@ using namespace imageposition::test;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr double kPointsPerTenth = 72 / 254.0;
-constexpr double kTolerance = 0.05 * 10 * kPointsPerTenth; // 0.05 mm
-
-constexpr Offset kFront{{25}, {-7}};
-constexpr Offset kBack{{-30}, {14}};
-
-using Words = std::vector<std::string>;
-
-const Words kOffsets{"-o", "LeftRightMargin=25",
-                     "-o", "TopBottomMargin=-7",
-                     "-o", "BackLeftRightMargin=-30",
-                     "-o", "BackTopBottomMargin=14",
-                     "-o", "com.morva.printsettings.19AImagePositionEnable=True"};
-
-constexpr const char *kTakesPdf = "*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n";
-constexpr const char *kTakesRaster = "*cupsFilter: \"application/vnd.cups-raster 0 -\"\n";
-constexpr const char *kTakesPostScript = "";
-
-std::string ppdWith(const std::string &more) {
-  std::string text = contentOf(IMAGEPOSITION_SAMPLES "/duplex-plain.ppd");
-  text.insert(text.find("*DefaultFont:"), more);
-  return text;
-}
-
-/// The same as `boxesInPostScript` for raster of one bit for each pixel, read from its pixels.
-std::vector<std::array<double, 4>> boxesInRaster(const std::string &content) {
-  const Descriptor file = temporaryFile(content);
-  cups_raster_t *const raster = cupsRasterOpen(file.get(), CUPS_RASTER_READ);
-  std::vector<std::array<double, 4>> boxes;
-  cups_page_header2_t page{};
-  while (cupsRasterReadHeader2(raster, &page) != 0 && page.cupsBitsPerPixel == 1) {
-    std::vector<unsigned char> line(page.cupsBytesPerLine);
-    const unsigned char blank = page.cupsColorSpace == CUPS_CSPACE_K ? 0 : 0xFF;
-    unsigned left = page.cupsWidth, right = 0, top = page.cupsHeight, bottom = 0;
-    for (unsigned y = 0; y < page.cupsHeight; y++) {
-      cupsRasterReadPixels(raster, line.data(), page.cupsBytesPerLine);
-      for (unsigned x = 0; x < page.cupsWidth; x++) {
-        if (((line[x / 8] ^ blank) & (0x80 >> x % 8)) == 0)
-          continue;
-        left = std::min(left, x);
-        right = std::max(right, x + 1);
-        top = std::min(top, y);
-        bottom = y + 1;
-      }
-    }
-    const double x = 72.0 / page.HWResolution[0], y = 72.0 / page.HWResolution[1];
-    boxes.push_back(
-        {left * x, (page.cupsHeight - bottom) * y, right * x, (page.cupsHeight - top) * y});
-  }
-  cupsRasterClose(raster);
-  return boxes;
-}
-
-/// The documents of a job, which a printer gets one after the other.
-std::vector<std::string> documentsIn(const std::string &content) {
-  constexpr const char *kStart = "%PDF-";
-  std::vector<std::string> documents;
-  for (std::size_t start = content.find(kStart); start != std::string::npos;) {
-    const std::size_t next = content.find(kStart, start + 1);
-    documents.push_back(content.substr(start, next - start));
-    start = next;
-  }
-  return documents;
-}
-
-class MovedJob : public testing::Test {
+class MovedJob : public MovedJobFixture {
 protected:
   static void SetUpTestSuite() {
-    kept = std::make_unique<KeptJobs>();
-    ASSERT_TRUE(kept->cups().isRunning()) << kept->cups().log();
+    startCups();
     addQueue("office", kTakesPdf);
     addQueue("postscript", kTakesPostScript);
     addQueue("raster", kTakesRaster);
@@ -106,88 +31,6 @@ protected:
     addQueue("defaults", kTakesPdf,
              {"-o", "number-up-default=2", "-o", "fit-to-page-default=true"});
   }
-  static void TearDownTestSuite() { kept.reset(); }
-
-  static void addQueue(const std::string &name, const std::string &ppd, const Words &words = {}) {
-    const auto added = kept->addQueue(name, ppdWith(ppd), words);
-    ASSERT_EQ(added.status, 0) << testing::PrintToString(added);
-  }
-
-  ProcessResult print(const std::string &queue, const Words &options, const Words &documents,
-                      const Words &more = kOffsets) {
-    Words words{PRINT_DIALOG, "--batch", "-d", queue};
-    for (const Words *part : {&options, &more, &documents})
-      words.insert(words.end(), part->begin(), part->end());
-    return runProcess(words, kept->cups().environment());
-  }
-
-  ProcessResult lp(const std::string &queue, const Words &options, const Words &documents) {
-    Words words{"lp", "-d", queue};
-    for (const Words *part : {&options, &documents})
-      words.insert(words.end(), part->begin(), part->end());
-    return kept->cups().run(words);
-  }
-
-  /// Compares what the printer gets, document by document and side by side.
-  void expectMoved(const std::string &queue, const Words &options, const Words &documents) {
-    const auto ours = print(queue, options, documents);
-    ASSERT_EQ(ours.status, 0) << testing::PrintToString(ours);
-    const auto theirs = lp(queue, options, documents);
-    ASSERT_EQ(theirs.status, 0) << testing::PrintToString(theirs);
-    const auto moved = documentsIn(kept->contentOf(ours));
-    const auto direct = documentsIn(kept->contentOf(theirs));
-    ASSERT_FALSE(direct.empty()) << kept->cups().log();
-    ASSERT_EQ(moved.size(), direct.size());
-    for (std::size_t i = 0; i < direct.size(); i++)
-      expectMoved(drawnRectangles(temporaryFile(direct[i])),
-                  drawnRectangles(temporaryFile(moved[i])), i + 1 < direct.size());
-  }
-
-  void expectMoved(const std::vector<DrawnPage> &direct, const std::vector<DrawnPage> &moved,
-                   bool isPadded) {
-    const std::size_t padding = isPadded && direct.size() % 2 != 0 ? 1 : 0;
-    ASSERT_EQ(moved.size(), direct.size() + padding);
-    for (std::size_t i = 0; i < direct.size(); i++) {
-      SCOPED_TRACE("side " + std::to_string(i + 1));
-      const Offset &by = i % 2 == 0 ? kFront : kBack; // as the printer's mechanics count
-      ASSERT_EQ(moved[i].rectangles.size(), direct[i].rectangles.size());
-      if (direct[i].rectangles.empty())
-        continue; // blank sides are alike, whichever way up
-      EXPECT_NEAR(moved[i].width.count, direct[i].width.count, kTolerance);
-      EXPECT_NEAR(moved[i].height.count, direct[i].height.count, kTolerance);
-      for (std::size_t j = 0; j < direct[i].rectangles.size(); j++) {
-        const PageRectangle &from = direct[i].rectangles[j], &to = moved[i].rectangles[j];
-        const double right = static_cast<double>(by.right.count) * kPointsPerTenth;
-        const double down = static_cast<double>(by.down.count) * kPointsPerTenth;
-        EXPECT_NEAR(to.left.count, from.left.count + right, kTolerance);
-        EXPECT_NEAR(to.right.count, from.right.count + right, kTolerance);
-        EXPECT_NEAR(to.top.count, from.top.count + down, kTolerance);
-        EXPECT_NEAR(to.bottom.count, from.bottom.count + down, kTolerance);
-      }
-    }
-    for (std::size_t i = direct.size(); i < moved.size(); i++)
-      EXPECT_TRUE(moved[i].rectangles.empty());
-  }
-
-  std::string numbered(int pages) {
-    return folder_.write("pages-" + std::to_string(pages) + ".pdf", pdfWithNumberedPages(pages));
-  }
-
-  /// Upright, turned, wide and small pages.
-  std::string mixed() {
-    return folder_.write(
-        "mixed.pdf",
-        pdfDrawing({{"0 0 595 842", 0, "", "72 144 100 50 re f"},
-                    {"0 0 842 595", 0, "", "72 144 100 50 re f"},
-                    {"0 0 842 595", 90, "", "72 144 100 50 re f"},
-                    {"0 0 420 595", 270, "", "72 144 100 50 re f"},
-                    {"-50 -70 545 772", 180, "", "72 144 100 50 re f"},
-                    {"0 0 1191 1684", 0, "/CropBox [50 50 645 892]", "172 144 100 50 re f"},
-                    {"0 0 300 400", 0, "/UserUnit 1.5", "72 144 100 50 re f"}}));
-  }
-
-  TemporaryFolder folder_;
-  static inline std::unique_ptr<KeptJobs> kept;
 };
 
 TEST_F(MovedJob, HasEachSideWhereLpHasItPlusTheOffset) {
@@ -237,17 +80,6 @@ TEST_F(MovedJob, FollowsTheQueue) {
       }
 }
 
-/// By how much a box has moved, in points, to the right and upwards.
-void expectMovedBox(const std::array<double, 4> &from, const std::array<double, 4> &to,
-                    const Offset &by, double tolerance) {
-  for (const std::size_t edge : {0u, 2u})
-    EXPECT_NEAR(to[edge] - from[edge], static_cast<double>(by.right.count) * kPointsPerTenth,
-                tolerance);
-  for (const std::size_t edge : {1u, 3u})
-    EXPECT_NEAR(to[edge] - from[edge], -static_cast<double>(by.down.count) * kPointsPerTenth,
-                tolerance);
-}
-
 TEST_F(MovedJob, ConvertsDocumentsAsLpDoes) {
   std::string picture = "P3\n40 20\n255\n";
   for (int pixel = 0; pixel < 40 * 20; pixel++)
@@ -267,17 +99,14 @@ TEST_F(MovedJob, ConvertsDocumentsAsLpDoes) {
       ASSERT_EQ(ours.status, 0) << testing::PrintToString(ours);
       const auto moved = boxesInPostScript(kept->contentOf(ours)); // Ghostscript reads PDF, too
       const auto direct = boxesInPostScript(kept->contentOf(lp("office", options, {document})));
-      ASSERT_FALSE(direct.empty()) << kept->cups().log();
-      ASSERT_EQ(moved.size(), direct.size());
-      for (std::size_t i = 0; i < direct.size(); i++)
-        expectMovedBox(direct[i], moved[i], i % 2 == 0 ? kFront : kBack, 0.3); // hints move text
+      expectMovedBoxes(direct, moved, 0.3); // hints move text
     }
 }
 
 TEST_F(MovedJob, ArrivesThroughDriversOfOtherKinds) {
   const struct {
     const char *queue;
-    std::vector<std::array<double, 4>> (*boxes)(const std::string &);
+    Boxes (*boxes)(const std::string &);
     double tolerance; // points; a pixel of the raster is 0.24
   } rows[] = {{"postscript", boxesInPostScript, kTolerance}, {"raster", boxesInRaster, 0.25}};
   for (const auto &row : rows)
@@ -288,12 +117,7 @@ TEST_F(MovedJob, ArrivesThroughDriversOfOtherKinds) {
         ASSERT_EQ(ours.status, 0) << testing::PrintToString(ours);
         const auto moved = row.boxes(kept->contentOf(ours));
         const auto direct = row.boxes(kept->contentOf(lp(row.queue, options, {document})));
-        ASSERT_FALSE(direct.empty()) << kept->cups().log();
-        ASSERT_EQ(moved.size(), direct.size());
-        for (std::size_t i = 0; i < direct.size(); i++) {
-          SCOPED_TRACE("side " + std::to_string(i + 1));
-          expectMovedBox(direct[i], moved[i], i % 2 == 0 ? kFront : kBack, row.tolerance);
-        }
+        expectMovedBoxes(direct, moved, row.tolerance);
       }
 }
 
@@ -303,6 +127,21 @@ TEST_F(MovedJob, BeginsEachOfSeveralDocumentsWithAFront) {
     SCOPED_TRACE(testing::PrintToString(options));
     expectMoved("office", options, {numbered(3), numbered(2), numbered(1)});
   }
+}
+
+TEST_F(MovedJob, PadsADocumentForADriverWithABlankSide) {
+  const Words documents{numbered(3), numbered(2)};
+  const auto ours = print("postscript", {}, documents);
+  ASSERT_EQ(ours.status, 0) << testing::PrintToString(ours);
+  auto moved = boxesInPostScript(kept->contentOf(ours));
+  auto direct = boxesInPostScript(kept->contentOf(lp("postscript", {}, documents)));
+  ASSERT_EQ(moved.size(), 6u);
+  ASSERT_EQ(direct.size(), 5u);
+  EXPECT_EQ(moved[3], Boxes::value_type());
+  expectMovedBoxes({direct.begin(), direct.begin() + 3}, {moved.begin(), moved.begin() + 3},
+                   kTolerance);
+  expectMovedBoxes({direct.begin() + 3, direct.end()}, {moved.begin() + 4, moved.end()},
+                   kTolerance);
 }
 
 TEST_F(MovedJob, TellsNobodyToMoveItAgain) {

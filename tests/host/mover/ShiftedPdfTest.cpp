@@ -170,7 +170,11 @@ TEST(ShiftPages, RefusesWhatHasNoUsablePages) {
       {"a header alone", "%PDF-1.4\n"},
       {"without pages", pdfWithPages({})},
       {"pages in a loop", loop},
+      {"without a box",
+       pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+              "<< /Type /Page /Parent 2 0 R >>"})},
       {"a box of words", pdfWithPages({"/a /b /c /d"})},
+      {"a box with one word", pdfWithPages({"0 0 595 /d"})},
       {"a box of another count", pdfWithPages({"0 0 595"})},
       {"a box without area", pdfWithPages({"0 0 0 842"})},
       {"a box that begins where it ends", pdfWithPages({"7 7 7 7"})},
@@ -203,6 +207,24 @@ TEST(ShiftPages, MovesPagesOfAnySize) {
                 99 * kPointsPerTenth, kTolerance)
         << box;
   }
+}
+
+TEST(ShiftPages, MovesALongDocumentOfMixedPages) {
+  std::vector<PageToDraw> pages(3000);
+  const char *const boxes[] = {"0 0 595 842",     "0 0 842 595", "595 842 0 0",
+                               "-50 -70 545 772", "0 0 2.8 2.8", "0 0 14173 14173"};
+  for (std::size_t i = 0; i < pages.size(); i++) {
+    pages[i].box = boxes[i % 6];
+    pages[i].rotation = static_cast<int>(i / 6 % 4) * 90;
+  }
+  const std::string pdf = pdfDrawing(pages);
+  const auto before = drawnRectangles(temporaryFile(pdf));
+  const ShiftPlan plan = planOf({{25}, {-7}}, {{-30}, {14}});
+  const Shifted after = shifted(pdf, plan);
+  ASSERT_EQ(after.drawn.size(), before.size());
+  for (std::size_t i = 0; i < before.size(); i++)
+    expectMoved(before[i].rectangles.at(0), after.drawn[i].rectangles.at(0),
+                i % 2 == 0 ? plan.front : plan.back, std::to_string(i));
 }
 
 /// Moves the page under its contents: the other way to move an image.

@@ -18,7 +18,7 @@ TEST_P(PortalDocument, IsPrintedAsAWhole) {
   EXPECT_THAT(application->wait().output, testing::EndsWith("asked\nresponse 0\n"));
   const auto jobs = newJobs();
   ASSERT_THAT(jobs, SizeIs(1));
-  const std::string printed = kept->contentOfJob(jobs.front());
+  const std::string printed = kept->contentOf(jobs.front());
   EXPECT_THAT(printed, HasSubstr("%PDF-"));
   EXPECT_THAT(printed, HasSubstr("%%EOF"));
 }

@@ -29,7 +29,7 @@ protected:
     std::vector<int> jobs;
     EXPECT_TRUE(becomesTrue([&] { return !(jobs = newJobs()).empty(); }));
     EXPECT_EQ(jobs.size(), 1U);
-    return jobs.empty() ? "" : kept->contentOfJob(jobs.front());
+    return jobs.empty() ? "" : kept->contentOf(jobs.front());
   }
 };
 

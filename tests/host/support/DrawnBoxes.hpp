@@ -12,13 +12,15 @@
 
 namespace imageposition::test {
 
-/// The boxes around what is drawn on the pages of a PostScript or PDF file: left, bottom, right and
-/// top in points, upwards.
-inline std::vector<std::array<double, 4>> boxesInPostScript(const std::string &content) {
+/// Boxes around what is drawn on pages: left, bottom, right and top in points, upwards.
+using Boxes = std::vector<std::array<double, 4>>;
+
+/// Those of a PostScript or PDF file.
+inline Boxes boxesInPostScript(const std::string &content) {
   const TemporaryFolder folder;
   const auto result = runProcess({"gs", "-q", "-dBATCH", "-dNOPAUSE", "-dSAFER", "-sDEVICE=bbox",
                                   folder.write("job.ps", content)});
-  std::vector<std::array<double, 4>> boxes;
+  Boxes boxes;
   std::istringstream lines(result.errors);
   for (std::string line; std::getline(lines, line);) {
     std::istringstream words(line);

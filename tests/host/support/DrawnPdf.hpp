@@ -45,6 +45,16 @@ inline std::string pdfWithNumberedPages(int count) {
   return pdfDrawing(pages);
 }
 
+/// A page that can be read only with a password.
+inline std::string pdfWithPassword() {
+  std::string content = pdfWithNumberedPages(1);
+  content.insert(content.rfind("/Root"),
+                 "/Encrypt << /Filter /Standard /V 1 /R 2 /Length 40 /P -4 /O <" +
+                     std::string(64, '1') + "> /U <" + std::string(64, '2') +
+                     "> >> /ID [<31323334> <31323334>] ");
+  return content;
+}
+
 } // namespace imageposition::test
 
 #endif

@@ -23,11 +23,15 @@ public:
   /// Returns false if CUPS does not generate it in time.
   bool addQueue(const PrivateCups &cups, const std::string &name) const;
 
+  /// The PDF document of the job with that number, counted from 1; waits for it. Empty if there is
+  /// none.
+  std::string documentOf(int job) const;
+
   /// Its log.
   std::string log() { return process_.errorsSoFar(); }
 
 private:
-  TemporaryFolder folder_;
+  TemporaryFolder folder_, jobs_;
   const int port_;
   Process process_; // destroyed before the folder
   bool isReady_ = false;

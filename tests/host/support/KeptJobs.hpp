@@ -16,32 +16,39 @@ namespace imageposition::test {
 
 class KeptJobs {
 public:
-  KeptJobs() : cups_("", {}, "ServerBin " + programs() + "\n") {}
+  /// `policies` are further lines of its cupsd.conf.
+  explicit KeptJobs(const std::string &policies = "")
+      : cups_(policies, {}, "ServerBin " + programs() + "\n") {}
 
   PrivateCups &cups() noexcept { return cups_; }
 
-  /// Adds a queue with this description; `words` are further arguments of lpadmin.
+  /// Adds a queue with this description; `words` are further arguments of lpadmin, such as -v for
+  /// another printer.
   ProcessResult addQueue(const std::string &name, const std::string &ppd,
                          const std::vector<std::string> &words = {}) {
-    std::vector<std::string> all{"lpadmin", "-p",
-                                 name,      "-E",
-                                 "-v",      "keep:" + kept_.path(),
-                                 "-P",      folder_.write(name + ".ppd", ppd)};
+    std::vector<std::string> all{"lpadmin", "-p",  name, "-E",
+                                 "-v",      uri(), "-P", folder_.write(name + ".ppd", ppd)};
     all.insert(all.end(), words.begin(), words.end());
     return cups_.run(all);
   }
 
+  /// The device of printers that keep what they are sent.
+  std::string uri() const { return "keep:" + kept_.path(); }
+
   /// What the printer got of the job that lp or print-dialog has reported; waits for it. Several
   /// documents follow each other. Empty if the job has failed.
   std::string contentOf(const ProcessResult &reported) const {
-    return contentOfJob(numberIn(reported.output));
+    return contentOf(numberIn(reported.output));
   }
-
-  /// The same for the job with that number.
-  std::string contentOfJob(int number) const {
-    const std::string path = kept_.path("job-" + std::to_string(number));
+  /// The same of the job with that number.
+  std::string contentOf(int job) const {
+    const std::string path = kept_.path("job-" + std::to_string(job));
     const bool isThere = becomesTrue([&] { return std::filesystem::exists(path); });
     return isThere ? test::contentOf(path) : "";
+  }
+  /// The options of a job of which the printer has got the content, as filters get them.
+  std::string optionsOf(int job) const {
+    return test::contentOf(kept_.path("options-" + std::to_string(job)));
   }
 
   /// The number at the end of "request id is office-12 (1 file(s))"; 0 if there is none.
@@ -54,16 +61,18 @@ public:
   }
 
 private:
-  /// CUPS's programs, and a backend.
+  /// CUPS's programs, a backend that keeps jobs, and the one that forwards to other servers.
   std::string programs() {
     for (const char *const part : {"daemon", "driver", "filter", "monitor", "notifier"})
       std::filesystem::create_symlink(std::string("/usr/lib/cups/") + part, folder_.path(part));
     const std::string backend = folder_.write("backend/keep", "#!/bin/sh\n"
                                                               "[ $# = 0 ] && exit 0\n"
-                                                              "kept=${DEVICE_URI#keep:}/job-$1\n"
-                                                              "cat $6 > $kept.part\n"
-                                                              "mv $kept.part $kept\n");
+                                                              "cd ${DEVICE_URI#keep:}\n"
+                                                              "echo \"$5\" > options-$1\n"
+                                                              "cat $6 > part-$1\n"
+                                                              "mv part-$1 job-$1\n");
     chmod(backend.c_str(), 0755);
+    std::filesystem::create_symlink("/usr/lib/cups/backend/ipp", folder_.path("backend/ipp"));
     chmod(folder_.path().c_str(), 0755);
     chmod(kept_.path().c_str(), 0777); // backends run as another user
     return folder_.path();

@@ -13,8 +13,8 @@ constexpr int kShortestArm = 18;
 
 } // namespace
 
-Picture::Picture(const Screen &screen) {
-  const Control *const place = screen.find("picture", "");
+Picture::Picture(const Screen &screen, const std::string &kind) {
+  const Control *const place = screen.find(kind, "");
   Display *const display = XOpenDisplay(nullptr);
   if (place == nullptr || display == nullptr)
     return;

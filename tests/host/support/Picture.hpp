@@ -4,6 +4,7 @@
 
 #include "Screen.hpp"
 
+#include <string>
 #include <vector>
 
 namespace imageposition::test {
@@ -16,13 +17,13 @@ struct Outline {
   int bottom = -1;
 };
 
-/// A screenshot of the picture in its light colours.
+/// A screenshot of the picture, or of another kind of view, in its light colours.
 class Picture {
 public:
   /// Empty.
   Picture() = default;
-  /// Empty if there is no picture on the screen.
-  explicit Picture(const Screen &screen);
+  /// Empty if there is no such view on the screen.
+  explicit Picture(const Screen &screen, const std::string &kind = "picture");
 
   bool operator!=(const Picture &other) const { return pixels_ != other.pixels_; }
 

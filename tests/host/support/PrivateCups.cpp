@@ -1,8 +1,11 @@
 #include "PrivateCups.hpp"
 
+#include "Waiting.hpp"
+
 #include <cups/cups.h>
 
 #include <chrono>
+#include <filesystem>
 #include <thread>
 #include <unistd.h>
 
@@ -35,6 +38,15 @@ void PrivateCups::start() {
 
 ProcessResult PrivateCups::run(const std::vector<std::string> &words) const {
   return runProcess(words, environment());
+}
+
+bool PrivateCups::addDriverlessQueue(const std::string &name, const std::string &uri) const {
+  run({"lpadmin", "-p", name, "-E", "-v", uri, "-m", "everywhere"});
+  // CUPS writes the description after it has confirmed the queue.
+  const std::string description = folder_.path("ppd/" + name + ".ppd");
+  if (!becomesTrue([&] { return std::filesystem::exists(description); }))
+    return false;
+  return run({"lpadmin", "-p", name, "-v", uri + "?waitjob=false"}).status == 0;
 }
 
 std::string PrivateCups::jobAttribute(int job, const char *name) const {

@@ -45,6 +45,10 @@ public:
   }
   /// Runs a CUPS command against it.
   ProcessResult run(const std::vector<std::string> &words) const;
+  /// Adds a queue with the description that CUPS generates from the attributes of the printer at
+  /// that address. Jobs are done when they are sent. Returns false if CUPS does not generate the
+  /// description in time.
+  bool addDriverlessQueue(const std::string &name, const std::string &uri) const;
   /// An attribute of a job as a string; empty if there is none.
   std::string jobAttribute(int job, const char *name) const;
   /// Its log.

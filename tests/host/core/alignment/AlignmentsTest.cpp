@@ -140,6 +140,21 @@ TEST_F(AlignmentFile, LosesNothingButWhatItCannotUse) {
   EXPECT_EQ(errors_.str(), "");
 }
 
+TEST_F(AlignmentFile, IgnoresEntriesWithNumbersThatItCannotHave) {
+  for (const char *const numbers :
+       {R"("front": [4294967297, 0], "sheets": 3)", R"("front": [18446744073709551615, 0])",
+        R"("front": [1e30, 0])", R"("front": [0.5, 0])", R"("front": [101, 0])",
+        R"("front": [1, 0], "sheets": 4294967297)", R"("front": [1, 0], "sheets": 1e30)",
+        R"("front": [1, 0], "spread": [4294967297, 0])"}) {
+    const auto alignments = Alignments::fromText(
+        R"({"alignments": [{"queue": "office", "turning": "long-edge", "tray": "", "paper": "A4", )"
+        R"("back": [0, 0], "date": "2026-11-22", )" +
+        std::string(numbers) + "}]}");
+    ASSERT_TRUE(alignments) << numbers;
+    EXPECT_TRUE(alignments->all().empty()) << numbers;
+  }
+}
+
 TEST_F(AlignmentFile, ThatCannotBeWrittenSaysSo) {
   folder_.write("config", "a file where the folder should be");
   EXPECT_FALSE(store(alignmentOf(keyOf("office"), 3)));

@@ -47,6 +47,14 @@ TEST(Measurement, IsTheMedianOfTheSheets) {
   EXPECT_EQ(measured.sheets, 3);
 }
 
+TEST(Measurement, DoubtsASheetThatIsFarOffTheOthers) {
+  const SheetReading usual = reading(17, -3, 16, -2), slip = reading(-16, -3, 16, -2);
+  EXPECT_EQ(measure(a4(), {usual, slip, usual}).doubtful, 2);
+  EXPECT_EQ(measure(a4(), {usual, usual, slip}).doubtful, 3);
+  EXPECT_EQ(measure(a4(), {usual, reading(35, -3, 34, -2), usual}).doubtful, 0) << "scatter";
+  EXPECT_EQ(measure(a4(), {usual, slip}).doubtful, 0) << "nobody knows which";
+}
+
 TEST(Measurement, FindsATurnedBack) {
   const SheetLayout layout = a4();
   constexpr double kAngle = 0.2; // degrees
@@ -85,6 +93,24 @@ TEST(Measurement, AcceptsCornersThatDisagreeByThreeTenths) {
   EXPECT_FALSE(measure(a4(), {reading(0, 0, 3, -3)}).areCornersApart());
   EXPECT_TRUE(measure(a4(), {reading(0, 0, 4, 0)}).areCornersApart());
   EXPECT_TRUE(measure(a4(), {reading(0, 0, 0, -4)}).areCornersApart());
+}
+
+TEST(Measurement, LeavesHalfATenth) {
+  for (const int sign : {1, -1}) {
+    const auto measured = measure(a4(), {reading(sign * 17, 0, sign * 16, sign)});
+    const auto moved = withBackMoved({}, measured);
+    EXPECT_EQ(moved.offsets.back, (Offset{{-sign * 16}, {0}}));
+    const auto again = measure(a4(), {reading(sign, 0, 0, sign)});
+    EXPECT_EQ(withBackMoved(moved.offsets, again).offsets, moved.offsets);
+  }
+}
+
+TEST(Measurement, LimitsOffsetsToThePrinters) {
+  const auto measured = measure(a4(), {reading(80, -60, 80, -60)});
+  const auto moved = withBackMoved({}, measured, {50});
+  EXPECT_EQ(moved.offsets.back, (Offset{{-50}, {50}}));
+  EXPECT_TRUE(moved.isLimited);
+  EXPECT_EQ(withBothMoved({}, {{60}, {0}}, a4(), {50}).offsets.front, (Offset{{50}, {0}}));
 }
 
 TEST(Measurement, LimitsOffsets) {

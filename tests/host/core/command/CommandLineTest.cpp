@@ -231,9 +231,10 @@ TEST(CommandLine, HelpNamesEveryOptionAndExitStatus) {
     EXPECT_THAT(help, HasSubstr("\n  " + std::to_string(status) + "  "));
 }
 
-TEST(CommandLine, VersionIsOneLine) {
+TEST(CommandLine, VersionNamesTheProgramAndItsLibraries) {
   const std::string text = std::get<Answer>(readCommandLine({"--version"})).text;
-  EXPECT_THAT(text, testing::MatchesRegex("print-dialog [0-9.]+\n"));
+  EXPECT_THAT(text,
+              testing::MatchesRegex("print-dialog [0-9.]+\nBuilt with CUPS [0-9.]+, .+\\.\n"));
 }
 
 } // namespace

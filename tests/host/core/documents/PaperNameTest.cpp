@@ -42,6 +42,14 @@ TEST_F(PaperName, IsMentionedOnlyIfTheMediaDiffers) {
   EXPECT_EQ(mismatch(kOdd), "71 × 106 mm document on A4");
 }
 
+TEST_F(PaperName, OfTheMediaIsThatOfItsChoice) {
+  choose("A5");
+  ppdPageSize(printer_.ppd(), nullptr)->width =
+      static_cast<float>(kA4.width.count); // as A4 without borders has
+  ppdPageSize(printer_.ppd(), nullptr)->length = static_cast<float>(kA4.length.count);
+  EXPECT_EQ(mismatch(kOdd), "71 × 106 mm document on A5");
+}
+
 } // namespace
 
 } // namespace imageposition

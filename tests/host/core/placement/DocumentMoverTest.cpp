@@ -7,6 +7,10 @@
 #include "TemporaryFolder.hpp"
 #include "Waiting.hpp"
 
+#include <qpdf/Buffer.hh>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFWriter.hh>
+
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -161,21 +165,28 @@ TEST_F(DocumentMover, DoesWithoutTheChooserForPdfAlone) {
   EXPECT_EQ(problemWith("Dear Sir or Madam\n"), MoveProblem::NoConversion);
 }
 
+/// Can be read without a password.
+std::string pdfThatForbidsPrinting() {
+  const std::string content = pdfWithNumberedPages(1);
+  QPDF pdf;
+  pdf.processMemoryFile("document", content.data(), content.size());
+  QPDFWriter writer(pdf);
+  writer.setOutputMemory();
+  writer.setR6EncryptionParameters("", "owner", true, true, true, true, true, true, qpdf_r3p_none,
+                                   true);
+  writer.write();
+  const auto buffer = writer.getBufferSharedPointer();
+  return {reinterpret_cast<const char *>(buffer->getBuffer()), buffer->getSize()};
+}
+
 TEST_F(DocumentMover, SaysWhyADocumentCannotBeMoved) {
-  const std::string encrypted = [] {
-    std::string content = pdfWithNumberedPages(1);
-    content.insert(content.rfind("/Root"),
-                   "/Encrypt << /Filter /Standard /V 1 /R 2 /Length 40 /P -4 /O <" +
-                       std::string(64, '1') + "> /U <" + std::string(64, '2') +
-                       "> >> /ID [<31323334> <31323334>] ");
-    return content;
-  }();
   const struct {
     std::string content;
     MoveProblem problem;
     const char *message;
   } rows[] = {
-      {encrypted, MoveProblem::Encrypted, "protected by a password"},
+      {pdfWithPassword(), MoveProblem::Encrypted, "protected by a password"},
+      {pdfThatForbidsPrinting(), MoveProblem::Forbidden, "does not allow printing"},
       {"%PDF-1.4\nnothing", MoveProblem::Damaged, "damaged"},
       {std::string("\x7f"
                    "ELF\0\0\0\1\2\3",
@@ -186,7 +197,10 @@ TEST_F(DocumentMover, SaysWhyADocumentCannotBeMoved) {
     EXPECT_EQ(problemWith(row.content), row.problem) << row.message;
     EXPECT_THAT(message_, HasSubstr(row.message));
     EXPECT_THAT(message_, HasSubstr("\"report\""));
-    EXPECT_EQ(message_, reason_ + " To print without moving the image, use --no-shift.");
+    const bool isPrintable =
+        row.problem != MoveProblem::Encrypted && row.problem != MoveProblem::Forbidden;
+    const char *const advice = " To print without moving the image, use --no-shift.";
+    EXPECT_EQ(message_, isPrintable ? reason_ + advice : reason_);
   }
 }
 

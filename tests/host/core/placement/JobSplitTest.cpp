@@ -35,6 +35,13 @@ JobSplit split(const std::string &settings, const std::string &defaults = "",
   return splitJob(job, ppd, "front 1 2 back 0 0");
 }
 
+TEST(JobSplit, SendsOffsetsOfZeroWhereCupsWouldAddDefaults) {
+  const JobSplit job = split("LeftRightMargin=25", "LeftRightMargin=3 TopBottomMargin=4");
+  EXPECT_EQ(valueIn(job.printing.settings, "LeftRightMargin"), "0");
+  EXPECT_EQ(valueIn(job.printing.settings, "TopBottomMargin"), "0");
+  EXPECT_EQ(valueIn(job.printing.settings, "BackLeftRightMargin"), "(none)");
+}
+
 TEST(JobSplit, LaysOutBeforeAndPrintsNeutrally) {
   const struct {
     const char *settings, *defaults, *option, *laidOut, *printed;
@@ -76,7 +83,7 @@ TEST(JobSplit, LaysOutBeforeAndPrintsNeutrally) {
       {"emit-jcl=true", "", "emit-jcl", "false", "true"},
       // the offsets
       {"LeftRightMargin=10", "", "LeftRightMargin", "(none)", "(none)"},
-      {"media=A4", "BackTopBottomMargin=10", "BackTopBottomMargin", "(none)", "(none)"},
+      {"media=A4", "BackTopBottomMargin=10", "BackTopBottomMargin", "(none)", "0"},
       {"media=A4", "", IPA_KEY_ENABLE, "(none)", "False"},
       {IPA_KEY_ENABLE "=True", "", IPA_KEY_ENABLE, "(none)", "False"},
       {"media=A4", "", kShiftNote, "(none)", "front 1 2 back 0 0"},

@@ -80,7 +80,7 @@ TEST(TranslationOf, CountsInThePagesUnit) {
   const Offset offset{{254}, {508}};
   EXPECT_DOUBLE_EQ(translationOf(offset, 0, 2).x.count, 36);
   EXPECT_DOUBLE_EQ(translationOf(offset, 0, 0.5).y.count, -288);
-  for (const double unusable : {0.0, -1.0, std::nan("")})
+  for (const double unusable : {0.0, -1.0, std::nan(""), 1e-320, 1e300, HUGE_VAL})
     EXPECT_DOUBLE_EQ(translationOf(offset, 0, unusable).x.count, 72);
 }
 

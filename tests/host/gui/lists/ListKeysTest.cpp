@@ -64,6 +64,23 @@ TEST_F(TypedLetters, LeadThroughTheItemsWhenRepeated) {
   EXPECT_EQ(type("a"), 1);
 }
 
+TEST_F(TypedLetters, FindATitleThatHasThemElsewhere) {
+  const std::vector<ListItem> printers{{"plain"},
+                                       {"hp indigo 001 (hp-indigo-001)"},
+                                       {"hp indigo 042 (hp-indigo-042)"},
+                                       {"hp-indigo-9"}};
+  int at = 0;
+  for (const char letter : std::string("hp-indigo-042")) {
+    const int found = typeAhead_.type(printers, at, std::string(1, letter), now_);
+    at = found >= 0 ? found : at;
+  }
+  EXPECT_EQ(at, 2);
+  typeAhead_ = {};
+  for (const char letter : std::string("042"))
+    at = typeAhead_.type(printers, 0, std::string(1, letter), now_);
+  EXPECT_EQ(at, 2);
+}
+
 TEST_F(TypedLetters, OfNoItemLeaveTheChoiceAlone) {
   EXPECT_EQ(type("x"), -1);
   EXPECT_EQ(at_, 0);

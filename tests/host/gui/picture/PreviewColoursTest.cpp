@@ -37,6 +37,14 @@ TEST(PreviewColours, LinesStandOutFromThePaper) {
       EXPECT_GE(contrast(colour, colours->paper), 3) << std::hex << colour;
 }
 
+TEST(PaperColours, LookLikePaper) {
+  for (const PaperColours *colours : {&kLightPaper, &kDarkPaper}) {
+    EXPECT_GE(contrast(colours->ink, colours->paper), 12);
+    EXPECT_GE(contrast(colours->through, colours->paper), 3);
+    EXPECT_LE(contrast(colours->mark, colours->paper), 1.5);
+  }
+}
+
 struct Blindness {
   const char *name;
   double matrix[3][3];

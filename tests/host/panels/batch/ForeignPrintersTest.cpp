@@ -15,6 +15,7 @@
 namespace {
 
 using namespace imageposition::test;
+using testing::AnyOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -133,7 +134,8 @@ TEST_F(ForeignPrinters, WithTheAttributeTheValuesReachTheJob) {
     auto settings = settingsIn(result.output);
     settings.erase("Duplex");
     EXPECT_EQ(settings, offsets("-3", "0", "0", "12", "True"));
-    EXPECT_THAT(result.errors, IsEmpty());
+    // Some have no duplex unit installed.
+    EXPECT_THAT(result.errors, AnyOf(IsEmpty(), HasSubstr("The printer cannot combine")));
   });
 }
 

@@ -51,6 +51,8 @@ const char *kindOf(NSView *view) {
     return [(NSTextField *)view isEditable] ? "field" : "label";
   if ([view isKindOfClass:NSClassFromString(@"PreviewView")])
     return "picture";
+  if ([view isKindOfClass:NSClassFromString(@"ScaleView")])
+    return "drawing";
   if ([view isKindOfClass:[NSScroller class]])
     return "scroller";
   if ([view isKindOfClass:[NSClipView class]])
