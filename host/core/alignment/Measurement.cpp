@@ -115,6 +115,7 @@ int doubtfulIn(const std::vector<SheetReading> &readings) {
   std::array<double, kVernierCount> medians{};
   for (std::size_t i = 0; i < medians.size(); i++) {
     std::vector<double> values;
+    values.reserve(readings.size());
     for (const SheetReading &reading : readings)
       values.push_back(static_cast<double>(lengthsOf(reading)[i].count));
     medians[i] = median(values);

@@ -268,7 +268,7 @@ bool SubmissionWork::isSilentFor(Clock::duration time) const {
   return !question_ && Clock::now() - lastSign_ >= time;
 }
 
-JobSubmission::JobSubmission(JobRequest request, JobDocuments documents, Changed changed,
+JobSubmission::JobSubmission(const JobRequest &request, JobDocuments documents, Changed changed,
                              JobPreparation prepare)
     : JobSubmission(
           request.printer,

@@ -34,7 +34,7 @@ public:
 
   /// Starts at once. Without `changed`, a job that requires a password fails. With `prepare`, sends
   /// what that makes of the documents. Throws a `SubmissionFailure` if no thread can be created.
-  JobSubmission(JobRequest request, JobDocuments documents, Changed changed = {},
+  JobSubmission(const JobRequest &request, JobDocuments documents, Changed changed = {},
                 JobPreparation prepare = {});
   /// The same for other work. `printer` is for messages.
   JobSubmission(std::string printer, Work job, Changed changed = {});

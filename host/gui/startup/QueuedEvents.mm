@@ -63,8 +63,9 @@ namespace imageposition {
 
 void deliverQueuedEvents() {
   auto *const display = static_cast<Display *>([GSCurrentServer() serverDevice]);
-  if (display != nullptr)
-    [[QueuedEvents alloc] initWithDisplay:display]; // the run loop does not retain it
+  // The run loop does not retain it.
+  [[maybe_unused]] static QueuedEvents *const events =
+      display != nullptr ? [[QueuedEvents alloc] initWithDisplay:display] : nil;
 }
 
 } // namespace imageposition
