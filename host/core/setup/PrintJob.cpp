@@ -9,15 +9,11 @@
 #include "JobSettings.hpp"
 #include "JobSplit.hpp"
 #include "JobSubmission.hpp"
-#include "JobTexts.hpp"
 #include "OptionText.hpp"
 #include "PanelValues.hpp"
 #include "PdfFile.hpp"
 #include "Phrases.hpp"
-#include "PrinterConnection.hpp"
-#include "PrinterFailure.hpp"
-#include "PrinterOptions.hpp"
-#include "PrinterTexts.hpp"
+#include "PreparedJob.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
 #include "SharedKeys.h"
@@ -26,13 +22,9 @@
 #include "ValueCheck.hpp"
 
 #include <cups/cups.h>
-#include <cups/pwg.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <optional>
@@ -43,28 +35,6 @@
 namespace imageposition {
 
 namespace {
-
-/// Null if the environment names no printer. libcups ignores the name "lp" in PRINTER.
-const char *printerOfEnvironment() {
-  const char *const first = std::getenv("LPDEST");
-  const char *const second = std::getenv("PRINTER");
-  return first != nullptr || second == nullptr || std::strcmp(second, "lp") == 0 ? first : second;
-}
-
-/// The user's default, or the server's if the user has none.
-std::string defaultQueue() {
-  SilenceLimit silence;
-  const auto connection = connectForPrinter(silence);
-  const CupsDestination destination(cupsGetNamedDest(connection->http(), nullptr, nullptr));
-  if (!destination) {
-    const char *const named = printerOfEnvironment();
-    throw PrinterFailure(named != nullptr ? messages::noPrinterOfEnvironment(named)
-                                          : messages::kNoDefaultPrinter.str(),
-                         messages::kNamePrinter);
-  }
-  return QueueName{destination->name, destination->instance != nullptr ? destination->instance : ""}
-      .text();
-}
 
 /// Where lp has CUPS send notifications about a job.
 std::string mailAddress() {
@@ -101,54 +71,6 @@ bool isSameIn(const PrintSettingsStore &left, const PrintSettingsStore &right, c
   const char *const one = left.get(name);
   const char *const other = right.get(name);
   return one == nullptr || other == nullptr ? one == other : std::strcmp(one, other) == 0;
-}
-
-Ticket readPrepared(const std::string &path) {
-  auto ticket = readTicket(path);
-  if (!ticket)
-    throw Failure(ExitCode::Ticket, messages::ticketUnreadable(path, systemReason(ENOENT)));
-  return std::move(*ticket);
-}
-
-/// The paper of the marked choices; none if the printer has no paper sizes.
-std::optional<TicketPaper> paperOf(PrinterDescription &printer, PrintSettingsStore &settings) {
-  const auto option = PrinterOptions(printer, settings).find("PageSize"); // marks the choices
-  const ppd_size_t *const size = ppdPageSize(printer.ppd(), nullptr);
-  if (!option || size == nullptr)
-    return std::nullopt;
-  return TicketPaper{option->chosen,
-                     option->textOf(option->chosen),
-                     size->width,
-                     size->length,
-                     size->left,
-                     size->bottom,
-                     size->width - size->right,
-                     size->length - size->top};
-}
-
-/// Whether the printer has the paper, which is a name of the PPD or of a standard.
-bool hasPaper(ppd_file_t *ppd, const char *name) {
-  constexpr double kTolerance = 5; // points; as CUPS has it
-  const pwg_media_t *const paper = pwgMediaForPWG(name);
-  const auto isIt = [&](const ppd_size_t &size) {
-    return imageposition::isSame(size.name, name) ||
-           (paper != nullptr && std::abs(size.width - paper->width * 72 / 2540.0) <= kTolerance &&
-            std::abs(size.length - paper->length * 72 / 2540.0) <= kTolerance);
-  };
-  return std::any_of(ppd->sizes, ppd->sizes + ppd->num_sizes, isIt);
-}
-
-/// What of an application's proposals the printer accepts, without complaint: the user did not
-/// enter them.
-PrintSettingsStore acceptable(const PrintSettingsStore &proposed, ppd_file_t *ppd) {
-  PrintSettingsStore accepted;
-  for (int i = 0; i < proposed.optionCount(); i++) {
-    const cups_option_t &option = proposed.options()[i];
-    const auto value = fitSetting(ppd, option.name, option.value, false).value;
-    if (value && (std::strcmp(option.name, "media") != 0 || hasPaper(ppd, option.value)))
-      accepted.set(option.name, *value);
-  }
-  return accepted;
 }
 
 /// True for a pipe or a file; false for a terminal and for /dev/null, which desktops pass.
@@ -223,31 +145,6 @@ private:
 };
 
 } // namespace
-
-OpenedPrinter openPrinter(const Arguments &arguments) {
-  if (!arguments.ppd.empty())
-    return {{}, std::make_unique<PrinterDescription>(PrinterDescription::fromFile(arguments.ppd))};
-  return openQueue(namedQueue(arguments), missingShift(arguments));
-}
-
-std::string namedQueue(const Arguments &arguments) {
-  return arguments.prepared.empty() ? arguments.queue : readPrepared(arguments.prepared).printer;
-}
-
-MissingShift missingShift(const Arguments &arguments) {
-  return arguments.isUnshifted ? MissingShift::Leave : MissingShift::Add;
-}
-
-OpenedPrinter openQueue(const std::string &wanted, MissingShift shift) {
-  const std::string queue = wanted.empty() ? defaultQueue() : wanted;
-  return {queue, std::make_unique<PrinterDescription>(PrinterDescription::ofQueue(queue, shift))};
-}
-
-std::string rememberedQueue(const Arguments &arguments, const History &history) {
-  const bool isNamed = !arguments.queue.empty() || !arguments.ppd.empty() ||
-                       !arguments.prepared.empty() || printerOfEnvironment() != nullptr;
-  return isNamed ? "" : history.printer();
-}
 
 PrintJob::PrintJob(const Arguments &arguments, OpenedPrinter &&first, History history)
     : arguments_(arguments), queue_(std::move(first.queue)), printer_(std::move(first.printer)),
@@ -640,8 +537,7 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
     return startPdf(request, path, std::move(changed));
   if (ownShift == OwnShift::Skip)
     removeOffsets(request);
-  return submit({ticket_.settings, documentsToSend(), title()}, std::move(request),
-                std::move(changed));
+  return submit({ticket_.settings, documentsToSend(), title()}, request, std::move(changed));
 }
 
 std::unique_ptr<JobSubmission> PrintJob::printOther(const PrintedContent &content,
@@ -650,10 +546,11 @@ std::unique_ptr<JobSubmission> PrintJob::printOther(const PrintedContent &conten
   const MarkedAgain job(*printer_, ticket_.settings);
   JobRequest request = requestFor(content, destinations, true);
   request.documentNames.assign(content.documents.size(), request.title);
-  return submit(content, std::move(request), std::move(changed));
+  return submit(content, request, std::move(changed));
 }
 
-std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content, JobRequest request,
+std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content,
+                                                const JobRequest &request,
                                                 JobSubmission::Changed changed) {
   const JobDocuments &documents = content.documents;
   const ShiftDecision decision = shiftDecision(request, content.settings);
@@ -684,7 +581,7 @@ std::unique_ptr<JobSubmission> PrintJob::submit(const PrintedContent &content, J
     prepare = [shifted](const JobDocuments &sent, const ProgressCallback &progress) {
       return shifted->move(sent, progress);
     };
-  return std::make_unique<JobSubmission>(std::move(request), documents, std::move(changed),
+  return std::make_unique<JobSubmission>(request, documents, std::move(changed),
                                          std::move(prepare));
 }
 
