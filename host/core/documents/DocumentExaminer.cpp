@@ -1,5 +1,6 @@
 #include "DocumentExaminer.hpp"
 
+#include "ChildProgram.hpp"
 #include "FileContent.hpp"
 #include "ProgramFolder.hpp"
 #include "SignalBlock.hpp"
@@ -8,10 +9,8 @@
 #include <atomic>
 #include <chrono>
 #include <csignal>
-#include <fcntl.h>
 #include <mutex>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <thread>
@@ -38,30 +37,15 @@ class Examination {
 public:
   explicit Examination(const std::string &document) {
     const std::string program = examinerProgram();
-    std::array<int, 2> ends{};
-    if (program.empty() || pipe2(ends.data(), O_CLOEXEC) != 0)
+    if (program.empty())
       return;
-    const Descriptor output(ends[1]);
-    report_ = Descriptor(ends[0]);
-    std::string path = document[0] == '/' ? document : "./" + document;
-    std::string name = program;
-    char *const words[] = {name.data(), path.data(), nullptr};
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_adddup2(&actions, output.get(), STDOUT_FILENO);
-    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
-    posix_spawnattr_t attributes; // signals are delivered although this thread blocks some
-    posix_spawnattr_init(&attributes);
-    sigset_t none;
-    sigemptyset(&none);
-    posix_spawnattr_setsigmask(&attributes, &none);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
-    if (posix_spawn(&process_, program.c_str(), &actions, &attributes, words, environ) != 0)
-      process_ = -1;
-    posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&actions);
+    try {
+      ProgramPipe pipe = newProgramPipe();
+      const std::string path = document[0] == '/' ? document : "./" + document;
+      process_ = startProgram({{program, path}, std::nullopt, {-1, pipe.writer.get(), -1}});
+      report_ = std::move(pipe.reader);
+    } catch (const std::system_error &) { // the document stays unknown
+    }
   }
   /// Ends the process. One that waits for a file system which does not respond cannot be waited
   /// for.

@@ -1,18 +1,16 @@
 #include "DocumentMover.hpp"
 
+#include "ChildProgram.hpp"
 #include "Phrases.hpp"
 #include "PlacementTexts.hpp"
 #include "ProgramFolder.hpp"
 #include "TemporaryData.hpp"
 
 #include <array>
-#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
@@ -27,7 +25,6 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kBetweenLooks = 50;                  // milliseconds
 constexpr std::chrono::milliseconds kEndTime{120}; // for the mover to clean up
-constexpr int kFirstHigh = 10;                     // above all descriptors with a meaning
 constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_MOVER;
 
 bool isProgram(const std::string &path) { return access(path.c_str(), X_OK) == 0; }
@@ -55,31 +52,6 @@ bool isReadable(MoveProblem problem) {
   return problem != MoveProblem::Encrypted && problem != MoveProblem::Forbidden;
 }
 
-std::vector<char *> pointersTo(const std::vector<std::string> &strings) {
-  std::vector<char *> pointers;
-  pointers.reserve(strings.size() + 1);
-  for (const std::string &string : strings)
-    pointers.push_back(const_cast<char *>(string.c_str())); // posix_spawn does not modify them
-  pointers.push_back(nullptr);
-  return pointers;
-}
-
-/// Out of the way of the numbers that the mover's descriptors get.
-Descriptor highCopy(int descriptor) {
-  Descriptor copy(fcntl(descriptor, F_DUPFD_CLOEXEC, kFirstHigh));
-  if (!copy.isOpen())
-    throw std::system_error(errno, std::generic_category());
-  return copy;
-}
-
-std::array<Descriptor, 2> newPipe() {
-  std::array<int, 2> ends{};
-  if (pipe2(ends.data(), O_CLOEXEC) != 0)
-    throw std::system_error(errno, std::generic_category());
-  const Descriptor first(ends[0]), second(ends[1]);
-  return {highCopy(first.get()), highCopy(second.get())};
-}
-
 struct MoverFiles {
   int document;
   int description;
@@ -90,16 +62,19 @@ struct MoverFiles {
 class Run {
 public:
   Run(const std::string &program, const MoverTask &task, const MoverFiles &files)
-      : lifeline_(newPipe()), reports_(newPipe()) {
-    std::vector<std::string> words = wordsOf(task);
-    words.insert(words.begin(), program);
-    start(program, words, environmentIn(place_), files);
-    lifeline_[0] = Descriptor(-1);
-    reports_[1] = Descriptor(-1);
+      : lifeline_(newProgramPipe()), reports_(newProgramPipe()) {
+    ProgramStart start{wordsOf(task), environmentIn(place_), {}, true};
+    start.words.insert(start.words.begin(), program);
+    start.descriptors = {lifeline_.reader.get(), reports_.writer.get(), -1,
+                         files.document,         files.description,     files.result};
+    static_assert(kMoverDocument == 3 && kMoverDescription == 4 && kMoverResult == 5);
+    process_ = startProgram(start);
+    lifeline_.reader = Descriptor(-1);
+    reports_.writer = Descriptor(-1);
   }
   /// The mover ends itself, and all that it has started, when the pipe is closed.
   ~Run() {
-    lifeline_[1] = Descriptor(-1);
+    lifeline_.writer = Descriptor(-1);
     const auto end = Clock::now() + kEndTime;
     while (waitpid(process_, nullptr, WNOHANG) == 0) {
       if (Clock::now() >= end)
@@ -115,11 +90,11 @@ public:
   std::optional<MoverReport> result(const MoveProgress &progress) {
     int percent = 0;
     while (progress(percent)) {
-      pollfd waiting{reports_[0].get(), POLLIN, 0};
+      pollfd waiting{reports_.reader.get(), POLLIN, 0};
       if (poll(&waiting, 1, kBetweenLooks) <= 0)
         continue;
       std::array<char, 4096> part{};
-      const ssize_t count = read(reports_[0].get(), part.data(), part.size());
+      const ssize_t count = read(reports_.reader.get(), part.data(), part.size());
       if (count <= 0)
         return MoverReport{MoverReport::Kind::Failed, 0, MoveProblem::Fault, {}};
       text_.append(part.data(), static_cast<std::size_t>(count));
@@ -135,37 +110,8 @@ public:
   }
 
 private:
-  void start(const std::string &program, const std::vector<std::string> &words,
-             const std::vector<std::string> &environment, const MoverFiles &files) {
-    const Descriptor document = highCopy(files.document);
-    const Descriptor description = highCopy(files.description);
-    const Descriptor result = highCopy(files.result);
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, lifeline_[0].get(), STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, reports_[1].get(), STDOUT_FILENO);
-    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_adddup2(&actions, document.get(), kMoverDocument);
-    posix_spawn_file_actions_adddup2(&actions, description.get(), kMoverDescription);
-    posix_spawn_file_actions_adddup2(&actions, result.get(), kMoverResult);
-    posix_spawn_file_actions_addclosefrom_np(&actions, kMoverResult + 1);
-    posix_spawnattr_t attributes; // signals for this process's group are not the mover's
-    posix_spawnattr_init(&attributes);
-    sigset_t none;
-    sigemptyset(&none);
-    posix_spawnattr_setsigmask(&attributes, &none);
-    posix_spawnattr_setpgroup(&attributes, 0);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP);
-    const int error = posix_spawn(&process_, program.c_str(), &actions, &attributes,
-                                  pointersTo(words).data(), pointersTo(environment).data());
-    posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&actions);
-    if (error != 0)
-      throw std::system_error(error, std::generic_category());
-  }
-
   const std::string place_ = unusedPlace(); // which the mover makes for the filters
-  std::array<Descriptor, 2> lifeline_, reports_;
+  ProgramPipe lifeline_, reports_;
   std::string text_;
   pid_t process_ = -1;
 };

@@ -1,0 +1,71 @@
+// print-dialog-renderer: renders pages of a document for print-dialog, which starts it with the
+// words and the descriptors of RenderTask.hpp.
+#include "FileContent.hpp"
+#include "FontFolders.hpp"
+#include "PageDrawing.hpp"
+#include "Sandbox.hpp"
+
+#include <cerrno>
+#include <exception>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace imageposition {
+
+namespace {
+
+bool writeAll(int file, const char *data, std::size_t size) {
+  while (size > 0) {
+    const ssize_t count = write(file, data, size);
+    if (count < 0 && errno == EINTR)
+      continue;
+    if (count <= 0)
+      return false;
+    data += count;
+    size -= static_cast<std::size_t>(count);
+  }
+  return true;
+}
+
+bool tell(const std::string &line) { return writeAll(STDOUT_FILENO, line.data(), line.size()); }
+
+bool render(const RenderRequest &request) try {
+  const Descriptor file(kRendererDocument);
+  const MappedFile mapped(file);
+  const RenderableDocument document(mapped.content());
+  if (document.problem() != nullptr)
+    return tell(document.problem());
+  for (const int page : request.pages) {
+    const PageDrawing drawing = document.draw(page, request);
+    const auto *const bytes = reinterpret_cast<const char *>(drawing.pixels.data());
+    if (!writeAll(kRendererResult, bytes, drawing.pixels.size() * kBytesPerPixel) ||
+        !tell(lineOf(drawing.report)))
+      return false;
+  }
+  _exit(0); // without taking apart what goes with the process
+} catch (const FileTrouble &) {
+  return tell(kDamagedLine);
+}
+
+std::size_t documentSize() {
+  struct stat status {};
+  const bool isFile = fstat(kRendererDocument, &status) == 0 && S_ISREG(status.st_mode);
+  return isFile ? static_cast<std::size_t>(status.st_size) : 0;
+}
+
+} // namespace
+
+} // namespace imageposition
+
+int main(int argc, char **argv) try {
+  using namespace imageposition;
+  const auto request = readRenderRequest({argv + 1, argv + argc});
+  if (!request)
+    return 2;
+  const auto folders = prepareFonts(); // before files can no longer be written: fontconfig's cache
+  limitProcess(largestResult(*request), documentSize());
+  enterSandbox(folders, kRendererResult);
+  _exit(render(*request) ? 0 : 1);
+} catch (const std::exception &) {
+  _exit(1);
+}

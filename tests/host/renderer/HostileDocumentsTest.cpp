@@ -1,0 +1,55 @@
+// What a fuzzer has collected, and documents that were made to do harm.
+#include "PageRenderer.hpp"
+
+#include "TemporaryFolder.hpp"
+
+#include <chrono>
+#include <fcntl.h>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace imageposition {
+
+namespace {
+
+using namespace imageposition::test;
+
+class HostileDocument : public testing::TestWithParam<std::filesystem::path> {};
+
+TEST_P(HostileDocument, GivesPagesOrAFailure) {
+  const Descriptor pdf(open(GetParam().c_str(), O_RDONLY | O_CLOEXEC));
+  ASSERT_TRUE(pdf.isOpen());
+  const RenderRequest request{{0, 1}, 1, 240};
+  const auto start = std::chrono::steady_clock::now();
+  try {
+    for (const RenderedPage &page : renderPages(pdf, request, [] { return true; })) {
+      EXPECT_LE(page.width, 240);
+      EXPECT_LE(page.height, 240);
+      EXPECT_EQ(page.pixels.size(), static_cast<std::size_t>(page.width * page.height));
+    }
+  } catch (const RenderFailure &failure) {
+    EXPECT_STRNE(failure.what(), "");
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+std::vector<std::filesystem::path> documents() {
+  std::vector<std::filesystem::path> paths;
+  for (const auto &entry : std::filesystem::directory_iterator(HOSTILE_DOCUMENTS))
+    paths.push_back(entry.path());
+  std::sort(paths.begin(), paths.end());
+  return paths;
+}
+
+INSTANTIATE_TEST_SUITE_P(Corpus, HostileDocument, testing::ValuesIn(documents()),
+                         [](const auto &document) {
+                           std::string name = document.param.filename();
+                           std::replace_if(
+                               name.begin(), name.end(),
+                               [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+                           return name;
+                         });
+
+} // namespace
+
+} // namespace imageposition
