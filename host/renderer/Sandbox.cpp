@@ -132,6 +132,23 @@ constexpr std::array kHarmless = {SCMP_SYS(read),
                                   SCMP_SYS(clock_gettime64),
                                   SCMP_SYS(gettimeofday),
                                   SCMP_SYS(time),
+                                  SCMP_SYS(clock_getres),
+                                  SCMP_SYS(times),
+                                  SCMP_SYS(getrusage),
+                                  SCMP_SYS(sysinfo),
+                                  SCMP_SYS(uname),
+                                  SCMP_SYS(getcwd),
+                                  SCMP_SYS(sched_getaffinity),
+                                  SCMP_SYS(getrlimit),
+                                  SCMP_SYS(ugetrlimit),
+                                  SCMP_SYS(getuid),
+                                  SCMP_SYS(getuid32),
+                                  SCMP_SYS(geteuid),
+                                  SCMP_SYS(geteuid32),
+                                  SCMP_SYS(getgid),
+                                  SCMP_SYS(getgid32),
+                                  SCMP_SYS(getegid),
+                                  SCMP_SYS(getegid32),
                                   SCMP_SYS(getrandom),
                                   SCMP_SYS(getpid),
                                   SCMP_SYS(gettid),
@@ -202,6 +219,7 @@ void restrictCalls(int output) {
       filter.allow(call, isEqual(1, static_cast<std::uint64_t>(command)));
   for (const int call : {SCMP_SYS(mmap), SCMP_SYS(mmap2)})
     filter.allow(call, hasBits(2, PROT_EXEC, 0), hasBits(3, MAP_TYPE, MAP_PRIVATE));
+  filter.allow(SCMP_SYS(prlimit64), isEqual(2, 0)); // reads limits
   filter.allow(SCMP_SYS(mprotect), hasBits(2, PROT_EXEC, 0));
   filter.load();
 }

@@ -208,24 +208,32 @@ TEST_F(Renderer, ReadsALargeFile) {
   EXPECT_EQ(pixelAt(pages[0], 10, 190), kRed);
 }
 
-/// Each form draws the next one ten times.
-std::string pdfThatTakesForever() {
+/// Each form draws the next one ten times. `pages` precede the page with the first form.
+std::string pdfThatTakesForever(const std::vector<std::string> &pages = {}) {
   constexpr int kForms = 12;
   std::string calls;
   for (int i = 0; i < 10; i++)
     calls += "/X Do ";
+  const std::string form = "<< /Type /XObject /Subtype /Form /BBox [0 0 100 100] /Length ";
+  const auto resourcesWith = [](int number) {
+    return " /Resources << /XObject << /X " + std::to_string(number) + " 0 R >> >> ";
+  };
   std::vector<std::string> objects{
-      "<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
-      "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 100 100] /Contents 4 0 R /Resources << /XObject "
-      "<< /X 5 0 R >> >> >>",
+      "<< /Type /Catalog /Pages 2 0 R >>", "",
+      "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 100 100] /Contents 4 0 R" + resourcesWith(5) +
+          ">>",
       streamOf(calls)};
   for (int i = 0; i < kForms; i++)
-    objects.push_back("<< /Type /XObject /Subtype /Form /BBox [0 0 100 100] /Resources << /XObject "
-                      "<< /X " +
-                      std::to_string(i + 6) + " 0 R >> >> /Length " + std::to_string(calls.size()) +
-                      " >>\nstream\n" + calls + "\nendstream");
-  objects.push_back("<< /Type /XObject /Subtype /Form /BBox [0 0 100 100] /Length 15 >>\nstream\n"
-                    "0 0 100 100 re f\nendstream");
+    objects.push_back(form + std::to_string(calls.size()) + resourcesWith(i + 6) + ">>\nstream\n" +
+                      calls + "\nendstream");
+  objects.push_back(form + "17 >>\nstream\n0 0 100 100 re f \nendstream");
+  std::string kids;
+  for (const std::string &page : pages) {
+    objects.push_back(page);
+    kids += std::to_string(objects.size()) + " 0 R ";
+  }
+  objects[1] = "<< /Type /Pages /Kids [" + kids + "3 0 R] /Count " +
+               std::to_string(pages.size() + 1) + " >>";
   return pdfOf(objects);
 }
 
@@ -236,15 +244,30 @@ TEST_F(Renderer, MayNotTakeLong) {
 }
 
 TEST_F(Renderer, KeepsTheFirstPageWhenTheSecondTakesTooLong) {
-  std::string content = pdfThatTakesForever();
-  const std::string kids = "/Kids [3 0 R] /Count 1";
-  // The first page is the same without its content; the table of objects is found again.
-  content.replace(content.find(kids), kids.size(),
-                  "/Kids [<< /Type /Page /MediaBox [0 0 9 9] >> 3 0 R] /Count 2");
+  const std::string content =
+      pdfThatTakesForever({"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] >>"});
   const auto pages = render(content, {{0, 1}, 1, 100});
   ASSERT_EQ(pages.size(), 2u);
   EXPECT_EQ(pages[0].width, 9);
   EXPECT_EQ(pages[1].width, 0);
+}
+
+/// A page with an image that takes more memory than the process may have.
+TEST_F(Renderer, MayNotTakeMuchMemory) {
+  const std::string content =
+      pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+             "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 100 100] /Contents 4 0 R /Resources << "
+             "/XObject "
+             "<< /X 5 0 R >> >> >>",
+             streamOf("100 0 0 100 0 0 cm /X Do"),
+             "<< /Type /XObject /Subtype /Image /Width 1000000000 /Height 2 /BitsPerComponent 8 "
+             "/ColorSpace /DeviceRGB /Length 3 >>\nstream\nabc\nendstream"});
+  try {
+    for (const RenderedPage &page : render(content, {{0}, 1, 100}))
+      EXPECT_LE(page.width, 100);
+  } catch (const RenderFailure &failure) {
+    EXPECT_NE(failure.problem(), RenderProblem::Damaged);
+  }
 }
 
 bool isRunning() { return runProcess({"pgrep", "-f", "print-dialog-renderer 0.123"}).status == 0; }
