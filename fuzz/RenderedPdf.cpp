@@ -1,35 +1,65 @@
 // What poppler makes of any bytes: the pages of a document have the size that both processes
-// calculate, are opaque, and can be reported; otherwise there is a reason.
+// calculate, are opaque, and can be reported. A document may make poppler crash, or take all time
+// and memory, as the renderer's process does not survive either: that is no find.
 #include "Check.hpp"
 #include "PageDrawing.hpp"
 
 #include <algorithm>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace imageposition;
 using namespace imageposition::fuzz;
 
 namespace {
 
-void checkDrawing(const PageDrawing &drawing, const RenderRequest &request) {
+constexpr int kWrong = 42; // the status of a process that found something
+constexpr unsigned kSeconds = 3;
+
+bool isRight(const PageDrawing &drawing, const RenderRequest &request) {
   const auto report = readPageReport(lineOf(drawing.report));
-  check(report.has_value(), "a page can be reported");
+  if (!report)
+    return false;
   const PixelSize size = pixelSizeOf(*report, request);
-  check(size.pixels() == drawing.pixels.size(), "a page has the calculated size");
-  check(size.width <= request.mostPixels && size.height <= request.mostPixels,
-        "a page is not too large");
-  check(std::all_of(drawing.pixels.begin(), drawing.pixels.end(),
-                    [](std::uint32_t pixel) { return pixel >= 0xFF000000U; }),
-        "a page is opaque");
+  return size.pixels() == drawing.pixels.size() && size.width <= request.mostPixels &&
+         size.height <= request.mostPixels &&
+         std::all_of(drawing.pixels.begin(), drawing.pixels.end(),
+                     [](std::uint32_t pixel) { return pixel >= 0xFF000000U; });
+}
+
+bool isRendered(std::string_view content) {
+  const RenderableDocument document(content);
+  if (document.problem() != nullptr)
+    return true;
+  const RenderRequest request{{0, 1}, 0.5, 60};
+  return std::all_of(request.pages.begin(), request.pages.end(),
+                     [&](int page) { return isRight(document.draw(page, request), request); });
+}
+
+/// Without the handlers of the fuzzer, which would report a crash and save the input.
+void becomeExpendable() {
+  for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGALRM})
+    std::signal(signal, SIG_DFL);
+  const rlimit none{0, 0};
+  setrlimit(RLIMIT_CORE, &none);
+  setrlimit(RLIMIT_FSIZE, &none);
+  dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
+  alarm(kSeconds);
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
-  const RenderableDocument document({reinterpret_cast<const char *>(data), size});
-  if (document.problem() != nullptr)
-    return 0;
-  const RenderRequest request{{0, 1}, 0.5, 60};
-  for (const int page : request.pages)
-    checkDrawing(document.draw(page, request), request);
+  const pid_t process = fork();
+  if (process == 0) {
+    becomeExpendable();
+    _exit(isRendered({reinterpret_cast<const char *>(data), size}) ? 0 : kWrong);
+  }
+  int status = 0;
+  check(process > 0 && waitpid(process, &status, 0) == process, "a process can be started");
+  check(!WIFEXITED(status) || WEXITSTATUS(status) != kWrong, "a page is what it should be");
   return 0;
 }

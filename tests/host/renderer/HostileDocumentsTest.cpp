@@ -1,9 +1,13 @@
 // What a fuzzer has collected, and documents that were made to do harm.
 #include "PageRenderer.hpp"
 
+#include "ProcessRun.hpp"
 #include "TemporaryFolder.hpp"
 
+#include <algorithm>
+#include <cctype>
 #include <chrono>
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -31,6 +35,19 @@ TEST_P(HostileDocument, GivesPagesOrAFailure) {
     EXPECT_STRNE(failure.what(), "");
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+/// A call that the sandbox lacks ends the process with this signal.
+constexpr int kForbiddenCall = 128 + SIGSYS;
+
+TEST_P(HostileDocument, LetsTheProgramEndByItself) {
+  const TemporaryFolder folder;
+  const auto start = std::chrono::steady_clock::now();
+  const int status = runProcess({"sh", "-c", "exec \"$0\" 1 240 0 1 3<\"$1\" 4>\"$2\"", RENDERER,
+                                 GetParam().string(), folder.path("result")})
+                         .status;
+  EXPECT_NE(status, kForbiddenCall);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 std::vector<std::filesystem::path> documents() {
