@@ -1,6 +1,7 @@
 // print-dialog-mover: lays a document out and moves the image on its pages for print-dialog, which
 // starts it with the words and the descriptors of MoverTask.hpp.
 #include "Children.hpp"
+#include "ChosenPages.hpp"
 #include "FilterChain.hpp"
 #include "LayoutCheck.hpp"
 #include "MoverTask.hpp"
@@ -12,6 +13,7 @@
 #include <cstdlib>
 #include <exception>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -84,15 +86,15 @@ private:
   MoverReport last_ = failed(MoveProblem::Fault);
 };
 
+using FileWork = std::function<MoverReport(const Descriptor &from, const Descriptor &to)>;
+
 /// Runs `work` in a process with limits, which gets `from` and `to`.
 MoverReport runLimited(Children &children, const Descriptor &from, const Descriptor &to,
-                       MoverReport (*work)(const Descriptor &from, const Descriptor &to,
-                                           const ShiftPlan &plan),
-                       const ShiftPlan &plan) {
+                       const FileWork &work) {
   Pipe pipe = newPipe();
   children.start({from.get(), to.get(), pipe.writer.get()}, [&] {
     const Descriptor input(STDIN_FILENO), output(STDOUT_FILENO);
-    tell(STDERR_FILENO, reportOn([&] { return work(input, output, plan); }));
+    tell(STDERR_FILENO, reportOn([&] { return work(input, output); }));
     return 0;
   });
   pipe.writer = Descriptor(-1);
@@ -111,31 +113,54 @@ MoverReport shift(const Descriptor &from, const Descriptor &to, const ShiftPlan 
 }
 
 /// Why a document cannot be laid out, as far as it shows itself.
-MoverReport diagnose(const Descriptor &document, const Descriptor &, const ShiftPlan &) {
+MoverReport diagnose(const Descriptor &document, const Descriptor &) {
   requirePermission(document);
   return failed(MoveProblem::Layout);
 }
 
 MoverReport diagnosis(Children &children, const Descriptor &document, const std::string &error) {
   const Descriptor none(-1);
-  MoverReport report = isPdf(document) ? runLimited(children, document, none, diagnose, {})
+  MoverReport report = isPdf(document) ? runLimited(children, document, none, diagnose)
                                        : failed(MoveProblem::Layout);
   if (!error.empty())
     report.detail = error;
   return report;
 }
 
+/// Keeps only the pages that are wanted. Returns a failure, if there is one.
+std::optional<MoverReport> reduce(Descriptor &document, const std::string &pages,
+                                  Children &children) {
+  const PageRanges wanted = PageRanges::parse(pages);
+  Descriptor reduced = temporaryFile();
+  const auto choose = [&](const Descriptor &from, const Descriptor &to) {
+    const auto count = static_cast<int>(choosePages(from, to, wanted));
+    return MoverReport{MoverReport::Kind::Done, count, {}, {}};
+  };
+  MoverReport report = runLimited(children, document, reduced, choose);
+  if (report.kind == MoverReport::Kind::Failed)
+    return report;
+  document = std::move(reduced);
+  return std::nullopt;
+}
+
 MoverReport layOutAndShift(const MoverTask &task, Children &children) {
-  const Descriptor document(kMoverDocument), description(kMoverDescription), result(kMoverResult);
+  const Descriptor description(kMoverDescription), result(kMoverResult);
+  Descriptor document(kMoverDocument);
   if (!isLayoutAsExpected(task, children))
     return failed(MoveProblem::OtherLayout);
+  if (!task.pages.empty() && isPdf(document))
+    if (auto failure = reduce(document, task.pages, children))
+      return *failure;
   const auto filters = filtersFor(task, document, children);
   if (filters.empty())
     return failed(MoveProblem::NoConversion);
   const Descriptor laidOut = temporaryFile();
   if (const auto error = runFilters(filters, task, document, description, laidOut, children))
     return diagnosis(children, document, *error);
-  const MoverReport report = runLimited(children, laidOut, result, shift, task.plan);
+  const auto move = [&](const Descriptor &from, const Descriptor &to) {
+    return shift(from, to, task.plan);
+  };
+  const MoverReport report = runLimited(children, laidOut, result, move);
   const bool isUnusable =
       report.kind == MoverReport::Kind::Failed && report.problem == MoveProblem::Damaged;
   return isUnusable ? diagnosis(children, document, report.detail) : report;

@@ -91,6 +91,7 @@ public:
           {
             const std::lock_guard<std::mutex> lock(mutex_);
             facts_ = found;
+            isDone_ = true;
           }
           if (!isStopped_)
             changed();
@@ -106,11 +107,16 @@ public:
     const std::lock_guard<std::mutex> lock(mutex_);
     return facts_;
   }
+  bool isDone() const {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return isDone_;
+  }
 
 private:
   std::atomic<bool> isStopped_{false};
   mutable std::mutex mutex_;
   std::optional<DocumentFacts> facts_;
+  bool isDone_ = false;
   std::thread thread_; // last: uses the others
 };
 
@@ -132,6 +138,8 @@ void DocumentExaminer::examine(const std::string &path) {
 std::optional<DocumentFacts> DocumentExaminer::facts() const {
   return work_ != nullptr ? work_->facts() : std::nullopt;
 }
+
+bool DocumentExaminer::isDone() const { return work_ == nullptr || work_->isDone(); }
 
 bool needsPassword(const std::string &path) {
   const std::atomic<bool> isStopped{false};

@@ -32,6 +32,9 @@ public:
   /// Empty until they are known; stays so for a document that cannot be examined within seconds.
   std::optional<DocumentFacts> facts() const;
 
+  /// Whether there is nothing to wait for.
+  bool isDone() const;
+
 private:
   class Work;
 

@@ -15,12 +15,13 @@ struct TextField {
   std::string MoverTask::*field;
 };
 
-constexpr std::array<TextField, 8> kTextFields{{
+constexpr std::array<TextField, 9> kTextFields{{
     {"options=", &MoverTask::options},
     {"title=", &MoverTask::title},
     {"user=", &MoverTask::user},
     {"path=", &MoverTask::path},
     {"format=", &MoverTask::format},
+    {"pages=", &MoverTask::pages},
     {"filters=", &MoverTask::filters},
     {"chooser=", &MoverTask::chooser},
     {"verdict=", &MoverTask::verdict},

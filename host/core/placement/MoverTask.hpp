@@ -17,8 +17,11 @@ struct MoverTask {
   std::string options; ///< For the filters, as `filterOptions` returns them.
   std::string title;
   std::string user;
-  std::string path;    ///< Of the document, for its type; absolute, or empty for none.
-  std::string format;  ///< The document's MIME type; empty to find out.
+  std::string path;   ///< Of the document, for its type; absolute, or empty for none.
+  std::string format; ///< The document's MIME type; empty to find out.
+  /// The only pages of a PDF document that are laid out, as `PageRanges::optionValue` writes them;
+  /// empty for all. The layout never sees the others.
+  std::string pages;
   std::string filters; ///< The folder of CUPS's filters.
   std::string chooser; ///< The path of `cupsfilter`; empty if there is none.
   std::string verdict; ///< The file that remembers whether the layout was checked; may be empty.

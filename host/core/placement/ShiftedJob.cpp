@@ -146,6 +146,12 @@ bool isReversed(const PrintSettingsStore &options, ppd_file_t *ppd) {
   return order != nullptr && isReverse(order);
 }
 
+SideOrder sideOrder(const PrintSettingsStore &options, ppd_file_t *ppd) {
+  const ppd_option_t *const twoSided = twoSidedOption(ppd);
+  const bool isOff = twoSided != nullptr && isOneSided(ppd, *twoSided);
+  return {isOff ? PrintedSides::FrontsOnly : sidesOf(options, ppd), isReversed(options, ppd)};
+}
+
 ShiftDecision decideShift(const PrintSettingsStore &options, ppd_file_t *ppd) {
   ShiftDecision decision;
   const char *const support = attribute(ppd, IPA_ATTRIBUTE_SUPPORT);
@@ -223,6 +229,18 @@ PreparedJob ShiftedJob::move(const JobDocuments &documents,
     files->push_back(std::move(moved->file));
   }
   return prepared;
+}
+
+std::optional<MovedDocument> ShiftedJob::layOut(const std::string &document,
+                                                const std::string &pages,
+                                                const std::function<bool()> &keepWaiting) const {
+  MoverTask task = task_;
+  task.plan = plan_;
+  task.pages = pages;
+  task.path = pathForType(document);
+  return moveDocument(task, opened(document, keepWaiting), documentName(document),
+                      withServerLayout(ppd_, device_, keepWaiting),
+                      [&](int) { return keepWaiting(); });
 }
 
 } // namespace imageposition

@@ -10,6 +10,8 @@
 
 #include <cups/ppd.h>
 
+#include <functional>
+#include <optional>
 #include <string>
 
 namespace imageposition {
@@ -25,6 +27,9 @@ struct ShiftDecision {
   /// How each side moves, whoever moves it. The plan of the last document; the others are padded.
   ShiftPlan plan;
 };
+
+/// How the pages of one document become sides. As in `decideShift`, but also if nothing moves.
+SideOrder sideOrder(const PrintSettingsStore &options, ppd_file_t *ppd);
 
 /// Decides who moves the image. `options` are those that the job would be sent with, `ppd` is the
 /// printer's, with the job's choices marked; not null.
@@ -54,6 +59,14 @@ public:
   /// Lays out and moves the documents. A `JobPreparation`; throws a `ShiftFailure` for a document
   /// that cannot be moved.
   PreparedJob move(const JobDocuments &documents, const ProgressCallback &progress) const;
+
+  /// The options that the document is laid out with, in one string.
+  const std::string &layout() const noexcept { return task_.options; }
+  /// Lays out and moves one document, or only these pages of a PDF document; empty ranges are all
+  /// pages. Returns none if `keepWaiting`, which is called a few times each second, returns false.
+  /// Throws a `ShiftFailure` or a `SubmissionFailure`.
+  std::optional<MovedDocument> layOut(const std::string &document, const std::string &pages,
+                                      const std::function<bool()> &keepWaiting) const;
 
 private:
   JobSplit split_;

@@ -169,6 +169,29 @@ PixelRectangle PreviewLayout::onPage(Place place, const PageRectangle &rectangle
           (rectangle.bottom - rectangle.top).count * pixelsPerPoint};
 }
 
+PixelRectangle PreviewLayout::imageOnPage(Place place, Point width, Point height,
+                                          const Offset &offset) const noexcept {
+  const PixelRectangle &page = pages[place].page;
+  const double wide = std::round(width.count * pixelsPerPoint);
+  const double high = std::round(height.count * pixelsPerPoint);
+  const double x = page.x + (page.width - wide) / 2 + toPoints(offset.right).count * pixelsPerPoint;
+  const double y = page.y + (page.height - high) / 2 + toPoints(offset.down).count * pixelsPerPoint;
+  return {std::round(x), std::round(y), wide, high};
+}
+
+PreviewLayout layOutOnePage(const Preview &preview, PreviewLayout::Place place,
+                            const PixelRectangle &room) {
+  PreviewLayout layout;
+  const PageShape &page = preview.page;
+  layout.pixelsPerPoint =
+      std::max(0.0, std::min(room.width / page.width.count, room.height / page.height.count));
+  const double width = std::round(page.width.count * layout.pixelsPerPoint);
+  const double height = std::round(page.height.count * layout.pixelsPerPoint);
+  layout.pages[place].page = {std::round(room.x + (room.width - width) / 2),
+                              std::round(room.y + (room.height - height) / 2), width, height};
+  return layout;
+}
+
 PreviewLayout layOutPreview(const Preview &preview, const PictureSize &size) {
   PreviewLayout layout;
   Column column(size);

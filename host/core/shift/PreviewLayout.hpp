@@ -69,7 +69,15 @@ struct PreviewLayout {
   PixelRectangle labelPlace(const Pixel &mark, const PixelRectangle &size, bool toTheLeft,
                             bool above, const std::vector<PixelRectangle> &taken) const;
   PixelRectangle onPage(Place place, const PageRectangle &rectangle) const noexcept;
+  /// Where the image of a page of that size is printed: in the middle of the sheet, and shifted.
+  /// Aligned to whole pixels.
+  PixelRectangle imageOnPage(Place place, Point width, Point height,
+                             const Offset &offset) const noexcept;
 };
+
+/// One of the pages alone, as large as fits into `room`; the other areas are empty.
+PreviewLayout layOutOnePage(const Preview &preview, PreviewLayout::Place place,
+                            const PixelRectangle &room);
 
 /// If the picture is too small for its labels, areas become empty, never negative in size.
 PreviewLayout layOutPreview(const Preview &preview, const PictureSize &size);

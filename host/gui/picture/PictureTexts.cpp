@@ -14,6 +14,8 @@ const Text kPreviewShortEdge = text("turned: short edge");
 const Text kPreviewNothingMoves = text("As set: nothing moves");
 const Text kPreviewMovesTogether = text("As set: both sides move together");
 const Text kPreviewEnlarged = text("Back towards you, enlarged");
+const Text kPreviousSheet = text("Previous sheet");
+const Text kNextSheet = text("Next sheet");
 std::string previewSquare(const std::string &length) { return text("1 square = {1}").with(length); }
 std::string previewMoves(const std::string &arrows) {
   return text("As set: the back moves {1}").with(arrows);

@@ -18,6 +18,8 @@ extern const Text kPreviewLost;
 extern const Text kPreviewLongEdge;
 extern const Text kPreviewShortEdge;
 extern const Text kPreviewEnlarged;
+extern const Text kPreviousSheet;
+extern const Text kNextSheet;
 // What the settings do; where the sides really lie is unknown.
 extern const Text kPreviewNothingMoves;
 extern const Text kPreviewMovesTogether;

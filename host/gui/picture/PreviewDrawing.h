@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKit.h>
 
+#import "PageImage.h"
 #include "PreviewColours.hpp"
 #include "PreviewLayout.hpp"
 
@@ -42,8 +43,13 @@ void hatch(const PixelRectangle &rectangle, Rgb colour);
 /// "→ 2.5  ↓ 1 mm"; empty for no shift.
 std::string arrowText(const Offset &offset);
 
-/// Draws the row of pages with titles and captions, and the legend below it.
-void drawPreviewPages(const Preview &preview, const PreviewLayout &layout);
+/// Draws the row of pages with titles and captions, and the legend below it. Without `pages`, draws
+/// a sample page in their place.
+void drawPreviewPages(const Preview &preview, const PreviewLayout &layout, const SheetPages *pages);
+
+/// Draws one of the pages alone, as `layOutOnePage` has placed it.
+void drawPreviewPage(const Preview &preview, const PreviewLayout &layout,
+                     PreviewLayout::Place place, const SheetPages *pages);
 
 /// Draws the enlarged centre with its title and description.
 void drawPreviewMarks(const Preview &preview, const PreviewLayout &layout);

@@ -16,7 +16,13 @@ struct DrawnSide {
   bool isBack;
   bool flipsLeftRight = false;
   bool flipsTopBottom = false;
+  const PageImage *image = nullptr; ///< Null to draw a sample page, or nothing if `isBlank`.
+  bool isBlank = false;
+  double opacity = 1; ///< Of the image.
 };
+
+/// How much a side shines through the sheet.
+constexpr double kShineThrough = 0.45;
 
 PixelRectangle rounded(const PixelRectangle &rectangle) {
   const double left = std::round(rectangle.x);
@@ -78,14 +84,30 @@ void drawLoss(const PixelRectangle &loss) {
     hatch(loss, previewColours().lost);
 }
 
-void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const DrawnSide &drawn) {
-  const PixelRectangle imageable = rounded(layout.onPage(place, drawn.side->imageable));
-  const PixelRectangle content = rounded(layout.onPage(place, drawn.side->content));
+void drawImage(const PreviewLayout &layout, PreviewLayout::Place place, const PageImage &image,
+               const Offset &offset, double opacity) {
+  [NSGraphicsContext saveGraphicsState];
+  NSRectClip(toRect(layout.pages[place].page));
+  image.draw(layout.imageOnPage(place, image.width(), image.height(), offset), opacity);
+  [NSGraphicsContext restoreGraphicsState];
+}
+
+void drawSamplePage(const DrawnSide &drawn, const PixelRectangle &imageable,
+                    const PixelRectangle &content) {
   [NSGraphicsContext saveGraphicsState];
   NSRectClip(toRect(imageable));
   fill(content, drawn.colour, 0.10);
   drawBlocks(drawn, content);
   [NSGraphicsContext restoreGraphicsState];
+}
+
+void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const DrawnSide &drawn) {
+  const PixelRectangle imageable = rounded(layout.onPage(place, drawn.side->imageable));
+  const PixelRectangle content = rounded(layout.onPage(place, drawn.side->content));
+  if (drawn.image != nullptr)
+    drawImage(layout, place, *drawn.image, drawn.side->offset, drawn.opacity);
+  else if (!drawn.isBlank)
+    drawSamplePage(drawn, imageable, content);
   for (const PageRectangle &part : drawn.side->lost)
     drawLoss(visibleLoss(layout.onPage(place, part), imageable));
   strokeRectangle(imageable, previewColours().printable, true);
@@ -101,8 +123,9 @@ void drawTurningEdge(const PixelRectangle &page, bool isVertical) {
   fill(edge, previewColours().text, 1);
 }
 
-void drawPaper(const PixelRectangle &page) {
-  fill(page, previewColours().paper, 1);
+/// Real pages look like paper in a dark window, too.
+void drawPaper(const PixelRectangle &page, const SheetPages *pages) {
+  fill(page, pages != nullptr ? paperColours().paper : previewColours().paper, 1);
   strokeRectangle(page, previewColours().outline, false);
 }
 
@@ -122,35 +145,58 @@ void clipAround(const PixelRectangle &page) {
   NSRectClip(NSInsetRect(toRect(page), -previewLineHeight() / 2, -previewLineHeight() / 4));
 }
 
+DrawnSide withImage(DrawnSide drawn, const SheetPages *pages,
+                    const std::shared_ptr<const PageImage> SheetPages::*side) {
+  if (pages != nullptr) {
+    drawn.image = (pages->*side).get();
+    drawn.isBlank = drawn.image == nullptr;
+  }
+  return drawn;
+}
+
 /// With the back towards the reader.
-void drawAgainstLight(const Preview &preview, const PreviewLayout &layout) {
+void drawBothSides(const Preview &preview, const PreviewLayout &layout, const SheetPages *pages) {
   const PreviewColours &colours = previewColours();
-  const PagePlace &place = layout.pages[PreviewLayout::AgainstLight];
+  const PixelRectangle &page = layout.pages[PreviewLayout::AgainstLight].page;
   const bool vertical = turnsAboutVerticalAxis(preview.page, preview.turning);
-  drawPaper(place.page);
+  drawPaper(page, pages);
   [NSGraphicsContext saveGraphicsState];
-  clipAround(place.page);
-  drawSide(layout, PreviewLayout::AgainstLight,
-           {&*preview.frontSeenThrough, colours.front, false, vertical, !vertical});
+  clipAround(page);
+  DrawnSide front =
+      withImage({&*preview.frontSeenThrough, colours.front, false, vertical, !vertical}, pages,
+                &SheetPages::frontSeenThrough);
+  front.opacity = kShineThrough;
+  drawSide(layout, PreviewLayout::AgainstLight, front);
+  if (pages != nullptr && pages->back != nullptr)
+    drawImage(layout, PreviewLayout::AgainstLight, *pages->back, preview.back->offset, 1);
   strokeRectangle(rounded(layout.onPage(PreviewLayout::AgainstLight, preview.back->content)),
                   colours.back, true);
   [NSGraphicsContext restoreGraphicsState];
-  drawTurningEdge(place.page, vertical);
-  drawTexts(place, messages::kPreviewAgainstLight,
-            preview.turning == Turning::LongEdge ? messages::kPreviewLongEdge
-                                                 : messages::kPreviewShortEdge,
-            colours.text);
+  drawTurningEdge(page, vertical);
 }
 
-void drawPage(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,
-              const std::string &title) {
-  const PagePlace &place = layout.pages[at];
-  drawPaper(place.page);
+void drawOneSide(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,
+                 const SheetPages *pages) {
+  const PixelRectangle &page = layout.pages[at].page;
+  drawPaper(page, pages);
   [NSGraphicsContext saveGraphicsState];
-  clipAround(place.page);
+  clipAround(page);
   drawSide(layout, at, drawn);
   [NSGraphicsContext restoreGraphicsState];
-  drawTexts(place, title, shiftCaption(drawn.side->offset), drawn.colour);
+}
+
+DrawnSide frontOf(const Preview &preview, const SheetPages *pages) {
+  return withImage({&preview.front, previewColours().front, false}, pages, &SheetPages::front);
+}
+
+DrawnSide backOf(const Preview &preview, const SheetPages *pages) {
+  return withImage({&*preview.back, previewColours().back, true}, pages, &SheetPages::back);
+}
+
+void drawTitledSide(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,
+                    const std::string &title, const SheetPages *pages) {
+  drawOneSide(layout, at, drawn, pages);
+  drawTexts(layout.pages[at], title, shiftCaption(drawn.side->offset), drawn.colour);
 }
 
 /// Draws a sample of a pattern and its meaning. Returns where the next entry begins.
@@ -174,14 +220,19 @@ bool losesSomething(const Preview &preview) {
 
 } // namespace
 
-void drawPreviewPages(const Preview &preview, const PreviewLayout &layout) {
+void drawPreviewPages(const Preview &preview, const PreviewLayout &layout,
+                      const SheetPages *pages) {
   const PreviewColours &colours = previewColours();
-  drawPage(layout, PreviewLayout::Front, {&preview.front, colours.front, false},
-           messages::kPreviewFront);
+  drawTitledSide(layout, PreviewLayout::Front, frontOf(preview, pages), messages::kPreviewFront,
+                 pages);
   if (preview.back) {
-    drawPage(layout, PreviewLayout::Back, {&*preview.back, colours.back, true},
-             messages::kPreviewBack);
-    drawAgainstLight(preview, layout);
+    drawTitledSide(layout, PreviewLayout::Back, backOf(preview, pages), messages::kPreviewBack,
+                   pages);
+    drawBothSides(preview, layout, pages);
+    drawTexts(layout.pages[PreviewLayout::AgainstLight], messages::kPreviewAgainstLight,
+              preview.turning == Turning::LongEdge ? messages::kPreviewLongEdge
+                                                   : messages::kPreviewShortEdge,
+              colours.text);
   }
   const double next =
       drawLegendEntry(layout.legend.x, layout.legend, messages::kPreviewPrintable, false);
@@ -192,6 +243,16 @@ void drawPreviewPages(const Preview &preview, const PreviewLayout &layout) {
   if (preview.hasLandscapePages)
     drawLine(messages::kPreviewUprightSheet, layout.note, previewFont(), colours.text,
              Alignment::Left);
+}
+
+void drawPreviewPage(const Preview &preview, const PreviewLayout &layout,
+                     PreviewLayout::Place place, const SheetPages *pages) {
+  if (place == PreviewLayout::Front)
+    drawOneSide(layout, place, frontOf(preview, pages), pages);
+  else if (preview.back && place == PreviewLayout::Back)
+    drawOneSide(layout, place, backOf(preview, pages), pages);
+  else if (preview.back)
+    drawBothSides(preview, layout, pages);
 }
 
 } // namespace imageposition

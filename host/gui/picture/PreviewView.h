@@ -4,23 +4,43 @@
 
 #import <AppKit/AppKit.h>
 
+#import "PageImage.h"
 #include "PreviewGeometry.hpp"
+#include "PreviewLayout.hpp"
+
+#include <optional>
+#include <string>
 
 namespace imageposition {
 struct PreviewViewState;
 }
 
+/// The action of a click on one of the pages in the picture.
+@protocol PreviewViewTarget
+- (void)pageClicked:(imageposition::PreviewLayout::Place)place;
+@end
+
 /// Shows both sides to scale at the top, with the back as it lies behind the front. Below, shows
 /// the marks of both sides enlarged on a millimetre grid, because a shift of tenths of a millimetre
-/// is invisible to scale. Accepts any frame; everything is legible from `preferredSize` on.
+/// is invisible to scale. The sides are the document's, or sample pages. Accepts any frame;
+/// everything is legible from `preferredSize` on.
 @interface PreviewView : NSView {
   imageposition::PreviewViewState *state; ///< Owned.
+  id<PreviewViewTarget> target;           ///< Not owned; may be null.
 }
 
 + (NSSize)preferredSize;
 
 /// Redraws only when the preview differs from the one shown. Updates the tooltip, too.
 - (void)showPreview:(const imageposition::Preview &)preview;
+
+/// Shows the sides of a sheet, which may be null, or without a value, sample pages. `sheet` says
+/// which one, for the description.
+- (void)showSheet:(const std::optional<imageposition::SheetSideImages> &)sides
+            named:(const std::string &)sheet;
+/// The size of the images that fit the pages; 0 before the first preview.
+- (double)pixelsPerPoint;
+- (void)setTarget:(id<PreviewViewTarget>)theTarget;
 
 /// Describes the picture.
 - (NSString *)accessibilityLabel;

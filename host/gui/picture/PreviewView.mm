@@ -11,7 +11,13 @@ using namespace imageposition;
 struct imageposition::PreviewViewState {
   std::optional<Preview> preview;
   NSToolTipTag toolTip = 0;
+  SheetPainter painter;
+  std::string sheet; // in words; may be empty
 };
+
+@interface PreviewView ()
+- (PreviewLayout)layout;
+@end
 
 @implementation PreviewView
 
@@ -53,19 +59,48 @@ struct imageposition::PreviewViewState {
   [self setNeedsDisplay:YES];
 }
 
+- (void)showSheet:(const std::optional<SheetSideImages> &)sides named:(const std::string &)sheet {
+  state->sheet = sheet;
+  if (state->painter.take(sides))
+    [self setNeedsDisplay:YES];
+}
+
+- (PreviewLayout)layout {
+  const NSSize size = [self bounds].size;
+  return layOutPreview(*state->preview, {size.width, size.height, previewLineHeight()});
+}
+
+- (double)pixelsPerPoint {
+  return state->preview ? [self layout].pixelsPerPoint : 0;
+}
+
+- (void)setTarget:(id<PreviewViewTarget>)theTarget {
+  target = theTarget;
+}
+
+- (void)mouseUp:(NSEvent *)event {
+  const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
+  if (!state->preview)
+    return;
+  const PreviewLayout layout = [self layout];
+  for (const auto place : {PreviewLayout::Front, PreviewLayout::Back, PreviewLayout::AgainstLight})
+    if (layout.pages[place].page.contains({at.x, at.y}))
+      [target pageClicked:place];
+}
+
 - (void)drawRect:(NSRect)dirty {
   (void)dirty;
   if (!state->preview)
     return;
-  const NSSize size = [self bounds].size;
-  const PreviewLayout layout =
-      layOutPreview(*state->preview, {size.width, size.height, previewLineHeight()});
-  drawPreviewPages(*state->preview, layout);
+  const PreviewLayout layout = [self layout];
+  drawPreviewPages(*state->preview, layout, state->painter.pages(*state->preview));
   drawPreviewMarks(*state->preview, layout);
 }
 
 - (NSString *)accessibilityLabel {
-  std::string text;
+  std::string text = state->sheet;
+  if (!text.empty())
+    text += ".";
   if (state->preview)
     for (const std::string &sentence : describePreview(*state->preview))
       text += (text.empty() ? "" : " ") + sentence;

@@ -47,6 +47,8 @@ std::string documentNotOpened(const std::string &path, const std::string &reason
 }
 const Text kPasswordWindow = text("Password");
 const Text kWrongPasswordWindow = text("Wrong password");
+// Translators: the title of a window that shows a sheet of paper.
+const Text kSheetWindow = text("Sheet");
 const Text kPleaseWait = text("Please wait");
 std::string waitingForCups(const std::string &server) {
   return text("Waiting for CUPS at {1}…").with(server);

@@ -39,6 +39,7 @@ extern const Text kFileRow;
 std::string documentNotOpened(const std::string &path, const std::string &reason);
 
 // Opening a printer.
+extern const Text kSheetWindow;
 extern const Text kPleaseWait; ///< A window's title.
 std::string waitingForCups(const std::string &server);
 extern const Text kNoPrinterWindow; ///< A window's title.

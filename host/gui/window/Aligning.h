@@ -9,14 +9,14 @@
 /// the job's settings allow no alignment sheets, it is disabled, with the reason beside it.
 @interface Aligning : NSObject {
   id<DialogServices> dialog; ///< Not owned.
-  PictureArea *area;         ///< Owned; so below.
-  NSButton *button;
+  PictureArea *area;         ///< Not owned.
+  NSButton *button;          ///< Owned.
 }
 
-- (id)initWithDialog:(id<DialogServices>)theDialog picture:(PreviewView *)picture;
-/// The picture with the button below it.
-- (PictureArea *)area;
+- (id)initWithDialog:(id<DialogServices>)theDialog;
 - (NSButton *)button;
+/// Where the button is, for the reason why it is disabled. Not owned.
+- (void)setArea:(PictureArea *)theArea;
 /// Call after a change of the printer or of an option.
 - (void)refresh;
 

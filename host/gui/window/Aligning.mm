@@ -64,24 +64,22 @@ std::string printSheets(const Aligner &aligner, PrintSession &session, NSWindow 
 
 @implementation Aligning
 
-- (id)initWithDialog:(id<DialogServices>)theDialog picture:(PreviewView *)picture {
+- (id)initWithDialog:(id<DialogServices>)theDialog {
   if ((self = [super init]) == nil)
     return nil;
   dialog = theDialog;
   button = [makeButton(messages::kAlign, self, @selector(align:)) retain];
-  area = [[PictureArea alloc] initWithPicture:picture button:button];
   return self;
 }
 
 - (void)dealloc {
   [button setTarget:nil];
-  [area release];
   [button release];
   [super dealloc];
 }
 
-- (PictureArea *)area {
-  return area;
+- (void)setArea:(PictureArea *)theArea {
+  area = theArea;
 }
 
 - (NSButton *)button {

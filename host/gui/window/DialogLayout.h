@@ -35,7 +35,9 @@ struct DialogRow {
 struct DialogContent {
   std::vector<DialogRow> rows;
   PictureArea *picture;
-  NSButton *align; ///< The area's.
+  SheetBar *sheets; ///< The picture's; so below.
+  NSButton *enlarge;
+  NSButton *align;
   NSView *paneArea;
   NSTextField *hint;
   NSButton *resolve;

@@ -307,8 +307,14 @@ void DialogLayout::linkKeys() {
     for (const RowControl &control : row.controls)
       if (isInTabOrder(control.view))
         order.push_back(control.view);
-  order.insert(order.end(),
-               {content_.align, content_.resolve, content_.help, content_.cancel, content_.print});
+  order.insert(order.end(), {[content_.sheets previousButton],
+                             [content_.sheets nextButton],
+                             content_.enlarge,
+                             content_.align,
+                             content_.resolve,
+                             content_.help,
+                             content_.cancel,
+                             content_.print});
   for (std::size_t i = 0; i < order.size(); i++)
     [order[i] setNextKeyView:order[(i + 1) % order.size()]];
 }

@@ -108,6 +108,10 @@ std::string documentList(const std::vector<std::string> &paths) {
   return facts ? facts->pages : 0;
 }
 
+- (BOOL)isExamined {
+  return state->examiner->isDone();
+}
+
 - (BOOL)isLandscape {
   const auto facts = state->examiner->facts();
   return facts && facts->paper && facts->paper->length < facts->paper->width;

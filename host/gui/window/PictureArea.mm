@@ -20,18 +20,24 @@ constexpr CGFloat kInset = 6; // of what the picture shows
 
 + (NSSize)preferredSize {
   const NSSize size = [PreviewView preferredSize];
-  return NSMakeSize(size.width, size.height + kGap + kButtonHeight);
+  return NSMakeSize(size.width, size.height + 2 * (kGap + kButtonHeight));
 }
 
-- (id)initWithPicture:(PreviewView *)thePicture button:(NSButton *)theButton {
+- (id)initWithPicture:(PreviewView *)thePicture
+               sheets:(SheetBar *)theSheets
+              enlarge:(NSButton *)theEnlargeButton
+               button:(NSButton *)theButton {
   if ((self = [super initWithFrame:NSZeroRect]) == nil)
     return nil;
   text = new std::string;
   picture = thePicture;
+  sheets = theSheets;
+  enlarge = theEnlargeButton;
   button = theButton;
   note = makeLabel("");
   [note setTextColor:secondaryTextColor()];
-  for (NSView *view : {(NSView *)picture, (NSView *)button, (NSView *)note})
+  for (NSView *view :
+       {(NSView *)picture, (NSView *)sheets, (NSView *)enlarge, (NSView *)button, (NSView *)note})
     [self addSubview:view];
   return self;
 }
@@ -55,7 +61,13 @@ constexpr CGFloat kInset = 6; // of what the picture shows
 
 - (void)layOut {
   const NSSize size = [self bounds].size;
-  const CGFloat below = [button isHidden] ? 0 : kGap + kButtonHeight;
+  const CGFloat line = kGap + kButtonHeight;
+  CGFloat below = [button isHidden] ? 0 : line;
+  [sheets setFrameOrigin:NSMakePoint(kInset, below)];
+  [enlarge setFrameOrigin:NSMakePoint(size.width - kInset - NSWidth([enlarge frame]), below)];
+  const CGFloat right = [enlarge isHidden] ? size.width : NSMinX([enlarge frame]) - kGap;
+  [sheets setFrameSize:NSMakeSize(std::max<CGFloat>(right - kInset, 0), kButtonHeight)];
+  below += [sheets isHidden] ? 0 : line;
   [picture setFrameOrigin:NSMakePoint(0, below)];
   [picture setFrameSize:NSMakeSize(size.width, std::max<CGFloat>(size.height - below, 0))];
   [button setFrameOrigin:NSMakePoint(kInset, 0)];

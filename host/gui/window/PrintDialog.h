@@ -18,6 +18,7 @@
 #import "PrinterOptionRows.h"
 #import "PrinterRow.h"
 #import "Sending.h"
+#import "Sheets.h"
 
 #include <iosfwd>
 
@@ -31,7 +32,9 @@ struct PrintDialogState;
   KeyWindow *window;
   MessageView *message;
   PreviewView *picture;
+  PictureArea *pictureArea;
   Aligning *aligning;
+  Sheets *sheets;
   PrinterRow *printers;
   DocumentRow *documents;
   PresetRow *presets;

@@ -112,9 +112,9 @@ struct imageposition::PrintDialogState {
   [printers stopAsking];
   [window setDelegate:nil];
   [window close];
-  for (id part :
-       {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options, (id)more,
-        (id)panes, (id)aligning, (id)sending, (id)message, (id)picture, (id)help, (id)window})
+  for (id part : {(id)printers, (id)documents, (id)presets, (id)copies, (id)pages, (id)options,
+                  (id)more, (id)panes, (id)aligning, (id)sheets, (id)pictureArea, (id)sending,
+                  (id)message, (id)picture, (id)help, (id)window})
     [part release];
   delete state;
   [super dealloc];
@@ -123,7 +123,13 @@ struct imageposition::PrintDialogState {
 - (void)buildParts {
   message = [[MessageView alloc] initWithFrame:NSZeroRect];
   picture = [[PreviewView alloc] initWithFrame:NSZeroRect];
-  aligning = [[Aligning alloc] initWithDialog:self picture:picture];
+  aligning = [[Aligning alloc] initWithDialog:self];
+  sheets = [[Sheets alloc] initWithDialog:self picture:picture wake:*state->wake];
+  pictureArea = [[PictureArea alloc] initWithPicture:picture
+                                              sheets:[sheets bar]
+                                             enlarge:[sheets enlargeButton]
+                                              button:[aligning button]];
+  [aligning setArea:pictureArea];
   printers = [[PrinterRow alloc] initWithDialog:self wake:*state->wake];
   documents = [[DocumentRow alloc] initWithDialog:self wake:*state->wake];
   presets = [[PresetRow alloc] initWithDialog:self];
@@ -151,25 +157,28 @@ struct imageposition::PrintDialogState {
   rows.push_back([panes row]);
   NSButton *const resolve = [options resolveButton];
   state->layout = std::make_unique<DialogLayout>(
-      DialogContent{rows, [aligning area], [aligning button], [panes area], [options hint], resolve,
-                    message, [sending progressView], helpButton, cancel, print},
+      DialogContent{rows, pictureArea, [sheets bar], [sheets enlargeButton], [aligning button],
+                    [panes area], [options hint], resolve, message, [sending progressView],
+                    helpButton, cancel, print},
       pane, room);
   window = state->layout->window();
   [window setDelegate:(id)self];
+  [window reach:[sheets enlargeButton] by:messages::kEnlarge];
   [window reach:[aligning button] by:messages::kAlign];
   [window reach:resolve by:messages::kResolve];
   [window reach:helpButton by:messages::kHelpButton];
   [window reach:cancel by:messages::kCancel];
   [window reach:print by:messages::kPrint];
-  [panes linkBefore:[aligning button]];
+  [panes linkBefore:[[sheets bar] previousButton]];
   [documents refresh];
 }
 
 /// Adapts to the window's size, or to a message, a hint or a panel that has come or gone. Without
 /// a panel, nothing can be shifted, so there is no picture.
 - (void)layOut {
-  [[aligning area] setHidden:state->session->panels().panels().empty()];
+  [pictureArea setHidden:state->session->panels().panels().empty()];
   state->layout->layOut();
+  [pictureArea layOut];
   [documents refresh];
   [printers showState];
 }
@@ -180,6 +189,7 @@ struct imageposition::PrintDialogState {
   [window protect:[=] {
     [dialog layOut];
     [dialog->panes areaResized];
+    [dialog->sheets jobChanged];
   }];
 }
 
@@ -212,6 +222,10 @@ struct imageposition::PrintDialogState {
 
 - (int)documentPages {
   return [documents pages];
+}
+
+- (BOOL)isDocumentExamined {
+  return [documents isExamined];
 }
 
 - (BOOL)savePanels {
@@ -266,13 +280,14 @@ struct imageposition::PrintDialogState {
 /// Called at every change of a setting, and of what is known of the document.
 - (void)refreshPicture {
   PrintJob &job = state->session->job();
-  PreviewView *const view = picture;
+  Sheets *const shownSheets = sheets;
   DocumentRow *const documentRow = documents;
   [window protect:[&] { // it may be a panel that has changed the setting
     PreviewRequest request = readPreviewRequest(job.settings(), job.printer().ppd());
     request.hasLandscapePages = isImageShiftAdded(job.printer().ppd()) &&
                                 hasLandscapePages(job.settings(), [documentRow isLandscape]);
-    [view showPreview:makePreview(request)];
+    [shownSheets showPreview:makePreview(request)];
+    [shownSheets jobChanged];
   }];
 }
 
@@ -342,8 +357,10 @@ struct imageposition::PrintDialogState {
   DocumentRow *const documentRow = documents;
   Sending *const sender = sending;
   Panes *const paneArea = panes;
+  Sheets *const shownSheets = sheets;
   [window protect:[=] {
     [sender look];
+    [shownSheets look];
     [documentRow refresh];
     if ([printerRow takeAnswer])
       [paneArea printersListed];

@@ -35,6 +35,8 @@ const Text kSummaryTitle = text("Summary");
 const Text kResolve = text("Resol&ve");
 const Text kPrint = text("Print");
 const Text kAlign = text("Ali&gn…");
+// Translators: a button that shows a sheet of the document in the size of the window.
+const Text kEnlarge = text("E&nlarge");
 const Text kNoPrinterToAlign = text("Choose a printer to align it.");
 const Text kDryRunPrintsNothing = text("Nothing was printed: this is a dry run.");
 std::string sheetsSent(const std::string &job) {

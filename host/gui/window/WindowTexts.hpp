@@ -37,6 +37,7 @@ extern const Text kSummaryTitle;
 extern const Text kResolve;
 extern const Text kPrint;
 extern const Text kAlign;
+extern const Text kEnlarge;
 extern const Text kNoPrinterToAlign;    ///< Beside that button.
 extern const Text kDryRunPrintsNothing; ///< In the window of that button.
 std::string sheetsSent(const std::string &job);

@@ -1,0 +1,96 @@
+/// Fetches images of the job's sheets in the background.
+#ifndef IMAGEPOSITION_CORE_PAGES_SHEETIMAGES_HPP
+#define IMAGEPOSITION_CORE_PAGES_SHEETIMAGES_HPP
+
+#include "PageRenderer.hpp"
+#include "SheetOrder.hpp"
+#include "ShiftedJob.hpp"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace imageposition {
+
+/// A document as the job prints it.
+struct ShownDocument {
+  std::shared_ptr<const ShiftedJob> job; ///< Moves nothing.
+  std::string path;
+  /// None if its pages are only known once it is laid out.
+  std::optional<DocumentPages> pages;
+  SideOrder order;
+  std::string identity; ///< Another one if anything that changes the laid-out pages is different.
+};
+
+/// The images of the visible sheet and its neighbours; no others are kept. Only the sheets around
+/// the visible one are laid out, if the document's pages are known, so a long document takes no
+/// longer than a short one.
+///
+/// Call all methods on one thread; none waits.
+class SheetImages {
+public:
+  /// Called on another thread when `take` is due.
+  using Changed = std::function<void()>;
+  using Image = std::shared_ptr<const RenderedPage>; ///< Null while there is none.
+
+  enum class State {
+    None,    ///< There is no document to show.
+    Loading, ///< The visible sheet is not there yet.
+    Shown,
+    Failed,
+  };
+
+  explicit SheetImages(Changed changed);
+  /// Cancels what is under way.
+  ~SheetImages();
+  SheetImages(const SheetImages &) = delete;
+  SheetImages &operator=(const SheetImages &) = delete;
+
+  /// Shows another document, or the same one laid out differently. Does nothing if the identity is
+  /// the same. Until there are new images, those of the same path stay.
+  void show(std::optional<ShownDocument> document);
+  /// The size of the images. Until there are new images, the others stay.
+  void setScale(double pixelsPerPoint);
+  /// Turns to a sheet, or to the nearest one that exists.
+  void turnTo(int sheet);
+  /// Takes what was fetched; returns whether anything has changed.
+  bool take();
+
+  State state() const noexcept;
+  int sheet() const noexcept { return sheet_; }
+  const SheetOrder &order() const noexcept { return order_; }
+  Image front() const { return imageOf(order_.sheets() > 0 ? sides().front : std::nullopt); }
+  Image back() const { return imageOf(order_.sheets() > 0 ? sides().back : std::nullopt); }
+
+private:
+  class Fetch;
+  struct LaidOut;
+  struct SizedImage {
+    Image image;
+    double pixelsPerPoint;
+  };
+
+  SheetSides sides() const { return order_.sheet(sheet_); }
+  Image imageOf(const std::optional<int> &side) const;
+  std::vector<int> missingSides(int sheet) const;
+  bool covers(int sheet) const;
+  void dropDistantImages();
+  void fetchNext();
+  void cancel();
+
+  Changed changed_;
+  std::optional<ShownDocument> document_;
+  double pixelsPerPoint_ = 0;
+  int sheet_ = 0;
+  SheetOrder order_;
+  std::map<int, SizedImage> images_; // by printed side
+  std::shared_ptr<const LaidOut> laidOut_;
+  bool hasFailed_ = false;
+  std::unique_ptr<Fetch> fetch_; // null if nothing is under way
+};
+
+} // namespace imageposition
+
+#endif

@@ -1,0 +1,65 @@
+/// A page of the document as the picture draws it.
+#ifndef IMAGEPOSITION_GUI_PICTURE_PAGEIMAGE_H
+#define IMAGEPOSITION_GUI_PICTURE_PAGEIMAGE_H
+
+#import <AppKit/AppKit.h>
+
+#include "PageRenderer.hpp"
+#include "PreviewLayout.hpp"
+
+#include <memory>
+#include <optional>
+
+namespace imageposition {
+
+/// The ink on a page; its paper is transparent, so that sides can be laid over each other. Main
+/// thread.
+class PageImage {
+public:
+  /// `page` has pixels. The flips show it as it shines through the sheet.
+  PageImage(const RenderedPage &page, bool flipsLeftRight, bool flipsTopBottom);
+  ~PageImage();
+  PageImage(const PageImage &) = delete;
+  PageImage &operator=(const PageImage &) = delete;
+
+  Point width() const noexcept { return width_; }
+  Point height() const noexcept { return height_; }
+  /// Draws in the focused view, which is flipped.
+  void draw(const PixelRectangle &place, double opacity) const;
+
+private:
+  NSImage *image_; // owned
+  Point width_;
+  Point height_;
+};
+
+/// A sheet's sides as they were rendered. Null for a blank side, or one that could not be rendered.
+struct SheetSideImages {
+  std::shared_ptr<const RenderedPage> front;
+  std::shared_ptr<const RenderedPage> back;
+};
+
+/// The same, ready to be drawn.
+struct SheetPages {
+  std::shared_ptr<const PageImage> front;
+  std::shared_ptr<const PageImage> back;
+  std::shared_ptr<const PageImage> frontSeenThrough;
+};
+
+/// Makes the images that can be drawn, and keeps them until the sides are different ones.
+class SheetPainter {
+public:
+  /// Returns whether anything has changed. Without a value there is no sheet.
+  bool take(const std::optional<SheetSideImages> &sides);
+  /// For a sheet that is turned like the preview's; null if there is none.
+  const SheetPages *pages(const Preview &preview);
+
+private:
+  std::optional<SheetSideImages> sides_;
+  std::optional<SheetPages> pages_;
+  bool isFlippedLeftRight_ = false; // the front, seen through the sheet
+};
+
+} // namespace imageposition
+
+#endif

@@ -1,0 +1,143 @@
+#import "SheetBar.h"
+
+#import "Labels.h"
+#import "MnemonicControls.h"
+#include "PagesTexts.hpp"
+#include "PictureTexts.hpp"
+#import "TextBridge.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace imageposition;
+
+namespace imageposition {
+
+std::string sheetText(const SheetImages &images) {
+  const SheetOrder &order = images.order();
+  switch (images.state()) {
+  case SheetImages::State::None:
+    return {};
+  case SheetImages::State::Failed:
+    return messages::kPagesNotShown;
+  default:
+    if (order.sheets() == 0)
+      return messages::kPagesAreLoaded;
+    return messages::sheetOf(images.sheet() + 1, order.sheets(), order.pagesInWords(images.sheet()),
+                             order.numberOfPages(images.sheet()) == 1);
+  }
+}
+
+int sheetAfterKey(NSEvent *event, const SheetImages &images) {
+  NSString *const characters = [event charactersIgnoringModifiers];
+  const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
+  switch (key) {
+  case NSLeftArrowFunctionKey:
+  case NSPageUpFunctionKey:
+    return images.sheet() - 1;
+  case NSRightArrowFunctionKey:
+  case NSPageDownFunctionKey:
+    return images.sheet() + 1;
+  case NSHomeFunctionKey:
+    return 0;
+  case NSEndFunctionKey:
+    return images.order().sheets() - 1;
+  default:
+    return images.sheet();
+  }
+}
+
+} // namespace imageposition
+
+namespace {
+
+constexpr CGFloat kArrowWidth = 30;
+constexpr CGFloat kGap = 6;
+
+NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SEL action) {
+  NSButton *const button = makeButton(arrow, target, action);
+  [button setFrameSize:NSMakeSize(kArrowWidth, kButtonHeight)];
+  [button setToolTip:toString(meaning)];
+  return button;
+}
+
+} // namespace
+
+@interface SheetBar ()
+- (void)layOut;
+- (void)turn:(id)sender;
+@end
+
+@implementation SheetBar
+
+- (id)initWithImages:(const SheetImages &)theImages target:(id<SheetTurning>)theTarget {
+  if ((self = [super initWithFrame:NSMakeRect(0, 0, 0, kButtonHeight)]) == nil)
+    return nil;
+  images = &theImages;
+  target = theTarget;
+  shownText = new std::string;
+  previous = makeArrow("◀", messages::kPreviousSheet, self, @selector(turn:));
+  next = makeArrow("▶", messages::kNextSheet, self, @selector(turn:));
+  label = makeLabel("");
+  for (NSView *view : {(NSView *)previous, (NSView *)next, (NSView *)label})
+    [self addSubview:view];
+  return self;
+}
+
+- (void)dealloc {
+  [previous setTarget:nil];
+  [next setTarget:nil];
+  delete shownText;
+  shownText = nullptr;
+  [super dealloc];
+}
+
+- (NSButton *)previousButton {
+  return previous;
+}
+
+- (NSButton *)nextButton {
+  return next;
+}
+
+- (void)setFrameSize:(NSSize)size {
+  [super setFrameSize:size];
+  if (shownText != nullptr) // not while the superclass initializes
+    [self layOut];
+}
+
+- (void)layOut {
+  [previous setFrameOrigin:NSMakePoint(0, 0)];
+  [next setFrameOrigin:NSMakePoint(kArrowWidth + kGap, 0)];
+  const bool hasArrows = ![previous isHidden];
+  const CGFloat left = hasArrows ? NSMaxX([next frame]) + kGap + 2 : 0;
+  showCut(label, *shownText, std::max<CGFloat>(NSWidth([self bounds]) - left, 0));
+  [label
+      setFrameOrigin:NSMakePoint(left, std::round((kButtonHeight - NSHeight([label frame])) / 2))];
+  [self setNeedsDisplay:YES];
+}
+
+- (void)refresh {
+  *shownText = sheetText(*images);
+  const int sheets = images->order().sheets();
+  for (NSButton *button : {previous, next})
+    [button setHidden:sheets < 2];
+  [previous setEnabled:images->sheet() > 0];
+  [next setEnabled:images->sheet() + 1 < sheets];
+  [self layOut];
+}
+
+- (void)turn:(id)sender {
+  [target turnTo:images->sheet() + (sender == next ? 1 : -1)];
+}
+
+/// A button passes on the keys that it does not know.
+- (void)keyDown:(NSEvent *)event {
+  const int sheet = sheetAfterKey(event, *images);
+  if (sheet != images->sheet())
+    [target turnTo:sheet];
+  else
+    [super keyDown:event];
+}
+
+@end

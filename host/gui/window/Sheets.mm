@@ -1,0 +1,133 @@
+#import "Sheets.h"
+
+#import "MnemonicControls.h"
+#import "RunLoopWake.h"
+#import "SheetPanel.h"
+#import "SheetPictures.h"
+#include "ShownJob.hpp"
+#include "WindowTexts.hpp"
+
+#include <memory>
+#include <optional>
+
+using namespace imageposition;
+
+struct imageposition::SheetsState {
+  std::unique_ptr<SheetImages> images; // GNU's Objective-C cannot encode its members
+  Preview preview = {};
+  std::unique_ptr<SheetPanel> panel = nullptr; // while a sheet is enlarged
+};
+
+@interface Sheets () <SheetTurning, PreviewViewTarget>
+- (void)showJob;
+- (void)refresh;
+- (void)enlarge:(id)sender;
+- (void)enlargePlace:(PreviewLayout::Place)place;
+@end
+
+@implementation Sheets
+
+- (id)initWithDialog:(id<DialogServices>)theDialog
+             picture:(PreviewView *)thePicture
+                wake:(const RunLoopWake &)wake {
+  if ((self = [super init]) == nil)
+    return nil;
+  dialog = theDialog;
+  picture = [thePicture retain];
+  state = new SheetsState{std::make_unique<SheetImages>(wake.signal())};
+  bar = [[SheetBar alloc] initWithImages:*state->images target:self];
+  enlargeButton = [makeButton(messages::kEnlarge, self, @selector(enlarge:)) retain];
+  [picture setTarget:self];
+  [bar setHidden:YES];
+  [enlargeButton setHidden:YES];
+  return self;
+}
+
+- (void)dealloc {
+  [NSObject cancelPreviousPerformRequestsWithTarget:self];
+  [picture setTarget:nil];
+  [enlargeButton setTarget:nil];
+  for (id part : {(id)picture, (id)bar, (id)enlargeButton})
+    [part release];
+  delete state;
+  [super dealloc];
+}
+
+- (SheetBar *)bar {
+  return bar;
+}
+
+- (NSButton *)enlargeButton {
+  return enlargeButton;
+}
+
+- (void)showPreview:(const Preview &)preview {
+  state->preview = preview;
+  [picture showPreview:preview];
+}
+
+- (void)jobChanged {
+  [NSObject cancelPreviousPerformRequestsWithTarget:self selector:@selector(showJob) object:nil];
+  [self performSelector:@selector(showJob)
+             withObject:nil
+             afterDelay:0
+                inModes:[NSArray
+                            arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, nil]];
+}
+
+- (void)showJob {
+  if (![[picture window] isVisible] || ![dialog isDocumentExamined])
+    return;
+  PrintSession &session = [dialog session];
+  state->images->show(
+      documentToShow(session.job(), session.destinations().list(), [dialog documentPages]));
+  if (state->panel == nullptr)
+    state->images->setScale([picture pixelsPerPoint]);
+  [self refresh];
+}
+
+- (void)look {
+  if (state->images->take())
+    [self refresh];
+}
+
+- (void)refresh {
+  const bool hasSheets = state->images->order().sheets() > 0;
+  const bool isShown = state->images->state() != SheetImages::State::None;
+  const bool isNew = isShown == [bar isHidden] || hasSheets == [enlargeButton isHidden];
+  [picture showSheet:sheetSides(*state->images) named:sheetText(*state->images)];
+  [bar setHidden:!isShown];
+  [enlargeButton setHidden:!hasSheets];
+  [bar refresh];
+  if (isNew)
+    [dialog layOut];
+  if (state->panel != nullptr)
+    state->panel->refresh();
+}
+
+- (void)turnTo:(int)sheet {
+  state->images->turnTo(sheet);
+  [self refresh];
+}
+
+- (void)pageClicked:(PreviewLayout::Place)place {
+  [self enlargePlace:place];
+}
+
+- (void)enlarge:(id)sender {
+  (void)sender;
+  [self enlargePlace:PreviewLayout::Front];
+}
+
+- (void)enlargePlace:(PreviewLayout::Place)place {
+  if (state->images->order().sheets() == 0 || state->panel != nullptr)
+    return;
+  NSWindow *const window = [picture window];
+  state->panel = std::make_unique<SheetPanel>(*state->images, state->preview);
+  state->panel->show(window, place);
+  state->panel.reset();
+  state->images->setScale([picture pixelsPerPoint]);
+  [self refresh];
+}
+
+@end
