@@ -5,6 +5,7 @@
 #include "PageDrawing.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -59,7 +60,11 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     _exit(isRendered({reinterpret_cast<const char *>(data), size}) ? 0 : kWrong);
   }
   int status = 0;
-  check(process > 0 && waitpid(process, &status, 0) == process, "a process can be started");
+  pid_t ended = -1;
+  do // the fuzzer's own timer interrupts
+    ended = waitpid(process, &status, 0);
+  while (ended < 0 && errno == EINTR);
+  check(process > 0 && ended == process, "a process can be started");
   check(!WIFEXITED(status) || WEXITSTATUS(status) != kWrong, "a page is what it should be");
   return 0;
 }
