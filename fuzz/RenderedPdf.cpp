@@ -17,8 +17,9 @@ using namespace imageposition::fuzz;
 
 namespace {
 
-constexpr int kWrong = 42; // the status of a process that found something
-constexpr unsigned kSeconds = 3;
+constexpr int kWrong = 42;         // the status of a process that found something
+constexpr rlim_t kSeconds = 1;     // of the processor
+constexpr unsigned kLifetime = 20; // seconds
 
 bool isRight(const PageDrawing &drawing, const RenderRequest &request) {
   const auto report = readPageReport(lineOf(drawing.report));
@@ -48,7 +49,9 @@ void becomeExpendable() {
   setrlimit(RLIMIT_CORE, &none);
   setrlimit(RLIMIT_FSIZE, &none);
   dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
-  alarm(kSeconds);
+  const rlimit time{kSeconds, kSeconds};
+  setrlimit(RLIMIT_CPU, &time);
+  alarm(kLifetime);
 }
 
 } // namespace
