@@ -166,11 +166,16 @@ TEST_F(Renderer, DrawsTextWhoseFontsAreNotEmbedded) {
 }
 
 TEST_F(Renderer, NeedsNoFontCacheAndNoHome) {
+  const std::string configuration =
+      folder_.write("fonts.conf", "<fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir>"
+                                  "<cachedir>/nowhere</cachedir></fontconfig>");
   const std::string before = std::getenv("HOME") != nullptr ? std::getenv("HOME") : "";
   setenv("HOME", "/nowhere", 1);
+  setenv("FONTCONFIG_FILE", configuration.c_str(), 1);
   const std::string latin =
       pdfWithText("<< /Type /Font /Subtype /Type1 /BaseFont /Times-Roman >>", "(Wide)");
   EXPECT_GT(inkOn(renderPage(latin)), 300);
+  unsetenv("FONTCONFIG_FILE");
   before.empty() ? unsetenv("HOME") : setenv("HOME", before.c_str(), 1);
 }
 
