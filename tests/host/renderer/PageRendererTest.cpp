@@ -286,7 +286,8 @@ TEST_F(Renderer, EndsAtOnceWhenCancelled) {
     cancelled = std::chrono::steady_clock::now();
     return cancelled - start < std::chrono::milliseconds(300);
   });
-  EXPECT_LT(std::chrono::steady_clock::now() - cancelled, std::chrono::milliseconds(200));
+  EXPECT_LT(std::chrono::steady_clock::now() - cancelled, std::chrono::milliseconds(500))
+      << "0.2 s on an idle machine";
   EXPECT_TRUE(pages.empty());
   EXPECT_FALSE(isRunning());
 }
