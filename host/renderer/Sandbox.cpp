@@ -35,9 +35,9 @@ void limit(__rlimit_resource resource, rlim_t most) {
   setrlimit(resource, &limits);
 }
 
-/// The kernel sends the signal, which ends the process, even while poppler is busy.
+/// The kernel sends the signal even while poppler is busy, and nothing can block it.
 void endWithInput() {
-  std::signal(SIGIO, SIG_DFL);
+  fcntl(STDIN_FILENO, F_SETSIG, SIGKILL);
   fcntl(STDIN_FILENO, F_SETOWN, getpid());
   fcntl(STDIN_FILENO, F_SETFL, fcntl(STDIN_FILENO, F_GETFL) | O_ASYNC);
   pollfd input{STDIN_FILENO, 0, 0};
