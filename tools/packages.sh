@@ -7,6 +7,8 @@ build_packages=(
   libcups2-dev libfontconfig-dev libx11-dev         # printers; the list of fonts; the display
   libcli11-dev nlohmann-json3-dev                   # command line, tickets
   libqpdf-dev                                       # pages of documents
+  libpoppler-cpp-dev                                # renders pages of documents for the picture
+  libseccomp-dev                                    # what the process that renders may do
   libpango1.0-dev                                   # the words of alignment sheets
   libglib2.0-dev                                    # the session's bus, for the print portal
   gettext                                           # the dialog's translations
@@ -15,6 +17,8 @@ build_packages=(
 run_packages=(
   gnustep-back0.29-cairo                            # draws the windows
   libqpdf29                                         # reads the documents' pages
+  libpoppler-cpp0v5 libseccomp2                     # render the documents' pages, in a sandbox
+  poppler-data                                      # Chinese, Japanese and Korean text in them
   libpangocairo-1.0-0                               # draws alignment sheets
   libglib2.0-0                                      # serves the print portal
   cups-common                                       # words for what printers offer, in many languages

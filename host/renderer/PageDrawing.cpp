@@ -67,14 +67,14 @@ const char *RenderableDocument::problem() const {
 }
 
 PageDrawing RenderableDocument::draw(int number, const RenderRequest &request) const {
-  const PageDrawing none{{number, {}, {}}, {}};
+  PageDrawing drawing{{number, {}, {}}, {}};
   const std::unique_ptr<poppler::page> page(
       number < document_->pages() ? document_->create_page(number) : nullptr);
   if (page == nullptr)
-    return none;
+    return drawing;
   const PageReport report = reportOn(*page, number);
   if (!report.isRendered())
-    return none;
+    return drawing;
   const PixelSize size = pixelSizeOf(report, request);
   poppler::page_renderer renderer;
   renderer.set_image_format(poppler::image::format_argb32);
@@ -85,7 +85,9 @@ PageDrawing RenderableDocument::draw(int number, const RenderRequest &request) c
       renderer.render_page(page.get(), resolution, resolution, 0, 0, size.width, size.height);
   const bool isRight = image.is_valid() && image.format() == poppler::image::format_argb32 &&
                        image.width() == size.width && image.height() == size.height;
-  return isRight ? PageDrawing{report, pixelsOf(image)} : none;
+  if (isRight)
+    drawing = {report, pixelsOf(image)};
+  return drawing;
 }
 
 } // namespace imageposition

@@ -5,8 +5,10 @@
 #include "PageDrawing.hpp"
 #include "Sandbox.hpp"
 
+#include <algorithm>
 #include <cerrno>
 #include <exception>
+#include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -50,7 +52,19 @@ bool render(const RenderRequest &request) try {
 std::size_t documentSize() {
   struct stat status {};
   const bool isFile = fstat(kRendererDocument, &status) == 0 && S_ISREG(status.st_mode);
-  return isFile ? static_cast<std::size_t>(status.st_size) : 0;
+  constexpr auto kLargest = static_cast<off_t>(std::numeric_limits<int>::max()); // for poppler
+  return isFile ? static_cast<std::size_t>(std::min(status.st_size, kLargest)) : 0;
+}
+
+/// Returns the exit status.
+int run(const std::vector<std::string> &words) {
+  const auto request = readRenderRequest(words);
+  if (!request)
+    return 2;
+  const auto folders = prepareFonts(); // before files can no longer be written: fontconfig's cache
+  limitProcess(largestResult(*request), documentSize());
+  enterSandbox(folders, kRendererResult);
+  return render(*request) ? 0 : 1;
 }
 
 } // namespace
@@ -58,14 +72,7 @@ std::size_t documentSize() {
 } // namespace imageposition
 
 int main(int argc, char **argv) try {
-  using namespace imageposition;
-  const auto request = readRenderRequest({argv + 1, argv + argc});
-  if (!request)
-    return 2;
-  const auto folders = prepareFonts(); // before files can no longer be written: fontconfig's cache
-  limitProcess(largestResult(*request), documentSize());
-  enterSandbox(folders, kRendererResult);
-  _exit(render(*request) ? 0 : 1);
+  _exit(imageposition::run({argv + 1, argv + argc}));
 } catch (const std::exception &) {
   _exit(1);
 }

@@ -58,15 +58,12 @@ TEST_P(Hardening, ItHasIndirectBranchTracking) {
 #endif
 
 std::string nameOf(const testing::TestParamInfo<const char *> &info) {
-  static const char *const kNames[] = {"Program", "Module", "PrintCore", "Plugin"};
+  static const char *const kNames[] = {"Program", "Module", "PrintCore", "Plugin", "Renderer"};
   return kNames[info.index];
 }
 
 const std::vector<const char *> kCode{
-    PRINT_DIALOG,
-    CODE_OF_MODULE,
-    CODE_OF_PRINT_CORE,
-    CODE_OF_PLUGIN,
+    PRINT_DIALOG, CODE_OF_MODULE, CODE_OF_PRINT_CORE, CODE_OF_PLUGIN, CODE_OF_RENDERER,
 };
 
 INSTANTIATE_TEST_SUITE_P(Built, Hardening, testing::ValuesIn(kCode), nameOf);

@@ -246,7 +246,8 @@ TEST_P(InstallUnder, AnyMaskOnlyTheOwnerCanWriteToInstalledFiles) {
     const std::string name = entry.path().filename();
     const bool runs = entry.is_directory() || name == "print-dialog" ||
                       name == "print-dialog-examiner" || name == "print-dialog-mover" ||
-                      name == "print-dialog-sheet" || name == "print-dialog-portal";
+                      name == "print-dialog-renderer" || name == "print-dialog-sheet" ||
+                      name == "print-dialog-portal";
     const auto mode = static_cast<unsigned>(entry.status().permissions());
     const bool isCompletion = entry.path().parent_path().filename() == "completions";
     EXPECT_EQ(mode, runs && !isCompletion ? 0755U : 0644U) << entry.path();

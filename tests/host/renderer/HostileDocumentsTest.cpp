@@ -1,4 +1,4 @@
-// What a fuzzer has collected, and documents that were made to do harm.
+// The inputs of the fuzzer, and documents that were made to take all time or memory.
 #include "PageRenderer.hpp"
 
 #include "ProcessRun.hpp"
@@ -52,8 +52,9 @@ TEST_P(HostileDocument, LetsTheProgramEndByItself) {
 
 std::vector<std::filesystem::path> documents() {
   std::vector<std::filesystem::path> paths;
-  for (const auto &entry : std::filesystem::directory_iterator(HOSTILE_DOCUMENTS))
-    paths.push_back(entry.path());
+  for (const char *const folder : {FUZZED_DOCUMENTS, HOSTILE_DOCUMENTS})
+    for (const auto &entry : std::filesystem::directory_iterator(folder))
+      paths.push_back(entry.path());
   std::sort(paths.begin(), paths.end());
   return paths;
 }
