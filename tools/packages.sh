@@ -37,6 +37,7 @@ test_packages=(
   x11-xkb-utils procps                              # keyboard layouts; which programs run
   man-db mandoc desktop-file-utils libxml2-utils    # check the man page, the desktop file, and XML
   appstream                                         # checks the description for software centres
+  libarchive-tools                                  # unpacks the installer for macOS
   zsh python3                                       # completion, in the real shells
   strace util-linux                                 # kill at each system call; run as another user
   cups-client cups-daemon                           # a PPD checker; a private CUPS
