@@ -3,6 +3,7 @@
 #import "Labels.h"
 #import "MnemonicControls.h"
 #include "PagesTexts.hpp"
+#include "Phrases.hpp"
 #include "PictureTexts.hpp"
 #import "TextBridge.h"
 
@@ -13,7 +14,9 @@ using namespace imageposition;
 
 namespace imageposition {
 
-std::string sheetText(const SheetImages &images) {
+namespace {
+
+std::string sheetOfDocument(const SheetImages &images) {
   const SheetOrder &order = images.order();
   switch (images.state()) {
   case SheetImages::State::None:
@@ -26,6 +29,13 @@ std::string sheetText(const SheetImages &images) {
     return messages::sheetOf(images.sheet() + 1, order.sheets(), order.pagesInWords(images.sheet()),
                              order.numberOfPages(images.sheet()) == 1);
   }
+}
+
+} // namespace
+
+std::string sheetText(const SheetImages &images) {
+  const std::string sheet = sheetOfDocument(images);
+  return images.name().empty() || sheet.empty() ? sheet : messages::named(images.name(), sheet);
 }
 
 int sheetAfterKey(NSEvent *event, const SheetImages &images) {

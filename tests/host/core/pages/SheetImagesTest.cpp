@@ -270,6 +270,15 @@ TEST_F(JobsSheets, AreNotFetchedFromAPipeOrAFolder) {
   }
 }
 
+TEST_F(JobsSheets, AreOfTheFirstDocumentWhichIsNamedAmongOthers) {
+  const std::string first = folder_.write("first.pdf", pdfWithNumberedPages(1));
+  const std::string second = folder_.write("second.pdf", pdfWithNumberedPages(1));
+  job_->setDocuments({first, second});
+  EXPECT_EQ(documentToShow(*job_, {}, 1).value().name, "first.pdf");
+  job_->setDocuments({first});
+  EXPECT_EQ(documentToShow(*job_, {}, 1).value().name, "");
+}
+
 TEST_F(JobsSheets, AreForgottenWhileTheyAreFetched) {
   for (int i = 0; i < 20; i++) {
     show(pdfWithNumberedPages(3 + i), 3 + i);
