@@ -111,7 +111,8 @@ struct imageposition::SheetsState {
 }
 
 - (void)pageClicked:(PreviewLayout::Place)place {
-  [self enlargePlace:place];
+  if ([enlargeButton isEnabled]) // not while a document is sent
+    [self enlargePlace:place];
 }
 
 - (void)enlarge:(id)sender {
