@@ -171,6 +171,38 @@ TEST_F(EnlargedSheet, HasNumbersEachTwoCentimetres) {
         << millimetre;
 }
 
+TEST_F(EnlargedSheet, HasFewerNumbersWhereTheyWouldTouch) {
+  openSheet(300, 320, previewOf({}, {}));
+  const PixelRectangle sheet = paper();
+  const Rgb ground = at(0, 0);
+  constexpr int kApart = 5; // more than the digits of a number
+  std::vector<int> numbers; // where they end
+  for (int x = static_cast<int>(sheet.x) - 10; x < sheet.right() + 10; x++)
+    for (int y = static_cast<int>(sheet.y) - 10; y < sheet.y - 3; y++)
+      if (at(x, y) != ground) {
+        if (numbers.empty() || x - numbers.back() > kApart)
+          numbers.push_back(x);
+        numbers.back() = x;
+      }
+  EXPECT_EQ(numbers.size(), 5U); // from 0 to 200
+}
+
+TEST_F(EnlargedSheet, ShowsWhetherItHasTheFocus) {
+  openSheet(500, 600, previewOf({}, {}));
+  const PixelRectangle sheet = paper();
+  const auto inkAround = [&] { return ink({sheet.x + 50, sheet.bottom(), 100, 2}); };
+  [window_ makeFirstResponder:nil];
+  look();
+  const double before = inkAround();
+  [window_ makeFirstResponder:view_];
+  EXPECT_TRUE([view_ needsDisplay]);
+  look();
+  EXPECT_GT(inkAround(), before + 2000);
+  [window_ makeFirstResponder:nil];
+  look();
+  EXPECT_EQ(inkAround(), before);
+}
+
 TEST_F(EnlargedSheet, ShowsThePlaceThatIsChosen) {
   openSheet(500, 600, previewOf({}, {}));
   EXPECT_EQ(count(paper(), kLightPreview.back), 0);
