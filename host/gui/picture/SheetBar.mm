@@ -61,8 +61,8 @@ int sheetAfterKey(NSEvent *event, const SheetImages &images) {
 
 namespace {
 
-constexpr CGFloat kArrowWidth = 30;
-constexpr CGFloat kGap = 6;
+constexpr CGFloat kArrowWidth = 26;
+constexpr CGFloat kGap = 4;
 
 NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SEL action) {
   NSButton *const button = makeButton(arrow, target, action);
@@ -74,6 +74,7 @@ NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SE
 } // namespace
 
 @interface SheetBar ()
+- (void)showTextIn:(CGFloat)width;
 - (void)layOut;
 - (void)turn:(id)sender;
 @end
@@ -116,12 +117,22 @@ NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SE
     [self layOut];
 }
 
+/// Where there is little room, the sheet is worth more than its pages.
+- (void)showTextIn:(CGFloat)width {
+  showCut(label, *shownText, width);
+  const int sheets = images->order().sheets();
+  if ([label toolTip] == nil || sheets == 0)
+    return;
+  showCut(label, messages::sheetOf(images->sheet() + 1, sheets, {}, false), width);
+  [label setToolTip:toString(*shownText)];
+}
+
 - (void)layOut {
   [previous setFrameOrigin:NSMakePoint(0, 0)];
   [next setFrameOrigin:NSMakePoint(kArrowWidth + kGap, 0)];
   const bool hasArrows = ![previous isHidden];
   const CGFloat left = hasArrows ? NSMaxX([next frame]) + kGap + 2 : 0;
-  showCut(label, *shownText, std::max<CGFloat>(NSWidth([self bounds]) - left, 0));
+  [self showTextIn:std::max<CGFloat>(NSWidth([self bounds]) - left, 0)];
   [label
       setFrameOrigin:NSMakePoint(left, std::round((kButtonHeight - NSHeight([label frame])) / 2))];
   [self setNeedsDisplay:YES];
