@@ -15,6 +15,9 @@ namespace imageposition {
 /// The colours that suit the window's background.
 const PreviewColours &previewColours();
 const PaperColours &paperColours();
+/// The colours of lines on a page. Real pages look like paper in a dark window, too; a sample page,
+/// which `pages` lacks, has the window's colours.
+const PreviewColours &pageColours(const SheetPages *pages);
 
 void setColour(Rgb colour, double opacity = 1);
 NSRect toRect(const PixelRectangle &rectangle);

@@ -76,12 +76,12 @@ PixelRectangle visibleLoss(const PixelRectangle &exact, const PixelRectangle &im
   return loss;
 }
 
-void drawLoss(const PixelRectangle &loss) {
+void drawLoss(const PixelRectangle &loss, Rgb colour) {
   constexpr double kNarrow = 3; // a pattern would not be recognized
   if (std::min(loss.width, loss.height) < kNarrow)
-    fill(loss, previewColours().lost, 1);
+    fill(loss, colour, 1);
   else
-    hatch(loss, previewColours().lost);
+    hatch(loss, colour);
 }
 
 void drawImage(const PreviewLayout &layout, PreviewLayout::Place place, const PageImage &image,
@@ -101,7 +101,8 @@ void drawSamplePage(const DrawnSide &drawn, const PixelRectangle &imageable,
   [NSGraphicsContext restoreGraphicsState];
 }
 
-void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const DrawnSide &drawn) {
+void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const DrawnSide &drawn,
+              const PreviewColours &colours) {
   const PixelRectangle imageable = rounded(layout.onPage(place, drawn.side->imageable));
   const PixelRectangle content = rounded(layout.onPage(place, drawn.side->content));
   if (drawn.image != nullptr)
@@ -109,21 +110,20 @@ void drawSide(const PreviewLayout &layout, PreviewLayout::Place place, const Dra
   else if (!drawn.isBlank)
     drawSamplePage(drawn, imageable, content);
   for (const PageRectangle &part : drawn.side->lost)
-    drawLoss(visibleLoss(layout.onPage(place, part), imageable));
-  strokeRectangle(imageable, previewColours().printable, true);
+    drawLoss(visibleLoss(layout.onPage(place, part), imageable), colours.lost);
+  strokeRectangle(imageable, colours.printable, true);
   strokeRectangle(content, drawn.colour, drawn.isBack);
 }
 
 /// The edge about which the sheet is turned, as seen from the back.
-void drawTurningEdge(const PixelRectangle &page, bool isVertical) {
+void drawTurningEdge(const PixelRectangle &page, bool isVertical, Rgb colour) {
   constexpr double kThickness = 3;
   const PixelRectangle edge =
       isVertical ? PixelRectangle{page.right() - 2, page.y, kThickness, page.height}
                  : PixelRectangle{page.x, page.bottom() - 2, page.width, kThickness};
-  fill(edge, previewColours().text, 1);
+  fill(edge, colour, 1);
 }
 
-/// Real pages look like paper in a dark window, too.
 void drawPaper(const PixelRectangle &page, const SheetPages *pages) {
   fill(page, pages != nullptr ? paperColours().paper : previewColours().paper, 1);
   strokeRectangle(page, previewColours().outline, false);
@@ -156,7 +156,7 @@ DrawnSide withImage(DrawnSide drawn, const SheetPages *pages,
 
 /// With the back towards the reader.
 void drawBothSides(const Preview &preview, const PreviewLayout &layout, const SheetPages *pages) {
-  const PreviewColours &colours = previewColours();
+  const PreviewColours &colours = pageColours(pages);
   const PixelRectangle &page = layout.pages[PreviewLayout::AgainstLight].page;
   const bool vertical = turnsAboutVerticalAxis(preview.page, preview.turning);
   drawPaper(page, pages);
@@ -166,13 +166,13 @@ void drawBothSides(const Preview &preview, const PreviewLayout &layout, const Sh
       withImage({&*preview.frontSeenThrough, colours.front, false, vertical, !vertical}, pages,
                 &SheetPages::frontSeenThrough);
   front.opacity = kShineThrough;
-  drawSide(layout, PreviewLayout::AgainstLight, front);
+  drawSide(layout, PreviewLayout::AgainstLight, front, colours);
   if (pages != nullptr && pages->back != nullptr)
     drawImage(layout, PreviewLayout::AgainstLight, *pages->back, preview.back->offset, 1);
   strokeRectangle(rounded(layout.onPage(PreviewLayout::AgainstLight, preview.back->content)),
                   colours.back, true);
   [NSGraphicsContext restoreGraphicsState];
-  drawTurningEdge(page, vertical);
+  drawTurningEdge(page, vertical, colours.text);
 }
 
 void drawOneSide(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,
@@ -181,22 +181,23 @@ void drawOneSide(const PreviewLayout &layout, PreviewLayout::Place at, const Dra
   drawPaper(page, pages);
   [NSGraphicsContext saveGraphicsState];
   clipAround(page);
-  drawSide(layout, at, drawn);
+  drawSide(layout, at, drawn, pageColours(pages));
   [NSGraphicsContext restoreGraphicsState];
 }
 
 DrawnSide frontOf(const Preview &preview, const SheetPages *pages) {
-  return withImage({&preview.front, previewColours().front, false}, pages, &SheetPages::front);
+  return withImage({&preview.front, pageColours(pages).front, false}, pages, &SheetPages::front);
 }
 
 DrawnSide backOf(const Preview &preview, const SheetPages *pages) {
-  return withImage({&*preview.back, previewColours().back, true}, pages, &SheetPages::back);
+  return withImage({&*preview.back, pageColours(pages).back, true}, pages, &SheetPages::back);
 }
 
 void drawTitledSide(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,
                     const std::string &title, const SheetPages *pages) {
   drawOneSide(layout, at, drawn, pages);
-  drawTexts(layout.pages[at], title, shiftCaption(drawn.side->offset), drawn.colour);
+  drawTexts(layout.pages[at], title, shiftCaption(drawn.side->offset),
+            drawn.isBack ? previewColours().back : previewColours().front);
 }
 
 /// Draws a sample of a pattern and its meaning. Returns where the next entry begins.
@@ -243,6 +244,10 @@ void drawPreviewPages(const Preview &preview, const PreviewLayout &layout,
   if (preview.hasLandscapePages)
     drawLine(messages::kPreviewUprightSheet, layout.note, previewFont(), colours.text,
              Alignment::Left);
+}
+
+const PreviewColours &pageColours(const SheetPages *pages) {
+  return pages != nullptr ? kLightPreview : previewColours();
 }
 
 void drawPreviewPage(const Preview &preview, const PreviewLayout &layout,

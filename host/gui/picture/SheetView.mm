@@ -35,12 +35,12 @@ void strokeLine(double x1, double y1, double x2, double y2) {
 }
 
 /// From the sheet's upper left corner.
-void drawGrid(const PixelRectangle &page, double pixelsPerMillimetre) {
+void drawGrid(const PixelRectangle &page, double pixelsPerMillimetre, Rgb colour) {
   const int every = pixelsPerMillimetre >= kLeastSquare ? 1 : 10;
   [NSBezierPath setDefaultLineWidth:1];
   const auto reach = static_cast<int>(std::max(page.width, page.height) / pixelsPerMillimetre);
   for (int millimetre = every; millimetre <= reach; millimetre += every) {
-    setColour(previewColours().front, millimetre % 10 == 0 ? kCoarse : kFine);
+    setColour(colour, millimetre % 10 == 0 ? kCoarse : kFine);
     const double x = crisp(page.x + millimetre * pixelsPerMillimetre);
     const double y = crisp(page.y + millimetre * pixelsPerMillimetre);
     if (x < page.right())
@@ -167,9 +167,10 @@ void drawFocus(const PixelRectangle &page) {
   const PixelRectangle &page = layout.pages[state->place].page;
   if (page.width < 1 || page.height < 1)
     return;
-  drawPreviewPage(state->preview, layout, state->place, state->painter.pages(state->preview));
+  const SheetPages *const pages = state->painter.pages(state->preview);
+  drawPreviewPage(state->preview, layout, state->place, pages);
   const double pixelsPerMillimetre = layout.pixelsPerPoint * toPoints(TenthMillimetre{10}).count;
-  drawGrid(page, pixelsPerMillimetre);
+  drawGrid(page, pixelsPerMillimetre, pageColours(pages).front);
   drawNumbers(page, pixelsPerMillimetre);
   if ([[self window] firstResponder] == self)
     drawFocus(page);

@@ -11,6 +11,7 @@
 #import "TextBridge.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 using namespace imageposition;
@@ -26,7 +27,7 @@ struct TurnedSheets {
 @interface SheetPanelController : NSObject <SheetTurning> {
 @public
   const TurnedSheets *sheets; ///< Borrowed.
-  SheetView *view;     ///< Not owned; so below.
+  SheetView *view;            ///< Not owned; so below.
   SheetBar *bar;
   NSPopUpButton *places;
 }
@@ -57,6 +58,26 @@ namespace imageposition {
 namespace {
 
 constexpr CGFloat kWidthOfPlaces = 180;
+constexpr CGFloat kLeastWidthOfBar = 160; // both arrows and a short text
+
+/// What is below the sheet: a row with all controls or, in a narrow window, the bar above the rest.
+struct LowerRows {
+  NSRect bar;
+  CGFloat widthOfPlaces;
+  CGFloat top; ///< Of the upper row.
+};
+
+/// `right` is where the button that closes begins.
+LowerRows lowerRows(CGFloat width, CGFloat right) {
+  const CGFloat left = 2 * kPanelMargin + kWidthOfPlaces, room = right - kPanelMargin - left;
+  if (room >= kLeastWidthOfBar)
+    return {NSMakeRect(left, kPanelMargin, room, kButtonHeight), kWidthOfPlaces,
+            kPanelMargin + kButtonHeight};
+  const CGFloat bottom = 1.5 * kPanelMargin + kButtonHeight;
+  return {NSMakeRect(kPanelMargin, bottom, std::max<CGFloat>(width - 2 * kPanelMargin, 0),
+                     kButtonHeight),
+          std::clamp<CGFloat>(right - 2 * kPanelMargin, 0, kWidthOfPlaces), bottom + kButtonHeight};
+}
 
 NSPopUpButton *makePlaces(const Preview &preview, PreviewLayout::Place place, id target) {
   ListPopUp *const places =
@@ -85,12 +106,13 @@ void SheetPanel::show(NSWindow *parent, PreviewLayout::Place place) {
   const CGFloat controls = kButtonHeight + 3 * kPanelMargin;
   ModalPanel panel(messages::kSheetWindow, size.width, size.height - controls, messages::kClose);
   SheetPanelController *const controller = [[SheetPanelController alloc] init];
-  const CGFloat bottom = panel.bottom() - kPanelMargin / 2;
-  SheetView *const view =
-      [[[SheetView alloc] initWithFrame:NSMakeRect(0, bottom, size.width, size.height - bottom)
-                                 images:images_
-                                preview:preview_
-                                 target:controller] autorelease];
+  const LowerRows rows = lowerRows(size.width, NSMinX([panel.confirmButton() frame]));
+  const CGFloat bottom = std::round(rows.top + kPanelMargin / 2);
+  SheetView *const view = [[[SheetView alloc]
+      initWithFrame:NSMakeRect(0, bottom, size.width, std::max<CGFloat>(size.height - bottom, 0))
+             images:images_
+            preview:preview_
+             target:controller] autorelease];
   NSPopUpButton *const places = makePlaces(preview_, place, controller);
   SheetBar *const bar = [[[SheetBar alloc] initWithImages:images_ target:controller] autorelease];
   const TurnedSheets turned{images_};
@@ -98,10 +120,8 @@ void SheetPanel::show(NSWindow *parent, PreviewLayout::Place place) {
   controller->view = view;
   controller->bar = bar;
   controller->places = places;
-  [places setFrameOrigin:NSMakePoint(kPanelMargin, kPanelMargin)];
-  const CGFloat left = NSMaxX([places frame]) + kPanelMargin;
-  const CGFloat right = NSMinX([panel.confirmButton() frame]) - kPanelMargin;
-  [bar setFrame:NSMakeRect(left, kPanelMargin, std::max<CGFloat>(right - left, 0), kButtonHeight)];
+  [places setFrame:NSMakeRect(kPanelMargin, kPanelMargin, rows.widthOfPlaces, kButtonHeight)];
+  [bar setFrame:rows.bar];
   for (NSView *part : {(NSView *)view, (NSView *)places, (NSView *)bar})
     panel.add(part);
   [view showPlace:static_cast<PreviewLayout::Place>([places indexOfSelectedItem])];

@@ -37,6 +37,13 @@ TEST(PreviewColours, LinesStandOutFromThePaper) {
       EXPECT_GE(contrast(colour, colours->paper), 3) << std::hex << colour;
 }
 
+TEST(PaperColours, LetTheLinesOfRealPagesStandOut) {
+  for (const PaperColours *colours : {&kLightPaper, &kDarkPaper})
+    for (const Rgb colour : {kLightPreview.text, kLightPreview.front, kLightPreview.back,
+                             kLightPreview.lost, kLightPreview.printable})
+      EXPECT_GE(contrast(colour, colours->paper), 3) << std::hex << colour;
+}
+
 TEST(PaperColours, LookLikePaper) {
   for (const PaperColours *colours : {&kLightPaper, &kDarkPaper}) {
     EXPECT_GE(contrast(colours->ink, colours->paper), 12);

@@ -275,11 +275,16 @@ TEST_F(PagesInADarkWindow, LookLikePaper) {
   EXPECT_EQ(count(paper, kDarkPaper.paper), static_cast<int>(paper.width * paper.height));
 }
 
-TEST_F(PagesInADarkWindow, ShowWhatCannotBePrinted) {
+TEST_F(PagesInADarkWindow, HaveLinesThatStandOutFromPaper) {
   const Preview preview = previewOf({{100}, {0}}, {});
   showMarks(preview);
   const PixelRectangle lost = layout_.onPage(PreviewLayout::Front, preview.front.lost.at(0));
-  EXPECT_GT(count(lost, kDarkPreview.lost), lost.width * lost.height / 8);
+  EXPECT_GT(count(lost, kLightPreview.lost), lost.width * lost.height / 8);
+  EXPECT_GT(count(page(PreviewLayout::Front), kLightPreview.front), 100);
+  EXPECT_GT(count(page(PreviewLayout::Back), kLightPreview.back), 100);
+  const PixelRectangle &both = page(PreviewLayout::AgainstLight);
+  EXPECT_GT(count({both.right() - 3, both.y, 4, both.height}, kLightPreview.text), both.height);
+  EXPECT_GT(count(layout_.pages[PreviewLayout::Front].title, kDarkPreview.front), 20);
 }
 
 } // namespace

@@ -135,8 +135,9 @@ TEST_F(EnlargedSheet, HasALineEachCentimetreWhereMillimetresAreTooNarrow) {
   ASSERT_LT(pixelsPerMillimetre(), 4);
   const std::vector<int> lines = linesInMargin();
   ASSERT_EQ(lines.size(), 20U); // A4 is 210 mm wide
+  const double left = paper().x;
   for (std::size_t i = 0; i < lines.size(); i++)
-    EXPECT_NEAR(lines[i], paper().x + 10 * (static_cast<double>(i) + 1) * pixelsPerMillimetre(), 1);
+    EXPECT_NEAR(lines[i], left + 10 * (static_cast<double>(i) + 1) * pixelsPerMillimetre(), 1);
 }
 
 TEST_F(EnlargedSheet, HasALineEachMillimetreWhereThereIsRoom) {
@@ -146,10 +147,11 @@ TEST_F(EnlargedSheet, HasALineEachMillimetreWhereThereIsRoom) {
   ASSERT_GE(pixelsPerMillimetre(), 4);
   const std::vector<int> lines = linesInMargin();
   ASSERT_EQ(lines.size(), 104U); // the last one would be on the edge
-  const int row = static_cast<int>(paper().y) + 4;
+  const PixelRectangle sheet = paper();
+  const int row = static_cast<int>(sheet.y) + 4;
   for (std::size_t i = 0; i < lines.size(); i++) {
     const double millimetre = static_cast<double>(i) + 1;
-    EXPECT_NEAR(lines[i], paper().x + millimetre * pixelsPerMillimetre(), 1);
+    EXPECT_NEAR(lines[i], sheet.x + millimetre * pixelsPerMillimetre(), 1);
     const bool isCentimetre = (i + 1) % 10 == 0;
     EXPECT_EQ(redOf(at(lines[i], row)) < 215, isCentimetre) << millimetre;
   }

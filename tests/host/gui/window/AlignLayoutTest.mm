@@ -3,6 +3,7 @@
 
 #import "Labels.h"
 #include "Language.hpp"
+#import "ModalLook.h"
 #include "TemporaryFolder.hpp"
 #import "TextBridge.h"
 
@@ -13,26 +14,8 @@
 #include <sstream>
 #include <stdlib.h>
 #include <string>
-#include <vector>
 
 using namespace imageposition;
-
-/// Looks at the modal window, and closes it.
-@interface ModalLook : NSObject {
-@public
-  const std::function<void(NSWindow *)> *look; ///< Not owned.
-}
-- (void)lookAndClose;
-@end
-
-@implementation ModalLook
-
-- (void)lookAndClose {
-  (*look)([NSApp modalWindow]);
-  [NSApp abortModal];
-}
-
-@end
 
 namespace {
 
@@ -64,24 +47,7 @@ protected:
     PrintJob job(arguments_, openPrinter(arguments_));
     AlignmentSteps steps(job, errors_);
     goTo(steps, GetParam());
-    ModalLook *const looker = [[[ModalLook alloc] init] autorelease];
-    looker->look = &look;
-    [looker performSelector:@selector(lookAndClose)
-                 withObject:nil
-                 afterDelay:0
-                    inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
-    align(nil, steps, {});
-  }
-
-  static void eachShown(NSView *view, const std::function<void(NSView *)> &look) {
-    for (NSUInteger i = 0; i < [[view subviews] count]; i++) {
-      NSView *const one = [[view subviews] objectAtIndex:i];
-      if ([one isHidden])
-        continue;
-      look(one);
-      if (![one isKindOfClass:[NSControl class]] && ![one isKindOfClass:[NSScrollView class]])
-        eachShown(one, look);
-    }
+    test::inModalWindow([&] { align(nil, steps, {}); }, look);
   }
 
   const test::TemporaryFolder folder_;
@@ -99,7 +65,7 @@ TEST_P(AlignLayout, FitsOnASmallScreen) {
 
 TEST_P(AlignLayout, ClipsNoText) {
   inWindow([](NSWindow *window) {
-    eachShown([window contentView], [](NSView *view) {
+    test::eachShown([window contentView], [](NSView *view) {
       if (![view isKindOfClass:[NSTextField class]] && ![view isKindOfClass:[NSButton class]])
         return;
       NSControl *const control = (NSControl *)view;
@@ -116,18 +82,7 @@ TEST_P(AlignLayout, ClipsNoText) {
 }
 
 TEST_P(AlignLayout, OverlapsNoViews) {
-  inWindow([](NSWindow *window) {
-    std::vector<NSView *> views;
-    eachShown([window contentView], [&](NSView *view) { views.push_back(view); });
-    for (std::size_t i = 0; i < views.size(); i++) {
-      EXPECT_TRUE(NSContainsRect([[views[i] superview] bounds], [views[i] frame]))
-          << toText([views[i] description]);
-      for (std::size_t j = i + 1; j < views.size(); j++)
-        EXPECT_FALSE([views[i] superview] == [views[j] superview] &&
-                     NSIntersectsRect([views[i] frame], [views[j] frame]))
-            << toText([views[i] description]) << " " << toText([views[j] description]);
-    }
-  });
+  inWindow([](NSWindow *window) { test::expectNoOverlaps(window); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, AlignLayout,

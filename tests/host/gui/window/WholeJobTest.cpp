@@ -85,13 +85,14 @@ protected:
     EXPECT_NEAR(to.bottom - from.bottom, down * pixels, 1);
   }
 
-  /// Waits until the picture is drawn, which may be after the text beside it.
+  /// Waits until the picture is drawn, which may be after the text beside it. The row of controls
+  /// that turn the sheets makes it smaller.
   static Picture painted(const PrintWindow &window) {
     std::optional<Picture> picture;
     EXPECT_TRUE(window.becomes([&](const Screen &shown) {
       picture.emplace(shown);
-      return picture->paper().bottom > 0 && picture->front().bottom > 0 &&
-             picture->back().bottom > 0;
+      return shown.says("Sheet 1 of") && picture->paper().bottom > 0 &&
+             picture->front().bottom > 0 && picture->back().bottom > 0;
     }));
     return *picture;
   }
@@ -151,6 +152,7 @@ TEST_F(ThePicture, MovesBothSidesAlikeWithoutTheTick) {
 TEST_F(ThePicture, ShowsEachClickOnAStepperEnlarged) {
   PrintWindow window(onQueue("office"));
   window.tick(kSeparateOffsets, true);
+  painted(window);
   window.enter(kBackLeftRight, "10"); // its mark no longer hides the front's
   const auto moves = [&](const char *label, bool up, int rightwards, int downwards) {
     const Picture before(window.screen());
