@@ -62,6 +62,11 @@ bool startsWith(const std::string &text, const std::string &start) {
   return text.compare(0, start.size(), start) == 0;
 }
 
+/// As a shell does with a leading ~/.
+std::string withHome(const std::string &word) {
+  return startsWith(word, "~/") ? std::getenv("HOME") + word.substr(1) : word;
+}
+
 void signalCups(int signal) {
   const char *const server = std::getenv("CUPS_PID");
   if (server == nullptr || kill(std::atoi(server), signal) != 0)
@@ -128,10 +133,33 @@ Control Person::item(const std::string &title) {
   });
 }
 
+Control Person::visible(const std::string &kind, const std::string &text) {
+  return find("the " + kind + " " + text, [&](const Screen &now) { return now.find(kind, text); });
+}
+
+/// Windows are listed in the order in which they were made.
+Control Person::newestButton(const std::string &title) {
+  return find("the button " + title, [&](const Screen &now) -> const Control * {
+    const auto found =
+        std::find_if(now.controls.rbegin(), now.controls.rend(), [&](const Control &control) {
+          return control.kind == "button" && control.text == title;
+        });
+    return found == now.controls.rend() ? nullptr : &*found;
+  });
+}
+
+/// The middle of the first of three pages in the upper half of the picture.
+Control Person::frontPage() {
+  Control place = visible("picture", "");
+  place.width /= 3;
+  place.height /= 2;
+  return place;
+}
+
 void Person::open(const std::string &words) {
   std::vector<std::string> command{PRINT_DIALOG}, environment = environment_;
   for (const std::string &word : wordsOf(words))
-    command.push_back(word);
+    command.push_back(withHome(word));
   environment.push_back("OBSERVER_FILE=" + folder_.path("screen"));
   environment.push_back("PRINT_DIALOG_APPEARANCE=light");
   dialog_ = std::make_unique<Process>(command, environment);
@@ -177,8 +205,7 @@ void Person::paste(const std::string &text) {
 void Person::drop(const std::string &files) {
   std::vector<std::string> paths;
   for (const std::string &file : wordsOf(files))
-    paths.push_back(startsWith(file, "~/") ? std::getenv("HOME") + file.substr(1)
-                                           : std::filesystem::absolute(file).string());
+    paths.push_back(std::filesystem::absolute(withHome(file)).string());
   const Screen shown = screen();
   if (!dropFiles(paths, shown.x + 200, shown.y + 200))
     throw StepFailure("the window does not take the files");
@@ -327,12 +354,19 @@ std::vector<Sentence> Person::sentences() {
       {"open the dialog with ...", [=](const StepValues &v) { open(v[0]); }},
       {"open the dialog", [=](const StepValues &) { open(""); }},
       {"click on \"*\"", [=](const StepValues &v) { click(button(v[0]), kClick); }},
+      {"click on \"*\" of the newest window",
+       [=](const StepValues &v) { click(newestButton(v[0]), kClick); }},
       {"click on the list beside \"*\"",
        [=](const StepValues &v) { click(beside(v[0], "popup"), kClick); }},
       {"click on the list beside \"*\" for # ms",
        [=](const StepValues &v) { click(beside(v[0], "popup"), number(v[1])); }},
       {"click in the field beside \"*\"",
        [=](const StepValues &v) { click(beside(v[0], "field"), kClick); }},
+      {"click on the list that shows \"*\"",
+       [=](const StepValues &v) { click(visible("popup", v[0]), kClick); }},
+      {"click on the picture", [=](const StepValues &) { click(frontPage(), kClick); }},
+      {"click on the enlarged sheet",
+       [=](const StepValues &) { click(visible("sheet", ""), kClick); }},
       {"click on the item \"*\"", [=](const StepValues &v) { click(item(v[0]), kClick); }},
       {"point at the item \"*\"", [=](const StepValues &v) { pointAt(item(v[0])); }},
       {"drag from the list beside \"*\" to the item \"*\"",
@@ -449,6 +483,30 @@ std::vector<Sentence> Person::sentences() {
       {"see the picture change",
        [=](const StepValues &) {
          see("another picture", [&](const Screen &shown) { return Picture(shown) != picture_; });
+       }},
+      {"see the picture as it was",
+       [=](const StepValues &) {
+         see("the picture as it was", [&](const Screen &now) { return Picture(now) == picture_; });
+       }},
+      {"see the pages in the picture",
+       [=](const StepValues &) {
+         see("a page", [](const Screen &now) { return Picture(now).pageInkLeft() >= 0; });
+       }},
+      {"see the pages further right",
+       [=](const StepValues &) {
+         see("a page that has moved", [&](const Screen &now) {
+           return Picture(now).pageInkLeft() > picture_.pageInkLeft();
+         });
+       }},
+      {"look at the enlarged sheet",
+       [=](const StepValues &) { picture_ = Picture(screen(), "sheet"); }},
+      {"see the enlarged sheet",
+       [=](const StepValues &) {
+         see("a page", [](const Screen &now) { return Picture(now, "sheet").pageInkLeft() >= 0; });
+       }},
+      {"see the enlarged sheet change",
+       [=](const StepValues &) {
+         see("another sheet", [&](const Screen &now) { return Picture(now, "sheet") != picture_; });
        }},
       {"look at the drawing", [=](const StepValues &) { picture_ = Picture(screen(), "drawing"); }},
       {"see the drawing change",

@@ -2,7 +2,7 @@
 
 namespace imageposition::messages {
 
-const Text kPagesAreLoaded = text("Loading the pages...");
+const Text kPagesAreLoaded = text("Loading the pages…");
 const Text kPagesNotShown = text("The pages cannot be shown.");
 
 std::string sheetOf(int sheet, int sheets, const std::string &pages, bool isOnePage) {

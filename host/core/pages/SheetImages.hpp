@@ -18,6 +18,7 @@ namespace imageposition {
 struct ShownDocument {
   std::shared_ptr<const ShiftedJob> job; ///< Moves nothing.
   std::string path;
+  std::string name; ///< For display, if the job has other documents, too; otherwise empty.
   /// None if its pages are only known once it is laid out.
   std::optional<DocumentPages> pages;
   SideOrder order;
@@ -59,6 +60,8 @@ public:
   bool take();
 
   State state() const noexcept;
+  /// The document's name if it needs one.
+  std::string name() const { return document_ ? document_->name : ""; }
   int sheet() const noexcept { return sheet_; }
   const SheetOrder &order() const noexcept { return order_; }
   Image front() const { return imageOf(order_.sheets() > 0 ? sides().front : std::nullopt); }

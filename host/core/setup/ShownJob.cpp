@@ -1,5 +1,6 @@
 #include "ShownJob.hpp"
 
+#include "DocumentNames.hpp"
 #include "ShiftedJob.hpp"
 #include "Strings.hpp"
 
@@ -64,6 +65,8 @@ std::optional<ShownDocument> documentToShow(const PrintJob &job,
     return std::nullopt;
   ShownDocument shown;
   shown.path = job.documents().front();
+  if (job.documents().size() > 1)
+    shown.name = documentName(shown.path);
   JobRequest request = job.request(destinations);
   removeOffsets(request);
   const PrintSettingsStore options = optionsToSend(request);
@@ -78,8 +81,8 @@ std::optional<ShownDocument> documentToShow(const PrintJob &job,
   shown.job = std::make_shared<const ShiftedJob>(request, ShiftPlan{}, ppd, job.printer().text(),
                                                  device != nullptr ? device : "");
   for (const std::string &part :
-       {shown.path, versionOf(file), job.queue(), job.printer().name(), shown.job->layout(),
-        text(shown.order), shown.pages ? text(*shown.pages) : ""})
+       {shown.path, shown.name, versionOf(file), job.queue(), job.printer().name(),
+        shown.job->layout(), text(shown.order), shown.pages ? text(*shown.pages) : ""})
     shown.identity += part + '\n';
   return shown;
 } catch (const Failure &) { // printing says what is the matter

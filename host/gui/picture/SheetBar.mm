@@ -3,6 +3,7 @@
 #import "Labels.h"
 #import "MnemonicControls.h"
 #include "PagesTexts.hpp"
+#include "Phrases.hpp"
 #include "PictureTexts.hpp"
 #import "TextBridge.h"
 
@@ -13,7 +14,9 @@ using namespace imageposition;
 
 namespace imageposition {
 
-std::string sheetText(const SheetImages &images) {
+namespace {
+
+std::string sheetOfDocument(const SheetImages &images) {
   const SheetOrder &order = images.order();
   switch (images.state()) {
   case SheetImages::State::None:
@@ -26,6 +29,13 @@ std::string sheetText(const SheetImages &images) {
     return messages::sheetOf(images.sheet() + 1, order.sheets(), order.pagesInWords(images.sheet()),
                              order.numberOfPages(images.sheet()) == 1);
   }
+}
+
+} // namespace
+
+std::string sheetText(const SheetImages &images) {
+  const std::string sheet = sheetOfDocument(images);
+  return images.name().empty() || sheet.empty() ? sheet : messages::named(images.name(), sheet);
 }
 
 int sheetAfterKey(NSEvent *event, const SheetImages &images) {
@@ -51,8 +61,8 @@ int sheetAfterKey(NSEvent *event, const SheetImages &images) {
 
 namespace {
 
-constexpr CGFloat kArrowWidth = 30;
-constexpr CGFloat kGap = 6;
+constexpr CGFloat kArrowWidth = 26;
+constexpr CGFloat kGap = 4;
 
 NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SEL action) {
   NSButton *const button = makeButton(arrow, target, action);
@@ -64,6 +74,7 @@ NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SE
 } // namespace
 
 @interface SheetBar ()
+- (void)showTextIn:(CGFloat)width;
 - (void)layOut;
 - (void)turn:(id)sender;
 @end
@@ -106,12 +117,22 @@ NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SE
     [self layOut];
 }
 
+/// Where there is little room, the sheet is worth more than its pages.
+- (void)showTextIn:(CGFloat)width {
+  showCut(label, *shownText, width);
+  const int sheets = images->order().sheets();
+  if ([label toolTip] == nil || sheets == 0)
+    return;
+  showCut(label, messages::sheetOf(images->sheet() + 1, sheets, {}, false), width);
+  [label setToolTip:toString(*shownText)];
+}
+
 - (void)layOut {
   [previous setFrameOrigin:NSMakePoint(0, 0)];
   [next setFrameOrigin:NSMakePoint(kArrowWidth + kGap, 0)];
   const bool hasArrows = ![previous isHidden];
   const CGFloat left = hasArrows ? NSMaxX([next frame]) + kGap + 2 : 0;
-  showCut(label, *shownText, std::max<CGFloat>(NSWidth([self bounds]) - left, 0));
+  [self showTextIn:std::max<CGFloat>(NSWidth([self bounds]) - left, 0)];
   [label
       setFrameOrigin:NSMakePoint(left, std::round((kButtonHeight - NSHeight([label frame])) / 2))];
   [self setNeedsDisplay:YES];

@@ -3,10 +3,12 @@
 #import "KeyWindow.h"
 #import "PreviewDrawing.h"
 #import "SheetPictures.h"
+#import "Theme.h"
 #include "Units.hpp"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 
 using namespace imageposition;
@@ -22,7 +24,7 @@ struct imageposition::SheetViewState {
 namespace {
 
 constexpr double kMargin = 24; // for the numbers of the scales
-constexpr int kMillimetresPerNumber = 20;
+constexpr int kMillimetresPerNumber[] = {20, 50, 100};
 constexpr double kLeastSquare = 4;            // pixels; narrower lines would hide the page
 constexpr double kFine = 0.10, kCoarse = 0.2; // opacities
 
@@ -48,12 +50,22 @@ void drawGrid(const PixelRectangle &page, double pixelsPerMillimetre) {
   }
 }
 
+/// Keeps the numbers apart.
+int millimetresPerNumber(double pixelsPerMillimetre) {
+  const double least = widthOf("300", previewFont()) + 6;
+  for (const int millimetres : kMillimetresPerNumber)
+    if (millimetres * pixelsPerMillimetre >= least)
+      return millimetres;
+  return *std::rbegin(kMillimetresPerNumber);
+}
+
 /// Along the upper and the left edge.
 void drawNumbers(const PixelRectangle &page, double pixelsPerMillimetre) {
   const Rgb colour = previewColours().secondaryText;
   const double line = previewLineHeight();
+  const int every = millimetresPerNumber(pixelsPerMillimetre);
   for (int millimetre = 0; millimetre * pixelsPerMillimetre <= std::max(page.width, page.height);
-       millimetre += kMillimetresPerNumber) {
+       millimetre += every) {
     const double at = millimetre * pixelsPerMillimetre;
     const std::string text = std::to_string(millimetre);
     if (at <= page.width)
@@ -63,6 +75,14 @@ void drawNumbers(const PixelRectangle &page, double pixelsPerMillimetre) {
       drawLine(text, {page.x - kMargin - 4, page.y + at - line / 2, kMargin, line}, previewFont(),
                colour, Alignment::Right);
   }
+}
+
+/// Around the sheet.
+void drawFocus(const PixelRectangle &page) {
+  NSBezierPath *const path = [NSBezierPath bezierPathWithRect:NSInsetRect(toRect(page), -1, -1)];
+  [path setLineWidth:2];
+  [accentColor() set];
+  [path stroke];
 }
 
 } // namespace
@@ -94,6 +114,16 @@ void drawNumbers(const PixelRectangle &page, double pixelsPerMillimetre) {
 }
 
 - (BOOL)acceptsFirstResponder {
+  return YES;
+}
+
+- (BOOL)becomeFirstResponder {
+  [self setNeedsDisplay:YES];
+  return YES;
+}
+
+- (BOOL)resignFirstResponder {
+  [self setNeedsDisplay:YES];
   return YES;
 }
 
@@ -141,6 +171,8 @@ void drawNumbers(const PixelRectangle &page, double pixelsPerMillimetre) {
   const double pixelsPerMillimetre = layout.pixelsPerPoint * toPoints(TenthMillimetre{10}).count;
   drawGrid(page, pixelsPerMillimetre);
   drawNumbers(page, pixelsPerMillimetre);
+  if ([[self window] firstResponder] == self)
+    drawFocus(page);
 }
 
 @end

@@ -15,6 +15,8 @@ constexpr CGFloat kCellMargin = 2; // of a text field, to both sides of its text
 
 /// Keeps that many UTF-16 units, more of them at the end, where a path has its file name.
 NSString *withoutMiddle(NSString *text, NSUInteger kept) {
+  if (kept == 0)
+    return toString("…");
   const NSUInteger head = kept / 3;
   const NSUInteger tail = [text length] - (kept - head);
   NSString *const before =

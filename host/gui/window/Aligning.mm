@@ -25,7 +25,7 @@ constexpr std::chrono::minutes kLongestDrawing{2};
 
 /// Why the job cannot be aligned; empty if it can.
 std::string reasonAgainst(PrintJob &job) {
-  if (job.target() != JobTarget::Printer)
+  if (job.target() != JobTarget::Printer && job.target() != JobTarget::Prepared)
     return messages::kNoPrinterToAlign;
   const auto obstacle = obstacleToAlignment(job);
   return obstacle ? obstacle->reason : "";

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 using namespace imageposition;
 
@@ -20,6 +21,7 @@ struct imageposition::SheetsState {
 
 @interface Sheets () <SheetTurning, PreviewViewTarget>
 - (void)showJob;
+- (BOOL)isLocked;
 - (void)refresh;
 - (void)enlarge:(id)sender;
 - (void)enlargePlace:(PreviewLayout::Place)place;
@@ -79,8 +81,10 @@ struct imageposition::SheetsState {
   if (![[picture window] isVisible] || ![dialog isDocumentExamined])
     return;
   PrintSession &session = [dialog session];
-  state->images->show(
-      documentToShow(session.job(), session.destinations().list(), [dialog documentPages]));
+  std::optional<ShownDocument> document;
+  if (![picture isHiddenOrHasHiddenAncestor])
+    document = documentToShow(session.job(), session.destinations().list(), [dialog documentPages]);
+  state->images->show(std::move(document));
   if (state->panel == nullptr)
     state->images->setScale([picture pixelsPerPoint]);
   [self refresh];
@@ -91,6 +95,11 @@ struct imageposition::SheetsState {
     [self refresh];
 }
 
+/// All controls are disabled while a document is sent, and stay so whatever is fetched meanwhile.
+- (BOOL)isLocked {
+  return ![enlargeButton isEnabled];
+}
+
 - (void)refresh {
   const bool hasSheets = state->images->order().sheets() > 0;
   const bool isShown = state->images->state() != SheetImages::State::None;
@@ -98,7 +107,8 @@ struct imageposition::SheetsState {
   [picture showSheet:sheetSides(*state->images) named:sheetText(*state->images)];
   [bar setHidden:!isShown];
   [enlargeButton setHidden:!hasSheets];
-  [bar refresh];
+  if (![self isLocked])
+    [bar refresh];
   if (isNew)
     [dialog layOut];
   if (state->panel != nullptr)
@@ -111,7 +121,8 @@ struct imageposition::SheetsState {
 }
 
 - (void)pageClicked:(PreviewLayout::Place)place {
-  [self enlargePlace:place];
+  if (![self isLocked])
+    [self enlargePlace:place];
 }
 
 - (void)enlarge:(id)sender {

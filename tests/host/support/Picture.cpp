@@ -72,6 +72,13 @@ Outline Picture::front() const { return outline({0, 40, 130}); }
 Outline Picture::back() const { return outline({0, 133, 100}); }
 Outline Picture::paper() const { return outline({120, 120, 128}); }
 
+int Picture::pageInkLeft() const {
+  for (int x = 0; x < width_; x++)
+    if (inColumn(x, 0, height_, {0, 0, 0}) > 0)
+      return x;
+  return -1;
+}
+
 /// The back's cross may cover part of the front's.
 int Picture::frontMarkX() const {
   int found = -1;

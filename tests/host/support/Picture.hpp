@@ -25,6 +25,7 @@ public:
   /// Empty if there is no such view on the screen.
   explicit Picture(const Screen &screen, const std::string &kind = "picture");
 
+  bool operator==(const Picture &other) const { return pixels_ == other.pixels_; }
   bool operator!=(const Picture &other) const { return pixels_ != other.pixels_; }
 
   /// The outlines of the content on the pages "Front" and "Back".
@@ -32,6 +33,8 @@ public:
   Outline back() const;
   /// The outline of the paper of the page "Front".
   Outline paper() const;
+  /// The leftmost black pixel, which only a document's page has; -1 if there is none.
+  int pageInkLeft() const;
   /// The position of the front's cross in the enlarged centre; -1 if it is hidden.
   int frontMarkX() const;
   int frontMarkY() const;

@@ -10,8 +10,8 @@ namespace imageposition::test {
 /// A visible view. Pixels are counted from the display's upper left corner.
 struct Control {
   std::string kind; ///< popup, item (of an open menu), button, stepper, field, label, progress,
-                    ///< picture, drawing (of a scale), scroller, viewport (the part of a window
-                    ///< that scrolls).
+                    ///< picture, drawing (of a scale), sheet (enlarged), scroller, viewport (the
+                    ///< part of a window that scrolls).
   int x = 0;
   int y = 0;
   int width = 0;

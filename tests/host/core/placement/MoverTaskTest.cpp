@@ -17,6 +17,7 @@ MoverTask taskOfEverything() {
   task.user = "ann";
   task.path = "/home/ann/=report=.pdf";
   task.format = "text/plain";
+  task.pages = "2-5,8";
   task.filters = "/usr/lib/cups/filter";
   return task;
 }

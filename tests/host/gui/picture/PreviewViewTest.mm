@@ -1,7 +1,9 @@
 #import "PreviewView.h"
 
 #import "PreviewDrawing.h"
+#include "PreviewRequests.hpp"
 #import "TextBridge.h"
+#import "ViewOnScreen.h"
 
 #include <gtest/gtest.h>
 
@@ -11,83 +13,21 @@
 namespace {
 
 using namespace imageposition;
+using imageposition::test::previewOf;
 
-Preview previewOf(Offset front, Offset back, Turning turning = Turning::LongEdge,
-                  bool bannerPages = false) {
-  PreviewRequest request;
-  request.page = {{595}, {842}, {{12}, {12}, {583}, {830}}, true, true};
-  request.front = front;
-  request.back = back;
-  request.turning = turning;
-  request.availability = {turning == Turning::OneSided, bannerPages};
-  return makePreview(request);
-}
-
-/// Shows the view in a window and reads its pixels.
-class PreviewViewOnScreen : public testing::Test {
+class PreviewViewOnScreen : public imageposition::test::ViewOnScreen {
 protected:
   void SetUp() override {
     const NSSize size = [PreviewView preferredSize];
-    const NSRect frame = NSMakeRect(0, 0, size.width, size.height);
-    window_ = [[NSWindow alloc] initWithContentRect:frame
-                                          styleMask:NSBorderlessWindowMask
-                                            backing:NSBackingStoreBuffered
-                                              defer:NO];
-    [window_ setReleasedWhenClosed:NO];
-    view_ = [[PreviewView alloc] initWithFrame:frame];
-    [[window_ contentView] addSubview:view_];
-    [window_ orderFront:nil];
-  }
-
-  void TearDown() override {
-    [window_ close];
-    [bitmap_ release];
-    [view_ release];
-    [window_ release];
+    view_ = [[PreviewView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)];
+    open(view_);
   }
 
   void show(const Preview &preview) {
     [view_ showPreview:preview];
-    [window_ display];
-    // Reads from the content view, which is not flipped: the first row is then the top one.
-    NSView *const content = [window_ contentView];
-    [content lockFocus];
-    [bitmap_ release];
-    bitmap_ = [[NSBitmapImageRep alloc] initWithFocusedViewRect:[content bounds]];
-    [content unlockFocus];
+    look();
     const NSSize size = [view_ bounds].size;
     layout_ = layOutPreview(preview, {size.width, size.height, previewLineHeight()});
-  }
-
-  Rgb at(int x, int y) const {
-    NSUInteger pixel[5] = {};
-    [bitmap_ getPixel:pixel atX:x y:y];
-    return static_cast<Rgb>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
-  }
-
-  bool isNear(int x, int y, Rgb colour) const {
-    constexpr int kTolerance = 40;
-    const Rgb found = at(x, y);
-    return std::abs(redOf(found) - redOf(colour)) + std::abs(greenOf(found) - greenOf(colour)) +
-               std::abs(blueOf(found) - blueOf(colour)) <
-           kTolerance;
-  }
-
-  /// Whether a pixel of that colour is at most one pixel away.
-  bool isAround(const Pixel &pixel, Rgb colour) const {
-    for (int y = -1; y <= 1; y++)
-      for (int x = -1; x <= 1; x++)
-        if (isNear(static_cast<int>(pixel.x) + x, static_cast<int>(pixel.y) + y, colour))
-          return true;
-    return false;
-  }
-
-  int count(const PixelRectangle &area, Rgb colour) const {
-    int found = 0;
-    for (int y = static_cast<int>(area.y); y < area.bottom(); y++)
-      for (int x = static_cast<int>(area.x); x < area.right(); x++)
-        found += isNear(x, y, colour);
-    return found;
   }
 
   /// Where the outline of the content crosses a line, from left to right.
@@ -99,22 +39,7 @@ protected:
     return found;
   }
 
-  /// How much of the area is covered: the sum of all pixels' differences from white.
-  double ink(const PixelRectangle &area) const {
-    double sum = 0;
-    for (int y = static_cast<int>(area.y); y < area.bottom(); y++)
-      for (int x = static_cast<int>(area.x); x < area.right(); x++)
-        sum += 255 - redOf(at(x, y));
-    return sum;
-  }
-
-  PixelRectangle whole() const {
-    return {0, 0, [view_ bounds].size.width, [view_ bounds].size.height};
-  }
-
-  NSWindow *window_ = nil;
-  PreviewView *view_ = nil;
-  NSBitmapImageRep *bitmap_ = nil;
+  PreviewView *view_ = nil; // owned by its window
   PreviewLayout layout_;
   const PreviewColours &colours_ = kLightPreview;
 };

@@ -2,6 +2,7 @@
 #import "ScaleView.h"
 
 #include "PreviewColours.hpp"
+#import "ViewOnScreen.h"
 
 #include <gtest/gtest.h>
 
@@ -13,36 +14,17 @@ namespace {
 
 using namespace imageposition;
 
-class ScaleViewOnScreen : public testing::Test {
+class ScaleViewOnScreen : public imageposition::test::ViewOnScreen {
 protected:
   void SetUp() override {
     const NSSize size = [ScaleView preferredSize];
-    const NSRect frame = NSMakeRect(0, 0, size.width, size.height);
-    window_ = [[NSWindow alloc] initWithContentRect:frame
-                                          styleMask:NSBorderlessWindowMask
-                                            backing:NSBackingStoreBuffered
-                                              defer:NO];
-    [window_ setReleasedWhenClosed:NO];
-    view_ = [[ScaleView alloc] initWithFrame:frame];
-    [[window_ contentView] addSubview:view_];
-    [window_ orderFront:nil];
-  }
-
-  void TearDown() override {
-    [window_ close];
-    [bitmap_ release];
-    [view_ release];
-    [window_ release];
+    view_ = [[ScaleView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)];
+    open(view_);
   }
 
   void show(const ScalePicture &picture) {
     [view_ showPicture:picture];
-    [window_ display];
-    NSView *const content = [window_ contentView]; // not flipped: the first row is the top one
-    [content lockFocus];
-    [bitmap_ release];
-    bitmap_ = [[NSBitmapImageRep alloc] initWithFocusedViewRect:[content bounds]];
-    [content unlockFocus];
+    look();
   }
 
   /// From 0, white, to 1, at a place in millimetres along and across a scale's lines.
@@ -75,9 +57,7 @@ protected:
     return lines;
   }
 
-  NSWindow *window_ = nil;
-  ScaleView *view_ = nil;
-  NSBitmapImageRep *bitmap_ = nil;
+  ScaleView *view_ = nil; // owned by its window
 };
 
 constexpr double kInFront = -6, kInBack = 6; // depths where only one comb has lines

@@ -53,6 +53,8 @@ const char *kindOf(NSView *view) {
     return "picture";
   if ([view isKindOfClass:NSClassFromString(@"ScaleView")])
     return "drawing";
+  if ([view isKindOfClass:NSClassFromString(@"SheetView")])
+    return "sheet";
   if ([view isKindOfClass:[NSScroller class]])
     return "scroller";
   if ([view isKindOfClass:[NSClipView class]])

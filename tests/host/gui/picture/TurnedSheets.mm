@@ -1,0 +1,9 @@
+#import "TurnedSheets.h"
+
+@implementation SheetTurner
+
+- (void)turnTo:(int)sheet {
+  sheets->images.turnTo(sheet);
+}
+
+@end
