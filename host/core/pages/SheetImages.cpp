@@ -148,8 +148,7 @@ void SheetImages::setScale(double pixelsPerPoint) {
   if (pixelsPerPoint_ == pixelsPerPoint)
     return;
   pixelsPerPoint_ = pixelsPerPoint;
-  cancel();
-  fetchNext();
+  fetchNext(); // or after what is being fetched, whose layout is still right
 }
 
 void SheetImages::turnTo(int sheet) {
