@@ -129,7 +129,11 @@ void run(int argc, char **argv) {
   const File ten("10.pdf", colouredText(10)), many("3000.pdf", colouredText(3000));
   const File images("images.pdf", colouredImages(200, 500'000));
   for (const Program &program : programs)
-    measureFirstPage(screen, program, "10 pages", ten);
+    try {
+      measureFirstPage(screen, program, "10 pages", ten);
+    } catch (const std::runtime_error &failure) {
+      std::printf("%-14s %s\n", program.name.c_str(), failure.what());
+    }
   const Program &dialog = programs.back();
   measureFirstPage(screen, dialog, "3,000 pages", many);
   measureFirstPage(screen, dialog, "200 pages of images", images);
