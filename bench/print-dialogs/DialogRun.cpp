@@ -1,13 +1,11 @@
 #include "DialogRun.hpp"
 
+#include "Difference.hpp"
+#include "RunningProgram.hpp"
+
 #include <algorithm>
-#include <csignal>
 #include <cstdio>
-#include <fstream>
 #include <stdexcept>
-#include <sys/wait.h>
-#include <time.h>
-#include <unistd.h>
 
 namespace imageposition::bench {
 
@@ -21,72 +19,7 @@ struct Moment {
   Picture picture;
 };
 
-double milliseconds(Clock::duration duration) {
-  return std::chrono::duration<double, std::milli>(duration).count();
-}
-
-class Program {
-public:
-  explicit Program(const std::string &command) : started_(Clock::now()), pid_(fork()) {
-    if (pid_ != 0)
-      return;
-    setpgid(0, 0);
-    const std::string line = "exec " + command;
-    execl("/bin/sh", "sh", "-c", line.c_str(), nullptr);
-    _exit(127);
-  }
-  ~Program() {
-    kill(pid_, SIGKILL);
-    waitpid(pid_, nullptr, 0);
-  }
-  Program(const Program &) = delete;
-  Program &operator=(const Program &) = delete;
-
-  Clock::time_point started() const { return started_; }
-
-  double processorTime() const {
-    clockid_t clock;
-    timespec time{};
-    if (clock_getcpuclockid(pid_, &clock) == 0)
-      clock_gettime(clock, &time);
-    return time.tv_sec * 1e3 + time.tv_nsec / 1e6;
-  }
-
-  /// A value of the process's file in /proc, in mebibytes.
-  double memory(const std::string &file, const std::string &name) const {
-    std::ifstream lines("/proc/" + std::to_string(pid_) + "/" + file);
-    for (std::string line; std::getline(lines, line);)
-      if (line.compare(0, name.size(), name) == 0)
-        return std::stod(line.substr(name.size())) / 1024;
-    return 0;
-  }
-
-private:
-  Clock::time_point started_;
-  pid_t pid_;
-};
-
-struct Difference {
-  int pixels = 0; ///< Pixels that differ from the later picture.
-  int edges = 0;  ///< Those among them that are edges (a change of colour) in the later picture.
-  int allEdges = 0;
-};
-
-Difference difference(const Picture &now, const Picture &later, const Rectangle &where) {
-  Difference found;
-  for (int y = where.top + 1; y < where.top + where.height; y++)
-    for (int x = where.left + 1; x < where.left + where.width; x++) {
-      const auto pixel = later.at(x, y);
-      const bool isEdge = pixel != later.at(x - 1, y) || pixel != later.at(x, y - 1);
-      const bool differs = pixel != now.at(x, y);
-      found.allEdges += isEdge;
-      found.pixels += differs;
-      found.edges += isEdge && differs;
-    }
-  return found;
-}
-
-std::vector<Moment> watch(WatchedScreen &screen, const Program &program,
+std::vector<Moment> watch(WatchedScreen &screen, const RunningProgram &program,
                           std::chrono::milliseconds duration) {
   std::vector<Moment> moments;
   while (screen.waitForDrawing(program.started() + duration)) {
@@ -104,7 +37,7 @@ void findTimes(const std::vector<Moment> &moments, const Rectangle &window, bool
     if (isTracing)
       std::fprintf(stderr, "%8.1f ms  %7d pixels, %5.1f %% of the edges left\n", moment.time,
                    left.pixels, 100.0 * left.edges / std::max(1, left.allEdges));
-    if (measured.painted == 0 && left.edges * 4 <= left.allEdges) {
+    if (measured.painted == 0 && left.isPainted()) {
       measured.painted = moment.time;
       measured.processorUntilPainted = moment.processor;
     }
@@ -125,7 +58,7 @@ Measured runDialog(WatchedScreen &screen, const std::string &command,
   std::vector<Moment> moments;
   std::optional<Rectangle> window;
   {
-    const Program program(command);
+    const RunningProgram program(command);
     moments = watch(screen, program, duration);
     window = screen.largestWindow();
     measured.peakMemory = program.memory("status", "VmHWM:");

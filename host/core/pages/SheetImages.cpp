@@ -17,8 +17,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds kPatience{30};
-constexpr int kSheetsAround = 6; // laid out on each side of the visible one
-constexpr int kNeighbours = 1;   // of which there are images
+constexpr int kNeighbours = 1;   // on each side of the visible sheet: they have images
+constexpr int kSheetsAround = 6; // laid out once these are there
 constexpr int kMostPixels = 4000;
 
 } // namespace
@@ -148,8 +148,7 @@ void SheetImages::setScale(double pixelsPerPoint) {
   if (pixelsPerPoint_ == pixelsPerPoint)
     return;
   pixelsPerPoint_ = pixelsPerPoint;
-  cancel();
-  fetchNext();
+  fetchNext(); // or after what is being fetched, whose layout is still right
 }
 
 void SheetImages::turnTo(int sheet) {
@@ -253,9 +252,10 @@ void SheetImages::fetchNext() {
     request.sides.clear();
     request.rendersFirstSheet = true;
   } else if (request.sides.empty() || !covers(wanted)) {
-    const int first = order_.firstSide(std::max(sheet_ - kSheetsAround, 0));
+    const int around = request.sides.empty() ? kSheetsAround : kNeighbours;
+    const int first = order_.firstSide(std::max(sheet_ - around, 0));
+    const int end = order_.firstSide(sheet_ + around + 1);
     request.laidOut.reset();
-    const int end = order_.firstSide(sheet_ + kSheetsAround + 1);
     request.firstSide = first;
     request.laidOutSides = end - first;
     request.pages = order_.pages(first, end);

@@ -71,6 +71,12 @@ NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SE
   return button;
 }
 
+/// GNUstep paints the control again even if nothing changes.
+void enable(NSButton *button, bool isEnabled) {
+  if ([button isEnabled] != isEnabled)
+    [button setEnabled:isEnabled];
+}
+
 } // namespace
 
 @interface SheetBar ()
@@ -138,14 +144,18 @@ NSButton *makeArrow(const char *arrow, const std::string &meaning, id target, SE
   [self setNeedsDisplay:YES];
 }
 
+/// Called at each step of an offset, too: what stays as it is must not be painted again.
 - (void)refresh {
-  *shownText = sheetText(*images);
+  const std::string text = sheetText(*images);
   const int sheets = images->order().sheets();
+  const bool isSame = text == *shownText && [previous isHidden] == (sheets < 2);
+  *shownText = text;
   for (NSButton *button : {previous, next})
     [button setHidden:sheets < 2];
-  [previous setEnabled:images->sheet() > 0];
-  [next setEnabled:images->sheet() + 1 < sheets];
-  [self layOut];
+  enable(previous, images->sheet() > 0);
+  enable(next, images->sheet() + 1 < sheets);
+  if (!isSame)
+    [self layOut];
 }
 
 - (void)turn:(id)sender {

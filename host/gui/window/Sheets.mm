@@ -81,12 +81,15 @@ struct imageposition::SheetsState {
   if (![[picture window] isVisible] || ![dialog isDocumentExamined])
     return;
   PrintSession &session = [dialog session];
+  const DestinationList &printers = session.destinations().list();
+  if (printers.destinations.empty() && printers.reason.empty())
+    return; // the queue's defaults, which change the layout, are about to arrive
   std::optional<ShownDocument> document;
   if (![picture isHiddenOrHasHiddenAncestor])
-    document = documentToShow(session.job(), session.destinations().list(), [dialog documentPages]);
-  state->images->show(std::move(document));
+    document = documentToShow(session.job(), printers, [dialog documentPages]);
   if (state->panel == nullptr)
     state->images->setScale([picture pixelsPerPoint]);
+  state->images->show(std::move(document));
   [self refresh];
 }
 
