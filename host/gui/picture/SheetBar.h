@@ -32,7 +32,7 @@ int sheetAfterKey(NSEvent *event, const SheetImages &images);
   NSButton *next;
   NSTextField *label;
   const imageposition::SheetImages *images; ///< Borrowed.
-  std::string *shownText;                        ///< Owned.
+  std::string *shownText;                   ///< Owned.
 }
 
 - (id)initWithImages:(const imageposition::SheetImages &)theImages

@@ -7,9 +7,8 @@
 
 #include <string>
 
-/// The picture; below it, the row that turns sheets, with the button that enlarges them; below
-/// that, the button that aligns, with a note beside it. What is hidden leaves its room to the
-/// picture.
+/// The picture; below it, the row that turns sheets; below that, the buttons that align and that
+/// enlarge a sheet, with a note above them. What is hidden leaves its room to the picture.
 @interface PictureArea : NSView {
   PreviewView *picture; ///< Owned by the view; so below.
   SheetBar *sheets;
@@ -25,7 +24,7 @@
                button:(NSButton *)theButton;
 /// Everything is legible from this size on.
 + (NSSize)preferredSize;
-/// Shows the string beside the button; it is cut if it does not fit.
+/// Shows the string above the buttons, unless it is empty; it is cut if it does not fit.
 - (void)showNote:(const std::string &)theText;
 /// A button was hidden or shown.
 - (void)layOut;

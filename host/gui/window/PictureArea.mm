@@ -61,20 +61,19 @@ constexpr CGFloat kInset = 6; // of what the picture shows
 
 - (void)layOut {
   const NSSize size = [self bounds].size;
-  const CGFloat line = kGap + kButtonHeight;
-  CGFloat below = [button isHidden] ? 0 : line;
+  [button setFrameOrigin:NSMakePoint(kInset, 0)];
+  [enlarge setFrameOrigin:NSMakePoint(size.width - kInset - NSWidth([enlarge frame]), 0)];
+  const bool hasButtons = ![button isHidden] || ![enlarge isHidden];
+  CGFloat below = hasButtons ? kButtonHeight + kGap : 0;
+  [note setHidden:[button isHidden] || text->empty()];
+  showCut(note, *text, std::max<CGFloat>(size.width - 2 * kInset, 0));
+  [note setFrameOrigin:NSMakePoint(kInset, below)];
+  below += [note isHidden] ? 0 : NSHeight([note frame]) + kGap;
   [sheets setFrameOrigin:NSMakePoint(kInset, below)];
-  [enlarge setFrameOrigin:NSMakePoint(size.width - kInset - NSWidth([enlarge frame]), below)];
-  const CGFloat right = [enlarge isHidden] ? size.width : NSMinX([enlarge frame]) - kGap;
-  [sheets setFrameSize:NSMakeSize(std::max<CGFloat>(right - kInset, 0), kButtonHeight)];
-  below += [sheets isHidden] ? 0 : line;
+  [sheets setFrameSize:NSMakeSize(std::max<CGFloat>(size.width - 2 * kInset, 0), kButtonHeight)];
+  below += [sheets isHidden] ? 0 : kButtonHeight + kGap;
   [picture setFrameOrigin:NSMakePoint(0, below)];
   [picture setFrameSize:NSMakeSize(size.width, std::max<CGFloat>(size.height - below, 0))];
-  [button setFrameOrigin:NSMakePoint(kInset, 0)];
-  const CGFloat left = NSMaxX([button frame]) + kGap;
-  [note setHidden:[button isHidden]];
-  showCut(note, *text, std::max<CGFloat>(size.width - left, 0));
-  [note setFrameOrigin:NSMakePoint(left, std::round((kButtonHeight - NSHeight([note frame])) / 2))];
   [self setNeedsDisplay:YES];
 }
 

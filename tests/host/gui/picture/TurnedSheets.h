@@ -16,7 +16,7 @@ struct TurnedSheets {
 /// Prints on both sides. Nothing is fetched while the images have no scale.
 inline ShownDocument documentWith(std::optional<DocumentPages> pages) {
   const std::string identity = pages ? std::to_string(pages->pages) : "unknown";
-  return {nullptr, "a.pdf", std::move(pages), {}, identity};
+  return {nullptr, "a.pdf", {}, std::move(pages), {}, identity};
 }
 
 } // namespace imageposition::test
