@@ -17,7 +17,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds kPatience{30};
-constexpr int kNeighbours = 1;   // on each side of the visible sheet: they have images
+constexpr int kNeighbours = 1;   // on each side of the visible sheet: they have images, if small
+constexpr double kSmall = 0.5;   // pixels per point; an enlarged side takes megabytes
 constexpr int kSheetsAround = 6; // laid out once these are there
 constexpr int kMostPixels = 4000;
 
@@ -228,7 +229,8 @@ void SheetImages::dropDistantImages() {
     image = image->first < first || image->first >= end ? images_.erase(image) : std::next(image);
 }
 
-/// The visible sheet, then its neighbours, then the layout of the sheets that come next.
+/// The visible sheet, then its neighbours if they are small, then the layout of the sheets that
+/// come next.
 void SheetImages::fetchNext() {
   if (!document_ || hasFailed_ || fetch_ != nullptr || pixelsPerPoint_ <= 0)
     return;
@@ -237,7 +239,8 @@ void SheetImages::fetchNext() {
   request.laidOut = laidOut_;
   request.pixelsPerPoint = pixelsPerPoint_;
   int wanted = sheet_;
-  for (const int sheet : {sheet_, sheet_ + kNeighbours, sheet_ - kNeighbours})
+  const int beside = pixelsPerPoint_ <= kSmall ? kNeighbours : 0;
+  for (const int sheet : {sheet_, sheet_ + beside, sheet_ - beside})
     if (request.sides.empty() && sheet >= 0 && sheet < order_.sheets()) {
       request.sides = missingSides(sheet);
       wanted = sheet;

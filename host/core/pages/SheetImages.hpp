@@ -25,9 +25,9 @@ struct ShownDocument {
   std::string identity; ///< Another one if anything that changes the laid-out pages is different.
 };
 
-/// The images of the visible sheet and its neighbours; no others are kept. Only the sheets around
-/// the visible one are laid out, if the document's pages are known, so a long document takes no
-/// longer than a short one.
+/// The images of the visible sheet and, while they are small, its neighbours; no others are kept.
+/// Only the sheets around the visible one are laid out, if the document's pages are known, so a
+/// long document takes no longer than a short one.
 ///
 /// Call all methods on one thread; none waits.
 class SheetImages {

@@ -45,12 +45,12 @@ protected:
     unsetenv("XDG_CACHE_HOME");
   }
 
-  void show(const std::string &content, int pages) {
+  void show(const std::string &content, int pages, double pixelsPerPoint = 1) {
     path_ = folder_.write("document", content);
     pages_ = pages;
     job_->setDocuments({path_});
     show();
-    images_.setScale(1);
+    images_.setScale(pixelsPerPoint);
   }
 
   /// After a change of the job's settings.
@@ -112,7 +112,7 @@ TEST_F(JobsSheets, TurnToEverySheet) {
 }
 
 TEST_F(JobsSheets, HaveTheNeighboursReady) {
-  show(pdfWithNumberedPages(20), 20);
+  show(pdfWithNumberedPages(20), 20, 0.5);
   ASSERT_TRUE(waitFor(State::Shown));
   int changes = 0; // the visible sheet, then its neighbour
   EXPECT_TRUE(becomesTrue([&] {

@@ -63,7 +63,7 @@ TEST_F(SheetControls, SayWhichPagesAreOnTheSheet) {
   [bar_ refresh];
   EXPECT_EQ(text(), "");
   show(std::nullopt);
-  EXPECT_EQ(text(), "Loading the pages...");
+  EXPECT_EQ(text(), "Loading the pages…");
   show(DocumentPages{7, 1, {}});
   EXPECT_EQ(text(), "Sheet 1 of 4 (pages 1 and 2)");
   showSheet(3);
