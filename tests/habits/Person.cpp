@@ -137,14 +137,14 @@ Control Person::visible(const std::string &kind, const std::string &text) {
   return find("the " + kind + " " + text, [&](const Screen &now) { return now.find(kind, text); });
 }
 
-/// Windows are listed in the order in which they were made.
-Control Person::newestButton(const std::string &title) {
+/// The window with the keyboard is listed first.
+Control Person::frontButton(const std::string &title) {
   return find("the button " + title, [&](const Screen &now) -> const Control * {
     const auto found =
-        std::find_if(now.controls.rbegin(), now.controls.rend(), [&](const Control &control) {
+        std::find_if(now.controls.begin(), now.controls.end(), [&](const Control &control) {
           return control.kind == "button" && control.text == title;
         });
-    return found == now.controls.rend() ? nullptr : &*found;
+    return found == now.controls.end() ? nullptr : &*found;
   });
 }
 
@@ -354,8 +354,8 @@ std::vector<Sentence> Person::sentences() {
       {"open the dialog with ...", [=](const StepValues &v) { open(v[0]); }},
       {"open the dialog", [=](const StepValues &) { open(""); }},
       {"click on \"*\"", [=](const StepValues &v) { click(button(v[0]), kClick); }},
-      {"click on \"*\" of the newest window",
-       [=](const StepValues &v) { click(newestButton(v[0]), kClick); }},
+      {"click on \"*\" of the window in front",
+       [=](const StepValues &v) { click(frontButton(v[0]), kClick); }},
       {"click on the list beside \"*\"",
        [=](const StepValues &v) { click(beside(v[0], "popup"), kClick); }},
       {"click on the list beside \"*\" for # ms",

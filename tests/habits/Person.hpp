@@ -49,7 +49,7 @@ private:
   Control beside(const std::string &label, const std::string &kind);
   Control item(const std::string &title);
   Control visible(const std::string &kind, const std::string &text);
-  Control newestButton(const std::string &title);
+  Control frontButton(const std::string &title);
   Control frontPage();
   Screen screen() const { return Screen::read(folder_.path("screen")); }
   void see(const std::string &what, const Look &look);

@@ -144,9 +144,11 @@ std::string listing() {
   else
     out << "\t0\t0\t0\t0";
   out << '\t' << oneLine([key title]) << '\n';
-  for (NSUInteger i = 0; i < [[NSApp windows] count]; i++) {
+  if (key != nil && [key isVisible])
+    writeView(out, [[key contentView] superview]);
+  for (NSUInteger i = 0; i < [[NSApp windows] count]; i++) { // in no order
     NSWindow *const window = [[NSApp windows] objectAtIndex:i];
-    if ([window isVisible])
+    if (window != key && [window isVisible])
       writeView(out, [[window contentView] superview]);
   }
   return out.str();
