@@ -1,5 +1,6 @@
 #import "OpenList.h"
 
+#import "KeyWindow.h"
 #import "ListKeyEvent.h"
 #import "Theme.h"
 #import "UnmanagedWindow.h"
@@ -274,7 +275,7 @@ constexpr NSTimeInterval kScrollInterval = 0.05;
 - (BOOL)isOnScroller:(NSEvent *)event {
   if ([event window] != window)
     return NO;
-  NSView *const hit = [[window contentView] hitTest:[event locationInWindow]];
+  NSView *const hit = imageposition::viewUnder(event, window);
   return [hit isKindOfClass:[NSScroller class]];
 }
 

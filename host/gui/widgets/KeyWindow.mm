@@ -94,7 +94,7 @@ constexpr NSUInteger kMouseEvents =
 NSView *targetOf(NSEvent *event, KeyWindow *window) {
   const NSUInteger mask = NSEventMaskFromType([event type]);
   if ((mask & kMouseEvents) != 0)
-    return [[window contentView] hitTest:[event locationInWindow]];
+    return imageposition::viewUnder(event, window);
   return (mask & (NSKeyDownMask | NSKeyUpMask)) != 0 ? [window focusedView] : nil;
 }
 
@@ -320,6 +320,11 @@ bool canBeReached(NSView *control) {
 @end
 
 namespace imageposition {
+
+NSView *viewUnder(NSEvent *event, NSWindow *window) {
+  NSView *const content = [window contentView];
+  return [content hitTest:[[content superview] convertPoint:[event locationInWindow] fromView:nil]];
+}
 
 void wakeModalLoop(NSWindow *window) {
   NSEvent *const event = [NSEvent otherEventWithType:NSApplicationDefined
