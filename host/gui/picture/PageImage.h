@@ -12,25 +12,28 @@
 
 namespace imageposition {
 
-/// The ink on a page; its paper is transparent, so that sides can be laid over each other. Main
-/// thread.
+/// The ink on a page; its paper is transparent, so that sides can be laid over each other. Takes
+/// its memory when it is first drawn: an enlarged sheet shows one side of two. Main thread.
 class PageImage {
 public:
   /// `page` has pixels. The flips show it as it shines through the sheet.
-  PageImage(const RenderedPage &page, bool flipsLeftRight, bool flipsTopBottom);
+  PageImage(std::shared_ptr<const RenderedPage> page, bool flipsLeftRight, bool flipsTopBottom);
   ~PageImage();
   PageImage(const PageImage &) = delete;
   PageImage &operator=(const PageImage &) = delete;
 
-  Point width() const noexcept { return width_; }
-  Point height() const noexcept { return height_; }
+  Point width() const noexcept { return page_->pageWidth; }
+  Point height() const noexcept { return page_->pageHeight; }
   /// Draws in the focused view, which is flipped.
   void draw(const PixelRectangle &place, double opacity) const;
 
 private:
-  NSImage *image_; // owned
-  Point width_;
-  Point height_;
+  NSImage *image() const;
+
+  const std::shared_ptr<const RenderedPage> page_;
+  const bool flipsLeftRight_;
+  const bool flipsTopBottom_;
+  mutable NSImage *image_ = nil; // owned; null before it is drawn
 };
 
 /// A sheet's sides as they were rendered. Null for a blank side, or one that could not be rendered.

@@ -1,6 +1,7 @@
 #import "PageImage.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace imageposition {
 
@@ -20,9 +21,17 @@ void writeInk(std::uint32_t pixel, unsigned char *ink) {
 
 } // namespace
 
-PageImage::PageImage(const RenderedPage &page, bool flipsLeftRight, bool flipsTopBottom)
-    : image_([[NSImage alloc] initWithSize:NSMakeSize(page.width, page.height)]),
-      width_(page.pageWidth), height_(page.pageHeight) {
+PageImage::PageImage(std::shared_ptr<const RenderedPage> page, bool flipsLeftRight,
+                     bool flipsTopBottom)
+    : page_(std::move(page)), flipsLeftRight_(flipsLeftRight), flipsTopBottom_(flipsTopBottom) {}
+
+PageImage::~PageImage() { [image_ release]; }
+
+NSImage *PageImage::image() const {
+  if (image_ != nil)
+    return image_;
+  const RenderedPage &page = *page_;
+  image_ = [[NSImage alloc] initWithSize:NSMakeSize(page.width, page.height)];
   NSBitmapImageRep *const bitmap =
       [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:nullptr
                                               pixelsWide:page.width
@@ -37,8 +46,8 @@ PageImage::PageImage(const RenderedPage &page, bool flipsLeftRight, bool flipsTo
   unsigned char *const data = [bitmap bitmapData];
   for (int y = 0; y < page.height; y++)
     for (int x = 0; x < page.width; x++) {
-      const int fromX = flipsLeftRight ? page.width - 1 - x : x;
-      const int fromY = flipsTopBottom ? page.height - 1 - y : y;
+      const int fromX = flipsLeftRight_ ? page.width - 1 - x : x;
+      const int fromY = flipsTopBottom_ ? page.height - 1 - y : y;
       const auto from = static_cast<std::size_t>(fromY) * static_cast<std::size_t>(page.width) +
                         static_cast<std::size_t>(fromX);
       const auto to = static_cast<std::size_t>(y) * static_cast<std::size_t>(page.width) +
@@ -47,17 +56,16 @@ PageImage::PageImage(const RenderedPage &page, bool flipsLeftRight, bool flipsTo
     }
   [image_ addRepresentation:bitmap];
   [bitmap release];
+  return image_;
 }
 
-PageImage::~PageImage() { [image_ release]; }
-
 void PageImage::draw(const PixelRectangle &place, double opacity) const {
-  [image_ drawInRect:NSMakeRect(place.x, place.y, place.width, place.height)
-            fromRect:NSZeroRect
-           operation:NSCompositeSourceOver
-            fraction:opacity
-      respectFlipped:YES
-               hints:nil];
+  [image() drawInRect:NSMakeRect(place.x, place.y, place.width, place.height)
+             fromRect:NSZeroRect
+            operation:NSCompositeSourceOver
+             fraction:opacity
+       respectFlipped:YES
+                hints:nil];
 }
 
 bool SheetPainter::take(const std::optional<SheetSideImages> &sides) {
@@ -78,7 +86,7 @@ const SheetPages *SheetPainter::pages(const Preview &preview) {
   isFlippedLeftRight_ = isFlipped;
   const auto image = [](const std::shared_ptr<const RenderedPage> &page, bool leftRight,
                         bool topBottom) {
-    return page != nullptr ? std::make_shared<const PageImage>(*page, leftRight, topBottom)
+    return page != nullptr ? std::make_shared<const PageImage>(page, leftRight, topBottom)
                            : nullptr;
   };
   pages_ = {image(sides_->front, false, false), image(sides_->back, false, false),
