@@ -1,5 +1,6 @@
 #include "SheetImages.hpp"
 
+#include "BackgroundCall.hpp"
 #include "DrawnPdf.hpp"
 #include "ShownJob.hpp"
 #include "TemporaryFolder.hpp"
@@ -9,6 +10,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <memory>
 
 namespace imageposition {
 
@@ -41,6 +43,8 @@ protected:
                                     IMAGEPOSITION_SAMPLES "/duplex-plain.ppd"))});
   }
   void TearDown() override {
+    images_.reset(); // its threads use what the process destroys at its end
+    EXPECT_TRUE(becomesTrue([] { return RunningCall::count() == 0; }));
     unsetenv("XDG_CONFIG_HOME");
     unsetenv("XDG_CACHE_HOME");
   }
@@ -50,29 +54,29 @@ protected:
     pages_ = pages;
     job_->setDocuments({path_});
     show();
-    images_.setScale(pixelsPerPoint);
+    images_->setScale(pixelsPerPoint);
   }
 
   /// After a change of the job's settings.
   void show() {
     job_->printer().mark(job_->settings());
-    images_.show(documentToShow(*job_, {}, pages_));
+    images_->show(documentToShow(*job_, {}, pages_));
   }
 
   bool waitFor(State state) {
     return becomesTrue([&] {
       take();
-      return images_.state() == state;
+      return images_->state() == state;
     });
   }
 
   void take() {
     if (isChanged_.exchange(false))
-      images_.take();
+      images_->take();
   }
 
   /// Of the visible sheet.
-  std::pair<int, int> pages() const { return {pageOn(images_.front()), pageOn(images_.back())}; }
+  std::pair<int, int> pages() const { return {pageOn(images_->front()), pageOn(images_->back())}; }
 
   bool waitForPages(int front, int back) {
     return becomesTrue([&] {
@@ -87,27 +91,28 @@ protected:
   std::string path_;
   int pages_ = 0;
   std::atomic<bool> isChanged_{false};
-  SheetImages images_{[this] { isChanged_ = true; }};
+  std::unique_ptr<SheetImages> images_ =
+      std::make_unique<SheetImages>([this] { isChanged_ = true; });
 };
 
 TEST_F(JobsSheets, ShowBothSidesOfTheFirstSheet) {
   show(pdfWithNumberedPages(5), 5);
-  EXPECT_EQ(images_.state(), State::Loading);
+  EXPECT_EQ(images_->state(), State::Loading);
   ASSERT_TRUE(waitFor(State::Shown));
   EXPECT_EQ(pages(), std::pair(0, 1));
-  EXPECT_EQ(images_.order().sheets(), 3);
+  EXPECT_EQ(images_->order().sheets(), 3);
 }
 
 TEST_F(JobsSheets, TurnToEverySheet) {
   show(pdfWithNumberedPages(5), 5);
-  images_.turnTo(1);
+  images_->turnTo(1);
   EXPECT_TRUE(waitForPages(2, 3));
-  images_.turnTo(2);
+  images_->turnTo(2);
   EXPECT_TRUE(waitForPages(4, -1));
   EXPECT_TRUE(waitFor(State::Shown));
-  images_.turnTo(99);
-  EXPECT_EQ(images_.sheet(), 2);
-  images_.turnTo(-1);
+  images_->turnTo(99);
+  EXPECT_EQ(images_->sheet(), 2);
+  images_->turnTo(-1);
   EXPECT_TRUE(waitForPages(0, 1));
 }
 
@@ -116,11 +121,11 @@ TEST_F(JobsSheets, HaveTheNeighboursReady) {
   ASSERT_TRUE(waitFor(State::Shown));
   int changes = 0; // the visible sheet, then its neighbour
   EXPECT_TRUE(becomesTrue([&] {
-    changes += isChanged_.exchange(false) && images_.take() ? 1 : 0;
+    changes += isChanged_.exchange(false) && images_->take() ? 1 : 0;
     return changes == 1;
   }));
-  images_.turnTo(1);
-  EXPECT_EQ(images_.state(), State::Shown);
+  images_->turnTo(1);
+  EXPECT_EQ(images_->state(), State::Shown);
 }
 
 TEST_F(JobsSheets, OfALongDocumentAreLaidOutWhereTheUserLooks) {
@@ -130,7 +135,7 @@ TEST_F(JobsSheets, OfALongDocumentAreLaidOutWhereTheUserLooks) {
     pages[i].content = std::to_string(72 + 10 * (i % kDifferent)) + " 144 100 50 re f";
   show(pdfDrawing(pages), 60);
   for (int sheet = 29; sheet >= 18; sheet--) {
-    images_.turnTo(sheet);
+    images_->turnTo(sheet);
     EXPECT_TRUE(waitForPages(2 * sheet % kDifferent, (2 * sheet + 1) % kDifferent)) << sheet;
   }
 }
@@ -139,17 +144,17 @@ TEST_F(JobsSheets, FollowTheChoiceOfPages) {
   job_->settings().set("page-ranges", "2-3,8");
   show(pdfWithNumberedPages(9), 9);
   EXPECT_TRUE(waitForPages(1, 2));
-  EXPECT_EQ(images_.order().sheets(), 2);
+  EXPECT_EQ(images_->order().sheets(), 2);
   job_->settings().set("page-set", "even");
   show();
   EXPECT_TRUE(waitForPages(1, 7));
-  EXPECT_EQ(images_.order().sheets(), 1);
+  EXPECT_EQ(images_->order().sheets(), 1);
 }
 
 TEST_F(JobsSheets, ShowNothingIfNoPageIsPrinted) {
   job_->settings().set("page-ranges", "7-9");
   show(pdfWithNumberedPages(3), 3);
-  EXPECT_EQ(images_.state(), State::None);
+  EXPECT_EQ(images_->state(), State::None);
 }
 
 TEST_F(JobsSheets, OfOneSidedJobsHaveFrontsOnly) {
@@ -157,7 +162,7 @@ TEST_F(JobsSheets, OfOneSidedJobsHaveFrontsOnly) {
   show(pdfWithNumberedPages(3), 3);
   ASSERT_TRUE(waitFor(State::Shown));
   EXPECT_EQ(pages(), std::pair(0, -1));
-  EXPECT_EQ(images_.order().sheets(), 3);
+  EXPECT_EQ(images_->order().sheets(), 3);
 }
 
 TEST_F(JobsSheets, OfReversedJobsHaveTheFirstPageOnTheBack) {
@@ -170,10 +175,10 @@ TEST_F(JobsSheets, ShowSeveralPagesPerSide) {
   job_->settings().set("number-up", "2");
   show(pdfWithNumberedPages(9), 9);
   ASSERT_TRUE(waitFor(State::Shown));
-  EXPECT_EQ(images_.order().sheets(), 3);
-  EXPECT_EQ(images_.order().pagesInWords(0), "1-4");
-  ASSERT_NE(images_.front(), nullptr);
-  EXPECT_LT(images_.front()->width, images_.front()->height) << "the sheet stands upright";
+  EXPECT_EQ(images_->order().sheets(), 3);
+  EXPECT_EQ(images_->order().pagesInWords(0), "1-4");
+  ASSERT_NE(images_->front(), nullptr);
+  EXPECT_LT(images_->front()->width, images_->front()->height) << "the sheet stands upright";
 }
 
 TEST_F(JobsSheets, OfBookletsAreLaidOutFromTheWholeDocument) {
@@ -181,27 +186,27 @@ TEST_F(JobsSheets, OfBookletsAreLaidOutFromTheWholeDocument) {
   job_->settings().set("number-up", "2");
   show(pdfWithNumberedPages(8), 8);
   ASSERT_TRUE(waitFor(State::Shown));
-  EXPECT_EQ(images_.order().sheets(), 2);
-  EXPECT_EQ(images_.order().pagesInWords(0), "");
+  EXPECT_EQ(images_->order().sheets(), 2);
+  EXPECT_EQ(images_->order().pagesInWords(0), "");
 }
 
 TEST_F(JobsSheets, AreMadeOfTextToo) {
   show("Hello\n\fand goodbye\n\fthen\n", 0);
   ASSERT_TRUE(waitFor(State::Shown));
-  EXPECT_EQ(images_.order().sheets(), 2);
-  EXPECT_NE(images_.front(), nullptr);
-  EXPECT_NE(images_.back(), nullptr);
+  EXPECT_EQ(images_->order().sheets(), 2);
+  EXPECT_NE(images_->front(), nullptr);
+  EXPECT_NE(images_->back(), nullptr);
 }
 
 TEST_F(JobsSheets, OfAnotherDocumentReplaceTheFirst) {
   show(pdfWithNumberedPages(5), 5);
   ASSERT_TRUE(waitFor(State::Shown));
-  images_.turnTo(2);
+  images_->turnTo(2);
   const std::string other = folder_.write("other", pdfWithNumberedPages(1));
   job_->setDocuments({other});
-  images_.show(documentToShow(*job_, {}, 1));
-  EXPECT_EQ(images_.sheet(), 0);
-  EXPECT_EQ(images_.front(), nullptr) << "of the first document";
+  images_->show(documentToShow(*job_, {}, 1));
+  EXPECT_EQ(images_->sheet(), 0);
+  EXPECT_EQ(images_->front(), nullptr) << "of the first document";
   EXPECT_TRUE(waitForPages(0, -1));
 }
 
@@ -230,12 +235,12 @@ TEST_F(JobsSheets, AreNotFetchedAgainForOffsetsAndCopies) {
 TEST_F(JobsSheets, AreRenderedAgainInAnotherSize) {
   show(pdfWithNumberedPages(2), 2);
   ASSERT_TRUE(waitFor(State::Shown));
-  const int width = images_.front()->width;
-  images_.setScale(2);
-  EXPECT_NE(images_.front(), nullptr) << "the smaller one stays meanwhile";
+  const int width = images_->front()->width;
+  images_->setScale(2);
+  EXPECT_NE(images_->front(), nullptr) << "the smaller one stays meanwhile";
   EXPECT_TRUE(becomesTrue([&] {
     take();
-    return images_.front()->width >= 2 * width - 1;
+    return images_->front()->width >= 2 * width - 1;
   }));
 }
 
@@ -244,7 +249,7 @@ TEST_F(JobsSheets, OfADamagedDocumentFail) {
                                      pdfWithPassword(), std::string("\0\1\2", 3)}) {
     show(content, 0);
     EXPECT_TRUE(waitFor(State::Failed));
-    EXPECT_EQ(images_.front(), nullptr);
+    EXPECT_EQ(images_->front(), nullptr);
   }
 }
 
@@ -256,9 +261,9 @@ TEST_F(JobsSheets, FailIfTheDocumentHasFewerPagesThanItSays) {
 TEST_F(JobsSheets, WithoutADocumentAreNone) {
   show(pdfWithNumberedPages(2), 2);
   ASSERT_TRUE(waitFor(State::Shown));
-  images_.show(std::nullopt);
-  EXPECT_EQ(images_.state(), State::None);
-  EXPECT_EQ(images_.front(), nullptr);
+  images_->show(std::nullopt);
+  EXPECT_EQ(images_->state(), State::None);
+  EXPECT_EQ(images_->front(), nullptr);
 }
 
 TEST_F(JobsSheets, AreNotFetchedFromAPipeOrAFolder) {
@@ -282,10 +287,10 @@ TEST_F(JobsSheets, AreOfTheFirstDocumentWhichIsNamedAmongOthers) {
 TEST_F(JobsSheets, AreForgottenWhileTheyAreFetched) {
   for (int i = 0; i < 20; i++) {
     show(pdfWithNumberedPages(3 + i), 3 + i);
-    images_.turnTo(i % 3);
+    images_->turnTo(i % 3);
   }
-  images_.show(std::nullopt);
-  EXPECT_EQ(images_.state(), State::None);
+  images_->show(std::nullopt);
+  EXPECT_EQ(images_->state(), State::None);
 }
 
 } // namespace
