@@ -41,7 +41,7 @@ NSImage *PageImage::image() const {
                                                 hasAlpha:YES
                                                 isPlanar:NO
                                           colorSpaceName:NSDeviceRGBColorSpace
-                                             bytesPerRow:4 * page.width
+                                             bytesPerRow:4 * NSInteger{page.width}
                                             bitsPerPixel:32];
   unsigned char *const data = [bitmap bitmapData];
   for (int y = 0; y < page.height; y++)

@@ -36,8 +36,8 @@ struct ControlKey {
   NSView *control;    ///< Owned by the window.
 };
 
-/// The view at the place of a mouse event, or null; with larger text, too, where a unit of a view is
-/// more than a pixel.
+/// The view at the place of a mouse event, or null; with larger text, too, where a unit of a view
+/// is more than a pixel.
 NSView *viewUnder(NSEvent *event, NSWindow *window);
 
 /// Sends the window's delegate `wake` as the next event. The delegate can then show another modal
