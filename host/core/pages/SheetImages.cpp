@@ -168,6 +168,7 @@ bool SheetImages::take() {
   if (result.laidOut == nullptr) {
     hasFailed_ = true;
     images_.clear();
+    order_ = {}; // there is nothing to turn to
     return true;
   }
   laidOut_ = std::move(result.laidOut);

@@ -29,7 +29,7 @@ struct SheetsState;
 /// Call after a change of the job's settings or documents, and when a document has been examined:
 /// shows it after the current event.
 - (void)jobChanged;
-/// The preview that the picture shows.
+/// Shows another preview in the picture.
 - (void)showPreview:(const imageposition::Preview &)preview;
 /// Takes what was fetched in the background.
 - (void)look;

@@ -256,6 +256,7 @@ TEST_F(JobsSheets, OfADamagedDocumentFail) {
 TEST_F(JobsSheets, FailIfTheDocumentHasFewerPagesThanItSays) {
   show(pdfWithNumberedPages(2), 9);
   EXPECT_TRUE(waitFor(State::Failed));
+  EXPECT_EQ(images_->order().sheets(), 0) << "cannot be turned or enlarged";
 }
 
 TEST_F(JobsSheets, WithoutADocumentAreNone) {
