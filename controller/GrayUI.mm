@@ -66,11 +66,11 @@ void setUsable(bool usable, NSControl *entryField, NSControl *stepper, NSTextFie
 
 - (BOOL)checkImagePositionAdjustValid {
   BOOL valid = YES;
-  if (const char *duplex = markedAs(ppd, "Duplex", "None")) {
+  if (const char *duplex = markedAs(ppd, IPA_OPTION_TWO_SIDED, IPA_CHOICE_ONE_SIDED)) {
     NSLog(@"@@@Get duplex setting Duplex = %s !", duplex);
     valid = NO;
   }
-  if (const char *banner = markedAs(ppd, "MVBannerPagePrint", "True")) {
+  if (const char *banner = markedAs(ppd, IPA_OPTION_BANNER_PAGES, IPA_CHOICE_BANNER_PAGES_ON)) {
     NSLog(@"@@@Get MVBannerPagePrint setting  True= %s !", banner);
     valid = NO;
   }

@@ -1,6 +1,6 @@
 /// What the plug-in requires of the print dialog.
-#ifndef IMAGEPOSITION_CONTROLLER_MORVAADPPDECALLBACKRV2_H
-#define IMAGEPOSITION_CONTROLLER_MORVAADPPDECALLBACKRV2_H
+#ifndef IMAGEPOSITION_PLATFORM_MORVAADPPDECALLBACKRV2_H
+#define IMAGEPOSITION_PLATFORM_MORVAADPPDECALLBACKRV2_H
 
 #import <ApplicationServices/ApplicationServices.h>
 #import <Foundation/Foundation.h>

@@ -71,7 +71,7 @@ NSString *permanentCopy(NSString *string) {
     [supportedOptions addObject:@IPA_KEY_FRONT_TOP_BOTTOM];
     [supportedOptions addObject:@IPA_KEY_BACK_LEFT_RIGHT];
     [supportedOptions addObject:@IPA_KEY_BACK_TOP_BOTTOM];
-    [supportedOptions addObject:@"MVAdjustDuplexPosition"];
+    [supportedOptions addObject:@IPA_OPTION_ADJUST_POSITION];
   }
   NSLog(@"supportedPPDOptionKeys:=NSArray(%@)", supportedOptions);
   return supportedOptions;

@@ -7,7 +7,7 @@ using testing::ElementsAreArray;
 
 namespace {
 
-class Availability : public ControllerFixture {
+class GrayUI : public ControllerFixture {
 protected:
   void SetUp() override {
     ControllerFixture::SetUp();
@@ -64,7 +64,7 @@ std::ostream &operator<<(std::ostream &out, const CheckRow &row) {
              << (row.banner ? row.banner : "missing");
 }
 
-class AvailabilityCheck : public Availability, public testing::WithParamInterface<CheckRow> {};
+class AvailabilityCheck : public GrayUI, public testing::WithParamInterface<CheckRow> {};
 
 TEST_P(AvailabilityCheck, FollowsTheMarkedChoicesAndTracesThem) {
   Lines lines;
@@ -95,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CheckRow{"DuplexNoTumble", "TRUE", true, {kCheckTrace}},
                     CheckRow{"DuplexNoTumble", "Truely", true, {kCheckTrace}}));
 
-TEST_F(Availability, DuplexNoneAndBannerTrueGiveThreeTraceLinesInOrder) {
+TEST_F(GrayUI, DuplexNoneAndBannerTrueGiveThreeTraceLinesInOrder) {
   ppd->mark("Duplex", "None");
   ppd->mark("MVBannerPagePrint", "True");
   EXPECT_FALSE([controller checkImagePositionAdjustValid]);
@@ -104,20 +104,20 @@ TEST_F(Availability, DuplexNoneAndBannerTrueGiveThreeTraceLinesInOrder) {
                                         "@@@Check on checkbox Enable Image Position Adjust!"));
 }
 
-TEST_F(Availability, WithoutAPrinterDescriptionNothingIsForbidden) {
+TEST_F(GrayUI, WithoutAPrinterDescriptionNothingIsForbidden) {
   get<ppd_file_t *>("ppd") = nullptr;
   EXPECT_TRUE([controller checkImagePositionAdjustValid]);
   EXPECT_THAT(log->lines(), ElementsAre(kCheckTrace));
 }
 
-TEST_F(Availability, AnOptionWithoutAMarkedChoiceForbidsNothing) {
+TEST_F(GrayUI, AnOptionWithoutAMarkedChoiceForbidsNothing) {
   usePrinter({"*OpenUI *Duplex: PickOne", "*Duplex None: \"\"", "*Duplex DuplexTumble: \"\"",
               "*CloseUI: *Duplex"});
   ASSERT_EQ(ppdFindMarkedChoice(get<ppd_file_t *>("ppd"), "Duplex"), nullptr);
   EXPECT_TRUE([controller checkImagePositionAdjustValid]);
 }
 
-TEST_F(Availability, TheCheckReadsTheMarkedChoicesEachTime) {
+TEST_F(GrayUI, TheCheckReadsTheMarkedChoicesEachTime) {
   EXPECT_TRUE([controller checkImagePositionAdjustValid]);
   ppd->mark("Duplex", "None");
   EXPECT_FALSE([controller checkImagePositionAdjustValid]);
@@ -125,18 +125,18 @@ TEST_F(Availability, TheCheckReadsTheMarkedChoicesEachTime) {
   EXPECT_TRUE([controller checkImagePositionAdjustValid]);
 }
 
-TEST_F(Availability, TheCheckIsTracedOncePerCall) {
+TEST_F(GrayUI, TheCheckIsTracedOncePerCall) {
   [controller checkImagePositionAdjustValid];
   [controller checkImagePositionAdjustValid];
   EXPECT_THAT(log->lines(), ElementsAre(kCheckTrace, kCheckTrace));
 }
 
-TEST_F(Availability, TheCheckCallsNoControl) {
+TEST_F(GrayUI, TheCheckCallsNoControl) {
   [controller checkImagePositionAdjustValid];
   EXPECT_THAT(journal.take(), ElementsAre("self.checkImagePositionAdjustValid"));
 }
 
-TEST_F(Availability, TheCheckKeepsThePrinterThatTheControllerWasBuiltWith) {
+TEST_F(GrayUI, TheCheckKeepsThePrinterThatTheControllerWasBuiltWith) {
   host->ppd = nullptr;
   ppd->mark("Duplex", "None");
   EXPECT_FALSE([controller checkImagePositionAdjustValid]);
@@ -154,10 +154,10 @@ std::ostream &operator<<(std::ostream &out, const StateRow &row) {
   return out << "state " << row.state;
 }
 
-class AvailabilityGraying : public Availability, public testing::WithParamInterface<StateRow> {
+class AvailabilityGraying : public GrayUI, public testing::WithParamInterface<StateRow> {
 protected:
   void SetUp() override {
-    Availability::SetUp();
+    GrayUI::SetUp();
     control("chkEnableImagePositionAdjust")->stateValue = GetParam().state;
   }
 };
@@ -198,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(Checkbox, AvailabilityGraying,
                          testing::Values(StateRow{0, false}, StateRow{1, true},
                                          StateRow{-1, true}));
 
-TEST_F(Availability, AllowedGrayingGoesThroughTheControllersMethods) {
+TEST_F(GrayUI, AllowedGrayingGoesThroughTheControllersMethods) {
   control("chkEnableImagePositionAdjust")->stateValue = 1;
   [controller grayUI];
   Lines own;
@@ -211,7 +211,7 @@ TEST_F(Availability, AllowedGrayingGoesThroughTheControllersMethods) {
                           "self.setBackLRMState:1", "self.setBackTBMState:1"));
 }
 
-TEST_F(Availability, ForbiddenGrayingGoesThroughTheControllersMethods) {
+TEST_F(GrayUI, ForbiddenGrayingGoesThroughTheControllersMethods) {
   forbid();
   [controller grayUI];
   Lines own;
@@ -224,12 +224,12 @@ TEST_F(Availability, ForbiddenGrayingGoesThroughTheControllersMethods) {
                           "self.setBackLRMState:0", "self.setBackTBMState:0", "self.setFrontName"));
 }
 
-TEST_F(Availability, GrayingChecksOnce) {
+TEST_F(GrayUI, GrayingChecksOnce) {
   [controller grayUI];
   EXPECT_THAT(log->lines(), ElementsAre(kCheckTrace));
 }
 
-TEST_F(Availability, GrayingCallsNoSettingAndNoPrintSettings) {
+TEST_F(GrayUI, GrayingCallsNoSettingAndNoPrintSettings) {
   [controller grayUI];
   for (const std::string &line : onControls()) {
     for (const std::string &name : kNames)
@@ -248,7 +248,7 @@ struct GroupRow {
   Setter set;
 };
 
-class AvailabilityGroup : public Availability, public testing::WithParamInterface<GroupRow> {};
+class AvailabilityGroup : public GrayUI, public testing::WithParamInterface<GroupRow> {};
 
 TEST_P(AvailabilityGroup, MadeUsableIsEnabledWithBlackLabels) {
   GetParam().set(controller, YES);
@@ -270,7 +270,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // Names.
 
-TEST_F(Availability, FrontNamesAreLookedUpAndSetOneAfterTheOther) {
+TEST_F(GrayUI, FrontNamesAreLookedUpAndSetOneAfterTheOther) {
   control("chkEnableImagePositionAdjust")->stateValue = 1;
   [controller setFrontName];
   EXPECT_THAT(journal.take(),
@@ -279,7 +279,7 @@ TEST_F(Availability, FrontNamesAreLookedUpAndSetOneAfterTheOther) {
                           "FrontTBMLabel.setStringValue:[FrontTBM]"));
 }
 
-TEST_F(Availability, WithoutLocalizedStringsTheKeysAreShown) {
+TEST_F(GrayUI, WithoutLocalizedStringsTheKeysAreShown) {
   TestBundle empty;
   RecordingStrings *strings = get<id>("Bundle");
   get<id>("Bundle") = empty.bundle();

@@ -17,7 +17,7 @@ Lines supporting(const std::string &value = "true") {
   return duplexPrinter() + Lines{"*AdjustDuplexPositionSupport: \"" + value + "\""};
 }
 
-class Plugin : public ControllerFixture {
+class PrincipalClass : public ControllerFixture {
 protected:
   void SetUp() override {
     ControllerFixture::SetUp();
@@ -78,7 +78,7 @@ TEST(PluginInterface, PublishesTheAttributeAndItsOneValue) {
 
 // The bundle.
 
-TEST_F(Plugin, RetainsItsBundleOnceAndReleasesIt) {
+TEST_F(PrincipalClass, RetainsItsBundleOnceAndReleasesIt) {
   NSBundle *given = bundle->bundle();
   const NSUInteger before = [given retainCount];
   MorvaADPPdePluginRV2 *other = [MorvaADPPdePluginRV2 alloc];
@@ -89,7 +89,7 @@ TEST_F(Plugin, RetainsItsBundleOnceAndReleasesIt) {
   EXPECT_EQ([given retainCount], before);
 }
 
-TEST_F(Plugin, WithoutABundleInitReturnsTrueAndNoPanelCanBeBuilt) {
+TEST_F(PrincipalClass, WithoutABundleInitReturnsTrueAndNoPanelCanBeBuilt) {
   MorvaADPPdePluginRV2 *other = [MorvaADPPdePluginRV2 alloc];
   EXPECT_EQ([other initWithBundle:nil], 1);
   EXPECT_EQ(field<NSBundle *>(other, "Bundle"), nil);
@@ -97,7 +97,7 @@ TEST_F(Plugin, WithoutABundleInitReturnsTrueAndNoPanelCanBeBuilt) {
   [other release];
 }
 
-TEST_F(Plugin, WithoutABundleOtherDialogsAndPrintersStillGetAnEmptyArray) {
+TEST_F(PrincipalClass, WithoutABundleOtherDialogsAndPrintersStillGetAnEmptyArray) {
   MorvaADPPdePluginRV2 *other = [MorvaADPPdePluginRV2 alloc];
   [other initWithBundle:nil];
   EXPECT_EQ([[other PDEPanelsForType:@"page setup" withHostInfo:host] count], 0U);
@@ -109,7 +109,7 @@ TEST_F(Plugin, WithoutABundleOtherDialogsAndPrintersStillGetAnEmptyArray) {
 
 // The dialog.
 
-class PluginForType : public Plugin, public testing::WithParamInterface<const char *> {};
+class PluginForType : public PrincipalClass, public testing::WithParamInterface<const char *> {};
 
 TEST_P(PluginForType, OffersNothingToOtherDialogsWithoutRequestingThePpd) {
   NSArray *offered = panels(nsString(GetParam()));
@@ -125,29 +125,31 @@ INSTANTIATE_TEST_SUITE_P(Types, PluginForType,
                                          "BDB091F4-E57F-11D3-B5CC-0050E4603277 ",
                                          "BDB091F4-E57F-11D3-B5CC-0050E460327", "page setup", ""));
 
-TEST_F(Plugin, OffersNothingToADialogWithoutAType) {
+TEST_F(PrincipalClass, OffersNothingToADialogWithoutAType) {
   NSArray *offered = panels(nil);
   ASSERT_NE(offered, nil);
   EXPECT_EQ([offered count], 0U);
 }
 
-TEST_F(Plugin, OffersOnePanelToAPrintDialogForASupportingPrinter) {
+TEST_F(PrincipalClass, OffersOnePanelToAPrintDialogForASupportingPrinter) {
   NSArray *offered = panels();
   ASSERT_EQ([offered count], 1U);
   EXPECT_EQ([[offered objectAtIndex:0] class], [MorvaADPPdePanelRV2 class]);
 }
 
-TEST_F(Plugin, ComparesTheDialogTypeAsAString) {
+TEST_F(PrincipalClass, ComparesTheDialogTypeAsAString) {
   EXPECT_EQ([panels([NSMutableString stringWithString:kPrintDialog]) count], 1U);
 }
 
-TEST_F(Plugin, PassesThePanelTheHostAndTheBundle) {
+TEST_F(PrincipalClass, PassesThePanelTheHostAndTheBundle) {
   id panel = [panels() objectAtIndex:0];
   EXPECT_EQ(field<id>(panel, "PDEPluginCallbackObject"), host);
   EXPECT_EQ(field<NSBundle *>(panel, "PDEBundle"), bundle->bundle());
 }
 
-TEST_F(Plugin, TheArrayIsMutable) { EXPECT_TRUE([panels() isKindOfClass:[NSMutableArray class]]); }
+TEST_F(PrincipalClass, TheArrayIsMutable) {
+  EXPECT_TRUE([panels() isKindOfClass:[NSMutableArray class]]);
+}
 
 // The printer.
 
@@ -162,7 +164,7 @@ std::ostream &operator<<(std::ostream &out, const SupportRow &row) {
   return out;
 }
 
-class PluginForPrinter : public Plugin, public testing::WithParamInterface<SupportRow> {};
+class PluginForPrinter : public PrincipalClass, public testing::WithParamInterface<SupportRow> {};
 
 TEST_P(PluginForPrinter, IsSupportedByExactlyTrueInTheFirstAttribute) {
   usePrinter(GetParam().lines);
@@ -193,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "*AdjustDuplexPositionSupport B/B: \"true\""},
                    false}));
 
-TEST_F(Plugin, ANullPpdIsNotSupported) {
+TEST_F(PrincipalClass, ANullPpdIsNotSupported) {
   EXPECT_EQ([plugin isSupportAdjustImagePosition:nullptr], NO);
   host->ppd = nullptr;
   NSArray *offered = panels();
@@ -201,13 +203,13 @@ TEST_F(Plugin, ANullPpdIsNotSupported) {
   EXPECT_EQ([offered count], 0U);
 }
 
-TEST_F(Plugin, ANullHostGetsAnEmptyArray) {
+TEST_F(PrincipalClass, ANullHostGetsAnEmptyArray) {
   NSArray *offered = [plugin PDEPanelsForType:kPrintDialog withHostInfo:nil];
   ASSERT_NE(offered, nil);
   EXPECT_EQ([offered count], 0U);
 }
 
-TEST_F(Plugin, AnAttributeWithoutAValueIsNotSupported) {
+TEST_F(PrincipalClass, AnAttributeWithoutAValueIsNotSupported) {
   ppd_attr_t *attribute = ppdFindAttr(ppd->get(), "AdjustDuplexPositionSupport", nullptr);
   ASSERT_NE(attribute, nullptr);
   char *value = attribute->value;
@@ -217,18 +219,18 @@ TEST_F(Plugin, AnAttributeWithoutAValueIsNotSupported) {
   attribute->value = value;
 }
 
-TEST_F(Plugin, AValueThatIsNotUtf8IsNotSupported) {
+TEST_F(PrincipalClass, AValueThatIsNotUtf8IsNotSupported) {
   usePrinter(supporting("tr\xfc\xe9"));
   EXPECT_EQ([plugin isSupportAdjustImagePosition:ppd->get()], NO);
 }
 
-TEST_F(Plugin, OffersAPanelEvenIfTheMarkedChoicesForbidTheAdjustment) {
+TEST_F(PrincipalClass, OffersAPanelEvenIfTheMarkedChoicesForbidTheAdjustment) {
   ppd->mark("Duplex", "None");
   ppd->mark("MVBannerPagePrint", "True");
   EXPECT_EQ([panels() count], 1U);
 }
 
-TEST_F(Plugin, RequestsThePpdEachTime) {
+TEST_F(PrincipalClass, RequestsThePpdEachTime) {
   EXPECT_EQ([panels() count], 1U);
   usePrinter(duplexPrinter());
   EXPECT_EQ([panels() count], 0U);
@@ -236,14 +238,14 @@ TEST_F(Plugin, RequestsThePpdEachTime) {
 
 // Panels.
 
-TEST_F(Plugin, EachRequestMakesANewPanelAndController) {
+TEST_F(PrincipalClass, EachRequestMakesANewPanelAndController) {
   id first = [panels() objectAtIndex:0];
   id second = [panels() objectAtIndex:0];
   EXPECT_NE(first, second);
   EXPECT_NE(field<id>(first, "SettingItems"), field<id>(second, "SettingItems"));
 }
 
-TEST_F(Plugin, EachRequestReadsTheDefinitionsAgain) {
+TEST_F(PrincipalClass, EachRequestReadsTheDefinitionsAgain) {
   panels();
   NSMutableDictionary *record = definition("FrontLRM");
   [record setObject:@"9" forKey:@"DefaultValue"];
@@ -253,7 +255,7 @@ TEST_F(Plugin, EachRequestReadsTheDefinitionsAgain) {
   EXPECT_EQ(field<id>(items, "BackTBMSettings"), nil);
 }
 
-TEST_F(Plugin, APanelThatCannotBeBuiltIsNullAndNotAnEmptyArray) {
+TEST_F(PrincipalClass, APanelThatCannotBeBuiltIsNullAndNotAnEmptyArray) {
   bundle->remove("SettingInfo.plist");
   EXPECT_EQ(panels(), nil);
   writeBundle();
@@ -265,7 +267,7 @@ TEST_F(Plugin, APanelThatCannotBeBuiltIsNullAndNotAnEmptyArray) {
   EXPECT_EQ(panels(), nil);
 }
 
-TEST_F(Plugin, LogsNothingItself) {
+TEST_F(PrincipalClass, LogsNothingItself) {
   usePrinter(duplexPrinter());
   panels();
   panels(@"page setup");
@@ -275,7 +277,7 @@ TEST_F(Plugin, LogsNothingItself) {
   EXPECT_THAT(log->lines(), testing::IsEmpty());
 }
 
-TEST_F(Plugin, KeepsNeitherTheArrayNorThePanel) {
+TEST_F(PrincipalClass, KeepsNeitherTheArrayNorThePanel) {
   LiveObjects alive;
   const int before = alive.count([MorvaADPPdePanelRV2 class]);
   const NSUInteger hostReferences = [host retainCount];
@@ -293,7 +295,7 @@ TEST_F(Plugin, KeepsNeitherTheArrayNorThePanel) {
   EXPECT_EQ([host retainCount], hostReferences);
 }
 
-TEST_F(Plugin, ThePanelOutlivesThePlugin) {
+TEST_F(PrincipalClass, ThePanelOutlivesThePlugin) {
   NSArray *offered = [[panels() retain] autorelease];
   [plugin release];
   plugin = nil;

@@ -117,7 +117,7 @@ TEST_F(SummaryCalls, EachCallReturnsANewDictionary) {
   EXPECT_NE([controller getSummaryInfo], [controller getSummaryInfo]);
 }
 
-class Summary : public ControllerFixture {
+class SummaryInfo : public ControllerFixture {
 protected:
   void SetUp() override {
     ControllerFixture::SetUp();
@@ -127,7 +127,7 @@ protected:
   }
 };
 
-TEST_F(Summary, ShowsTheValuesInThePrintSettings) {
+TEST_F(SummaryInfo, ShowsTheValuesInThePrintSettings) {
   [controller prepareView];
   settings->put(kEnableKey, "True");
   settings->put("FrontLRMTicket", "-3");
@@ -143,7 +143,7 @@ TEST_F(Summary, ShowsTheValuesInThePrintSettings) {
                                           "Back top-bottom shift"));
 }
 
-TEST_F(Summary, AnUncheckedBoxHasTheValueZero) {
+TEST_F(SummaryInfo, AnUncheckedBoxHasTheValueZero) {
   [controller prepareView];
   settings->put("FrontLRMTicket", "-3");
   NSDictionary *summary = [controller getSummaryInfo];
@@ -153,7 +153,7 @@ TEST_F(Summary, AnUncheckedBoxHasTheValueZero) {
   EXPECT_EQ(at(summary, "Top-bottom"), "0");
 }
 
-TEST_F(Summary, SettingsThatAreNotStoredShowTheirDefaults) {
+TEST_F(SummaryInfo, SettingsThatAreNotStoredShowTheirDefaults) {
   NSMutableDictionary *record = definition("BackLRM");
   [record setObject:@"4" forKey:@"DefaultValue"];
   NSMutableDictionary *all = fourDefinitions();
@@ -164,7 +164,7 @@ TEST_F(Summary, SettingsThatAreNotStoredShowTheirDefaults) {
   EXPECT_EQ(at([controller getSummaryInfo], "Back left-right shift"), "4");
 }
 
-TEST_F(Summary, BeforeTheViewIsLoadedTheBoxCountsAsUnchecked) {
+TEST_F(SummaryInfo, BeforeTheViewIsLoadedTheBoxCountsAsUnchecked) {
   settings->put(kEnableKey, "True");
   settings->put("FrontLRMTicket", "-3");
   NSDictionary *summary = [controller getSummaryInfo];
@@ -176,19 +176,19 @@ TEST_F(Summary, BeforeTheViewIsLoadedTheBoxCountsAsUnchecked) {
                           "Back left-right shift", "Back top-bottom shift"));
 }
 
-TEST_F(Summary, DoesNotLoadTheView) {
+TEST_F(SummaryInfo, DoesNotLoadTheView) {
   [controller getSummaryInfo];
   EXPECT_EQ(get<id>("ImagePositionPrintView"), nil);
 }
 
-TEST_F(Summary, WritesNothing) {
+TEST_F(SummaryInfo, WritesNothing) {
   [controller prepareView];
   settings->forgetCalls();
   [controller getSummaryInfo];
   EXPECT_EQ(settings->count(TestPrintSettings::Access::Set), 0U);
 }
 
-TEST_F(Summary, WithoutLocalizedStringsTheSummaryTitlesAreTheKeys) {
+TEST_F(SummaryInfo, WithoutLocalizedStringsTheSummaryTitlesAreTheKeys) {
   TestBundle plain;
   plain.writePropertyList("SettingInfo", fourDefinitions());
   plain.writePropertyList("ConstraintInfo", [NSDictionary dictionary]);
@@ -199,7 +199,7 @@ TEST_F(Summary, WithoutLocalizedStringsTheSummaryTitlesAreTheKeys) {
               ElementsAre("EnableImgPstAdj", "LRM", "TBM", "BackLRMSummary", "BackTBMSummary"));
 }
 
-TEST_F(Summary, EqualTitlesShareOneEntryWithoutHarm) {
+TEST_F(SummaryInfo, EqualTitlesShareOneEntryWithoutHarm) {
   TestBundle same;
   same.writePropertyList("SettingInfo", fourDefinitions());
   same.writePropertyList("ConstraintInfo", [NSDictionary dictionary]);
@@ -213,7 +213,7 @@ TEST_F(Summary, EqualTitlesShareOneEntryWithoutHarm) {
 }
 
 // The key replaces a missing string; here there is no key either.
-TEST_F(Summary, AValueWithoutATitleHasNoEntry) {
+TEST_F(SummaryInfo, AValueWithoutATitleHasNoEntry) {
   NSMutableDictionary *records = fourDefinitions();
   [[records objectForKey:@"2"] removeObjectForKey:@"SummaryInfoName"];
   writeBundle(records);
@@ -228,7 +228,7 @@ TEST_F(Summary, AValueWithoutATitleHasNoEntry) {
 }
 
 // A missing setting has neither name nor value; the rest of the summary is complete.
-TEST_F(Summary, MissingSettingsDoNoHarm) {
+TEST_F(SummaryInfo, MissingSettingsDoNoHarm) {
   writeBundle(definitions({definition("FrontLRM")}));
   ASSERT_NE(make(), nil);
   settings->put("FrontLRMTicket", "5");

@@ -30,7 +30,7 @@ std::string testName(const testing::TestParamInfo<State> &state) {
   return state.param.rangeName + (state.param.backSideOn ? "RangeBackSideOn" : "RangeBackSideOff");
 }
 
-class PanelLayout : public PanelFixture, public testing::WithParamInterface<State> {
+class InterfaceLayout : public PanelFixture, public testing::WithParamInterface<State> {
 protected:
   void SetUp() override {
     show({"*MVDuplexShiftRange: \"" + GetParam().rangeName + "\""}, GetParam().backSideOn);
@@ -73,12 +73,12 @@ protected:
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(States, PanelLayout,
+INSTANTIATE_TEST_SUITE_P(States, InterfaceLayout,
                          testing::Values(State{"Wide", false}, State{"Wide", true},
                                          State{"Narrow", false}, State{"Narrow", true}),
                          testName);
 
-TEST_P(PanelLayout, UsesTheUsersLanguage) {
+TEST_P(InterfaceLayout, UsesTheUsersLanguage) {
   const auto expected = localizedStrings(language());
   const bool on = GetParam().backSideOn;
   EXPECT_EQ(localized("PluginName"), expected.at("PluginName"));
@@ -91,7 +91,7 @@ TEST_P(PanelLayout, UsesTheUsersLanguage) {
   EXPECT_EQ(cxxString([control("btnRestore2Defalut") title]), expected.at("RestoreDefaults"));
 }
 
-TEST_P(PanelLayout, EveryCharacterIsInTheFontThatDrawsIt) {
+TEST_P(InterfaceLayout, EveryCharacterIsInTheFontThatDrawsIt) {
   for (const std::string &setting : kSettingNames) {
     for (NSTextField *label : {nameLabel(setting), rangeLabel(setting)})
       expectDrawable([label stringValue], [label font]);
@@ -100,7 +100,7 @@ TEST_P(PanelLayout, EveryCharacterIsInTheFontThatDrawsIt) {
     expectDrawable([control(button) title], [control(button) font]);
 }
 
-TEST_P(PanelLayout, NoTextIsClipped) {
+TEST_P(InterfaceLayout, NoTextIsClipped) {
   for (const std::string &setting : kSettingNames) {
     for (NSTextField *label : {nameLabel(setting), rangeLabel(setting)})
       expectFits(label, [label stringValue]);
@@ -111,12 +111,12 @@ TEST_P(PanelLayout, NoTextIsClipped) {
   expectFits(control("btnRestore2Defalut"));
 }
 
-TEST_P(PanelLayout, EverythingIsWithinTheView) {
+TEST_P(InterfaceLayout, EverythingIsWithinTheView) {
   for (const std::string &outlet : outlets())
     EXPECT_TRUE(NSContainsRect([view() bounds], frame(outlet))) << outlet;
 }
 
-TEST_P(PanelLayout, NothingOverlaps) {
+TEST_P(InterfaceLayout, NothingOverlaps) {
   const std::vector<std::string> all = outlets();
   for (std::size_t i = 0; i < all.size(); ++i) {
     for (std::size_t j = i + 1; j < all.size(); ++j)
@@ -124,7 +124,7 @@ TEST_P(PanelLayout, NothingOverlaps) {
   }
 }
 
-TEST_P(PanelLayout, TheItemsOfAnOffsetAreInOneRow) {
+TEST_P(InterfaceLayout, TheItemsOfAnOffsetAreInOneRow) {
   for (const std::string &setting : kSettingNames) {
     const NSRect entry = frame(setting + "Text");
     for (const char *item : {"Label", "RangeLabel", "Stepper"})
@@ -136,7 +136,7 @@ TEST_P(PanelLayout, TheItemsOfAnOffsetAreInOneRow) {
   }
 }
 
-TEST_P(PanelLayout, TheRowsAreAlignedInColumnsAtEqualDistances) {
+TEST_P(InterfaceLayout, TheRowsAreAlignedInColumnsAtEqualDistances) {
   for (const char *item : {"Text", "Stepper", "Label", "RangeLabel"}) {
     const NSRect first = frame("FrontLRM" + std::string(item));
     for (const std::string &setting : kSettingNames) {
@@ -150,7 +150,7 @@ TEST_P(PanelLayout, TheRowsAreAlignedInColumnsAtEqualDistances) {
   }
 }
 
-TEST_P(PanelLayout, ReadsFromTheFrontSideOverTheCheckboxToTheBackSideAndTheButton) {
+TEST_P(InterfaceLayout, ReadsFromTheFrontSideOverTheCheckboxToTheBackSideAndTheButton) {
   const std::vector<std::string> downwards = {
       "FrontLRMText", "FrontTBMText", "chkEnableImagePositionAdjust",
       "BackLRMText",  "BackTBMText",  "btnRestore2Defalut"};
@@ -158,7 +158,7 @@ TEST_P(PanelLayout, ReadsFromTheFrontSideOverTheCheckboxToTheBackSideAndTheButto
     EXPECT_GT(NSMinY(frame(downwards[i - 1])), NSMaxY(frame(downwards[i]))) << downwards[i];
 }
 
-TEST_P(PanelLayout, TabGoesFromEntryFieldToEntryField) {
+TEST_P(InterfaceLayout, TabGoesFromEntryFieldToEntryField) {
   EXPECT_EQ([field("FrontLRM") nextValidKeyView], field("FrontTBM"));
   EXPECT_EQ([field("FrontTBM") nextValidKeyView], control("chkEnableImagePositionAdjust"));
   NSView *afterCheckbox = [control("chkEnableImagePositionAdjust") nextValidKeyView];
@@ -172,7 +172,7 @@ TEST_P(PanelLayout, TabGoesFromEntryFieldToEntryField) {
   EXPECT_EQ([control("btnRestore2Defalut") nextValidKeyView], field("FrontLRM"));
 }
 
-TEST_P(PanelLayout, LabelsAcceptNoKeyboardFocus) {
+TEST_P(InterfaceLayout, LabelsAcceptNoKeyboardFocus) {
   for (const std::string &setting : kSettingNames) {
     for (NSTextField *label : {nameLabel(setting), rangeLabel(setting)})
       EXPECT_FALSE([label canBecomeKeyView]) << setting;

@@ -64,28 +64,28 @@ std::string testName(const testing::TestParamInfo<std::string> &language) {
   return name;
 }
 
-class Strings : public testing::TestWithParam<std::string> {
+class LocalizedStrings : public testing::TestWithParam<std::string> {
 protected:
   std::map<std::string, std::string> strings_ = localizedStrings(GetParam());
 };
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Languages, Strings, testing::ValuesIn(languages()), testName);
+INSTANTIATE_TEST_SUITE_P(Languages, LocalizedStrings, testing::ValuesIn(languages()), testName);
 
 TEST(StringsFolders, TheBundleIsBuiltWithSevenLanguages) {
   EXPECT_THAT(languages(),
               testing::UnorderedElementsAre("en", "de", "fr", "es", "it", "ja", "zh-Hans"));
 }
 
-TEST_P(Strings, HasExactlyTheKeysInUse) {
+TEST_P(LocalizedStrings, HasExactlyTheKeysInUse) {
   std::set<std::string> keys;
   for (const auto &[key, text] : strings_)
     keys.insert(key);
   EXPECT_EQ(keys, keysInUse());
 }
 
-TEST_P(Strings, KeysAreInTheSameOrderAsInEnglish) {
+TEST_P(LocalizedStrings, KeysAreInTheSameOrderAsInEnglish) {
   std::vector<std::string> keys, english;
   for (const auto &[key, text] : orderedStrings(GetParam()))
     keys.push_back(key);
@@ -94,7 +94,7 @@ TEST_P(Strings, KeysAreInTheSameOrderAsInEnglish) {
   EXPECT_EQ(keys, english);
 }
 
-TEST_P(Strings, NoStringIsEmptyItsKeyOrPadded) {
+TEST_P(LocalizedStrings, NoStringIsEmptyItsKeyOrPadded) {
   for (const auto &[key, text] : strings_) {
     ASSERT_FALSE(text.empty()) << key;
     EXPECT_NE(text, key);
@@ -103,7 +103,7 @@ TEST_P(Strings, NoStringIsEmptyItsKeyOrPadded) {
   }
 }
 
-TEST_P(Strings, NothingIsLeftInEnglish) {
+TEST_P(LocalizedStrings, NothingIsLeftInEnglish) {
   if (GetParam() == "en")
     return;
   for (const auto &[key, text] : localizedStrings("en"))
@@ -111,7 +111,7 @@ TEST_P(Strings, NothingIsLeftInEnglish) {
 }
 
 // Two equal titles would share one entry in the summary.
-TEST_P(Strings, SummaryTitlesAreDistinctWithTheCheckboxOnAndOff) {
+TEST_P(LocalizedStrings, SummaryTitlesAreDistinctWithTheCheckboxOnAndOff) {
   EXPECT_EQ(distinct(strings_, {"EnableImgPstAdj", "FrontLRMSummary", "FrontTBMSummary",
                                 "BackLRMSummary", "BackTBMSummary"})
                 .size(),
@@ -122,21 +122,21 @@ TEST_P(Strings, SummaryTitlesAreDistinctWithTheCheckboxOnAndOff) {
       5u);
 }
 
-TEST_P(Strings, NameLabelsAreDistinctWithTheCheckboxOnAndOff) {
+TEST_P(LocalizedStrings, NameLabelsAreDistinctWithTheCheckboxOnAndOff) {
   EXPECT_EQ(distinct(strings_, {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM"}).size(),
             6u);
 }
 
 // The front offsets' titles in the panel are also titles in the summary, where the dialog adds a
 // colon.
-TEST_P(Strings, NoNameEndsWithAColon) {
+TEST_P(LocalizedStrings, NoNameEndsWithAColon) {
   for (const char *key : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM"})
     EXPECT_THAT(strings_.at(key),
                 Not(testing::AnyOf(testing::EndsWith(":"), testing::EndsWith("："))))
         << key;
 }
 
-TEST_P(Strings, EveryNameAndSummaryTitleShowsTheUnit) {
+TEST_P(LocalizedStrings, EveryNameAndSummaryTitleShowsTheUnit) {
   const std::string unit = GetParam() == "zh-Hans" ? "毫米" : "mm";
   const bool hasPoint = GetParam() == "en" || GetParam() == "ja" || GetParam() == "zh-Hans";
   for (const char *key : {"FrontLRM", "FrontTBM", "BackLRM", "BackTBM", "LRM", "TBM",
@@ -144,7 +144,7 @@ TEST_P(Strings, EveryNameAndSummaryTitleShowsTheUnit) {
     EXPECT_THAT(strings_.at(key), HasSubstr((hasPoint ? "0.1 " : "0,1 ") + unit)) << key;
 }
 
-TEST_P(Strings, RangeStringsShowBothNumbersAndNoPlaceholder) {
+TEST_P(LocalizedStrings, RangeStringsShowBothNumbersAndNoPlaceholder) {
   for (const Wording &wording : wordings()) {
     const std::string &text = strings_.at(wording.templateKey);
     EXPECT_THAT(text, HasSubstr(wording.minMark));
@@ -157,7 +157,7 @@ TEST_P(Strings, RangeStringsShowBothNumbersAndNoPlaceholder) {
   }
 }
 
-TEST_P(Strings, RangeStringsOfTheTwoDirectionsDiffer) {
+TEST_P(LocalizedStrings, RangeStringsOfTheTwoDirectionsDiffer) {
   const std::vector<Wording> all = wordings();
   EXPECT_EQ(all.at(0).templateKey, all.at(2).templateKey);
   EXPECT_EQ(all.at(1).templateKey, all.at(3).templateKey);
