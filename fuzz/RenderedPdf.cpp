@@ -1,6 +1,6 @@
 // What poppler makes of any bytes: the pages of a document have the size that both processes
 // calculate, are opaque, and can be reported. A document may make poppler crash, or take all time
-// and memory, as the renderer's process does not survive either: that is no find.
+// and memory, as the renderer's process does not survive either: that is not a finding.
 #include "Check.hpp"
 #include "PageDrawing.hpp"
 
