@@ -9,7 +9,6 @@
 
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <exception>
 #include <fcntl.h>
 #include <string_view>
@@ -66,16 +65,13 @@ std::optional<PaperSize> paperOfAll(std::vector<QPDFPageObjectHelper> &pages) {
 } // namespace
 
 std::string reportOnPdf(const std::string &path) try {
-  Descriptor file = opened(path);
+  const Descriptor file = opened(path);
   if (!file.isOpen() || !isPdf(file))
     return {};
-  FILE *const stream = fdopen(file.get(), "rb");
-  if (stream == nullptr)
-    return {};
-  (void)file.release(); // QPDF closes the stream
+  const MappedFile mapped(file); // QPDF seeks for each token: in a file that takes half of the time
   QPDF pdf;
   pdf.setSuppressWarnings(true);
-  pdf.processFile("document", stream, true);
+  pdf.processMemoryFile("document", mapped.content().data(), mapped.content().size());
   auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
   if (pages.empty())
     return {};

@@ -1,5 +1,7 @@
 #include "Children.hpp"
 
+#include "ResourceLimits.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -10,7 +12,6 @@
 #include <fstream>
 #include <poll.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/signalfd.h>
 #include <sys/wait.h>
 #include <system_error>
@@ -36,18 +37,11 @@ sigset_t childSignal() {
   return signals;
 }
 
-void limit(__rlimit_resource resource, rlim_t most) {
-  rlimit limits{};
-  getrlimit(resource, &limits);
-  limits.rlim_cur = limits.rlim_max = std::min(most, limits.rlim_max);
-  setrlimit(resource, &limits);
-}
-
 void limitAll() {
-  limit(RLIMIT_AS, kMemory);
-  limit(RLIMIT_FSIZE, kFileSize);
-  limit(RLIMIT_CPU, kSeconds);
-  limit(RLIMIT_CORE, 0);
+  limitResource(RLIMIT_AS, kMemory);
+  limitResource(RLIMIT_FSIZE, kFileSize);
+  limitResource(RLIMIT_CPU, kSeconds);
+  limitResource(RLIMIT_CORE, 0);
 }
 
 void killListed() {
@@ -157,13 +151,6 @@ bool Children::wait(int output, const std::function<void(std::string_view)> &rea
                                         [](const Child &child) { return child.hasSucceeded; });
   killAll();
   return hasSucceeded;
-}
-
-Pipe newPipe() {
-  std::array<int, 2> ends{};
-  if (pipe2(ends.data(), O_CLOEXEC) != 0)
-    throw std::system_error(errno, std::generic_category());
-  return {Descriptor(ends[0]), Descriptor(ends[1])};
 }
 
 int execute(const std::string &program, const std::vector<std::string> &words,

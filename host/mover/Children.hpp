@@ -12,23 +12,23 @@
 
 namespace imageposition {
 
-/// Thrown when the process that started this one has ended or wants no result any more.
+/// Thrown when the process that started this one has ended or no longer wants the result.
 struct Abandoned {};
 
-/// Starts processes with limits, and waits for them. The documents that they read may have been
-/// made to do harm. When this process ends, however it does, they are killed.
+/// Starts processes with limits, and waits for them. The documents that they read may be
+/// malicious. When this process ends, however it does, they are killed.
 ///
-/// There is one object, in a process with one thread.
+/// Make only one object, in a process with one thread.
 class Children {
 public:
-  /// `lifeline` becomes readable or is closed when this process is to end; borrowed.
+  /// `lifeline` becomes readable or is closed when this process must end; borrowed.
   explicit Children(int lifeline);
-  /// Kills all that are left, and all that they have started.
+  /// Kills those that still run, and all that they have started.
   ~Children();
   Children(const Children &) = delete;
   Children &operator=(const Children &) = delete;
 
-  /// What a process gets as its descriptors; -1 for /dev/null. Borrowed.
+  /// The descriptors of a process; -1 for /dev/null. Borrowed.
   struct Files {
     int input = -1;
     int output = -1;
@@ -37,8 +37,8 @@ public:
   };
   static constexpr int kDescription = 5;
 
-  /// Runs `work` in a process, which ends with what `work` returns, or that it replaces by another
-  /// program. It has no descriptors but these, and a process group of its own.
+  /// Runs `work` in a process, which ends with what `work` returns, or that it replaces with
+  /// another program. It has only these descriptors, and a separate process group.
   void start(const Files &files, const std::function<int()> &work);
 
   /// Waits until all have ended, and meanwhile passes on what can be read from `output`, which may
@@ -61,14 +61,7 @@ private:
   std::vector<Child> children_;
 };
 
-struct Pipe {
-  Descriptor reader;
-  Descriptor writer;
-};
-/// Throws a `std::system_error`.
-Pipe newPipe();
-
-/// Replaces the process by a program. Returns only if that fails.
+/// Replaces the process with a program. Returns only if that fails.
 int execute(const std::string &program, const std::vector<std::string> &words,
             const std::vector<std::string> &environment);
 

@@ -12,8 +12,8 @@ namespace imageposition {
 struct DrawnPage {
   Point width; ///< As shown, so after its rotation.
   Point height;
-  /// In the order of drawing. A rectangle that is turned by another angle than a multiple of 90
-  /// degrees is replaced by the one around it.
+  /// In the order of drawing. A rectangle rotated by anything but a multiple of 90 degrees is
+  /// replaced by its bounding box.
   std::vector<PageRectangle> rectangles;
 };
 

@@ -1,5 +1,6 @@
 #include "FilterChain.hpp"
 
+#include "ChildProgram.hpp"
 #include "Strings.hpp"
 
 #include <array>
@@ -101,7 +102,7 @@ std::vector<std::string> filtersFor(const MoverTask &task, const Descriptor &doc
   if (!task.format.empty())
     words.insert(words.end(), {"-i", task.format});
   words.insert(words.end(), {"--", task.path.empty() ? kInput : task.path});
-  Pipe list = newPipe();
+  ProgramPipe list = newProgramPipe();
   children.start({document.get(), list.writer.get()},
                  [&] { return execute(task.chooser, words, environmentFor(task)); });
   list.writer = Descriptor(-1);
@@ -119,11 +120,11 @@ std::optional<std::string> runFilters(const std::vector<std::string> &filters,
                                       const MoverTask &task, const Descriptor &document,
                                       const Descriptor &description, const Descriptor &result,
                                       Children &children) {
-  Pipe errors = newPipe();
+  ProgramPipe errors = newProgramPipe();
   Descriptor input(fcntl(document.get(), F_DUPFD_CLOEXEC, 0));
   for (std::size_t i = 0; i < filters.size(); i++) {
     const bool isLast = i + 1 == filters.size();
-    Pipe between = isLast ? Pipe{Descriptor(-1), Descriptor(-1)} : newPipe();
+    ProgramPipe between = isLast ? ProgramPipe{Descriptor(-1), Descriptor(-1)} : newProgramPipe();
     std::vector<std::string> words{filters[i], "1", task.user, task.title, "1", task.options};
     if (i == 0)
       words.emplace_back(kInput);

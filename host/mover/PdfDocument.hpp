@@ -34,9 +34,12 @@ using Stream = std::unique_ptr<FILE, int (*)(FILE *)>;
 Stream streamOf(const Descriptor &file, const char *mode);
 
 /// Opens the file for `work`, which must not keep anything of the document. The file must be a
-/// regular one. Throws a `PdfTrouble`, also for whatever QPDF throws in `work`, except if memory
-/// runs out.
+/// regular one; if it becomes shorter meanwhile, the process ends with SIGBUS. Throws a
+/// `PdfTrouble`, also for whatever QPDF throws in `work`, except if memory runs out.
 void withPdf(const Descriptor &file, const std::function<void(QPDF &)> &work);
+
+/// Throws a `PdfTrouble` if the document's owner does not allow printing, which CUPS respects.
+void requirePermission(QPDF &pdf);
 
 } // namespace imageposition
 

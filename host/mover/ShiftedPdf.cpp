@@ -171,10 +171,7 @@ bool isShifted(const Descriptor &file) {
 }
 
 void requirePermission(const Descriptor &file) {
-  withPdf(file, [](QPDF &pdf) {
-    if (!pdf.allowPrintLowRes())
-      throw PdfTrouble(PdfTrouble::Kind::Forbidden, "its owner does not allow printing");
-  });
+  withPdf(file, [](QPDF &pdf) { requirePermission(pdf); });
 }
 
 } // namespace imageposition

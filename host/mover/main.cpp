@@ -1,5 +1,6 @@
 // print-dialog-mover: lays a document out and moves the image on its pages for print-dialog, which
 // starts it with the words and the descriptors of MoverTask.hpp.
+#include "ChildProgram.hpp"
 #include "Children.hpp"
 #include "ChosenPages.hpp"
 #include "FilterChain.hpp"
@@ -47,7 +48,7 @@ MoveProblem problemOf(PdfTrouble::Kind kind) {
   }
 }
 
-/// In a process of its own, like everything that reads a document.
+/// In a separate process, like everything that reads a document.
 MoverReport reportOn(const std::function<MoverReport()> &work) try {
   return work();
 } catch (const PdfTrouble &trouble) {
@@ -91,7 +92,7 @@ using FileWork = std::function<MoverReport(const Descriptor &from, const Descrip
 /// Runs `work` in a process with limits, which gets `from` and `to`.
 MoverReport runLimited(Children &children, const Descriptor &from, const Descriptor &to,
                        const FileWork &work) {
-  Pipe pipe = newPipe();
+  ProgramPipe pipe = newProgramPipe();
   children.start({from.get(), to.get(), pipe.writer.get()}, [&] {
     const Descriptor input(STDIN_FILENO), output(STDOUT_FILENO);
     tell(STDERR_FILENO, reportOn([&] { return work(input, output); }));
@@ -112,7 +113,7 @@ MoverReport shift(const Descriptor &from, const Descriptor &to, const ShiftPlan 
   return {MoverReport::Kind::Done, static_cast<int>(shiftPages(from, to, plan, progress)), {}, {}};
 }
 
-/// Why a document cannot be laid out, as far as it shows itself.
+/// Why a document cannot be laid out, as far as the document tells.
 MoverReport diagnose(const Descriptor &document, const Descriptor &) {
   requirePermission(document);
   return failed(MoveProblem::Layout);
@@ -127,7 +128,7 @@ MoverReport diagnosis(Children &children, const Descriptor &document, const std:
   return report;
 }
 
-/// Keeps only the pages that are wanted. Returns a failure, if there is one.
+/// Keeps only the pages that were requested. Returns a failure, if there is one.
 std::optional<MoverReport> reduce(Descriptor &document, const std::string &pages,
                                   Children &children) {
   const PageRanges wanted = PageRanges::parse(pages);

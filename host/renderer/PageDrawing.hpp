@@ -20,7 +20,7 @@ struct PageDrawing {
   std::vector<std::uint32_t> pixels; ///< 0xFFRRGGBB, as many as `pixelSizeOf` says.
 };
 
-/// A document that may be damaged, or made to do harm. Rendering may take any time and much memory.
+/// A document that may be damaged or malicious. Rendering may take any time and much memory.
 class RenderableDocument {
 public:
   /// The content is borrowed for the object's life.

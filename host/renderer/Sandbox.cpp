@@ -1,8 +1,8 @@
 #include "Sandbox.hpp"
 
 #include "FileContent.hpp"
+#include "ResourceLimits.hpp"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -13,7 +13,6 @@
 #include <seccomp.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <system_error>
 #include <unistd.h>
@@ -27,13 +26,6 @@ constexpr rlim_t kSeconds = 5;                            // of the processor
 constexpr unsigned kLifetime = 10;                        // seconds; the dialog is more impatient
 
 [[noreturn]] void failWith(int error) { throw std::system_error(error, std::generic_category()); }
-
-void limit(__rlimit_resource resource, rlim_t most) {
-  rlimit limits{};
-  getrlimit(resource, &limits);
-  limits.rlim_cur = limits.rlim_max = std::min(most, limits.rlim_max);
-  setrlimit(resource, &limits);
-}
 
 /// The kernel sends the signal even while poppler is busy, and nothing can block it.
 void endWithInput() {
@@ -186,10 +178,10 @@ void restrictCalls(int output) {
 } // namespace
 
 void limitProcess(std::size_t largestFile, std::size_t mapped) {
-  limit(RLIMIT_AS, kMemory == RLIM_INFINITY ? kMemory : kMemory + mapped);
-  limit(RLIMIT_CPU, kSeconds);
-  limit(RLIMIT_FSIZE, largestFile);
-  limit(RLIMIT_CORE, 0);
+  limitResource(RLIMIT_AS, kMemory == RLIM_INFINITY ? kMemory : kMemory + mapped);
+  limitResource(RLIMIT_CPU, kSeconds);
+  limitResource(RLIMIT_FSIZE, largestFile);
+  limitResource(RLIMIT_CORE, 0);
   alarm(kLifetime);
   endWithInput();
 }

@@ -6,7 +6,6 @@
 #include "Sandbox.hpp"
 
 #include <algorithm>
-#include <cerrno>
 #include <exception>
 #include <limits>
 #include <sys/stat.h>
@@ -16,20 +15,7 @@ namespace imageposition {
 
 namespace {
 
-bool writeAll(int file, const char *data, std::size_t size) {
-  while (size > 0) {
-    const ssize_t count = write(file, data, size);
-    if (count < 0 && errno == EINTR)
-      continue;
-    if (count <= 0)
-      return false;
-    data += count;
-    size -= static_cast<std::size_t>(count);
-  }
-  return true;
-}
-
-bool tell(const std::string &line) { return writeAll(STDOUT_FILENO, line.data(), line.size()); }
+bool tell(const std::string &line) { return writeAll(STDOUT_FILENO, line); }
 
 bool render(const RenderRequest &request) try {
   const Descriptor file(kRendererDocument);
@@ -40,11 +26,11 @@ bool render(const RenderRequest &request) try {
   for (const int page : request.pages) {
     const PageDrawing drawing = document.draw(page, request);
     const auto *const bytes = reinterpret_cast<const char *>(drawing.pixels.data());
-    if (!writeAll(kRendererResult, bytes, drawing.pixels.size() * kBytesPerPixel) ||
+    if (!writeAll(kRendererResult, {bytes, drawing.pixels.size() * kBytesPerPixel}) ||
         !tell(lineOf(drawing.report)))
       return false;
   }
-  _exit(0); // without taking apart what goes with the process
+  _exit(0); // skips destructors: the process ends anyway
 } catch (const FileTrouble &) {
   return tell(kDamagedLine);
 }

@@ -26,17 +26,12 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds kPatience{5};
 constexpr int kBetweenLooks = 50; // milliseconds
 constexpr std::size_t kLongestReport = 200;
-constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_EXAMINER;
-
-std::string examinerProgram() {
-  return trustedPart({besideProgram(IMAGEPOSITION_EXAMINER), besideProgram(kInstalled)});
-}
 
 /// A process with its standard output.
 class Examination {
 public:
   explicit Examination(const std::string &document) {
-    const std::string program = examinerProgram();
+    const std::string program = installedProgram(IMAGEPOSITION_EXAMINER);
     if (program.empty())
       return;
     try {
@@ -87,10 +82,11 @@ class DocumentExaminer::Work {
 public:
   Work(std::string path, Changed changed)
       : thread_([this, path = std::move(path), changed = std::move(changed)] {
-          const auto found = readFacts(Examination(path).report(isStopped_));
+          const std::string report = Examination(path).report(isStopped_);
           {
             const std::lock_guard<std::mutex> lock(mutex_);
-            facts_ = found;
+            facts_ = readFacts(report);
+            needsPassword_ = report == kPasswordNeeded;
             isDone_ = true;
           }
           if (!isStopped_)
@@ -107,6 +103,10 @@ public:
     const std::lock_guard<std::mutex> lock(mutex_);
     return facts_;
   }
+  bool needsPassword() const {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return needsPassword_;
+  }
   bool isDone() const {
     const std::lock_guard<std::mutex> lock(mutex_);
     return isDone_;
@@ -116,6 +116,7 @@ private:
   std::atomic<bool> isStopped_{false};
   mutable std::mutex mutex_;
   std::optional<DocumentFacts> facts_;
+  bool needsPassword_ = false;
   bool isDone_ = false;
   std::thread thread_; // last: uses the others
 };
@@ -138,6 +139,8 @@ void DocumentExaminer::examine(const std::string &path) {
 std::optional<DocumentFacts> DocumentExaminer::facts() const {
   return work_ != nullptr ? work_->facts() : std::nullopt;
 }
+
+bool DocumentExaminer::needsPassword() const { return work_ != nullptr && work_->needsPassword(); }
 
 bool DocumentExaminer::isDone() const { return work_ == nullptr || work_->isDone(); }
 

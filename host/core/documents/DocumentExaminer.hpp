@@ -11,26 +11,29 @@
 
 namespace imageposition {
 
-/// Has another process, with limits to its time and memory, read the document: it may be large or
-/// damaged, be a pipe, or have been made to do harm. Knows only PDF files.
+/// Has another process, with limits to its time and memory, read the document: it may be large,
+/// damaged, malicious or a pipe. Reads only PDF files.
 ///
 /// Call all methods on one thread; none waits for the document.
 class DocumentExaminer {
 public:
-  /// Called on another thread when a document has been examined, even if nothing is known of it.
+  /// Called on another thread when a document has been examined, even if nothing is known about it.
   using Changed = std::function<void()>;
 
   explicit DocumentExaminer(Changed changed);
-  /// Stops what is under way.
+  /// Stops an examination.
   ~DocumentExaminer();
   DocumentExaminer(const DocumentExaminer &) = delete;
   DocumentExaminer &operator=(const DocumentExaminer &) = delete;
 
-  /// Forgets the last document and begins with this one; with an empty path there is none.
+  /// Forgets the last document and starts with this one; an empty path means none.
   void examine(const std::string &path);
 
-  /// Empty until they are known; stays so for a document that cannot be examined within seconds.
+  /// Empty until they are known, and for a document that cannot be examined within seconds.
   std::optional<DocumentFacts> facts() const;
+
+  /// Whether it is known that only a password opens the document.
+  bool needsPassword() const;
 
   /// Whether there is nothing to wait for.
   bool isDone() const;

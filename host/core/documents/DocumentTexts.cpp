@@ -11,8 +11,16 @@ std::string paperOnMedia(const std::string &paper, const std::string &media) {
 std::string millimetres(const std::string &width, const std::string &length) {
   return text("{1} × {2} mm").with(width, length);
 }
+const Text kRequiresPassword = text("requires a password, so CUPS will print nothing");
 std::string documentHasPages(int pages) {
   return counted(pages, "The document has {1} page.", "The document has {1} pages.");
+}
+std::string documentHasSides(int sides) {
+  return counted(sides, "The document fills {1} side.", "The document fills {1} sides.");
+}
+std::string sidesAreChosen(int pagesPerSide) {
+  return text("With {1} pages per side, this selection counts sides, not pages.")
+      .with(std::to_string(pagesPerSide));
 }
 
 } // namespace imageposition::messages

@@ -12,8 +12,13 @@ std::string pageCount(int pages);
 /// The document's paper, "A5", and the media in the printer, "A4".
 std::string paperOnMedia(const std::string &paper, const std::string &media);
 std::string millimetres(const std::string &width, const std::string &length);
+/// About a document, after its name.
+extern const Text kRequiresPassword;
 /// Why pages cannot be printed.
 std::string documentHasPages(int pages);
+std::string documentHasSides(int sides);
+/// For page ranges when there are several pages on a side.
+std::string sidesAreChosen(int pagesPerSide);
 
 } // namespace imageposition::messages
 

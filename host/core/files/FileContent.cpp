@@ -63,6 +63,18 @@ std::string contentOfFile(const Descriptor &file) {
   }
 }
 
+bool writeAll(int descriptor, std::string_view content) noexcept {
+  while (!content.empty()) {
+    const ssize_t count = write(descriptor, content.data(), content.size());
+    if (count < 0 && errno == EINTR)
+      continue;
+    if (count < 0)
+      return false;
+    content.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
+}
+
 std::optional<std::string> contentOfFile(const std::string &path) {
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (file.isOpen())

@@ -1,4 +1,4 @@
-/// Reads whole files.
+/// Reads and writes whole files.
 #ifndef IMAGEPOSITION_CORE_FILES_FILECONTENT_HPP
 #define IMAGEPOSITION_CORE_FILES_FILECONTENT_HPP
 
@@ -53,6 +53,10 @@ private:
 std::optional<std::string> contentOfFile(const std::string &path);
 /// The same for a file that is already open for reading.
 std::string contentOfFile(const Descriptor &file);
+
+/// Writes everything, in several steps if necessary. Returns false, with the reason in `errno`, if
+/// that fails; part of the content may be written then.
+bool writeAll(int descriptor, std::string_view content) noexcept;
 
 /// The content of an open file of any size, mapped for reading. The file must not become shorter.
 class MappedFile {

@@ -56,17 +56,6 @@ std::optional<fs::path> targetOfLink(const Descriptor &folder, const std::string
   return fs::path(std::string(target, static_cast<std::size_t>(length)));
 }
 
-void writeAll(const Descriptor &file, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t written = write(file.get(), content.data(), content.size());
-    if (written < 0 && errno == EINTR)
-      continue;
-    if (written < 0)
-      throw FileTrouble(errno);
-    content.remove_prefix(static_cast<std::size_t>(written));
-  }
-}
-
 } // namespace
 
 /// Resolves symbolic links itself, to check the owner of each one before following it.
@@ -130,8 +119,7 @@ void FileReplacement::writeContent(std::string_view content, Readers readers, Co
   Descriptor file = createTemporary(rights);
   if (keepsRights && fchmod(file.get(), rights) != 0) // openat() applied the umask
     throw FileTrouble(errno);
-  writeAll(file, content);
-  if (fsync(file.get()) != 0 || ::close(file.release()) != 0)
+  if (!writeAll(file.get(), content) || fsync(file.get()) != 0 || ::close(file.release()) != 0)
     throw FileTrouble(errno);
 }
 

@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_CORE_PAGES_PAGESTEXTS_HPP
 #define IMAGEPOSITION_CORE_PAGES_PAGESTEXTS_HPP
 
+#include "MoverTask.hpp"
 #include "Text.hpp"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace imageposition::messages {
 /// "Sheet 2 of 7 (pages 3 and 4)". `pages` may be empty.
 std::string sheetOf(int sheet, int sheets, const std::string &pages, bool isOnePage);
 extern const Text kPagesAreLoaded;
-extern const Text kPagesNotShown;
+const Text &pagesNotShown(MoveProblem problem);
 
 } // namespace imageposition::messages
 

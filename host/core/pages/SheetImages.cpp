@@ -48,6 +48,7 @@ public:
   struct Result {
     std::shared_ptr<const LaidOut> laidOut; // null after a failure
     std::map<int, SizedImage> images;
+    MoveProblem problem = MoveProblem::Fault;
   };
 
   Fetch(Request request, const Changed &changed)
@@ -78,7 +79,9 @@ private:
       if (!request.sides.empty())
         render(request, keepWaiting, result.images);
       return result;
-    } catch (const std::exception &) { // printing says what is the matter with a document
+    } catch (const ShiftFailure &failure) {
+      return {nullptr, {}, failure.problem()};
+    } catch (const std::exception &) {
       return {};
     }
   }
@@ -153,9 +156,13 @@ void SheetImages::setScale(double pixelsPerPoint) {
 }
 
 void SheetImages::turnTo(int sheet) {
-  sheet_ = std::clamp(sheet, 0, std::max(order_.sheets() - 1, 0));
+  const int next = std::clamp(sheet, 0, std::max(order_.sheets() - 1, 0));
+  if (next == sheet_)
+    return;
+  sheet_ = next;
   dropDistantImages();
-  if (state() == State::Loading) // the visible sheet first
+  const bool isWholeNeeded = laidOut_ == nullptr && !document_->pages;
+  if (state() == State::Loading && !isWholeNeeded) // the visible sheet first
     cancel();
   fetchNext();
 }
@@ -167,6 +174,7 @@ bool SheetImages::take() {
   Fetch::Result result = fetch->take();
   if (result.laidOut == nullptr) {
     hasFailed_ = true;
+    problem_ = result.problem;
     images_.clear();
     order_ = {}; // there is nothing to turn to
     return true;
@@ -268,6 +276,7 @@ void SheetImages::fetchNext() {
     fetch_ = std::make_unique<Fetch>(std::move(request), changed_);
   } catch (const std::system_error &) { // no thread is left
     hasFailed_ = true;
+    problem_ = MoveProblem::Fault;
   }
 }
 

@@ -22,7 +22,7 @@ struct ShownDocument {
   /// None if its pages are only known once it is laid out.
   std::optional<DocumentPages> pages;
   SideOrder order;
-  std::string identity; ///< Another one if anything that changes the laid-out pages is different.
+  std::string identity; ///< Changes with anything that affects the laid-out pages.
 };
 
 /// The images of the visible sheet and, while they are small, its neighbours; no others are kept.
@@ -32,7 +32,7 @@ struct ShownDocument {
 /// Call all methods on one thread; none waits.
 class SheetImages {
 public:
-  /// Called on another thread when `take` is due.
+  /// Called on another thread when `take` has a result.
   using Changed = std::function<void()>;
   using Image = std::shared_ptr<const RenderedPage>; ///< Null while there is none.
 
@@ -60,6 +60,10 @@ public:
   bool take();
 
   State state() const noexcept;
+  /// Why there are no images; valid if the state is `Failed`.
+  MoveProblem problem() const noexcept { return problem_; }
+  /// The document's path; empty without one.
+  std::string path() const { return document_ ? document_->path : ""; }
   /// The document's name if it needs one.
   std::string name() const { return document_ ? document_->name : ""; }
   int sheet() const noexcept { return sheet_; }
@@ -91,6 +95,7 @@ private:
   std::map<int, SizedImage> images_; // by printed side
   std::shared_ptr<const LaidOut> laidOut_;
   bool hasFailed_ = false;
+  MoveProblem problem_ = MoveProblem::Fault;
   std::unique_ptr<Fetch> fetch_; // null if nothing is under way
 };
 

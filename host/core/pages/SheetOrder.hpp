@@ -24,7 +24,7 @@ struct SheetSides {
   std::optional<int> back;
 };
 
-/// Sheets in reading order, from 0. The same in whatever order the printer prints them.
+/// Sheets in reading order, from 0. Independent of the printing order.
 class SheetOrder {
 public:
   /// Without sheets.

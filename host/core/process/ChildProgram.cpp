@@ -4,7 +4,9 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
+#include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -89,6 +91,18 @@ pid_t startProgram(const ProgramStart &start) {
   if (error != 0)
     throw std::system_error(error, std::generic_category());
   return process;
+}
+
+bool waitForProgram(pid_t process, std::chrono::milliseconds patience) {
+  using Clock = std::chrono::steady_clock;
+  const auto end = Clock::now() + patience;
+  int status = -1;
+  while (waitpid(process, &status, WNOHANG) == 0) {
+    if (Clock::now() >= end)
+      kill(process, SIGKILL);
+    poll(nullptr, 0, 1);
+  }
+  return status == 0;
 }
 
 } // namespace imageposition

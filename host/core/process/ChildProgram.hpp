@@ -4,6 +4,7 @@
 
 #include "FileContent.hpp"
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <sys/types.h>
@@ -27,13 +28,17 @@ struct ProgramStart {
   std::optional<std::vector<std::string>> environment;
   /// The program's descriptors 0, 1, 2 and so on; -1 for /dev/null. Borrowed.
   std::vector<int> descriptors;
-  /// Whether signals for this process's group, as from a terminal, are not the program's.
+  /// Whether the program has a separate process group, which Ctrl+C in the terminal does not reach.
   bool hasOwnGroup = false;
 };
 
 /// Starts the program, which blocks no signals even if this thread does. The caller waits for it.
 /// Throws a `std::system_error`.
 pid_t startProgram(const ProgramStart &start);
+
+/// Waits until the program has ended, and kills it after `patience`. Returns whether it has
+/// succeeded, with exit status 0.
+bool waitForProgram(pid_t process, std::chrono::milliseconds patience);
 
 } // namespace imageposition
 

@@ -7,8 +7,6 @@ namespace imageposition {
 
 namespace {
 
-constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_RENDERER;
-
 const char *messageOf(RenderProblem problem) {
   switch (problem) {
   case RenderProblem::Password:
@@ -29,8 +27,7 @@ RenderFailure::RenderFailure(RenderProblem problem)
 
 std::vector<RenderedPage> renderPages(const Descriptor &pdf, const RenderRequest &request,
                                       const KeepWaiting &keepWaiting) {
-  const std::string program =
-      trustedPart({besideProgram(IMAGEPOSITION_RENDERER), besideProgram(kInstalled)});
+  const std::string program = installedProgram(IMAGEPOSITION_RENDERER);
   if (program.empty())
     throw RenderFailure(RenderProblem::Fault);
   return renderPagesWith(program, pdf, request, keepWaiting);

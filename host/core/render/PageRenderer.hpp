@@ -22,9 +22,9 @@ struct RenderedPage {
 
 enum class RenderProblem {
   Password, ///< Only a password opens the document.
-  Damaged,  ///< It is no PDF, or too damaged or too large to be read.
+  Damaged,  ///< Not a PDF, or too damaged or too large to be read.
   TooLong,  ///< No page was rendered in time.
-  Fault     ///< The program is missing, ended early, or reported what cannot be.
+  Fault     ///< The program is missing, ended early, or sent an impossible report.
 };
 
 /// Why there are no pages. The message is for developers.
@@ -40,13 +40,13 @@ private:
 /// Called at least 20 times each second on the thread that waits. Returns false to cancel.
 using KeepWaiting = std::function<bool()>;
 
-/// Renders pages of a PDF file, in a process that can do nothing but render: the document may have
-/// been made to do harm. Takes a few seconds at most. Waits for the process, so call it on a
+/// Renders pages of a PDF file, in a process that can do nothing but render: the document may be
+/// malicious. Takes a few seconds at most. Waits for the process, so call it on a
 /// background thread; calls at the same time are possible.
 ///
 /// Returns the pages in the order of the request. A page that could not be rendered has no pixels:
-/// it is not in the document, or it took too long while others are there. Returns no pages if
-/// `keepWaiting` has cancelled, which takes less than 0.2 s and leaves nothing behind. Throws a
+/// it is not in the document, or it took too long, but other pages were rendered. Returns no pages
+/// if `keepWaiting` has cancelled, which takes less than 0.2 s and leaves nothing behind. Throws a
 /// `RenderFailure`, or a `std::invalid_argument` for a request that is not valid.
 ///
 /// `pdf` is a regular file, open for reading; its position is not used.

@@ -1,4 +1,4 @@
-/// What the dialog and the program that renders pages tell each other.
+/// The protocol between the dialog and the renderer.
 #ifndef IMAGEPOSITION_CORE_RENDER_RENDERTASK_HPP
 #define IMAGEPOSITION_CORE_RENDER_RENDERTASK_HPP
 
@@ -12,9 +12,9 @@
 
 namespace imageposition {
 
-/// The descriptors of the program besides its report, standard output. It writes the pixels of the
+/// The descriptors of the renderer besides standard output, its report. It writes the pixels of the
 /// pages to the result one after another, without gaps, before it reports the page. Its standard
-/// input is a pipe; the program ends when the pipe's other end is closed.
+/// input is a pipe; the renderer ends when the pipe's other end is closed.
 enum RendererDescriptor { kRendererDocument = 3, kRendererResult = 4 };
 
 struct RenderRequest {
@@ -33,7 +33,7 @@ bool isValid(const RenderRequest &request);
 /// In bytes: no result that fits the request is larger.
 std::size_t largestResult(const RenderRequest &request);
 
-/// The program's arguments. None if the words are not what `wordsOf` returns for a valid request.
+/// The renderer's arguments. None if the words are not what `wordsOf` returns for a valid request.
 std::vector<std::string> wordsOf(const RenderRequest &request);
 std::optional<RenderRequest> readRenderRequest(const std::vector<std::string> &words);
 
@@ -52,7 +52,7 @@ bool isPageSize(Point width, Point height) noexcept;
 std::string lineOf(const PageReport &report);
 std::optional<PageReport> readPageReport(std::string_view line);
 
-/// The only lines of a report on a document none of whose pages can be read.
+/// The report is one of these lines if no page can be read.
 constexpr const char *kPasswordLine = "password\n";
 constexpr const char *kDamagedLine = "damaged\n";
 
@@ -66,7 +66,7 @@ struct PixelSize {
 };
 
 /// The size at which a page is rendered. Both processes calculate it, so the dialog need not
-/// believe the other.
+/// trust the renderer.
 PixelSize pixelSizeOf(const PageReport &report, const RenderRequest &request) noexcept;
 
 } // namespace imageposition

@@ -8,7 +8,7 @@
 
 namespace imageposition {
 
-/// `renderPages` with the program at this path, which is not believed.
+/// `renderPages` with the program at this path, which is not trusted.
 std::vector<RenderedPage> renderPagesWith(const std::string &program, const Descriptor &pdf,
                                           const RenderRequest &request,
                                           const KeepWaiting &keepWaiting);

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 #include <qpdf/QPDF.hh>
+#include <utility>
+#include <vector>
 
 namespace imageposition {
 
@@ -51,6 +53,47 @@ TEST(ChosenPages, KeepWhatTheyInherit) {
     EXPECT_EQ(page.getKey("/Rotate").getIntValue(), 90);
     EXPECT_EQ(page.getKey("/MediaBox").getArrayItem(3).getIntValue(), 400);
   });
+}
+
+TEST(ChosenPages, AreFoundInATreeOfManyNodes) {
+  const std::string page = "<< /Type /Page /Parent 3 0 R /MediaBox [0 0 ";
+  const std::string pdf =
+      pdfOf({"<< /Type /Catalog /Pages 2 0 R >>",
+             "<< /Type /Pages /Kids [3 0 R 6 0 R 7 0 R 6 0 R] /Count 5 /Rotate 90 >>",
+             "<< /Type /Pages /Parent 2 0 R /Kids [4 0 R 5 0 R] /Count 2 /Rotate 180 >>",
+             page + "10 10] >>", page + "20 20] /Rotate 270 >>", page + "30 30] >>",
+             "<< /Type /Pages /Parent 2 0 R /Kids [<< /Type /Page /MediaBox [0 0 40 40] >>] "
+             "/Count 1 >>"});
+  std::vector<std::pair<long long, long long>> sizesAndTurns;
+  withPdf(chosen(pdf, "1-9"), [&](QPDF &document) {
+    for (QPDFObjectHandle found : document.getAllPages())
+      sizesAndTurns.emplace_back(found.getKey("/MediaBox").getArrayItem(2).getIntValue(),
+                                 found.getKey("/Rotate").getIntValue());
+  });
+  EXPECT_EQ(sizesAndTurns, (std::vector<std::pair<long long, long long>>{
+                               {10, 180}, {20, 270}, {30, 90}, {40, 90}, {30, 90}}));
+}
+
+TEST(ChosenPages, AreCountedFromTheRootOfTheTree) {
+  const std::string page = "<< /Type /Page /MediaBox [0 0 10 10] /Parent ";
+  for (const std::string named : {"2", "4", "5"}) {
+    const std::string pdf =
+        pdfOf({"<< /Type /Catalog /Pages " + named + " 0 R >>",
+               "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>", page + "2 0 R /Rotate 90 >>",
+               "<< /Type /Pages /Parent 2 0 R /Kids [5 0 R] /Count 1 >>", page + "4 0 R >>"});
+    withPdf(chosen(pdf, "1"), [&](QPDF &document) {
+      QPDFObjectHandle first = document.getAllPages().at(0);
+      EXPECT_TRUE(first.hasKey("/Rotate")) << named;
+    });
+  }
+}
+
+TEST(ChosenPages, RefuseALoopInThePageTree) {
+  EXPECT_THROW(chosen(pdfOf({"<< /Type /Catalog /Pages 2 0 R >>",
+                             "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+                             "<< /Type /Pages /Kids [2 0 R] /Count 1 >>"}),
+                      "1"),
+               PdfTrouble);
 }
 
 TEST(ChosenPages, KeepTheLayersAndFormsOfTheDocument) {

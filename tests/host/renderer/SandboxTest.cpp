@@ -26,7 +26,7 @@ using namespace imageposition::test;
 constexpr int kKilled = -1;
 constexpr int kLasts = 100; ///< The process goes on, and nothing failed.
 
-/// In a process of its own that is in the sandbox. Returns `kKilled`, or what `attempt` returns:
+/// In a separate process in the sandbox. Returns `kKilled`, or what `attempt` returns:
 /// an `errno` value or `kLasts`.
 int resultOf(const std::function<int()> &attempt, const std::vector<std::string> &folders = {},
              int output = STDOUT_FILENO) {

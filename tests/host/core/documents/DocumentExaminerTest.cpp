@@ -1,5 +1,6 @@
 #include "DocumentExaminer.hpp"
 
+#include "DrawnPdf.hpp"
 #include "PdfFile.hpp"
 #include "TemporaryFolder.hpp"
 #include "Waiting.hpp"
@@ -117,6 +118,13 @@ TEST_F(Examiner, KnowsNothingOfWhatIsNoUsablePdf) {
   };
   for (const auto &row : rows)
     EXPECT_FALSE(examineContent(row.content)) << row.what;
+}
+
+TEST_F(Examiner, KnowsThatADocumentRequiresAPassword) {
+  EXPECT_FALSE(examineContent(pdfWithPassword()));
+  EXPECT_TRUE(examiner_.needsPassword());
+  EXPECT_TRUE(examineContent(pdfWithPages({kA4})));
+  EXPECT_FALSE(examiner_.needsPassword());
 }
 
 TEST_F(Examiner, DoesNotWaitForAPipe) {

@@ -116,6 +116,23 @@ TEST_F(JobsSheets, TurnToEverySheet) {
   EXPECT_TRUE(waitForPages(0, 1));
 }
 
+TEST_F(JobsSheets, AreThereAlthoughAKeyIsHeldAtTheLastSheet) {
+  show(pdfWithNumberedPages(5), 5);
+  EXPECT_TRUE(becomesTrue([&] {
+    images_->turnTo(images_->sheet() + 1);
+    take();
+    return pages() == std::pair(4, -1);
+  }));
+}
+
+TEST_F(JobsSheets, AreAllSmallerWhereAnotherPageIsLargerThanThePaper) {
+  std::vector<PageToDraw> pages(3);
+  pages[2].box = "0 0 842 1190";
+  show(pdfDrawing(pages), 0); // laid out from the whole document
+  ASSERT_TRUE(waitFor(State::Shown));
+  EXPECT_GT(pageOn(images_->front()), 0) << "further right";
+}
+
 TEST_F(JobsSheets, HaveTheNeighboursReady) {
   show(pdfWithNumberedPages(20), 20, 0.5);
   ASSERT_TRUE(waitFor(State::Shown));
@@ -250,6 +267,20 @@ TEST_F(JobsSheets, OfADamagedDocumentFail) {
     show(content, 0);
     EXPECT_TRUE(waitFor(State::Failed));
     EXPECT_EQ(images_->front(), nullptr);
+  }
+}
+
+TEST_F(JobsSheets, SayWhyThereAreNone) {
+  const struct {
+    std::string content;
+    MoveProblem problem;
+  } rows[] = {{"%PDF-1.7\nnothing of the kind\n", MoveProblem::Damaged},
+              {pdfWithPassword(), MoveProblem::Encrypted},
+              {std::string("\0\1\2", 3), MoveProblem::NoConversion}};
+  for (const auto &row : rows) {
+    show(row.content, 0);
+    EXPECT_TRUE(waitFor(State::Failed));
+    EXPECT_EQ(images_->problem(), row.problem) << row.content;
   }
 }
 

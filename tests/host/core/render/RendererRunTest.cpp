@@ -32,7 +32,7 @@ protected:
   RenderProblem problemWith(const std::string &script) {
     try {
       render(script);
-      ADD_FAILURE() << "believed: " << script;
+      ADD_FAILURE() << "trusted: " << script;
     } catch (const RenderFailure &failure) {
       return failure.problem();
     }
