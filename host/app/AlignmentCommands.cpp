@@ -57,7 +57,7 @@ ExitCode takeReadings(const Aligner &aligner, const std::vector<SheetReading> &r
                       const std::optional<Offset> &crease) {
   const auto printed = Alignments::read(std::cerr).printed(aligner.key());
   const AlignmentResult result = aligner.result(readings, crease, printed);
-  if (result.measurement.doubtful != 0) // what was measured before stays
+  if (result.measurement.doubtful != 0) // the measurement before it stays
     throw Failure(ExitCode::Value, messages::readAgain(result.measurement.doubtful));
   for (const std::string &sentence : result.sentences())
     std::cout << sentence << '\n';

@@ -1,4 +1,4 @@
-/// Measuring from the command line, and the file of what was measured.
+/// Measuring from the command line, and the file of measurements.
 #ifndef IMAGEPOSITION_APP_ALIGNMENTCOMMANDS_HPP
 #define IMAGEPOSITION_APP_ALIGNMENTCOMMANDS_HPP
 

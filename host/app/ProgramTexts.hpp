@@ -13,7 +13,7 @@ std::string documentUnreadable(const std::string &path, const std::string &reaso
 /// `GNUSTEP_CONFIG_FILE` is ignored because another user could modify `part`.
 std::string configurationUntrusted(const std::string &part);
 
-// About alignment sheets, and what was measured.
+// About alignment sheets and measurements.
 std::string badReading(const std::string &reading);
 std::string badCrease(const std::string &crease);
 extern const Text kCreaseNeedsReading;

@@ -36,7 +36,7 @@ void checkDocument(const std::string &path) {
                   messages::documentUnreadable(path, systemReason(isFolder ? EISDIR : errno)));
 }
 
-/// A window opens all the same, and says what is the matter with the document.
+/// The window opens nevertheless, and says what is wrong with the document.
 bool isWindowWanted(const Arguments &arguments) {
   const char *const display = std::getenv("DISPLAY");
   return !arguments.isBatch && !arguments.isListingOptions && display != nullptr &&

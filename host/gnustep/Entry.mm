@@ -7,6 +7,7 @@
 #import "DialogWindow.h"
 #include "EntryTexts.hpp"
 #include "FailureReport.hpp"
+#include "GivenSettings.hpp"
 #include "JobSubmission.hpp"
 #import "OpenPrinter.h"
 #include "OptionConflicts.hpp"
@@ -47,7 +48,7 @@ ExitCode runInBatch(const Arguments &arguments) {
     return ExitCode::Plugin;
   if (session.panels().panels().empty() && arguments.batch.needsPanel())
     throw Failure(ExitCode::NoPanel, messages::noPanel(job.printer().name(), session.plugins()));
-  job.requireNumbers(session.panels().optionKeys());
+  requireNumbers(arguments, job.printer().ppd(), session.panels().optionKeys());
   for (const std::string &sentence :
        unknownValues(job.printer(), job.settings(), session.panels().optionKeys()))
     std::cerr << messages::kProgram << sentence << '\n';

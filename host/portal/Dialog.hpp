@@ -24,10 +24,11 @@ public:
     NotNeeded ///< It prints, also if this process ends.
   };
 
-  /// `words` are those after the program's name. Gives the process a duplicate of `document` as
-  /// standard input; -1 for none. Throws a `std::runtime_error` if it cannot be started.
+  /// `words` are the arguments, without the program's name. Gives the process a duplicate of
+  /// `document` as standard input; -1 for none. Throws a `std::runtime_error` if it cannot be
+  /// started.
   Dialog(const std::vector<std::string> &words, int document, Service service, Ended ended);
-  /// A process that runs is left to itself, and `ended` is not called.
+  /// Does not stop a running process; `ended` is then not called.
   ~Dialog();
   Dialog(const Dialog &) = delete;
   Dialog &operator=(const Dialog &) = delete;

@@ -1,4 +1,4 @@
-/// Owners of GLib's objects.
+/// Smart pointers to GLib objects.
 #ifndef IMAGEPOSITION_PORTAL_GLIBHANDLES_HPP
 #define IMAGEPOSITION_PORTAL_GLIBHANDLES_HPP
 

@@ -81,7 +81,7 @@ const PortalSettings kNeutral = {
     {"number-up", "1"}, {"print-pages", "all"}, {"output-file-format", "pdf"},
 };
 
-/// Where GTK would write a file of its own.
+/// Where GTK itself would write a file.
 constexpr const char *kOutputSettings[] = {"output-uri", "output-dir", "output-basename",
                                            "page-ranges"};
 

@@ -18,7 +18,7 @@ struct PortalPage {
   std::string name;        ///< "iso_a4".
   std::string ppdName;     ///< "A4".
   std::string displayName; ///< For users.
-  double width = 0;        ///< 0 if it is not known; so below.
+  double width = 0;        ///< 0 if unknown, as are those below.
   double height = 0;
   double top = 0; ///< The margins.
   double bottom = 0;
@@ -32,8 +32,8 @@ struct PortalJob {
   PortalPage page;
 };
 
-/// The words of print-dialog's command line that propose these settings. What is as usual, and what
-/// no control of the dialog shows, is left out.
+/// The arguments of print-dialog that propose these settings, without defaults and settings that no
+/// control shows.
 std::vector<std::string> wordsFor(const PortalJob &job);
 
 /// What an application gets in return for `asked`. It lays its document out for the paper and the

@@ -16,13 +16,13 @@ public:
   static constexpr const char *kName = "org.freedesktop.impl.portal.desktop.print_dialog";
 
   /// Stores prepared jobs in `folder`, which only the user can access. Calls `changed` when a
-  /// request has come or gone. Throws a `std::runtime_error`.
+  /// request starts or ends. Throws a `std::runtime_error`.
   PortalService(GDBusConnection *connection, std::string folder, std::function<void()> changed);
   ~PortalService();
   PortalService(const PortalService &) = delete;
   PortalService &operator=(const PortalService &) = delete;
 
-  /// Whether there are neither requests nor jobs that an application may still send.
+  /// Whether there are no requests, and no jobs that an application may still send.
   bool isIdle();
 
 private:

@@ -1,4 +1,4 @@
-/// What an application asks for, while a dialog works on it.
+/// A pending print request of an application.
 #ifndef IMAGEPOSITION_PORTAL_PRINTREQUEST_HPP
 #define IMAGEPOSITION_PORTAL_PRINTREQUEST_HPP
 
@@ -17,7 +17,7 @@ namespace imageposition {
 /// The portal's response codes.
 enum class Response : std::uint32_t { Done = 0, Cancelled = 1, Failed = 2 };
 
-/// Whom a request tells what came of it.
+/// Callbacks that report a request's outcome.
 struct RequestOwner {
   /// Called at most once. `results` is floating, of type a{sv}, or null for none.
   std::function<void(Response response, GVariant *results)> respond;
@@ -25,7 +25,7 @@ struct RequestOwner {
   std::function<void()> end;
 };
 
-/// Who asks.
+/// The requesting application.
 struct Caller {
   std::string application; ///< The portal's identifier; empty for a program without a sandbox.
   std::string parent;      ///< The portal's name of its window; may be anything.
@@ -43,18 +43,18 @@ public:
 
   /// Starts the dialog. Throws a `std::runtime_error`.
   virtual void start() = 0;
-  /// The application waits no longer: closes the dialog, and ends the request.
+  /// The application no longer waits: closes the dialog, and ends the request.
   virtual void close();
 
 protected:
   const Caller &caller() const noexcept { return caller_; }
-  /// The caller's title and, if `isWindowed`, its window, as words for the dialog.
+  /// The caller's title and, if `isWindowed`, its window, as arguments for the dialog.
   std::vector<std::string> callersWords(bool isWindowed) const;
   void run(const std::vector<std::string> &words, int document, Dialog::Service service,
            Dialog::Ended ended);
   /// Does nothing after the first call.
   void respond(Response response, GVariant *results = nullptr);
-  /// Responds, and ends the request: the object is gone afterwards.
+  /// Responds, and ends the request: the object is destroyed.
   void end(Response response, GVariant *results = nullptr);
 
 private:
@@ -85,7 +85,7 @@ private:
 /// Prints a document: at once if the user has set up the job, otherwise from the dialog.
 class DocumentRequest final : public PrintRequest {
 public:
-  /// `job` is null if the user has set up none.
+  /// `job` is null if the user has not set one up.
   DocumentRequest(Caller caller, Descriptor document, std::unique_ptr<PreparedFile> job,
                   RequestOwner owner)
       : PrintRequest(std::move(caller), std::move(owner)), document_(std::move(document)),
@@ -106,7 +106,7 @@ private:
   std::unique_ptr<PreparedFile> job_;
 };
 
-/// Why the descriptor is no document that can be printed; empty if it is one.
+/// Why the descriptor cannot be printed; empty if it can.
 std::string documentProblem(const Descriptor &document);
 
 } // namespace imageposition

@@ -91,7 +91,7 @@ private:
     return false;
   }
 
-  /// Gives the names of the files to whoever asks for them.
+  /// Gives the names of the files to programs that ask for them.
   void give(const XSelectionRequestEvent &request) {
     const Atom list = atom("text/uri-list"), targets = atom("TARGETS");
     const auto text = reinterpret_cast<const unsigned char *>(uris_.data());

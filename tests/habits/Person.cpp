@@ -23,6 +23,17 @@ namespace imageposition::test {
 
 namespace {
 
+/// In the lines of lpstat, which begin with "queue-12"; 0 if there is none.
+int lastJob(const std::string &jobs) {
+  int last = 0;
+  std::istringstream lines(jobs);
+  for (std::string line; std::getline(lines, line);) {
+    const std::string name = line.substr(0, line.find(' '));
+    last = std::max(last, std::atoi(name.substr(name.rfind('-') + 1).c_str()));
+  }
+  return last;
+}
+
 constexpr int kClick = 80;   // milliseconds, of an ordinary click
 constexpr int kGlance = 100; // milliseconds
 
@@ -294,13 +305,13 @@ void Person::seeJobs(int count, const std::string &which) {
 void Person::seeReceived(const std::string &name, const std::string &value) {
   http_t *const http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
                                     1, 30000, nullptr);
-  cups_job_t *jobs = nullptr;
-  const int count = cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
   const std::string uri =
-      "ipp://localhost/jobs/" + std::to_string(count > 0 ? jobs[count - 1].id : 0);
-  cupsFreeJobs(count, jobs);
+      "ipp://localhost/jobs/" + std::to_string(lastJob(run({"lpstat", "-W", "all", "-o"})));
   ipp_t *const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+  // Only its owner sees a document's name.
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
   ipp_t *const response = cupsDoRequest(http, request, "/jobs");
   char received[1024] = "";
   if (ipp_attribute_t *const attribute = ippFindAttribute(response, name.c_str(), IPP_TAG_ZERO))

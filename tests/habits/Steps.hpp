@@ -9,7 +9,7 @@
 
 namespace imageposition::test {
 
-/// What the user wanted did not happen, or a step is no sentence of the language.
+/// What the user wanted did not happen, or a step is not a sentence of the language.
 class StepFailure : public std::runtime_error {
 public:
   using std::runtime_error::runtime_error;

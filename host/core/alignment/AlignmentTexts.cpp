@@ -6,16 +6,16 @@
 namespace imageposition::messages {
 
 std::string alignmentsUnreadable(const std::string &path, const std::string &reason) {
-  return text("Cannot read what was measured, in \"{1}\": {2}. Jobs start without it.")
+  return text("Cannot read the measurements in \"{1}\": {2}. Jobs start without them.")
       .with(path, reason);
 }
 std::string alignmentsUnwritable(const std::string &path, const std::string &reason) {
-  return text("Cannot keep what was measured, in \"{1}\": {2}.").with(path, reason);
+  return text("Cannot save the measurements in \"{1}\": {2}.").with(path, reason);
 }
 // Translators: a reason, after a colon.
-const Text kNotAlignments = text("print-dialog has not written this file");
+const Text kNotAlignments = text("print-dialog did not write this file");
 const Text kNoHomeForAlignments =
-    text("Cannot keep what was measured: HOME is not set. Set it to your home folder.");
+    text("Cannot save the measurements: HOME is not set. Set it to your home folder.");
 
 std::string turningInWords(Turning turning) {
   // Translators: how the printer turns a sheet between its two sides.

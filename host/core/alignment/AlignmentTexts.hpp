@@ -10,7 +10,7 @@
 
 namespace imageposition::messages {
 
-// The file of what was measured.
+// The file of measurements.
 std::string alignmentsUnreadable(const std::string &path, const std::string &reason);
 std::string alignmentsUnwritable(const std::string &path, const std::string &reason);
 extern const Text kNotAlignments; ///< A reason.
@@ -22,7 +22,7 @@ std::string turningInWords(Turning turning);
 std::string offsetInWords(const Offset &offset);
 /// "front: right 0 mm, down 0 mm; back: right 0.5 mm, down -1 mm"
 std::string offsetsInWords(const SideOffsets &offsets);
-/// A line of the list of what was measured, after the queue's name.
+/// A line of the list of measurements, after the queue's name.
 std::string alignment(const std::string &key, const std::string &offsets, const std::string &date);
 /// Where a job's offsets come from. `key` is as `keyInWords` returns it.
 std::string measuredOn(const std::string &date, const std::string &key, bool isOfOtherTurning);

@@ -1,4 +1,4 @@
-/// Keeps what was measured.
+/// Stores measurements.
 #ifndef IMAGEPOSITION_CORE_ALIGNMENT_ALIGNMENTS_HPP
 #define IMAGEPOSITION_CORE_ALIGNMENT_ALIGNMENTS_HPP
 
@@ -35,10 +35,10 @@ struct MeasuredAlignment {
 struct FoundAlignment {
   SideOffsets offsets;
   std::string date;
-  bool isOfOtherTurning = false; ///< Was measured with the long edge, and serves the short edge.
+  bool isOfOtherTurning = false; ///< Measured with the long edge, and used for the short edge.
 };
 
-/// What the user has measured, in $XDG_CONFIG_HOME/print-dialog/alignments.json:
+/// The user's measurements, in $XDG_CONFIG_HOME/print-dialog/alignments.json:
 ///
 ///     { "alignments": [ { "queue": "...", "turning": "long-edge", "tray": "...", "paper": "...",
 ///                         "front": [right, down], "back": [right, down], "spread": [0, 1],
@@ -54,10 +54,10 @@ public:
 
   /// In the order in which they were stored first.
   const std::vector<MeasuredAlignment> &all() const noexcept { return all_; }
-  /// What was measured with this turning, or else with the long edge; none otherwise.
+  /// The measurement with this turning, or else with the long edge; none otherwise.
   std::optional<FoundAlignment> find(const AlignmentKey &key) const;
 
-  /// Replaces what was measured before with the same key.
+  /// Replaces an earlier measurement with the same key.
   void store(const MeasuredAlignment &alignment);
   /// Returns how many there were of this queue. Removes its printed sheets, too.
   std::size_t removeQueue(const std::string &queue);

@@ -1,5 +1,6 @@
 #include "Measurement.hpp"
 
+#include "CustomValue.hpp"
 #include "LengthUnit.hpp"
 #include "NumberText.hpp"
 #include "SharedKeys.h"
@@ -189,12 +190,11 @@ Measurement measure(const SheetLayout &layout, const std::vector<SheetReading> &
 }
 
 SideOffsets sideOffsetsIn(const PrintSettingsStore &settings) {
-  constexpr std::string_view kCustom = "Custom."; // lpoptions and presets write it
   PrintSettingsStore plain = settings;
   for (int i = 0; i < settings.optionCount(); i++) {
     const cups_option_t &option = settings.options()[i];
-    if (std::string_view(option.value).substr(0, kCustom.size()) == kCustom)
-      plain.set(option.name, option.value + kCustom.size());
+    if (hasCustomPrefix(option.value)) // lpoptions and presets write it
+      plain.set(option.name, withoutCustomPrefix(option.value));
   }
   const PreviewRequest job = readPreviewRequest(plain, nullptr);
   return {job.front, job.back};

@@ -44,8 +44,8 @@ struct Measurement {
   double stretch = 0; ///< By which the back is larger, in percent.
   double left = 0;    ///< What offsets leave at the worst corner of the sheet.
   int sheets = 0;
-  /// The number of a sheet that was probably misread, counted from 1: it is more than 2 mm off what
-  /// the others read. 0 for none, and for fewer than three sheets.
+  /// The number of a sheet that was probably misread, counted from 1: it differs from the
+  /// others by more than 2 mm. 0 for none, and for fewer than three sheets.
   int doubtful = 0;
 
   /// Whether the corners disagree by more than what a reader can misread.

@@ -22,7 +22,7 @@ public:
 
   /// What keeps a row from being used.
   struct Problem {
-    Place place; ///< Where to mend it.
+    Place place; ///< Where to correct it.
     std::string text;
   };
 
@@ -33,19 +33,19 @@ public:
   std::size_t columns(std::size_t row) const noexcept { return entries_[row].size(); }
   std::size_t creaseRow() const noexcept { return sheets_; }
 
-  /// Takes what is in the field, also in the middle of typing.
+  /// Takes the field's content, even while the user is typing.
   void enter(Place place, const std::string &text);
-  /// Adds tenths of a millimetre to the number, within the scale. An empty entry counts as 0, one
-  /// that is wrong as the last number.
+  /// Adds tenths of a millimetre to the number, within the scale. An empty entry counts as 0, an
+  /// invalid one as the last number.
   void step(Place place, int tenths);
-  /// The entry, with at most one decimal; what was typed if that is no number of the scale.
+  /// The entry, with at most one decimal; the text as typed if it is not a number on the scale.
   std::string text(Place place) const;
-  /// The entry; while it is empty, 0, and while it is wrong, the last number.
+  /// The entry; 0 while it is empty, and the last number while it is invalid.
   TenthMillimetre shown(Place place) const noexcept;
   /// What the scale looks like with `shown`.
   ScalePicture picture(Place place) const;
 
-  /// Why the entry is not a number of the scale; empty if it is, or if there is none.
+  /// Why the entry is not a number on the scale; empty if it is, or if there is none.
   std::string mistake(Place place) const;
   /// The first mistake, missing number, or lack of any reading.
   std::optional<Problem> problem() const;

@@ -63,10 +63,10 @@ bool namesDarkTheme(const std::string &theme) {
   return endsWith(name, ":dark") || endsWith(name, "-dark");
 }
 
-bool isTrue(const std::string &text) { return text == "1" || text == "true"; }
+bool isOn(const std::string &text) { return text == "1" || text == "true"; }
 
 bool gtkPrefersDark(const std::string &settings) {
-  return isTrue(settingOf(settings, "gtk-application-prefer-dark-theme")) ||
+  return isOn(settingOf(settings, "gtk-application-prefer-dark-theme")) ||
          namesDarkTheme(settingOf(settings, "gtk-theme-name"));
 }
 

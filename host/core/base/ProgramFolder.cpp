@@ -29,4 +29,9 @@ std::string trustedPart(const std::vector<std::string> &paths) {
   return {};
 }
 
+std::string installedProgram(const std::string &name) {
+  return trustedPart(
+      {besideProgram(name), besideProgram(IMAGEPOSITION_MODULES_FROM_PROGRAM "/" + name)});
+}
+
 } // namespace imageposition

@@ -19,6 +19,10 @@ bool isTrustedPart(const std::string &path);
 /// The first of the paths that exists and is a trusted part; empty if there is none.
 std::string trustedPart(const std::vector<std::string> &paths);
 
+/// The path of another program of print-dialog: beside the running one, as in a build folder, or
+/// where it is installed. Empty if it is in neither place, or is not a trusted part.
+std::string installedProgram(const std::string &name);
+
 } // namespace imageposition
 
 #endif

@@ -44,6 +44,10 @@ bool contains(const std::vector<std::string> &names, std::string_view name) noex
                      [=](const std::string &other) { return isSame(other, name); });
 }
 
+bool isTrue(std::string_view value) noexcept {
+  return isSame(value, "true") || isSame(value, "yes") || isSame(value, "on");
+}
+
 bool IgnoringCase::operator()(std::string_view left, std::string_view right) const noexcept {
   const int order = strncasecmp(left.data(), right.data(), std::min(left.size(), right.size()));
   return order != 0 ? order < 0 : left.size() < right.size();

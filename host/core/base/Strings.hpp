@@ -21,6 +21,8 @@ std::string shellWord(const std::string &string);
 bool isSame(std::string_view left, std::string_view right) noexcept;
 /// Whether one of the names is the same as `name`.
 bool contains(const std::vector<std::string> &names, std::string_view name) noexcept;
+/// Whether the value of a setting switches it on, as CUPS's filters read it: "true", "yes", "on".
+bool isTrue(std::string_view value) noexcept;
 /// Alphabetical order, for sorted containers.
 struct IgnoringCase {
   bool operator()(std::string_view left, std::string_view right) const noexcept;

@@ -10,7 +10,7 @@
 
 namespace imageposition {
 
-/// What to do with the file of what was measured; instead of printing.
+/// What to do with the file of measurements, instead of printing.
 struct AlignmentFile {
   bool isListed = false;
   std::string exported; ///< The file to write.
@@ -50,8 +50,8 @@ struct Arguments {
   bool isListingOptions = false; ///< List the printer's options instead of printing.
   bool isDryRun = false;
   bool isUnshifted = false;          ///< Print without moving the image.
-  bool isUnaligned = false;          ///< Leave out what was measured.
-  bool isAligning = false;           ///< Print alignment sheets, or take what they read.
+  bool isUnaligned = false;          ///< Ignore the measured offsets.
+  bool isAligning = false;           ///< Print alignment sheets, or use their readings.
   std::vector<std::string> readings; ///< Of alignment sheets, one each.
   std::string crease;                ///< The reading of an alignment sheet's rulers.
   std::string sheetFile;             ///< Write the alignment sheets to this file.

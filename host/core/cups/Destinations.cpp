@@ -34,7 +34,7 @@ constexpr const char *kPausedReason = "paused";
 
 /// The keywords of RFC 8011, section 5.4.12, and those that CUPS adds.
 constexpr ReasonWords kReasonWords[] = {
-    // Translators: what is the matter with a printer; in brackets after its state, "Stopped".
+    // Translators: what is wrong with a printer; in brackets after its state, "Stopped".
     {kPausedReason, text("paused")},
     {"moving-to-paused", text("pausing")},
     {"media-empty", text("out of paper")},

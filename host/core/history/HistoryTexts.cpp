@@ -11,6 +11,6 @@ std::string historyUnwritable(const std::string &path, const std::string &reason
   return text("Cannot remember the settings in \"{1}\": {2}.").with(path, reason);
 }
 // Translators: a reason, after a colon.
-const Text kNotAHistory = text("print-dialog has not written this file");
+const Text kNotAHistory = text("print-dialog did not write this file");
 
 } // namespace imageposition::messages

@@ -9,12 +9,15 @@
 #include "VisibleText.hpp"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <utility>
 
 namespace imageposition {
 
 namespace {
+
+constexpr int kMostPerSide = 16; // of cups-filters
 
 constexpr const char *kCovers = "job-sheets";
 // Keywords of options that are two parts of one setting.
@@ -112,6 +115,14 @@ std::string JobSettings::usual(const JobSetting &setting) const {
 std::string JobSettings::effective(const char *name) const {
   const JobSetting &setting = *findSetting(name);
   return valueIn(job_, setting).value_or(usual(setting));
+}
+
+int JobSettings::pagesPerSide() const {
+  const std::string number = effective("number-up");
+  int pages = 0;
+  std::from_chars(number.data(), number.data() + number.size(), pages);
+  const bool isKnown = effective("booklet") != "true" && pages > 0 && pages <= kMostPerSide;
+  return isKnown ? pages : 0;
 }
 
 PrinterOption JobSettings::option(const JobSetting &setting) const {

@@ -45,6 +45,8 @@ public:
   /// What entering a custom value begins with.
   std::string firstValue(const std::string &keyword) const;
 
+  /// How many pages are printed on a side; 0 if that is not known, as in a booklet.
+  int pagesPerSide() const;
   /// How many settings differ from their defaults.
   std::size_t differing() const;
   /// The settings that are not as usual.

@@ -112,9 +112,8 @@ std::string unknownValue(const std::string &name, const std::string &value,
     return text("\"{2}\" is not a value of \"{1}\". The printer may refuse or ignore it.")
         .with(name, value);
   // Translators: {3} is a list of values.
-  return text("\"{2}\" is not a value of \"{1}\". The printer may refuse or ignore it. There are, "
-              "for example: "
-              "{3}.")
+  return text("\"{2}\" is not a value of \"{1}\". The printer may refuse or ignore it. Valid "
+              "values include: {3}.")
       .with(name, value, inOrder(known));
 }
 std::string refusedValue(const std::string &name, const std::string &value,

@@ -13,7 +13,6 @@ using Group = JobSetting::Group;
 using messages::kAsBooklet;
 using messages::kNoBooklet;
 
-bool isTrue(const std::string &value) { return contains({"true", "yes", "on"}, value); }
 bool isFalse(const std::string &value) { return contains({"false", "no", "off"}, value); }
 
 /// The setting's value in the form of its choices.

@@ -8,10 +8,8 @@
 
 #include <array>
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <poll.h>
-#include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -21,11 +19,8 @@ namespace imageposition {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr int kBetweenLooks = 50;                  // milliseconds
 constexpr std::chrono::milliseconds kEndTime{120}; // for the mover to clean up
-constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_MOVER;
 
 bool isProgram(const std::string &path) { return access(path.c_str(), X_OK) == 0; }
 
@@ -34,7 +29,7 @@ std::string variable(const char *name) {
   return value != nullptr ? value : "";
 }
 
-/// The user's language; everything else in the environment is none of the filters' business.
+/// The user's language; the filters need nothing else from the environment.
 std::vector<std::string> environmentIn(const std::string &folder) {
   std::vector<std::string> environment{"TMPDIR=" + folder, "PATH=/usr/bin:/usr/sbin:/bin:/sbin"};
   for (const char *const name : {"LC_ALL", "LC_MESSAGES", "LANG"})
@@ -75,12 +70,7 @@ public:
   /// The mover ends itself, and all that it has started, when the pipe is closed.
   ~Run() {
     lifeline_.writer = Descriptor(-1);
-    const auto end = Clock::now() + kEndTime;
-    while (waitpid(process_, nullptr, WNOHANG) == 0) {
-      if (Clock::now() >= end)
-        kill(process_, SIGKILL);
-      poll(nullptr, 0, 1);
-    }
+    waitForProgram(process_, kEndTime);
     deletePlace(place_); // in case it was killed
   }
   Run(const Run &) = delete;
@@ -151,8 +141,7 @@ std::string verdictFile() {
 std::optional<MovedDocument> moveDocument(const MoverTask &task, const Descriptor &document,
                                           const std::string &name, const std::string &description,
                                           const MoveProgress &progress) try {
-  const std::string program =
-      trustedPart({besideProgram(IMAGEPOSITION_MOVER), besideProgram(kInstalled)});
+  const std::string program = installedProgram(IMAGEPOSITION_MOVER);
   if (program.empty())
     throw ShiftFailure(MoveProblem::Fault, messages::moverMissing(IMAGEPOSITION_MOVER));
   const Descriptor printer = temporaryFile(description);

@@ -71,14 +71,11 @@ const std::vector<std::string> kOffsets{IPA_KEY_FRONT_LEFT_RIGHT, IPA_KEY_FRONT_
                                         IPA_KEY_BACK_LEFT_RIGHT, IPA_KEY_BACK_TOP_BOTTOM,
                                         IPA_KEY_ENABLE};
 
-bool isTrue(const char *value) {
-  return value != nullptr && (isSame(value, "true") || isSame(value, "yes") || isSame(value, "on"));
-}
-
 /// Printers that are told in their job language to print a booklet turn it about the short edge.
 void turnBooklet(PrintSettingsStore &options, const char *booklet, ppd_file_t *ppd) {
   const ppd_option_t *const duplex = ppdFindOption(ppd, "Duplex");
-  if (isTrue(booklet) && duplex != nullptr && duplex->section == PPD_ORDER_JCL)
+  if (booklet != nullptr && isTrue(booklet) && duplex != nullptr &&
+      duplex->section == PPD_ORDER_JCL)
     options.set("Duplex", "DuplexTumble");
 }
 

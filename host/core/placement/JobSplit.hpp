@@ -13,7 +13,7 @@
 
 namespace imageposition {
 
-/// The option that tells other programs, and whoever reads the job's attributes, what was applied.
+/// The option that tells other programs, and readers of the job's attributes, what was applied.
 constexpr const char *kShiftNote = "print-dialog-image-shift";
 
 /// A job whose documents are laid out and moved before they are sent.

@@ -1,4 +1,4 @@
-/// What the dialog and the program that lays out and moves a document tell each other.
+/// The protocol between the dialog and the mover.
 #ifndef IMAGEPOSITION_CORE_PLACEMENT_MOVERTASK_HPP
 #define IMAGEPOSITION_CORE_PLACEMENT_MOVERTASK_HPP
 
@@ -33,7 +33,7 @@ enum MoverDescriptor { kMoverDocument = 3, kMoverDescription = 4, kMoverResult =
 
 /// The arguments of the mover, without its name.
 std::vector<std::string> wordsOf(const MoverTask &task);
-/// None if `wordsOf` does not return such words.
+/// None if `wordsOf` never returns such words.
 std::optional<MoverTask> readTask(const std::vector<std::string> &words);
 
 enum class MoveProblem {
@@ -41,7 +41,7 @@ enum class MoveProblem {
   Layout,       ///< The filters have failed.
   Encrypted,    ///< The document requires a password.
   Forbidden,    ///< Its owner does not allow printing.
-  Damaged,      ///< It is not what its beginning says, or has no pages.
+  Damaged,      ///< Not of the type that its first bytes indicate, or without pages.
   OtherLayout,  ///< The filters of this computer do not lay pages out as expected.
   MovedBefore,
   NoRoom, ///< The disk is full, or the result too large.
@@ -58,7 +58,7 @@ struct MoverReport {
 
 /// With a newline; control characters in the detail become blanks.
 std::string lineOf(const MoverReport &report);
-/// `line` has no newline. None if it is no report.
+/// `line` has no newline. None if the line is not a report.
 std::optional<MoverReport> readReport(std::string_view line);
 
 } // namespace imageposition

@@ -33,7 +33,7 @@ std::string notMoved(const std::string &document, MoveProblem problem, const std
                       document, detail);
   case MoveProblem::OtherLayout:
     return text("The image of \"{1}\" cannot be moved reliably: the version of cups-filters on "
-                "this computer lays pages out in another way than expected.")
+                "this computer lays pages out differently than expected.")
         .with(document);
   case MoveProblem::MovedBefore:
     return text("The image of \"{1}\" was moved before. Print the original document, or set all "
@@ -63,7 +63,7 @@ const Text kNoFileWritten = text("No file was written.");
 const Text kPrintUnmoved = text("To print without moving the image, use --no-shift.");
 
 std::string moverMissing(const std::string &program) {
-  return text("The image cannot be moved: the program {1} is missing. Install print-dialog again.")
+  return text("The image cannot be moved: the program {1} is missing. Reinstall print-dialog.")
       .with(program);
 }
 std::string movedHere(const std::string &directions) {

@@ -1,11 +1,9 @@
 #include "ServerLayout.hpp"
 
+#include "CupsHandles.hpp"
 #include "Strings.hpp"
 
-#include <cups/cups.h>
-
 #include <array>
-#include <memory>
 #include <optional>
 
 namespace imageposition {
@@ -18,8 +16,6 @@ constexpr int kPatience = 3000; // milliseconds, to connect
 constexpr double kBetweenCalls = 0.25;
 constexpr int kMostCalls = 12;
 constexpr std::size_t kLargest = std::size_t{4} << 20; // bytes of a PPD
-
-using Connection = std::unique_ptr<http_t, void (*)(http_t *)>;
 
 /// Counts the silence of a server.
 struct Waiting {
@@ -58,11 +54,10 @@ std::optional<ServerQueue> queueAt(const std::string &device) {
 
 /// Empty if there is none. Without a password: CUPS gives descriptions to everyone.
 std::string descriptionOn(const ServerQueue &queue, const std::function<bool()> &keepWaiting) {
-  const Connection http(
+  const HttpConnection http(
       httpConnect2(queue.host.c_str(), queue.port, nullptr, AF_UNSPEC,
                    queue.isEncrypted ? HTTP_ENCRYPTION_ALWAYS : HTTP_ENCRYPTION_IF_REQUESTED, 1,
-                   kPatience, nullptr),
-      httpClose);
+                   kPatience, nullptr));
   if (!http)
     return {};
   Waiting waiting{keepWaiting};

@@ -1,5 +1,6 @@
 #include "ShiftedJob.hpp"
 
+#include "CustomValue.hpp"
 #include "DocumentNames.hpp"
 #include "DocumentStream.hpp"
 #include "ImageShiftText.hpp"
@@ -8,6 +9,7 @@
 #include "Phrases.hpp"
 #include "PlacementTexts.hpp"
 #include "PreviewGeometry.hpp"
+#include "PrinterOptions.hpp"
 #include "ServerLayout.hpp"
 #include "SharedKeys.h"
 #include "Strings.hpp"
@@ -29,20 +31,11 @@ namespace imageposition {
 
 namespace {
 
-/// The options that switch two-sided printing, as cups-filters knows them.
-constexpr const char *kTwoSidedOptions[] = {"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"};
 constexpr const char *kRawFormat = "application/vnd.cups-raw";
 
 const char *attribute(ppd_file_t *ppd, const char *name, const char *specifier = nullptr) {
   const ppd_attr_t *const found = ppdFindAttr(ppd, name, specifier);
   return found != nullptr ? found->value : nullptr;
-}
-
-ppd_option_t *twoSidedOption(ppd_file_t *ppd) {
-  for (const char *const name : kTwoSidedOptions)
-    if (ppd_option_t *const option = ppdFindOption(ppd, name))
-      return option;
-  return nullptr;
 }
 
 bool isOneSided(ppd_file_t *ppd, const ppd_option_t &option) {
@@ -68,11 +61,8 @@ PrintSettingsStore panelSettings(const PrintSettingsStore &options, ppd_file_t *
   PrintSettingsStore settings;
   for (const char *const name : {IPA_KEY_FRONT_LEFT_RIGHT, IPA_KEY_FRONT_TOP_BOTTOM,
                                  IPA_KEY_BACK_LEFT_RIGHT, IPA_KEY_BACK_TOP_BOTTOM}) {
-    constexpr std::string_view kCustom = "Custom.";
-    std::string_view value = options.get(name) != nullptr ? options.get(name) : "0";
-    if (startsWith(value, kCustom))
-      value.remove_prefix(kCustom.size());
-    settings.set(name, value);
+    const char *const value = options.get(name);
+    settings.set(name, value != nullptr ? withoutCustomPrefix(value) : "0");
   }
   if (const char *const flag = options.get(IPA_KEY_ENABLE))
     settings.set(IPA_KEY_ENABLE, flag);

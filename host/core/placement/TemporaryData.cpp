@@ -47,14 +47,8 @@ Descriptor temporaryFile(std::string_view content) {
 }
 
 void append(const Descriptor &file, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t count = write(file.get(), content.data(), content.size());
-    if (count < 0 && errno == EINTR)
-      continue;
-    if (count < 0)
-      failWith(errno);
-    content.remove_prefix(static_cast<std::size_t>(count));
-  }
+  if (!writeAll(file.get(), content))
+    failWith(errno);
 }
 
 std::string pathOf(const Descriptor &file) {

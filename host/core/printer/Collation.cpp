@@ -3,8 +3,6 @@
 #include "PrinterOptions.hpp"
 #include "Strings.hpp"
 
-#include <algorithm>
-
 namespace imageposition {
 
 namespace {
@@ -12,12 +10,6 @@ namespace {
 constexpr const char *kOption = "Collate";
 constexpr const char *kHandling = "multiple-document-handling";
 constexpr const char *kCollatedCopies = "separate-documents-collated-copies";
-
-bool isTrue(const std::string &value) {
-  constexpr const char *kWords[] = {"true", "on", "yes"};
-  return std::any_of(std::begin(kWords), std::end(kWords),
-                     [&](const char *yes) { return isSame(value, yes); });
-}
 
 } // namespace
 

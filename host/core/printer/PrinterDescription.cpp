@@ -16,8 +16,6 @@
 #include <array>
 #include <cerrno>
 #include <ctime>
-#include <cups/file.h>
-#include <memory>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -70,8 +68,7 @@ std::string textOf(const std::string &path) {
   std::string text;
   if (kindOf(path) != S_IFREG)
     return text;
-  const std::unique_ptr<cups_file_t, int (*)(cups_file_t *)> file(cupsFileOpen(path.c_str(), "r"),
-                                                                  cupsFileClose);
+  const CupsFile file(cupsFileOpen(path.c_str(), "r"));
   std::array<char, 65536> part{};
   for (ssize_t count = 0; file && (count = cupsFileRead(file.get(), part.data(), part.size())) > 0;)
     text.append(part.data(), static_cast<std::size_t>(count));

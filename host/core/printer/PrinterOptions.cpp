@@ -179,6 +179,14 @@ bool isPrinterOption(const PrinterDescription &printer, const std::string &name)
          });
 }
 
+ppd_option_t *twoSidedOption(ppd_file_t *ppd) {
+  for (const auto &[name, alias] : kAliases)
+    if (isSame(alias, "sides"))
+      if (ppd_option_t *const option = ppdFindOption(ppd, name))
+        return option;
+  return nullptr;
+}
+
 PrinterOptions::PrinterOptions(PrinterDescription &printer, PrintSettingsStore &job)
     : printer_(printer), job_(job) {}
 
@@ -213,10 +221,8 @@ std::optional<PrinterOption> PrinterOptions::find(const std::string &keyword) {
 }
 
 std::optional<PrinterOption> PrinterOptions::twoSided() {
-  for (const char *keyword : {"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"})
-    if (auto option = find(keyword))
-      return option;
-  return std::nullopt;
+  const ppd_option_t *const option = twoSidedOption(printer_.ppd());
+  return option != nullptr ? find(option->keyword) : std::nullopt;
 }
 
 bool PrinterOptions::choose(const std::string &keyword, const std::string &choice) {

@@ -46,6 +46,10 @@ private:
 /// option's keyword or another name for it, such as "sides" for "Duplex".
 bool isPrinterOption(const PrinterDescription &printer, const std::string &name);
 
+/// The option that turns two-sided printing on, which belongs to `ppd`; null if there is none.
+/// Older descriptions have other names for it than "Duplex".
+ppd_option_t *twoSidedOption(ppd_file_t *ppd);
+
 struct OptionGroup {
   std::string keyword;
   std::string text; ///< Never empty.
@@ -73,8 +77,7 @@ public:
   /// Keywords match without regard to case.
   std::optional<PrinterOption> find(const std::string &keyword);
 
-  /// The option that turns two-sided printing on. Older descriptions have other names for it than
-  /// "Duplex".
+  /// See `twoSidedOption`.
   std::optional<PrinterOption> twoSided();
 
   /// Stores the choice in the job, or removes the job's entry if it is the default, and marks the

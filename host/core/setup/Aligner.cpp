@@ -3,6 +3,7 @@
 #include "AlignerTexts.hpp"
 #include "AlignmentTexts.hpp"
 #include "Availability.hpp"
+#include "ChildProgram.hpp"
 #include "ExitCode.hpp"
 #include "JobSettings.hpp"
 #include "JobSplit.hpp"
@@ -14,12 +15,8 @@
 #include "TemporaryData.hpp"
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
+#include <chrono>
 #include <cmath>
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -27,26 +24,15 @@ namespace imageposition {
 
 namespace {
 
-constexpr const char *kInstalled = IMAGEPOSITION_MODULES_FROM_PROGRAM "/" IMAGEPOSITION_SHEET;
+constexpr std::chrono::seconds kPatience{30}; // when fontconfig makes its cache
 
 /// Runs the program that draws; returns whether it has succeeded.
-bool run(const std::string &program, const Descriptor &input, const Descriptor &output) {
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_adddup2(&actions, input.get(), STDIN_FILENO);
-  posix_spawn_file_actions_adddup2(&actions, output.get(), STDOUT_FILENO);
-  std::string name = program;
-  std::array<char *, 2> words{name.data(), nullptr};
-  pid_t process = -1;
-  const int failed =
-      posix_spawn(&process, program.c_str(), &actions, nullptr, words.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
-  if (failed != 0)
-    return false;
-  int status = -1;
-  while (waitpid(process, &status, 0) < 0 && errno == EINTR)
-    continue;
-  return status == 0;
+bool run(const std::string &program, const Descriptor &input, const Descriptor &output) try {
+  const pid_t process =
+      startProgram({{program}, std::nullopt, {input.get(), output.get(), STDERR_FILENO}});
+  return waitForProgram(process, kPatience);
+} catch (const std::system_error &) {
+  return false;
 }
 
 std::string choiceText(ppd_file_t *ppd, const char *option) {
@@ -151,8 +137,7 @@ SheetTask Aligner::task() const {
 }
 
 Descriptor drawSheets(const SheetTask &task) try {
-  const std::string program =
-      trustedPart({besideProgram(IMAGEPOSITION_SHEET), besideProgram(kInstalled)});
+  const std::string program = installedProgram(IMAGEPOSITION_SHEET);
   if (program.empty())
     throw Failure(ExitCode::Fault, messages::sheetProgramMissing(IMAGEPOSITION_SHEET));
   const Descriptor input = temporaryFile(textOf(task));

@@ -44,8 +44,8 @@ bool storeAlignment(const MeasuredAlignment &alignment, std::ostream &errors);
 /// Measures the printer of a job with the job's paper, tray and turning. Main thread only.
 class Aligner {
 public:
-  /// Several, because no printer takes two sheets alike: their median is better than one of them,
-  /// and their spread tells how good it can get.
+  /// Several, because printers feed no two sheets exactly alike: their median is better than one
+  /// sheet, and their spread shows how accurate the printer can be.
   static constexpr int kSheets = 3;
 
   /// Borrows the job. Throws a `Failure` if there is an obstacle.

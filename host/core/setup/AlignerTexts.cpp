@@ -13,7 +13,9 @@ std::string sheetProgramMissing(const std::string &program) {
 const Text kSheetsNotDrawn = text("The alignment sheets could not be drawn. Install a font, for "
                                   "example the package fonts-dejavu-core, and try again.");
 std::string sheetsNotKept(const std::string &reason) {
-  return text("No temporary file for the alignment sheets: {1}. Set TMPDIR to a folder with space.")
+  return text(
+             "Cannot create a temporary file for the alignment sheets: {1}. Set TMPDIR to a folder "
+             "with enough space.")
       .with(reason);
 }
 
@@ -46,9 +48,9 @@ std::string cornersApart(const std::string &angle, const std::string &stretch, b
       .with(angle, stretch, left);
 }
 std::string readAgain(int sheet) {
-  return text("Sheet {1} is more than 2 mm off what the others read. Check its numbers and signs, "
-              "or "
-              "leave it out.")
+  return text(
+             "Sheet {1} differs from the others by more than 2 mm. Check its numbers and signs, or "
+             "leave it out.")
       .with(std::to_string(sheet));
 }
 std::string outOfRange(const std::string &most) {
@@ -59,16 +61,16 @@ std::string outOfRange(const std::string &most) {
 
 std::string printsSheets(int sheets, const std::string &printer) {
   return counted(sheets, "This prints {1} sheet on both sides, on \"{2}\".",
-                 "This prints {1} sheets on both sides, on \"{2}\". No printer takes two sheets "
-                 "alike: several show by how much they differ.",
+                 "This prints {1} sheets on both sides, on \"{2}\". Printers feed no two sheets "
+                 "exactly alike; several sheets show how much they vary.",
                  {printer});
 }
 std::string sheetSettings(const std::string &settings) {
   // Translators: {1} is as "A4, Tray 1, turned about the long edge".
-  return text("What you measure holds for these settings: {1}.").with(settings);
+  return text("The measurement applies to these settings: {1}.").with(settings);
 }
 std::string presentOffsets(const std::string &offsets) {
-  return text("The sheets are moved by the present offsets: {1}.").with(offsets);
+  return text("The sheets are moved by the current offsets: {1}.").with(offsets);
 }
 std::string printedBefore(const std::string &offsets) {
   return text("Sheets were printed before, with these offsets: {1}. If you have them, read them.")

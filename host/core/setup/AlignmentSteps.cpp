@@ -65,7 +65,7 @@ std::vector<std::string> AlignmentSteps::findings() const {
 bool AlignmentSteps::takeOffsets() {
   const MeasuredAlignment measured = aligner_->measured(result());
   const bool isStored = storeAlignment(measured, errors_);
-  job_.takeAlignment(measured);
+  job_.alignment().take(measured);
   step_ = Step::Check;
   return isStored;
 }

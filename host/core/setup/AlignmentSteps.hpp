@@ -17,7 +17,7 @@ class AlignmentSteps {
 public:
   enum class Step { Print, Read, Check };
 
-  /// Borrows the job, and `errors` for messages about the file of what was measured. Throws a
+  /// Borrows the job, and `errors` for messages about the file of measurements. Throws a
   /// `Failure` if the job's settings allow no sheets.
   AlignmentSteps(PrintJob &job, std::ostream &errors);
 

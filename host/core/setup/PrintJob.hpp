@@ -2,41 +2,27 @@
 #ifndef IMAGEPOSITION_CORE_SETUP_PRINTJOB_HPP
 #define IMAGEPOSITION_CORE_SETUP_PRINTJOB_HPP
 
-#include "Alignments.hpp"
 #include "CommandLine.hpp"
 #include "Destinations.hpp"
 #include "History.hpp"
+#include "JobAlignment.hpp"
+#include "JobFiles.hpp"
+#include "JobSender.hpp"
+#include "JobStart.hpp"
 #include "JobSubmission.hpp"
 #include "OpenedPrinter.hpp"
-#include "Presets.hpp"
+#include "PrintedContent.hpp"
 #include "PrinterDescription.hpp"
+#include "StandardInput.hpp"
 #include "Ticket.hpp"
 
 #include <iosfwd>
 #include <memory>
 #include <optional>
 #include <string>
-#include <sys/types.h>
 #include <vector>
 
 namespace imageposition {
-
-class ShiftedJob;
-struct ShiftDecision;
-struct ShiftPlan;
-
-/// What is printed with a job's printer and queue.
-struct PrintedContent {
-  PrintSettingsStore settings;
-  JobDocuments documents;
-  std::string title;
-};
-
-/// What becomes of offsets that the dialog would apply itself.
-enum class OwnShift {
-  Apply,
-  Skip, ///< As with --no-shift.
-};
 
 /// What `PrintJob::print` does.
 enum class JobTarget {
@@ -60,51 +46,20 @@ public:
 
   const Arguments &arguments() const noexcept { return arguments_; }
   /// "queue" or "queue/instance"; empty for a description file.
-  const std::string &queue() const noexcept { return queue_; }
-  PrinterDescription &printer() noexcept { return *printer_; }
-  const PrinterDescription &printer() const noexcept { return *printer_; }
+  const std::string &queue() const noexcept { return chosen_.queue; }
+  PrinterDescription &printer() noexcept { return *chosen_.printer; }
+  const PrinterDescription &printer() const noexcept { return *chosen_.printer; }
   PrintSettingsStore &settings() noexcept { return ticket_.settings; }
 
-  /// The preset of the job's printer with which the job begins: the queue's, or the one that the
-  /// history names; empty for none.
-  const std::string &presetName() const noexcept { return presetName_; }
-  /// Makes new jobs on this printer begin with the preset; with an empty name, with the last job's
-  /// settings. Returns false, with a message to standard error, if that cannot be stored.
-  bool makeDefault(const std::string &preset);
-  /// The preset with which new jobs on this printer begin; may be empty.
-  std::string defaultPreset() const;
-  /// Stores the printer, its settings and the window's size for the next job. Leaves out settings
-  /// that apply to one document or job, such as its layout, secrets, and what the command line
-  /// gave.
+  /// With which settings and preset the job began, and the next ones begin.
+  JobStart &start() noexcept { return start_; }
+  const JobStart &start() const noexcept { return start_; }
+  /// The job's measured offsets.
+  JobAlignment &alignment() noexcept { return alignment_; }
+
+  /// Stores the printer, its settings and the window's size for the next job, as
+  /// `JobStart::remember`. Leaves out measured offsets, which the next job takes anyway.
   void remember(const std::optional<WindowSize> &window) const;
-
-  /// Where the job's offsets come from: "The offsets were measured on ...". Empty unless they are
-  /// those that were measured, and move the image.
-  std::string alignmentNote();
-  /// Call after the paper, the tray or the turning may have changed: takes the offsets that were
-  /// measured for them. Offsets that the user has entered stay unless others were measured for the
-  /// new settings. Returns whether the offsets have changed.
-  bool followAlignment();
-
-  /// Takes offsets that were measured just now with the job's paper, tray and turning, whatever the
-  /// user or the command line has given. `followAlignment` knows them from then on.
-  void takeAlignment(const MeasuredAlignment &alignment);
-
-  /// One sentence for each setting of the first queue's preset that was changed or dropped because
-  /// the printer does not accept it. The constructor writes them to standard error.
-  const std::vector<std::string> &misfits() const noexcept { return preset_.misfits; }
-
-  /// Throws a `Failure` with `ExitCode::Value` if the command line gives one of these options a
-  /// value that is not a number, or one that is out of the printer's range.
-  void requireNumbers(const std::vector<std::string> &keywords) const;
-
-  /// Whether the job began with settings of the last job that are not the printer's defaults.
-  bool isFromLastJob() const noexcept { return isFromLastJob_; }
-  /// The last job's printer, if the job should have begun with it and did not; otherwise empty.
-  const std::string &missingPrinter() const noexcept { return missingPrinter_; }
-
-  /// The settings with which the job began, without those of the first queue's preset.
-  const PrintSettingsStore &settingsWithoutPreset() const noexcept { return withoutPreset_; }
   /// Leaves the preset that the queue names, so that CUPS no longer adds its settings: the queue is
   /// then the printer. Keeps the job's settings.
   void leavePreset();
@@ -161,61 +116,28 @@ public:
   /// out of the printable area. Writes nothing if the command line has -s or -m.
   void report(const SubmittedJob &sent, std::ostream &output, std::ostream &notes);
   /// CUPS's name of the submitted job, "office-12"; empty before `report`.
-  const std::string &sentName() const noexcept { return sentName_; }
+  const std::string &sentName() const noexcept { return sender_.sentName(); }
   /// A sentence that names the written files; empty until they are written.
-  const std::string &done() const noexcept { return done_; }
+  const std::string &done() const noexcept { return files_.done(); }
 
 private:
   JobTarget firstTarget() const;
-  PrintSettingsStore given() const;
-  Ticket firstTicket(const PrintSettingsStore &preset) const;
-  LoadedPreset startOf(const PrinterDescription &printer);
-  void keepWhatFits(const PrinterDescription &before);
-  bool takeHistory();
   void takeFlagOfQueue();
-  bool areOffsetsGiven() const;
-  bool hasMeasuredOffsets() const;
-  std::optional<FoundAlignment> alignmentHere();
-  bool takeAlignment();
-  PrintSettingsStore settingsToRemember() const;
-  JobRequest requestFor(const PrintedContent &content, const DestinationList &destinations,
-                        bool withDefaults) const;
-  ShiftDecision shiftDecision(const JobRequest &request, const PrintSettingsStore &settings);
-  std::unique_ptr<ShiftedJob> shiftedJob(const JobRequest &request, const ShiftPlan &plan);
-  std::unique_ptr<JobSubmission> startPdf(const JobRequest &request, const std::string &path,
-                                          JobSubmission::Changed changed);
-  std::unique_ptr<JobSubmission> submit(const PrintedContent &content, const JobRequest &request,
-                                        JobSubmission::Changed changed);
-  void writeTicketTo(const std::string &path);
-  void writePrepared(const JobRequest &request, OwnShift ownShift);
+  JobRequest requestFor(const PrintedContent &content, const Destination *destination) const;
+  PrintedContent content() const;
   std::vector<std::string> documentsToSend() const;
-  bool isBackIgnored(const PrintSettingsStore &settings) const;
-  static void warnOfPasswords(const JobDocuments &documents);
 
   const Arguments &arguments_;
-  std::string queue_;
-  std::unique_ptr<PrinterDescription> printer_;
-  History history_;
-  std::string presetName_;
-  bool isFromLastJob_ = false;
-  LoadedPreset preset_; // of the first queue
+  OpenedPrinter chosen_; // before the parts, which refer to it
+  JobStart start_;
   Ticket ticket_;
-  PrintSettingsStore atStart_;
-  Alignments alignments_;
-  std::optional<FoundAlignment> alignment_; // whose offsets the job has taken
-  bool isMeasuredNow_ = false;              // with this printer, for this job
-  PrintSettingsStore withoutPreset_;
+  JobAlignment alignment_;
   std::vector<std::string> documents_; // to print; empty if standard input is implied
-  const off_t inputStart_;             // of standard input; -1 if it is a pipe
+  StandardInput input_;
   JobTarget target_;
   bool isTargetChosen_ = false;
-  std::string missingPrinter_;
-  std::string origin_; // of measured offsets, in words
-  std::string losses_; // of the job that is submitted
-  std::size_t sentFiles_ = 0;
-  std::string sentName_;
-  std::string pdfNote_;
-  std::string done_;
+  JobSender sender_;
+  JobFiles files_;
 };
 
 } // namespace imageposition

@@ -85,7 +85,7 @@ std::optional<ShownDocument> documentToShow(const PrintJob &job,
         shown.job->layout(), text(shown.order), shown.pages ? text(*shown.pages) : ""})
     shown.identity += part + '\n';
   return shown;
-} catch (const Failure &) { // printing says what is the matter
+} catch (const Failure &) { // printing says what is wrong
   return std::nullopt;
 }
 

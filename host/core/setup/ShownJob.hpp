@@ -10,8 +10,10 @@
 namespace imageposition {
 
 /// The job's first document, which must be a file, as the job lays it out. `pages` is the number of
-/// its pages if it is a PDF file; 0 if that is not known. The printer's description must have the
-/// job's choices marked. None if the job has no such document, or if it cannot be laid out here.
+/// its pages if it is a PDF file with pages of one size; 0 if that is not known: where one page is
+/// larger than the paper, CUPS's filter makes all pages smaller. The printer's description must
+/// have the job's choices marked. None if the job has no such document, or if it cannot be laid out
+/// here.
 std::optional<ShownDocument> documentToShow(const PrintJob &job,
                                             const DestinationList &destinations, int pages);
 

@@ -1,6 +1,7 @@
 #include "Availability.hpp"
 
 #include "Phrases.hpp"
+#include "SharedKeys.h"
 #include "ShiftTexts.hpp"
 
 #include <cstring>
@@ -17,8 +18,8 @@ bool isMarked(ppd_file_t *ppd, const char *option, const char *keyword) {
 
 Availability availabilityOf(ppd_file_t *ppd) {
   Availability availability;
-  availability.oneSided = isMarked(ppd, "Duplex", "None");
-  availability.bannerPages = isMarked(ppd, "MVBannerPagePrint", "True");
+  availability.oneSided = isMarked(ppd, IPA_OPTION_TWO_SIDED, IPA_CHOICE_ONE_SIDED);
+  availability.bannerPages = isMarked(ppd, IPA_OPTION_BANNER_PAGES, IPA_CHOICE_BANNER_PAGES_ON);
   return availability;
 }
 

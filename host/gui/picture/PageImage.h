@@ -49,10 +49,10 @@ struct SheetPages {
   std::shared_ptr<const PageImage> frontSeenThrough;
 };
 
-/// Makes the images that can be drawn, and keeps them until the sides are different ones.
+/// Makes the images that can be drawn, and keeps them until the sides change.
 class SheetPainter {
 public:
-  /// Returns whether anything has changed. Without a value there is no sheet.
+  /// Returns whether anything has changed. No value means that there is no sheet.
   bool take(const std::optional<SheetSideImages> &sides);
   /// For a sheet that is turned like the preview's; null if there is none.
   const SheetPages *pages(const Preview &preview);

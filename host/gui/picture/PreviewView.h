@@ -23,7 +23,7 @@ struct PreviewViewState;
 /// Shows both sides to scale at the top, with the back as it lies behind the front. Below, shows
 /// the marks of both sides enlarged on a millimetre grid, because a shift of tenths of a millimetre
 /// is invisible to scale. The sides are the document's, or sample pages. Accepts any frame;
-/// everything is legible from `preferredSize` on.
+/// everything is legible at `preferredSize` or larger.
 @interface PreviewView : NSView {
   imageposition::PreviewViewState *state; ///< Owned.
   id<PreviewViewTarget> target;           ///< Not owned; may be null.
@@ -34,8 +34,8 @@ struct PreviewViewState;
 /// Redraws only when the preview differs from the one shown. Updates the tooltip, too.
 - (void)showPreview:(const imageposition::Preview &)preview;
 
-/// Shows the sides of a sheet, which may be null, or without a value, sample pages. `sheet` says
-/// which one, for the description.
+/// Shows a sheet's sides, either of which may be null; without a value, sample pages. `sheet` names
+/// the sheet, for the description.
 - (void)showSheet:(const std::optional<imageposition::SheetSideImages> &)sides
             named:(const std::string &)sheet;
 /// The size of the images that fit the pages; 0 before the first preview.

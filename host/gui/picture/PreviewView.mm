@@ -1,5 +1,6 @@
 #import "PreviewView.h"
 
+#include "Phrases.hpp"
 #import "PreviewDrawing.h"
 #import "TextBridge.h"
 
@@ -99,11 +100,11 @@ struct imageposition::PreviewViewState {
 
 - (NSString *)accessibilityLabel {
   std::string text = state->sheet;
+  if (!state->preview)
+    return toString(text);
   if (!text.empty())
-    text += ".";
-  if (state->preview)
-    for (const std::string &sentence : describePreview(*state->preview))
-      text += (text.empty() ? "" : " ") + sentence;
+    text += "\n";
+  text += messages::sentences(describePreview(*state->preview));
   return toString(text);
 }
 

@@ -66,7 +66,9 @@ private:
   /// Centred by the digits' height, as on the sheet.
   void write(const FigureLabel &label, Rgb colour) const {
     constexpr double kDigitHeight = 0.73; // of the size, in the usual sans-serif fonts
-    NSFont *const font = [NSFont systemFontOfSize:pixels(label.size * kMillimetresPerPoint)];
+    // With a fractional size, GNUstep's typesetter on 32-bit processors may never end.
+    NSFont *const font =
+        [NSFont systemFontOfSize:std::round(pixels(label.size * kMillimetresPerPoint))];
     NSString *const text = toString(label.text);
     const NSPoint middle = at(label.centre);
     const double top = middle.y + kDigitHeight * [font pointSize] / 2 - [font ascender];

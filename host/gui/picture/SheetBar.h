@@ -24,8 +24,8 @@ int sheetAfterKey(NSEvent *event, const SheetImages &images);
 - (void)turnTo:(int)sheet;
 @end
 
-/// A button for the previous and one for the next sheet, and what is shown. With the focus on a
-/// button, the arrow keys, Page Up, Page Down, Home and End turn, too.
+/// A button for the previous and one for the next sheet, and a label that names the sheet. With the
+/// focus on a button, the arrow keys, Page Up, Page Down, Home and End turn, too.
 @interface SheetBar : NSView {
   id<SheetTurning> target; ///< Not owned.
   NSButton *previous;      ///< Owned by the view; so below.

@@ -22,7 +22,7 @@ std::string sheetOfDocument(const SheetImages &images) {
   case SheetImages::State::None:
     return {};
   case SheetImages::State::Failed:
-    return messages::kPagesNotShown;
+    return messages::pagesNotShown(images.problem());
   default:
     if (order.sheets() == 0)
       return messages::kPagesAreLoaded;
@@ -123,7 +123,7 @@ void enable(NSButton *button, bool isEnabled) {
     [self layOut];
 }
 
-/// Where there is little room, the sheet is worth more than its pages.
+/// If space is tight, shows the sheet's number without its pages.
 - (void)showTextIn:(CGFloat)width {
   showCut(label, *shownText, width);
   const int sheets = images->order().sheets();
@@ -144,7 +144,7 @@ void enable(NSButton *button, bool isEnabled) {
   [self setNeedsDisplay:YES];
 }
 
-/// Called at each step of an offset, too: what stays as it is must not be painted again.
+/// Called at each step of an offset, too: must not repaint what has not changed.
 - (void)refresh {
   const std::string text = sheetText(*images);
   const int sheets = images->order().sheets();

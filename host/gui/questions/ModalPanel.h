@@ -41,10 +41,9 @@ public:
   NSButton *preferCancel();
 
   /// Shows the window in the middle of `parent`, or if that is null, of the screen, and waits; true
-  /// when the user confirmed. `order`
-  /// has the views that take keys, in the order of Tab, without the buttons. `first` gets the
-  /// focus; if null, the first view of `order`, or else the button that confirms. The window stays
-  /// when `mayConfirm` returns false. Main thread.
+  /// when the user confirmed. `order` has the views that take keys, in the order of Tab, without
+  /// the buttons. `first` gets the focus; if null, the first view of `order`, or else the button
+  /// that confirms. The window stays when `mayConfirm` returns false. Main thread.
   bool run(NSWindow *parent, const std::vector<NSView *> &order, NSView *first = nil,
            const std::function<bool()> &mayConfirm = {});
 

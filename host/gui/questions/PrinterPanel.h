@@ -11,7 +11,7 @@
 
 namespace imageposition {
 
-/// Shows what is the matter with the printer `queue`, which may be empty for the default, and lets
+/// Shows what is wrong with the printer `queue`, which may be empty for the default, and lets
 /// the user choose one of the printers, or try again if there is none. Returns the name of the
 /// chosen queue, `queue` to try again, or none if the user cancelled. Main thread.
 std::optional<std::string> askForPrinter(const std::string &problem,

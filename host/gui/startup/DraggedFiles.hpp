@@ -12,8 +12,8 @@ namespace imageposition {
 /// Leaves out everything else.
 std::vector<std::string> filesInUriList(std::string_view list);
 
-/// Requests the list from the program that drags, on a connection of its own to the X server. Waits
-/// for a second at most. Empty if there is no drag, or none of files.
+/// Requests the list from the program that drags, on a separate connection to the X server. Waits
+/// for a second at most. Empty without a drag, or if it has no files.
 std::vector<std::string> draggedFiles();
 
 } // namespace imageposition

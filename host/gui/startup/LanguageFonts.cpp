@@ -1,20 +1,12 @@
 #include "LanguageFonts.hpp"
 
-#include <fontconfig/fontconfig.h>
+#include "FontPattern.hpp"
 
 #include <algorithm>
-#include <memory>
 
 namespace imageposition {
 
 namespace {
-
-struct FreePattern {
-  void operator()(FcPattern *pattern) const noexcept { FcPatternDestroy(pattern); }
-};
-using Pattern = std::unique_ptr<FcPattern, FreePattern>;
-
-const FcChar8 *bytesOf(const char *text) { return reinterpret_cast<const FcChar8 *>(text); }
 
 bool isInLatinLetters(const FcChar8 *language) {
   const FcCharSet *const letters = FcLangGetCharSet(language);
@@ -22,15 +14,12 @@ bool isInLatinLetters(const FcChar8 *language) {
 }
 
 /// Null if no font is installed.
-Pattern match(const char *family, const FcChar8 *language, int weight) {
-  const Pattern wanted(FcPatternCreate());
+FontPattern match(const char *family, const FcChar8 *language, int weight) {
+  const FontPattern wanted(FcPatternCreate());
   FcPatternAddString(wanted.get(), FC_FAMILY, bytesOf(family));
   FcPatternAddString(wanted.get(), FC_LANG, language);
   FcPatternAddInteger(wanted.get(), FC_WEIGHT, weight);
-  FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
-  FcDefaultSubstitute(wanted.get());
-  FcResult ignored;
-  return Pattern(FcFontMatch(nullptr, wanted.get(), &ignored));
+  return matchedFont(wanted);
 }
 
 /// fontconfig always chooses a font, even one that lacks the language.
@@ -56,11 +45,11 @@ std::optional<FontNames> fontsFor(const std::string &language) {
   const FcChar8 *const name = bytesOf(tag.c_str());
   if (isInLatinLetters(name))
     return std::nullopt;
-  const Pattern regular = match("sans-serif", name, FC_WEIGHT_REGULAR);
+  const FontPattern regular = match("sans-serif", name, FC_WEIGHT_REGULAR);
   if (!regular || !canWrite(*regular, name) || !canWrite(*regular, bytesOf("en")))
     return std::nullopt;
   const std::string family = textOf(*regular, FC_FAMILY);
-  const Pattern bold = match(family.c_str(), name, FC_WEIGHT_BOLD);
+  const FontPattern bold = match(family.c_str(), name, FC_WEIGHT_BOLD);
   FontNames names{textOf(*regular, FC_POSTSCRIPT_NAME), {}};
   const bool isOfFamily = bold && textOf(*bold, FC_FAMILY) == family;
   names.bold = isOfFamily ? textOf(*bold, FC_POSTSCRIPT_NAME) : names.regular;

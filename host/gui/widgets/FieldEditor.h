@@ -25,7 +25,7 @@ struct FieldEditorState;
 /// Whether the field takes numbers. Asked when the first edit begins, if its content is a whole
 /// number.
 - (BOOL)takesNumbers:(NSTextField *)field;
-/// The user has edited the number. The field may be given another content here.
+/// The user has edited the number. The receiver may change the field's content.
 - (void)number:(NSTextField *)field wasEdited:(const imageposition::NumberEdit &)edit;
 @end
 
@@ -39,7 +39,8 @@ struct FieldEditorState;
 - (id)initForWindow:(NSWindow *)window;
 /// Restores the content before the last edit.
 - (void)undoEdit:(id)sender;
-/// Called before the field loses the focus. What is no number becomes the number before.
+/// Called before the field loses the focus. Text that is not a number reverts to the previous
+/// number.
 - (void)finishEdits;
 /// Called after the field has lost the focus.
 - (void)endEdits;

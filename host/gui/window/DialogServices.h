@@ -14,6 +14,8 @@
 - (imageposition::PrintSession &)session;
 /// The number of pages of the job's only document; 0 while it is not known.
 - (int)documentPages;
+/// Whether its pages have one size. NO while that is not known.
+- (BOOL)hasPagesOfOneSize;
 /// Whether everything is known that will be known of the documents.
 - (BOOL)isDocumentExamined;
 /// Shows a message, which stays until the next one, and writes it to standard error. An empty one

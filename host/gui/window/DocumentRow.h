@@ -31,6 +31,8 @@ struct DocumentRowState;
 - (void)refresh;
 /// The number of pages of the job's only document; 0 while it is not known.
 - (int)pages;
+/// Whether its pages have one size. NO while that is not known.
+- (BOOL)hasPagesOfOneSize;
 /// Whether the examination is over, if there is one.
 - (BOOL)isExamined;
 /// Whether the first page of the job's only document is wider than high. NO while that is not

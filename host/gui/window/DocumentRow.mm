@@ -108,6 +108,11 @@ std::string documentList(const std::vector<std::string> &paths) {
   return facts ? facts->pages : 0;
 }
 
+- (BOOL)hasPagesOfOneSize {
+  const auto facts = state->examiner->facts();
+  return facts && facts->paper;
+}
+
 - (BOOL)isExamined {
   return state->examiner->isDone();
 }
@@ -130,6 +135,8 @@ std::string documentList(const std::vector<std::string> &paths) {
   if (job.documents().empty())
     return job.hasDocument() ? messages::kStandardInput : messages::kNoDocument;
   std::string text = documentsInWords(job.documents());
+  if (state->examiner->needsPassword())
+    text += " · " + messages::kRequiresPassword.str();
   if (const auto facts = state->examiner->facts()) {
     const std::string paper = paperMismatch(*facts, job.printer().ppd());
     text += " · " + messages::pageCount(facts->pages) + (paper.empty() ? "" : " · " + paper);

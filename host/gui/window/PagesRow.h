@@ -17,6 +17,8 @@
 - (std::vector<imageposition::DialogRow>)rows;
 /// Shows what the job's settings say.
 - (void)refresh;
+/// Says again what the chosen pages mean, after a change of other settings.
+- (void)refreshNote;
 /// Takes the pages into the job's settings. NO, with a message and the focus there, when the ranges
 /// are not understood.
 - (BOOL)takeEntry;

@@ -2,8 +2,10 @@
 
 #include "DocumentTexts.hpp"
 #include "ExitCode.hpp"
+#import "JobSettingRows.h"
 #include "JobTexts.hpp"
 #include "PageRanges.hpp"
+#include "Phrases.hpp"
 #import "TextBridge.h"
 #include "WindowTexts.hpp"
 
@@ -20,8 +22,10 @@ constexpr CGFloat kPagesWidth = 130;
 @interface PagesRow ()
 - (void)pagesChosen:(id)sender;
 - (void)rangesChanged:(id)sender;
-- (std::string)noteOn:(const std::optional<imageposition::PageRanges> &)chosen;
+- (std::string)noteOn:(const imageposition::PageChoice &)choice;
+- (std::optional<imageposition::PageChoice>)checkedEntry;
 - (BOOL)store;
+- (BOOL)hasEntry;
 - (void)showError:(const std::string &)text;
 @end
 
@@ -70,7 +74,7 @@ constexpr CGFloat kPagesWidth = 130;
   [pages selectItemAtIndex:item];
   [ranges setStringValue:toString(choice.ranges ? choice.ranges->text() : "")];
   [ranges setEnabled:item != kAllItem];
-  [self showError:""];
+  [self refreshNote];
 }
 
 - (BOOL)takeEntry {
@@ -81,20 +85,27 @@ constexpr CGFloat kPagesWidth = 130;
   return NO;
 }
 
-/// Mentions pages that the document lacks; may be empty. Throws a `Failure` if nothing would be
-/// printed.
-- (std::string)noteOn:(const std::optional<PageRanges> &)chosen {
-  const int count = [dialog documentPages];
-  if (!chosen || count == 0 || !chosen->namesPagesBeyond(count))
+/// Mentions what the document lacks, and what is counted; may be empty. Throws a `Failure` if
+/// nothing would be printed.
+- (std::string)noteOn:(const PageChoice &)choice {
+  if (!choice.ranges && choice.set == PageSet::All)
     return {};
-  if (!chosen->hasPagesUpTo(count))
-    throw Failure(ExitCode::Usage, messages::documentHasPages(count));
-  return messages::documentHasPages(count);
+  const int perSide = jobSettingsOf([dialog session]).pagesPerSide();
+  std::string counted = perSide > 1 ? messages::sidesAreChosen(perSide) : "";
+  const int sides = perSide > 0 ? ([dialog documentPages] + perSide - 1) / perSide : 0;
+  if (!choice.ranges || sides == 0 || !choice.ranges->namesPagesBeyond(sides))
+    return counted;
+  const std::string lacking =
+      perSide > 1 ? messages::documentHasSides(sides) : messages::documentHasPages(sides);
+  std::string note = messages::sentences({counted, lacking});
+  if (!choice.ranges->hasPagesUpTo(sides))
+    throw Failure(ExitCode::Usage, note);
+  return note;
 }
 
-/// Odd and even pages are those of the ranges, or without ranges of the whole document. NO, with a
-/// message, when the ranges are not understood.
-- (BOOL)store {
+/// Odd and even pages are those of the ranges, or without ranges of the whole document. None, with
+/// a message, when the ranges are not understood.
+- (std::optional<PageChoice>)checkedEntry {
   const NSInteger item = [pages indexOfSelectedItem];
   PageChoice choice;
   choice.set = item == kOddItem ? PageSet::Odd : item == kEvenItem ? PageSet::Even : PageSet::All;
@@ -103,21 +114,40 @@ constexpr CGFloat kPagesWidth = 130;
   try {
     if (item == kRangeItem || (item != kAllItem && !typed.empty()))
       choice.ranges = PageRanges::parse(typed);
-    note = [self noteOn:choice.ranges];
+    note = [self noteOn:choice];
   } catch (const Failure &failure) {
     [self showError:failure.what()];
-    return NO;
+    return std::nullopt;
   }
   [self showError:note];
-  storePageChoice(choice, [dialog session].job().settings());
-  return YES;
+  return choice;
+}
+
+- (BOOL)store {
+  const auto choice = [self checkedEntry];
+  if (choice)
+    storePageChoice(*choice, [dialog session].job().settings());
+  return choice.has_value();
+}
+
+/// NO while a range is about to be typed.
+- (BOOL)hasEntry {
+  return [pages indexOfSelectedItem] != kRangeItem || [[ranges stringValue] length] != 0;
+}
+
+- (void)refreshNote {
+  if ([self hasEntry])
+    [self checkedEntry];
+  else
+    [self showError:""];
 }
 
 - (void)controlTextDidChange:(NSNotification *)notification {
   (void)notification;
   try {
-    PageRanges::parse(toText([[ranges currentEditor] string]));
-    [self showError:""];
+    PageChoice choice;
+    choice.ranges = PageRanges::parse(toText([[ranges currentEditor] string]));
+    [self showError:[self noteOn:choice]];
   } catch (const Failure &) { // it is not complete yet
   }
 }
@@ -143,7 +173,7 @@ constexpr CGFloat kPagesWidth = 130;
 - (void)rangesChanged:(id)sender {
   (void)sender;
   [ranges setNeedsDisplay:YES]; // without the focus
-  if ([pages indexOfSelectedItem] != kRangeItem || [[ranges stringValue] length] != 0)
+  if ([self hasEntry])
     [self store];
 }
 

@@ -65,7 +65,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
     return nil;
   dialog = theDialog;
   state = new PresetRowState;
-  state->chosen = [dialog session].job().presetName();
+  state->chosen = [dialog session].job().start().presetName();
   popUp = [makePopUp(self, @selector(presetChosen:)) retain];
   return self;
 }
@@ -82,7 +82,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 }
 
 - (void)printerChanged {
-  state->chosen = [dialog session].job().presetName();
+  state->chosen = [dialog session].job().start().presetName();
   [self list];
 }
 
@@ -113,7 +113,8 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   addCommand(popUp, messages::kSavePreset);
   addCommand(popUp, messages::kRenamePreset, isChosen);
   addCommand(popUp, messages::kDeletePreset, isChosen);
-  const bool isDefault = isChosen && isSame([dialog session].job().defaultPreset(), state->chosen);
+  const bool isDefault =
+      isChosen && isSame([dialog session].job().start().defaultPreset(), state->chosen);
   addCommand(popUp, isDefault ? messages::kNotDefaultPreset : messages::kDefaultPreset, isChosen);
   if (unlisted > 0)
     addItem(popUp, messages::presetsNotListed(unlisted), false);
@@ -173,7 +174,7 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
 - (void)takeNone {
   state->chosen.clear();
   LoadedPreset none;
-  none.settings = [dialog session].job().settingsWithoutPreset();
+  none.settings = [dialog session].job().start().settingsWithoutPreset();
   [self take:none saying:messages::kPrintersDefaults];
 }
 
@@ -258,8 +259,8 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
     return;
   presets.rename(state->chosen, *name, contains(names, *name));
   PrintJob &job = [dialog session].job();
-  if (isSame(job.defaultPreset(), state->chosen))
-    job.makeDefault(*name);
+  if (isSame(job.start().defaultPreset(), state->chosen))
+    job.start().makeDefault(*name);
   state->chosen = *name;
   [dialog show:""];
 }
@@ -268,8 +269,8 @@ std::vector<PresetName> presetsFor(const std::string &printer) {
   if (state->chosen.empty())
     return;
   PrintJob &job = [dialog session].job();
-  const bool isDefault = isSame(job.defaultPreset(), state->chosen);
-  if (!job.makeDefault(isDefault ? "" : state->chosen))
+  const bool isDefault = isSame(job.start().defaultPreset(), state->chosen);
+  if (!job.start().makeDefault(isDefault ? "" : state->chosen))
     [dialog show:messages::kDefaultNotStored];
   else
     [dialog show:isDefault ? "" : messages::presetIsDefault(state->chosen, [self printer])];

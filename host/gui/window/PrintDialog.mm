@@ -1,26 +1,25 @@
 #import "PrintDialog.h"
 
+#import "ConflictQuestion.h"
 #include "ExitCode.hpp"
 #include "HelpTexts.hpp"
 #include "ImageShiftText.hpp"
 #include "JobSettings.hpp"
-#include "JobSubmission.hpp"
+#import "JoinParent.h"
 #import "MnemonicControls.h"
-#import "NotePanel.h"
+#include "NumberNotes.hpp"
 #include "NumberText.hpp"
 #import "OpenPrinter.h"
-#include "ParentWindow.hpp"
 #include "PasteboardTrouble.hpp"
 #include "Phrases.hpp"
 #import "Pool.h"
 #include "QuestionTexts.hpp"
-#include "QueueName.hpp"
 #import "RunLoopWake.h"
+#include "ShownMessage.hpp"
+#import "StartMessage.h"
 #import "TextBridge.h"
-#include "UnknownValues.hpp"
 #import "WindowFocus.h"
 #include "WindowTexts.hpp"
-#import "XWindow.h"
 
 #include <ostream>
 #include <utility>
@@ -28,7 +27,15 @@
 using namespace imageposition;
 
 @interface PrintDialog ()
+- (void)buildParts;
+- (void)buildWindowForPane:(NSSize)pane room:(NSSize)room;
 - (void)refreshPicture;
+- (NSView *)firstControl;
+- (void)dropOutdatedOrigin;
+- (void)keepFocus;
+- (void)look;
+- (void)sayTroubles;
+- (void)show;
 @end
 
 namespace {
@@ -39,25 +46,6 @@ struct PictureRedrawing final : PrintSettingsStore::Observer {
   PrintDialog *dialog = nil;
 };
 
-/// Why the documents cannot be printed; empty if they can.
-std::string problemWith(const JobDocuments &documents) {
-  try {
-    totalSize(documents);
-    return {};
-  } catch (const SubmissionFailure &failure) {
-    return failure.what();
-  }
-}
-
-/// In what the job begins otherwise than a first one would; may be empty.
-std::string startNote(const PrintJob &job) {
-  const std::string printer = QueueName::parse(job.queue()).printer;
-  const std::string &missing = job.missingPrinter();
-  return messages::sentences(
-      {missing.empty() ? "" : messages::otherThanLastPrinter(missing, printer),
-       job.isFromLastJob() ? messages::numbersNow(NumbersNow::Remembered, printer) : ""});
-}
-
 } // namespace
 
 struct imageposition::PrintDialogState {
@@ -66,25 +54,10 @@ struct imageposition::PrintDialogState {
   PictureRedrawing redrawing;
   std::unique_ptr<RunLoopWake> wake;
   std::unique_ptr<DialogLayout> layout;
-  std::string message;          // that is shown
-  std::string numberNote;       // the last message about a number; may be empty
-  bool isNumberChanged = false; // when the editing of a number ended last
-  std::string acceptedConflict; // that the user has accepted; may be empty
-  std::string origin;           // of the offsets, if the message says it
+  ShownMessage shown;
+  NumberNotes numbers;
+  ConflictQuestion conflicts;
 };
-
-@interface PrintDialog ()
-- (void)buildParts;
-- (void)buildWindowForPane:(NSSize)pane room:(NSSize)room;
-- (NSView *)firstControl;
-- (void)dropOutdatedOrigin;
-- (void)keepFocus;
-- (BOOL)acceptConflict;
-- (void)look;
-- (void)sayTroubles;
-- (void)show;
-- (void)joinParent;
-@end
 
 @implementation PrintDialog
 
@@ -95,7 +68,7 @@ struct imageposition::PrintDialogState {
   if ((self = [super init]) == nil)
     return nil;
   PrintDialog *const dialog = self;
-  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, false, {}, {}};
+  state = new PrintDialogState{theSession, theErrors, {}, nullptr, nullptr, {}, {}, {}};
   state->wake = std::make_unique<RunLoopWake>([=] { [dialog look]; });
   [self buildParts];
   [self buildWindowForPane:pane room:room];
@@ -202,9 +175,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)show:(const std::string &)text {
-  const std::string origin = state->session->job().alignmentNote();
-  state->origin = text.find(origin) != std::string::npos ? origin : "";
-  state->message = text;
+  state->shown.set(text, state->session->job().alignment().note());
   [message setStringValue:toString(text)];
   [self layOut];
   [window keepFocusInSight];
@@ -222,6 +193,10 @@ struct imageposition::PrintDialogState {
 
 - (int)documentPages {
   return [documents pages];
+}
+
+- (BOOL)hasPagesOfOneSize {
+  return [documents hasPagesOfOneSize];
 }
 
 - (BOOL)isDocumentExamined {
@@ -248,8 +223,9 @@ struct imageposition::PrintDialogState {
     const std::string troubles = state->session->panels().troubleText();
     state->layout->takePane(largestPane(state->session->panels()));
     [self say:troubles];
-    const std::string note = numbers == NumbersNow::Measured ? state->session->job().alignmentNote()
-                                                             : messages::numbersNow(numbers, queue);
+    const std::string note = numbers == NumbersNow::Measured
+                                 ? state->session->job().alignment().note()
+                                 : messages::numbersNow(numbers, queue);
     if (!note.empty())
       [self show:messages::sentences({troubles, note})];
   } catch (const Failure &failure) {
@@ -269,6 +245,7 @@ struct imageposition::PrintDialogState {
 
 - (void)refreshOptions {
   [options refresh];
+  [pages refreshNote];
   [aligning refresh];
   [self layOut];
   [panes refresh];
@@ -306,26 +283,15 @@ struct imageposition::PrintDialogState {
   if ([sending isUnderWay])
     return;
   NSView *const focused = [window focusedView];
-  state->isNumberChanged = false;
+  state->numbers.forgetChange();
   [window makeFirstResponder:nil];
-  if (state->isNumberChanged) { // the user should see what would be printed
+  if (state->numbers.isChanged()) { // the user should see what would be printed
     [window makeFirstResponder:focused];
     return;
   }
-  if ([copies takeEntry] && [pages takeEntry] && [panes allowPrinting] && [self acceptConflict])
+  if ([copies takeEntry] && [pages takeEntry] && [panes allowPrinting] &&
+      state->conflicts.isAccepted(window, [options conflict]))
     [sending startWithFocus:focused];
-}
-
-/// Asks once about the same conflict.
-- (BOOL)acceptConflict {
-  const std::string conflict = [options conflict];
-  if (conflict.empty() || conflict == state->acceptedConflict)
-    return YES;
-  if (!isConfirmed(window, {messages::kPrintAnywayWindow, conflict, messages::kPrintAnyway,
-                            messages::kGoBack}))
-    return NO;
-  state->acceptedConflict = conflict;
-  return YES;
 }
 
 - (void)dismiss {
@@ -365,7 +331,8 @@ struct imageposition::PrintDialogState {
     if ([printerRow takeAnswer])
       [paneArea printersListed];
   }];
-  [self refreshPicture]; // a document may have been examined
+  [pages refreshNote]; // a document may have been examined
+  [self refreshPicture];
 }
 
 - (void)userActedOn:(NSView *)view {
@@ -377,27 +344,24 @@ struct imageposition::PrintDialogState {
 
 /// The offsets may no longer be those of which the message says where they come from.
 - (void)dropOutdatedOrigin {
-  const std::string origin = state->origin;
-  if (!origin.empty() && state->session->job().alignmentNote() != origin)
-    [self show:state->message.substr(0, state->message.find(origin))];
+  const std::string origin = state->shown.origin();
+  if (!origin.empty() && state->session->job().alignment().note() != origin)
+    [self show:state->shown.textBeforeOrigin()];
 }
 
 - (BOOL)takesNumbers:(NSTextField *)field {
   return [panes isPanels:field];
 }
 
-/// A message about a number disappears with the next edit, unless another has replaced it.
 - (void)number:(NSTextField *)field wasEdited:(const NumberEdit &)edit {
   const bool isEnd = edit.kind == NumberEdit::Kind::Ended;
   if (!isEnd && isWholeNumber(edit.shown))
     [panes takeNumber:field keepingIt:edit.kind == NumberEdit::Kind::Typed];
-  const std::string note = messages::numberChange(edit.typed, edit.shown, isEnd);
-  const std::string last = std::exchange(state->numberNote, note);
-  state->isNumberChanged = isEnd && !note.empty();
-  if (state->isNumberChanged)
-    [self say:note];
-  else if (!note.empty() || (!last.empty() && state->message == last))
-    [self show:note];
+  const auto note = state->numbers.edited(edit.typed, edit.shown, isEnd, state->shown.text());
+  if (note && state->numbers.isChanged())
+    [self say:*note];
+  else if (note)
+    [self show:*note];
   [self dropOutdatedOrigin];
 }
 
@@ -425,24 +389,14 @@ struct imageposition::PrintDialogState {
   [self say:pasteboardTrouble(toText(what))];
 }
 
-/// What is the matter with the documents, what is missing in the window, which settings have
-/// unknown values, which of the preset's settings the printer does not accept, which standard error
-/// has already, and what came back from the last job.
+/// Only the troubles go to standard error, which has what became of the preset already.
 - (void)sayTroubles {
-  PanelSession &panels = state->session->panels();
-  PrintJob &job = state->session->job();
-  std::string troubles = panels.troubleText();
-  if (const std::string problem = problemWith(job.documents()); !problem.empty())
-    troubles = problem;
-  troubles = messages::sentences(
-      {troubles,
-       messages::sentences(unknownValues(job.printer(), job.settings(), panels.optionKeys()))});
+  const std::string troubles = startTroubles(*state->session);
   if (!troubles.empty())
     [self say:troubles];
-  const std::string start = messages::sentences(
-      {troubles, messages::sentences(job.misfits()), startNote(job), job.alignmentNote()});
-  if (start != troubles)
-    [self show:start];
+  const std::string notes = startNotes(state->session->job());
+  if (!notes.empty())
+    [self show:messages::sentences({troubles, notes})];
 }
 
 - (void)show {
@@ -455,17 +409,7 @@ struct imageposition::PrintDialogState {
   [window makeFirstResponder:[self firstControl]];
   activateApplication();
   [window makeKeyAndOrderFront:nil];
-  [self joinParent];
-}
-
-/// A window of Wayland cannot be the parent of one of X11's.
-- (void)joinParent {
-  const Arguments &arguments = state->session->job().arguments();
-  const auto parent = readParent(arguments.parent);
-  if (parent && parent->x11 != 0)
-    makeModalDialogOf(window, parent->x11);
-  else if (parent && !arguments.title.empty())
-    [window setTitle:toString(messages::printWindowOf(arguments.title))];
+  joinParent(window, state->session->job().arguments());
 }
 
 - (BOOL)run {

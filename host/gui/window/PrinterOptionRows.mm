@@ -146,7 +146,7 @@ std::string firstValue(const PrinterOption &option, ppd_file_t *ppd, LengthUnit 
 /// Offsets that were measured belong to the paper, the tray and the turning.
 - (void)followAlignment {
   PrintSession &session = [dialog session];
-  if (session.job().followAlignment())
+  if (session.job().alignment().follow())
     [dialog show:session.readMeasuredOffsets()];
 }
 

@@ -21,6 +21,7 @@ struct imageposition::SheetsState {
 
 @interface Sheets () <SheetTurning, PreviewViewTarget>
 - (void)showJob;
+- (void)waitForExamination;
 - (BOOL)isLocked;
 - (void)refresh;
 - (void)enlarge:(id)sender;
@@ -40,7 +41,9 @@ struct imageposition::SheetsState {
   bar = [[SheetBar alloc] initWithImages:*state->images target:self];
   enlargeButton = [makeButton(messages::kEnlarge, self, @selector(enlarge:)) retain];
   [picture setTarget:self];
-  [bar setHidden:YES];
+  [bar refresh];
+  // Its place is kept while the document is examined: the picture should not change its size.
+  [bar setHidden:[dialog session].job().documents().empty()];
   [enlargeButton setHidden:YES];
   return self;
 }
@@ -78,18 +81,32 @@ struct imageposition::SheetsState {
 }
 
 - (void)showJob {
-  if (![[picture window] isVisible] || ![dialog isDocumentExamined])
+  if (![[picture window] isVisible])
     return;
+  if (![dialog isDocumentExamined]) {
+    [self waitForExamination];
+    return;
+  }
   PrintSession &session = [dialog session];
   const DestinationList &printers = session.destinations().list();
   if (printers.destinations.empty() && printers.reason.empty())
     return; // the queue's defaults, which change the layout, are about to arrive
   std::optional<ShownDocument> document;
   if (![picture isHiddenOrHasHiddenAncestor])
-    document = documentToShow(session.job(), printers, [dialog documentPages]);
+    document = documentToShow(session.job(), printers,
+                              [dialog hasPagesOfOneSize] ? [dialog documentPages] : 0);
   if (state->panel == nullptr)
     state->images->setScale([picture pixelsPerPoint]);
   state->images->show(std::move(document));
+  [self refresh];
+}
+
+/// Another document must not be shown meanwhile.
+- (void)waitForExamination {
+  const std::vector<std::string> &paths = [dialog session].job().documents();
+  if (paths.empty() || paths.front() == state->images->path())
+    return;
+  state->images->show(std::nullopt);
   [self refresh];
 }
 
@@ -105,7 +122,8 @@ struct imageposition::SheetsState {
 
 - (void)refresh {
   const bool hasSheets = state->images->order().sheets() > 0;
-  const bool isShown = state->images->state() != SheetImages::State::None;
+  const bool isShown =
+      state->images->state() != SheetImages::State::None || ![dialog isDocumentExamined];
   const bool isNew = isShown == [bar isHidden] || hasSheets == [enlargeButton isHidden];
   [picture showSheet:sheetSides(*state->images) named:sheetText(*state->images)];
   [bar setHidden:!isShown];

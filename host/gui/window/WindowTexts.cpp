@@ -41,7 +41,7 @@ const Text kNoPrinterToAlign = text("Choose a printer to align it.");
 const Text kDryRunPrintsNothing = text("Nothing was printed: this is a dry run.");
 std::string sheetsSent(const std::string &job) {
   // Translators: {1} is CUPS's name of a job, as "office-12".
-  return text("The sheets are printed as the job {1}.").with(job);
+  return text("The sheets were sent as job {1}.").with(job);
 }
 const Text kNoPresetChosen = text("None");
 const Text kPrintersDefaults = text("The settings are the printer's defaults.");

@@ -1,6 +1,6 @@
 /// Telling checkboxes from push buttons: AppKit has one class for both.
-#ifndef IMAGEPOSITION_HOST_CHECKBOX_H
-#define IMAGEPOSITION_HOST_CHECKBOX_H
+#ifndef IMAGEPOSITION_PANELS_RUNTIME_CHECKBOX_H
+#define IMAGEPOSITION_PANELS_RUNTIME_CHECKBOX_H
 
 #import <AppKit/AppKit.h>
 

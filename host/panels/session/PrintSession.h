@@ -38,7 +38,7 @@ public:
   /// where they come from, and which panels failed.
   std::string readMeasuredOffsets();
 
-  /// The printers that CUPS has, as it answered last.
+  /// The printers in CUPS's last response.
   Destinations &destinations() noexcept { return destinations_; }
 
 private:

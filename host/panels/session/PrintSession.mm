@@ -39,7 +39,7 @@ void PrintSession::loadPanels() {
 std::string PrintSession::readMeasuredOffsets() {
   panels_->takePanelValues();
   std::vector<std::string> notes = panels_->restore().failures;
-  notes.push_back(job_.alignmentNote());
+  notes.push_back(job_.alignment().note());
   return messages::sentences(notes);
 }
 
@@ -62,7 +62,7 @@ NumbersNow PrintSession::takePrinter(OpenedPrinter opened) {
   if (left != left_.end())
     return NumbersNow::AsBefore;
   if (isRemembered)
-    return job_.alignmentNote().empty() ? NumbersNow::Remembered : NumbersNow::Measured;
+    return job_.alignment().note().empty() ? NumbersNow::Remembered : NumbersNow::Measured;
   const std::vector<std::string> keywords = panels_->optionKeys();
   const bool isChanged =
       !before.empty() && !keywords.empty() && numbersIn(job_.settings(), keywords) != set;

@@ -1,4 +1,4 @@
-// Measuring from the command line, and jobs that start with what was measured.
+// Measuring from the command line, and jobs that start with measured offsets.
 #include "DialogFixture.hpp"
 #include "OfficeQueue.hpp"
 

@@ -158,7 +158,7 @@ TEST_F(AlignmentFile, IgnoresEntriesWithNumbersThatItCannotHave) {
 TEST_F(AlignmentFile, ThatCannotBeWrittenSaysSo) {
   folder_.write("config", "a file where the folder should be");
   EXPECT_FALSE(store(alignmentOf(keyOf("office"), 3)));
-  EXPECT_THAT(errors_.str(), HasSubstr("Cannot keep what was measured"));
+  EXPECT_THAT(errors_.str(), HasSubstr("Cannot save the measurements"));
 }
 
 TEST(AlignmentKey, IsOfTheMarkedChoices) {

@@ -136,11 +136,13 @@ TEST(OtherTurning, ChangesBothSignsOfTheBack) {
   EXPECT_EQ(forOtherTurning(offsets), (SideOffsets{{{1}, {2}}, {{-3}, {4}}}));
 }
 
-TEST(SideOffsets, AreReadAsPresetsWriteThem) {
+TEST(SideOffsets, AreReadAsPresetsAndUsersWriteThem) {
   PrintSettingsStore settings;
-  settings.set("LeftRightMargin", "Custom.-15");
   settings.set("TopBottomMargin", "7");
-  EXPECT_EQ(sideOffsetsIn(settings), (SideOffsets{{{-15}, {7}}, {{-15}, {7}}}));
+  for (const char *const custom : {"Custom.-15", "custom.-15"}) {
+    settings.set("LeftRightMargin", custom);
+    EXPECT_EQ(sideOffsetsIn(settings), (SideOffsets{{{-15}, {7}}, {{-15}, {7}}})) << custom;
+  }
   const SideOffsets both{{{1}, {2}}, {{-3}, {4}}};
   setSideOffsets(settings, both);
   EXPECT_EQ(sideOffsetsIn(settings), both);

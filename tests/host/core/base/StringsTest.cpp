@@ -46,6 +46,13 @@ TEST(Strings, NamesAreTheSameInAnyCase) {
   EXPECT_FALSE(contains({}, ""));
 }
 
+TEST(Strings, OfASettingSwitchItOnInAnyCase) {
+  for (const char *on : {"true", "True", "yes", "ON"})
+    EXPECT_TRUE(isTrue(on)) << on;
+  for (const char *other : {"false", "no", "off", "1", "", "tru", "truest"})
+    EXPECT_FALSE(isTrue(other)) << other;
+}
+
 TEST(Strings, TheOrderOfNamesIgnoresCase) {
   const IgnoringCase isBefore;
   EXPECT_TRUE(isBefore("a", "B"));

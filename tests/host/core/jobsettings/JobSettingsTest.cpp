@@ -140,6 +140,17 @@ TEST_F(JobSettingsTest, AChoiceReplacesTheSettingsOtherNames) {
   EXPECT_EQ(stored("orientation-requested"), "6");
 }
 
+TEST_F(JobSettingsTest, TellThePagesOnASide) {
+  EXPECT_EQ(settings().pagesPerSide(), 1);
+  job.set("number-up", "4");
+  EXPECT_EQ(settings().pagesPerSide(), 4);
+  job.set("booklet", "true");
+  EXPECT_EQ(settings().pagesPerSide(), 0) << "a booklet reorders the pages";
+  job.remove("booklet");
+  job.set("number-up", "many");
+  EXPECT_EQ(settings().pagesPerSide(), 0);
+}
+
 TEST_F(JobSettingsTest, TheDefaultOrderIsTheDescriptions) {
   printer = printerWith("*DefaultOutputOrder: Reverse\n");
   EXPECT_EQ(option("outputorder").chosen, "reverse");

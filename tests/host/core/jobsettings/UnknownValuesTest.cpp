@@ -27,7 +27,7 @@ TEST(UnknownValues, NameTheOptionTheValueAndSomeThatExist) {
   EXPECT_THAT(
       unknown("Duplex", "Bogus"),
       ElementsAre("\"Bogus\" is not a value of \"Duplex\". The printer may refuse or ignore "
-                  "it. There are, for example: None, DuplexNoTumble, DuplexTumble."));
+                  "it. Valid values include: None, DuplexNoTumble, DuplexTumble."));
   EXPECT_THAT(unknown("number-up", "99"),
               ElementsAre(AllOf(HasSubstr("\"99\""), HasSubstr("number-up"),
                                 HasSubstr("1, 2, 4, 6, 9, 16"))));

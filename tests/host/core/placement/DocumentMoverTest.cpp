@@ -179,6 +179,11 @@ std::string pdfThatForbidsPrinting() {
   return {reinterpret_cast<const char *>(buffer->getBuffer()), buffer->getSize()};
 }
 
+TEST_F(DocumentMover, RespectsTheOwnerOfTheDocumentForSomePagesToo) {
+  task_.pages = "1";
+  EXPECT_EQ(problemWith(pdfThatForbidsPrinting()), MoveProblem::Forbidden);
+}
+
 TEST_F(DocumentMover, SaysWhyADocumentCannotBeMoved) {
   const struct {
     std::string content;

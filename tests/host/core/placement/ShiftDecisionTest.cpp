@@ -58,6 +58,8 @@ TEST(ShiftDecision, SaysWhoMovesTheImage) {
        "front 2.5 0 back 0.5 0, both"},
       {"back offsets without the flag", kTwoSided, "BackLeftRightMargin=5", "nobody"},
       {"a custom value", kTwoSided, "LeftRightMargin=Custom.25", "front 2.5 0 back 2.5 0, both"},
+      {"a custom value in another case", kTwoSided, "LeftRightMargin=custom.25",
+       "front 2.5 0 back 2.5 0, both"},
       {"the driver moves it", with(kTwoSided, supported), "LeftRightMargin=25", "printer"},
       {"the driver moves it, whatever the offsets", with(kTwoSided, supported), "media=A4",
        "printer"},

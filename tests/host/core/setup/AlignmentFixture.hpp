@@ -1,4 +1,4 @@
-/// A job on a sample printer, and a file of its own for what is measured.
+/// A job on a sample printer, and a separate file for its measurements.
 #ifndef IMAGEPOSITION_TESTS_HOST_CORE_SETUP_ALIGNMENTFIXTURE_HPP
 #define IMAGEPOSITION_TESTS_HOST_CORE_SETUP_ALIGNMENTFIXTURE_HPP
 

@@ -60,7 +60,7 @@ TEST_F(AlignmentStepsTest, LeadFromPrintingToReadingAndToTheCheck) {
   const SideOffsets expected{{}, {{-17}, {3}}};
   EXPECT_EQ(offsets(), expected);
   EXPECT_EQ(stored(), expected);
-  EXPECT_THAT(job().alignmentNote(), HasSubstr("were measured on"));
+  EXPECT_THAT(job().alignment().note(), HasSubstr("were measured on"));
 }
 
 TEST_F(AlignmentStepsTest, AddToTheOffsetsOfThePrintedSheets) {
@@ -154,9 +154,9 @@ TEST_F(AlignmentStepsTest, SetOffsetsThatCannotBeKept) {
   steps().read();
   enter(0, {"1.7", "-0.3", "1.7", "-0.3"});
   EXPECT_FALSE(steps().takeOffsets());
-  EXPECT_THAT(errors_.str(), HasSubstr("Cannot keep what was measured"));
+  EXPECT_THAT(errors_.str(), HasSubstr("Cannot save the measurements"));
   EXPECT_EQ(offsets(), (SideOffsets{{}, {{-17}, {3}}}));
-  EXPECT_THAT(job().alignmentNote(), HasSubstr("were measured on"));
+  EXPECT_THAT(job().alignment().note(), HasSubstr("were measured on"));
 }
 
 TEST_F(AlignmentStepsTest, FollowTheSettingsAfterwards) {
@@ -164,7 +164,7 @@ TEST_F(AlignmentStepsTest, FollowTheSettingsAfterwards) {
   enter(0, {"1.7", "-0.3", "1.7", "-0.3"});
   steps().takeOffsets();
   job().settings().set("Duplex", "DuplexTumble");
-  EXPECT_TRUE(job().followAlignment());
+  EXPECT_TRUE(job().alignment().follow());
   EXPECT_EQ(offsets(), (SideOffsets{{}, {{17}, {-3}}}));
 }
 
@@ -175,7 +175,7 @@ TEST_F(AlignmentStepsTest, OutdoOffsetsOfTheCommandLine) {
   steps().takeOffsets();
   const SideOffsets taken = offsets();
   job().settings().set("MediaType", "Transparency");
-  EXPECT_FALSE(job().followAlignment());
+  EXPECT_FALSE(job().alignment().follow());
   EXPECT_EQ(offsets(), taken);
 }
 

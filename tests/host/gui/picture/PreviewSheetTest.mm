@@ -242,7 +242,7 @@ TEST_F(PagesInThePicture, AreRedrawnOnlyWhenTheyChange) {
 TEST_F(PagesInThePicture, TheDescriptionBeginsWithTheSheet) {
   [view_ showPreview:previewOf({{1}, {0}}, {{1}, {0}})];
   [view_ showSheet:std::nullopt named:"Sheet 1 of 2 (pages 1 and 2)"];
-  EXPECT_EQ(toText([view_ accessibilityLabel]).rfind("Sheet 1 of 2 (pages 1 and 2). Each side", 0),
+  EXPECT_EQ(toText([view_ accessibilityLabel]).rfind("Sheet 1 of 2 (pages 1 and 2)\nEach side", 0),
             0U)
       << toText([view_ accessibilityLabel]);
 }

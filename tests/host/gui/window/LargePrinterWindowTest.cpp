@@ -18,12 +18,24 @@ protected:
   const TemporaryFolder folder;
 };
 
+/// libcups grows its list of constraints one by one, and AddressSanitizer copies it each time.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kOptions = 100;
+#else
+constexpr int kOptions = 300;
+#endif
+
+std::string moreConflicts(int count) {
+  return "There are " + std::to_string(count) + " more conflicts.";
+}
+
 TEST_F(LargePrinterWindow, NamesTheFirstConflictsAndCountsTheOthers) {
-  PrintWindow window(onPpd(violatedPairs(44850)));
+  constexpr int kPairs = kOptions * (kOptions - 1) / 2;
+  PrintWindow window(onPpd(violatedPairs(kPairs)));
   EXPECT_TRUE(window.says("The printer cannot combine \"O1: Bad\" and \"O0: Bad\"."));
-  EXPECT_TRUE(window.says("There are 44848 more conflicts."));
+  EXPECT_TRUE(window.says(moreConflicts(kPairs - 2)));
   window.choose("O0:", "Good");
-  EXPECT_TRUE(window.says("There are 44549 more conflicts."));
+  EXPECT_TRUE(window.says(moreConflicts(kPairs - 2 - (kOptions - 1))));
 }
 
 TEST_F(LargePrinterWindow, ShowsTheFirstOfThousandsOfOptionsAndCountsTheOthers) {

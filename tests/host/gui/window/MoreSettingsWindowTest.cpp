@@ -218,7 +218,7 @@ TEST_F(MoreSettings, UnknownValuesAreMentionedAndStillSent) {
   EXPECT_EQ(shown(window, "Scaling:", "bogus"), "bogus");
   window.click("Print");
   const ProcessResult &result = window.ended();
-  EXPECT_THAT(result.errors, HasSubstr("There are, for example: auto, none, fit, fill."));
+  EXPECT_THAT(result.errors, HasSubstr("Valid values include: auto, none, fit, fill."));
   EXPECT_THAT(printed(jobOf(result)).options, Contains(Pair("print-scaling", "bogus")));
 }
 

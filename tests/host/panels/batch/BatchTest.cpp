@@ -157,7 +157,7 @@ TEST_F(Batch, UnknownValuesAreReportedAndKept) {
   EXPECT_EQ(result.status, kDone);
   EXPECT_THAT(result.errors,
               AllOf(HasSubstr("print-dialog: \"Bogus\" is not a value of \"Duplex\"."),
-                    HasSubstr("There are, for example: None, DuplexNoTumble, "),
+                    HasSubstr("Valid values include: None, DuplexNoTumble, "),
                     HasSubstr("1, 2, 4, 6, 9, 16."), HasSubstr("\"bogus\"")));
   EXPECT_EQ(settingsIn(result.output).at("number-up"), "99");
   EXPECT_EQ(settingsIn(result.output).at("Duplex"), "Bogus");

@@ -107,7 +107,7 @@ void writeMenu(std::ostream &out, NSMenuView *view) {
 void writeList(std::ostream &out, NSView<ListOfItems> *list) {
   for (NSInteger i = 0; i < [list numberOfItems]; i++) {
     const NSRect place = [list rectOfItemAtIndex:i];
-    if (!NSContainsRect([list visibleRect], place))
+    if (!NSContainsRect(NSInsetRect([list visibleRect], -0.5, -0.5), place))
       continue;
     out << "item";
     writePlace(out, list, place);

@@ -22,7 +22,7 @@ Arguments argumentsWithDocument() {
 }
 
 /// The size of the window that is printed from, in points.
-class SheetLayout : public testing::TestWithParam<NSSize> {
+class SheetPanelLayout : public testing::TestWithParam<NSSize> {
 protected:
   void SetUp() override {
     const auto wanted = wantedLanguages(std::getenv);
@@ -37,7 +37,7 @@ protected:
   SheetImages images_{[] {}};
 };
 
-TEST_P(SheetLayout, OverlapsNoViews) {
+TEST_P(SheetPanelLayout, OverlapsNoViews) {
   ASSERT_EQ(images_.order().sheets(), 635);
   const NSSize size = GetParam();
   NSWindow *const parent =
@@ -60,7 +60,7 @@ TEST_P(SheetLayout, OverlapsNoViews) {
   [parent release];
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, SheetLayout,
+INSTANTIATE_TEST_SUITE_P(Sizes, SheetPanelLayout,
                          testing::Values(NSMakeSize(1000, 640), NSMakeSize(528, 373),
                                          NSMakeSize(480, 380), NSMakeSize(390, 270),
                                          NSMakeSize(264, 190)));
