@@ -1,6 +1,7 @@
 #include "ShownJob.hpp"
 
 #include "DocumentNames.hpp"
+#include "FileVersion.hpp"
 #include "ShiftedJob.hpp"
 #include "Strings.hpp"
 
@@ -8,7 +9,6 @@
 #include <array>
 #include <charconv>
 #include <cstring>
-#include <sys/stat.h>
 
 namespace imageposition {
 
@@ -48,20 +48,13 @@ std::string text(const SideOrder &order) {
   return std::to_string(static_cast<int>(order.sides)) + (order.isReversed ? " reversed" : "");
 }
 
-/// Another one if the file has changed.
-std::string versionOf(const struct stat &file) {
-  return std::to_string(file.st_ino) + " " + std::to_string(file.st_size) + " " +
-         std::to_string(file.st_mtim.tv_sec) + "." + std::to_string(file.st_mtim.tv_nsec);
-}
-
 } // namespace
 
 std::optional<ShownDocument> documentToShow(const PrintJob &job,
                                             const DestinationList &destinations, int pages) try {
-  struct stat file {};
-  const bool isFile = !job.documents().empty() && job.documents().front() != "-" &&
-                      stat(job.documents().front().c_str(), &file) == 0 && S_ISREG(file.st_mode);
-  if (!isFile)
+  const bool isNamed = !job.documents().empty() && job.documents().front() != "-";
+  const std::string version = isNamed ? fileVersion(job.documents().front()) : "";
+  if (version.empty())
     return std::nullopt;
   ShownDocument shown;
   shown.path = job.documents().front();
@@ -81,8 +74,8 @@ std::optional<ShownDocument> documentToShow(const PrintJob &job,
   shown.job = std::make_shared<const ShiftedJob>(request, ShiftPlan{}, ppd, job.printer().text(),
                                                  device != nullptr ? device : "");
   for (const std::string &part :
-       {shown.path, shown.name, versionOf(file), job.queue(), job.printer().name(),
-        shown.job->layout(), text(shown.order), shown.pages ? text(*shown.pages) : ""})
+       {shown.path, shown.name, version, job.queue(), job.printer().name(), shown.job->layout(),
+        text(shown.order), shown.pages ? text(*shown.pages) : ""})
     shown.identity += part + '\n';
   return shown;
 } catch (const Failure &) { // printing says what is wrong

@@ -38,6 +38,8 @@ struct DocumentRowState;
 /// Whether the first page of the job's only document is wider than high. NO while that is not
 /// known.
 - (BOOL)isLandscape;
+/// Examines the document again if its file has changed since; a message says if it is gone.
+- (void)lookAtFile;
 /// Opens the window of the button that was pressed, if any: in an event, where a window can be
 /// shown.
 - (void)showQuestion;

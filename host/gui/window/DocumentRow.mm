@@ -3,6 +3,7 @@
 #include "DocumentExaminer.hpp"
 #include "DocumentNames.hpp"
 #include "DocumentTexts.hpp"
+#include "FileVersion.hpp"
 #include "JobTexts.hpp"
 #import "Labels.h"
 #import "MnemonicControls.h"
@@ -23,6 +24,7 @@ using namespace imageposition;
 
 struct imageposition::DocumentRowState {
   std::unique_ptr<DocumentExaminer> examiner; // GNU's Objective-C cannot encode its members
+  std::string version = {};                   // of the examined file
 };
 
 namespace {
@@ -54,6 +56,7 @@ std::string documentList(const std::vector<std::string> &paths) {
 
 @interface DocumentRow ()
 - (const std::vector<std::string> &)paths;
+- (std::string)fileToExamine;
 - (std::string)text;
 - (void)examine;
 - (void)press:(id)sender;
@@ -95,12 +98,26 @@ std::string documentList(const std::vector<std::string> &paths) {
   return [dialog session].job().documents();
 }
 
-- (void)examine {
+- (std::string)fileToExamine {
   const auto &paths = [self paths];
-  const bool isFile = paths.size() == 1 && paths.front() != "-";
-  state->examiner->examine(isFile ? paths.front() : "");
-  [listButton setHidden:paths.size() < 2];
+  return paths.size() == 1 && paths.front() != "-" ? paths.front() : "";
+}
+
+- (void)examine {
+  const std::string file = [self fileToExamine];
+  state->version = fileVersion(file);
+  state->examiner->examine(file);
+  [listButton setHidden:[self paths].size() < 2];
   [openButton setHidden:[dialog session].job().isPreparing()];
+}
+
+- (void)lookAtFile {
+  if (fileVersion([self fileToExamine]) == state->version)
+    return;
+  [self examine];
+  if (state->version.empty()) // the file is gone
+    [dialog say:documentTrouble([self paths].front())];
+  [dialog refresh];
 }
 
 - (int)pages {

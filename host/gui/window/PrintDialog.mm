@@ -166,6 +166,20 @@ struct imageposition::PrintDialogState {
   }];
 }
 
+/// The user may have saved the document again in another window.
+- (void)windowDidBecomeKey:(NSNotification *)notification {
+  (void)notification;
+  DocumentRow *const documentRow = documents;
+  Sheets *const shownSheets = sheets;
+  Sending *const sender = sending;
+  [window protect:[=] {
+    if ([sender isUnderWay])
+      return;
+    [documentRow lookAtFile];
+    [shownSheets jobChanged];
+  }];
+}
+
 - (KeyWindow *)window {
   return window;
 }
