@@ -7,6 +7,7 @@
 #include "PageRanges.hpp"
 #include "SettingTable.hpp"
 #include "Strings.hpp"
+#include "Units.hpp"
 
 #include <cups/cups.h>
 #include <cups/pwg.h>
@@ -21,7 +22,6 @@ namespace imageposition {
 
 namespace {
 
-constexpr double kMillimetresPerPoint = 25.4 / 72;
 constexpr const char *kCupsPrefix = "cups-";
 
 /// One value of a setting, and of the job's option that means the same.

@@ -1,5 +1,7 @@
 #include "SheetCanvas.hpp"
 
+#include "Units.hpp"
+
 #include <cairo-pdf.h>
 #include <pango/pangocairo.h>
 #include <qpdf/QPDF.hh>
@@ -13,10 +15,9 @@ namespace imageposition {
 
 namespace {
 
-constexpr double kPointsPerMillimetre = 72 / 25.4;
 constexpr const char *kFont = "sans-serif";
 
-double points(double millimetres) { return millimetres * kPointsPerMillimetre; }
+double points(double millimetres) { return millimetres / kMillimetresPerPoint; }
 
 cairo_status_t append(void *document, const unsigned char *data, unsigned int length) try {
   static_cast<std::string *>(document)->append(reinterpret_cast<const char *>(data), length);

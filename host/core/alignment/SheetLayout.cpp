@@ -1,5 +1,7 @@
 #include "SheetLayout.hpp"
 
+#include "Units.hpp"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,7 +9,6 @@ namespace imageposition {
 
 namespace {
 
-constexpr double kMillimetresPerPoint = 25.4 / 72;
 constexpr double kInset = 4; // for offsets that move the sheet itself
 constexpr double kGap = 4;
 constexpr double kMiddleWidth = 76;

@@ -18,7 +18,8 @@ struct Point {
   double count = 0;
 };
 
-constexpr double kTenthMillimetresPerPoint = 254.0 / 72.0;
+constexpr double kMillimetresPerPoint = 25.4 / 72;
+constexpr double kTenthMillimetresPerPoint = 10 * kMillimetresPerPoint;
 
 constexpr Point toPoints(TenthMillimetre length) noexcept {
   return {static_cast<double>(length.count) / kTenthMillimetresPerPoint};

@@ -3,6 +3,7 @@
 #import "PreviewDrawing.h"
 #import "TextBridge.h"
 #import "ThemeColors.h"
+#include "Units.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -10,8 +11,6 @@
 using namespace imageposition;
 
 namespace {
-
-constexpr double kMillimetresPerPoint = 25.4 / 72;
 
 double pixels(double millimetres) { return millimetres * kScalePointsPerMillimetre; }
 
