@@ -72,13 +72,22 @@ std::string reportOnPdf(const std::string &path) try {
   QPDF pdf;
   pdf.setSuppressWarnings(true);
   pdf.processMemoryFile("document", mapped.content().data(), mapped.content().size());
+  if (!pdf.allowPrintLowRes()) // as CUPS's filter decides
+    return writeDefect(DocumentDefect::Forbidden);
   auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
   if (pages.empty())
     return {};
   return writeFacts({static_cast<int>(pages.size()), paperOfAll(pages)});
 } catch (const QPDFExc &error) {
-  return error.getErrorCode() == qpdf_e_password ? kPasswordNeeded : "";
-} catch (const std::exception &) { // damaged, or too large
+  switch (error.getErrorCode()) {
+  case qpdf_e_password:
+    return writeDefect(DocumentDefect::Password);
+  case qpdf_e_damaged_pdf:
+    return writeDefect(DocumentDefect::Damaged);
+  default:
+    return {};
+  }
+} catch (const std::exception &) { // too large, or so damaged that QPDF did not expect it
   return {};
 }
 

@@ -8,7 +8,7 @@
 
 namespace imageposition {
 
-/// The line of `writeFacts`, or `kPasswordNeeded`. Empty for a file that cannot be read, is not a
+/// The line of `writeFacts` or of `writeDefect`. Empty for a file that cannot be read, is not a
 /// regular file or no PDF, or has no pages. May take long, and much memory.
 std::string reportOnPdf(const std::string &path);
 

@@ -378,6 +378,13 @@ std::vector<Sentence> Person::sentences() {
       {"click on the picture", [=](const StepValues &) { click(frontPage(), kClick); }},
       {"click on the enlarged sheet",
        [=](const StepValues &) { click(visible("sheet", ""), kClick); }},
+      {"point at the picture", [=](const StepValues &) { pointAt(frontPage()); }},
+      {"drag the enlarged sheet",
+       [=](const StepValues &) {
+         pointAt(visible("sheet", ""));
+         xdotool({"mousedown", "1", "mousemove_relative", "--", "0", "-40", "mousemove_relative",
+                  "--", "0", "-60", "mouseup", "1"});
+       }},
       {"click on the item \"*\"", [=](const StepValues &v) { click(item(v[0]), kClick); }},
       {"point at the item \"*\"", [=](const StepValues &v) { pointAt(item(v[0])); }},
       {"drag from the list beside \"*\" to the item \"*\"",

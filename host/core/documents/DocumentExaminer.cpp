@@ -86,7 +86,7 @@ public:
           {
             const std::lock_guard<std::mutex> lock(mutex_);
             facts_ = readFacts(report);
-            needsPassword_ = report == kPasswordNeeded;
+            defect_ = readDefect(report);
             isDone_ = true;
           }
           if (!isStopped_)
@@ -103,9 +103,9 @@ public:
     const std::lock_guard<std::mutex> lock(mutex_);
     return facts_;
   }
-  bool needsPassword() const {
+  std::optional<DocumentDefect> defect() const {
     const std::lock_guard<std::mutex> lock(mutex_);
-    return needsPassword_;
+    return defect_;
   }
   bool isDone() const {
     const std::lock_guard<std::mutex> lock(mutex_);
@@ -116,7 +116,7 @@ private:
   std::atomic<bool> isStopped_{false};
   mutable std::mutex mutex_;
   std::optional<DocumentFacts> facts_;
-  bool needsPassword_ = false;
+  std::optional<DocumentDefect> defect_;
   bool isDone_ = false;
   std::thread thread_; // last: uses the others
 };
@@ -140,13 +140,15 @@ std::optional<DocumentFacts> DocumentExaminer::facts() const {
   return work_ != nullptr ? work_->facts() : std::nullopt;
 }
 
-bool DocumentExaminer::needsPassword() const { return work_ != nullptr && work_->needsPassword(); }
+std::optional<DocumentDefect> DocumentExaminer::defect() const {
+  return work_ != nullptr ? work_->defect() : std::nullopt;
+}
 
 bool DocumentExaminer::isDone() const { return work_ == nullptr || work_->isDone(); }
 
-bool needsPassword(const std::string &path) {
+std::optional<DocumentDefect> defectOf(const std::string &path) {
   const std::atomic<bool> isStopped{false};
-  return Examination(path).report(isStopped) == kPasswordNeeded;
+  return readDefect(Examination(path).report(isStopped));
 }
 
 } // namespace imageposition

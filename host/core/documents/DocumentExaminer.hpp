@@ -32,8 +32,8 @@ public:
   /// Empty until they are known, and for a document that cannot be examined within seconds.
   std::optional<DocumentFacts> facts() const;
 
-  /// Whether it is known that only a password opens the document.
-  bool needsPassword() const;
+  /// Why CUPS cannot print the document; empty until that is known.
+  std::optional<DocumentDefect> defect() const;
 
   /// Whether there is nothing to wait for.
   bool isDone() const;
@@ -45,9 +45,9 @@ private:
   std::unique_ptr<Work> work_; // null without a document
 };
 
-/// Whether the document is a PDF file that only a password opens, so CUPS cannot print it. Waits
-/// for the process that reads it, for a few seconds at most. False if that is not known.
-bool needsPassword(const std::string &path);
+/// Why CUPS cannot print the document. Waits for the process that reads it, for a few seconds at
+/// most. Empty if nothing is known.
+std::optional<DocumentDefect> defectOf(const std::string &path);
 
 } // namespace imageposition
 

@@ -54,4 +54,23 @@ std::optional<DocumentFacts> readFacts(std::string_view line) {
   return facts;
 }
 
+std::string writeDefect(DocumentDefect defect) {
+  switch (defect) {
+  case DocumentDefect::Password:
+    return "password\n";
+  case DocumentDefect::Forbidden:
+    return "forbidden\n";
+  default:
+    return "damaged\n";
+  }
+}
+
+std::optional<DocumentDefect> readDefect(std::string_view line) {
+  for (const auto defect :
+       {DocumentDefect::Password, DocumentDefect::Forbidden, DocumentDefect::Damaged})
+    if (line == writeDefect(defect))
+      return defect;
+  return std::nullopt;
+}
+
 } // namespace imageposition

@@ -30,8 +30,17 @@ std::string writeFacts(const DocumentFacts &facts);
 /// None if the line is not one that `writeFacts` returns.
 std::optional<DocumentFacts> readFacts(std::string_view line);
 
-/// The line with which the examiner reports a document that only a password opens.
-constexpr const char *kPasswordNeeded = "password\n";
+/// Why CUPS's filters refuse a PDF file.
+enum class DocumentDefect {
+  Password,  ///< Only a password opens it.
+  Forbidden, ///< Its owner does not allow printing.
+  Damaged,
+};
+
+/// The line with which the examiner reports a defect.
+std::string writeDefect(DocumentDefect defect);
+/// None if the line is not one that `writeDefect` returns.
+std::optional<DocumentDefect> readDefect(std::string_view line);
 
 } // namespace imageposition
 

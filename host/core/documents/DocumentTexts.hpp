@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTTEXTS_HPP
 #define IMAGEPOSITION_CORE_DOCUMENTS_DOCUMENTTEXTS_HPP
 
+#include "DocumentFacts.hpp"
 #include "Text.hpp"
 
 #include <string>
@@ -12,8 +13,8 @@ std::string pageCount(int pages);
 /// The document's paper, "A5", and the media in the printer, "A4".
 std::string paperOnMedia(const std::string &paper, const std::string &media);
 std::string millimetres(const std::string &width, const std::string &length);
-/// About a document, after its name.
-extern const Text kRequiresPassword;
+/// Follows the document's name.
+const Text &defectInWords(DocumentDefect defect);
 /// Why pages cannot be printed.
 std::string documentHasPages(int pages);
 std::string documentHasSides(int sides);

@@ -17,11 +17,12 @@ namespace imageposition {
 
 namespace {
 
-/// CUPS accepts documents that only a password opens, and prints nothing.
-void warnOfPasswords(const JobDocuments &documents) {
-  for (const std::string &document : documents)
-    if (document != "-" && needsPassword(document))
-      std::cerr << messages::passwordNeeded(documentName(document)) << '\n';
+void warnOfDefects(const JobDocuments &documents) {
+  for (const std::string &document : documents) {
+    const auto defect = document == "-" ? std::nullopt : defectOf(document);
+    if (defect)
+      std::cerr << messages::printsNothing(documentName(document), *defect) << '\n';
+  }
 }
 
 } // namespace
@@ -62,7 +63,7 @@ void JobSender::warn(const PrintedContent &content, bool isShifted) const {
   if (isBackIgnored(arguments_, printer_.printer->ppd(), content.settings))
     std::cerr << messages::kBackIgnored.view() << '\n';
   if (!arguments_.isSilent && !isShifted)
-    warnOfPasswords(content.documents);
+    warnOfDefects(content.documents);
 }
 
 /// `shifted` is null if the dialog does not move the image.

@@ -29,11 +29,20 @@ std::string jobSentWithoutOutput(const std::string &job) {
 const Text kBackIgnored =
     text("The back's offsets have no effect, because the back follows the front. To "
          "separate them, add --back on.");
-std::string passwordNeeded(const std::string &document) {
-  return text(
-             "\"{1}\" is protected by a password: CUPS accepts it, but prints nothing. Save a copy "
-             "without it, and print that.")
-      .with(document);
+std::string printsNothing(const std::string &document, DocumentDefect defect) {
+  switch (defect) {
+  case DocumentDefect::Password:
+    return text("\"{1}\" is protected by a password: CUPS accepts it, but prints nothing. Save a "
+                "copy without it, and print that.")
+        .with(document);
+  case DocumentDefect::Forbidden:
+    return text("\"{1}\" does not allow printing: CUPS accepts it, but prints nothing.")
+        .with(document);
+  default:
+    return text("\"{1}\" is damaged: CUPS accepts it, but may print nothing. Save it again, and "
+                "print that.")
+        .with(document);
+  }
 }
 // lp's English output, which scripts parse.
 std::string jobSent(const std::string &printer, int id, std::size_t files) {

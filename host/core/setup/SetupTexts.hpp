@@ -2,6 +2,7 @@
 #ifndef IMAGEPOSITION_CORE_SETUP_SETUPTEXTS_HPP
 #define IMAGEPOSITION_CORE_SETUP_SETUPTEXTS_HPP
 
+#include "DocumentFacts.hpp"
 #include "Text.hpp"
 
 #include <string>
@@ -21,7 +22,8 @@ std::string outputUnwritable(const std::string &done);
 /// The command line has offsets for the back without the flag that they need.
 extern const Text kBackIgnored;
 
-std::string passwordNeeded(const std::string &document);
+/// CUPS accepts the document nevertheless.
+std::string printsNothing(const std::string &document, DocumentDefect defect);
 
 /// lp's output, which scripts parse; not translated.
 std::string jobSent(const std::string &printer, int id, std::size_t files);

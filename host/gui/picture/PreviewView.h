@@ -15,9 +15,11 @@ namespace imageposition {
 struct PreviewViewState;
 }
 
-/// The action of a click on one of the pages in the picture.
+/// What the user does with the mouse in the picture.
 @protocol PreviewViewTarget
 - (void)pageClicked:(imageposition::PreviewLayout::Place)place;
+/// The wheel was turned up (-1) or down (1) where nothing scrolls.
+- (void)turnBy:(int)sheets;
 @end
 
 /// Shows both sides to scale at the top, with the back as it lies behind the front. Below, shows

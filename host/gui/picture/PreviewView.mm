@@ -1,7 +1,10 @@
 #import "PreviewView.h"
 
+#import "Click.h"
+#import "KeyScrollView.h"
 #include "Phrases.hpp"
 #import "PreviewDrawing.h"
+#import "SheetBar.h"
 #import "TextBridge.h"
 
 #include <optional>
@@ -13,7 +16,8 @@ struct imageposition::PreviewViewState {
   std::optional<Preview> preview;
   NSToolTipTag toolTip = 0;
   SheetPainter painter;
-  std::string sheet; // in words; may be empty
+  std::string sheet;    // in words; may be empty
+  NSPoint pressed = {}; // in the window
 };
 
 @interface PreviewView ()
@@ -79,14 +83,25 @@ struct imageposition::PreviewViewState {
   target = theTarget;
 }
 
+- (void)mouseDown:(NSEvent *)event {
+  state->pressed = [event locationInWindow];
+}
+
 - (void)mouseUp:(NSEvent *)event {
   const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
-  if (!state->preview)
+  if (!state->preview || !isClick(state->pressed, [event locationInWindow]))
     return;
   const PreviewLayout layout = [self layout];
   for (const auto place : {PreviewLayout::Front, PreviewLayout::Back, PreviewLayout::AgainstLight})
     if (layout.pages[place].page.contains({at.x, at.y}))
       [target pageClicked:place];
+}
+
+- (void)scrollWheel:(NSEvent *)event {
+  if (isScrollable(self))
+    [super scrollWheel:event];
+  else
+    [target turnBy:sheetsOfWheel(event)];
 }
 
 - (void)drawRect:(NSRect)dirty {

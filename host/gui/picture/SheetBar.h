@@ -17,6 +17,9 @@ std::string sheetText(const SheetImages &images);
 /// current one for other keys.
 int sheetAfterKey(NSEvent *event, const SheetImages &images);
 
+/// How many sheets the mouse's wheel turns: -1 for up, 1 for down, or 0.
+int sheetsOfWheel(NSEvent *event);
+
 } // namespace imageposition
 
 @protocol SheetTurning

@@ -57,6 +57,11 @@ int sheetAfterKey(NSEvent *event, const SheetImages &images) {
   }
 }
 
+int sheetsOfWheel(NSEvent *event) {
+  const CGFloat up = [event deltaY];
+  return up > 0 ? -1 : up < 0 ? 1 : 0;
+}
+
 } // namespace imageposition
 
 namespace {

@@ -1,5 +1,6 @@
 #import "SheetView.h"
 
+#import "Click.h"
 #import "KeyWindow.h"
 #import "PreviewDrawing.h"
 #import "SheetPictures.h"
@@ -19,6 +20,7 @@ struct imageposition::SheetViewState {
   id<SheetTurning> target; // not owned
   PreviewLayout::Place place = PreviewLayout::Front;
   SheetPainter painter;
+  NSPoint pressed = {}; // in the window
 };
 
 namespace {
@@ -99,7 +101,7 @@ void drawFocus(const PixelRectangle &page) {
              target:(id<SheetTurning>)target {
   if ((self = [super initWithFrame:frame]) == nil)
     return nil;
-  state = new SheetViewState{images, preview, target, PreviewLayout::Front, {}};
+  state = new SheetViewState{images, preview, target, PreviewLayout::Front, {}, {}};
   [self refresh];
   return self;
 }
@@ -147,10 +149,22 @@ void drawFocus(const PixelRectangle &page) {
   return [self layout].pixelsPerPoint;
 }
 
+- (void)mouseDown:(NSEvent *)event {
+  state->pressed = [event locationInWindow];
+}
+
 - (void)mouseUp:(NSEvent *)event {
+  if (!isClick(state->pressed, [event locationInWindow]))
+    return;
   const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
   if ([self layout].pages[state->place].page.contains({at.x, at.y}))
     [(id<KeyWindowDelegate>)[[self window] delegate] dismiss];
+}
+
+- (void)scrollWheel:(NSEvent *)event {
+  const int sheet = state->images.sheet() + sheetsOfWheel(event);
+  if (sheet != state->images.sheet())
+    [state->target turnTo:sheet];
 }
 
 - (void)keyDown:(NSEvent *)event {

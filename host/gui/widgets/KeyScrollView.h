@@ -23,4 +23,11 @@
 + (CGFloat)roomForFocus;
 @end
 
+namespace imageposition {
+
+/// Whether the view is in a `KeyScrollView` that hides a part of its content.
+bool isScrollable(NSView *view);
+
+} // namespace imageposition
+
 #endif

@@ -138,3 +138,11 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
 }
 
 @end
+
+bool imageposition::isScrollable(NSView *view) {
+  NSScrollView *outer = [view enclosingScrollView];
+  for (; outer != nil; outer = [outer enclosingScrollView])
+    if ([outer isKindOfClass:[KeyScrollView class]] && [(KeyScrollView *)outer hasMore])
+      return true;
+  return false;
+}

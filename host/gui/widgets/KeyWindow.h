@@ -22,6 +22,8 @@
 @optional
 /// The user pressed F1.
 - (void)help;
+/// The user pressed Page Up (-1) or Page Down (1) where nothing scrolls.
+- (void)turnPages:(int)direction;
 /// Follows `wakeModalLoop`.
 - (void)wake;
 /// The window handled a click on the view, or a key while the view had the focus. Not sent for the

@@ -2,6 +2,7 @@
 
 #import "Checkbox.h"
 #import "Guard.h"
+#import "KeyScrollView.h"
 #include "Mnemonic.hpp"
 
 #include <algorithm>
@@ -90,6 +91,19 @@ constexpr NSUInteger kMouseEvents =
     NSRightMouseUpMask | NSRightMouseDraggedMask | NSOtherMouseDownMask | NSOtherMouseUpMask |
     NSOtherMouseDraggedMask | NSMouseMovedMask | NSScrollWheelMask;
 
+/// How many pages down a key turns; 0 for other keys.
+int pagesOf(NSEvent *event) {
+  NSString *const characters = [event charactersIgnoringModifiers];
+  switch ([characters length] == 1 ? [characters characterAtIndex:0] : 0) {
+  case NSPageUpFunctionKey:
+    return -1;
+  case NSPageDownFunctionKey:
+    return 1;
+  default:
+    return 0;
+  }
+}
+
 /// The view that an event is for, or null.
 NSView *targetOf(NSEvent *event, KeyWindow *window) {
   const NSUInteger mask = NSEventMaskFromType([event type]);
@@ -134,6 +148,8 @@ bool canBeReached(NSView *control) {
 - (void)handleEvent:(NSEvent *)event;
 /// Whether the key was the dialog's own.
 - (BOOL)handleKey:(NSEvent *)event;
+/// Whether the delegate takes the key to turn pages.
+- (BOOL)turnPagesBy:(NSEvent *)event;
 /// Reports an exception to the delegate.
 - (void)report:(NSString *)what in:(NSView *)view;
 @end
@@ -312,9 +328,27 @@ bool canBeReached(NSView *control) {
   case Key::Other:
     break;
   }
+  if ([focus isKindOfClass:[NSText class]] && !imageposition::isScrollable([self focusedView]) &&
+      [self turnPagesBy:event])
+    return YES;
   // A letter with Alt is not meant for a field, even if it is not a shortcut.
   return [self reachControl:event] ||
          ([focus isKindOfClass:[NSText class]] && isPrintable(letterOf(event)));
+}
+
+- (BOOL)turnPagesBy:(NSEvent *)event {
+  const int direction = pagesOf(event);
+  id<KeyWindowDelegate> const owner = (id<KeyWindowDelegate>)[self delegate];
+  if (direction == 0 || ![owner respondsToSelector:@selector(turnPages:)])
+    return NO;
+  [owner turnPages:direction];
+  return YES;
+}
+
+/// Receives the keys that no view has used.
+- (void)keyDown:(NSEvent *)event {
+  if (![self turnPagesBy:event])
+    [super keyDown:event];
 }
 
 @end

@@ -28,8 +28,10 @@ NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold = f
 CGFloat paragraphHeight(NSString *text, NSFont *font, CGFloat width);
 
 /// Shows a string on one line of that width. If it does not fit, an ellipsis replaces its middle,
-/// and a tooltip shows the full string unless it is very long.
-void showCut(NSTextField *label, const std::string &text, CGFloat width);
+/// and a tooltip shows the full string unless it is very long. `ending` follows the string, and is
+/// kept whole if there is room for it and for some of the string.
+void showCut(NSTextField *label, const std::string &text, CGFloat width,
+             const std::string &ending = {});
 
 } // namespace imageposition
 

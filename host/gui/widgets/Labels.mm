@@ -10,6 +10,7 @@ namespace imageposition {
 namespace {
 
 constexpr NSUInteger kLongestLine = 1000;
+constexpr NSUInteger kLeastBeforeEnding = 8; // characters of a string that is cut
 constexpr NSUInteger kLongestParagraph = 4000;
 constexpr CGFloat kCellMargin = 2; // of a text field, to both sides of its text
 
@@ -78,13 +79,21 @@ NSTextField *makeParagraph(const std::string &text, CGFloat width, bool bold) {
   return label;
 }
 
-void showCut(NSTextField *label, const std::string &text, CGFloat width) {
-  NSString *const whole = cutTo(kLongestLine, toString(text));
-  NSString *shown = whole;
+void showCut(NSTextField *label, const std::string &text, CGFloat width,
+             const std::string &ending) {
+  NSString *const end = cutTo(kLongestLine, toString(ending));
+  NSString *const start = cutTo(kLongestLine, toString(text));
+  NSString *const whole = [start stringByAppendingString:end];
   [label setFont:fontThatShows(whole, [NSFont systemFontOfSize:[[label font] pointSize]])];
+  NSFont *const font = [label font];
   const CGFloat room = width - 2 * kCellMargin;
-  for (NSUInteger kept = [whole length]; kept > 0 && [[label font] widthOfString:shown] > room;)
-    shown = withoutMiddle(whole, --kept);
+  const auto isTooWide = [=](NSString *line) { return [font widthOfString:line] > room; };
+  NSString *shown = whole;
+  for (NSUInteger kept = [start length]; kept > kLeastBeforeEnding && isTooWide(shown);)
+    shown = [withoutMiddle(start, --kept) stringByAppendingString:end];
+  if (isTooWide(shown))
+    for (NSUInteger kept = [whole length]; kept > 0 && isTooWide(shown);)
+      shown = withoutMiddle(whole, --kept);
   [label setStringValue:shown];
   [label setToolTip:shown == whole ? nil : whole];
   [label setFrameSize:NSMakeSize(width, NSHeight([label frame]))];

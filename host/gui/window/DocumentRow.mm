@@ -57,7 +57,8 @@ std::string documentList(const std::vector<std::string> &paths) {
 @interface DocumentRow ()
 - (const std::vector<std::string> &)paths;
 - (std::string)fileToExamine;
-- (std::string)text;
+- (std::string)name;
+- (std::string)remarks;
 - (void)examine;
 - (void)press:(id)sender;
 - (void)open;
@@ -140,24 +141,33 @@ std::string documentList(const std::vector<std::string> &paths) {
 }
 
 - (void)refresh {
-  showCut(label, [self text], NSWidth([label frame]));
+  showCut(label, [self name], NSWidth([label frame]), [self remarks]);
   if ([self paths].size() > 1)
     [label setToolTip:toString(documentList([self paths]))];
 }
 
-- (std::string)text {
+- (std::string)name {
   PrintJob &job = [dialog session].job();
   if (job.isPreparing())
     return messages::kDocumentOfApplication;
   if (job.documents().empty())
     return job.hasDocument() ? messages::kStandardInput : messages::kNoDocument;
-  std::string text = documentsInWords(job.documents());
-  if (state->examiner->needsPassword())
-    text += " · " + messages::kRequiresPassword.str();
+  return documentsInWords(job.documents());
+}
+
+/// What is known of the document, to follow its name.
+- (std::string)remarks {
+  std::vector<std::string> remarks;
+  if (const auto defect = state->examiner->defect())
+    remarks.push_back(messages::defectInWords(*defect));
   if (const auto facts = state->examiner->facts()) {
-    const std::string paper = paperMismatch(*facts, job.printer().ppd());
-    text += " · " + messages::pageCount(facts->pages) + (paper.empty() ? "" : " · " + paper);
+    remarks.push_back(messages::pageCount(facts->pages));
+    remarks.push_back(paperMismatch(*facts, [dialog session].job().printer().ppd()));
   }
+  std::string text;
+  for (const std::string &remark : remarks)
+    if (!remark.empty())
+      text += " · " + remark;
   return text;
 }
 

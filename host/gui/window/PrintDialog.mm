@@ -315,6 +315,10 @@ struct imageposition::PrintDialogState {
     [NSApp stopModalWithCode:NSCancelButton];
 }
 
+- (void)turnPages:(int)direction {
+  [sheets turnBy:direction];
+}
+
 - (void)help {
   if ([sending isUnderWay]) // only Cancel can be used
     return;

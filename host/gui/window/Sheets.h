@@ -31,6 +31,9 @@ struct SheetsState;
 - (void)jobChanged;
 /// Shows another preview in the picture.
 - (void)showPreview:(const imageposition::Preview &)preview;
+/// Turns forward, or backward by a negative number, as far as there are sheets. Does nothing while
+/// a document is sent.
+- (void)turnBy:(int)sheets;
 /// Takes what was fetched in the background.
 - (void)look;
 

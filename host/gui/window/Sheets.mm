@@ -141,6 +141,11 @@ struct imageposition::SheetsState {
   [self refresh];
 }
 
+- (void)turnBy:(int)sheets {
+  if (![self isLocked])
+    [self turnTo:state->images->sheet() + sheets];
+}
+
 - (void)pageClicked:(PreviewLayout::Place)place {
   if (![self isLocked])
     [self enlargePlace:place];

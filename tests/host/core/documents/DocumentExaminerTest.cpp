@@ -1,6 +1,7 @@
 #include "DocumentExaminer.hpp"
 
 #include "DrawnPdf.hpp"
+#include "ForbiddingPdf.hpp"
 #include "PdfFile.hpp"
 #include "TemporaryFolder.hpp"
 #include "Waiting.hpp"
@@ -120,11 +121,17 @@ TEST_F(Examiner, KnowsNothingOfWhatIsNoUsablePdf) {
     EXPECT_FALSE(examineContent(row.content)) << row.what;
 }
 
-TEST_F(Examiner, KnowsThatADocumentRequiresAPassword) {
+TEST_F(Examiner, KnowsWhyADocumentCannotBePrinted) {
   EXPECT_FALSE(examineContent(pdfWithPassword()));
-  EXPECT_TRUE(examiner_.needsPassword());
+  EXPECT_EQ(examiner_.defect(), DocumentDefect::Password);
   EXPECT_TRUE(examineContent(pdfWithPages({kA4})));
-  EXPECT_FALSE(examiner_.needsPassword());
+  EXPECT_FALSE(examiner_.defect());
+  EXPECT_FALSE(examineContent(pdfThatForbidsPrinting()));
+  EXPECT_EQ(examiner_.defect(), DocumentDefect::Forbidden);
+  EXPECT_FALSE(examineContent(pdfWithPages({kA4}).substr(0, 40)));
+  EXPECT_EQ(examiner_.defect(), DocumentDefect::Damaged);
+  EXPECT_FALSE(examineContent("Dear Sir or Madam"));
+  EXPECT_FALSE(examiner_.defect());
 }
 
 TEST_F(Examiner, DoesNotWaitForAPipe) {

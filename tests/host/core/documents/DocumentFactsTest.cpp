@@ -27,6 +27,16 @@ TEST(DocumentFacts, AreNotReadFromAnythingElse) {
     EXPECT_FALSE(readFacts(line)) << line;
 }
 
+TEST(DocumentDefect, ArrivesAsItWasWritten) {
+  for (const auto defect :
+       {DocumentDefect::Password, DocumentDefect::Forbidden, DocumentDefect::Damaged}) {
+    EXPECT_EQ(readDefect(writeDefect(defect)), defect);
+    EXPECT_FALSE(readFacts(writeDefect(defect)));
+  }
+  for (const char *line : {"", "\n", "password", "password\n\n", "12\n"})
+    EXPECT_FALSE(readDefect(line)) << line;
+}
+
 TEST(PaperSize, IsTheSameOnItsSideAndWithinFivePoints) {
   EXPECT_TRUE(kA4.isSame(kA4));
   EXPECT_TRUE(kA4.isSame({{841.89}, {595.276}}));

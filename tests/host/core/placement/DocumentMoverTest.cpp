@@ -2,6 +2,7 @@
 
 #include "DrawnPdf.hpp"
 #include "DrawnRectangles.hpp"
+#include "ForbiddingPdf.hpp"
 #include "ProcessRun.hpp"
 #include "TemporaryData.hpp"
 #include "TemporaryFolder.hpp"
@@ -163,20 +164,6 @@ TEST_F(DocumentMover, DoesWithoutTheChooserForPdfAlone) {
   task_.chooser.clear();
   EXPECT_TRUE(move(pdfWithNumberedPages(1)));
   EXPECT_EQ(problemWith("Dear Sir or Madam\n"), MoveProblem::NoConversion);
-}
-
-/// Can be read without a password.
-std::string pdfThatForbidsPrinting() {
-  const std::string content = pdfWithNumberedPages(1);
-  QPDF pdf;
-  pdf.processMemoryFile("document", content.data(), content.size());
-  QPDFWriter writer(pdf);
-  writer.setOutputMemory();
-  writer.setR6EncryptionParameters("", "owner", true, true, true, true, true, true, qpdf_r3p_none,
-                                   true);
-  writer.write();
-  const auto buffer = writer.getBufferSharedPointer();
-  return {reinterpret_cast<const char *>(buffer->getBuffer()), buffer->getSize()};
 }
 
 TEST_F(DocumentMover, RespectsTheOwnerOfTheDocumentForSomePagesToo) {
