@@ -22,12 +22,6 @@ std::vector<HelpSection> helpSections() {
        {text("A positive number moves the image right or down, as you look at that side. A "
              "negative number moves it left or up."),
         text("While the box is not checked, the front's offsets move both sides.")}},
-      {text("See the pages"),
-       {text(
-            "The arrow buttons below the picture turn the sheets; so do Page Up, Page Down and the "
-            "mouse's wheel over the picture."),
-        text(
-            "Enlarge, or a click on a page, shows the sheet larger, with a grid in millimetres.")}},
       {text("Keep the offsets"),
        {text("A preset saves all settings for this printer under a name. lp -d printer/preset "
              "prints with them too."),
@@ -36,7 +30,8 @@ std::vector<HelpSection> helpSections() {
             "settings to a file, and \"Save as PDF\" the pages.")}},
       {text("Keys"),
        {text("Alt and an underlined letter go to that control, Tab goes to the next. Return "
-             "prints, Escape cancels.")}},
+             "prints, Escape cancels."),
+        text("Page Up, Page Down and the mouse's wheel over the picture turn the sheets.")}},
   };
 }
 
