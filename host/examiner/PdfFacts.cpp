@@ -7,7 +7,6 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 
-#include <array>
 #include <cmath>
 #include <exception>
 #include <fcntl.h>
@@ -32,11 +31,18 @@ Descriptor opened(const std::string &path) {
   return file;
 }
 
-bool isPdf(const Descriptor &file) {
-  std::array<char, kHeadRoom> head{};
+constexpr std::string_view kHeader = "%PDF-";
+
+std::string headOf(const Descriptor &file) {
+  std::string head(kHeadRoom, '\0');
   const ssize_t count = pread(file.get(), head.data(), head.size(), 0);
-  const std::string_view text(head.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
-  return text.find("%PDF-") != std::string_view::npos;
+  head.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+  return head;
+}
+
+/// Other bytes before the header may mean that CUPS knows the document as another type.
+std::string reportOnDamage(const std::string &head) {
+  return head.compare(0, kHeader.size(), kHeader) == 0 ? writeDefect(DocumentDefect::Damaged) : "";
 }
 
 /// None if the page has no usable size.
@@ -62,12 +68,8 @@ std::optional<PaperSize> paperOfAll(std::vector<QPDFPageObjectHelper> &pages) {
   return first;
 }
 
-} // namespace
-
-std::string reportOnPdf(const std::string &path) try {
-  const Descriptor file = opened(path);
-  if (!file.isOpen() || !isPdf(file))
-    return {};
+/// Throws what QPDF did not expect.
+std::string reportOn(const Descriptor &file, const std::string &head) try {
   const MappedFile mapped(file); // QPDF seeks for each token: in a file that takes half of the time
   QPDF pdf;
   pdf.setSuppressWarnings(true);
@@ -83,10 +85,20 @@ std::string reportOnPdf(const std::string &path) try {
   case qpdf_e_password:
     return writeDefect(DocumentDefect::Password);
   case qpdf_e_damaged_pdf:
-    return writeDefect(DocumentDefect::Damaged);
+    return reportOnDamage(head);
   default:
     return {};
   }
+}
+
+} // namespace
+
+std::string reportOnPdf(const std::string &path) try {
+  const Descriptor file = opened(path);
+  const std::string head = file.isOpen() ? headOf(file) : "";
+  if (head.find(kHeader) == std::string::npos)
+    return {};
+  return reportOn(file, head);
 } catch (const std::exception &) { // too large, or so damaged that QPDF did not expect it
   return {};
 }

@@ -3,6 +3,7 @@
 #include "ResourceLimits.hpp"
 
 #include <cstdio>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,6 +30,8 @@ int main(int argc, char **argv) {
   limitResource(RLIMIT_FSIZE, 0);
   limitResource(RLIMIT_CORE, 0);
   alarm(kLifetime);
+  // QPDF takes a lack of memory for damage.
+  std::set_new_handler([] { _exit(1); });
   const std::string line = imageposition::reportOnPdf(argv[1]);
   const ssize_t count = write(STDOUT_FILENO, line.data(), line.size());
   return !line.empty() && count == static_cast<ssize_t>(line.size()) ? 0 : 1;

@@ -29,10 +29,11 @@ public:
   /// Forgets the last document and starts with this one; an empty path means none.
   void examine(const std::string &path);
 
-  /// Empty until they are known, and for a document that cannot be examined within seconds.
+  /// Empty until they are known, for a document with a defect, and for one that cannot be examined
+  /// within seconds.
   std::optional<DocumentFacts> facts() const;
 
-  /// Why CUPS cannot print the document; empty until that is known.
+  /// Why CUPS cannot, or may not be able to, print the document; empty until that is known.
   std::optional<DocumentDefect> defect() const;
 
   /// Whether there is nothing to wait for.
@@ -45,8 +46,8 @@ private:
   std::unique_ptr<Work> work_; // null without a document
 };
 
-/// Why CUPS cannot print the document. Waits for the process that reads it, for a few seconds at
-/// most. Empty if nothing is known.
+/// Why CUPS cannot, or may not be able to, print the document. Waits for the process that reads it,
+/// for a few seconds at most. Empty if nothing is known.
 std::optional<DocumentDefect> defectOf(const std::string &path);
 
 } // namespace imageposition

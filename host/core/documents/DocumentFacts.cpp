@@ -60,9 +60,10 @@ std::string writeDefect(DocumentDefect defect) {
     return "password\n";
   case DocumentDefect::Forbidden:
     return "forbidden\n";
-  default:
-    return "damaged\n";
+  case DocumentDefect::Damaged:
+    break;
   }
+  return "damaged\n";
 }
 
 std::optional<DocumentDefect> readDefect(std::string_view line) {

@@ -30,11 +30,11 @@ std::string writeFacts(const DocumentFacts &facts);
 /// None if the line is not one that `writeFacts` returns.
 std::optional<DocumentFacts> readFacts(std::string_view line);
 
-/// Why CUPS's filters refuse a PDF file.
+/// Why CUPS's filters refuse a PDF file, or probably do.
 enum class DocumentDefect {
   Password,  ///< Only a password opens it.
   Forbidden, ///< Its owner does not allow printing.
-  Damaged,
+  Damaged,   ///< QPDF, with which the filters read it, cannot.
 };
 
 /// The line with which the examiner reports a defect.

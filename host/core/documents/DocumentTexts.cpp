@@ -12,18 +12,21 @@ std::string millimetres(const std::string &width, const std::string &length) {
   return text("{1} × {2} mm").with(width, length);
 }
 const Text &defectInWords(DocumentDefect defect) {
-  // Translators: these follow a document's name.
-  static const Text password = text("requires a password, so CUPS will print nothing"),
-                    forbidden = text("does not allow printing, so CUPS will print nothing"),
-                    damaged = text("is damaged, so CUPS may print nothing");
+  // Translators: follows a document's name.
+  static const Text password = text("requires a password, so CUPS will print nothing");
+  // Translators: follows a document's name.
+  static const Text forbidden = text("does not allow printing, so CUPS will print nothing");
+  // Translators: follows a document's name.
+  static const Text damaged = text("is damaged, so CUPS may print nothing");
   switch (defect) {
   case DocumentDefect::Password:
     return password;
   case DocumentDefect::Forbidden:
     return forbidden;
-  default:
-    return damaged;
+  case DocumentDefect::Damaged:
+    break;
   }
+  return damaged;
 }
 std::string documentHasPages(int pages) {
   return counted(pages, "The document has {1} page.", "The document has {1} pages.");

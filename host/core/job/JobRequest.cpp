@@ -11,6 +11,7 @@
 #include "VisibleText.hpp"
 
 #include <algorithm>
+#include <cups/cups.h>
 #include <vector>
 
 namespace imageposition {
@@ -127,6 +128,11 @@ PrintSettingsStore optionsToSend(const JobRequest &request) {
 
 bool isSecret(const JobRequest &request, const char *name) {
   return isSecretName(name) || contains(request.secrets, name);
+}
+
+bool isRaw(const PrintSettingsStore &options) {
+  const char *const format = options.get("document-format");
+  return options.get("raw") != nullptr || (format != nullptr && isSame(format, CUPS_FORMAT_RAW));
 }
 
 bool hasCompound(const JobRequest &request, const PrintSettingsStore &options) {

@@ -39,6 +39,9 @@ ipp_t *newJobRequest(const JobRequest &request, const PrintSettingsStore &option
 /// Whether an option has a value in several parts, which cupsCreateDestJob would lose.
 bool hasCompound(const JobRequest &request, const PrintSettingsStore &options);
 
+/// Whether CUPS sends the documents of a job with these options to the printer as they are.
+bool isRaw(const PrintSettingsStore &options);
+
 /// Whether the option's value must not be shown.
 bool isSecret(const JobRequest &request, const char *name);
 

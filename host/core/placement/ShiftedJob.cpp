@@ -31,8 +31,6 @@ namespace imageposition {
 
 namespace {
 
-constexpr const char *kRawFormat = "application/vnd.cups-raw";
-
 const char *attribute(ppd_file_t *ppd, const char *name, const char *specifier = nullptr) {
   const ppd_attr_t *const found = ppdFindAttr(ppd, name, specifier);
   return found != nullptr ? found->value : nullptr;
@@ -169,7 +167,7 @@ ShiftedJob::ShiftedJob(const JobRequest &job, const ShiftPlan &plan, ppd_file_t 
     : split_(splitJob(job, ppd, shiftNote(plan))), plan_(plan), losses_(lossesOf(plan, ppd)),
       ppd_(std::move(description)), device_(std::move(device)) {
   const char *const format = split_.layout.get("document-format");
-  if (split_.layout.get("raw") != nullptr || (format != nullptr && isSame(format, kRawFormat)))
+  if (isRaw(split_.layout))
     throw ShiftFailure(MoveProblem::NoConversion, messages::kRawNotMoved);
   const auto programs = layoutPrograms();
   if (!programs)

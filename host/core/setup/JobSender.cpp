@@ -62,7 +62,7 @@ void JobSender::warn(const PrintedContent &content, bool isShifted) const {
     return;
   if (isBackIgnored(arguments_, printer_.printer->ppd(), content.settings))
     std::cerr << messages::kBackIgnored.view() << '\n';
-  if (!arguments_.isSilent && !isShifted)
+  if (!arguments_.isSilent && !isShifted && !isRaw(content.settings))
     warnOfDefects(content.documents);
 }
 

@@ -38,11 +38,13 @@ std::string printsNothing(const std::string &document, DocumentDefect defect) {
   case DocumentDefect::Forbidden:
     return text("\"{1}\" does not allow printing: CUPS accepts it, but prints nothing.")
         .with(document);
-  default:
-    return text("\"{1}\" is damaged: CUPS accepts it, but may print nothing. Save it again, and "
-                "print that.")
-        .with(document);
+  case DocumentDefect::Damaged:
+    break;
   }
+  return text(
+             "\"{1}\" is damaged: CUPS accepts it, but may print nothing. Save the document again, "
+             "then print it.")
+      .with(document);
 }
 // lp's English output, which scripts parse.
 std::string jobSent(const std::string &printer, int id, std::size_t files) {

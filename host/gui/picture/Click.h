@@ -8,9 +8,10 @@
 
 namespace imageposition {
 
-/// Whether the button was released where it was pressed, as steadily as a hand holds the mouse.
+/// Whether the button was released where it was pressed, as steadily as a hand holds the mouse. The
+/// coordinates are those of a view.
 inline bool isClick(NSPoint pressed, NSPoint released) {
-  constexpr double kUnsteadiness = 4;
+  constexpr double kUnsteadiness = 4; // points
   return std::hypot(released.x - pressed.x, released.y - pressed.y) <= kUnsteadiness;
 }
 

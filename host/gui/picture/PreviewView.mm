@@ -16,8 +16,8 @@ struct imageposition::PreviewViewState {
   std::optional<Preview> preview;
   NSToolTipTag toolTip = 0;
   SheetPainter painter;
-  std::string sheet;    // in words; may be empty
-  NSPoint pressed = {}; // in the window
+  std::string sheet; // in words; may be empty
+  NSPoint pressed = {};
 };
 
 @interface PreviewView ()
@@ -84,12 +84,12 @@ struct imageposition::PreviewViewState {
 }
 
 - (void)mouseDown:(NSEvent *)event {
-  state->pressed = [event locationInWindow];
+  state->pressed = [self convertPoint:[event locationInWindow] fromView:nil];
 }
 
 - (void)mouseUp:(NSEvent *)event {
   const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
-  if (!state->preview || !isClick(state->pressed, [event locationInWindow]))
+  if (!state->preview || !isClick(state->pressed, at))
     return;
   const PreviewLayout layout = [self layout];
   for (const auto place : {PreviewLayout::Front, PreviewLayout::Back, PreviewLayout::AgainstLight})
@@ -98,10 +98,11 @@ struct imageposition::PreviewViewState {
 }
 
 - (void)scrollWheel:(NSEvent *)event {
-  if (isScrollable(self))
+  const int sheets = sheetsOfWheel(event);
+  if (sheets == 0 || isScrollable(self))
     [super scrollWheel:event];
   else
-    [target turnBy:sheetsOfWheel(event)];
+    [target turnBy:sheets];
 }
 
 - (void)drawRect:(NSRect)dirty {

@@ -17,7 +17,7 @@ std::string sheetText(const SheetImages &images);
 /// current one for other keys.
 int sheetAfterKey(NSEvent *event, const SheetImages &images);
 
-/// How many sheets the mouse's wheel turns: -1 for up, 1 for down, or 0.
+/// How many sheets the mouse wheel turns: -1 for up, 1 for down, or 0.
 int sheetsOfWheel(NSEvent *event);
 
 } // namespace imageposition

@@ -20,7 +20,7 @@ struct imageposition::SheetViewState {
   id<SheetTurning> target; // not owned
   PreviewLayout::Place place = PreviewLayout::Front;
   SheetPainter painter;
-  NSPoint pressed = {}; // in the window
+  NSPoint pressed = {};
 };
 
 namespace {
@@ -150,14 +150,12 @@ void drawFocus(const PixelRectangle &page) {
 }
 
 - (void)mouseDown:(NSEvent *)event {
-  state->pressed = [event locationInWindow];
+  state->pressed = [self convertPoint:[event locationInWindow] fromView:nil];
 }
 
 - (void)mouseUp:(NSEvent *)event {
-  if (!isClick(state->pressed, [event locationInWindow]))
-    return;
   const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
-  if ([self layout].pages[state->place].page.contains({at.x, at.y}))
+  if (isClick(state->pressed, at) && [self layout].pages[state->place].page.contains({at.x, at.y}))
     [(id<KeyWindowDelegate>)[[self window] delegate] dismiss];
 }
 

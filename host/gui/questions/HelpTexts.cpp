@@ -31,7 +31,7 @@ std::vector<HelpSection> helpSections() {
       {text("Keys"),
        {text("Alt and an underlined letter go to that control, Tab goes to the next. Return "
              "prints, Escape cancels."),
-        text("Page Up, Page Down and the mouse's wheel over the picture turn the sheets.")}},
+        text("Page Up, Page Down and the mouse wheel over the picture turn the sheets.")}},
   };
 }
 

@@ -118,8 +118,8 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
 - (void)keyDown:(NSEvent *)event {
   const CGFloat page = std::max(kLine, [self contentSize].height - kLine);
   const CGFloat movement = movementOf(event, page);
-  if (movement == 0) {
-    [super keyDown:event];
+  if (movement == 0 || ![self hasMore]) { // NSScrollView would keep the keys that scroll
+    [[self nextResponder] keyDown:event];
     return;
   }
   NSClipView *const clip = [self contentView];

@@ -22,7 +22,7 @@
 @optional
 /// The user pressed F1.
 - (void)help;
-/// The user pressed Page Up (-1) or Page Down (1) where nothing scrolls.
+/// The user pressed Page Up (-1) or Page Down (1), which the focused view does not use itself.
 - (void)turnPages:(int)direction;
 /// Follows `wakeModalLoop`.
 - (void)wake;

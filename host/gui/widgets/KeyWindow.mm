@@ -93,8 +93,12 @@ constexpr NSUInteger kMouseEvents =
 
 /// How many pages down a key turns; 0 for other keys.
 int pagesOf(NSEvent *event) {
-  NSString *const characters = [event charactersIgnoringModifiers];
-  switch ([characters length] == 1 ? [characters characterAtIndex:0] : 0) {
+  constexpr NSUInteger kModifiers =
+      NSShiftKeyMask | NSControlKeyMask | NSAlternateKeyMask | NSCommandKeyMask;
+  NSString *const characters = [event characters];
+  if (([event modifierFlags] & kModifiers) != 0 || [characters length] != 1)
+    return 0;
+  switch ([characters characterAtIndex:0]) {
   case NSPageUpFunctionKey:
     return -1;
   case NSPageDownFunctionKey:
@@ -328,8 +332,8 @@ bool canBeReached(NSView *control) {
   case Key::Other:
     break;
   }
-  if ([focus isKindOfClass:[NSText class]] && !imageposition::isScrollable([self focusedView]) &&
-      [self turnPagesBy:event])
+  if ([focus isKindOfClass:[NSText class]] && [(NSText *)focus isFieldEditor] &&
+      !imageposition::isScrollable([self focusedView]) && [self turnPagesBy:event])
     return YES;
   // A letter with Alt is not meant for a field, even if it is not a shortcut.
   return [self reachControl:event] ||
@@ -341,6 +345,7 @@ bool canBeReached(NSView *control) {
   id<KeyWindowDelegate> const owner = (id<KeyWindowDelegate>)[self delegate];
   if (direction == 0 || ![owner respondsToSelector:@selector(turnPages:)])
     return NO;
+  running = nil;
   [owner turnPages:direction];
   return YES;
 }

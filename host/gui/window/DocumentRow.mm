@@ -4,6 +4,7 @@
 #include "DocumentNames.hpp"
 #include "DocumentTexts.hpp"
 #include "FileVersion.hpp"
+#include "JobRequest.hpp"
 #include "JobTexts.hpp"
 #import "Labels.h"
 #import "MnemonicControls.h"
@@ -113,12 +114,15 @@ std::string documentList(const std::vector<std::string> &paths) {
 }
 
 - (void)lookAtFile {
-  if (fileVersion([self fileToExamine]) == state->version)
+  const bool wasGone = state->version.empty();
+  if (![self isExamined] || fileVersion([self fileToExamine]) == state->version)
     return;
   [self examine];
-  if (state->version.empty()) // the file is gone
+  if (state->version.empty())
     [dialog say:documentTrouble([self paths].front())];
-  [dialog refresh];
+  else if (wasGone)
+    [dialog say:""];
+  [self refresh];
 }
 
 - (int)pages {
@@ -158,7 +162,8 @@ std::string documentList(const std::vector<std::string> &paths) {
 /// What is known of the document, to follow its name.
 - (std::string)remarks {
   std::vector<std::string> remarks;
-  if (const auto defect = state->examiner->defect())
+  const auto defect = state->examiner->defect();
+  if (defect && !isRaw([dialog session].job().settings()))
     remarks.push_back(messages::defectInWords(*defect));
   if (const auto facts = state->examiner->facts()) {
     remarks.push_back(messages::pageCount(facts->pages));

@@ -34,6 +34,7 @@ using namespace imageposition;
 - (void)dropOutdatedOrigin;
 - (void)keepFocus;
 - (void)look;
+- (void)lookAtFile;
 - (void)sayTroubles;
 - (void)show;
 @end
@@ -81,6 +82,7 @@ struct imageposition::PrintDialogState {
 }
 
 - (void)dealloc {
+  [NSObject cancelPreviousPerformRequestsWithTarget:self];
   state->session->job().settings().setObserver(nullptr);
   [printers stopAsking];
   [window setDelegate:nil];
@@ -166,15 +168,25 @@ struct imageposition::PrintDialogState {
   }];
 }
 
-/// The user may have saved the document again in another window.
+/// The user may have saved the document again in another window. Looks after the current event, as
+/// the end of a question makes the window key in the middle of one.
 - (void)windowDidBecomeKey:(NSNotification *)notification {
   (void)notification;
+  const SEL look = @selector(lookAtFile);
+  [NSObject cancelPreviousPerformRequestsWithTarget:self selector:look object:nil];
+  [self performSelector:look
+             withObject:nil
+             afterDelay:0
+                inModes:[NSArray
+                            arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, nil]];
+}
+
+- (void)lookAtFile {
+  if ([NSApp modalWindow] != window || [sending isUnderWay])
+    return;
   DocumentRow *const documentRow = documents;
   Sheets *const shownSheets = sheets;
-  Sending *const sender = sending;
   [window protect:[=] {
-    if ([sender isUnderWay])
-      return;
     [documentRow lookAtFile];
     [shownSheets jobChanged];
   }];
@@ -351,6 +363,7 @@ struct imageposition::PrintDialogState {
   }];
   [pages refreshNote]; // a document may have been examined
   [self refreshPicture];
+  [self lookAtFile]; // it may have been saved again meanwhile
 }
 
 - (void)userActedOn:(NSView *)view {

@@ -1,5 +1,6 @@
 // Moved jobs on queues of every kind, compared with those of lp.
 #include "DriverlessPrinter.hpp"
+#include "ForbiddingPdf.hpp"
 #include "FreePort.hpp"
 #include "MovedJobFixture.hpp"
 
@@ -165,16 +166,24 @@ TEST_F(Queues, MoveTheImageAsTheUsersOptionsSay) {
   expectMoved("lpoptions", {}, {numbered(3)}, {});
 }
 
-TEST_F(Queues, WarnOfAPasswordIfTheirDriverMovesTheImage) {
+TEST_F(Queues, WarnOfDocumentsThatCupsWillNotPrintIfTheirDriverMovesTheImage) {
   ASSERT_EQ(kept->addQueue("moving", ppdWith(kTakesPdf, "duplex-shift")).status, 0);
-  const std::string document = folder_.write("secret.pdf", pdfWithPassword());
-  const auto sent = print("moving", {"-H", "hold"}, {document, numbered(1)});
+  const std::string secret = folder_.write("secret.pdf", pdfWithPassword());
+  const std::string forbidden = folder_.write("forbidden.pdf", pdfThatForbidsPrinting());
+  const std::string damaged = folder_.write("damaged.pdf", pdfWithNumberedPages(1).substr(0, 200));
+  const auto sent = print("moving", {"-H", "hold"}, {secret, numbered(1), forbidden, damaged});
   EXPECT_EQ(sent.status, 0) << testing::PrintToString(sent);
   EXPECT_THAT(sent.errors,
               HasSubstr("\"secret.pdf\" is protected by a password: CUPS accepts it, but prints "
-                        "nothing. Save a copy without it, and print that.\n"));
-  EXPECT_EQ(print("moving", {"-H", "hold", "-s"}, {document}).errors, "");
-  EXPECT_THAT(print("moving", {"-H", "hold"}, {numbered(1)}).errors, Not(HasSubstr("password")));
+                        "nothing. Save a copy without it, and print that.\n"
+                        "\"forbidden.pdf\" does not allow printing: CUPS accepts it, but prints "
+                        "nothing.\n"
+                        "\"damaged.pdf\" is damaged: CUPS accepts it, but may print nothing. Save "
+                        "the document again, then print it.\n"));
+  EXPECT_EQ(print("moving", {"-H", "hold", "-s"}, {secret}).errors, "");
+  EXPECT_THAT(print("moving", {"-H", "hold", "-o", "raw"}, {damaged}).errors,
+              Not(HasSubstr("damaged")));
+  EXPECT_THAT(print("moving", {"-H", "hold"}, {numbered(1)}).errors, Not(HasSubstr("CUPS")));
   kept->cups().run({"cancel", "-a", "-x"});
 }
 

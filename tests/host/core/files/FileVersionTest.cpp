@@ -2,6 +2,7 @@
 
 #include "TemporaryFolder.hpp"
 
+#include <chrono>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -18,9 +19,14 @@ TEST(FileVersion, ChangesWithTheFile) {
   EXPECT_FALSE(first.empty());
   EXPECT_EQ(fileVersion(path), first);
 
+  std::filesystem::last_write_time(path, std::filesystem::last_write_time(path) -
+                                             std::chrono::milliseconds(10));
+  const std::string earlier = fileVersion(path);
+  EXPECT_NE(earlier, first);
+
   folder.write("letter.pdf", "longer than the first");
   const std::string longer = fileVersion(path);
-  EXPECT_NE(longer, first);
+  EXPECT_NE(longer, earlier);
 
   // As editors save: a new file under the old name.
   std::filesystem::rename(folder.write("new.pdf", "longer than the first"), path);
