@@ -54,7 +54,7 @@ TEST_P(GtkApplication, PrintsWithTheOffsetsOfThePanel) {
     EXPECT_NEAR(box[3], bottom + 50, kTolerance);
   }
   EXPECT_TRUE(hasNoDialog());
-  EXPECT_EQ(session->preparedJobs(), 0U);
+  EXPECT_TRUE(becomesTrue([&] { return session->preparedJobs() == 0; }));
 }
 
 TEST_P(GtkApplication, PagesPerSheetAreAppliedOnce) {
