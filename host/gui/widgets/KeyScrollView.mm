@@ -140,8 +140,8 @@ CGFloat movementOf(NSEvent *event, CGFloat page) {
 @end
 
 bool imageposition::isScrollable(NSView *view) {
-  NSScrollView *outer = [view enclosingScrollView];
-  for (; outer != nil; outer = [outer enclosingScrollView])
+  for (NSScrollView *outer = [view enclosingScrollView]; outer != nil;
+       outer = [outer enclosingScrollView])
     if ([outer isKindOfClass:[KeyScrollView class]] && [(KeyScrollView *)outer hasMore])
       return true;
   return false;
