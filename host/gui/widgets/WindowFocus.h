@@ -11,7 +11,8 @@ namespace imageposition {
 void askForFocus(NSWindow *window);
 
 /// Lets the application's windows have the keyboard. Call it before the first window is shown.
-void activateApplication();
+/// Returns whether it was called before.
+bool activateApplication();
 
 } // namespace imageposition
 

@@ -11,11 +11,13 @@ void askForFocus(NSWindow *window) {
     [GSServerForWindow(window) setinputfocus:static_cast<int>([window windowNumber])];
 }
 
-void activateApplication() {
+bool activateApplication() {
   static bool isLaunched = false;
-  if (!std::exchange(isLaunched, true))
+  const bool wasLaunched = std::exchange(isLaunched, true);
+  if (!wasLaunched)
     [NSApp finishLaunching]; // no keys arrive before
   [NSApp activateIgnoringOtherApps:YES];
+  return wasLaunched;
 }
 
 } // namespace imageposition

@@ -37,9 +37,12 @@ using namespace imageposition;
 - (void)lookAtFile;
 - (void)sayTroubles;
 - (void)show;
+- (void)takeFocus:(NSNumber *)hadWindow;
 @end
 
 namespace {
+
+constexpr NSTimeInterval kFocusDelays[] = {0.2, 1}; // seconds
 
 /// Redraws the picture whenever the job's settings change, in the middle of an event, too.
 struct PictureRedrawing final : PrintSettingsStore::Observer {
@@ -438,9 +441,26 @@ struct imageposition::PrintDialogState {
   [window center];
   [window setInitialFirstResponder:[self firstControl]];
   [window makeFirstResponder:[self firstControl]];
-  activateApplication();
+  const bool hadWindow = activateApplication();
   [window makeKeyAndOrderFront:nil];
+  for (const NSTimeInterval delay : kFocusDelays)
+    [self performSelector:@selector(takeFocus:)
+               withObject:[NSNumber numberWithBool:hadWindow]
+               afterDelay:delay
+                  inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
   joinParent(window, state->session->job().arguments());
+}
+
+/// After the window that waited for the printer, and before this one, the program had no window,
+/// and may have lost the focus.
+- (void)takeFocus:(NSNumber *)hadWindow {
+  if ([NSApp modalWindow] != window)
+    return;
+  if ([hadWindow boolValue] && ![NSApp isActive]) {
+    activateApplication();
+    [window makeKeyAndOrderFront:nil];
+  }
+  askForFocus(window);
 }
 
 - (BOOL)run {
