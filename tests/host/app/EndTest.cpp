@@ -47,7 +47,8 @@ TEST_F(HalfAJob, IsCancelledByASignalToTheWindow) {
 }
 
 TEST_F(HalfAJob, IsCancelledByTheEndOfTheDisplay) {
-  Process server({"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+  Process server(
+      {"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
   std::string number;
   ASSERT_TRUE(becomesTrue([&] {
     std::istringstream lines(server.errorsSoFar());

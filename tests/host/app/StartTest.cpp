@@ -106,7 +106,8 @@ TEST_F(QueueWindow, ADocumentWithALatin1NamePrints) {
 }
 
 TEST_F(Start, WithoutAWindowManagerTheWindowIsCentred) {
-  Process server({"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+  Process server(
+      {"Xvfb", "-displayfd", "2", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
   std::string display;
   ASSERT_TRUE(becomesTrue([&] {
     display = "DISPLAY=:" + numberLine(server.errorsSoFar());
