@@ -36,6 +36,10 @@ constexpr CGFloat kCornerRadius = 4;
 /// switches and pop-up buttons. Call it once per process.
 void replacePlatformDrawing();
 
+/// Gives GNUstep's images that this theme draws or never shows to GNUstep by their names, so that
+/// it does not look for their files. Call it once per process, when the theme is in use.
+void replacePlatformImages();
+
 } // namespace imageposition
 
 #endif

@@ -22,6 +22,11 @@ using namespace imageposition;
   return [theme isKindOfClass:[DialogTheme class]] ? (DialogTheme *)theme : nil;
 }
 
+/// No window shows an icon.
+- (NSImage *)icon {
+  return nil;
+}
+
 - (NSColorList *)colors {
   return systemColors;
 }

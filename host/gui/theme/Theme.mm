@@ -42,6 +42,7 @@ void installTheme(Appearance appearance) {
       [[[DialogTheme alloc] initWithPalette:themeColors(appearance)] autorelease];
   [theme setName:@"PrintDialog"];
   [GSTheme setTheme:theme];
+  replacePlatformImages(); // a new theme would look for the files of all named images
   keepTheme();
 }
 

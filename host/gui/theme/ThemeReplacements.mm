@@ -129,28 +129,11 @@ void drawButtonImage(id cell, SEL operation, NSImage *image, NSRect frame, NSVie
     drawMenuMark(cell, frame, view, picture == Picture::PopUp);
 }
 
-/// Replaces GNUstep's images with blank ones of the same names and sizes. The theme never shows
-/// them, and loading them would require the libraries of three image formats.
-void putBlankImages() {
-  static const struct {
-    NSString *name;
-    NSSize size;
-  } kImages[] = {{@"GSSwitch", {15, 15}},     {@"GSSwitchSelected", {15, 15}},
-                 {@"GSRadio", {16, 16}},      {@"GSRadioSelected", {16, 16}},
-                 {@"common_Nibble", {11, 8}}, {@"common_3DArrowDown", {7, 7}}};
-  for (const auto &[name, size] : kImages) {
-    NSImage *const blank = [[NSImage alloc] initWithSize:size];
-    (void)[blank setName:name];
-    [blank release]; // AppKit retains a named image
-  }
-}
-
 } // namespace
 
 void replacePlatformDrawing() {
   if (textFieldColor != nullptr)
     return;
-  putBlankImages();
   textFieldColor = replace([NSTextFieldCell class], @selector(textColor), themedTextColor);
   fieldBackground =
       replace([NSTextFieldCell class], sel_registerName("_drawBackgroundWithFrame:inView:"),

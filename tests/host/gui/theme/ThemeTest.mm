@@ -298,6 +298,21 @@ TEST_P(Theme, ATickIsVisible) {
   EXPECT_GE(found.contrast, 3);
 }
 
+TEST_P(Theme, TheMarksOfAMenuAreVisible) {
+  NSMenu *const menu = [[[NSMenu alloc] initWithTitle:@""] autorelease];
+  id<NSMenuItem> const item = [menu addItemWithTitle:@"Item" action:nullptr keyEquivalent:@""];
+  NSMenuView *const view = add([[NSMenuView alloc] initWithFrame:NSZeroRect]);
+  [view setMenu:menu];
+  [view sizeToFit];
+  const Picture off = picture();
+  for (const NSInteger state : {NSOnState, NSMixedState}) {
+    [item setState:state];
+    const Difference found = difference(off, picture());
+    EXPECT_GT(found.count, 10) << state;
+    EXPECT_GE(found.contrast, 3) << state;
+  }
+}
+
 TEST_P(Theme, TheFocusIsVisible) {
   NSButton *const button = addButton();
   EXPECT_GE(whenFocused(button).contrast, 1.5);
