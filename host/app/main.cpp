@@ -95,7 +95,10 @@ ExitCode runOnGnustep(const Arguments &arguments) {
   removeForgottenDefaultsLock();
   if (const auto part = removeGnustepVariables())
     std::cerr << messages::kProgram << messages::configurationUntrusted(part->path) << '\n';
-  return loadGnustepModule()(arguments);
+  DocumentExaminer examiner;
+  if (isWindowWanted(arguments) && arguments.documents.size() == 1 && arguments.documents[0] != "-")
+    examiner.examine(arguments.documents[0]); // a long document takes as long as loading GNUstep
+  return loadGnustepModule()(arguments, examiner);
 }
 
 ExitCode run(const std::vector<std::string> &words) {

@@ -3,11 +3,14 @@
 #define IMAGEPOSITION_GNUSTEP_ENTRY_HPP
 
 #include "CommandLine.hpp"
+#include "DocumentExaminer.hpp"
 #include "ExitCode.hpp"
 
 /// Shows the window, or operates the panels without one, and prints. Writes errors to standard
-/// error and never throws. Call it once, on the main thread. `arguments` is borrowed.
-extern "C" imageposition::ExitCode printDialogRun(const imageposition::Arguments &arguments);
+/// error and never throws. Call it once, on the main thread. The window uses `examiner`, which may
+/// be examining the document already. Both are borrowed.
+extern "C" imageposition::ExitCode printDialogRun(const imageposition::Arguments &arguments,
+                                                  imageposition::DocumentExaminer &examiner);
 
 namespace imageposition {
 

@@ -34,9 +34,9 @@ namespace {
 
 constexpr std::size_t kMostConflicts = 5;
 
-ExitCode runInBatch(const Arguments &arguments) {
+ExitCode runInBatch(const Arguments &arguments, DocumentExaminer &examiner) {
   PrintJob job(arguments, openPrinter(arguments));
-  PrintSession session(job);
+  PrintSession session(job, examiner);
   if (!isDisplayNamed())
     startPrivateDisplay();
   leaveOutPasteboardDaemon();
@@ -68,9 +68,10 @@ ExitCode runInBatch(const Arguments &arguments) {
   return ExitCode::Done;
 }
 
-ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer, const History &history) {
+ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer, DocumentExaminer &examiner,
+                    const History &history) {
   PrintJob job(arguments, std::move(printer), history);
-  PrintSession session(job);
+  PrintSession session(job, examiner);
   session.loadPanels();
   std::optional<WindowSize> window = history.window();
   if (!runDialog(session, std::cerr, window)) {
@@ -85,7 +86,7 @@ ExitCode showDialog(const Arguments &arguments, OpenedPrinter printer, const His
 }
 
 /// The printer is being opened while the application starts.
-ExitCode runInWindow(const Arguments &arguments) {
+ExitCode runInWindow(const Arguments &arguments, DocumentExaminer &examiner) {
   if (!arguments.ticket.empty())
     checkTicketPlace(arguments.ticket); // before the user enters settings that would be lost
   const History history = History::read(std::cerr);
@@ -98,27 +99,27 @@ ExitCode runInWindow(const Arguments &arguments) {
   startPasteboardOnDemand();
   startApplication();
   if (!opening)
-    return showDialog(arguments, openPrinter(arguments), history);
+    return showDialog(arguments, openPrinter(arguments), examiner, history);
   auto first = awaitFirstPrinter(std::move(opening), queue, missingShift(arguments), std::cerr);
   if (const auto *code = std::get_if<ExitCode>(&first))
     return *code;
-  return showDialog(arguments, std::get<OpenedPrinter>(std::move(first)), history);
+  return showDialog(arguments, std::get<OpenedPrinter>(std::move(first)), examiner, history);
 }
 
-ExitCode run(const Arguments &arguments) {
+ExitCode run(const Arguments &arguments, DocumentExaminer &examiner) {
   hideArgumentsFromPlatform();
   refuseUntrustedBundles();
   const Pool pool;
   agreeOnLanguage();
   setPlatformDefaults();
   std::signal(SIGPIPE, SIG_IGN); // a closed pipe must not kill the program during a job
-  return arguments.isBatch ? runInBatch(arguments) : runInWindow(arguments);
+  return arguments.isBatch ? runInBatch(arguments, examiner) : runInWindow(arguments, examiner);
 }
 
 } // namespace
 
-ExitCode printDialogRun(const Arguments &arguments) {
-  const ExitCode code = exitCodeOf([&] { return run(arguments); }, std::cerr);
+ExitCode printDialogRun(const Arguments &arguments, DocumentExaminer &examiner) {
+  const ExitCode code = exitCodeOf([&] { return run(arguments, examiner); }, std::cerr);
   endSubmissions();
   endIfCallsAreRunning(code);
   return code;

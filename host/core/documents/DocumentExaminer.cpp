@@ -2,6 +2,7 @@
 
 #include "ChildProgram.hpp"
 #include "FileContent.hpp"
+#include "FileVersion.hpp"
 #include "ProgramFolder.hpp"
 #include "SignalBlock.hpp"
 
@@ -80,17 +81,14 @@ private:
 
 class DocumentExaminer::Work {
 public:
-  Work(std::string path, Changed changed)
-      : thread_([this, path = std::move(path), changed = std::move(changed)] {
-          const std::string report = Examination(path).report(isStopped_);
-          {
-            const std::lock_guard<std::mutex> lock(mutex_);
-            facts_ = readFacts(report);
-            defect_ = readDefect(report);
-            isDone_ = true;
-          }
-          if (!isStopped_)
-            changed();
+  /// Starts the process on this thread: the others may not read the environment, which the program
+  /// changes when it starts.
+  Work(const std::string &path, Changed changed)
+      : changed_(std::move(changed)),
+        thread_([this, process = std::make_unique<Examination>(path)]() mutable {
+          const std::string report = process->report(isStopped_);
+          process.reset();
+          finish(report);
         }) {}
   ~Work() {
     isStopped_ = true;
@@ -112,21 +110,54 @@ public:
     return isDone_;
   }
 
+  void tell(const Changed &changed) {
+    {
+      const std::lock_guard<std::mutex> lock(mutex_);
+      changed_ = changed;
+      if (!isDone_)
+        return;
+    }
+    if (changed)
+      changed();
+  }
+
 private:
+  void finish(const std::string &report) {
+    Changed changed;
+    {
+      const std::lock_guard<std::mutex> lock(mutex_);
+      facts_ = readFacts(report);
+      defect_ = readDefect(report);
+      isDone_ = true;
+      changed = changed_;
+    }
+    if (changed && !isStopped_)
+      changed();
+  }
+
   std::atomic<bool> isStopped_{false};
   mutable std::mutex mutex_;
   std::optional<DocumentFacts> facts_;
   std::optional<DocumentDefect> defect_;
   bool isDone_ = false;
+  Changed changed_;    // may be empty
   std::thread thread_; // last: uses the others
 };
 
-DocumentExaminer::DocumentExaminer(Changed changed) : changed_(std::move(changed)) {}
+DocumentExaminer::DocumentExaminer() = default;
 
 DocumentExaminer::~DocumentExaminer() = default;
 
+void DocumentExaminer::tell(Changed changed) {
+  changed_ = std::move(changed);
+  if (work_ != nullptr)
+    work_->tell(changed_);
+}
+
 void DocumentExaminer::examine(const std::string &path) {
   work_.reset();
+  path_ = path;
+  version_ = fileVersion(path);
   if (path.empty())
     return;
   const SignalBlock noSignals; // they are the main thread's

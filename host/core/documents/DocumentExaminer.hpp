@@ -20,7 +20,7 @@ public:
   /// Called on another thread when a document has been examined, even if nothing is known about it.
   using Changed = std::function<void()>;
 
-  explicit DocumentExaminer(Changed changed);
+  DocumentExaminer();
   /// Stops an examination.
   ~DocumentExaminer();
   DocumentExaminer(const DocumentExaminer &) = delete;
@@ -28,6 +28,13 @@ public:
 
   /// Forgets the last document and starts with this one; an empty path means none.
   void examine(const std::string &path);
+  /// The document that is or was examined; empty without one.
+  const std::string &path() const noexcept { return path_; }
+  /// The file's `fileVersion` before it was examined.
+  const std::string &version() const noexcept { return version_; }
+
+  /// From now on calls `changed`: at once if the document has been examined already.
+  void tell(Changed changed);
 
   /// Empty until they are known, for a document with a defect, and for one that cannot be examined
   /// within seconds.
@@ -43,6 +50,7 @@ private:
   class Work;
 
   Changed changed_;
+  std::string path_, version_;
   std::unique_ptr<Work> work_; // null without a document
 };
 

@@ -10,7 +10,6 @@
 
 namespace imageposition {
 class RunLoopWake;
-struct DocumentRowState;
 }
 
 /// Names the documents, tells the pages and the paper of a single one, and lets the user choose
@@ -21,7 +20,6 @@ struct DocumentRowState;
   NSButton *openButton;
   NSButton *listButton; ///< Hidden unless there are several documents.
   NSButton *pressed;    ///< Not owned; null if `showQuestion` has nothing to do.
-  imageposition::DocumentRowState *state;
 }
 
 /// Signals `wake`, which is borrowed, when `refresh` is due because a document has been examined.

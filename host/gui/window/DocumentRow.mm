@@ -23,12 +23,10 @@
 
 using namespace imageposition;
 
-struct imageposition::DocumentRowState {
-  std::unique_ptr<DocumentExaminer> examiner; // GNU's Objective-C cannot encode its members
-  std::string version = {};                   // of the examined file
-};
-
 namespace {
+
+/// A function, because GNU's Objective-C cannot encode the type for a method.
+DocumentExaminer &examinerOf(id<DialogServices> dialog) { return [dialog session].examiner(); }
 
 /// The folder of the document, or else the current one; for a program that a desktop has started in
 /// the root folder, the user's home.
@@ -61,6 +59,7 @@ std::string documentList(const std::vector<std::string> &paths) {
 - (std::string)name;
 - (std::string)remarks;
 - (void)examine;
+- (void)showButtons;
 - (void)press:(id)sender;
 - (void)open;
 @end
@@ -74,13 +73,15 @@ std::string documentList(const std::vector<std::string> &paths) {
   label = [makeLabel("") retain];
   openButton = [makeButton(messages::kOpen, self, @selector(press:)) retain];
   listButton = [makeButton(messages::kListDocuments, self, @selector(press:)) retain];
-  state = new DocumentRowState{std::make_unique<DocumentExaminer>(wake.signal())};
-  [self examine];
+  examinerOf(dialog).tell(wake.signal());
+  if (examinerOf(dialog).path() != [self fileToExamine])
+    [self examine];
+  [self showButtons];
   return self;
 }
 
 - (void)dealloc {
-  delete state;
+  examinerOf(dialog).examine(""); // nobody waits for it any more
   for (NSButton *button : {openButton, listButton}) {
     [button setTarget:nil];
     [button release];
@@ -106,19 +107,20 @@ std::string documentList(const std::vector<std::string> &paths) {
 }
 
 - (void)examine {
-  const std::string file = [self fileToExamine];
-  state->version = fileVersion(file);
-  state->examiner->examine(file);
+  examinerOf(dialog).examine([self fileToExamine]);
+}
+
+- (void)showButtons {
   [listButton setHidden:[self paths].size() < 2];
   [openButton setHidden:[dialog session].job().isPreparing()];
 }
 
 - (void)lookAtFile {
-  const bool wasGone = state->version.empty();
-  if (![self isExamined] || fileVersion([self fileToExamine]) == state->version)
+  const bool wasGone = examinerOf(dialog).version().empty();
+  if (![self isExamined] || fileVersion([self fileToExamine]) == examinerOf(dialog).version())
     return;
   [self examine];
-  if (state->version.empty())
+  if (examinerOf(dialog).version().empty())
     [dialog say:documentTrouble([self paths].front())];
   else if (wasGone)
     [dialog say:""];
@@ -126,21 +128,21 @@ std::string documentList(const std::vector<std::string> &paths) {
 }
 
 - (int)pages {
-  const auto facts = state->examiner->facts();
+  const auto facts = examinerOf(dialog).facts();
   return facts ? facts->pages : 0;
 }
 
 - (BOOL)hasPagesOfOneSize {
-  const auto facts = state->examiner->facts();
+  const auto facts = examinerOf(dialog).facts();
   return facts && facts->paper;
 }
 
 - (BOOL)isExamined {
-  return state->examiner->isDone();
+  return examinerOf(dialog).isDone();
 }
 
 - (BOOL)isLandscape {
-  const auto facts = state->examiner->facts();
+  const auto facts = examinerOf(dialog).facts();
   return facts && facts->paper && facts->paper->length < facts->paper->width;
 }
 
@@ -162,10 +164,10 @@ std::string documentList(const std::vector<std::string> &paths) {
 /// What is known of the document, to follow its name.
 - (std::string)remarks {
   std::vector<std::string> remarks;
-  const auto defect = state->examiner->defect();
+  const auto defect = examinerOf(dialog).defect();
   if (defect && !isRaw([dialog session].job().settings()))
     remarks.push_back(messages::defectInWords(*defect));
-  if (const auto facts = state->examiner->facts()) {
+  if (const auto facts = examinerOf(dialog).facts()) {
     remarks.push_back(messages::pageCount(facts->pages));
     remarks.push_back(paperMismatch(*facts, [dialog session].job().printer().ppd()));
   }
@@ -184,6 +186,7 @@ std::string documentList(const std::vector<std::string> &paths) {
     }
   [dialog session].job().setDocuments(paths);
   [self examine];
+  [self showButtons];
   [dialog say:""];
   [dialog refresh];
 }

@@ -4,6 +4,7 @@
 #define IMAGEPOSITION_PANELS_SESSION_PRINTSESSION_H
 
 #include "Destinations.hpp"
+#include "DocumentExaminer.hpp"
 #import "PanelSession.h"
 #include "PanelValues.hpp"
 #include "PrintJob.hpp"
@@ -18,10 +19,12 @@ namespace imageposition {
 /// Main thread only.
 class PrintSession {
 public:
-  /// Borrows the job.
-  explicit PrintSession(PrintJob &job) : job_(job) {}
+  /// Borrows both. The examiner may be examining the job's document already.
+  PrintSession(PrintJob &job, DocumentExaminer &examiner) : job_(job), examiner_(examiner) {}
 
   PrintJob &job() noexcept { return job_; }
+  /// For the window; without one, nothing is examined.
+  DocumentExaminer &examiner() noexcept { return examiner_; }
   /// Loads the plug-ins and their panels. Needs the application.
   void loadPanels();
   /// Another session after each `takePrinter`. Not before `loadPanels`.
@@ -48,6 +51,7 @@ private:
   };
 
   PrintJob &job_;
+  DocumentExaminer &examiner_;
   std::map<std::string, PanelSettings> left_; // by queue, of printers that were chosen before
   Destinations destinations_;
   LoadedPlugins loaded_; // also those that only earlier printers named

@@ -1,6 +1,7 @@
 #include "DocumentExaminer.hpp"
 
 #include "DrawnPdf.hpp"
+#include "FileVersion.hpp"
 #include "ForbiddingPdf.hpp"
 #include "PdfFile.hpp"
 #include "TemporaryFolder.hpp"
@@ -22,6 +23,10 @@ constexpr const char *kA5 = "0 0 419.53 595.28";
 
 class Examiner : public testing::Test {
 protected:
+  Examiner() {
+    examiner_.tell([this] { ended_++; });
+  }
+
   /// Waits until the document has been examined.
   std::optional<DocumentFacts> examine(const std::string &path) {
     const int before = ended_;
@@ -36,8 +41,21 @@ protected:
 
   TemporaryFolder folder_;
   std::atomic<int> ended_{0};
-  DocumentExaminer examiner_{[this] { ended_++; }};
+  DocumentExaminer examiner_;
 };
+
+TEST_F(Examiner, TellsWhoeverAsksLateThatTheDocumentHasBeenExamined) {
+  const std::string path = folder_.write("document", pdfWithPages({kA5}));
+  DocumentExaminer examiner;
+  examiner.examine(path);
+  ASSERT_TRUE(becomesTrue([&] { return examiner.isDone(); }));
+  EXPECT_EQ(examiner.path(), path);
+  EXPECT_EQ(examiner.version(), fileVersion(path));
+  int told = 0;
+  examiner.tell([&] { told++; });
+  EXPECT_EQ(told, 1);
+  EXPECT_TRUE(examiner.facts());
+}
 
 TEST_F(Examiner, CountsPagesAndMeasuresThem) {
   const auto facts = examineContent(pdfWithPages({kA5, kA5, kA5}));

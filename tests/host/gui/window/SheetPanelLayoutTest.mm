@@ -33,7 +33,8 @@ protected:
 
   const Arguments arguments_ = argumentsWithDocument();
   PrintJob job_{arguments_, openPrinter(arguments_)};
-  PrintSession session_{job_};
+  DocumentExaminer examiner_;
+  PrintSession session_{job_, examiner_};
   SheetImages images_{[] {}};
 };
 

@@ -81,7 +81,8 @@ protected:
 
   const Arguments arguments_ = argumentsForPrinter();
   PrintJob job_{arguments_, openPrinter(arguments_)};
-  PrintSession session_{job_};
+  DocumentExaminer examiner_;
+  PrintSession session_{job_, examiner_};
   std::ostringstream errors_;
   PrintDialog *dialog_ = nil;
 };
