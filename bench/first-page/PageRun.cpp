@@ -99,18 +99,19 @@ bool PageRun::becomes(int page, Clock::time_point deadline) {
   return false;
 }
 
+/// Page Down turns the sheet wherever the focus is, Left only where the sheets have it.
 void PageRun::focusSheets() {
+  turn(XK_Page_Down, 2);
   for (int control = 0; control < kMostControls; control++) {
     press(XK_Tab);
     awaitSilence(Pause(50));
-    press(XK_Page_Down);
-    if (!becomes(2, Clock::now() + Pause(200)))
+    press(XK_Left);
+    if (!becomes(0, Clock::now() + Pause(200)))
       continue;
-    turn(XK_Home, 0);
     awaitSilence();
     return;
   }
-  fail("Page Down turns no sheet.");
+  fail("The arrow keys turn no sheet.");
 }
 
 double PageRun::turn(KeySym key, int page) {

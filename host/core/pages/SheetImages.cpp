@@ -110,7 +110,7 @@ private:
       wanted.pages.push_back(side - request.laidOut->firstSide);
     std::vector<RenderedPage> pages = renderPages(request.laidOut->file, wanted, keepWaiting);
     for (std::size_t i = 0; i < std::min(pages.size(), request.sides.size()); i++)
-      images[request.sides[i]] = {std::make_shared<RenderedPage>(std::move(pages[i])),
+      images[request.sides[i]] = {std::make_shared<const PageInk>(inkOn(std::move(pages[i]))),
                                   request.pixelsPerPoint};
   }
 

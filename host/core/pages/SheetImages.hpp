@@ -2,7 +2,7 @@
 #ifndef IMAGEPOSITION_CORE_PAGES_SHEETIMAGES_HPP
 #define IMAGEPOSITION_CORE_PAGES_SHEETIMAGES_HPP
 
-#include "PageRenderer.hpp"
+#include "PageInk.hpp"
 #include "SheetOrder.hpp"
 #include "ShiftedJob.hpp"
 
@@ -34,7 +34,7 @@ class SheetImages {
 public:
   /// Called on another thread when `take` has a result.
   using Changed = std::function<void()>;
-  using Image = std::shared_ptr<const RenderedPage>; ///< Null while there is none.
+  using Image = std::shared_ptr<const PageInk>; ///< Null while there is none.
 
   enum class State {
     None,    ///< There is no document to show.

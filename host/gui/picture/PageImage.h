@@ -4,7 +4,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include "PageRenderer.hpp"
+#include "PageInk.hpp"
 #include "PreviewLayout.hpp"
 
 #include <memory>
@@ -12,12 +12,11 @@
 
 namespace imageposition {
 
-/// The ink on a page; its paper is transparent, so that sides can be laid over each other. Takes
-/// its memory when it is first drawn: an enlarged sheet shows one side of two. Main thread.
+/// Shares the pixels of the ink. Main thread.
 class PageImage {
 public:
   /// `page` has pixels. The flips show it as it shines through the sheet.
-  PageImage(std::shared_ptr<const RenderedPage> page, bool flipsLeftRight, bool flipsTopBottom);
+  PageImage(std::shared_ptr<const PageInk> page, bool flipsLeftRight, bool flipsTopBottom);
   ~PageImage();
   PageImage(const PageImage &) = delete;
   PageImage &operator=(const PageImage &) = delete;
@@ -28,18 +27,16 @@ public:
   void draw(const PixelRectangle &place, double opacity) const;
 
 private:
-  NSImage *image() const;
-
-  const std::shared_ptr<const RenderedPage> page_;
+  const std::shared_ptr<const PageInk> page_;
   const bool flipsLeftRight_;
   const bool flipsTopBottom_;
-  mutable NSImage *image_ = nil; // owned; null before it is drawn
+  NSImage *const image_; // owned
 };
 
-/// A sheet's sides as they were rendered. Null for a blank side, or one that could not be rendered.
+/// A sheet's sides. Null for a blank side, or one that could not be rendered.
 struct SheetSideImages {
-  std::shared_ptr<const RenderedPage> front;
-  std::shared_ptr<const RenderedPage> back;
+  std::shared_ptr<const PageInk> front;
+  std::shared_ptr<const PageInk> back;
 };
 
 /// The same, ready to be drawn.

@@ -1,39 +1,18 @@
 #import "PageImage.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace imageposition {
 
 namespace {
 
-/// On white paper, the least of the three colours is what the ink lets through of all of them.
-void writeInk(std::uint32_t pixel, unsigned char *ink) {
-  const auto red = static_cast<unsigned char>(pixel >> 16);
-  const auto green = static_cast<unsigned char>(pixel >> 8);
-  const auto blue = static_cast<unsigned char>(pixel);
-  const unsigned char paper = std::min({red, green, blue});
-  ink[0] = static_cast<unsigned char>(red - paper);
-  ink[1] = static_cast<unsigned char>(green - paper);
-  ink[2] = static_cast<unsigned char>(blue - paper);
-  ink[3] = static_cast<unsigned char>(255 - paper);
-}
-
-} // namespace
-
-PageImage::PageImage(std::shared_ptr<const RenderedPage> page, bool flipsLeftRight,
-                     bool flipsTopBottom)
-    : page_(std::move(page)), flipsLeftRight_(flipsLeftRight), flipsTopBottom_(flipsTopBottom) {}
-
-PageImage::~PageImage() { [image_ release]; }
-
-NSImage *PageImage::image() const {
-  if (image_ != nil)
-    return image_;
-  const RenderedPage &page = *page_;
-  image_ = [[NSImage alloc] initWithSize:NSMakeSize(page.width, page.height)];
+/// Refers to the pixels.
+NSImage *newImageOf(const PageInk &page) {
+  // A bitmap that is only drawn does not write to its planes.
+  unsigned char *planes[] = {
+      const_cast<unsigned char *>(reinterpret_cast<const unsigned char *>(page.pixels.data()))};
   NSBitmapImageRep *const bitmap =
-      [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:nullptr
+      [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:planes
                                               pixelsWide:page.width
                                               pixelsHigh:page.height
                                            bitsPerSample:8
@@ -43,29 +22,41 @@ NSImage *PageImage::image() const {
                                           colorSpaceName:NSDeviceRGBColorSpace
                                              bytesPerRow:4 * NSInteger{page.width}
                                             bitsPerPixel:32];
-  unsigned char *const data = [bitmap bitmapData];
-  for (int y = 0; y < page.height; y++)
-    for (int x = 0; x < page.width; x++) {
-      const int fromX = flipsLeftRight_ ? page.width - 1 - x : x;
-      const int fromY = flipsTopBottom_ ? page.height - 1 - y : y;
-      const auto from = static_cast<std::size_t>(fromY) * static_cast<std::size_t>(page.width) +
-                        static_cast<std::size_t>(fromX);
-      const auto to = static_cast<std::size_t>(y) * static_cast<std::size_t>(page.width) +
-                      static_cast<std::size_t>(x);
-      writeInk(page.pixels[from], data + 4 * to);
-    }
-  [image_ addRepresentation:bitmap];
+  NSImage *const image = [[NSImage alloc] initWithSize:NSMakeSize(page.width, page.height)];
+  [image addRepresentation:bitmap];
   [bitmap release];
-  return image_;
+  return image;
 }
 
+/// About the middle of `place`.
+void flip(const PixelRectangle &place, bool leftRight, bool topBottom) {
+  const CGFloat x = place.x + place.width / 2, y = place.y + place.height / 2;
+  NSAffineTransform *const transform = [NSAffineTransform transform];
+  [transform translateXBy:x yBy:y];
+  [transform scaleXBy:leftRight ? -1 : 1 yBy:topBottom ? -1 : 1];
+  [transform translateXBy:-x yBy:-y];
+  [transform concat];
+}
+
+} // namespace
+
+PageImage::PageImage(std::shared_ptr<const PageInk> page, bool flipsLeftRight, bool flipsTopBottom)
+    : page_(std::move(page)), flipsLeftRight_(flipsLeftRight), flipsTopBottom_(flipsTopBottom),
+      image_(newImageOf(*page_)) {}
+
+PageImage::~PageImage() { [image_ release]; }
+
 void PageImage::draw(const PixelRectangle &place, double opacity) const {
-  [image() drawInRect:NSMakeRect(place.x, place.y, place.width, place.height)
-             fromRect:NSZeroRect
-            operation:NSCompositeSourceOver
-             fraction:opacity
-       respectFlipped:YES
-                hints:nil];
+  [NSGraphicsContext saveGraphicsState];
+  if (flipsLeftRight_ || flipsTopBottom_)
+    flip(place, flipsLeftRight_, flipsTopBottom_);
+  [image_ drawInRect:NSMakeRect(place.x, place.y, place.width, place.height)
+            fromRect:NSZeroRect
+           operation:NSCompositeSourceOver
+            fraction:opacity
+      respectFlipped:YES
+               hints:nil];
+  [NSGraphicsContext restoreGraphicsState];
 }
 
 bool SheetPainter::take(const std::optional<SheetSideImages> &sides) {
@@ -84,7 +75,7 @@ const SheetPages *SheetPainter::pages(const Preview &preview) {
   if (pages_ && isFlipped == isFlippedLeftRight_)
     return &*pages_;
   isFlippedLeftRight_ = isFlipped;
-  const auto image = [](const std::shared_ptr<const RenderedPage> &page, bool leftRight,
+  const auto image = [](const std::shared_ptr<const PageInk> &page, bool leftRight,
                         bool topBottom) {
     return page != nullptr ? std::make_shared<const PageImage>(page, leftRight, topBottom)
                            : nullptr;

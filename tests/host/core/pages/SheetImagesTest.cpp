@@ -19,7 +19,7 @@ namespace {
 using namespace imageposition::test;
 using State = SheetImages::State;
 
-constexpr std::uint32_t kWhite = 0xFFFFFFFFU;
+constexpr std::uint32_t kPaper = 0;
 
 /// The number of the page, from 0, that `pdfWithNumberedPages` has drawn; -1 without an image.
 int pageOn(const SheetImages::Image &image) {
@@ -27,7 +27,7 @@ int pageOn(const SheetImages::Image &image) {
     return -1;
   for (int x = 0; x < image->width; x++)
     for (int y = 0; y < image->height; y++)
-      if (image->pixels[static_cast<std::size_t>(y * image->width + x)] != kWhite)
+      if (image->pixels[static_cast<std::size_t>(y * image->width + x)] != kPaper)
         return (x - 72 + 5) / 10;
   return -2;
 }

@@ -20,7 +20,7 @@ namespace {
 using namespace imageposition;
 using imageposition::test::previewOf;
 
-using Side = std::shared_ptr<const RenderedPage>;
+using Side = std::shared_ptr<const PageInk>;
 
 constexpr Rgb kFrontInk = 0x000000, kBackInk = 0xC000C0, kWhite = 0xFFFFFF;
 constexpr Rgb kFrontThroughPaper = 0x8C8C8C;
@@ -72,7 +72,7 @@ protected:
         const bool isInk = block.contains({x * 1.0, y * 1.0});
         side.pixels.push_back(0xFF000000U | static_cast<std::uint32_t>(isInk ? ink : kWhite));
       }
-    return std::make_shared<const RenderedPage>(std::move(side));
+    return std::make_shared<const PageInk>(inkOn(std::move(side)));
   }
   Side blank() const { return sideWith({}, kWhite); }
 
@@ -215,10 +215,10 @@ TEST_F(PagesInThePicture, ASmallerPageIsInTheMiddleOfTheSheet) {
 }
 
 TEST_F(PagesInThePicture, AnImageInAnotherResolutionHasTheSameSize) {
-  RenderedPage fine = *sideWith({40, 60, 18, 12}, kFrontInk, 2);
+  PageInk fine = *sideWith({40, 60, 18, 12}, kFrontInk, 2);
   fine.pageWidth = {595};
   fine.pageHeight = {842};
-  show(previewOf({}, {}), std::make_shared<const RenderedPage>(fine), nullptr);
+  show(previewOf({}, {}), std::make_shared<const PageInk>(fine), nullptr);
   expectAt(boxOf(kFrontInk, page(PreviewLayout::Front)),
            within(page(PreviewLayout::Front), kFrontBlock), 1);
 }
