@@ -148,10 +148,11 @@ void SheetImages::show(std::optional<ShownDocument> document) {
   fetchNext();
 }
 
-void SheetImages::setScale(double pixelsPerPoint) {
-  if (pixelsPerPoint_ == pixelsPerPoint)
+void SheetImages::setScale(double pixelsPerPoint, Needed needed) {
+  if (pixelsPerPoint_ == pixelsPerPoint && needed_ == needed)
     return;
   pixelsPerPoint_ = pixelsPerPoint;
+  needed_ = needed;
   fetchNext(); // or after what is being fetched, whose layout is still right
 }
 
@@ -198,11 +199,20 @@ SheetImages::State SheetImages::state() const noexcept {
     return State::Failed;
   if (order_.sheets() == 0)
     return document_->pages ? State::None : State::Loading; // the page ranges have no page
-  const SheetSides sides = this->sides();
-  for (const auto &side : {sides.front, sides.back})
-    if (side && images_.count(*side) == 0)
-      return State::Loading;
-  return State::Shown;
+  const std::vector<int> needed = neededSides(sheet_);
+  const bool isComplete = std::all_of(needed.begin(), needed.end(),
+                                      [this](int side) { return images_.count(side) > 0; });
+  return isComplete ? State::Shown : State::Loading;
+}
+
+std::vector<int> SheetImages::neededSides(int sheet) const {
+  const SheetSides sides = order_.sheet(sheet);
+  std::vector<int> needed;
+  if (sides.front && needed_ != Needed::Back)
+    needed.push_back(*sides.front);
+  if (sides.back && needed_ != Needed::Front)
+    needed.push_back(*sides.back);
+  return needed;
 }
 
 SheetImages::Image SheetImages::imageOf(const std::optional<int> &side) const {
@@ -214,7 +224,7 @@ SheetImages::Image SheetImages::imageOf(const std::optional<int> &side) const {
 /// Without an image of the right size.
 std::vector<int> SheetImages::missingSides(int sheet) const {
   std::vector<int> missing;
-  for (int side = order_.firstSide(sheet); side < order_.firstSide(sheet + 1); side++) {
+  for (const int side : neededSides(sheet)) {
     const auto found = images_.find(side);
     if (found == images_.end() || found->second.pixelsPerPoint != pixelsPerPoint_)
       missing.push_back(side);

@@ -38,10 +38,13 @@ public:
 
   enum class State {
     None,    ///< There is no document to show.
-    Loading, ///< The visible sheet is not there yet.
+    Loading, ///< A side of the visible sheet that is needed is not there yet.
     Shown,
     Failed,
   };
+
+  /// Of the visible sheet. An enlarged side takes megabytes, so the other one is not fetched.
+  enum class Needed { BothSides, Front, Back };
 
   explicit SheetImages(Changed changed);
   /// Cancels what is under way.
@@ -53,7 +56,7 @@ public:
   /// the same. Until there are new images, those of the same path stay.
   void show(std::optional<ShownDocument> document);
   /// The size of the images. Until there are new images, the others stay.
-  void setScale(double pixelsPerPoint);
+  void setScale(double pixelsPerPoint, Needed needed = Needed::BothSides);
   /// Turns to a sheet, or to the nearest one that exists.
   void turnTo(int sheet);
   /// Takes what was fetched; returns whether anything has changed.
@@ -80,6 +83,7 @@ private:
   };
 
   SheetSides sides() const { return order_.sheet(sheet_); }
+  std::vector<int> neededSides(int sheet) const;
   Image imageOf(const std::optional<int> &side) const;
   std::vector<int> missingSides(int sheet) const;
   bool covers(int sheet) const;
@@ -90,6 +94,7 @@ private:
   Changed changed_;
   std::optional<ShownDocument> document_;
   double pixelsPerPoint_ = 0;
+  Needed needed_ = Needed::BothSides;
   int sheet_ = 0;
   SheetOrder order_;
   std::map<int, SizedImage> images_; // by printed side

@@ -22,6 +22,12 @@ struct TurnedSheets {
   SheetImages &images; // GNU's Objective-C cannot encode its members
 };
 
+SheetImages::Needed neededAt(PreviewLayout::Place place) {
+  return place == PreviewLayout::Front  ? SheetImages::Needed::Front
+         : place == PreviewLayout::Back ? SheetImages::Needed::Back
+                                        : SheetImages::Needed::BothSides;
+}
+
 } // namespace
 
 @interface SheetPanelController : NSObject <SheetTurning> {
@@ -43,7 +49,10 @@ struct TurnedSheets {
 }
 
 - (void)placeChosen:(id)sender {
-  [view showPlace:static_cast<PreviewLayout::Place>([sender indexOfSelectedItem])];
+  const auto place = static_cast<PreviewLayout::Place>([sender indexOfSelectedItem]);
+  [view showPlace:place];
+  sheets->images.setScale([view pixelsPerPoint], neededAt(place));
+  [self refresh];
 }
 
 - (void)refresh {
@@ -124,10 +133,8 @@ void SheetPanel::show(NSWindow *parent, PreviewLayout::Place place) {
   [bar setFrame:rows.bar];
   for (NSView *part : {(NSView *)view, (NSView *)places, (NSView *)bar})
     panel.add(part);
-  [view showPlace:static_cast<PreviewLayout::Place>([places indexOfSelectedItem])];
   controller_ = controller;
-  images_.setScale([view pixelsPerPoint]);
-  [controller refresh];
+  [controller placeChosen:places];
   panel.run(parent, {view, places, [bar previousButton], [bar nextButton]});
   controller_ = nil;
   [places setTarget:nil];

@@ -261,6 +261,24 @@ TEST_F(JobsSheets, AreRenderedAgainInAnotherSize) {
   }));
 }
 
+TEST_F(JobsSheets, AreFetchedOnlyOnTheSideThatIsNeeded) {
+  show(pdfWithNumberedPages(4), 4);
+  ASSERT_TRUE(waitFor(State::Shown));
+  const int width = images_->front()->width;
+  images_->setScale(2, SheetImages::Needed::Front);
+  EXPECT_TRUE(becomesTrue([&] {
+    take();
+    return images_->front()->width >= 2 * width - 1;
+  }));
+  EXPECT_EQ(images_->back()->width, width);
+  images_->turnTo(1);
+  ASSERT_TRUE(waitFor(State::Shown));
+  EXPECT_EQ(images_->back(), nullptr);
+  images_->setScale(2, SheetImages::Needed::Back);
+  EXPECT_TRUE(waitFor(State::Shown));
+  EXPECT_GE(images_->back()->width, 2 * width - 1);
+}
+
 TEST_F(JobsSheets, OfADamagedDocumentFail) {
   for (const std::string &content : {std::string("%PDF-1.7\nnothing of the kind\n"),
                                      pdfWithPassword(), std::string("\0\1\2", 3)}) {
