@@ -27,6 +27,18 @@ constexpr const char *kNoTree = "the page tree is not a tree";
 /// What a page can inherit from a node of the page tree above it.
 constexpr const char *kInherited[] = {"/Resources", "/MediaBox", "/CropBox", "/Rotate"};
 
+/// Some catalogues name another node than the root; readers follow its parents.
+QPDFObjectHandle rootOf(QPDF &pdf) {
+  QPDFObjectHandle node = pdf.getRoot().getKey("/Pages");
+  std::set<QPDFObjGen> seen;
+  while (node.isDictionary() && node.hasKey("/Parent")) {
+    if (!seen.insert(node.getObjGen()).second)
+      throw PdfTrouble(PdfTrouble::Kind::Damaged, kNoTree);
+    node = node.getKey("/Parent");
+  }
+  return node;
+}
+
 /// Walks the page tree up to the last chosen page. QPDF's own list reads all pages, which takes a
 /// tenth of a second for thousands.
 class ChosenOnly {
@@ -38,18 +50,6 @@ public:
 
 private:
   using Attributes = std::map<std::string, QPDFObjectHandle>;
-
-  /// Some catalogues name another node than the root; readers follow its parents.
-  static QPDFObjectHandle rootOf(QPDF &pdf) {
-    QPDFObjectHandle node = pdf.getRoot().getKey("/Pages");
-    std::set<QPDFObjGen> seen;
-    while (node.isDictionary() && node.hasKey("/Parent")) {
-      if (!seen.insert(node.getObjGen()).second)
-        throw PdfTrouble(PdfTrouble::Kind::Damaged, kNoTree);
-      node = node.getKey("/Parent");
-    }
-    return node;
-  }
 
   static bool isNode(QPDFObjectHandle &object) {
     return object.isDictionary() && object.hasKey("/Kids");
@@ -96,22 +96,33 @@ private:
   std::vector<QPDFObjectHandle> pages_;
 };
 
-/// A page tree with one node.
-void keepOnly(QPDF &pdf, std::vector<QPDFObjectHandle> &pages) {
-  auto tree = QPDFObjectHandle::newDictionary();
-  tree.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
-  tree.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(pages.size())));
-  tree.replaceKey("/Kids", QPDFObjectHandle::newArray(pages));
-  const QPDFObjectHandle root = pdf.makeIndirectObject(tree);
-  for (QPDFObjectHandle &page : pages) {
+/// QPDF reads all pages of the tree before it copies an object.
+void keepOnly(QPDF &pdf, const std::vector<QPDFObjectHandle> &pages) {
+  QPDFObjectHandle catalogue = pdf.getRoot();
+  for (const char *const key : kReferring)
+    catalogue.removeKey(key);
+  QPDFObjectHandle root = rootOf(pdf);
+  catalogue.replaceKey("/Pages", root);
+  root.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
+  root.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(pages.size())));
+  root.replaceKey("/Kids", QPDFObjectHandle::newArray(pages));
+  for (QPDFObjectHandle page : pages) {
     page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
     page.replaceKey("/Parent", root);
     page.removeKey("/B"); // article threads
   }
-  QPDFObjectHandle catalogue = pdf.getRoot();
-  catalogue.replaceKey("/Pages", root);
-  for (const char *const key : kReferring)
-    catalogue.removeKey(key);
+}
+
+/// To an empty document: QPDF reads all objects of a document before it adds one or writes it.
+void copy(QPDF &pdf, const std::vector<QPDFObjectHandle> &pages, QPDF &to) {
+  to.setSuppressWarnings(true);
+  to.emptyPDF();
+  for (const QPDFObjectHandle &page : pages)
+    to.addPage(page, false);
+  QPDFObjectHandle catalogue = to.copyForeignObject(pdf.getRoot());
+  for (const std::string &key : catalogue.getKeys())
+    if (key != "/Pages")
+      to.getRoot().replaceKey(key, catalogue.getKey(key));
 }
 
 } // namespace
@@ -125,8 +136,11 @@ std::size_t choosePages(const Descriptor &from, const Descriptor &to, const Page
       throw PdfTrouble(PdfTrouble::Kind::Damaged, "there are no such pages");
     count = kept.size();
     keepOnly(pdf, kept);
+    QPDF chosen;
+    copy(pdf, kept, chosen);
     const auto stream = streamOf(to, "wb");
-    QPDFWriter writer(pdf);
+    QPDFWriter writer(chosen);
+    writer.setMinimumPDFVersion(pdf.getPDFVersion(), pdf.getExtensionLevel());
     writer.setOutputFile("result", stream.get(), false);
     writer.setStreamDataMode(qpdf_s_preserve);
     writer.setPreserveEncryption(false);

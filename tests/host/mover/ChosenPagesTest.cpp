@@ -109,6 +109,24 @@ TEST(ChosenPages, KeepTheLayersAndFormsOfTheDocument) {
   });
 }
 
+TEST(ChosenPages, KeepTheirFieldsOfAFormWithoutTheOtherPages) {
+  const std::string page = "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 ";
+  const std::string field = "<< /Type /Annot /Subtype /Widget /FT /Tx /P ";
+  const std::string pdf =
+      pdfOf({"<< /Type /Catalog /Pages 2 0 R /AcroForm << /Fields [5 0 R 6 0 R] >> >>",
+             "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>", page + "30 30] /Annots [5 0 R] >>",
+             page + "40 40] /Annots [6 0 R] >>", field + "3 0 R /T (first) >>",
+             field + "4 0 R /T (second) >>"});
+  withPdf(chosen(pdf, "2"), [](QPDF &document) {
+    QPDFObjectHandle only = document.getAllPages().at(0);
+    QPDFObjectHandle fields = document.getRoot().getKey("/AcroForm").getKey("/Fields");
+    EXPECT_EQ(only.getKey("/Annots").getArrayItem(0).getObjGen(),
+              fields.getArrayItem(1).getObjGen());
+    EXPECT_EQ(fields.getArrayItem(1).getKey("/P").getObjGen(), only.getObjGen());
+    EXPECT_TRUE(fields.getArrayItem(0).getKey("/P").isNull()) << "a page that was not chosen";
+  });
+}
+
 TEST(ChosenPages, ThatDoNotExistAreATrouble) {
   EXPECT_THROW(chosen(pdfWithNumberedPages(3), "4-"), PdfTrouble);
   EXPECT_THROW(chosen("no document", "1"), PdfTrouble);
