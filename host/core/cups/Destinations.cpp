@@ -11,7 +11,6 @@
 #include "VisibleText.hpp"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <system_error>
 #include <utility>
@@ -204,7 +203,7 @@ DestinationList readDestinations(std::chrono::milliseconds timeout) {
   const PasswordQuestion noPassword;
   const auto connection = CupsConnection::open(timeout, isInTime);
   if (!connection)
-    return {{}, messages::noCups(cupsServerName(), systemReason(errno))};
+    return {{}, messages::noCups(cupsServerName(), "")}; // libcups leaves no reason
   DestinationList list;
   cups_dest_t *dests = nullptr;
   const int count = cupsGetDests2(connection->http(), &dests);

@@ -9,7 +9,6 @@
 #include "Phrases.hpp"
 #include "ReleaseTime.hpp"
 
-#include <cerrno>
 #include <chrono>
 #include <cstring>
 #include <ctime>
@@ -187,7 +186,7 @@ std::string Submission::messageFor(JobProblem problem, const std::string &reason
 void Submission::connect() {
   connection_ = CupsConnection::open(kTimeout, [this] { return keepWaiting(); });
   if (!connection_)
-    fail(JobProblem::NoCups, messages::noCups(cupsServerName(), systemReason(errno)));
+    fail(JobProblem::NoCups, messages::noCups(cupsServerName(), ""));
 }
 
 void Submission::findPrinter() {

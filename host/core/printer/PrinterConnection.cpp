@@ -5,7 +5,6 @@
 #include "PrinterFailure.hpp"
 #include "PrinterTexts.hpp"
 
-#include <cerrno>
 #include <functional>
 
 namespace imageposition {
@@ -13,8 +12,7 @@ namespace imageposition {
 std::unique_ptr<CupsConnection> connectForPrinter(SilenceLimit &silence) {
   auto connection = CupsConnection::open(SilenceLimit::kLimit, std::ref(silence));
   if (!connection)
-    throw PrinterFailure(messages::noCups(cupsServerName(), systemReason(errno)),
-                         messages::kOtherServer);
+    throw PrinterFailure(messages::noCups(cupsServerName(), ""), messages::kOtherServer);
   connection->probe();
   if (silence.isExceeded())
     failForSilence();

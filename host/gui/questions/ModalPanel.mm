@@ -7,6 +7,7 @@
 #import "TextBridge.h"
 #import "WindowFocus.h"
 #import "WindowPlacement.h"
+#import "XWindow.h"
 
 @interface ModalPanelController : NSObject <KeyWindowDelegate> {
 @public
@@ -147,6 +148,7 @@ bool ModalPanel::run(NSWindow *parent, const std::vector<NSView *> &order, NSVie
   } else
     placeOver(window_, parent);
   [parent addChildWindow:window_ ordered:NSWindowAbove];
+  describeAsDialog(window_, parent != nil);
   [window_ makeKeyAndOrderFront:nil];
   [window_ makeFirstResponder:first];
   for (const NSTimeInterval delay : kFocusDelays)

@@ -1,14 +1,21 @@
 #import "PrinterPanel.h"
 
+#include "BackgroundCall.hpp"
 #import "Labels.h"
 #import "ListPopUp.h"
 #import "MnemonicControls.h"
 #import "ModalPanel.h"
 #include "QuestionTexts.hpp"
+#import "RunLoopWake.h"
 #import "TextBridge.h"
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <cmath>
+#include <memory>
+#include <system_error>
+#include <thread>
 #include <vector>
 
 namespace imageposition {
@@ -27,12 +34,39 @@ std::vector<const Destination *> queuesOf(const DestinationList &printers) {
   return queues;
 }
 
+/// Returns once CUPS has a printer, or nobody waits any more.
+bool awaitPrinter(const std::atomic<bool> &isOver) {
+  constexpr std::chrono::seconds kTimeout{3};
+  constexpr std::chrono::milliseconds kShort{100};
+  constexpr int kBetweenQueries = 20; // times `kShort`
+  for (int i = 1; !isOver; i++) {
+    std::this_thread::sleep_for(kShort);
+    if (i % kBetweenQueries == 0 && !readDestinations(kTimeout).destinations.empty())
+      return true;
+  }
+  return false;
+}
+
+/// Ends when the user answers, or by itself when there is a printer.
 bool tryAgain(NSTextField *text) {
   ModalPanel panel(messages::kNoPrinterWindow, kWidth, NSHeight([text frame]), messages::kTryAgain,
                    messages::kCancel);
   [text setFrameOrigin:NSMakePoint(kPanelMargin, panel.bottom())];
   panel.add(text);
-  return panel.run(nil, {});
+  NSWindow *const window = panel.window();
+  const RunLoopWake wake([=] {
+    [NSApp stopModalWithCode:NSOKButton];
+    wakeModalLoop(window);
+  });
+  const auto isOver = std::make_shared<std::atomic<bool>>(false);
+  std::optional<BackgroundCall<bool>> watch;
+  try {
+    watch.emplace([=] { return awaitPrinter(*isOver); }, std::chrono::hours(24), wake.signal());
+  } catch (const std::system_error &) { // no thread is left
+  }
+  const bool isConfirmed = panel.run(nil, {});
+  *isOver = true;
+  return isConfirmed;
 }
 
 /// Puts the label to the left of the pop-up, which takes the rest of the width.

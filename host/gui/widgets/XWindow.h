@@ -20,6 +20,10 @@ XWindow xWindowOf(NSWindow *window);
 /// window, which may be gone. Call it once the window is on the screen.
 void makeModalDialogOf(NSWindow *window, std::uint32_t parent);
 
+/// Tells the window manager that the window is a dialog, and whether it is modal for its parent.
+/// Call it before the window is on the screen.
+void describeAsDialog(NSWindow *window, bool isModal);
+
 } // namespace imageposition
 
 #endif

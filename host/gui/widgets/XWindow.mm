@@ -2,6 +2,7 @@
 
 #import <GNUstepGUI/GSDisplayServer.h>
 
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -34,6 +35,21 @@ void makeModalDialogOf(NSWindow *window, std::uint32_t parent) {
   XSendEvent(display, DefaultRootWindow(display), False,
              SubstructureNotifyMask | SubstructureRedirectMask, &request);
   XFlush(display);
+}
+
+void describeAsDialog(NSWindow *window, bool isModal) {
+  const XWindow own = xWindowOf(window);
+  if (own.number == 0)
+    return;
+  auto *const display = static_cast<Display *>(own.display);
+  const auto set = [&](const char *property, const char *value) {
+    const Atom atom = XInternAtom(display, value, False);
+    XChangeProperty(display, own.number, XInternAtom(display, property, False), XA_ATOM, 32,
+                    PropModeReplace, reinterpret_cast<const unsigned char *>(&atom), 1);
+  };
+  set("_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DIALOG");
+  if (isModal)
+    set("_NET_WM_STATE", "_NET_WM_STATE_MODAL");
 }
 
 } // namespace imageposition

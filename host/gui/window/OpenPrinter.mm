@@ -80,8 +80,9 @@ std::variant<OpenedPrinter, ExitCode> awaitFirstPrinter(std::unique_ptr<PrinterO
       errors << messages::kCancelled.view() << '\n';
       return ExitCode::Cancelled;
     } catch (const Failure &failure) {
-      errors << messages::kProgram << failure.what() << std::endl;
       const DestinationList &printers = opening->printers();
+      const bool hasNone = printers.reason == messages::kNoPrinters.str();
+      errors << messages::kProgram << (hasNone ? printers.reason : failure.what()) << std::endl;
       const auto chosen = askForPrinter(problemOf(failure, printers), printers, tried);
       if (!chosen)
         return failure.code();
