@@ -1,6 +1,7 @@
 #include "AlignmentCommands.hpp"
 #include "CommandLine.hpp"
 #include "Destinations.hpp"
+#include "DocumentExaminer.hpp"
 #include "FailureReport.hpp"
 #include "GnustepModule.hpp"
 #include "JobSubmission.hpp"

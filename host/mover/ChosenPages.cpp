@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -18,9 +19,10 @@ namespace imageposition {
 
 namespace {
 
-/// What leads from the catalogue to other pages, and does not change how a page looks.
-constexpr const char *kReferring[] = {"/Outlines",   "/Dests",      "/Names", "/StructTreeRoot",
-                                      "/OpenAction", "/PageLabels", "/AA",    "/Threads"};
+/// What in the catalogue changes how pages look, or marks the document. The rest may lead to other
+/// pages.
+constexpr const char *kKept[] = {"/AcroForm", "/Extensions", "/OCProperties", "/PieceInfo",
+                                 "/Version"};
 
 constexpr const char *kNoTree = "the page tree is not a tree";
 
@@ -96,13 +98,11 @@ private:
   std::vector<QPDFObjectHandle> pages_;
 };
 
-/// QPDF reads all pages of the tree before it copies an object.
+/// QPDF reads all pages of the tree before it copies an object, and copies what a catalogue leads to.
 void keepOnly(QPDF &pdf, const std::vector<QPDFObjectHandle> &pages) {
-  QPDFObjectHandle catalogue = pdf.getRoot();
-  for (const char *const key : kReferring)
-    catalogue.removeKey(key);
   QPDFObjectHandle root = rootOf(pdf);
-  catalogue.replaceKey("/Pages", root);
+  for (const char *const name : kInherited)
+    root.removeKey(name); // the pages have them
   root.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
   root.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(pages.size())));
   root.replaceKey("/Kids", QPDFObjectHandle::newArray(pages));
@@ -111,9 +111,16 @@ void keepOnly(QPDF &pdf, const std::vector<QPDFObjectHandle> &pages) {
     page.replaceKey("/Parent", root);
     page.removeKey("/B"); // article threads
   }
+  QPDFObjectHandle catalogue = pdf.getRoot();
+  for (const std::string &key : catalogue.getKeys())
+    if (std::find(std::begin(kKept), std::end(kKept), key) == std::end(kKept))
+      catalogue.removeKey(key);
+  catalogue.replaceKey("/Type", QPDFObjectHandle::newName("/Catalog"));
+  catalogue.replaceKey("/Pages", root);
 }
 
-/// To an empty document: QPDF reads all objects of a document before it adds one or writes it.
+/// To an empty document: QPDF reads all objects of a document before it adds one or writes it. What
+/// leads from a page to one that is copied later becomes null.
 void copy(QPDF &pdf, const std::vector<QPDFObjectHandle> &pages, QPDF &to) {
   to.setSuppressWarnings(true);
   to.emptyPDF();

@@ -177,9 +177,10 @@ std::optional<DocumentDefect> DocumentExaminer::defect() const {
 
 bool DocumentExaminer::isDone() const { return work_ == nullptr || work_->isDone(); }
 
-std::optional<DocumentDefect> defectOf(const std::string &path) {
+DocumentReport examined(const std::string &path) {
   const std::atomic<bool> isStopped{false};
-  return readDefect(Examination(path).report(isStopped));
+  const std::string report = Examination(path).report(isStopped);
+  return {readFacts(report), readDefect(report)};
 }
 
 } // namespace imageposition

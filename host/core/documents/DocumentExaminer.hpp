@@ -17,7 +17,8 @@ namespace imageposition {
 /// Call all methods on one thread; none waits for the document.
 class DocumentExaminer {
 public:
-  /// Called on another thread when a document has been examined, even if nothing is known about it.
+  /// Called when a document has been examined, even if nothing is known about it: on another
+  /// thread, or by `tell`.
   using Changed = std::function<void()>;
 
   DocumentExaminer();
@@ -33,7 +34,7 @@ public:
   /// The file's `fileVersion` before it was examined.
   const std::string &version() const noexcept { return version_; }
 
-  /// From now on calls `changed`: at once if the document has been examined already.
+  /// From now on calls `changed`; before it returns, if the document has been examined already.
   void tell(Changed changed);
 
   /// Empty until they are known, for a document with a defect, and for one that cannot be examined
@@ -54,9 +55,14 @@ private:
   std::unique_ptr<Work> work_; // null without a document
 };
 
-/// Why CUPS cannot, or may not be able to, print the document. Waits for the process that reads it,
-/// for a few seconds at most. Empty if nothing is known.
-std::optional<DocumentDefect> defectOf(const std::string &path);
+/// What is known of a document.
+struct DocumentReport {
+  std::optional<DocumentFacts> facts;
+  std::optional<DocumentDefect> defect;
+};
+
+/// Waits for the process that reads the document, for a few seconds at most.
+DocumentReport examined(const std::string &path);
 
 } // namespace imageposition
 

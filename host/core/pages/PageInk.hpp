@@ -17,7 +17,7 @@ struct PageInk {
   std::vector<std::uint32_t> pixels;
 };
 
-/// Uses the page's memory again. On white paper, the least of the three colours is what the ink
+/// Reuses the page's memory. On white paper, the least of the three colours is what the ink
 /// lets through of all of them.
 PageInk inkOn(RenderedPage page);
 

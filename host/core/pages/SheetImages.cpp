@@ -201,7 +201,7 @@ SheetImages::State SheetImages::state() const noexcept {
     return document_->pages ? State::None : State::Loading; // the page ranges have no page
   const std::vector<int> needed = neededSides(sheet_);
   const bool isComplete = std::all_of(needed.begin(), needed.end(),
-                                      [this](int side) { return images_.count(side) > 0; });
+                                      [this](int side) { return isFetched(side); });
   return isComplete ? State::Shown : State::Loading;
 }
 

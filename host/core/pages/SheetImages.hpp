@@ -73,6 +73,9 @@ public:
   const SheetOrder &order() const noexcept { return order_; }
   Image front() const { return imageOf(order_.sheets() > 0 ? sides().front : std::nullopt); }
   Image back() const { return imageOf(order_.sheets() > 0 ? sides().back : std::nullopt); }
+  /// Whether `front` and `back` are known: there is an image, or none to wait for.
+  bool hasFront() const { return order_.sheets() == 0 || isFetched(sides().front); }
+  bool hasBack() const { return order_.sheets() == 0 || isFetched(sides().back); }
 
 private:
   class Fetch;
@@ -85,6 +88,9 @@ private:
   SheetSides sides() const { return order_.sheet(sheet_); }
   std::vector<int> neededSides(int sheet) const;
   Image imageOf(const std::optional<int> &side) const;
+  bool isFetched(const std::optional<int> &side) const {
+    return !side || images_.count(*side) > 0;
+  }
   std::vector<int> missingSides(int sheet) const;
   bool covers(int sheet) const;
   void dropDistantImages();

@@ -12,7 +12,7 @@
 
 namespace imageposition {
 
-/// Shares the pixels of the ink. Main thread.
+/// Draws the ink from the memory that it is kept in. Main thread.
 class PageImage {
 public:
   /// `page` has pixels. The flips show it as it shines through the sheet.
@@ -33,10 +33,12 @@ private:
   NSImage *const image_; // owned
 };
 
-/// A sheet's sides. Null for a blank side, or one that could not be rendered.
+/// A sheet's sides. Null for a blank side, and for one that could not be rendered or is not there
+/// yet.
 struct SheetSideImages {
   std::shared_ptr<const PageInk> front;
   std::shared_ptr<const PageInk> back;
+  bool isFrontThere = true, isBackThere = true;
 };
 
 /// The same, ready to be drawn.
@@ -44,6 +46,7 @@ struct SheetPages {
   std::shared_ptr<const PageImage> front;
   std::shared_ptr<const PageImage> back;
   std::shared_ptr<const PageImage> frontSeenThrough;
+  bool isFrontThere = true, isBackThere = true; ///< Otherwise there will be an image.
 };
 
 /// Makes the images that can be drawn, and keeps them until the sides change.

@@ -6,7 +6,7 @@ namespace imageposition {
 
 namespace {
 
-/// Refers to the pixels.
+/// Borrows the pixels, which must outlive the image.
 NSImage *newImageOf(const PageInk &page) {
   // A bitmap that is only drawn does not write to its planes.
   unsigned char *planes[] = {
@@ -61,7 +61,9 @@ void PageImage::draw(const PixelRectangle &place, double opacity) const {
 
 bool SheetPainter::take(const std::optional<SheetSideImages> &sides) {
   if (sides.has_value() == sides_.has_value() &&
-      (!sides || (sides->front == sides_->front && sides->back == sides_->back)))
+      (!sides || (sides->front == sides_->front && sides->back == sides_->back &&
+                  sides->isFrontThere == sides_->isFrontThere &&
+                  sides->isBackThere == sides_->isBackThere)))
     return false;
   sides_ = sides;
   pages_.reset();
@@ -81,7 +83,8 @@ const SheetPages *SheetPainter::pages(const Preview &preview) {
                            : nullptr;
   };
   pages_ = {image(sides_->front, false, false), image(sides_->back, false, false),
-            image(sides_->front, isFlipped, !isFlipped)};
+            image(sides_->front, isFlipped, !isFlipped), sides_->isFrontThere,
+            sides_->isBackThere};
   return &*pages_;
 }
 

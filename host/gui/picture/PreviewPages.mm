@@ -146,10 +146,11 @@ void clipAround(const PixelRectangle &page) {
 }
 
 DrawnSide withImage(DrawnSide drawn, const SheetPages *pages,
-                    const std::shared_ptr<const PageImage> SheetPages::*side) {
+                    const std::shared_ptr<const PageImage> SheetPages::*side,
+                    bool SheetPages::*isThere) {
   if (pages != nullptr) {
     drawn.image = (pages->*side).get();
-    drawn.isBlank = drawn.image == nullptr;
+    drawn.isBlank = drawn.image == nullptr && pages->*isThere;
   }
   return drawn;
 }
@@ -164,7 +165,7 @@ void drawBothSides(const Preview &preview, const PreviewLayout &layout, const Sh
   clipAround(page);
   DrawnSide front =
       withImage({&*preview.frontSeenThrough, colours.front, false, vertical, !vertical}, pages,
-                &SheetPages::frontSeenThrough);
+                &SheetPages::frontSeenThrough, &SheetPages::isFrontThere);
   front.opacity = kShineThrough;
   drawSide(layout, PreviewLayout::AgainstLight, front, colours);
   if (pages != nullptr && pages->back != nullptr)
@@ -186,11 +187,13 @@ void drawOneSide(const PreviewLayout &layout, PreviewLayout::Place at, const Dra
 }
 
 DrawnSide frontOf(const Preview &preview, const SheetPages *pages) {
-  return withImage({&preview.front, pageColours(pages).front, false}, pages, &SheetPages::front);
+  return withImage({&preview.front, pageColours(pages).front, false}, pages, &SheetPages::front,
+                   &SheetPages::isFrontThere);
 }
 
 DrawnSide backOf(const Preview &preview, const SheetPages *pages) {
-  return withImage({&*preview.back, pageColours(pages).back, true}, pages, &SheetPages::back);
+  return withImage({&*preview.back, pageColours(pages).back, true}, pages, &SheetPages::back,
+                   &SheetPages::isBackThere);
 }
 
 void drawTitledSide(const PreviewLayout &layout, PreviewLayout::Place at, const DrawnSide &drawn,

@@ -11,7 +11,9 @@ namespace imageposition {
 
 /// None while no side of the visible sheet is there.
 inline std::optional<SheetSideImages> sheetSides(const SheetImages &images) {
-  const SheetSideImages sides{images.front(), images.back()};
+  SheetSideImages sides{images.front(), images.back()};
+  sides.isFrontThere = images.hasFront();
+  sides.isBackThere = images.hasBack();
   const bool isThere = images.state() == SheetImages::State::Shown || sides.front || sides.back;
   return isThere ? std::optional(sides) : std::nullopt;
 }

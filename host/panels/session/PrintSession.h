@@ -23,7 +23,7 @@ public:
   PrintSession(PrintJob &job, DocumentExaminer &examiner) : job_(job), examiner_(examiner) {}
 
   PrintJob &job() noexcept { return job_; }
-  /// For the window; without one, nothing is examined.
+  /// Used by the window only.
   DocumentExaminer &examiner() noexcept { return examiner_; }
   /// Loads the plug-ins and their panels. Needs the application.
   void loadPanels();

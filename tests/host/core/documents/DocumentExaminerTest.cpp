@@ -44,7 +44,7 @@ protected:
   DocumentExaminer examiner_;
 };
 
-TEST_F(Examiner, TellsWhoeverAsksLateThatTheDocumentHasBeenExamined) {
+TEST_F(Examiner, CallsBackAtOnceIfTheDocumentHasBeenExamined) {
   const std::string path = folder_.write("document", pdfWithPages({kA5}));
   DocumentExaminer examiner;
   examiner.examine(path);

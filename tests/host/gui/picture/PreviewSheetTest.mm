@@ -194,6 +194,20 @@ TEST_F(PagesInThePicture, ASideThatIsNotThereIsBlankPaper) {
   EXPECT_GT(count(page(PreviewLayout::Front), kFrontInk), 0);
 }
 
+TEST_F(PagesInThePicture, ASideThatIsNotThereYetHasASamplePage) {
+  const PixelRectangle &back = page(PreviewLayout::Back);
+  const auto inkOfBack = [&] { return back.width * back.height - count(back, kWhite); };
+  show(previewOf({}, {}), blank(), blank());
+  const double blankBack = inkOfBack();
+  [view_ showSheet:std::nullopt named:""];
+  look();
+  const double sample = inkOfBack();
+  ASSERT_GT(sample, blankBack);
+  [view_ showSheet:SheetSideImages{blank(), nullptr, true, false} named:""];
+  look();
+  EXPECT_EQ(inkOfBack(), sample);
+}
+
 TEST_F(PagesInThePicture, WithoutASheetThereAreSamplePages) {
   [view_ showPreview:previewOf({{10}, {0}}, {})];
   look();
