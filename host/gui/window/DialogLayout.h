@@ -6,6 +6,7 @@
 #import "KeyWindow.h"
 #import "ListPopUp.h"
 #import "MessageView.h"
+#import "PaneArea.h"
 #import "PictureArea.h"
 
 #include <string>
@@ -38,7 +39,7 @@ struct DialogContent {
   SheetBar *sheets; ///< The picture's; so below.
   NSButton *enlarge;
   NSButton *align;
-  NSView *paneArea;
+  PaneArea *paneArea;
   NSTextField *hint;
   NSButton *resolve;
   MessageView *message;

@@ -167,8 +167,9 @@ void DialogLayout::addViews() {
 void DialogLayout::layOut() {
   const NSSize size = [[window_ contentView] frame].size;
   const CGFloat full = kMargin + rowsHeight() + kGap + pane_.height + footHeight(true);
-  const CGFloat foot = footHeight(size.height >= full);
-  placeFoot(size, size.height >= full);
+  const bool hasRoom = size.height >= full && ![content_.paneArea usesMoreRoom];
+  const CGFloat foot = footHeight(hasRoom);
+  placeFoot(size, hasRoom);
   placeUpper(NSMakeSize(size.width, std::max<CGFloat>(size.height - foot, 1)), foot);
 }
 

@@ -9,6 +9,8 @@
 }
 /// Shows a pane in place of the one before. A pane that is larger than the area scrolls.
 - (void)showPane:(NSView *)pane;
+/// Whether the pane uses any room that it gets.
+- (BOOL)usesMoreRoom;
 @end
 
 #endif

@@ -50,6 +50,10 @@ NSView *fitted(NSView *pane, NSSize area) {
     [self showPane:shownPane];
 }
 
+- (BOOL)usesMoreRoom {
+  return [shownPane isKindOfClass:[NSScrollView class]];
+}
+
 - (void)showPane:(NSView *)pane {
   const NSSize area = [self frame].size;
   [pane retain];

@@ -40,7 +40,7 @@ NSSize largestPane(PanelSession &session);
         optionsOwner:(id<OptionsViewOwner>)theOwner
            moreOwner:(id<OptionsViewOwner>)theMoreOwner;
 - (imageposition::DialogRow)row;
-- (NSView *)area;
+- (PaneArea *)area;
 /// Called after the size of the area has changed.
 - (void)areaResized;
 /// Tab leads from the pane's last control to `view`.

@@ -90,7 +90,7 @@ NSSize imageposition::largestPane(PanelSession &session) {
   return {messages::kPaneRow, {{popUp}}};
 }
 
-- (NSView *)area {
+- (PaneArea *)area {
   return area;
 }
 
@@ -157,7 +157,10 @@ NSSize imageposition::largestPane(PanelSession &session) {
 }
 
 - (void)show:(NSView *)pane {
+  const BOOL usedMoreRoom = [area usesMoreRoom];
   [area showPane:pane];
+  if ([area usesMoreRoom] != usedMoreRoom)
+    [dialog layOut];
   linkPane(pane, popUp, after);
 }
 
