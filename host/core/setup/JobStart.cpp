@@ -106,10 +106,20 @@ void JobStart::begin(const PrintSettingsStore &settings,
   if (measured)
     setSideOffsets(withoutPreset_, *measured);
   atStart_ = settings;
+  for (int i = 0; i < preset_.settings.optionCount(); i++)
+    if (const char *const name = preset_.settings.options()[i].name;
+        withoutPreset_.get(name) == nullptr)
+      taken_.emplace_back(name);
 }
 
 bool JobStart::takeHistory(PrintSettingsStore &settings) {
+  const PrintSettingsStore before = settings;
   bool isTaken = false;
+  for (const std::string &name : std::exchange(taken_, {}))
+    if (isUntouched(atStart_, settings, name.c_str())) {
+      settings.remove(name);
+      atStart_.remove(name);
+    }
   PrintSettingsStore remembered;
   try {
     remembered = load().settings;
@@ -120,9 +130,10 @@ bool JobStart::takeHistory(PrintSettingsStore &settings) {
     const cups_option_t &option = remembered.options()[i];
     if (!isUntouched(atStart_, settings, option.name))
       continue;
-    isTaken = isTaken || !isSameIn(settings, remembered, option.name);
+    isTaken = isTaken || !isSameIn(before, remembered, option.name);
     settings.set(option.name, option.value);
     atStart_.set(option.name, option.value);
+    taken_.emplace_back(option.name);
   }
   return isTaken;
 }

@@ -99,6 +99,23 @@ TEST_F(JobStarts, TakeTheHistoryOfAnotherPrinterWhereNothingWasSet) {
   EXPECT_FALSE(start().takeHistory(job_));
 }
 
+TEST_F(JobStarts, LeaveToAPrinterWhatOnlyItsOwnHistoryHad) {
+  history_.setSettings("office", settingsOf({{"MediaType", "Transparency"}, {"Watermark", "Draft"}}));
+  history_.setSettings("attic", settingsOf({{"Duplex", "DuplexTumble"}}));
+  start();
+  job_.set("Watermark", "Secret");
+  printer_.queue = "attic";
+  start().takeHistory(job_);
+  EXPECT_EQ(job_.get("MediaType"), nullptr);
+  EXPECT_THAT(job_.get("Watermark"), StrEq("Secret")) << "the user's choice";
+  printer_.queue = "cellar";
+  start().takeHistory(job_);
+  EXPECT_EQ(job_.get("Duplex"), nullptr);
+  printer_.queue = "office";
+  EXPECT_TRUE(start().takeHistory(job_));
+  EXPECT_THAT(job_.get("MediaType"), StrEq("Transparency"));
+}
+
 TEST_F(JobStarts, HaveOffsetsOnlyIfTheCommandLineGivesThem) {
   history_.setSettings("office", settingsOf({{"LeftRightMargin", "3"}}));
   EXPECT_FALSE(start().hasOffsets());
