@@ -34,6 +34,12 @@ std::string documentHasPages(int pages) {
 std::string documentHasSides(int sides) {
   return counted(sides, "The document fills {1} side.", "The document fills {1} sides.");
 }
+std::string sidesAreChosen(int pagesPerSide, const std::string &pages) {
+  // Translators: {2} is a list such as "1-4, 9".
+  return text("With {1} pages per side, this selection counts sides, not pages. Pages {2} are "
+              "printed.")
+      .with(std::to_string(pagesPerSide), pages);
+}
 std::string sidesAreChosen(int pagesPerSide) {
   return text("With {1} pages per side, this selection counts sides, not pages.")
       .with(std::to_string(pagesPerSide));

@@ -20,6 +20,8 @@ std::string documentHasPages(int pages);
 std::string documentHasSides(int sides);
 /// For page ranges when there are several pages on a side.
 std::string sidesAreChosen(int pagesPerSide);
+/// The same, if the pages on the chosen sides are known.
+std::string sidesAreChosen(int pagesPerSide, const std::string &pages);
 
 } // namespace imageposition::messages
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace imageposition {
 
@@ -14,14 +15,17 @@ namespace {
 
 [[noreturn]] void refuse(const std::string &message) { throw Failure(ExitCode::Usage, message); }
 
-/// Commas as other keyboard layouts and users write them.
-constexpr std::string_view kCommas[] = {"\uFF0C", "\u3001", ";"};
+/// Commas and hyphens as other keyboard layouts and users write them.
+constexpr std::pair<std::string_view, char> kSigns[] = {
+    {"\uFF0C", ','}, {"\u3001", ','}, {";", ','},
+    {"\u301C", '-'}, {"\uFF5E", '-'}, {"~", '-'},
+};
 
 std::string plainText(std::string_view text) {
   std::string plain = withAsciiDigits(text);
-  for (const std::string_view comma : kCommas)
-    for (std::size_t at = 0; (at = plain.find(comma, at)) != std::string::npos;)
-      plain.replace(at, comma.size(), ",");
+  for (const auto &[sign, meant] : kSigns)
+    for (std::size_t at = 0; (at = plain.find(sign, at)) != std::string::npos;)
+      plain.replace(at, sign.size(), 1, meant);
   return plain;
 }
 
@@ -155,6 +159,17 @@ PageRanges PageRanges::parse(std::string_view text) {
 bool PageRanges::namesPagesBeyond(int pages) const noexcept {
   const PageRange &last = ranges_.back();
   return (last.last == PageRange::kToTheEnd ? last.first : last.last) > pages;
+}
+
+std::string PageRanges::pagesOnSides(int pagesPerSide, int pages) const {
+  std::vector<PageRange> all;
+  for (const PageRange &sides : ranges_) {
+    const int first = sides.first > pages ? pages + 1 : (sides.first - 1) * pagesPerSide + 1;
+    const int last = sides.last > pages ? pages : std::min(sides.last * pagesPerSide, pages);
+    if (first <= last)
+      all.push_back({first, last});
+  }
+  return written(all, ", ");
 }
 
 std::string PageRanges::text() const { return written(ranges_, ", "); }

@@ -34,6 +34,10 @@ public:
   /// Whether such a document lacks a page that is explicitly named.
   bool namesPagesBeyond(int pages) const noexcept;
 
+  /// If these are sides: the pages on them, in a document of `pages` pages. For display; may be
+  /// empty.
+  std::string pagesOnSides(int pagesPerSide, int pages) const;
+
   const std::vector<PageRange> &ranges() const noexcept { return ranges_; }
   /// For display: "1-3, 7, 9-".
   std::string text() const;

@@ -7,6 +7,7 @@
 #include "DocumentStream.hpp"
 #include "JobTexts.hpp"
 #include "Phrases.hpp"
+#include "PrinterRemarks.hpp"
 #include "ReleaseTime.hpp"
 
 #include <chrono>
@@ -334,9 +335,12 @@ std::string Submission::note() const {
   if (hold != nullptr && std::strcmp(hold, "no-hold") != 0)
     return messages::waitsForRelease(request_.printer, job_, releaseTime(hold));
   const Destination printer = toDestination(*printer_);
-  return printer.state == DestinationState::Stopped
-             ? messages::waitsForPrinter(request_.printer, printer.stateText)
-             : "";
+  if (printer.state != DestinationState::Stopped)
+    return "";
+  const auto remarks = printerRemarks(connection_->http());
+  const auto found = remarks.find(printer.name);
+  const std::string remark = found != remarks.end() ? found->second.text : "";
+  return messages::waitsForPrinter(request_.printer, messages::besides({printer.stateText, remark}));
 }
 
 /// Removes a job that failed. Throws another failure if the message must say what became of the

@@ -8,6 +8,9 @@
 #include "ValueCheck.hpp"
 
 #include <algorithm>
+#include <cups/pwg.h>
+#include <map>
+#include <sstream>
 
 namespace imageposition {
 
@@ -59,6 +62,46 @@ std::string problemOfSetting(const JobSetting &setting, const std::string &value
   return messages::unknownValue(setting.name, value, known);
 }
 
+/// Options that CUPS translates to those of a printer.
+const std::map<std::string, std::vector<std::string>> &translatedOptions() {
+  static const std::map<std::string, std::vector<std::string>> kOptions{
+      {"sides", {"one-sided", "two-sided-long-edge", "two-sided-short-edge"}},
+      {"page-set", {"all", "even", "odd"}},
+      {"print-quality", {"3", "4", "5"}},
+      {"print-color-mode", {"auto", "color", "monochrome"}}};
+  return kOptions;
+}
+
+/// `name` is one of the words in the value of `media`.
+bool isMedia(ppd_file_t *ppd, const std::string &name) {
+  static const std::vector<std::string> kTrays{"upper", "lower", "multipurpose", "largecapacity"};
+  const auto isChoice = [&](const char *option) {
+    return ppdFindChoice(ppdFindOption(ppd, option), name.c_str()) != nullptr;
+  };
+  return hasCustomPrefix(name) || isChoice("PageSize") || isChoice("InputSlot") || isChoice("MediaType") ||
+         contains(kTrays, name) || pwgMediaForPWG(name.c_str()) != nullptr ||
+         pwgMediaForLegacy(name.c_str()) != nullptr || pwgMediaForPPD(name.c_str()) != nullptr;
+}
+
+std::string problemOfMedia(ppd_file_t *ppd, const std::string &value) {
+  std::istringstream names(value);
+  for (std::string name; std::getline(names, name, ',');)
+    if (!isMedia(ppd, name))
+      return messages::unknownValue("media", name, {});
+  return {};
+}
+
+/// Empty for other options.
+std::string problemOfTranslated(ppd_file_t *ppd, const std::string &name,
+                                const std::string &value) {
+  if (name == "media")
+    return problemOfMedia(ppd, value);
+  const auto found = translatedOptions().find(name);
+  if (found == translatedOptions().end() || contains(found->second, value))
+    return {};
+  return messages::unknownValue(name, value, found->second);
+}
+
 } // namespace
 
 std::vector<std::string> unknownValues(const PrinterDescription &printer,
@@ -74,6 +117,8 @@ std::vector<std::string> unknownValues(const PrinterDescription &printer,
       problem = problemOfOption(printer.ppd(), *option, setting.value);
     else if (const JobSetting *const known = findSetting(setting.name))
       problem = problemOfSetting(*known, setting.value);
+    else
+      problem = problemOfTranslated(printer.ppd(), setting.name, setting.value);
     if (!problem.empty())
       sentences.push_back(std::move(problem));
   }

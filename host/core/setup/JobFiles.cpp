@@ -11,6 +11,7 @@
 #include "ShiftedJob.hpp"
 
 #include <cstdio>
+#include <filesystem>
 #include <iostream>
 #include <unistd.h>
 #include <utility>
@@ -67,6 +68,9 @@ std::unique_ptr<JobSubmission> JobFiles::startPdf(const PrintedContent &content,
                                                   JobSubmission::Changed changed) {
   if (content.documents.size() > 1)
     throw Failure(ExitCode::Usage, messages::kOneDocumentForPdf);
+  std::error_code ignored;
+  if (std::filesystem::equivalent(path, content.documents.front(), ignored))
+    throw Failure(ExitCode::Usage, messages::pdfIsDocument(path));
   const ShiftPlan plan = shiftOf(request, content.settings, *printer_.printer).plan;
   const std::shared_ptr<const ShiftedJob> laidOut = shiftedJob(request, plan, *printer_.printer);
   pdfNote_ = messages::pdfWritten(path);

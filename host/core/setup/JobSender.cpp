@@ -2,7 +2,10 @@
 
 #include "DocumentExaminer.hpp"
 #include "DocumentNames.hpp"
+#include "DocumentTexts.hpp"
 #include "GivenSettings.hpp"
+#include "JobSettings.hpp"
+#include "PageRanges.hpp"
 #include "Phrases.hpp"
 #include "QueueName.hpp"
 #include "SetupTexts.hpp"
@@ -17,12 +20,12 @@ namespace imageposition {
 
 namespace {
 
-void warnOfDefects(const JobDocuments &documents) {
-  for (const std::string &document : documents) {
-    const auto defect = document == "-" ? std::nullopt : defectOf(document);
-    if (defect)
-      std::cerr << messages::printsNothing(documentName(document), *defect) << '\n';
-  }
+/// Throws a `Failure` if the document has none of the chosen pages.
+void requirePages(const DocumentFacts &facts, const PageChoice &choice, int pagesPerSide) {
+  const int sides = (facts.pages + pagesPerSide - 1) / pagesPerSide;
+  if (choice.ranges && !choice.ranges->hasPagesUpTo(sides))
+    throw Failure(ExitCode::Usage, pagesPerSide > 1 ? messages::documentHasSides(sides)
+                                                    : messages::documentHasPages(sides));
 }
 
 } // namespace
@@ -62,8 +65,20 @@ void JobSender::warn(const PrintedContent &content, bool isShifted) const {
     return;
   if (isBackIgnored(arguments_, printer_.printer->ppd(), content.settings))
     std::cerr << messages::kBackIgnored.view() << '\n';
-  if (!arguments_.isSilent && !isShifted && !isRaw(content.settings))
-    warnOfDefects(content.documents);
+  if (isRaw(content.settings))
+    return;
+  const PageChoice choice = readPageChoice(content.settings);
+  PrintSettingsStore settings = content.settings;
+  const int pagesPerSide = JobSettings(*printer_.printer, settings).pagesPerSide();
+  for (const std::string &document : content.documents) {
+    if (document == "-" || (isShifted && !choice.ranges))
+      continue;
+    const DocumentReport report = examined(document);
+    if (report.facts && pagesPerSide > 0)
+      requirePages(*report.facts, choice, pagesPerSide);
+    if (report.defect && !isShifted && !arguments_.isSilent)
+      std::cerr << messages::printsNothing(documentName(document), *report.defect) << '\n';
+  }
 }
 
 /// `shifted` is null if the dialog does not move the image.

@@ -1,5 +1,6 @@
 #include "PrintJob.hpp"
 
+#include "CupsTexts.hpp"
 #include "DocumentNames.hpp"
 #include "ExitCode.hpp"
 #include "JobSplit.hpp"
@@ -12,6 +13,7 @@
 #include <cups/ppd.h>
 
 #include <cstring>
+#include <iostream>
 #include <optional>
 #include <utility>
 
@@ -185,6 +187,13 @@ std::unique_ptr<JobSubmission> PrintJob::print(const DestinationList &destinatio
   }
   if (ownShift == OwnShift::Skip)
     removeOffsets(request);
+  const Destination *const printer = destinations.find(chosen_.queue);
+  const bool wouldPrint =
+      printer == nullptr || (printer->acceptsJobs && printer->state != DestinationState::Stopped);
+  if (arguments_.isDryRun && !wouldPrint)
+    std::cerr << messages::wouldNotPrint(chosen_.queue,
+                                         messages::besides({printer->stateText, printer->remarks}))
+              << '\n';
   return sender_.submit(content(), request, std::move(changed));
 }
 

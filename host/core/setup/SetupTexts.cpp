@@ -8,6 +8,12 @@ std::string ticketWritten(const std::string &path, const std::string &optionPath
   return text("The job's settings are in {1} and {2}.")
       .with(shellWord(path), shellWord(optionPath));
 }
+std::string wouldNotPrint(const std::string &printer, const std::string &state) {
+  return text("The printer \"{1}\" would not print now: {2}").with(printer, state);
+}
+std::string pdfIsDocument(const std::string &path) {
+  return text("\"{1}\" is the document itself. Choose another name for the PDF file.").with(path);
+}
 std::string pdfWritten(const std::string &path) {
   return text("The pages are in {1}.").with(shellWord(path));
 }

@@ -10,6 +10,8 @@
 namespace imageposition::messages {
 
 // Output.
+std::string wouldNotPrint(const std::string &printer, const std::string &state);
+std::string pdfIsDocument(const std::string &path);
 std::string pdfWritten(const std::string &path);
 extern const Text kPdfIsMoved;
 extern const Text kNoDocumentForPdf;

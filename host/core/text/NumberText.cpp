@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 
 namespace imageposition {
 
@@ -53,6 +54,21 @@ bool isWholeNumber(std::string_view text) {
     text.remove_prefix(1);
   return !text.empty() && std::all_of(text.begin(), text.end(),
                                       [](unsigned char c) { return std::isdigit(c) != 0; });
+}
+
+std::optional<std::string> tenthsIn(std::string_view text) {
+  for (const std::string_view point : {".", ",", "\uFF0E", "\uFF0C"}) {
+    const std::size_t at = text.find(point);
+    if (at == std::string_view::npos)
+      continue;
+    const std::string_view whole = text.substr(0, at), tenth = text.substr(at + point.size());
+    const bool isNegative = !whole.empty() && whole.front() == '-';
+    if (tenth.size() != 1 || !isWholeNumber(tenth) || !isWholeNumber(whole) || whole.size() > 4)
+      return std::nullopt;
+    const int tenths = 10 * std::abs(std::stoi(std::string(whole))) + (tenth.front() - '0');
+    return std::to_string(isNegative ? -tenths : tenths);
+  }
+  return std::nullopt;
 }
 
 bool isSameNumber(std::string_view left, std::string_view right) {

@@ -12,9 +12,10 @@ namespace imageposition {
 class NumberNotes {
 public:
   /// Returns what the window shows after an edit, or its end; none if `message`, which it shows
-  /// now, stays. `typed` is what the user entered, `shown` what the field made of it.
+  /// now, stays. `typed` is what the user entered, `shown` what the field made of it. `isOffset` if
+  /// it is in tenths of a millimetre.
   std::optional<std::string> edited(const std::string &typed, const std::string &shown, bool isEnd,
-                                    const std::string &message);
+                                    bool isOffset, const std::string &message);
 
   /// Whether an edit has ended since `forgetChange` and the last one to end changed its number.
   bool isChanged() const noexcept { return isChanged_; }

@@ -91,8 +91,14 @@ constexpr CGFloat kPagesWidth = 130;
   if (!choice.ranges && choice.set == PageSet::All)
     return {};
   const int perSide = jobSettingsOf([dialog session]).pagesPerSide();
-  std::string counted = perSide > 1 ? messages::sidesAreChosen(perSide) : "";
-  const int sides = perSide > 0 ? ([dialog documentPages] + perSide - 1) / perSide : 0;
+  const int pagesOfAll = [dialog documentPages];
+  const std::string printed = choice.ranges && choice.set == PageSet::All && perSide > 1
+                                  ? choice.ranges->pagesOnSides(perSide, pagesOfAll)
+                                  : "";
+  const std::string counted = perSide <= 1      ? ""
+                              : printed.empty() ? messages::sidesAreChosen(perSide)
+                                                : messages::sidesAreChosen(perSide, printed);
+  const int sides = perSide > 0 ? (pagesOfAll + perSide - 1) / perSide : 0;
   if (!choice.ranges || sides == 0 || !choice.ranges->namesPagesBeyond(sides))
     return counted;
   const std::string lacking =

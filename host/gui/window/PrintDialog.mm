@@ -391,7 +391,9 @@ struct imageposition::PrintDialogState {
   const bool isEnd = edit.kind == NumberEdit::Kind::Ended;
   if (!isEnd && isWholeNumber(edit.shown))
     [panes takeNumber:field keepingIt:edit.kind == NumberEdit::Kind::Typed];
-  const auto note = state->numbers.edited(edit.typed, edit.shown, isEnd, state->shown.text());
+  const bool isOffset = ![pictureArea isHidden]; // there is a picture only beside offsets
+  const auto note =
+      state->numbers.edited(edit.typed, edit.shown, isEnd, isOffset, state->shown.text());
   if (note && state->numbers.isChanged())
     [self say:*note];
   else if (note)

@@ -72,11 +72,17 @@ std::string presetSaved(const std::string &lpName, bool isMovedHere) {
 const Text kJobWaits = text("The job is waiting");
 const Text kCancelJob = text("Cancel the job");
 const Text kStateUnknown = text("Looking for printers…");
-std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd) {
+std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd,
+                         bool isOffset) {
   const bool isNumber = isWholeNumber(typed);
   const bool isBeginning = typed.empty() || (!isEnd && (typed == "-" || typed == "+"));
   if (isBeginning || (isNumber && isSameNumber(typed, shown)))
     return {};
+  const auto tenths = isOffset && isEnd ? tenthsIn(typed) : std::nullopt;
+  if (tenths)
+    return text("\"{1}\" is not a whole number. {2} is kept. The unit is 0.1 mm: for {1} mm, enter "
+                "{3}.")
+        .with(typed, shown, *tenths);
   if (!isNumber)
     return isEnd ? text("\"{1}\" is not a whole number. {2} is kept.").with(typed, shown)
                  : text("\"{1}\" is not a whole number.").with(typed);
@@ -93,7 +99,7 @@ std::string numbersNow(NumbersNow numbers, const std::string &printer) {
   case NumbersNow::Defaults:
     return text("The offsets are now the defaults of \"{1}\".").with(printer);
   case NumbersNow::Remembered:
-    return text("The settings of the last job on \"{1}\" are back.").with(printer);
+    return text("The printer options and offsets of the last job on \"{1}\" are back.").with(printer);
   default:
     return {};
   }

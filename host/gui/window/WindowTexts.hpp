@@ -63,7 +63,8 @@ extern const Text kCancelJob;
 extern const Text kStateUnknown;
 /// What the panel made of a number that was typed; empty if it is the same, or if the user has only
 /// begun.
-std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd);
+std::string numberChange(const std::string &typed, const std::string &shown, bool isEnd,
+                         bool isOffset);
 /// What became of the offsets after a change of the printer; empty if nothing did.
 std::string otherThanLastPrinter(const std::string &missing, const std::string &printer);
 std::string numbersNow(NumbersNow numbers, const std::string &printer);

@@ -63,7 +63,7 @@ TEST_P(GtkApplication, PagesPerSheetAreAppliedOnce) {
     PrintWindow dialog = window();
     EXPECT_EQ(dialog.field("Copies:"), "2");
     dialog.choose("Settings:", "More");
-    dialog.choose("Pages per sheet:", "4");
+    dialog.choose("Pages per side:", "4");
     dialog.enter("Copies:", "1");
     dialog.press("Return");
   }

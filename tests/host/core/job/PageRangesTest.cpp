@@ -50,6 +50,8 @@ TEST(PageRanges, AreParsedAsUsersWriteThem) {
       {"1\xE2\x80\x93"
        "3",
        "1-3", "1-3"},
+      {"3\u301C6", "3-6", "3-6"},
+      {"3\uFF5E6, 8~", "3-6, 8-", "3-6,8-"},
       {"\xEF\xBC\x91\xEF\xBC\x8D\xEF\xBC\x93\xE3\x80\x81\xEF\xBC\x97", "1-3, 7", "1-3,7"},
   };
   for (const auto &row : rows) {
@@ -125,6 +127,17 @@ TEST(PageChoice, AnInvalidOptionCountsAsAllPages) {
   job.set("page-set", "x");
   EXPECT_FALSE(readPageChoice(job).ranges);
   EXPECT_EQ(readPageChoice(job).set, PageSet::All);
+}
+
+TEST(PageRanges, OfSidesTellThePagesOnThem) {
+  const struct {
+    const char *sides;
+    int perSide;
+    const char *pages;
+  } rows[] = {{"3-6", 2, "5-10"}, {"2-3", 2, "3-6"}, {"1,5", 2, "1-2, 9-10"}, {"3-", 4, "9-10"},
+              {"6", 2, ""},       {"1-99", 4, "1-10"}, {"2147483646", 16, ""}};
+  for (const auto &row : rows)
+    EXPECT_EQ(PageRanges::parse(row.sides).pagesOnSides(row.perSide, 10), row.pages) << row.sides;
 }
 
 TEST(PageRanges, AreComparedWithThePagesOfADocument) {

@@ -202,7 +202,7 @@ TEST_F(JobSettingsTest, TheSummaryHasThemInTheUsersWords) {
   settings().choose("job-sheets-last", "house");
   const SummarySection section = settings().section();
   ASSERT_EQ(section.lines.size(), 2U);
-  EXPECT_EQ(section.lines[0].title, "Pages per sheet");
+  EXPECT_EQ(section.lines[0].title, "Pages per side");
   EXPECT_EQ(section.lines[0].value, "2  (usually 1)");
   EXPECT_TRUE(section.lines[0].differs);
   EXPECT_EQ(section.lines[1].value, "house  (usually None)");

@@ -35,6 +35,9 @@ TEST(UnknownValues, NameTheOptionTheValueAndSomeThatExist) {
   EXPECT_THAT(unknown("orientation-requested", "7"), ElementsAre(HasSubstr("3, 4, 5, 6.")));
   EXPECT_THAT(unknown("job-hold-until", "tomorrow"), ElementsAre(HasSubstr("evening")));
   EXPECT_THAT(unknown("job-priority", "0"), ElementsAre(HasSubstr("30, 50")));
+  EXPECT_THAT(unknown("sides", "two-sided-log-edge"), ElementsAre(HasSubstr("two-sided-long-edge")));
+  EXPECT_THAT(unknown("page-set", "ood"), ElementsAre(HasSubstr("all, even, odd")));
+  EXPECT_THAT(unknown("media", "A4,A44"), ElementsAre(HasSubstr("\"A44\"")));
 }
 
 TEST(UnknownValues, AreNotThoseThatHaveAnEffect) {
@@ -42,8 +45,10 @@ TEST(UnknownValues, AreNotThoseThatHaveAnEffect) {
       {"Duplex", "duplextumble"},     {"number-up", "16"},       {"print-scaling", "auto-fit"},
       {"booklet", "shuffle-only"},    {"booklet", "on"},         {"outputorder", "Reverse"},
       {"job-hold-until", "16:30"},    {"job-priority", "77"},    {"PageSize", "Custom.100x200mm"},
-      {"LeftRightMargin", "7"},       {"Watermark", "Custom.x"}, {"media", "anything"},
-      {"com.example.panel", "whole"}, {"job-sheets", "house"},   {"Stapler", "true"}};
+      {"LeftRightMargin", "7"},       {"Watermark", "Custom.x"}, {"media", "A4,upper"},
+      {"com.example.panel", "whole"}, {"job-sheets", "house"},   {"Stapler", "true"},
+      {"sides", "one-sided"},         {"page-set", "odd"},       {"media", "iso_a5_148x210mm"},
+      {"media", "Custom.100x200mm"},  {"print-quality", "5"},    {"print-color-mode", "color"}};
   for (const auto &[name, value] : rows)
     EXPECT_THAT(unknown(name, value), IsEmpty()) << name << "=" << value;
 }

@@ -7,6 +7,7 @@ namespace {
 using imageposition::asciiNumber;
 using imageposition::isSameNumber;
 using imageposition::isWholeNumber;
+using imageposition::tenthsIn;
 using imageposition::withAsciiDigits;
 
 TEST(NumberText, SignsDigitsAndBlanksOfAllScriptsBecomeAscii) {
@@ -54,6 +55,15 @@ TEST(NumberText, AWholeNumberIsDigitsAfterAtMostOneSign) {
     EXPECT_TRUE(isWholeNumber(number)) << number;
   for (const char *const other : {"", "-", "+", "--3", "1.5", "1 5", " 1", "a", "\uFF11"})
     EXPECT_FALSE(isWholeNumber(other)) << other;
+}
+
+TEST(NumberText, ANumberWithOneDecimalDigitHasTenths) {
+  const std::pair<const char *, const char *> rows[] = {
+      {"1.5", "15"}, {"-0.3", "-3"}, {"+2,5", "25"}, {"10.0", "100"}, {"1\uFF0E5", "15"}};
+  for (const auto &[typed, tenths] : rows)
+    EXPECT_EQ(tenthsIn(typed), tenths) << typed;
+  for (const char *const other : {"15", "1.55", ".5", "1.", "a.5", "1.a", "99999.5", "", "1.5 mm"})
+    EXPECT_FALSE(tenthsIn(other)) << other;
 }
 
 TEST(NumberText, ZerosInFrontAndAPlusSignDoNotMakeAnotherNumber) {

@@ -78,7 +78,7 @@ TEST_F(MoreSettings, AreReachedAndChosenWithTheKeyboard) {
   EXPECT_EQ(shown(window, "Orientation:", "Landscape"), "Landscape");
   press(window, "Tab", 2);
   window.press("Down");
-  EXPECT_EQ(shown(window, "Pages per sheet:", "2"), "2") << "the focus stays where it is";
+  EXPECT_EQ(shown(window, "Pages per side:", "2"), "2") << "the focus stays where it is";
   EXPECT_EQ(shown(window, "Settings:", "More (2 changed)"), "More (2 changed)");
   window.press("Tab"); // the order of pages can be chosen now
   window.press("Down");
@@ -97,7 +97,7 @@ TEST_F(MoreSettings, ABookletIsPrintedOnBothSidesAndSaysSo) {
   window.choose("Booklet:", "On");
   EXPECT_TRUE(window.says("\"Two-Sided\" is now \"Short Edge\", because a booklet needs it."));
   EXPECT_EQ(shown(window, "Two-sided:", "Short Edge"), "Short Edge");
-  EXPECT_FALSE(isEnabled(window, "Pages per sheet:"));
+  EXPECT_FALSE(isEnabled(window, "Pages per side:"));
   window.click("Print");
   const PrintedJob job = printed(jobOf(window.ended()));
   EXPECT_THAT(job.options,
@@ -159,7 +159,7 @@ TEST_F(MoreSettings, CancelledQuestionsChangeNothing) {
 TEST_F(MoreSettings, OfTheCommandLineAreShownAndKept) {
   PrintWindow window(onOffice({"-o", "number-up=16 landscape", "-o", "fit-to-page", "-q", "77"}));
   window.choose("Settings:", "More (4 changed)");
-  EXPECT_EQ(shown(window, "Pages per sheet:", "16"), "16");
+  EXPECT_EQ(shown(window, "Pages per side:", "16"), "16");
   EXPECT_EQ(shown(window, "Orientation:", "Landscape"), "Landscape");
   EXPECT_EQ(shown(window, "Scaling:", "Fit to page"), "Fit to page");
   window.choose("Orientation:", "As in the document");
@@ -174,10 +174,10 @@ TEST_F(MoreSettings, ADefaultOfTheQueueIsTheDefault) {
            "job-sheets-default=none,standard"});
   PrintWindow window(withoutPanelOn("office"));
   window.choose("Settings:", "More");
-  ASSERT_EQ(shown(window, "Pages per sheet:", "2"), "2");
+  ASSERT_EQ(shown(window, "Pages per side:", "2"), "2");
   EXPECT_EQ(shown(window, "Cover page after:", "Standard"), "Standard");
   EXPECT_EQ(shown(window, "Settings:", "More"), "More") << "nothing is changed";
-  window.choose("Pages per sheet:", "1");
+  window.choose("Pages per side:", "1");
   EXPECT_EQ(shown(window, "Settings:", "More (1 changed)"), "More (1 changed)");
   window.click("Print");
   EXPECT_EQ(cups().jobAttribute(jobOf(window.ended()), "number-up"), "1");
@@ -187,7 +187,7 @@ TEST_F(MoreSettings, AreKeptInPresetsButNotForTheNextJob) {
   const Words state{"XDG_STATE_HOME=" + folder.path("state")};
   PrintWindow window(withoutPanelOn("office"), state);
   window.choose("Settings:", "More");
-  window.choose("Pages per sheet:", "4");
+  window.choose("Pages per side:", "4");
   scrollTo(window, "Cover page before:", 10); // the order of pages takes the focus, too
   window.choose("Cover page before:", "Standard");
   window.choose("Preset:", "Save as preset");
@@ -200,12 +200,12 @@ TEST_F(MoreSettings, AreKeptInPresetsButNotForTheNextJob) {
   jobOf(window.ended());
   PrintWindow again(withoutPanelOn("office"), state);
   again.choose("Settings:", "More (1 changed)");
-  EXPECT_EQ(shown(again, "Pages per sheet:", "1"), "1");
+  EXPECT_EQ(shown(again, "Pages per side:", "1"), "1");
   EXPECT_EQ(shown(again, "Cover page before:", "Standard"), "Standard");
   again.choose("Preset:", "four");
-  EXPECT_EQ(shown(again, "Pages per sheet:", "4"), "4");
+  EXPECT_EQ(shown(again, "Pages per side:", "4"), "4");
   again.choose("Preset:", "None");
-  EXPECT_EQ(shown(again, "Pages per sheet:", "1"), "1");
+  EXPECT_EQ(shown(again, "Pages per side:", "1"), "1");
   again.click("Cancel");
   EXPECT_EQ(again.ended().status, 1);
 }

@@ -151,6 +151,34 @@ TEST_F(LpHabits, ADryRunFailsForADocumentThatCannotBeMoved) {
                 "damaged.pdf");
 }
 
+TEST_F(LpHabits, PagesThatTheDocumentLacksAreRefused) {
+  for (const char *offset : {"LeftRightMargin=0", "LeftRightMargin=5"}) {
+    expectRefused(print("plain", {"-o", offset, "-P", "20-30", document}), kUsage,
+                  "The document has 2 pages.");
+    expectRefused(print("plain", {"-o", offset, "-P", "2", "-o", "number-up=2", document}), kUsage,
+                  "fills 1 side.");
+  }
+}
+
+TEST_F(LpHabits, ADryRunTellsThatThePrinterWouldNotPrint) {
+  cups->run({"cupsdisable", "-r", "Out for lunch", "plain"});
+  const auto stopped = print("plain", {"--dry-run", document});
+  EXPECT_EQ(stopped.status, kDone);
+  EXPECT_THAT(stopped.errors, HasSubstr("would not print now: Paused \u00B7 Out for lunch"));
+  const auto sent = print("plain", {document});
+  EXPECT_THAT(sent.errors, HasSubstr("Its state: Paused \u00B7 Out for lunch"));
+  cups->run({"cupsenable", "plain"});
+  cups->run({"cupsreject", "plain"});
+  EXPECT_THAT(print("plain", {"--dry-run", document}).errors, HasSubstr("Not accepting jobs"));
+  cups->run({"cupsaccept", "plain"});
+}
+
+TEST_F(LpHabits, APdfFileDoesNotReplaceItsDocument) {
+  const std::string own = folder.write("own.pdf", contentOf(document));
+  expectRefused(print("plain", {"--pdf", own, own}), kUsage, "is the document itself");
+  EXPECT_EQ(contentOf(own), contentOf(document));
+}
+
 TEST_F(LpHabits, StandardInputIsPrinted) {
   for (const char *command :
        {"cat \"$1\" | \"$0\" --batch -d office", "cat \"$1\" | \"$0\" --batch -d office -",
