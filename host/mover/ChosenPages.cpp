@@ -98,7 +98,8 @@ private:
   std::vector<QPDFObjectHandle> pages_;
 };
 
-/// QPDF reads all pages of the tree before it copies an object, and copies what a catalogue leads to.
+/// QPDF reads all pages of the tree before it copies an object, and copies what a catalogue leads
+/// to.
 void keepOnly(QPDF &pdf, const std::vector<QPDFObjectHandle> &pages) {
   QPDFObjectHandle root = rootOf(pdf);
   for (const char *const name : kInherited)

@@ -17,8 +17,7 @@ namespace {
 
 /// Commas and hyphens as other keyboard layouts and users write them.
 constexpr std::pair<std::string_view, char> kSigns[] = {
-    {"\uFF0C", ','}, {"\u3001", ','}, {";", ','},
-    {"\u301C", '-'}, {"\uFF5E", '-'}, {"~", '-'},
+    {"\uFF0C", ','}, {"\u3001", ','}, {";", ','}, {"\u301C", '-'}, {"\uFF5E", '-'}, {"~", '-'},
 };
 
 std::string plainText(std::string_view text) {

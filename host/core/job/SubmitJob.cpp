@@ -340,7 +340,8 @@ std::string Submission::note() const {
   const auto remarks = printerRemarks(connection_->http());
   const auto found = remarks.find(printer.name);
   const std::string remark = found != remarks.end() ? found->second.text : "";
-  return messages::waitsForPrinter(request_.printer, messages::besides({printer.stateText, remark}));
+  return messages::waitsForPrinter(request_.printer,
+                                   messages::besides({printer.stateText, remark}));
 }
 
 /// Removes a job that failed. Throws another failure if the message must say what became of the

@@ -78,9 +78,10 @@ bool isMedia(ppd_file_t *ppd, const std::string &name) {
   const auto isChoice = [&](const char *option) {
     return ppdFindChoice(ppdFindOption(ppd, option), name.c_str()) != nullptr;
   };
-  return hasCustomPrefix(name) || isChoice("PageSize") || isChoice("InputSlot") || isChoice("MediaType") ||
-         contains(kTrays, name) || pwgMediaForPWG(name.c_str()) != nullptr ||
-         pwgMediaForLegacy(name.c_str()) != nullptr || pwgMediaForPPD(name.c_str()) != nullptr;
+  return hasCustomPrefix(name) || isChoice("PageSize") || isChoice("InputSlot") ||
+         isChoice("MediaType") || contains(kTrays, name) ||
+         pwgMediaForPWG(name.c_str()) != nullptr || pwgMediaForLegacy(name.c_str()) != nullptr ||
+         pwgMediaForPPD(name.c_str()) != nullptr;
 }
 
 std::string problemOfMedia(ppd_file_t *ppd, const std::string &value) {

@@ -12,10 +12,9 @@ PageInk inkOn(RenderedPage page) {
     const auto green = static_cast<unsigned char>(pixel >> 8);
     const auto blue = static_cast<unsigned char>(pixel);
     const unsigned char paper = std::min({red, green, blue});
-    const unsigned char ink[] = {static_cast<unsigned char>(red - paper),
-                                 static_cast<unsigned char>(green - paper),
-                                 static_cast<unsigned char>(blue - paper),
-                                 static_cast<unsigned char>(255 - paper)};
+    const unsigned char ink[] = {
+        static_cast<unsigned char>(red - paper), static_cast<unsigned char>(green - paper),
+        static_cast<unsigned char>(blue - paper), static_cast<unsigned char>(255 - paper)};
     std::memcpy(&pixel, ink, sizeof pixel);
   }
   return {page.width, page.height, page.pageWidth, page.pageHeight, std::move(page.pixels)};

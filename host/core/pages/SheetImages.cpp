@@ -200,8 +200,8 @@ SheetImages::State SheetImages::state() const noexcept {
   if (order_.sheets() == 0)
     return document_->pages ? State::None : State::Loading; // the page ranges have no page
   const std::vector<int> needed = neededSides(sheet_);
-  const bool isComplete = std::all_of(needed.begin(), needed.end(),
-                                      [this](int side) { return isFetched(side); });
+  const bool isComplete =
+      std::all_of(needed.begin(), needed.end(), [this](int side) { return isFetched(side); });
   return isComplete ? State::Shown : State::Loading;
 }
 

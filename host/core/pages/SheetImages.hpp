@@ -88,9 +88,7 @@ private:
   SheetSides sides() const { return order_.sheet(sheet_); }
   std::vector<int> neededSides(int sheet) const;
   Image imageOf(const std::optional<int> &side) const;
-  bool isFetched(const std::optional<int> &side) const {
-    return !side || images_.count(*side) > 0;
-  }
+  bool isFetched(const std::optional<int> &side) const { return !side || images_.count(*side) > 0; }
   std::vector<int> missingSides(int sheet) const;
   bool covers(int sheet) const;
   void dropDistantImages();

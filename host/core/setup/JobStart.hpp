@@ -31,9 +31,9 @@ public:
   /// Call once: the job begins with these settings, `measured` offsets among them.
   void begin(const PrintSettingsStore &settings, const std::optional<SideOffsets> &measured);
 
-  /// Call after the printer was replaced. Settings that are as they were at the start are left to the
-  /// printer: what its default preset, or the last job on it, has replaces what those of the printer
-  /// before had. Returns whether that has set any.
+  /// Call after the printer was replaced. Settings that are as they were at the start are left to
+  /// the printer: what its default preset, or the last job on it, has replaces what those of the
+  /// printer before had. Returns whether that has set any.
   bool takeHistory(PrintSettingsStore &settings);
   /// Counts the option as not set at the start.
   void forget(const char *option) { atStart_.remove(option); }

@@ -61,9 +61,9 @@ void PageImage::draw(const PixelRectangle &place, double opacity) const {
 
 bool SheetPainter::take(const std::optional<SheetSideImages> &sides) {
   if (sides.has_value() == sides_.has_value() &&
-      (!sides || (sides->front == sides_->front && sides->back == sides_->back &&
-                  sides->isFrontThere == sides_->isFrontThere &&
-                  sides->isBackThere == sides_->isBackThere)))
+      (!sides ||
+       (sides->front == sides_->front && sides->back == sides_->back &&
+        sides->isFrontThere == sides_->isFrontThere && sides->isBackThere == sides_->isBackThere)))
     return false;
   sides_ = sides;
   pages_.reset();
@@ -83,8 +83,7 @@ const SheetPages *SheetPainter::pages(const Preview &preview) {
                            : nullptr;
   };
   pages_ = {image(sides_->front, false, false), image(sides_->back, false, false),
-            image(sides_->front, isFlipped, !isFlipped), sides_->isFrontThere,
-            sides_->isBackThere};
+            image(sides_->front, isFlipped, !isFlipped), sides_->isFrontThere, sides_->isBackThere};
   return &*pages_;
 }
 

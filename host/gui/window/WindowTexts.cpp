@@ -99,7 +99,8 @@ std::string numbersNow(NumbersNow numbers, const std::string &printer) {
   case NumbersNow::Defaults:
     return text("The offsets are now the defaults of \"{1}\".").with(printer);
   case NumbersNow::Remembered:
-    return text("The printer options and offsets of the last job on \"{1}\" are back.").with(printer);
+    return text("The printer options and offsets of the last job on \"{1}\" are back.")
+        .with(printer);
   default:
     return {};
   }

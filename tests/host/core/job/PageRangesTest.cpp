@@ -134,7 +134,7 @@ TEST(PageRanges, OfSidesTellThePagesOnThem) {
     const char *sides;
     int perSide;
     const char *pages;
-  } rows[] = {{"3-6", 2, "5-10"}, {"2-3", 2, "3-6"}, {"1,5", 2, "1-2, 9-10"}, {"3-", 4, "9-10"},
+  } rows[] = {{"3-6", 2, "5-10"}, {"2-3", 2, "3-6"},   {"1,5", 2, "1-2, 9-10"}, {"3-", 4, "9-10"},
               {"6", 2, ""},       {"1-99", 4, "1-10"}, {"2147483646", 16, ""}};
   for (const auto &row : rows)
     EXPECT_EQ(PageRanges::parse(row.sides).pagesOnSides(row.perSide, 10), row.pages) << row.sides;

@@ -35,7 +35,8 @@ TEST(UnknownValues, NameTheOptionTheValueAndSomeThatExist) {
   EXPECT_THAT(unknown("orientation-requested", "7"), ElementsAre(HasSubstr("3, 4, 5, 6.")));
   EXPECT_THAT(unknown("job-hold-until", "tomorrow"), ElementsAre(HasSubstr("evening")));
   EXPECT_THAT(unknown("job-priority", "0"), ElementsAre(HasSubstr("30, 50")));
-  EXPECT_THAT(unknown("sides", "two-sided-log-edge"), ElementsAre(HasSubstr("two-sided-long-edge")));
+  EXPECT_THAT(unknown("sides", "two-sided-log-edge"),
+              ElementsAre(HasSubstr("two-sided-long-edge")));
   EXPECT_THAT(unknown("page-set", "ood"), ElementsAre(HasSubstr("all, even, odd")));
   EXPECT_THAT(unknown("media", "A4,A44"), ElementsAre(HasSubstr("\"A44\"")));
 }

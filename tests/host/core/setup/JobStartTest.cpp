@@ -100,7 +100,8 @@ TEST_F(JobStarts, TakeTheHistoryOfAnotherPrinterWhereNothingWasSet) {
 }
 
 TEST_F(JobStarts, LeaveToAPrinterWhatOnlyItsOwnHistoryHad) {
-  history_.setSettings("office", settingsOf({{"MediaType", "Transparency"}, {"Watermark", "Draft"}}));
+  history_.setSettings("office",
+                       settingsOf({{"MediaType", "Transparency"}, {"Watermark", "Draft"}}));
   history_.setSettings("attic", settingsOf({{"Duplex", "DuplexTumble"}}));
   start();
   job_.set("Watermark", "Secret");
