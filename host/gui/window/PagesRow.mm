@@ -95,9 +95,9 @@ constexpr CGFloat kPagesWidth = 130;
   const std::string printed = choice.ranges && choice.set == PageSet::All && perSide > 1
                                   ? choice.ranges->pagesOnSides(perSide, pagesOfAll)
                                   : "";
-  const std::string counted = perSide <= 1      ? ""
-                              : printed.empty() ? messages::sidesAreChosen(perSide)
-                                                : messages::sidesAreChosen(perSide, printed);
+  std::string counted = perSide <= 1      ? ""
+                        : printed.empty() ? messages::sidesAreChosen(perSide)
+                                          : messages::sidesAreChosen(perSide, printed);
   const int sides = perSide > 0 ? (pagesOfAll + perSide - 1) / perSide : 0;
   if (!choice.ranges || sides == 0 || !choice.ranges->namesPagesBeyond(sides))
     return counted;
