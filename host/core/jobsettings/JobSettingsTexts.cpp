@@ -29,7 +29,7 @@ const Text kScalingAutomatic = textIn("scaling", "Automatic");
 const Text kActualSize = textIn("scaling", "Actual size");
 const Text kFitToPage = textIn("scaling", "Fit to page");
 const Text kFillPage = textIn("scaling", "Fill the page");
-const Text kPagesPerSheet = text("Pages per side");
+const Text kPagesPerSide = text("Pages per side");
 // Translators: how several pages are placed on one side of a sheet.
 const Text kPageOrder = text("Order of pages");
 const Text kRightThenDown = textIn("order of pages", "Right, then down");

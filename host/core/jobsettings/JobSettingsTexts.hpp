@@ -18,7 +18,7 @@ extern const Text kLayoutGroup;
 extern const Text kOrientation, kOrientationOfDocument, kPortrait, kLandscape, kReverseLandscape,
     kReversePortrait;
 extern const Text kScaling, kScalingAutomatic, kActualSize, kFitToPage, kFillPage;
-extern const Text kPagesPerSheet;
+extern const Text kPagesPerSide;
 extern const Text kPageOrder, kRightThenDown, kDownThenRight, kLeftThenDown, kDownThenLeft,
     kRightThenUp, kUpThenRight, kLeftThenUp, kUpThenLeft;
 extern const Text kBorder, kNoBorder, kThinLine, kThickLine, kTwoThinLines, kTwoThickLines;

@@ -86,7 +86,7 @@ std::vector<JobSetting> layoutSettings() {
        {"auto-fit"},
        {"fit-to-page", "fitplot", "fill"}},
       {"number-up",
-       messages::kPagesPerSheet,
+       messages::kPagesPerSide,
        Group::Layout,
        "1",
        {{"1", {}}, {"2", {}}, {"4", {}}, {"6", {}}, {"9", {}}, {"16", {}}},

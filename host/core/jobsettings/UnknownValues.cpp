@@ -72,16 +72,17 @@ const std::map<std::string, std::vector<std::string>> &translatedOptions() {
   return kOptions;
 }
 
-/// `name` is one of the words in the value of `media`.
+/// `name` is one of the words in the value of `media`. Trays and types of paper may have names by
+/// IPP, such as "tray-1" and "stationery", which libcups keeps to itself.
 bool isMedia(ppd_file_t *ppd, const std::string &name) {
-  static const std::vector<std::string> kTrays{"upper", "lower", "multipurpose", "largecapacity"};
+  const bool isKeyword =
+      name.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789-") == std::string::npos;
   const auto isChoice = [&](const char *option) {
     return ppdFindChoice(ppdFindOption(ppd, option), name.c_str()) != nullptr;
   };
-  return hasCustomPrefix(name) || isChoice("PageSize") || isChoice("InputSlot") ||
-         isChoice("MediaType") || contains(kTrays, name) ||
-         pwgMediaForPWG(name.c_str()) != nullptr || pwgMediaForLegacy(name.c_str()) != nullptr ||
-         pwgMediaForPPD(name.c_str()) != nullptr;
+  return isKeyword || hasCustomPrefix(name) || isChoice("PageSize") || isChoice("InputSlot") ||
+         isChoice("MediaType") || pwgMediaForPWG(name.c_str()) != nullptr ||
+         pwgMediaForLegacy(name.c_str()) != nullptr || pwgMediaForPPD(name.c_str()) != nullptr;
 }
 
 std::string problemOfMedia(ppd_file_t *ppd, const std::string &value) {

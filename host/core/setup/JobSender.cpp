@@ -74,7 +74,8 @@ void JobSender::warn(const PrintedContent &content, bool isShifted) const {
     if (document == "-" || (isShifted && !choice.ranges))
       continue;
     const DocumentReport report = examined(document);
-    if (report.facts && pagesPerSide > 0)
+    const bool isAlone = content.documents.size() == 1; // others may have the pages
+    if (report.facts && isAlone && pagesPerSide > 0)
       requirePages(*report.facts, choice, pagesPerSide);
     if (report.defect && !isShifted && !arguments_.isSilent)
       std::cerr << messages::printsNothing(documentName(document), *report.defect) << '\n';

@@ -46,7 +46,7 @@ TEST(UnknownValues, AreNotThoseThatHaveAnEffect) {
       {"Duplex", "duplextumble"},     {"number-up", "16"},       {"print-scaling", "auto-fit"},
       {"booklet", "shuffle-only"},    {"booklet", "on"},         {"outputorder", "Reverse"},
       {"job-hold-until", "16:30"},    {"job-priority", "77"},    {"PageSize", "Custom.100x200mm"},
-      {"LeftRightMargin", "7"},       {"Watermark", "Custom.x"}, {"media", "A4,upper"},
+      {"LeftRightMargin", "7"},       {"Watermark", "Custom.x"}, {"media", "A4,tray-1"},
       {"com.example.panel", "whole"}, {"job-sheets", "house"},   {"Stapler", "true"},
       {"sides", "one-sided"},         {"page-set", "odd"},       {"media", "iso_a5_148x210mm"},
       {"media", "Custom.100x200mm"},  {"print-quality", "5"},    {"print-color-mode", "color"}};
